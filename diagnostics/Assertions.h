@@ -1,0 +1,18 @@
+#pragma once
+
+#include "diagnostics/Logger.h"
+
+namespace fieldcal {
+
+/// Prints "ASSERT failure in function: message [condition] (file:line)" to standard error and aborts.
+[[noreturn]] void assertFailure(const char* function, const char* file, int line, const char* condition,
+                                const char* format, ...) FIELDCAL_PRINTF(5, 6);
+
+/// Prints "FATAL failure: message" to standard error and ends the process with `status`.
+[[noreturn]] void fatalFailure(const char* message, int status);
+
+}  // namespace fieldcal
+
+/// For what a caller must guarantee; never for what hardware or files can do.
+#define FIELDCAL_ASSERT(condition, ...) \
+    ((condition) ? void(0) : ::fieldcal::assertFailure(__func__, __FILE__, __LINE__, #condition, __VA_ARGS__))

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace kxapi {
+
+/// The operating system's loader. One implementation per system.
+/// Opens the library `name` ("KXAPI") in the program's own folder, else by the system's search. Null and `why` on
+/// failure.
+void* openSharedLibrary(const char* name, std::string* why);
+void closeSharedLibrary(void* handle);
+void* findSymbol(void* handle, const char* name);
+
+}  // namespace kxapi

@@ -1,0 +1,38 @@
+#include "kxapi/SharedLibrary.h"
+
+#include <dlfcn.h>
+#include <unistd.h>
+
+#include <climits>
+
+namespace kxapi {
+namespace {
+
+std::string programFolder() {
+    char path[PATH_MAX];
+    const ssize_t length = readlink("/proc/self/exe", path, sizeof(path));
+    if (length <= 0) return {};
+    const std::string full(path, static_cast<std::size_t>(length));
+    return full.substr(0, full.rfind('/') + 1);
+}
+
+}  // namespace
+
+void* openSharedLibrary(const char* name, std::string* why) {
+    const std::string file = std::string("lib") + name + ".so";
+    const std::string own = programFolder() + file;
+    // A library that is there but broken must be reported as such, not hidden behind "not found".
+    const bool ownExists = access(own.c_str(), F_OK) == 0;
+    void* handle = dlopen(ownExists ? own.c_str() : file.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (handle == nullptr) {
+        const char* text = dlerror();
+        *why = text != nullptr ? text : "the library could not be loaded";
+    }
+    return handle;
+}
+
+void closeSharedLibrary(void* handle) { dlclose(handle); }
+
+void* findSymbol(void* handle, const char* name) { return dlsym(handle, name); }
+
+}  // namespace kxapi

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "camera/ImageFrame.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace fieldcal::session {
+
+/// Intrinsics as the session file holds them: 64 bit, pixels. See docs/conventions.md for the principal point.
+struct Intrinsics {
+    int width = 0;
+    int height = 0;
+    double fx = 0, fy = 0, cx = 0, cy = 0;
+};
+
+struct RawIntrinsics : Intrinsics {
+    double k1 = 0, k2 = 0, p1 = 0, p2 = 0, k3 = 0;
+};
+
+using Matrix3 = std::array<double, 9>;  ///< row-major
+using Vector3 = std::array<double, 3>;  ///< millimetres
+
+struct ModuleInfo {
+    std::uint32_t serial = 0;
+    std::string firmware;
+    std::string software;
+    bool calibrationValid = true;
+};
+
+struct ThirdCamera : Intrinsics {
+    Matrix3 rotation{};     ///< depth to third, as in the module's flash
+    Vector3 translation{};  ///< millimetres
+};
+
+struct PlatformCamera {
+    std::string name;
+    RawIntrinsics raw;
+    Intrinsics rectified;
+    Matrix3 rectification{};  ///< X_rectified = rectification · X_raw
+    Matrix3 rotation{};       ///< depth to rectified platform camera
+    Vector3 translation{};    ///< millimetres
+};
+
+/// File names relative to the session's folder. `depth` and `platform` are empty when the frame has none.
+struct FrameEntry {
+    std::string infrared;
+    std::string third;
+    std::string depth;
+    std::string platform;
+    int repeat = 1;  ///< grabs that deliver this frame, at least 1
+};
+
+/// The contents of session.json, version 1.
+struct SessionDescription {
+    ModuleInfo module;
+    Intrinsics infrared;
+    Intrinsics depth;
+    ThirdCamera third;
+    std::optional<PlatformCamera> platform;
+    std::vector<FrameEntry> frames;
+    std::optional<Matrix3> truthThird;     ///< for judging only
+    std::optional<Matrix3> truthPlatform;  ///< for judging only
+
+    /// Grabs from the first frame to the last: the sum of the repeats.
+    int grabCount() const;
+};
+
+/// The pictures of one frame, decoded.
+struct FramePictures {
+    ImageFrame16 infrared;
+    ImageFrame16 depth;                  ///< empty when the frame has none
+    ImageFrame32 third;                  ///< raw module picture, *BGRA* in storage order, alpha 255
+    std::vector<std::uint8_t> platform;  ///< NV12, 1280 x 720, unrectified; empty when the frame has none
+};
+
+/// Reads and checks session.json. On failure false, and `why` names the file, the key and the reason in one line.
+bool readDescription(const std::string& folder, SessionDescription* out, std::string* why);
+
+/// Reads and checks the pictures of one frame. On failure false, and `why` names the file and the reason.
+bool readPictures(const std::string& folder, const SessionDescription& session, std::size_t frameIndex,
+                  FramePictures* out, std::string* why);
+
+/// Reads and checks everything: the description and every picture.
+bool verify(const std::string& folder, std::string* why);
+
+/// Writes one frame's pictures under the names of `entry` (PNG, or raw bytes for a platform name ending in .nv12).
+bool writePictures(const std::string& folder, const FrameEntry& entry, const FramePictures& pictures,
+                   std::string* why);
+
+/// Writes session.json; the folder is created. Numbers keep their full precision.
+bool writeDescription(const std::string& folder, const SessionDescription& session, std::string* why);
+
+}  // namespace fieldcal::session
