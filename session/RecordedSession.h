@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+/// Recorded sessions. Folder names are UTF-8. Reading fails with false and `why`, one line "file: key: reason"
+/// (without the key where a file as a whole is meant). Outputs are valid after success only. Any thread.
 namespace fieldcal::session {
 
 /// Intrinsics as the session file holds them: 64 bit, pixels. See docs/conventions.md for the principal point.
@@ -36,6 +38,10 @@ struct ThirdCamera : Intrinsics {
     Vector3 translation{};  ///< millimetres
 };
 
+/// The rear camera's pictures, raw and rectified, are always 1280 x 720.
+inline constexpr int kPlatformWidth = 1280;
+inline constexpr int kPlatformHeight = 720;
+
 struct PlatformCamera {
     std::string name;
     RawIntrinsics raw;
@@ -51,7 +57,7 @@ struct FrameEntry {
     std::string third;
     std::string depth;
     std::string platform;
-    int repeat = 1;  ///< grabs that deliver this frame, at least 1
+    int repeat = 1;  ///< grabs that deliver this frame, 1 to 1,000,000
 };
 
 /// The contents of session.json, version 1.
@@ -65,7 +71,7 @@ struct SessionDescription {
     std::optional<Matrix3> truthThird;     ///< for judging only
     std::optional<Matrix3> truthPlatform;  ///< for judging only
 
-    /// Grabs from the first frame to the last: the sum of the repeats.
+    /// Grabs from the first frame to the last: the sum of the repeats, at most 1,000,000,000 after reading.
     int grabCount() const;
 };
 
@@ -77,21 +83,27 @@ struct FramePictures {
     std::vector<std::uint8_t> platform;  ///< NV12, 1280 x 720, unrectified; empty when the frame has none
 };
 
-/// Reads and checks session.json. On failure false, and `why` names the file, the key and the reason in one line.
+/// Reads and checks session.json, not the pictures.
 bool readDescription(const std::string& folder, SessionDescription* out, std::string* why);
 
-/// Reads and checks the pictures of one frame. On failure false, and `why` names the file and the reason.
+/// Reads and checks the pictures of one frame.
 bool readPictures(const std::string& folder, const SessionDescription& session, std::size_t frameIndex,
                   FramePictures* out, std::string* why);
+
+/// Checks that every picture file is there, whole and of the right size and kind, without decoding it: what a player
+/// can afford before it starts. Values (infrared above 1023, transparent pixels) are checked by `readPictures` alone.
+bool checkPictureFiles(const std::string& folder, const SessionDescription& session, std::string* why);
 
 /// Reads and checks everything: the description and every picture.
 bool verify(const std::string& folder, std::string* why);
 
-/// Writes one frame's pictures under the names of `entry` (PNG, or raw bytes for a platform name ending in .nv12).
-bool writePictures(const std::string& folder, const FrameEntry& entry, const FramePictures& pictures,
-                   std::string* why);
+/// Writes one frame's pictures under the names of `entry`, which must fit the pictures (PNG, or raw bytes for a
+/// platform name ending in .nv12; the PNG of a platform picture is its RGB, so only .nv12 keeps it bit-exact).
+/// The folder is created.
+bool writePictures(const std::string& folder, const FrameEntry& entry, const FramePictures& pictures, std::string* why);
 
-/// Writes session.json; the folder is created. Numbers keep their full precision.
+/// Writes session.json; the folder is created. Numbers keep their full precision. What reading would refuse is not
+/// written, with the same reason.
 bool writeDescription(const std::string& folder, const SessionDescription& session, std::string* why);
 
 }  // namespace fieldcal::session

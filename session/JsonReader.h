@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QJsonValue>
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace fieldcal::session {
+
+/// The first thing that is wrong with a document, and where.
+struct JsonFault {
+    std::string key;
+    std::string reason;
+    bool found() const { return !reason.empty(); }
+};
+
+/// One value of a JSON document with its key path ("frames[3].infrared"). Every accessor checks type and range; the
+/// first failure is kept in the fault and the accessor returns a harmless value, so that a reader is a plain list of
+/// assignments with one look at the fault at its end.
+class JsonKey {
+public:
+    JsonKey(const QJsonValue& value, JsonFault* fault) : value_(value), fault_(fault) {}
+
+    /// A required key of an object.
+    JsonKey operator[](const char* name) const;
+    /// Whether an object has the key; a fault when this is no object.
+    bool has(const char* name) const;
+    /// The elements of an array.
+    std::vector<JsonKey> elements() const;
+
+    double number(double lowest, double highest) const;
+    /// A whole number.
+    double integer(double lowest, double highest) const;
+    bool boolean() const;
+    std::string text() const;
+    /// Nine numbers, row-major: orthonormal with determinant 1, both within 1e-4.
+    std::array<double, 9> rotation() const;
+    template <std::size_t n>
+    std::array<double, n> numbers(double lowest, double highest) const {
+        std::array<double, n> out{};
+        const std::vector<JsonKey> items = elements();
+        if (items.size() != n) refuse(std::to_string(n) + " numbers expected, not " + std::to_string(items.size()));
+        for (std::size_t i = 0; i < n && items.size() == n; ++i)
+            out[i] = items[i].number(lowest, highest);
+        return out;
+    }
+
+    /// Records a fault of this value, unless one is known already.
+    void refuse(const std::string& reason) const;
+
+private:
+    JsonKey(const QJsonValue& value, JsonFault* fault, std::string path)
+        : value_(value), fault_(fault), path_(std::move(path)) {}
+    bool is(QJsonValue::Type type, const char* expected) const;
+
+    QJsonValue value_;
+    JsonFault* fault_;
+    std::string path_;
+};
+
+}  // namespace fieldcal::session

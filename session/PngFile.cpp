@@ -1,0 +1,137 @@
+#include "session/PngFile.h"
+
+#include "session/PngStructure.h"
+#include "session/Refusal.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImage>
+#include <QImageReader>
+#include <QImageWriter>
+
+#include <cstring>
+
+namespace fieldcal::session {
+namespace {
+
+constexpr qint64 kLargestFile = 256 << 20;
+
+bool refused(std::string* why, const PngExpectation& expected, const std::string& reason) {
+    return refuse(why, expected.file, expected.key, reason);
+}
+
+std::string sizeText(long long width, long long height) {
+    return std::to_string(width) + " x " + std::to_string(height);
+}
+
+bool kindMatches(const PngHeader& header, PngKind kind) {
+    if (kind == PngKind::Grey16) return header.bitDepth == 16 && header.colourType == kPngGrey;
+    return header.bitDepth == 8 && (header.colourType == kPngRgb || header.colourType == kPngRgba);
+}
+
+bool load(const PngExpectation& expected, QByteArray* bytes, std::string* why) {
+    QFile file(QString::fromStdString(expected.file));
+    if (!file.open(QIODevice::ReadOnly)) return refused(why, expected, file.errorString().toStdString());
+    if (file.size() > kLargestFile) return refused(why, expected, "larger than 256 MiB");
+    *bytes = file.readAll();
+    return true;
+}
+
+bool check(const PngExpectation& expected, const QByteArray& bytes, std::string* why) {
+    PngHeader header;
+    std::string reason;
+    if (!readPngStructure(reinterpret_cast<const std::uint8_t*>(bytes.constData()),
+                          static_cast<std::size_t>(bytes.size()), &header, &reason)) {
+        return refused(why, expected, reason);
+    }
+    if (!kindMatches(header, expected.kind)) {
+        return refused(why, expected,
+                       expected.kind == PngKind::Grey16 ? "not a 16-bit grey picture" : "not an 8-bit RGB picture");
+    }
+    if (header.width != static_cast<std::uint32_t>(expected.width) ||
+        header.height != static_cast<std::uint32_t>(expected.height)) {
+        return refused(why, expected,
+                       "the picture is " + sizeText(header.width, header.height) + ", not " +
+                           sizeText(expected.width, expected.height));
+    }
+    return true;
+}
+
+bool decode(const PngExpectation& expected, QImage* out, std::string* why) {
+    QByteArray bytes;
+    if (!load(expected, &bytes, why) || !check(expected, bytes, why)) return false;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, "png");
+    reader.setAutoTransform(false);
+    *out = reader.read();
+    if (out->isNull()) return refused(why, expected, "damaged picture: " + reader.errorString().toStdString());
+    if (out->width() == expected.width && out->height() == expected.height) return true;
+    return refused(why, expected, "damaged picture: wrong size after decoding");
+}
+
+bool isOpaque(const QImage& argb) {
+    for (int y = 0; y < argb.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(argb.constScanLine(y));
+        for (int x = 0; x < argb.width(); ++x) {
+            if (qAlpha(row[x]) != 255) return false;
+        }
+    }
+    return true;
+}
+
+void copyRows(const QImage& image, ImageFrame* out) {
+    out->resize(static_cast<std::uint32_t>(image.width()), static_cast<std::uint32_t>(image.height()));
+    const std::size_t rowBytes = std::size_t{out->width()} * out->bytesPerPixel();
+    for (int y = 0; y < image.height(); ++y)
+        std::memcpy(out->bytes() + y * rowBytes, image.constScanLine(y), rowBytes);
+}
+
+bool write(const std::string& file, const ImageFrame& picture, QImage::Format format, std::string* why) {
+    if (picture.empty()) return refuse(why, file, {}, "an empty picture cannot be written");
+    QImage image(static_cast<int>(picture.width()), static_cast<int>(picture.height()), format);
+    if (image.isNull()) return refuse(why, file, {}, "out of memory");
+    const std::size_t rowBytes = std::size_t{picture.width()} * picture.bytesPerPixel();
+    for (int y = 0; y < image.height(); ++y)
+        std::memcpy(image.scanLine(y), picture.bytes() + y * rowBytes, rowBytes);
+    QImageWriter writer(QString::fromStdString(file), "png");
+    return writer.write(image) || refuse(why, file, {}, writer.errorString().toStdString());
+}
+
+}  // namespace
+
+bool checkPng(const PngExpectation& expected, std::string* why) {
+    QByteArray bytes;
+    return load(expected, &bytes, why) && check(expected, bytes, why);
+}
+
+bool readGreyPng(const PngExpectation& expected, ImageFrame16* out, std::string* why) {
+    QImage image;
+    if (!decode(expected, &image, why)) return false;
+    // A key colour or another oddity of the file makes the decoder choose another format; nothing is converted here.
+    if (image.format() != QImage::Format_Grayscale16) return refused(why, expected, "not a plain 16-bit grey picture");
+    copyRows(image, out);
+    return true;
+}
+
+bool readColourPng(const PngExpectation& expected, ImageFrame32* out, std::string* why) {
+    QImage image;
+    if (!decode(expected, &image, why)) return false;
+    if (image.format() != QImage::Format_RGB32 && image.format() != QImage::Format_ARGB32) {
+        return refused(why, expected, "not a plain 8-bit RGB picture");
+    }
+    image = image.convertToFormat(QImage::Format_ARGB32);
+    if (!isOpaque(image)) return refused(why, expected, "the picture has transparent pixels");
+    copyRows(image, out);
+    return true;
+}
+
+bool writeGreyPng(const std::string& file, const ImageFrame16& picture, std::string* why) {
+    return write(file, picture, QImage::Format_Grayscale16, why);
+}
+
+bool writeColourPng(const std::string& file, const ImageFrame32& picture, std::string* why) {
+    return write(file, picture, QImage::Format_RGB32, why);
+}
+
+}  // namespace fieldcal::session
