@@ -1,0 +1,10 @@
+# GoogleTest: the installed libraries natively; cross-built from Debian's source package, which has no Windows build.
+if(NOT CMAKE_CROSSCOMPILING)
+    find_package(GTest REQUIRED)
+elseif(EXISTS /usr/src/googletest/CMakeLists.txt)
+    set(INSTALL_GTEST OFF)
+    add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+else()
+    message(STATUS "No GoogleTest sources in /usr/src/googletest: building without tests")
+    set(BUILD_TESTING OFF)
+endif()
