@@ -21,8 +21,8 @@ public:
     virtual bool setAutoFocus(bool on) = 0;
     virtual bool setFocus(std::int32_t value) = 0;
     /// `stream`: 0 preview, 1 record, 2 photo. Only the record stream delivers pictures.
-    virtual bool setupStream(std::int32_t stream, std::int32_t width, std::int32_t height,
-                             std::int32_t framesPerSecond, const char* subtype) = 0;
+    virtual bool setupStream(std::int32_t stream, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond,
+                             const char* subtype) = 0;
     /// Pictures go to `sink` until the next call; null stops them. When it returns, the old sink is not in use.
     virtual void setSink(RearCameraSink* sink) = 0;
 };

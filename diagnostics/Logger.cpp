@@ -12,15 +12,23 @@ constexpr std::size_t kBufferSize = 2048;
 std::atomic<int> currentLevel{2};
 std::atomic<bool> tagging{false};
 
-bool isPrinted(const char* level) { return logLevel() >= (std::strcmp(level, kError) == 0 ? 0 : 2); }
+bool isPrinted(const char* level) {
+    return logLevel() >= (std::strcmp(level, kError) == 0 ? 0 : 2);
+}
 
 }  // namespace
 
-int logLevel() { return currentLevel.load(std::memory_order_relaxed); }
+int logLevel() {
+    return currentLevel.load(std::memory_order_relaxed);
+}
 
-void setLogLevel(int level) { currentLevel.store(level, std::memory_order_relaxed); }
+void setLogLevel(int level) {
+    currentLevel.store(level, std::memory_order_relaxed);
+}
 
-void setLogTagging(bool on) { tagging.store(on, std::memory_order_relaxed); }
+void setLogTagging(bool on) {
+    tagging.store(on, std::memory_order_relaxed);
+}
 
 void logMessage(const char* level, const char* tag, const char* format, ...) {
     if (!isPrinted(level)) return;

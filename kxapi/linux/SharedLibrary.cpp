@@ -1,9 +1,8 @@
 #include "kxapi/SharedLibrary.h"
 
+#include <climits>
 #include <dlfcn.h>
 #include <unistd.h>
-
-#include <climits>
 
 namespace kxapi {
 namespace {
@@ -31,8 +30,12 @@ void* openSharedLibrary(const char* name, std::string* why) {
     return handle;
 }
 
-void closeSharedLibrary(void* handle) { dlclose(handle); }
+void closeSharedLibrary(void* handle) {
+    dlclose(handle);
+}
 
-void* findSymbol(void* handle, const char* name) { return dlsym(handle, name); }
+void* findSymbol(void* handle, const char* name) {
+    return dlsym(handle, name);
+}
 
 }  // namespace kxapi
