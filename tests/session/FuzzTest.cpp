@@ -1,0 +1,120 @@
+#include "session/Description.h"
+#include "session/PngFile.h"
+#include "tests/session/TestSession.h"
+
+#include <QtEndian>
+
+#include <random>
+
+namespace fieldcal::session {
+namespace {
+
+/// Seeded damage: bytes changed, cut out, doubled or cut off, sometimes a piece of the file's own put elsewhere.
+class Damage {
+public:
+    explicit Damage(unsigned seed) : random_(seed) {}
+
+    QByteArray operator()(QByteArray bytes) {
+        for (int i = below(4); i >= 0 && !bytes.isEmpty(); --i)
+            change(&bytes);
+        return bytes;
+    }
+
+private:
+    int below(int bound) { return static_cast<int>(random_() % static_cast<unsigned>(bound)); }
+
+    void change(QByteArray* bytes) {
+        const int at = below(bytes->size());
+        const int length = below(12);
+        switch (below(6)) {
+            case 0:
+                (*bytes)[at] = static_cast<char>(below(256));
+                break;
+            case 1:
+                bytes->remove(at, length);
+                break;
+            case 2:
+                bytes->insert(at, bytes->mid(below(bytes->size()), length));
+                break;
+            case 3:
+                bytes->truncate(at);
+                break;
+            case 4:
+                bytes->replace(at, 1, "9e9");
+                break;
+            default:
+                (*bytes)[at] = static_cast<char>(bytes->at(at) ^ (1 << below(8)));
+        }
+    }
+
+    std::mt19937 random_;
+};
+
+std::uint32_t checksum(const QByteArray& bytes) {
+    std::uint32_t value = 0xFFFFFFFFU;
+    for (const char byte : bytes) {
+        value ^= static_cast<std::uint8_t>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            value = (value >> 1) ^ ((value & 1) != 0 ? 0xEDB88320U : 0);
+    }
+    return ~value;
+}
+
+/// Makes the checksums of a PNG file's chunks right again, as far as the chunks can be followed.
+QByteArray withChecksums(QByteArray bytes) {
+    const auto length = [&](int at) { return qFromBigEndian<quint32>(bytes.constData() + at); };
+    for (int at = 8; at + 12 <= bytes.size() && length(at) <= static_cast<quint32>(bytes.size() - at - 12);) {
+        const int data = static_cast<int>(length(at));
+        qToBigEndian(checksum(bytes.mid(at + 4, data + 4)), bytes.data() + at + 8 + data);
+        at += 12 + data;
+    }
+    return bytes;
+}
+
+using Fuzz = SessionFolder;
+
+TEST_F(Fuzz, DamagedDescriptionsAreReadOrRefusedInOneLine) {
+    const QByteArray whole = QByteArray::fromStdString(kSessionText);
+    Damage damage(1);
+    int refused = 0;
+    for (int i = 0; i < 3000; ++i) {
+        SessionDescription read;
+        std::string why;
+        if (parseDescription(damage(whole), "session.json", &read, &why)) {
+            EXPECT_GT(read.grabCount(), 0);
+            continue;
+        }
+        ++refused;
+        EXPECT_EQ(why.find("session.json: "), 0U);
+        EXPECT_EQ(why.find('\n'), std::string::npos);
+    }
+    EXPECT_GT(refused, 1500);
+    EXPECT_LT(refused, 3000);
+}
+
+TEST_F(Fuzz, DamagedPicturesAreReadOrRefused) {
+    const QByteArray third = readFile(path("b_third.png"));
+    const QByteArray infrared = readFile(path("b_infrared.png"));
+    const PngExpectation colour{path("b_third.png"), "key", PngKind::Colour8, 8, 6};
+    const PngExpectation grey{path("b_infrared.png"), "key", PngKind::Grey16, 6, 4};
+    Damage damage(2);
+    int reached = 0;
+    for (int i = 0; i < 1000; ++i) {
+        // Every other file has right checksums, so that the damage reaches the decoder.
+        const auto spoilt = [&](const QByteArray& whole) {
+            return i % 2 == 0 ? damage(whole) : withChecksums(damage(whole));
+        };
+        writeFile(colour.file, spoilt(third));
+        writeFile(grey.file, spoilt(infrared));
+        ImageFrame32 readColour;
+        ImageFrame16 readGrey;
+        std::string why;
+        EXPECT_TRUE(!readColourPng(colour, &readColour, &why) || readColour.byteCount() == 8U * 6 * 4);
+        EXPECT_TRUE(!readGreyPng(grey, &readGrey, &why) || readGrey.byteCount() == 6U * 4 * 2);
+        if (checkPng(colour, &why)) ++reached;
+    }
+    EXPECT_GT(reached, 100);
+}
+
+}  // namespace
+}  // namespace fieldcal::session
