@@ -91,7 +91,7 @@ bool climbsOut(const std::string& name) {
 
 /// A name inside the session's folder, on any operating system.
 std::string fileName(const JsonKey& key) {
-    const std::string name = key.text();
+    std::string name = key.text();
     if (name.empty()) {
         key.refuse("empty file name");
     } else if (name.front() == '/' || name.find_first_of("\\:") != std::string::npos) {

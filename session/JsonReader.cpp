@@ -18,9 +18,9 @@ std::string shown(double value) {
 }
 
 bool isRotation(const std::array<double, 9>& m) {
-    for (int i = 0; i < 3; ++i) {
-        for (int j = i; j < 3; ++j) {
-            const double product = m[3 * i] * m[3 * j] + m[3 * i + 1] * m[3 * j + 1] + m[3 * i + 2] * m[3 * j + 2];
+    for (std::size_t i = 0; i < 9; i += 3) {
+        for (std::size_t j = i; j < 9; j += 3) {
+            const double product = m[i] * m[j] + m[i + 1] * m[j + 1] + m[i + 2] * m[j + 2];
             if (std::abs(product - (i == j ? 1.0 : 0.0)) > kRotationTolerance) return false;
         }
     }
