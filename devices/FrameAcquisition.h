@@ -1,0 +1,39 @@
+#pragma once
+
+#include "camera/ImageFrame.h"
+#include "devices/SensorSettings.h"
+#include "kxapi/KXAPI.h"
+
+#include <opencv2/core.hpp>
+
+namespace fieldcal {
+
+/// The latest frame of every stream. The infrared and depth records have the module's own sizes, the colour records
+/// the sizes of the infrared geometry. Empty until first filled.
+struct FrameRecords {
+    ImageFrame16 leftInfrared;
+    ImageFrame16 rightInfrared;
+    ImageFrame16 depth;
+    ImageFrame32 inModuleColour;
+    ImageFrame32 outOfModuleColour;
+};
+
+/// Copies the module's own streams into the records after a successful device grab. One thread.
+class FrameAcquisition {
+public:
+    /// Gives the infrared, depth and in-module records the module's sizes. False: a size is implausible.
+    bool sizeRecords(KXDevice& device, KXThirdCamera& third);
+
+    /// Skips streams that the settings or the device report as off, or that have no picture; the in-module colour
+    /// also until its scaled size is known.
+    void refresh(KXDevice& device, KXThirdCamera* third, const SensorSettings& settings);
+
+    FrameRecords records;
+
+private:
+    void refreshThird(KXThirdCamera& third, const SensorSettings& settings);
+
+    cv::Mat scaledThird_;
+};
+
+}  // namespace fieldcal

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "devices/RearCameraSeam.h"
+
+#include <cstdint>
+#include <string>
+
+namespace fieldcal {
+
+/// The operating system's side of the tablet's rear camera. `CPlatformCameraControl` calls the operations in the
+/// order in which they stand here. Every one returns false on any failure of the system.
+class PlatformCameraBackend {
+public:
+    enum class Stream : std::int32_t { Preview = 0, Record = 1, Photo = 2 };
+
+    virtual ~PlatformCameraBackend() = default;
+
+    /// Selects the first video capture device whose friendly name equals `friendlyName` (UTF-8) exactly.
+    virtual bool selectDevice(const std::string& friendlyName) = 0;
+    virtual bool openCamera() = 0;
+    virtual bool setAutoFocus(bool on) = 0;
+    virtual bool setFocus(std::int32_t value) = 0;
+    /// `framesPerSecond` is 0 for the photo stream. `subtype` is the pixel format's name, "NV12".
+    virtual bool setupStream(Stream stream, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond,
+                             const std::string& subtype) = 0;
+    /// The record stream's pictures go to `sink`, on a thread of the backend's choice, until the next call; null
+    /// stops them, and when the call returns the old sink is not in use.
+    virtual void setSink(RearCameraSink* sink) = 0;
+
+    /// How long the first picture may take after the streams are set up. 0: it arrives while the module grabs.
+    virtual std::int32_t firstPictureMs() const = 0;
+};
+
+}  // namespace fieldcal

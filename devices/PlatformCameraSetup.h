@@ -1,0 +1,16 @@
+#pragma once
+
+#include "devices/PlatformCameraControl.h"
+
+namespace fieldcal {
+
+enum class PlatformSetup {
+    Ready,
+    Missing,  ///< not found, or not opened
+    Issue     ///< focus or stream set-up failed
+};
+
+/// Finds, opens and configures the tablet's rear camera. Failures are logged.
+PlatformSetup setUpPlatformCamera(CPlatformCameraControl& camera);
+
+}  // namespace fieldcal

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "camera/CameraParameters.h"
+#include "devices/PlatformCalibration.h"
+#include "kxapi/Library.h"
+
+namespace fieldcal {
+
+/// The rear camera's part of the read-out.
+struct PlatformParameters {
+    PlatformCalibration calibration;
+    CameraModel model;  ///< in the infrared geometry
+    CameraExtrinsics extrinsics;
+    ColourScaling scaling;
+};
+
+/// False: something could not be read or is not usable; it has been logged.
+bool readPlatformParameters(KXPlatformCamera& camera, const KXLibrary& library, const CameraModel& infrared,
+                            PlatformParameters* out);
+
+}  // namespace fieldcal

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "camera/ImageFrame.h"
+#include "devices/PlatformCalibration.h"
+#include "devices/PlatformCameraControl.h"
+#include "kxapi/KXAPI.h"
+
+#include <opencv2/core.hpp>
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+
+namespace fieldcal {
+
+/// The rear camera's way from its newest NV12 picture into the colour record: conversion, rectification, scaling.
+/// Each picture goes that way once; without a new one the record stays as it is. It turns black when there never was
+/// a picture, or none came during a second of grabbing.
+class PlatformPicture {
+public:
+    using Clock = std::chrono::steady_clock;
+
+    /// Takes the newest picture, if any, and rectifies it. `now` never goes back.
+    void fetch(CPlatformCameraControl& camera, const PlatformCalibration& calibration,
+               KXRectifyBGRA8ToBGRA8Function rectify, Clock::time_point now);
+
+    /// Scales what `fetch` left, when that is new, into the record. Nothing happens for an implausible size.
+    void deliver(std::int32_t width, std::int32_t height, ImageFrame32* record);
+
+private:
+    bool take(CPlatformCameraControl& camera);
+    void countSilence(Clock::time_point now);
+    void blacken();
+
+    cv::Mat raw_;
+    cv::Mat working_;
+    cv::Mat scaled_;
+    bool isNew_ = false;  ///< `working_` holds what the record does not hold yet
+    bool black_ = false;
+    bool everTaken_ = false;
+    std::optional<Clock::time_point> lastFetch_;
+    Clock::duration silence_{};
+};
+
+}  // namespace fieldcal

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "devices/PlatformCameraBackend.h"
+#include "kxapi/Library.h"
+
+#include <memory>
+
+namespace fieldcal {
+
+/// The rear camera that a simulated module brings along (see `RearCameraSeam.h`). A library without one behaves like
+/// a tablet without a rear camera: no device is found.
+class RearCameraBackend : public PlatformCameraBackend {
+public:
+    explicit RearCameraBackend(std::shared_ptr<const KXLibrary> library);
+
+    bool selectDevice(const std::string& friendlyName) override;
+    bool openCamera() override;
+    bool setAutoFocus(bool on) override;
+    bool setFocus(std::int32_t value) override;
+    bool setupStream(Stream stream, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond,
+                     const std::string& subtype) override;
+    void setSink(RearCameraSink* sink) override;
+    std::int32_t firstPictureMs() const override { return 0; }
+
+private:
+    std::shared_ptr<const KXLibrary> library_;  ///< keeps the source's code loaded
+    RearCameraSource* source_ = nullptr;        ///< set once selected
+};
+
+}  // namespace fieldcal

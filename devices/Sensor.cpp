@@ -1,0 +1,98 @@
+#include "devices/Sensor.h"
+
+#include "devices/StatusCheck.h"
+
+#include <utility>
+
+namespace fieldcal {
+
+Sensor::Sensor() : Sensor(systemEnvironment()) {}
+
+Sensor::Sensor(SensorEnvironment environment) : environment_(std::move(environment)) {}
+
+Sensor::~Sensor() {
+    platformCamera_.reset();
+    device_.reset();
+    PXMServiceManager& services = *environment_.services;
+    if (!services.restorePXMService()) emit signal_reportKXAPIError(services.lastError());
+    services.setStopFlag(nullptr);
+}
+
+void Sensor::setStopFlag(const std::atomic<bool>* stop) {
+    stop_ = stop;
+    environment_.services->setStopFlag(stop);
+}
+
+bool Sensor::grab(bool wait) {
+    if (!opened_ || faulted_) return false;
+    if (!checkStatus(device_->grab(wait))) return false;
+    if (settings_.usePlatformCamera && !fetchPlatformPicture()) {
+        if (stopRequested()) return false;
+        emit signal_reportPlatformCameraIssue();
+    }
+    frames_.refresh(*device_, third_, settings_);
+    platformPicture_.deliver(settings_.platformScaledWidth, settings_.platformScaledHeight,
+                             &frames_.records.outOfModuleColour);
+    return true;
+}
+
+bool Sensor::fetchPlatformPicture() {
+    if (platformCamera_ == nullptr) return false;
+    if (!std::exchange(firstPictureAwaited_, true)) platformCamera_->awaitFirstFrame(stop_);
+    if (!platformCamera_->frameReady()) return false;
+    if (platformCalibration_.rectificationTable.empty()) return true;
+    platformPicture_.fetch(*platformCamera_, platformCalibration_, library_->rectifyBGRA8ToBGRA8, environment_.now());
+    return true;
+}
+
+bool Sensor::setEmitter(bool on) {
+    if (faulted_ || device_ == nullptr) return false;
+    KXEmitterControl* emitter = device_->emitterControl();
+    return emitter != nullptr && switchEmitter(*emitter, on);
+}
+
+bool Sensor::switchEmitter(KXEmitterControl& emitter, bool on) {
+    if (!checkStatus(emitter.setEmitter(on))) return false;
+    qInfo("Emitter is %s.", on ? "enabled" : "disabled");
+    return true;
+}
+
+bool Sensor::checkStatus(bool callSucceeded) {
+    if (callSucceeded) return true;
+    reportFault(device_ != nullptr ? device_->lastStatus() : 0);
+    return false;
+}
+
+void Sensor::reportInvalidCalibration() {
+    if (!faulted_) reportFault(KX_STATUS_NOT_CALIBRATED);
+}
+
+void Sensor::reportFault(std::int32_t status) {
+    faulted_ = true;
+    const char* libraryText = library_ != nullptr ? library_->statusString(status) : nullptr;
+    const StatusNotice notice = statusNotice(status, libraryText);
+    if (notice.missingDevice) {
+        emit signal_reportMissingQ550Device();
+    } else {
+        emit signal_reportKXAPIError(notice.text);
+    }
+}
+
+void Sensor::setThirdScaledSize(std::int32_t width, std::int32_t height) {
+    settings_.thirdScaledWidth = width;
+    settings_.thirdScaledHeight = height;
+}
+
+void Sensor::usePlatformCalibration(PlatformCalibration calibration, std::int32_t scaledWidth,
+                                    std::int32_t scaledHeight) {
+    platformCalibration_ = std::move(calibration);
+    settings_.platformScaledWidth = scaledWidth;
+    settings_.platformScaledHeight = scaledHeight;
+}
+
+void Sensor::disablePlatformCamera() {
+    settings_.usePlatformCamera = false;
+    platformCamera_.reset();
+}
+
+}  // namespace fieldcal
