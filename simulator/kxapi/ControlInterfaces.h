@@ -1,0 +1,47 @@
+#pragma once
+
+#include "simulator/kxapi/ModuleState.h"
+
+#include <cmath>
+
+namespace kxsim {
+
+/// Imager settings and emitter: checked and accepted. A recording's pictures do not follow them.
+class HardwareInterface final : public KXHardwareControl {
+public:
+    explicit HardwareInterface(ModuleState* state) : state_(*state) {}
+
+    bool setAutoExposure(std::int32_t imagers, bool) override { return accept("setAutoExposure", imagers == 3); }
+    bool setGain(float value, std::int32_t imagers) override {
+        return accept("setGain", imagers == 3 && std::isfinite(value) && value > 0);
+    }
+    bool setExposure(float milliseconds, std::int32_t imagers) override {
+        return accept("setExposure", imagers == 3 && std::isfinite(milliseconds) && milliseconds > 0);
+    }
+    bool setHardwareOption(bool, std::int32_t) override { return accept("setHardwareOption", true); }
+
+private:
+    bool accept(const char* operation, bool valid) {
+        return state_.enter(operation, Stage::ready) && (valid || state_.fail(KX_STATUS_FAILED));
+    }
+
+    ModuleState& state_;
+};
+
+class EmitterInterface final : public KXEmitterControl {
+public:
+    explicit EmitterInterface(ModuleState* state) : state_(*state) {}
+
+    bool setEmitter(bool on) override {
+        if (!state_.enter("setEmitter", Stage::ready)) return false;
+        on_ = on;
+        return true;
+    }
+    bool isOn() const { return on_; }
+
+private:
+    ModuleState& state_;
+    bool on_ = false;
+};
+
+}  // namespace kxsim

@@ -1,0 +1,31 @@
+#include "simulator/kxapi/FrameStore.h"
+
+#include <utility>
+
+namespace kxsim {
+namespace {
+
+constexpr std::size_t kMostBytes = std::size_t{256} << 20;
+
+std::size_t byteCount(const fieldcal::session::FramePictures& frame) {
+    return frame.infrared.byteCount() + frame.depth.byteCount() + frame.third.byteCount() + frame.platform.size();
+}
+
+}  // namespace
+
+FrameStore::FrameStore(std::string folder, const fieldcal::session::SessionDescription& description)
+    : folder_(std::move(folder)), description_(description), kept_(description.frames.size()) {}
+
+const fieldcal::session::FramePictures* FrameStore::pictures(std::size_t index, std::string* why) {
+    if (kept_[index] != nullptr) return kept_[index].get();
+    auto frame = std::make_unique<Pictures>();
+    if (!readPictures(folder_, description_, index, frame.get(), why)) return nullptr;
+    const std::size_t bytes = byteCount(*frame);
+    const bool fits = keptBytes_ + bytes <= kMostBytes;
+    if (fits) keptBytes_ += bytes;
+    std::unique_ptr<Pictures>& place = fits ? kept_[index] : last_;
+    place = std::move(frame);
+    return place.get();
+}
+
+}  // namespace kxsim

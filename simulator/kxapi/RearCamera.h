@@ -1,0 +1,44 @@
+#pragma once
+
+#include "devices/RearCameraSeam.h"
+#include "simulator/kxapi/Faults.h"
+
+#include <mutex>
+#include <string>
+
+namespace kxsim {
+
+/// The tablet's rear camera: one per process, filled by whichever device grabs. Pictures reach the sink on the grabbing
+/// thread, before `grab` returns, so that playing is deterministic. A sink must not call back into the camera.
+class RearCamera final : public RearCameraSource {
+public:
+    static RearCamera& instance();
+
+    /// Takes up the environment: the recording's camera name and the faults. False when the tablet has no rear camera.
+    /// It has one with every recording, even one without a platform camera or one that cannot be read (the module then
+    /// says what is wrong with it).
+    bool plugIn();
+
+    const char* friendlyName() override;
+    bool openCamera() override;
+    bool setAutoFocus(bool on) override;
+    bool setFocus(std::int32_t value) override;
+    bool setupStream(std::int32_t stream, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond,
+                     const char* subtype) override;
+    void setSink(RearCameraSink* sink) override;
+
+    /// Hands a 1280 x 720 NV12 picture to the sink, when there is one and the record stream is set up.
+    void show(const std::uint8_t* nv12, double timeSeconds);
+
+private:
+    bool succeeds(const char* operation, bool valid);
+
+    std::mutex mutex_;
+    std::string name_;
+    Faults faults_;
+    bool opened_ = false;
+    bool streaming_ = false;
+    RearCameraSink* sink_ = nullptr;
+};
+
+}  // namespace kxsim

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "kxapi/KXAPI.h"
+
+namespace kxsim {
+
+/// A table entry tells where in the raw picture a rectified pixel comes from, to 1/32 pixel:
+/// bit 31 set when it comes from inside; then x (11 bits), y (10 bits), and the fractions of x and y (5 bits each).
+/// The whole part never is the last column or row, so that the four neighbours always exist. Entry 0: from outside.
+///
+/// For the rectified pixel (u, v): X = rotationᵀ · K_rectified⁻¹ · (u, v, 1), the radial-tangential distortion of
+/// X / Z, then the raw intrinsics. Raw and rectified principal points count in pixels whose first centre is 0.
+/// Raw pictures of at most 2048 x 1024 pixels; with larger ones, or intrinsics that make no sense, nothing is inside.
+void fillRectificationTable(const KXCalibIntrinsicsNonRectified& raw, const double* rotation,
+                            const KXCalibIntrinsicsRectified& rectified, std::uint32_t* table);
+
+/// Bilinear, within 1 of the exact value. Pixels from outside become black with alpha 255. Entries that point outside
+/// `width` x `height` count as outside.
+void rectify(const std::uint32_t* table, const std::uint8_t* source, std::int32_t pitchPixels, std::int32_t width,
+             std::int32_t height, std::uint8_t* destination);
+
+}  // namespace kxsim

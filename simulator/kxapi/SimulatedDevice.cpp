@@ -1,0 +1,225 @@
+#include "simulator/kxapi/SimulatedDevice.h"
+
+#include "simulator/kxapi/Calibration.h"
+#include "simulator/kxapi/RearCamera.h"
+
+#include <utility>
+
+namespace kxsim {
+namespace {
+
+constexpr double kGrabsPerSecond = 60;
+
+}
+
+SimulatedDevice::SimulatedDevice(Settings settings)
+    : hardware_(&state_), third_(&state_), emitter_(&state_), platform_(&state_) {
+    state_.settings = std::move(settings);
+}
+
+bool SimulatedDevice::openDevice(std::int32_t index) {
+    const Settings& settings = state_.settings;
+    if (!settings.problem.empty()) {
+        report(settings.problem);
+        return state_.fail(KX_STATUS_FAILED);
+    }
+    if (!state_.enter("openDevice", Stage::closed)) return false;
+    if (state_.stage != Stage::closed) return state_.fail(KX_STATUS_FAILED);
+    if (settings.session.empty() || index < -1 || index > 0) return state_.fail(KX_STATUS_NO_DEVICE);
+    std::string why;
+    state_.player = SessionPlayer::open(settings.session, &why);
+    if (state_.player == nullptr) {
+        report(why);
+        return state_.fail(KX_STATUS_DEVICE_ERROR);
+    }
+    const auto& depth = state_.description().depth;
+    noDepth_.assign(static_cast<std::size_t>(depth.width) * static_cast<std::size_t>(depth.height), 0);
+    state_.stage = Stage::opened;
+    return true;
+}
+
+bool SimulatedDevice::initDevice() {
+    if (!state_.enter("initDevice", Stage::opened)) return false;
+    if (state_.stage != Stage::opened) return state_.fail(KX_STATUS_FAILED);
+    state_.stage = Stage::ready;
+    return true;
+}
+
+const char* SimulatedDevice::firmwareVersionText() {
+    return state_.enter("firmwareVersionText", Stage::opened) ? state_.description().module.firmware.c_str() : "";
+}
+
+const char* SimulatedDevice::softwareVersionText() {
+    return state_.enter("softwareVersionText", Stage::opened) ? state_.description().module.software.c_str() : "";
+}
+
+bool SimulatedDevice::serialNumber(std::uint32_t* out) {
+    if (!state_.enter("serialNumber", Stage::opened)) return false;
+    *out = state_.description().module.serial;
+    return true;
+}
+
+KXHardwareControl* SimulatedDevice::hardwareControl() {
+    return state_.enter("hardwareControl", Stage::opened) ? &hardware_ : nullptr;
+}
+
+KXThirdCamera* SimulatedDevice::thirdCamera() {
+    return state_.enter("thirdCamera", Stage::opened) ? &third_ : nullptr;
+}
+
+KXEmitterControl* SimulatedDevice::emitterControl() {
+    return state_.enter("emitterControl", Stage::opened) ? &emitter_ : nullptr;
+}
+
+bool SimulatedDevice::setDepthStreamMode(bool rectified, std::int32_t width, std::int32_t height,
+                                         std::int32_t framesPerSecond, std::int32_t pixelFormat) {
+    if (!state_.enterAtRest("setDepthStreamMode")) return false;
+    state_.depthModeSet =
+        rectified && width > 0 && height > 0 && framesPerSecond > 0 && pixelFormat == KX_PIXEL_FORMAT_16_BIT;
+    return state_.depthModeSet || state_.fail(KX_STATUS_FAILED);
+}
+
+bool SimulatedDevice::setEnabled(const char* operation, bool* stream, bool on) {
+    if (!state_.enterAtRest(operation)) return false;
+    *stream = on;
+    return true;
+}
+
+bool SimulatedDevice::setDepthEnabled(bool on) {
+    return setEnabled("setDepthEnabled", &state_.depthEnabled, on);
+}
+
+bool SimulatedDevice::depthEnabled() {
+    return state_.enter("depthEnabled", Stage::opened) && state_.depthEnabled;
+}
+
+bool SimulatedDevice::setLeftEnabled(bool on) {
+    return setEnabled("setLeftEnabled", &state_.leftEnabled, on);
+}
+
+bool SimulatedDevice::leftEnabled() {
+    return state_.enter("leftEnabled", Stage::opened) && state_.leftEnabled;
+}
+
+bool SimulatedDevice::setRightEnabled(bool on) {
+    return setEnabled("setRightEnabled", &state_.rightEnabled, on);
+}
+
+bool SimulatedDevice::rightEnabled() {
+    return state_.enter("rightEnabled", Stage::opened) && state_.rightEnabled;
+}
+
+bool SimulatedDevice::setStreamOption(bool) {
+    return state_.enterAtRest("setStreamOption");
+}
+
+bool SimulatedDevice::startCapture() {
+    if (!state_.enterAtRest("startCapture")) return false;
+    const bool depthStreams = state_.depthEnabled || state_.leftEnabled || state_.rightEnabled;
+    const bool modesSet = (state_.depthModeSet || !depthStreams) && (state_.thirdModeSet || !state_.thirdEnabled);
+    if (!modesSet || (!depthStreams && !state_.thirdEnabled)) return state_.fail(KX_STATUS_FAILED);
+    state_.stage = Stage::capturing;
+    pace_.start(state_.settings.speed);
+    return true;
+}
+
+bool SimulatedDevice::stopCapture() {
+    if (!state_.enter("stopCapture", Stage::capturing)) return false;
+    state_.stage = Stage::ready;
+    return true;
+}
+
+bool SimulatedDevice::grab(bool wait) {
+    if (!state_.enter("grab", Stage::capturing)) return false;
+    if (!pace_.frameDue(wait)) return true;
+    std::string why;
+    if (!state_.player->advance(&why)) {
+        report(why);
+        return state_.fail(KX_STATUS_DEVICE_ERROR);
+    }
+    showToRearCamera();
+    return true;
+}
+
+/// The rear camera runs at half the module's rate, and always shows a new frame with its first grab.
+void SimulatedDevice::showToRearCamera() const {
+    const SessionPlayer& player = *state_.player;
+    const std::vector<std::uint8_t>& picture = player.current()->platform;
+    if (picture.empty() || player.repetition() % 2 != 0) return;
+    RearCamera::instance().show(picture.data(), static_cast<double>(player.grabs()) / kGrabsPerSecond);
+}
+
+const std::uint16_t* SimulatedDevice::depthImage() {
+    if (!state_.enter("depthImage", Stage::opened) || !state_.depthEnabled || state_.frame() == nullptr) return nullptr;
+    return state_.frame()->depth.empty() ? noDepth_.data() : state_.frame()->depth.pixels();
+}
+
+const std::uint16_t* SimulatedDevice::infraredImage(const char* operation, bool enabled) {
+    if (!state_.enter(operation, Stage::opened) || !enabled || state_.frame() == nullptr) return nullptr;
+    return state_.frame()->infrared.pixels();
+}
+
+const std::uint16_t* SimulatedDevice::leftImage() {
+    return infraredImage("leftImage", state_.leftEnabled);
+}
+
+const std::uint16_t* SimulatedDevice::rightImage() {
+    return infraredImage("rightImage", state_.rightEnabled);
+}
+
+std::int32_t SimulatedDevice::depthWidth() {
+    return state_.player ? state_.description().depth.width : 0;
+}
+
+std::int32_t SimulatedDevice::depthHeight() {
+    return state_.player ? state_.description().depth.height : 0;
+}
+
+std::int32_t SimulatedDevice::lrWidth() {
+    return state_.player ? state_.description().infrared.width : 0;
+}
+
+std::int32_t SimulatedDevice::lrHeight() {
+    return state_.player ? state_.description().infrared.height : 0;
+}
+
+std::int32_t SimulatedDevice::lastStatus() {
+    return state_.lastStatus;
+}
+
+bool SimulatedDevice::calibrationValid() {
+    return state_.enter("calibrationValid", Stage::opened) && state_.description().module.calibrationValid;
+}
+
+bool SimulatedDevice::rectifiedLRIntrinsics(KXCalibIntrinsicsRectified* out) {
+    if (!state_.enterCalibration("rectifiedLRIntrinsics")) return false;
+    *out = rectifiedIntrinsics(state_.description().infrared);
+    return true;
+}
+
+bool SimulatedDevice::zIntrinsics(KXCalibIntrinsicsRectified* out) {
+    if (!state_.enterCalibration("zIntrinsics")) return false;
+    *out = rectifiedIntrinsics(state_.description().depth);
+    return true;
+}
+
+bool SimulatedDevice::rectParameters(KXCalibRectParameters* out) {
+    if (!state_.enter("rectParameters", Stage::ready)) return false;
+    *out = kxsim::rectParameters(state_.description());
+    return true;
+}
+
+KXPlatformCamera* SimulatedDevice::platformCamera() {
+    return state_.enter("platformCamera", Stage::opened) && state_.description().platform ? &platform_ : nullptr;
+}
+
+KXPrivate* SimulatedDevice::privateInterface() {
+    if (state_.enter("privateInterface", Stage::opened)) state_.fail(KX_STATUS_FAILED);
+    return nullptr;
+}
+
+bool SimulatedDevice::resumeDevice() {
+    return state_.enter("resumeDevice", Stage::opened) && state_.fail(KX_STATUS_FAILED);
+}
+
+}  // namespace kxsim

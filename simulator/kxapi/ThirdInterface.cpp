@@ -1,0 +1,50 @@
+#include "simulator/kxapi/ThirdInterface.h"
+
+#include "simulator/kxapi/Calibration.h"
+
+namespace kxsim {
+
+bool ThirdInterface::setThirdStreamMode(bool rectified, std::int32_t width, std::int32_t height,
+                                        std::int32_t framesPerSecond, std::int32_t pixelFormat) {
+    if (!state_.enterAtRest("setThirdStreamMode")) return false;
+    state_.thirdModeSet =
+        rectified && width > 0 && height > 0 && framesPerSecond > 0 && pixelFormat == KX_PIXEL_FORMAT_BGRA8;
+    return state_.thirdModeSet || state_.fail(KX_STATUS_FAILED);
+}
+
+bool ThirdInterface::setThirdEnabled(bool on) {
+    if (!state_.enterAtRest("setThirdEnabled")) return false;
+    state_.thirdEnabled = on;
+    return true;
+}
+
+bool ThirdInterface::thirdEnabled() {
+    return state_.enter("thirdEnabled", Stage::opened) && state_.thirdEnabled;
+}
+
+const std::uint8_t* ThirdInterface::thirdImage() {
+    if (!state_.enter("thirdImage", Stage::opened) || !state_.thirdEnabled || state_.frame() == nullptr) return nullptr;
+    return state_.frame()->third.bytes();
+}
+
+std::int32_t ThirdInterface::thirdWidth() {
+    return state_.description().third.width;
+}
+
+std::int32_t ThirdInterface::thirdHeight() {
+    return state_.description().third.height;
+}
+
+bool ThirdInterface::rectifiedThirdIntrinsics(KXCalibIntrinsicsRectified* out) {
+    if (!state_.enterCalibration("rectifiedThirdIntrinsics")) return false;
+    *out = rectifiedIntrinsics(state_.description().third);
+    return true;
+}
+
+bool ThirdInterface::zToThirdExtrinsics(KXCalibExtrinsics* out) {
+    if (!state_.enterCalibration("zToThirdExtrinsics")) return false;
+    *out = extrinsics(state_.description().third.rotation, state_.description().third.translation);
+    return true;
+}
+
+}  // namespace kxsim
