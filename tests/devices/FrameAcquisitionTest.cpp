@@ -1,0 +1,189 @@
+#include "devices/CameraParameterReader.h"
+#include "devices/ColourConversion.h"
+#include "tests/devices/SensorFixture.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <array>
+#include <random>
+
+namespace fieldcal::testing {
+namespace {
+
+using std::chrono::milliseconds;
+using ::testing::Each;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+/// The straightforward way: resize, swap pixel by pixel, alpha.
+std::vector<std::uint8_t> slowReference(const cv::Mat& bgra, int width, int height) {
+    cv::Mat scaled = bgra.clone();
+    if (scaled.size() != cv::Size(width, height)) cv::resize(bgra, scaled, {width, height}, 0, 0, cv::INTER_LINEAR);
+    std::vector<std::uint8_t> rgba;
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const auto& p = scaled.at<cv::Vec4b>(y, x);
+            rgba.insert(rgba.end(), {p[2], p[1], p[0], 255});
+        }
+    }
+    return rgba;
+}
+
+std::vector<std::uint8_t> bytesOf(const ImageFrame& frame) {
+    return {frame.bytes(), frame.bytes() + frame.byteCount()};
+}
+
+TEST(ColourConversion, EqualsTheSlowReference) {
+    std::mt19937 random(7);
+    cv::Mat bgra(48, 64, CV_8UC4);
+    std::generate(bgra.data, bgra.data + bgra.total() * 4, [&] { return static_cast<std::uint8_t>(random()); });
+    cv::Mat scaled;
+    ImageFrame32 record;
+    for (const auto& [width, height] : {std::pair{80, 60}, {64, 48}, {31, 23}, {32, 24}, {1, 1}, {65, 48}}) {
+        SCOPED_TRACE(width);
+        scaleIntoRecord(bgra, width, height, &scaled, &record);
+        EXPECT_EQ(bytesOf(record), slowReference(bgra, width, height));
+    }
+}
+
+TEST(ColourConversion, Nv12IsLimitedRangeBt601) {
+    // Two pixels each of black, white, and pure red by the standard's formula.
+    const std::uint8_t nv12[] = {16, 16, 235, 235, 81, 81, 16, 16, 235, 235, 81, 81, 128, 128, 128, 128, 90, 240};
+    cv::Mat bgra;
+    nv12ToBgra(nv12, 6, 2, &bgra);
+    const auto near = [&](int x, int b, int g, int r) {
+        const auto& p = bgra.at<cv::Vec4b>(1, x);
+        return std::abs(p[0] - b) <= 2 && std::abs(p[1] - g) <= 2 && std::abs(p[2] - r) <= 2;
+    };
+    EXPECT_TRUE(near(0, 0, 0, 0));
+    EXPECT_TRUE(near(2, 255, 255, 255));
+    EXPECT_TRUE(near(4, 0, 0, 255));
+}
+
+class FrameAcquisitionTest : public SensorTest {
+protected:
+    void openAndRead(const SensorSettings& settings) {
+        ASSERT_TRUE(sensor->open(settings));
+        CameraParameters parameters;
+        ASSERT_TRUE(readCameraParameters(*sensor, &parameters, [] {}));
+    }
+
+    bool grabAfter(milliseconds elapsed) {
+        now += elapsed;
+        return sensor->grab(true);
+    }
+
+    /// The rear record's first pixel; empty when the record is.
+    std::vector<int> rearPixel() {
+        const ImageFrame32& record = sensor->frames().outOfModuleColour;
+        return record.empty() ? std::vector<int>{} : std::vector<int>(record.bytes(), record.bytes() + 4);
+    }
+    /// Paints the rear record, to see whether a grab writes it.
+    void markRearRecord() {
+        const auto& record = sensor->frames().outOfModuleColour;
+        std::fill_n(const_cast<std::uint8_t*>(record.bytes()), record.byteCount(), std::uint8_t{99});
+    }
+};
+
+TEST_F(FrameAcquisitionTest, RefreshesTheModulesRecords) {
+    for (std::size_t i = 0; i < device->thirdPixels.size(); ++i)
+        device->thirdPixels[i] = static_cast<std::uint8_t>(i * 7);
+    openAndRead(withoutPlatform());
+    device->depth[3] = 4321;
+    EXPECT_TRUE(sensor->grab(true));
+    EXPECT_EQ(device->calls.back(), "grab(1)");
+    const FrameRecords& frames = sensor->frames();
+    EXPECT_EQ(frames.depth.pixels()[3], 4321);
+    EXPECT_EQ(frames.leftInfrared.pixels()[628 * 468 - 1], 500);
+    EXPECT_EQ(frames.rightInfrared.pixels()[0], 501);
+    EXPECT_EQ(frames.inModuleColour.width(), 320U);
+    const cv::Mat third(480, 640, CV_8UC4, device->thirdPixels.data());
+    EXPECT_EQ(bytesOf(frames.inModuleColour), slowReference(third, 320, 240));
+    EXPECT_TRUE(frames.outOfModuleColour.empty());
+}
+
+TEST_F(FrameAcquisitionTest, StreamsThatAreOffOrOddAreSkipped) {
+    openAndRead(withoutPlatform());
+    ASSERT_TRUE(sensor->grab(true));
+    device->depthOn = false;
+    device->depth[0] = 1;
+    device->thirdPixels.assign(device->thirdPixels.size(), 1);
+    device->thirdOn = false;
+    EXPECT_TRUE(sensor->grab(false));
+    EXPECT_EQ(device->calls.back(), "grab(0)");
+    device->thirdOn = true;
+    device->thirdWidthValue = 0;
+    EXPECT_TRUE(sensor->grab(true));
+    EXPECT_EQ(sensor->frames().depth.pixels()[0], 1502);
+    EXPECT_EQ(sensor->frames().inModuleColour.bytes()[0], 77);
+}
+
+TEST_F(FrameAcquisitionTest, WithoutAScaledSizeTheColourRecordIsNotFilled) {
+    ASSERT_TRUE(sensor->open(withoutPlatform()));
+    EXPECT_TRUE(sensor->grab(true));
+    EXPECT_EQ(sensor->frames().leftInfrared.pixels()[0], 500);
+    EXPECT_EQ(sensor->frames().inModuleColour.width(), 640U);
+}
+
+TEST_F(FrameAcquisitionTest, ASilentStartOfTheRearCameraIsReportedEveryTime) {
+    openAndRead(applicationSettings());
+    EXPECT_TRUE(sensor->grab(true));
+    EXPECT_TRUE(sensor->grab(true));
+    EXPECT_THAT(emitted, ElementsAre("PlatformIssue", "PlatformIssue"));
+    EXPECT_EQ(sensor->frames().leftInfrared.pixels()[0], 500);
+    EXPECT_THAT(rearPixel(), IsEmpty());
+
+    device->onGrab = [this] { rearCamera.deliver(81, 90, 240); };
+    EXPECT_TRUE(sensor->grab(true));
+    EXPECT_EQ(emitted.size(), 2U) << "a picture that arrives within the grab is in time";
+    EXPECT_EQ(sensor->frames().outOfModuleColour.width(), 640U);
+}
+
+TEST_F(FrameAcquisitionTest, EachRearPictureIsWorkedOnOnce) {
+    openAndRead(applicationSettings());
+    rearCamera.deliver(81, 90, 240);  // red
+    ASSERT_TRUE(grabAfter(milliseconds(0)));
+    const std::vector<int> red = rearPixel();
+    EXPECT_NEAR(red[0], 255, 2);
+    EXPECT_NEAR(red[2], 0, 2);
+    EXPECT_EQ(red[3], 255);
+    markRearRecord();
+    ASSERT_TRUE(grabAfter(milliseconds(16)));
+    EXPECT_THAT(rearPixel(), Each(99)) << "nothing new: the record is not touched, least of all swapped back";
+    EXPECT_EQ(FakeLibrary::rectifyCalls, 1);
+}
+
+TEST_F(FrameAcquisitionTest, ASilentSecondTurnsTheRecordBlackUntilTheNextPicture) {
+    openAndRead(applicationSettings());
+    rearCamera.deliver(81, 90, 240);
+    ASSERT_TRUE(grabAfter(milliseconds(0)));
+    const std::vector<int> red = rearPixel();
+    for (int i = 0; i < 9; ++i)
+        grabAfter(milliseconds(100));
+    EXPECT_EQ(rearPixel(), red);
+    grabAfter(milliseconds(99));
+    EXPECT_EQ(rearPixel(), red) << "999 ms";
+    grabAfter(milliseconds(1));
+    EXPECT_THAT(rearPixel(), ElementsAre(0, 0, 0, 255));
+    markRearRecord();
+    grabAfter(milliseconds(16));
+    EXPECT_THAT(rearPixel(), Each(99)) << "black is not written again";
+
+    rearCamera.deliver(81, 90, 240);
+    grabAfter(milliseconds(16));
+    EXPECT_EQ(rearPixel(), red);
+    grabAfter(milliseconds(8000));
+    EXPECT_EQ(rearPixel(), red) << "the caller was busy, the camera was not silent";
+    EXPECT_THAT(emitted, IsEmpty());
+}
+
+TEST_F(FrameAcquisitionTest, ARearPictureOfAnotherSizeIsNoPicture) {
+    openAndRead(applicationSettings());
+    rearCamera.deliver(81, 90, 240, 640);
+    EXPECT_TRUE(grabAfter(milliseconds(0)));
+    EXPECT_THAT(rearPixel(), ElementsAre(0, 0, 0, 255)) << "there never was one";
+    EXPECT_EQ(FakeLibrary::rectifyCalls, 0);
+}
+
+}  // namespace
+}  // namespace fieldcal::testing

@@ -1,0 +1,164 @@
+#include "devices/PXMServiceManager.h"
+#include "tests/devices/FakeServiceControl.h"
+#include "tests/devices/LogCapture.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace fieldcal::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+const std::string kOpenConfig = "openService DeepvanePXMQ550 3";
+const std::string kOpenAll = "openService DeepvanePXMQ550 983551";
+
+class PXMServiceManagerTest : public ::testing::Test {
+protected:
+    LogCapture log;
+    FakeServiceControl control;
+    std::unique_ptr<PXMServiceManager> manager = std::make_unique<PXMServiceManager>(control);
+};
+
+TEST_F(PXMServiceManagerTest, ShutsDownDisablesAndWaits) {
+    EXPECT_TRUE(manager->shutdownPXMService());
+    EXPECT_THAT(control.calls,
+                ElementsAre("openManager 1", kOpenConfig, "queryConfig 0", "queryConfig 300", "close service",
+                            "close manager",                                                            // start type
+                            "openManager 1", kOpenAll, "queryState", "close service", "close manager",  // state
+                            "openManager 1", kOpenConfig, "changeConfig 4", "close service", "close manager",
+                            "openManager 1", kOpenAll, "queryState", "controlService 1", "queryState", "sleep 33",
+                            "queryState", "close service", "close manager"));
+    EXPECT_THAT(LogCapture::lines(), ElementsAre("PXMServiceManager::_previousServiceStartType = 2 in shutdown",
+                                                 "PXMServiceManager::_previousServiceStatus = 4 in shutdown",
+                                                 "new_state = 1, old_state = 1"));
+    EXPECT_EQ(manager->lastError(), QString());
+
+    control.calls.clear();
+    EXPECT_TRUE(manager->shutdownPXMService());
+    EXPECT_THAT(control.calls, IsEmpty());
+    EXPECT_EQ(LogCapture::lines().back(), "Attempting to call shutdownPXMService but it was already shutdown.");
+}
+
+TEST_F(PXMServiceManagerTest, AStoppedServiceIsOnlyDisabled) {
+    control.states = {1};
+    EXPECT_TRUE(manager->shutdownPXMService());
+    EXPECT_EQ(control.startType, 4U);
+    EXPECT_THAT(control.calls, ::testing::Not(::testing::Contains("controlService 1")));
+}
+
+TEST_F(PXMServiceManagerTest, RestoresTheStartTypeOnce) {
+    ASSERT_TRUE(manager->shutdownPXMService());
+    LogCapture::lines().clear();
+    EXPECT_TRUE(manager->restorePXMService());
+    EXPECT_EQ(control.startType, 2U);
+    EXPECT_THAT(LogCapture::lines(),
+                ElementsAre("PXMServiceManager::_previousServiceStartType = 2 in restore",
+                            "PXMServiceManager::_previousServiceStatus = 4 in restore",
+                            "Changed the service start type.", "PXMServiceManager::ServiceStartType restored to: 2"));
+    control.calls.clear();
+    EXPECT_TRUE(manager->restorePXMService());
+    manager.reset();
+    EXPECT_THAT(control.calls, IsEmpty()) << "neither again nor in the destructor; and it is not started";
+    EXPECT_EQ(LogCapture::lines().back(), "Attempting to call restorePXMService but it was already restored.");
+}
+
+TEST_F(PXMServiceManagerTest, RestoringWithoutAShutdownChangesNothing) {
+    EXPECT_TRUE(manager->restorePXMService());
+    EXPECT_THAT(control.calls, IsEmpty());
+    EXPECT_THAT(LogCapture::lines(), ElementsAre("PXMServiceManager::_previousServiceStartType = 0 in restore",
+                                                 "PXMServiceManager::_previousServiceStatus = 0 in restore"));
+}
+
+TEST_F(PXMServiceManagerTest, TheDestructorRestores) {
+    ASSERT_TRUE(manager->shutdownPXMService());
+    manager.reset();
+    EXPECT_EQ(control.startType, 2U);
+
+    manager = std::make_unique<PXMServiceManager>(control);
+    ASSERT_TRUE(manager->shutdownPXMService());
+    control.fail("changeConfig", 1, 5);
+    manager.reset();
+    EXPECT_EQ(LogCapture::lines().back(), "CRITICAL restorePXMService failed in destructor.");
+}
+
+TEST_F(PXMServiceManagerTest, AMissingServiceIsNoFailure) {
+    control.fail("openService", 1, 1060);
+    EXPECT_TRUE(manager->shutdownPXMService());
+    EXPECT_TRUE(LogCapture::has("CRITICAL OpenService failed (1060)"));
+    EXPECT_EQ(manager->lastError(), QString());
+    EXPECT_EQ(std::count(control.calls.begin(), control.calls.end(), "close manager"), 4);
+    EXPECT_EQ(std::count(control.calls.begin(), control.calls.end(), "close service"), 0);
+    EXPECT_TRUE(manager->restorePXMService());
+    EXPECT_EQ(LogCapture::lines().back(), "Attempting to call restorePXMService, but the service does not exist.");
+}
+
+TEST_F(PXMServiceManagerTest, EveryFailureHasItsLineAndItsText) {
+    struct Case {
+        const char* operation;
+        int n;
+        std::uint32_t error;
+        const char* line;
+        const char* text;
+    };
+    const Case cases[] = {
+        {"openManager", 1, 5, "OpenSCManager failed (5)", "5: (OpenSCManager) ==> text 5"},
+        {"openManager", 4, 5, "OpenSCManager failed (5)", "5: (OpenSCManager) ==> text 5"},
+        {"openService", 1, 5, "OpenService failed (5)", "5: (OpenSCManager) ==> text 5"},  // named so in this read
+        {"openService", 2, 5, "OpenService failed (5)", "5: (OpenService) ==> text 5"},
+        {"openService", 3, 6, "OpenService failed (6)", "6: (OpenService) ==> text 6"},
+        {"openService", 4, 6, "OpenService failed (6)", "6: (OpenService) ==> text 6"},
+        {"queryConfig", 1, 6, "QueryServiceConfig failed (6) extra: 300", "6: (QueryServiceConfig) ==> text 6"},
+        {"queryConfig", 2, 122, "QueryServiceConfig failed (122) extra: 300", "122: (QueryServiceConfig) ==> text 122"},
+        {"changeConfig", 1, 5, "ChangeServiceConfig failed (5)", "5: (ChangeServiceConfig) ==> text 5"},
+        {"queryState", 1, 6, "QueryServiceStatusEx failed (6)", "6: (QueryServiceStatusEx) ==> text 6"},
+        {"queryState", 2, 6, "QueryServiceStatusEx failed (6)", "6: (QueryServiceStatusEx) ==> text 6"},
+        {"queryState", 4, 6, "QueryServiceStatusEx failed (6)", "6: (QueryServiceStatusEx) ==> text 6"},
+        {"controlService", 1, 1052, "ControlService failed (1052)", "1052: (ControlService) ==> text 1052"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(std::string(c.operation) + " " + std::to_string(c.n));
+        LogCapture::lines().clear();
+        FakeServiceControl failing;
+        failing.fail(c.operation, c.n, c.error);
+        {
+            PXMServiceManager fresh(failing);
+            EXPECT_FALSE(fresh.shutdownPXMService());
+            EXPECT_EQ(LogCapture::lines().back(), std::string("CRITICAL ") + c.line);
+            EXPECT_EQ(fresh.lastError().toStdString(), c.text);
+        }
+        const auto count = [&failing](const std::string& prefix) {
+            return std::count_if(failing.calls.begin(), failing.calls.end(),
+                                 [&](const std::string& call) { return call.compare(0, prefix.size(), prefix) == 0; });
+        };
+        EXPECT_EQ(count("close manager"), count("openManager") - (std::string(c.operation) == "openManager" ? 1 : 0));
+        EXPECT_EQ(count("close service"), count("openService") - (std::string(c.operation) == "openService" ? 1 : 0));
+    }
+}
+
+TEST_F(PXMServiceManagerTest, StartingIsReportedUnderTheControlCall) {
+    control.states = {1};
+    control.fail("startService", 1, 1058);
+    EXPECT_FALSE(manager->driveTo(4));
+    EXPECT_EQ(LogCapture::lines().back(), "CRITICAL StartService failed (1058)");
+    EXPECT_EQ(manager->lastError(), "1058: (ControlService) ==> text 1058");
+}
+
+TEST_F(PXMServiceManagerTest, AStopEndsTheWaitAndUndoesTheDisabling) {
+    std::atomic<bool> stop{false};
+    int sleeps = 0;
+    control.states = {4};
+    control.onSleep = [&] { stop = ++sleeps == 3; };
+    manager->setStopFlag(&stop);
+    EXPECT_FALSE(manager->shutdownPXMService());
+    EXPECT_EQ(sleeps, 3);
+    EXPECT_EQ(control.startType, 2U);
+    EXPECT_EQ(LogCapture::lines().back(), "new_state = 1, old_state = 4");
+}
+
+}  // namespace
+}  // namespace fieldcal::testing

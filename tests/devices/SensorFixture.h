@@ -1,0 +1,71 @@
+#pragma once
+
+#include "devices/Sensor.h"
+#include "tests/devices/FakeDevice.h"
+#include "tests/devices/FakePlatformBackend.h"
+#include "tests/devices/FakeServiceControl.h"
+#include "tests/devices/LogCapture.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace fieldcal::testing {
+
+/// A sensor over fakes. `emitted` collects what it emits: the error's text, or the signal's short name.
+class SensorTest : public ::testing::Test {
+protected:
+    SensorTest() { renew(); }
+
+    /// A fresh sensor and a fresh module, as after a restart of the program; service and rear camera stay.
+    void renew() {
+        sensor.reset();
+        device = std::make_unique<FakeKxDevice>();
+        FakeLibrary::current = device.get();
+        emitted.clear();
+        sensor = std::make_unique<Sensor>(environment());
+        const auto add = [this](const char* name) { return [this, name] { emitted.emplace_back(name); }; };
+        QObject::connect(sensor.get(), &Sensor::signal_reportKXAPIError,
+                         [this](const QString& text) { emitted.push_back(text.toStdString()); });
+        QObject::connect(sensor.get(), &Sensor::signal_reportMissingQ550Device, add("MissingQ550"));
+        QObject::connect(sensor.get(), &Sensor::signal_reportMissingPlatformCamera, add("MissingPlatform"));
+        QObject::connect(sensor.get(), &Sensor::signal_reportPlatformCameraIssue, add("PlatformIssue"));
+    }
+
+    SensorEnvironment environment() {
+        SensorEnvironment result;
+        result.loadLibrary = [this](std::string* why) -> std::shared_ptr<const KXLibrary> {
+            if (libraryMissing) *why = "no library";
+            return libraryMissing ? nullptr : fakeLibrary.library;
+        };
+        result.services = &services;
+        result.createPlatformCamera = [this](const std::shared_ptr<const KXLibrary>&) {
+            return std::make_unique<CPlatformCameraControl>(std::make_unique<FakePlatformBackend>(rearCamera));
+        };
+        result.now = [this] { return now; };
+        return result;
+    }
+
+    static SensorSettings withoutPlatform() {
+        SensorSettings settings = applicationSettings();
+        settings.usePlatformCamera = false;
+        return settings;
+    }
+
+    LogCapture log;
+    std::unique_ptr<FakeKxDevice> device;
+    FakeLibrary fakeLibrary;
+    FakeRearCamera rearCamera;
+    FakeServiceControl control;
+    PXMServiceManager services{control};
+    std::chrono::steady_clock::time_point now;
+    bool libraryMissing = false;
+    std::vector<std::string> emitted;
+    std::unique_ptr<Sensor> sensor;
+};
+
+}  // namespace fieldcal::testing

@@ -1,0 +1,213 @@
+#include "tests/devices/SensorFixture.h"
+
+#include <algorithm>
+
+namespace fieldcal::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr const char* kUnknown = "STATUS TEXT - An unknown error has occured.";
+
+const std::vector<std::string> kOpeningCalls{"openDevice(-1)",        "thirdCamera()",
+                                             "hardwareControl()",     "initDevice()",
+                                             "serialNumber()",        "firmwareVersionText()",
+                                             "softwareVersionText()", "setDepthEnabled(1)",
+                                             "setLeftEnabled(1)",     "setRightEnabled(1)",
+                                             "setStreamOption(1)",    "setDepthStreamMode(1,628,468,60,1)",
+                                             "setThirdEnabled(1)",    "setThirdStreamMode(1,640,480,30,3)",
+                                             "setAutoExposure(3,1)",  "setHardwareOption(1,16)",
+                                             "emitterControl()",      "setEmitter(0)",
+                                             "startCapture()"};
+
+TEST_F(SensorTest, OpensInOrderWithTheApplicationsSettings) {
+    EXPECT_TRUE(sensor->open(applicationSettings()));
+    EXPECT_TRUE(sensor->opened());
+    EXPECT_EQ(device->calls, kOpeningCalls);
+    EXPECT_THAT(rearCamera.calls, ElementsAre("openCamera", "autoFocus off", "focus 1700", "stream 0: 640x480@30 NV12",
+                                              "stream 1: 1280x720@30 NV12", "stream 2: 3200x2400@0 NV12"));
+    EXPECT_THAT(emitted, IsEmpty());
+    EXPECT_THAT(LogCapture::lines(),
+                ::testing::IsSupersetOf({"External platform camera is connected!", "Q550 device opened.",
+                                         "Sensor firmware version: 1.27.11", "Sensor camera serial no: 550101",
+                                         "Emitter is disabled."}));
+    EXPECT_EQ(sensor->frames().leftInfrared.byteCount(), 628U * 468 * 2);
+    EXPECT_EQ(sensor->frames().inModuleColour.byteCount(), 640U * 480 * 4);
+    EXPECT_FALSE(sensor->open(applicationSettings())) << "there is no second open";
+}
+
+TEST_F(SensorTest, ManualExposureFollowsTheStartGainFirst) {
+    SensorSettings settings = withoutPlatform();
+    settings.autoExposure = false;
+    ASSERT_TRUE(sensor->open(settings));
+    const std::vector<std::string> last(device->calls.end() - 3, device->calls.end());
+    EXPECT_THAT(last, ElementsAre("startCapture()", "setGain(1,3)", "setExposure(16,3)"));
+    EXPECT_THAT(rearCamera.calls, IsEmpty());
+}
+
+TEST_F(SensorTest, EveryFailingCallEndsTheOpeningWithOneReport) {
+    for (const std::string& call : kOpeningCalls) {
+        const std::string operation = call.substr(0, call.find('('));
+        const bool isGetter = operation.find("Control") != std::string::npos || operation == "thirdCamera" ||
+                              operation.find("VersionText") != std::string::npos;
+        if (isGetter) continue;
+        SCOPED_TRACE(operation);
+        renew();
+        device->failCall(operation, 1, 7);
+        EXPECT_FALSE(sensor->open(withoutPlatform()));
+        EXPECT_FALSE(sensor->opened());
+        EXPECT_EQ(device->calls.back(), call);
+        EXPECT_EQ(emitted.size(), 1U);
+    }
+}
+
+TEST_F(SensorTest, MissingPartsOfTheModule) {
+    struct Case {
+        const char* missing;
+        bool opens;
+        std::vector<std::string> reports;
+    };
+    for (const Case& c : {Case{"thirdCamera", false, {}}, Case{"emitterControl", true, {}},
+                          Case{"hardwareControl", false, {kUnknown}}}) {
+        SCOPED_TRACE(c.missing);
+        renew();
+        device->failCall(c.missing, 1, 0);
+        EXPECT_EQ(sensor->open(withoutPlatform()), c.opens);
+        EXPECT_EQ(emitted, c.reports);
+    }
+    EXPECT_TRUE(LogCapture::has("Third failed !_third check. Could not detect in-module color sensor."));
+}
+
+TEST_F(SensorTest, AnImplausiblePictureSizeEndsTheOpening) {
+    device->lrWidthValue = -5;
+    EXPECT_FALSE(sensor->open(withoutPlatform()));
+    EXPECT_THAT(emitted, ElementsAre(kUnknown));
+}
+
+TEST_F(SensorTest, InvalidCalibrationIsOnlyLoggedWhileOpening) {
+    device->calibrated = false;
+    EXPECT_TRUE(sensor->open(withoutPlatform()));
+    EXPECT_TRUE(LogCapture::has("CRITICAL Calibration data on camera is invalid."));
+}
+
+TEST_F(SensorTest, PlatformCameraFailuresNeverReachTheModule) {
+    struct Case {
+        const char* name;
+        const char* failing;
+        const char* signal;
+        const char* line;
+    };
+    const char* rear = "HP Truevision 8MP Rear";
+    const Case cases[] = {
+        {"HP Truevision 8MP Rear 2", "", "MissingPlatform", "External platform camera could not be found."},
+        {rear, "openCamera", "MissingPlatform", "External platform camera could not be opened."},
+        {rear, "autoFocus off", "PlatformIssue", "External platform camera focus setup failed."},
+        {rear, "focus 1700", "PlatformIssue", "External platform camera focus setup failed."},
+        {rear, "stream 1: 1280x720@30 NV12", "PlatformIssue", "External platform camera stream setup failed."},
+        {rear, "stream 2: 3200x2400@0 NV12", "PlatformIssue", "External platform camera stream setup failed."}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.line);
+        rearCamera.name = c.name;
+        rearCamera.failing = c.failing;
+        renew();
+        EXPECT_FALSE(sensor->open(applicationSettings()));
+        EXPECT_THAT(emitted, ElementsAre(c.signal));
+        EXPECT_TRUE(LogCapture::has(c.line));
+        EXPECT_THAT(device->calls, IsEmpty());
+    }
+}
+
+TEST_F(SensorTest, AMissingLibraryIsTheMissingCamera) {
+    libraryMissing = true;
+    EXPECT_FALSE(sensor->open(applicationSettings()));
+    EXPECT_THAT(emitted, ElementsAre("MissingQ550"));
+    EXPECT_TRUE(LogCapture::has("CRITICAL no library"));
+    EXPECT_THAT(rearCamera.calls, IsEmpty());
+}
+
+TEST_F(SensorTest, EveryStatusHasItsMessage) {
+    const std::string unknown = "An unknown error has occured.";
+    std::vector<std::string> messages(14, unknown);
+    messages[1] = "A KXAPI call failed.";
+    messages[4] = "The device has not been calibrated or has invalid calibration data.";
+    messages[6] = "Something bad has happened with the Tarnex Deepvane camera.";
+    messages[7] = "Please close all Tarnex Deepvane applications and any web browsers before proceeding.";
+    messages[11] =
+        "Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your "
+        "firmware and run the application again.";
+    ASSERT_TRUE(sensor->open(withoutPlatform()));
+    EXPECT_TRUE(sensor->checkStatus(true));
+    for (std::int32_t status = 0; status <= 13; ++status) {
+        SCOPED_TRACE(status);
+        emitted.clear();
+        device->status = status;
+        EXPECT_FALSE(sensor->checkStatus(false));
+        EXPECT_THAT(emitted, ElementsAre(status == 5 ? "MissingQ550" : "STATUS TEXT - " + messages[status]));
+    }
+}
+
+TEST_F(SensorTest, ALibraryTextWithAPlaceholderIsNotFilledIn) {
+    fakeLibrary.library->statusString = [](std::int32_t) -> const char* { return "bad %2"; };
+    ASSERT_TRUE(sensor->open(withoutPlatform()));
+    device->status = 1;
+    sensor->checkStatus(false);
+    EXPECT_THAT(emitted, ElementsAre("bad %2 - A KXAPI call failed."));
+}
+
+TEST_F(SensorTest, EmitterRequests) {
+    EXPECT_FALSE(sensor->setEmitter(true)) << "not open";
+    ASSERT_TRUE(sensor->open(withoutPlatform()));
+    EXPECT_TRUE(sensor->setEmitter(true));
+    EXPECT_TRUE(LogCapture::has("Emitter is enabled."));
+    const std::size_t lines = LogCapture::lines().size();
+    device->failCall("emitterControl", 3, 0);
+    EXPECT_FALSE(sensor->setEmitter(true));
+    EXPECT_EQ(LogCapture::lines().size(), lines);
+    EXPECT_THAT(emitted, IsEmpty());
+}
+
+TEST_F(SensorTest, AFaultIsReportedOnceAndEndsTheGrabbing) {
+    ASSERT_TRUE(sensor->open(withoutPlatform()));
+    device->failCall("grab", 2, 6);
+    EXPECT_TRUE(sensor->grab(true));
+    device->left.assign(device->left.size(), 9);
+    EXPECT_FALSE(sensor->grab(true));
+    EXPECT_EQ(sensor->frames().leftInfrared.pixels()[0], 500) << "a failed grab leaves the records";
+    EXPECT_TRUE(sensor->faulted());
+    EXPECT_FALSE(sensor->grab(true));
+    EXPECT_FALSE(sensor->setEmitter(true));
+    EXPECT_EQ(std::count(device->calls.begin(), device->calls.end(), "grab(1)"), 2);
+    EXPECT_THAT(emitted, ElementsAre("STATUS TEXT - Something bad has happened with the Tarnex Deepvane camera."));
+}
+
+TEST_F(SensorTest, ServiceFailuresBeforeAndAfterAreReported) {
+    control.fail("changeConfig", 2, 5);
+    ASSERT_TRUE(sensor->open(applicationSettings()));
+    const std::shared_ptr<KXDevice> share = sensor->device();
+    sensor.reset();
+    EXPECT_FALSE(device->destroyed) << "somebody still holds the device";
+    EXPECT_EQ(rearCamera.sink, nullptr);
+    EXPECT_THAT(emitted, ElementsAre("5: (ChangeServiceConfig) ==> text 5"));
+}
+
+TEST_F(SensorTest, AServiceThatCannotBeShutDownEndsTheOpening) {
+    control.fail("controlService", 1, 1052);
+    EXPECT_FALSE(sensor->open(applicationSettings()));
+    EXPECT_THAT(emitted, ElementsAre("1052: (ControlService) ==> text 1052"));
+    EXPECT_THAT(rearCamera.calls, IsEmpty());
+}
+
+TEST_F(SensorTest, AStopWhileTheServiceStopsIsNoFault) {
+    control.states = {4};
+    std::atomic<bool> stop{false};
+    control.onSleep = [&] { stop = true; };
+    sensor->setStopFlag(&stop);
+    EXPECT_FALSE(sensor->open(applicationSettings()));
+    EXPECT_THAT(emitted, IsEmpty());
+    EXPECT_EQ(control.startType, 2U) << "the service is not left disabled";
+    sensor.reset();
+}
+
+}  // namespace
+}  // namespace fieldcal::testing
