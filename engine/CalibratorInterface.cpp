@@ -1,0 +1,143 @@
+#include "engine/CalibratorInterface.h"
+
+#include "diagnostics/Logger.h"
+#include "engine/InfraredConversion.h"
+#include "engine/Rotation.h"
+
+namespace vq {
+namespace {
+
+using fieldcal::kInfo;
+using fieldcal::logMessage;
+
+constexpr float kMinimumFeatures = 30.0F;
+constexpr int kPatientAttempts = 6;
+constexpr float kRadiansPerDegree = 0.017453292F;
+
+}  // namespace
+
+CalibratorInterface::CalibratorInterface(RegistrationContext& context, const fieldcal::CameraParameters& parameters,
+                                         const SensorCalibratorParameters& tuning)
+    : calibrator_(context, tuning), context_(context), parameters_(parameters) {}
+
+std::int32_t CalibratorInterface::setup() {
+    logMessage(kInfo, "CalibratorInterface::setup", "Preparing Calibrator");
+    calibrator_.setup();
+    firstPass_ = true;
+    attempts_ = 0;
+    featureTotal_ = 0;
+    return 0;
+}
+
+CalibratorResult CalibratorInterface::inputFramesAndCheckMovement(const fieldcal::ImageFrame16& infrared,
+                                                                  const fieldcal::ImageFrame32& colour) {
+    frameSelector_.push(infrared, colour);
+    if (frameSelector_.shouldUseThisFrame(&selectedInfrared_, &selectedColour_)) {
+        return {ProcessImagePair, "Proceeding with Calibration to process Image Pair"};
+    }
+    if (frameSelector_.state() == FrameSelector::WaitingToMove) {
+        return {RotateDevice, "Please rotate the device left or right to continue."};
+    }
+    return {RemainStill, "Please remain still so the application can capture\nthe frame for calibration."};
+}
+
+CalibratorResult CalibratorInterface::inputImageAndTryCalibration() {
+    constexpr const char* tag = "CalibratorInterface::inputImageAndTryCalibration";
+    calibrator_.prepare(selectedInfrared_, selectedColour_);
+    logMessage(kInfo, tag, "Generating matches...");
+    calibrator_.generateMatches();
+    const auto colourCount = static_cast<int>(calibrator_.matches().colour.size());
+    const auto infraredCount = static_cast<int>(calibrator_.matches().infrared.size());
+    logMessage(kInfo, tag, "Found %i and %i matches.", colourCount, infraredCount);
+    ++attempts_;
+    featureTotal_ += infraredCount;
+    logMessage(kInfo, tag, "Current number of attempts: %i", attempts_);
+    logMessage(kInfo, tag, "Current avg number of features: %f",
+               static_cast<double>(static_cast<float>(featureTotal_) / static_cast<float>(attempts_)));
+    if (isSceneTooSimple()) return {firstPass_ ? SceneTooSimple : SceneTooSimpleRepeated, ""};
+    if (!calibrator_.hasEnoughFilledCells()) return {NeedMoreImages, "Need more images to process"};
+    logMessage(kInfo, tag, "Trying to determine a stable solution...");
+    calibrator_.tryDetermineStableSolution();
+    if (calibrator_.goodSolution()) return {GoodSolution, "Found good solution"};
+    return {AddingFramesForConvergence, "Adding additional Frames for convergence"};
+}
+
+bool CalibratorInterface::isSceneTooSimple() const {
+    return attempts_ > kPatientAttempts &&
+           static_cast<float>(featureTotal_) / static_cast<float>(attempts_) < kMinimumFeatures;
+}
+
+void CalibratorInterface::measureInfraredBrightness(const fieldcal::ImageFrame16& infrared, std::uint16_t* brightness) {
+    *brightness = clippedMean(infrared.pixels(), static_cast<int>(infrared.width()),
+                              static_cast<int>(infrared.height()));
+}
+
+std::int32_t CalibratorInterface::resetState() {
+    logMessage(kInfo, "CalibratorInterface::resetState", "resetting");
+    calibrator_.reset();
+    frameSelector_.reset();
+    firstPass_ = true;
+    attempts_ = 0;
+    featureTotal_ = 0;
+    return 0;
+}
+
+std::int32_t CalibratorInterface::setCameraParameters(bool platformCamera) {
+    const std::lock_guard guard(context_.lock);
+    context_.depthModel = parameters_.depth;
+    context_.infraredModel = parameters_.infrared;
+    context_.colourModel = platformCamera ? parameters_.outOfModuleColour : parameters_.inModuleColour;
+    context_.colourScaling = platformCamera ? parameters_.outOfModuleScaling : parameters_.inModuleScaling;
+    context_.defaultExtrinsics =
+        poseFromExtrinsics(platformCamera ? parameters_.depthToOutOfModule : parameters_.depthToInModule);
+    context_.state = std::make_unique<RegistrationState>();
+    context_.state->setExtrinsics(context_.defaultExtrinsics);
+    context_.currentAnglesDeg = context_.state->values();
+    return 0;
+}
+
+float* CalibratorInterface::getTranslation(float out[3]) {
+    const std::lock_guard guard(context_.lock);
+    for (int i = 0; i < 3; ++i) out[i] = context_.defaultExtrinsics(i, 3);
+    return out;
+}
+
+float* CalibratorInterface::getRotationMatrix(float out[9]) {
+    Eigen::Vector3d anglesRad;
+    {
+        const std::lock_guard guard(context_.lock);
+        const auto valuesDeg = context_.state->values();
+        anglesRad = (Eigen::Vector3f(valuesDeg[0], valuesDeg[1], valuesDeg[2]) * kRadiansPerDegree).cast<double>();
+    }
+    Eigen::Map<Eigen::Matrix<float, 3, 3, Eigen::RowMajor>> matrix(out);
+    matrix = rotationFromAngles(anglesRad).cast<float>();
+    return out;
+}
+
+void CalibratorInterface::setTouchAreaSize(float width, float height) {
+    const std::lock_guard guard(context_.lock);
+    context_.state->setTouchAreaSize(width, height);
+}
+
+void CalibratorInterface::setDragAreaSize(float width, float height) {
+    const std::lock_guard guard(context_.lock);
+    context_.state->setDragAreaSize(width, height);
+}
+
+void CalibratorInterface::beginDrag(std::int32_t x, std::int32_t y) {
+    const std::lock_guard guard(context_.lock);
+    context_.state->beginDrag(static_cast<float>(x), static_cast<float>(y));
+}
+
+void CalibratorInterface::drag(std::int32_t x, std::int32_t /*y*/) {
+    const std::lock_guard guard(context_.lock);
+    context_.state->drag(static_cast<float>(x));
+    context_.currentAnglesDeg = context_.state->values();
+}
+
+void CalibratorInterface::endDrag() {
+    const std::lock_guard guard(context_.lock);
+    context_.state->endDrag();
+}
+
+}  // namespace vq

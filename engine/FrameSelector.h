@@ -1,0 +1,46 @@
+#pragma once
+
+#include "camera/ImageFrame.h"
+#include "engine/ImagePairRecord.h"
+
+#include <opencv2/core.hpp>
+
+#include <cstdint>
+#include <deque>
+
+namespace vq {
+
+/// Picks a pair from the middle of a still stretch: no motion blur and no skew between the two pictures.
+///
+/// Motion is the largest L2 distance of the newest colour frame, reduced to a quarter, from those four and eight
+/// frames earlier. The two thresholds lie far apart: a middle band neither ends a wait for movement nor captures.
+/// One thread.
+class FrameSelector {
+public:
+    enum State : std::uint32_t { Initial = 0, WaitingToMove = 1, WaitingForStill = 2 };
+
+    /// Copies the pair into the queues. Frames must not be empty.
+    void push(const fieldcal::ImageFrame16& infrared, const fieldcal::ImageFrame32& colour);
+
+    /// True when a pair has just been selected and written into the two records.
+    bool shouldUseThisFrame(ImagePairRecord* infrared, ImagePairRecord* colour);
+
+    void reset();
+    State state() const { return state_; }
+
+private:
+    float motionMeasure() const;
+    void enter(State state);
+    void copySelectedPair(ImagePairRecord* infrared, ImagePairRecord* colour) const;
+
+    const float moveThreshold_ = 8500.0F;
+    const float stillThreshold_ = 4000.0F;
+    const std::uint32_t step_ = 4;
+    State state_ = Initial;
+    std::deque<cv::Mat> colourQueue_;
+    std::deque<cv::Mat> infraredQueue_;
+    std::deque<cv::Mat> motionQueue_;
+    std::uint32_t counter_ = 0;
+};
+
+}  // namespace vq

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "camera/ImageFrame.h"
+#include "engine/CalibratorResult.h"
+
+#include <cstdint>
+
+namespace vq {
+
+/// The calibration engine as the application and the overlay see it.
+///
+/// Order of calls: `setCameraParameters` once the camera's calibration is read, then `setup`; during the lighting
+/// check `measureInfraredBrightness` per frame; during capture `inputFramesAndCheckMovement` per frame and, each time
+/// it answers 3, `inputImageAndTryCalibration` once; `resetState` whenever capture starts over.
+/// Threads: slots 0 to 5 belong to the processing thread. Slots 6 to 12 may be called from the interface's thread once
+/// `setCameraParameters` has run; they never wait for an estimation.
+class ICalibrator {
+public:
+    virtual ~ICalibrator() = default;
+
+    /// Starts an attempt: search areas about the current angles, counters to zero. Always 0.
+    virtual std::int32_t setup() = 0;
+    /// Feeds one live pair to the frame selection: 3 use this pair, 4 move the device, 5 hold it still. Both frames
+    /// must not be empty. Colour: RGBA in storage order, in the infrared geometry.
+    virtual CalibratorResult inputFramesAndCheckMovement(const fieldcal::ImageFrame16& infrared,
+                                                         const fieldcal::ImageFrame32& colour) = 0;
+    /// Matches the selected pair and tries a calibration: 0, 2, 6, 7 or 8.
+    virtual CalibratorResult inputImageAndTryCalibration() = 0;
+    /// Mean of the infrared values with the darkest and brightest 2 % clipped, 0..1023. Empty frame: 0.
+    virtual void measureInfraredBrightness(const fieldcal::ImageFrame16& infrared, std::uint16_t* brightness) = 0;
+    /// Back to the start of capture; camera parameters and registration stay. Always 0.
+    virtual std::int32_t resetState() = 0;
+    /// Takes the models and the factory extrinsics of the platform camera or of the one inside the module. 0.
+    virtual std::int32_t setCameraParameters(bool platformCamera) = 0;
+    /// Metres, of the factory depth-to-colour extrinsics. Gives `out` back.
+    virtual float* getTranslation(float out[3]) = 0;
+    /// Row-major 3 x 3 rotation of the current angles. Gives `out` back.
+    virtual float* getRotationMatrix(float out[9]) = 0;
+    virtual void setTouchAreaSize(float width, float height) = 0;
+    virtual void setDragAreaSize(float width, float height) = 0;
+    virtual void beginDrag(std::int32_t x, std::int32_t y) = 0;
+    /// Only x moves the rotation, about the vertical axis.
+    virtual void drag(std::int32_t x, std::int32_t y) = 0;
+    virtual void endDrag() = 0;
+};
+
+}  // namespace vq

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <Eigen/Core>
+
+namespace vq {
+
+constexpr double kDegreesPerRadian = 57.29577951308232;
+
+/// R = Rz(a2) · Ry(a1) · Rx(a0), radians.
+Eigen::Matrix3d rotationFromAngles(const Eigen::Vector3d& anglesRad);
+
+/// The inverse, radians. The arc tangents are evaluated in 32 bits: exact to about 1e-7.
+Eigen::Vector3d anglesFromRotation(const Eigen::Matrix3d& rotation);
+
+}  // namespace vq

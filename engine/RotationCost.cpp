@@ -1,0 +1,136 @@
+#include "engine/RotationCost.h"
+
+#include "engine/Rotation.h"
+
+#include <cmath>
+
+namespace vq {
+namespace {
+
+constexpr double kStepRad = 1e-7;
+
+/// Where the bounded form bends, in pixels.
+constexpr double kBoundedPx = 2.0;
+
+}  // namespace
+
+RotationCost::RotationCost(const std::vector<cv::Point2f>& infraredPoints, const std::vector<cv::Point2f>& colourPoints,
+                           const CameraPair& cameras, ResidualForm form, double cauchyPx)
+    : fx_(cameras.colour.fx),
+      fy_(cameras.colour.fy),
+      cx_(cameras.colour.cx),
+      cy_(cameras.colour.cy),
+      form_(form),
+      squaredCauchyPx_(cauchyPx * cauchyPx),
+      unit_(1.0),
+      lastAnglesRad_(Eigen::Vector3d::Constant(std::nan(""))) {
+    setForm(form);
+    const fieldcal::CameraModel& infrared = cameras.infrared;
+    rays_.reserve(infraredPoints.size());
+    colours_.reserve(infraredPoints.size());
+    for (std::size_t i = 0; i < infraredPoints.size(); ++i) {
+        const cv::Point2d p = infraredPoints[i];
+        rays_.emplace_back((p.x - infrared.cx) / infrared.fx, (p.y - infrared.cy) / infrared.fy);
+        colours_.emplace_back(colourPoints[i].x, colourPoints[i].y);
+    }
+}
+
+RotationCost::RotationCost(const RotationCost& all, const std::vector<int>& indices)
+    : fx_(all.fx_),
+      fy_(all.fy_),
+      cx_(all.cx_),
+      cy_(all.cy_),
+      form_(all.form_),
+      squaredCauchyPx_(all.squaredCauchyPx_),
+      unit_(all.unit_),
+      lastAnglesRad_(Eigen::Vector3d::Constant(std::nan(""))) {
+    rays_.reserve(indices.size());
+    colours_.reserve(indices.size());
+    for (const int index : indices) {
+        rays_.push_back(all.rays_[static_cast<std::size_t>(index)]);
+        colours_.push_back(all.colours_[static_cast<std::size_t>(index)]);
+    }
+}
+
+RotationCost::RotationCost(const RotationCost& all, const std::vector<int>& indices, ResidualForm form)
+    : RotationCost(all, indices) {
+    setForm(form);
+}
+
+void RotationCost::setForm(ResidualForm form) {
+    form_ = form;
+    unit_ = 1.0;
+    if (form == ResidualForm::Pixels || form == ResidualForm::Normalised) return;
+    unit_ = kInlierResidual / (kInlierPx * termFactor(kInlierPx * kInlierPx));
+}
+
+/// Residual per pixel of a difference whose squared length is given.
+double RotationCost::termFactor(double squaredPx) const {
+    switch (form_) {
+        case ResidualForm::Pixels:
+        case ResidualForm::InlierScaled:
+            return unit_;
+        case ResidualForm::Normalised:
+            return unit_ / fx_;
+        case ResidualForm::Bounded:
+            return unit_ / std::sqrt(squaredPx + kBoundedPx * kBoundedPx);
+        case ResidualForm::Cauchy:
+            break;
+    }
+    const double ratio = squaredPx / squaredCauchyPx_;
+    // √log(1 + r) / √r tends to 1.
+    return ratio > 1e-8 ? unit_ * std::sqrt(std::log1p(ratio) / ratio) : unit_;
+}
+
+template <typename Visit>
+void RotationCost::visitDifferences(const Eigen::Vector3d& anglesRad, Visit&& visit) const {
+    const Eigen::Matrix3d r = rotationFromAngles(anglesRad);
+    for (std::size_t i = 0; i < rays_.size(); ++i) {
+        const double x = rays_[i][0], y = rays_[i][1];
+        const double inverse = 1.0 / (r(2, 0) * x + r(2, 1) * y + r(2, 2));
+        const double u = fx_ * (r(0, 0) * x + r(0, 1) * y + r(0, 2)) * inverse + cx_ - colours_[i][0];
+        const double v = fy_ * (r(1, 0) * x + r(1, 1) * y + r(1, 2)) * inverse + cy_ - colours_[i][1];
+        visit(i, u, v);
+    }
+}
+
+int RotationCost::operator()(const InputType& anglesRad, ValueType& terms) const {
+    visitDifferences(anglesRad, [&](std::size_t i, double u, double v) {
+        const double factor = termFactor(u * u + v * v);
+        terms[static_cast<Eigen::Index>(2 * i)] = u * factor;
+        terms[static_cast<Eigen::Index>(2 * i + 1)] = v * factor;
+    });
+    lastAnglesRad_ = anglesRad;
+    lastTerms_ = terms;
+    return 0;
+}
+
+int RotationCost::df(const InputType& anglesRad, JacobianType& jacobian) const {
+    const Eigen::Vector3d centreRad = anglesRad;
+    ValueType terms(values());
+    if (lastAnglesRad_ != centreRad) (*this)(centreRad, terms);
+    const ValueType here = lastTerms_;
+    for (Eigen::Index axis = 0; axis < 3; ++axis) {
+        Eigen::Vector3d movedRad = centreRad;
+        movedRad[axis] += kStepRad;
+        (*this)(movedRad, terms);
+        jacobian.col(axis) = (terms - here) / (movedRad[axis] - centreRad[axis]);
+    }
+    return 0;
+}
+
+void RotationCost::residuals(const Eigen::Vector3d& anglesRad, std::vector<double>* out) const {
+    out->resize(rays_.size());
+    visitDifferences(anglesRad, [&](std::size_t i, double u, double v) {
+        const double squaredPx = u * u + v * v;
+        (*out)[i] = std::sqrt(squaredPx) * termFactor(squaredPx);
+    });
+}
+
+void RotationCost::distancesPx(const Eigen::Vector3d& anglesRad, std::vector<double>* out) const {
+    out->resize(rays_.size());
+    visitDifferences(anglesRad,
+                     [&](std::size_t i, double u, double v) { (*out)[i] = std::sqrt(u * u + v * v); });
+}
+
+}  // namespace vq

@@ -1,0 +1,133 @@
+#include "engine/RotationEstimator.h"
+
+#include "engine/RotationFit.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <future>
+#include <limits>
+
+namespace vq {
+namespace {
+
+constexpr int kRounds = 10;
+constexpr int kMinimumWeight = 1;
+constexpr double kToleranceDeg = 0.1;
+
+// A consensus counts when more pairs agree than chance brings together. Rounds over pictures of different scenes never
+// reach a share of 0.1; rounds over one scene lie between 0.4 and 0.9.
+constexpr double kMinimumInlierShare = 0.2;
+constexpr int kMinimumInliers = 12;
+/// A second rotation that explains this share of what the winner explains makes the scene ambiguous.
+constexpr double kRivalShare = 0.5;
+
+Eigen::Vector3d unsetAngles() { return Eigen::Vector3d::Constant(std::numeric_limits<double>::quiet_NaN()); }
+
+/// How well a rotation explains the pairs: 1 minus the mean residual. Stable from round to round.
+void judgeFit(const RotationCost& cost, const Eigen::Vector3d& anglesRad, float* score, float* error, int* inliers) {
+    std::vector<double> residuals;
+    cost.residuals(anglesRad, &residuals);
+    double sum = 0, squares = 0;
+    *inliers = 0;
+    for (const double residual : residuals) {
+        sum += residual;
+        squares += residual * residual;
+        if (residual <= kInlierResidual) ++*inliers;
+    }
+    const auto count = static_cast<double>(residuals.size());
+    *score = static_cast<float>(1.0 - sum / count);
+    *error = static_cast<float>(std::sqrt(squares / count));
+}
+
+bool isMoreThanChance(int inliers, int pairs) {
+    return inliers >= kMinimumInliers && inliers >= kMinimumInlierShare * pairs;
+}
+
+}  // namespace
+
+/// What one round draws and finds.
+struct RotationEstimator::Round {
+    std::vector<cv::Point2f> infraredPoints, colourPoints;
+    std::vector<Sample> samples;
+    Eigen::Vector3d anglesRad = unsetAngles();
+    float score = -1.0F;
+    float error = -1.0F;
+    int weight = 0;
+};
+
+RotationEstimator::RotationEstimator() : votes_(kMinimumWeight, Eigen::Vector3d::Constant(kToleranceDeg)) {}
+
+void RotationEstimator::setup(const RotationSearch& search) {
+    search_ = search;
+    votes_.setReference(search.initialAnglesRad.cast<double>());
+}
+
+void RotationEstimator::forgetResults() {
+    votes_.clear();
+    hasLastBest_ = false;
+}
+
+bool RotationEstimator::estimateRotationByVoting(const MatchGrid& grid, int supportCount, Eigen::Vector3d* anglesRad) {
+    forgetResults();
+    // All drawing comes first, in the order of the rounds, so that the rounds themselves can run side by side.
+    std::vector<Round> rounds(kRounds);
+    drawRounds(grid, supportCount, &rounds);
+    const auto estimateFrom = [&](std::size_t first) {
+        for (std::size_t i = first; i < rounds.size(); i += 2) estimateRound(&rounds[i]);
+    };
+    auto odd = std::async(std::launch::async, estimateFrom, 1);
+    estimateFrom(0);
+    odd.get();
+    for (const Round& round : rounds) votes_.add(round.anglesRad, round.score, round.error, round.weight);
+
+    *anglesRad = unsetAngles();
+    const RotationVoteStore::Record* best = votes_.best();
+    hasLastBest_ = best != nullptr;
+    if (hasLastBest_) lastBest_ = *best;
+    votes_.clear();
+    if (!hasLastBest_) return false;
+    *anglesRad = lastBest_.anglesRad;
+    return lastBest_.votes >= supportCount;
+}
+
+void RotationEstimator::drawRounds(const MatchGrid& grid, int perCell, std::vector<Round>* rounds) const {
+    for (Round& round : *rounds) {
+        grid.sample(perCell, &round.infraredPoints, &round.colourPoints);
+        const int pairs = static_cast<int>(round.infraredPoints.size());
+        if (pairs >= kSampleSize) {
+            round.samples = drawSamples(pairs);
+        } else {
+            std::fputs("[choose] Error: k > n\n", stderr);
+        }
+    }
+}
+
+void RotationEstimator::estimateRound(Round* round) const {
+    if (round->samples.empty()) return;
+    const RotationCost cost(round->infraredPoints, round->colourPoints, search_.cameras);
+    const Consensus consensus = findConsensus(cost, round->infraredPoints, round->samples,
+                                              search_.initialAnglesRad.cast<double>(), stop_);
+    if (refineRotation(cost, consensus, &round->anglesRad, &round->score, &round->error)) {
+        round->weight = cost.pairs();
+    }
+}
+
+bool RotationEstimator::refineRotation(const RotationCost& cost, const Consensus& consensus, Eigen::Vector3d* anglesRad,
+                                       float* score, float* error) const {
+    if (!consensus.found || !isMoreThanChance(consensus.inlierCount, cost.pairs())) return false;
+    if (consensus.rivalInlierCount > kRivalShare * consensus.inlierCount) return false;
+    Eigen::Vector3d refinedRad;
+    if (!fitRotationLM(cost, search_.initialAnglesRad.cast<double>(), &refinedRad)) return false;
+    int inliers = 0;
+    judgeFit(cost, refinedRad, score, error, &inliers);
+    // The fit over all pairs starts far off, and must have come to where the consensus is.
+    if (2 * inliers < consensus.inlierCount || !isMoreThanChance(inliers, cost.pairs())) return false;
+    if (refinementOutput_ == RefinementOutput::OfConsensus) {
+        judgeFit(cost, consensus.anglesRad, score, error, &inliers);
+    }
+    *anglesRad = refinedRad;
+    return true;
+}
+
+}  // namespace vq

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "engine/CrossModalMatcher.h"
+#include "engine/ImagePairRecord.h"
+#include "engine/MatchGrid.h"
+#include "engine/RegistrationContext.h"
+#include "engine/RotationEstimator.h"
+#include "engine/RotationPolish.h"
+#include "engine/SensorCalibratorParameters.h"
+
+#include <opencv2/core.hpp>
+
+#include <array>
+#include <atomic>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+namespace vq {
+
+/// Point lists of one pair; element i of one matches element i of the other. Pixels of the delivered pictures.
+struct MatchLists {
+    std::vector<cv::Point2f> colour;
+    std::vector<cv::Point2f> infrared;
+};
+
+/// The core of the engine: turns prepared pairs into correspondences and decides when the rotation they give is stable.
+///
+/// Locks, taken in this order: the calibrator's own, the grid's, the registration's. The calibrator's is held for a
+/// whole decision; `goodSolution` and `outOfRange` may be read meanwhile from any thread.
+class SensorCalibrator {
+public:
+    SensorCalibrator(RegistrationContext& context, const SensorCalibratorParameters& parameters);
+
+    /// Search areas and estimation about the registration's current angles. The grid stays.
+    void setup();
+    /// Converts the selected pair. False when its sizes are not those of the cameras.
+    bool prepare(const ImagePairRecord& infrared, const ImagePairRecord& colour);
+    /// Matches and verifies the prepared pair and adds it to the grid. The lists of the pair are replaced; with `keep`
+    /// set, the lists before and after verification are copied where wanted.
+    void generateMatches(bool keep = false, MatchLists* beforeVerification = nullptr,
+                         MatchLists* afterVerification = nullptr);
+    /// Whether so few cells are under-filled that an estimation makes sense.
+    bool hasEnoughFilledCells() const;
+    /// One stability decision; afterwards `goodSolution` tells.
+    void tryDetermineStableSolution();
+    /// Forgets all correspondences, candidates and counters. Camera parameters and registration stay.
+    void reset();
+
+    void setStopFlag(const std::atomic<bool>* stop) { estimator_.setStopFlag(stop); }
+    const MatchLists& matches() const { return matches_; }
+    const MatchGrid& grid() const { return grid_; }
+    const PairStatistics& statistics() const { return matcher_.statistics(); }
+    const SensorCalibratorParameters& parameters() const { return parameters_; }
+    bool frameUsable() const { return frameUsable_; }
+    bool goodSolution() const { return goodSolution_; }
+    bool outOfRange() const { return outOfRange_; }
+    bool busy() const { return recordingBusy_ || decisionBusy_; }
+    int attemptCount() const { return attemptCount_; }
+    /// One standard deviation of each angle of the recorded solution, degrees; none without a polished solution.
+    std::optional<std::array<double, 3>> deviationDeg() const { return deviationDeg_; }
+
+private:
+    CameraPair cameraPair() const;
+    void appendToAttempt();
+    void decide();
+    void recordSolution();
+    void countFailure();
+
+    RegistrationContext& context_;
+    const SensorCalibratorParameters parameters_;
+    CrossModalMatcher matcher_;
+    MatchGrid grid_;
+    RotationEstimator estimator_;
+    CameraPair cameras_;
+    MatchLists matches_;
+    MatchLists attemptMatches_;  ///< every verified match since the grid was last emptied; colour in model pixels
+    bool frameUsable_ = false;
+
+    std::mutex lock_;
+    int attemptCount_ = 0;
+    int failureStreak_ = 0;
+    std::atomic<bool> goodSolution_{false};
+    std::atomic<bool> outOfRange_{false};
+    std::atomic<bool> recordingBusy_{false};
+    std::atomic<bool> decisionBusy_{false};
+    std::optional<std::array<double, 3>> deviationDeg_;
+};
+
+}  // namespace vq
