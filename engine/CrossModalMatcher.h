@@ -41,6 +41,7 @@ public:
 
     const cv::Mat& infrared() const { return infrared8_; }
     const cv::Mat& grey() const { return grey_; }
+    const PairStatistics& statistics() const { return statistics_; }
     PairStatistics& statistics() { return statistics_; }
 
 private:
