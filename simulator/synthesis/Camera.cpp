@@ -1,0 +1,105 @@
+#include "simulator/synthesis/Camera.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <functional>
+
+namespace fieldcal::synthesis {
+
+namespace {
+
+/// `ray` gives x/z and y/z of a place in pixels, the first pixel's centre at 0.
+RayGrid gridOf(cv::Size size, int samplesPerPixel, const std::function<cv::Point2d(cv::Point2d)>& ray) {
+    RayGrid grid;
+    grid.samplesPerPixel = samplesPerPixel;
+    grid.rays.create(size.height * samplesPerPixel, size.width * samplesPerPixel);
+    for (int y = 0; y < grid.rays.rows; ++y)
+        for (int x = 0; x < grid.rays.cols; ++x) {
+            const cv::Point2d r = ray({(x + 0.5) / samplesPerPixel - 0.5, (y + 0.5) / samplesPerPixel - 0.5});
+            grid.rays(y, x) = cv::Vec2f(static_cast<float>(r.x), static_cast<float>(r.y));
+        }
+    return grid;
+}
+
+cv::Point2d ownPrincipalPoint(const session::Intrinsics& colour, const session::Intrinsics& infrared) {
+    const double sx = infrared.fx / colour.fx, sy = infrared.fy / colour.fy;
+    return {colour.cx - 0.5 + 0.5 / sx, colour.cy - 0.5 + 0.5 / sy};
+}
+
+cv::Matx33d matrix(const session::Matrix3& m) {
+    return cv::Matx33d(m.data());
+}
+
+cv::Point2d distorted(const session::RawIntrinsics& k, cv::Point2d p) {
+    const double r2 = p.dot(p), radial = 1 + r2 * (k.k1 + r2 * (k.k2 + r2 * k.k3));
+    return {p.x * radial + 2 * k.p1 * p.x * p.y + k.p2 * (r2 + 2 * p.x * p.x),
+            p.y * radial + k.p1 * (r2 + 2 * p.y * p.y) + 2 * k.p2 * p.x * p.y};
+}
+
+cv::Point2d undistorted(const session::RawIntrinsics& k, cv::Point2d target) {
+    constexpr int rounds = 12;  // each gains about an order of magnitude for such lenses
+    cv::Point2d p = target;
+    for (int i = 0; i < rounds; ++i)
+        p += target - distorted(k, p);
+    return p;
+}
+
+}  // namespace
+
+RayGrid infraredRays(const session::Intrinsics& infrared, int samplesPerPixel) {
+    return gridOf({infrared.width, infrared.height}, samplesPerPixel, [&](cv::Point2d p) {
+        return cv::Point2d((p.x - infrared.cx) / infrared.fx, (p.y - infrared.cy) / infrared.fy);
+    });
+}
+
+RayGrid colourRays(const session::Intrinsics& colour, const session::Intrinsics& infrared, int samplesPerPixel) {
+    const cv::Point2d principal = ownPrincipalPoint(colour, infrared);
+    return gridOf({colour.width, colour.height}, samplesPerPixel, [&](cv::Point2d p) {
+        return cv::Point2d((p.x - principal.x) / colour.fx, (p.y - principal.y) / colour.fy);
+    });
+}
+
+cv::Point2d rawFromRectified(const session::PlatformCamera& platform, cv::Point2d p) {
+    const auto& k = platform.rectified;
+    const cv::Vec3d x = matrix(platform.rectification).t() * cv::Vec3d((p.x - k.cx) / k.fx, (p.y - k.cy) / k.fy, 1);
+    const cv::Point2d d = distorted(platform.raw, {x[0] / x[2], x[1] / x[2]});
+    return {platform.raw.fx * d.x + platform.raw.cx, platform.raw.fy * d.y + platform.raw.cy};
+}
+
+cv::Point2d rectifiedFromRaw(const session::PlatformCamera& platform, cv::Point2d p) {
+    const auto& raw = platform.raw;
+    const cv::Point2d u = undistorted(raw, {(p.x - raw.cx) / raw.fx, (p.y - raw.cy) / raw.fy});
+    const cv::Vec3d x = matrix(platform.rectification) * cv::Vec3d(u.x, u.y, 1);
+    const auto& k = platform.rectified;
+    return {k.fx * x[0] / x[2] + k.cx, k.fy * x[1] / x[2] + k.cy};
+}
+
+RayGrid platformRays(const session::PlatformCamera& platform, const session::Intrinsics& infrared,
+                     int samplesPerPixel) {
+    const auto& k = platform.rectified;
+    const cv::Point2d principal = ownPrincipalPoint(k, infrared);
+    return gridOf({platform.raw.width, platform.raw.height}, samplesPerPixel, [&](cv::Point2d p) {
+        const cv::Point2d r = rectifiedFromRaw(platform, p);
+        return cv::Point2d((r.x - principal.x) / k.fx, (r.y - principal.y) / k.fy);
+    });
+}
+
+cv::Mat_<cv::Vec4f> takePicture(Panorama& panorama, const RayGrid& grid, const cv::Matx33d& camera_world,
+                                double lensSigma) {
+    const cv::Matx33f world_camera = camera_world.t();
+    const int n = grid.samplesPerPixel;
+    const float share = 1.0F / static_cast<float>(n * n);
+    cv::Mat_<cv::Vec4f> picture(grid.rays.rows / n, grid.rays.cols / n, cv::Vec4f(0, 0, 0, 0));
+    for (int y = 0; y < picture.rows * n; ++y) {
+        const cv::Vec2f* ray = grid.rays[y];
+        cv::Vec4f* row = picture[y / n];
+        for (int x = 0; x < picture.cols * n; ++x) {
+            const Spectrum s = panorama.sample(world_camera * cv::Vec3f(ray[x][0], ray[x][1], 1));
+            row[x / n] += cv::Vec4f(s.red, s.green, s.blue, s.infrared) * share;
+        }
+    }
+    if (lensSigma > 0) cv::GaussianBlur(picture, picture, cv::Size(), lensSigma, lensSigma, cv::BORDER_REPLICATE);
+    return picture;
+}
+
+}  // namespace fieldcal::synthesis

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "session/RecordedSession.h"
+#include "simulator/synthesis/Panorama.h"
+
+#include <opencv2/core.hpp>
+
+namespace fieldcal::synthesis {
+
+/// Where the rays of a camera go: x/z and y/z in the frame in which its rotation is given, for samplesPerPixel²
+/// samples of every pixel, row by row.
+struct RayGrid {
+    cv::Mat_<cv::Vec2f> rays;
+    int samplesPerPixel = 1;
+};
+
+/// Rays of the infrared camera, whose principal point in its own pixels is (cx, cy).
+RayGrid infraredRays(const session::Intrinsics& infrared, int samplesPerPixel);
+
+/// Rays of a colour camera without distortion. Its (cx, cy) become the principal point once the picture has been
+/// scaled by s = f_infrared / f_colour with aligned pixel areas; in its own pixels that is cx − 0.5 + 0.5/s.
+RayGrid colourRays(const session::Intrinsics& colour, const session::Intrinsics& infrared, int samplesPerPixel);
+
+/// Rays of the unrectified rear camera, in its *rectified* frame. A raw pixel is first taken to the rectified pixel
+/// that the rectification table reads there, and that pixel's ray is the one `colourRays` gives it; so rectifying
+/// the raw picture yields exactly the picture that `colourRays` describes.
+RayGrid platformRays(const session::PlatformCamera& platform, const session::Intrinsics& infrared, int samplesPerPixel);
+
+/// The raw pixel at which a rectified pixel is found: undo the rectifying rotation, distort, project. Both in pixels
+/// with the first centre at 0.
+cv::Point2d rawFromRectified(const session::PlatformCamera& platform, cv::Point2d rectified);
+/// Its inverse.
+cv::Point2d rectifiedFromRaw(const session::PlatformCamera& platform, cv::Point2d raw);
+
+/// Mean radiance over every pixel, blurred by a lens of Gaussian spread `lensSigma` pixels.
+/// `camera_world` takes world directions into the frame of the rays. Channels: red, green, blue, infrared.
+cv::Mat_<cv::Vec4f> takePicture(Panorama& panorama, const RayGrid& grid, const cv::Matx33d& camera_world,
+                                double lensSigma);
+
+}  // namespace fieldcal::synthesis

@@ -1,0 +1,109 @@
+#include "simulator/synthesis/Exposure.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <vector>
+
+namespace fieldcal::synthesis {
+
+namespace {
+
+/// Normal deviates from a table: a few thousand different ones are enough for noise nobody looks at twice.
+class NoiseTable {
+public:
+    explicit NoiseTable(Random& random) : random_(random) {
+        for (float& v : values_)
+            v = static_cast<float>(random.normal());
+    }
+    float next() { return values_[random_.bits() % values_.size()]; }
+
+private:
+    Random& random_;
+    std::array<float, 8192> values_{};
+};
+
+/// Light left at a place after the lens, 1 in the middle.
+float throughLens(int x, int y, cv::Size size, double vignetting) {
+    const auto dx = static_cast<float>(x) - static_cast<float>(size.width) * 0.5F;
+    const auto dy = static_cast<float>(y) - static_cast<float>(size.height) * 0.5F;
+    const auto corner = static_cast<float>(size.width * size.width + size.height * size.height) * 0.25F;
+    return 1 - static_cast<float>(vignetting) * (dx * dx + dy * dy) / corner;
+}
+
+/// Mean of a channel with its brightest 2 % cut off.
+float clippedMean(std::vector<float> values) {
+    const auto cut = values.begin() + static_cast<std::ptrdiff_t>(values.size() * 49 / 50);
+    std::nth_element(values.begin(), cut, values.end());
+    double sum = 0;
+    for (float v : values)
+        sum += std::min(v, *cut);
+    return static_cast<float>(sum / static_cast<double>(values.size()));
+}
+
+float clippedMean(const cv::Mat_<cv::Vec4f>& picture, const cv::Vec4f& weights) {
+    std::vector<float> values;
+    values.reserve(picture.total());
+    for (const auto& p : picture)
+        values.push_back(p.dot(weights));
+    return std::max(1e-4F, clippedMean(std::move(values)));
+}
+
+std::uint8_t displayed(float linear) {
+    const float v = std::clamp(linear, 0.0F, 1.0F);
+    const float encoded = v < 0.0031308F ? 12.92F * v : 1.055F * std::pow(v, 1 / 2.4F) - 0.055F;
+    return static_cast<std::uint8_t>(encoded * 255 + 0.5F);
+}
+
+void sharpen(ImageFrame32& frame, double strength) {
+    cv::Mat picture(static_cast<int>(frame.height()), static_cast<int>(frame.width()), CV_8UC4, frame.bytes());
+    cv::Mat smooth;
+    cv::GaussianBlur(picture, smooth, cv::Size(), 1.0);
+    cv::addWeighted(picture, 1 + strength, smooth, -strength, 0, picture);
+}
+
+}  // namespace
+
+ImageFrame16 exposeInfrared(const cv::Mat_<cv::Vec4f>& picture, const InfraredSensor& sensor, double darkness,
+                            Random& random) {
+    NoiseTable noise(random);
+    const auto gain = static_cast<float>(sensor.meanLevel * darkness) / clippedMean(picture, {0, 0, 0, 1});
+    const auto perStep = static_cast<float>(1 / sensor.electronsPerStep);
+    const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);
+    ImageFrame16 frame;
+    frame.resize(static_cast<std::uint32_t>(picture.cols), static_cast<std::uint32_t>(picture.rows));
+    std::uint16_t* out = frame.pixels();
+    for (int y = 0; y < picture.rows; ++y)
+        for (int x = 0; x < picture.cols; ++x) {
+            const float level = picture(y, x)[3] * gain * throughLens(x, y, picture.size(), sensor.vignetting);
+            const float seen = level + std::sqrt(level * perStep + read) * noise.next();
+            *out++ = static_cast<std::uint16_t>(std::clamp(seen + 0.5F, 0.0F, 1023.0F));
+        }
+    return frame;
+}
+
+ImageFrame32 exposeColour(const cv::Mat_<cv::Vec4f>& picture, const ColourSensor& sensor, double darkness,
+                          Random& random) {
+    NoiseTable noise(random);
+    const auto gain = static_cast<float>(sensor.meanLevel * darkness) / clippedMean(picture, {0.3F, 0.59F, 0.11F, 0});
+    const auto perUnit = static_cast<float>(1 / sensor.electronsAtFull);
+    const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);
+    ImageFrame32 frame;
+    frame.resize(static_cast<std::uint32_t>(picture.cols), static_cast<std::uint32_t>(picture.rows));
+    std::uint8_t* out = frame.bytes();
+    for (int y = 0; y < picture.rows; ++y)
+        for (int x = 0; x < picture.cols; ++x, out += 4) {
+            const float lens = gain * throughLens(x, y, picture.size(), sensor.vignetting);
+            for (int band = 0; band < 3; ++band) {
+                const float level = picture(y, x)[2 - band] * lens;
+                out[band] = displayed(level + std::sqrt(level * perUnit + read) * noise.next());
+            }
+            out[3] = 255;
+        }
+    if (sensor.sharpening > 0) sharpen(frame, sensor.sharpening);
+    return frame;
+}
+
+}  // namespace fieldcal::synthesis

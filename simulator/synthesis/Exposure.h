@@ -1,0 +1,34 @@
+#pragma once
+
+#include "camera/ImageFrame.h"
+#include "simulator/synthesis/Random.h"
+
+#include <opencv2/core.hpp>
+
+namespace fieldcal::synthesis {
+
+struct InfraredSensor {
+    double meanLevel = 400;  ///< where the exposure aims, 0 … 1023
+    double electronsPerStep = 9;
+    double readNoise = 2.0;    ///< steps
+    double vignetting = 0.25;  ///< light lost in the corners
+};
+
+struct ColourSensor {
+    double meanLevel = 0.20;  ///< where the exposure aims; full scale is 1, linear light
+    double electronsAtFull = 3500;
+    double readNoise = 0.0015;
+    double vignetting = 0.3;
+    double sharpening = 0.5;  ///< strength of the edge enhancement that colour cameras apply
+};
+
+/// Ten bits, as the module delivers infrared. `picture`: the radiance of `takePicture`.
+/// `darkness`: the share of the light that a full exposure would need, 1 in daylight.
+ImageFrame16 exposeInfrared(const cv::Mat_<cv::Vec4f>& picture, const InfraredSensor& sensor, double darkness,
+                            Random& random);
+
+/// Eight bits with gamma, BGRA in storage order, alpha 255.
+ImageFrame32 exposeColour(const cv::Mat_<cv::Vec4f>& picture, const ColourSensor& sensor, double darkness,
+                          Random& random);
+
+}  // namespace fieldcal::synthesis

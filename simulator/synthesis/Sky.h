@@ -1,0 +1,30 @@
+#pragma once
+
+#include "simulator/synthesis/Light.h"
+#include "simulator/synthesis/Noise.h"
+
+namespace fieldcal::synthesis {
+
+/// What lies behind everything: sky with clouds, and ridges along the horizon.
+class Backdrop {
+public:
+    /// `cloudiness` 0 (clear) … 1; `ridgeHeight` in radians, 0 for none.
+    Backdrop(const Noise& noise, float cloudiness, float ridgeHeight)
+        : noise_(noise), cloudiness_(cloudiness), ridgeHeight_(ridgeHeight) {}
+
+    Spectrum radiance(const cv::Vec3f& direction, float footprint) const;
+    Spectrum skyOnly(const cv::Vec3f& direction, float footprint) const;
+    /// Light scattered in between: what far things fade into.
+    static Spectrum haze() { return {0.50F, 0.57F, 0.66F, 0.30F}; }
+    /// Distance blurs the visible sooner than the near infrared.
+    static Spectrum throughAir(const Spectrum& light, float metres);
+
+private:
+    Spectrum ridge(int number, float azimuth, float elevation, float footprint) const;
+
+    const Noise& noise_;
+    float cloudiness_;
+    float ridgeHeight_;
+};
+
+}  // namespace fieldcal::synthesis

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "simulator/synthesis/Camera.h"
+#include "simulator/synthesis/Exposure.h"
+
+#include <optional>
+
+namespace fieldcal::synthesis {
+
+struct StillSettings {
+    InfraredSensor infrared;
+    ColourSensor colour;
+    double darkness = 1;
+};
+
+/// Takes the pictures of one rig in one field, still after still. Depth stays empty: everything is at infinity.
+class StillRenderer {
+public:
+    /// `rig` must carry the true rotations of its cameras.
+    StillRenderer(const DirectionField& field, const session::SessionDescription& rig);
+
+    /// `infrared_world`: world directions into the infrared camera. Equal `noiseSeed`, equal pictures.
+    session::FramePictures take(const cv::Matx33d& infrared_world, const StillSettings& settings,
+                                std::uint64_t noiseSeed);
+
+private:
+    Panorama panorama_;
+    RayGrid infrared_, third_, platform_;
+    cv::Matx33d third_infrared_, platform_infrared_;
+    bool hasPlatform_ = false;
+};
+
+}  // namespace fieldcal::synthesis
