@@ -90,13 +90,13 @@ void fillRectificationTable(const KXCalibIntrinsicsNonRectified& raw, const doub
     const bool fits = raw.w >= 2 && raw.h >= 2 && raw.w <= 2048 && raw.h <= 1024;
     const double* r = rotation;
     for (int v = 0; v < rectified.h; ++v) {
-        const double b = (v + 0.5 - double{rectified.cy}) / rectified.fy;
+        const double b = (v - double{rectified.cy}) / rectified.fy;
         for (int u = 0; u < rectified.w; ++u) {
-            const double a = (u + 0.5 - double{rectified.cx}) / rectified.fx;
+            const double a = (u - double{rectified.cx}) / rectified.fx;
             const double z = r[2] * a + r[5] * b + r[8];
             const Point p = distorted(raw, {(r[0] * a + r[3] * b + r[6]) / z, (r[1] * a + r[4] * b + r[7]) / z});
-            const int x = steps(raw.fx * p.x + raw.cx - 0.5, raw.w);
-            const int y = steps(raw.fy * p.y + raw.cy - 0.5, raw.h);
+            const int x = steps(raw.fx * p.x + raw.cx, raw.w);
+            const int y = steps(raw.fy * p.y + raw.cy, raw.h);
             *table++ = fits && z > 0 ? entry(x, y) : 0;
         }
     }
