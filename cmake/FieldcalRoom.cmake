@@ -1,4 +1,4 @@
-# One room of the house: a target `fieldcal-<name>` with the alias `fieldcal::<name>`, our warnings and nothing else.
+# One room of the house: a target `fieldcal_<name>` with the alias `fieldcal::<name>`, our warnings and nothing else.
 #
 #   fieldcal_library(engine SOURCES a.cpp b.h LINKS fieldcal::camera opencv_core [KIND SHARED|INTERFACE])
 #   fieldcal_executable(fieldcal-session SOURCES main.cpp LINKS fieldcal::workflow)
@@ -13,7 +13,7 @@ endfunction()
 
 function(fieldcal_library name)
     cmake_parse_arguments(ARG "" "KIND" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
-    set(target fieldcal-${name})
+    set(target fieldcal_${name})
     if(NOT ARG_KIND)
         set(ARG_KIND STATIC)
     endif()

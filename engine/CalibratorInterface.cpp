@@ -68,8 +68,8 @@ bool CalibratorInterface::isSceneTooSimple() const {
 }
 
 void CalibratorInterface::measureInfraredBrightness(const fieldcal::ImageFrame16& infrared, std::uint16_t* brightness) {
-    *brightness = clippedMean(infrared.pixels(), static_cast<int>(infrared.width()),
-                              static_cast<int>(infrared.height()));
+    *brightness =
+        clippedMean(infrared.pixels(), static_cast<int>(infrared.width()), static_cast<int>(infrared.height()));
 }
 
 std::int32_t CalibratorInterface::resetState() {
@@ -98,7 +98,8 @@ std::int32_t CalibratorInterface::setCameraParameters(bool platformCamera) {
 
 float* CalibratorInterface::getTranslation(float out[3]) {
     const std::lock_guard guard(context_.lock);
-    for (int i = 0; i < 3; ++i) out[i] = context_.defaultExtrinsics(i, 3);
+    for (int i = 0; i < 3; ++i)
+        out[i] = context_.defaultExtrinsics(i, 3);
     return out;
 }
 

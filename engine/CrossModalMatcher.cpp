@@ -34,8 +34,7 @@ cv::Rect2f searchArea(const PositionTable::Quadrilateral& predicted, const cv::S
 }
 
 bool liesInside(const PositionTable::Quadrilateral& predicted, const cv::Point2f& point) {
-    const cv::Mat polygon(static_cast<int>(predicted.size()), 1, CV_32FC2,
-                          const_cast<cv::Point2f*>(predicted.data()));
+    const cv::Mat polygon(static_cast<int>(predicted.size()), 1, CV_32FC2, const_cast<cv::Point2f*>(predicted.data()));
     return cv::pointPolygonTest(polygon, point, true) >= -kOutsidePx;
 }
 

@@ -29,12 +29,15 @@ Histogram histogramOf(const std::uint16_t* pixels, std::size_t count) {
     };
     std::size_t i = 0;
     for (; i + 4 <= count; i += 4) {
-        for (std::size_t lane = 0; lane < 4; ++lane) add(parts[lane], pixels[i + lane]);
+        for (std::size_t lane = 0; lane < 4; ++lane)
+            add(parts[lane], pixels[i + lane]);
     }
-    for (; i < count; ++i) add(parts[0], pixels[i]);
+    for (; i < count; ++i)
+        add(parts[0], pixels[i]);
     Histogram sum{};
     for (std::size_t level = 0; level < kLevels; ++level) {
-        for (const Histogram& part : parts) sum[level] += part[level];
+        for (const Histogram& part : parts)
+            sum[level] += part[level];
     }
     return sum;
 }
@@ -108,7 +111,8 @@ void stretchHistogram(const cv::Mat& infrared16, cv::Mat* infrared8) {
         const RowStretch row(sums, squares, y, clamped.rows);
         const float* source = clamped.ptr<float>(y);
         std::uint8_t* target = infrared8->ptr<std::uint8_t>(y);
-        for (int x = 0; x < clamped.cols; ++x) target[x] = row.stretched(source[x], x, clamped.cols);
+        for (int x = 0; x < clamped.cols; ++x)
+            target[x] = row.stretched(source[x], x, clamped.cols);
     }
 }
 

@@ -23,8 +23,8 @@ void MatchGrid::add(const std::vector<cv::Point2f>& colourPoints, const std::vec
     for (std::size_t i = 0; i < infraredPoints.size(); ++i) {
         const cv::Point2f& p = infraredPoints[i];
         const cv::Point2f& q = colourPoints[i];
-        const bool inside = p.x >= 0 && p.y >= 0 && p.x < static_cast<float>(infraredWidth) &&
-                            p.y < static_cast<float>(infraredHeight);
+        const bool inside =
+            p.x >= 0 && p.y >= 0 && p.x < static_cast<float>(infraredWidth) && p.y < static_cast<float>(infraredHeight);
         if (!inside) continue;
         const int column = std::min(static_cast<int>(p.x) / cellWidth, columns_ - 1);
         const int row = std::min(static_cast<int>(p.y) / cellHeight, rows_ - 1);
@@ -43,14 +43,16 @@ void MatchGrid::countAndCut() {
         if (size <= limit) continue;
         drawDistinctIndices(limit, size, &kept);
         std::vector<CellCorrespondence> cut;
-        for (const int index : kept) cut.push_back(cell[static_cast<std::size_t>(index)]);
+        for (const int index : kept)
+            cut.push_back(cell[static_cast<std::size_t>(index)]);
         cell = std::move(cut);
     }
 }
 
 void MatchGrid::clear() {
     const std::lock_guard guard(lock_);
-    for (auto& cell : cells_) cell.clear();
+    for (auto& cell : cells_)
+        cell.clear();
 }
 
 void MatchGrid::sample(int perCell, std::vector<cv::Point2f>* infraredPoints,

@@ -46,8 +46,8 @@ struct WindowSums {
     }
 
 private:
-    void sumRow(const std::array<std::int32_t, kWindow>& columnSum, const std::array<std::int32_t, kWindow>& columnSquare,
-                int row) {
+    void sumRow(const std::array<std::int32_t, kWindow>& columnSum,
+                const std::array<std::int32_t, kWindow>& columnSquare, int row) {
         for (int x = 0; x < kSearch; ++x) {
             std::int32_t s = 0, q = 0;
             for (int i = 0; i < kPatch; ++i) {
@@ -67,11 +67,13 @@ public:
                 const cv::Point& infraredOrigin) {
         for (int y = 0; y < kPatch; ++y) {
             const auto* row = colour.ptr<std::uint8_t>(colourOrigin.y + y) + colourOrigin.x;
-            for (int x = 0; x < kPatch; ++x) patch_[static_cast<std::size_t>(y * kPatch + x)] = row[x];
+            for (int x = 0; x < kPatch; ++x)
+                patch_[static_cast<std::size_t>(y * kPatch + x)] = row[x];
         }
         for (int y = 0; y < kWindow; ++y) {
             const auto* row = infrared.ptr<std::uint8_t>(infraredOrigin.y - kReach + y) + infraredOrigin.x - kReach;
-            for (int x = 0; x < kWindow; ++x) window_[static_cast<std::size_t>(y * kWindow + x)] = row[x];
+            for (int x = 0; x < kWindow; ++x)
+                window_[static_cast<std::size_t>(y * kWindow + x)] = row[x];
         }
     }
 
@@ -113,7 +115,8 @@ private:
             const std::int16_t* row = &window_[static_cast<std::size_t>((dy + y) * kWindow)];
             for (int x = 0; x < kPatch; ++x) {
                 const std::int32_t weight = patch_[static_cast<std::size_t>(y * kPatch + x)];
-                for (int dx = 0; dx < kSearch + 1; ++dx) products[static_cast<std::size_t>(dx)] += weight * row[x + dx];
+                for (int dx = 0; dx < kSearch + 1; ++dx)
+                    products[static_cast<std::size_t>(dx)] += weight * row[x + dx];
             }
         }
         return products;

@@ -30,8 +30,7 @@ struct Candidate {
 };
 
 /// Judges a rotation on all pairs and keeps it in `best` if it wins.
-int judge(const RotationCost& cost, const Eigen::Vector3d& anglesRad, std::vector<double>* residuals,
-          Consensus* best) {
+int judge(const RotationCost& cost, const Eigen::Vector3d& anglesRad, std::vector<double>* residuals, Consensus* best) {
     cost.residuals(anglesRad, residuals);
     int inlierCount = 0;
     double error = 0;
@@ -39,8 +38,8 @@ int judge(const RotationCost& cost, const Eigen::Vector3d& anglesRad, std::vecto
         error += residual * residual;
         if (residual <= kInlierResidual) ++inlierCount;
     }
-    const bool wins = !best->found || inlierCount > best->inlierCount ||
-                      (inlierCount == best->inlierCount && error < best->error);
+    const bool wins =
+        !best->found || inlierCount > best->inlierCount || (inlierCount == best->inlierCount && error < best->error);
     if (!wins) return inlierCount;
     best->found = true;
     best->anglesRad = anglesRad;

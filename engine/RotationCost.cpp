@@ -129,8 +129,7 @@ void RotationCost::residuals(const Eigen::Vector3d& anglesRad, std::vector<doubl
 
 void RotationCost::distancesPx(const Eigen::Vector3d& anglesRad, std::vector<double>* out) const {
     out->resize(rays_.size());
-    visitDifferences(anglesRad,
-                     [&](std::size_t i, double u, double v) { (*out)[i] = std::sqrt(u * u + v * v); });
+    visitDifferences(anglesRad, [&](std::size_t i, double u, double v) { (*out)[i] = std::sqrt(u * u + v * v); });
 }
 
 }  // namespace vq

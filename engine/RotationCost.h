@@ -17,11 +17,11 @@ constexpr double kInlierResidual = static_cast<double>(0.02F);
 /// How the distance between a predicted and a matched colour point becomes residual terms. The engine uses `Cauchy`;
 /// the others stand here to be compared (docs/residual.md, benchmarks/).
 enum class ResidualForm {
-    Pixels,       ///< the two differences in pixels
-    Normalised,   ///< divided by the colour focal length
-    InlierScaled, ///< scaled so that `kInlierPx` gives the bound
-    Cauchy,       ///< in the direction of the difference, growing like √log beyond `kCauchyPx`
-    Bounded,      ///< in the direction of the difference, bounded (Geman and McClure)
+    Pixels,        ///< the two differences in pixels
+    Normalised,    ///< divided by the colour focal length
+    InlierScaled,  ///< scaled so that `kInlierPx` gives the bound
+    Cauchy,        ///< in the direction of the difference, growing like √log beyond `kCauchyPx`
+    Bounded,       ///< in the direction of the difference, bounded (Geman and McClure)
 };
 
 /// The difference of two matched corners at which the Cauchy form turns from linear to logarithmic, in pixels: twice

@@ -22,7 +22,9 @@ constexpr int kMinimumInliers = 12;
 /// A second rotation that explains this share of what the winner explains makes the scene ambiguous.
 constexpr double kRivalShare = 0.5;
 
-Eigen::Vector3d unsetAngles() { return Eigen::Vector3d::Constant(std::numeric_limits<double>::quiet_NaN()); }
+Eigen::Vector3d unsetAngles() {
+    return Eigen::Vector3d::Constant(std::numeric_limits<double>::quiet_NaN());
+}
 
 /// How well a rotation explains the pairs: 1 minus the mean residual. Stable from round to round.
 void judgeFit(const RotationCost& cost, const Eigen::Vector3d& anglesRad, float* score, float* error, int* inliers) {
@@ -74,12 +76,14 @@ bool RotationEstimator::estimateRotationByVoting(const MatchGrid& grid, int supp
     std::vector<Round> rounds(kRounds);
     drawRounds(grid, supportCount, &rounds);
     const auto estimateFrom = [&](std::size_t first) {
-        for (std::size_t i = first; i < rounds.size(); i += 2) estimateRound(&rounds[i]);
+        for (std::size_t i = first; i < rounds.size(); i += 2)
+            estimateRound(&rounds[i]);
     };
     auto odd = std::async(std::launch::async, estimateFrom, 1);
     estimateFrom(0);
     odd.get();
-    for (const Round& round : rounds) votes_.add(round.anglesRad, round.score, round.error, round.weight);
+    for (const Round& round : rounds)
+        votes_.add(round.anglesRad, round.score, round.error, round.weight);
 
     *anglesRad = unsetAngles();
     const RotationVoteStore::Record* best = votes_.best();
@@ -106,8 +110,8 @@ void RotationEstimator::drawRounds(const MatchGrid& grid, int perCell, std::vect
 void RotationEstimator::estimateRound(Round* round) const {
     if (round->samples.empty()) return;
     const RotationCost cost(round->infraredPoints, round->colourPoints, search_.cameras);
-    const Consensus consensus = findConsensus(cost, round->infraredPoints, round->samples,
-                                              search_.initialAnglesRad.cast<double>(), stop_);
+    const Consensus consensus =
+        findConsensus(cost, round->infraredPoints, round->samples, search_.initialAnglesRad.cast<double>(), stop_);
     if (refineRotation(cost, consensus, &round->anglesRad, &round->score, &round->error)) {
         round->weight = cost.pairs();
     }

@@ -103,11 +103,11 @@ void SensorCalibrator::generateMatches(bool keep, MatchLists* beforeVerification
 void SensorCalibrator::appendToAttempt() {
     std::vector<cv::Point2f> colourModelPoints;
     colourModelPoints.reserve(matches_.colour.size());
-    for (const cv::Point2f& point : matches_.colour) colourModelPoints.push_back(cameras_.colourModelPoint(point));
+    for (const cv::Point2f& point : matches_.colour)
+        colourModelPoints.push_back(cameras_.colourModelPoint(point));
     grid_.add(colourModelPoints, matches_.infrared, cameras_.infrared.width, cameras_.infrared.height);
     attemptMatches_.colour.insert(attemptMatches_.colour.end(), colourModelPoints.begin(), colourModelPoints.end());
-    attemptMatches_.infrared.insert(attemptMatches_.infrared.end(), matches_.infrared.begin(),
-                                    matches_.infrared.end());
+    attemptMatches_.infrared.insert(attemptMatches_.infrared.end(), matches_.infrared.begin(), matches_.infrared.end());
 }
 
 bool SensorCalibrator::hasEnoughFilledCells() const {

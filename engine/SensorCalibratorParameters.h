@@ -7,10 +7,10 @@ namespace vq {
 
 /// How 16-bit infrared becomes 8 bits.
 enum InfraredConversionMode : std::int32_t {
-    LinearConversion = 0,     ///< 0..1023 onto 0..255
-    HistogramStretch = 1,     ///< clipped, locally normalised stretch
-    SquareRootConversion = 2, ///< the square root of the value: equal steps for equal shot noise
-    ClampConversion = 3,      ///< values kept, 255 and above become 255
+    LinearConversion = 0,      ///< 0..1023 onto 0..255
+    HistogramStretch = 1,      ///< clipped, locally normalised stretch
+    SquareRootConversion = 2,  ///< the square root of the value: equal steps for equal shot noise
+    ClampConversion = 3,       ///< values kept, 255 and above become 255
 };
 
 /// The tuning record. Fields without a meaning of their own hold their place in the record's order.

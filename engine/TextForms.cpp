@@ -52,7 +52,8 @@ std::string matrixText(const Eigen::Matrix<double, 3, 4>& matrix) {
 
 std::string vectorText(const Eigen::VectorXd& vector) {
     std::string text;
-    for (const double element : vector) text += formatString("%f ", element);
+    for (const double element : vector)
+        text += formatString("%f ", element);
     return text;
 }
 

@@ -1,0 +1,68 @@
+#include "diagnostics/Logger.h"
+#include "tools/CommandLine.h"
+#include "tools/RecordingCalibration.h"
+#include "tools/Verbs.h"
+
+#include <QFile>
+
+#include <cstdio>
+#include <cstdlib>
+#include <random>
+
+namespace fieldcal {
+namespace {
+
+void printLine(const QString& line) {
+    std::printf("%s\n", qPrintable(line));
+    std::fflush(stdout);
+}
+
+int fail(const QString& why) {
+    std::fprintf(stderr, "%s\n", qPrintable(why));
+    return kFailed;
+}
+
+void discardLogLine(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+/// Standard error is for the one line that says why the command failed.
+void silenceLogs() {
+    setLogLevel(-1);
+    qInstallMessageHandler(discardLogLine);
+}
+
+bool writeJson(const QString& path, const QByteArray& json) {
+    QFile file(path);
+    const bool opened = path == "-" ? file.open(stdout, QIODevice::WriteOnly) : file.open(QIODevice::WriteOnly);
+    return opened && file.write(json) == json.size() && file.flush();
+}
+
+}  // namespace
+
+int runCalibrate(const QStringList& arguments) {
+    QString why;
+    const auto options = parseCalibrate(arguments, &why);
+    if (!options) return refuseUsage(why);
+    if (!options->verbose) silenceLogs();
+
+    const std::string folder = options->folder.toStdString();
+    session::SessionDescription session;
+    std::string reason;
+    if (!session::readDescription(folder, &session, &reason) || !session::verify(folder, &reason)) {
+        return fail(QString::fromStdString(reason));
+    }
+    if (options->platformCamera && !session.platform) return refuseUsage("the recording has no platform camera");
+
+    std::srand(options->seed ? *options->seed : std::random_device{}());
+    const bool toPeople = options->jsonFile != "-";
+    RecordingCalibration calibration(folder, session, options->platformCamera, toPeople ? printLine : nullptr);
+    if (!calibration.run(&why)) return fail(why);
+
+    const CalibrationReport& report = calibration.report();
+    if (toPeople) std::printf("%s", qPrintable(reportText(report)));
+    if (!options->jsonFile.isEmpty() && !writeJson(options->jsonFile, reportJson(report))) {
+        return fail(options->jsonFile + ": cannot be written");
+    }
+    return report.solved ? kSolved : kNotSolved;
+}
+
+}  // namespace fieldcal

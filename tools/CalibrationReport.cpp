@@ -1,0 +1,108 @@
+#include "tools/CalibrationReport.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cmath>
+
+namespace fieldcal {
+namespace {
+
+template <typename Numbers>
+QJsonArray jsonNumbers(const Numbers& numbers) {
+    QJsonArray array;
+    for (const double number : numbers)
+        array.append(number);
+    return array;
+}
+
+QJsonObject jsonPair(const PairReport& pair) {
+    return {{"detected", QJsonArray{pair.statistics.infraredCorners, pair.statistics.colourCorners}},
+            {"matched", pair.statistics.matched},
+            {"verified", pair.statistics.verified},
+            {"code", pair.code},
+            {"seconds", pair.seconds}};
+}
+
+/// Everything between the pictures and the descriptor matches.
+double matchingSeconds(const CalibrationReport& report) {
+    using Statistics = vq::PairStatistics;
+    return report.stageSeconds(&Statistics::conversionSeconds) + report.stageSeconds(&Statistics::detectionSeconds) +
+           report.stageSeconds(&Statistics::descriptionSeconds) + report.stageSeconds(&Statistics::matchingSeconds);
+}
+
+QJsonObject jsonSeconds(const CalibrationReport& report) {
+    return {{"total", report.totalSeconds},
+            {"frames", report.frameSeconds},
+            {"matching", matchingSeconds(report)},
+            {"verification", report.stageSeconds(&vq::PairStatistics::verificationSeconds)},
+            {"estimation", report.stageSeconds(&vq::PairStatistics::estimationSeconds)}};
+}
+
+}  // namespace
+
+double CalibrationReport::stageSeconds(double vq::PairStatistics::*stage) const {
+    double sum = 0;
+    for (const PairReport& pair : pairs)
+        sum += pair.statistics.*stage;
+    return sum;
+}
+
+double rotationDifferenceDeg(const Matrix3& a, const Matrix3& b) {
+    Matrix3 d{};
+    for (std::size_t row = 0; row < 3; ++row) {
+        for (std::size_t column = 0; column < 3; ++column) {
+            for (std::size_t k = 0; k < 3; ++k)
+                d[row * 3 + column] += a[row * 3 + k] * b[column * 3 + k];
+        }
+    }
+    // By sine and cosine: the arc cosine alone loses small angles in rounding.
+    const double sine = std::sqrt(std::pow(d[7] - d[5], 2) + std::pow(d[2] - d[6], 2) + std::pow(d[3] - d[1], 2)) / 2;
+    const double cosine = (d[0] + d[4] + d[8] - 1.0) / 2.0;
+    return std::atan2(sine, cosine) * 57.29577951308232;
+}
+
+QByteArray reportJson(const CalibrationReport& report) {
+    QJsonArray perPair;
+    for (const PairReport& pair : report.pairs)
+        perPair.append(jsonPair(pair));
+    const QJsonObject object{
+        {"solved", report.solved},
+        {"camera", report.platformCamera ? "platform" : "third"},
+        {"pairs", static_cast<int>(report.pairs.size())},
+        {"framesUsed", report.framesUsed},
+        {"anglesDeg", jsonNumbers(report.anglesDeg)},
+        {"rotation", jsonNumbers(report.rotation)},
+        {"factoryRotation", jsonNumbers(report.factoryRotation)},
+        {"errorDeg", report.errorDeg ? QJsonValue(*report.errorDeg) : QJsonValue()},
+        {"uncertaintyDeg", report.uncertaintyDeg ? QJsonValue(jsonNumbers(*report.uncertaintyDeg)) : QJsonValue()},
+        {"perPair", perPair},
+        {"seconds", jsonSeconds(report)}};
+    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+}
+
+QString reportText(const CalibrationReport& report) {
+    const QString took = QString("%1 pairs from %2 frames in %3 s")
+                             .arg(report.pairs.size())
+                             .arg(report.framesUsed)
+                             .arg(report.totalSeconds, 0, 'f', 2);
+    if (!report.solved) return "not solved: " + took + "\n";
+    QString text = QString("solved: %1\n").arg(took);
+    text += QString("angles about X, Y, Z: %1 %2 %3 degrees\n")
+                .arg(report.anglesDeg[0], 0, 'f', 4)
+                .arg(report.anglesDeg[1], 0, 'f', 4)
+                .arg(report.anglesDeg[2], 0, 'f', 4);
+    if (report.uncertaintyDeg) {
+        text += QString("uncertainty (one deviation): %1 %2 %3 degrees\n")
+                    .arg((*report.uncertaintyDeg)[0], 0, 'f', 4)
+                    .arg((*report.uncertaintyDeg)[1], 0, 'f', 4)
+                    .arg((*report.uncertaintyDeg)[2], 0, 'f', 4);
+    }
+    text += QString("changed from the factory rotation by %1 degrees\n")
+                .arg(rotationDifferenceDeg(report.rotation, report.factoryRotation), 0, 'f', 4);
+    if (report.errorDeg) text += QString("off the truth by %1 degrees\n").arg(*report.errorDeg, 0, 'f', 4);
+    return text;
+}
+
+}  // namespace fieldcal

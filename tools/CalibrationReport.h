@@ -1,0 +1,45 @@
+#pragma once
+
+#include "engine/CrossModalMatcher.h"
+
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace fieldcal {
+
+using Matrix3 = std::array<double, 9>;  ///< row-major
+
+struct PairReport {
+    vq::PairStatistics statistics;
+    std::int32_t code = 0;  ///< the engine's answer
+    double seconds = 0;     ///< from the pictures to the answer
+};
+
+/// What playing a recording brought.
+struct CalibrationReport {
+    bool solved = false;
+    bool platformCamera = false;
+    int framesUsed = 0;                 ///< frame sets grabbed
+    std::array<double, 3> anglesDeg{};  ///< of `rotation`, about X, Y and Z
+    Matrix3 rotation{};                 ///< depth to colour; the factory rotation when not solved
+    Matrix3 factoryRotation{};
+    std::optional<double> errorDeg;                       ///< only when solved and when the recording holds the truth
+    std::optional<std::array<double, 3>> uncertaintyDeg;  ///< one standard deviation of each angle
+    std::vector<PairReport> pairs;                        ///< of all attempts
+    double totalSeconds = 0;
+    double frameSeconds = 0;  ///< grabbing, brightness and frame selection of all frames
+
+    double stageSeconds(double vq::PairStatistics::*stage) const;
+};
+
+/// The angle of a · bᵀ in degrees.
+double rotationDifferenceDeg(const Matrix3& a, const Matrix3& b);
+
+QByteArray reportJson(const CalibrationReport& report);
+QString reportText(const CalibrationReport& report);
+
+}  // namespace fieldcal

@@ -1,0 +1,115 @@
+#include "tools/CommandLine.h"
+
+namespace fieldcal {
+namespace {
+
+/// Walks over the arguments: options by name, at most one folder.
+class Arguments {
+public:
+    Arguments(const QStringList& all, QString* why) : all_(all), why_(why) {}
+
+    bool next() {
+        if (failed_ || ++position_ >= all_.size()) return false;
+        current_ = all_[position_];
+        return true;
+    }
+    bool is(const char* option) const { return current_ == QLatin1String(option); }
+
+    QString value() {
+        if (position_ + 1 < all_.size()) return all_[++position_];
+        fail(current_ + " needs a value");
+        return {};
+    }
+    unsigned number(unsigned smallest, unsigned largest) {
+        const QString option = current_;
+        const QString text = value();
+        bool isNumber = false;
+        const unsigned number = text.toUInt(&isNumber);
+        if (!failed_ && !(isNumber && number >= smallest && number <= largest)) {
+            fail(QString("%1 takes a whole number from %2 to %3, not '%4'")
+                     .arg(option)
+                     .arg(smallest)
+                     .arg(largest)
+                     .arg(text));
+        }
+        return number;
+    }
+    void takeFolder(QString* folder) {
+        if (current_.startsWith('-') && current_.size() > 1) {
+            fail(QString("unknown option %1").arg(current_));
+        } else if (!folder->isEmpty()) {
+            fail(QString("one folder too many: %1").arg(current_));
+        } else {
+            *folder = current_;
+        }
+    }
+    void fail(const QString& reason) {
+        if (!failed_) *why_ = reason;
+        failed_ = true;
+    }
+    bool finish(const QString& folder) {
+        if (folder.isEmpty()) fail("a folder is missing");
+        return !failed_;
+    }
+
+private:
+    QStringList all_;
+    QString* why_;
+    QString current_;
+    int position_ = -1;
+    bool failed_ = false;
+};
+
+constexpr unsigned kLargestSeed = 0xFFFFFFFFU;
+
+}  // namespace
+
+std::optional<CalibrateOptions> parseCalibrate(const QStringList& all, QString* why) {
+    CalibrateOptions options;
+    Arguments arguments(all, why);
+    while (arguments.next()) {
+        if (arguments.is("--camera")) {
+            const QString camera = arguments.value();
+            options.platformCamera = camera == "platform";
+            if (camera != "platform" && camera != "third") arguments.fail("--camera takes third or platform");
+        } else if (arguments.is("--seed")) {
+            options.seed = arguments.number(0, kLargestSeed);
+        } else if (arguments.is("--json")) {
+            options.jsonFile = arguments.value();
+        } else if (arguments.is("--verbose")) {
+            options.verbose = true;
+        } else {
+            arguments.takeFolder(&options.folder);
+        }
+    }
+    if (!arguments.finish(options.folder)) return std::nullopt;
+    return options;
+}
+
+std::optional<SynthesizeOptions> parseSynthesize(const QStringList& all, QString* why) {
+    SynthesizeOptions options;
+    Arguments arguments(all, why);
+    while (arguments.next()) {
+        if (arguments.is("--world")) {
+            options.world = arguments.value().toStdString();
+        } else if (arguments.is("--seed")) {
+            options.seed = arguments.number(0, kLargestSeed);
+        } else if (arguments.is("--stills")) {
+            options.stills = static_cast<int>(arguments.number(1, 999));
+        } else if (arguments.is("--platform")) {
+            options.platform = true;
+        } else {
+            arguments.takeFolder(&options.folder);
+        }
+    }
+    if (!arguments.finish(options.folder)) return std::nullopt;
+    return options;
+}
+
+QString usageText() {
+    return "usage: fieldcal-session calibrate DIR [--camera third|platform] [--seed N] [--json FILE|-] [--verbose]\n"
+           "       fieldcal-session synthesize DIR [--world NAME] [--seed N] [--stills N] [--platform]\n"
+           "       fieldcal-session info DIR\n";
+}
+
+}  // namespace fieldcal

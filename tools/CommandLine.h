@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <string>
+
+namespace fieldcal {
+
+/// Exit statuses of the command line.
+enum ExitStatus : int {
+    kSolved = 0,
+    kFailed = 1,     ///< unreadable recording or device failure
+    kUsage = 2,      ///< wrong usage
+    kNotSolved = 3,  ///< played to the end without a good solution
+};
+
+struct CalibrateOptions {
+    QString folder;
+    bool platformCamera = false;
+    std::optional<unsigned> seed;
+    QString jsonFile;  ///< empty: none; "-": standard output, instead of the text for people
+    bool verbose = false;
+};
+
+struct SynthesizeOptions {
+    QString folder;
+    std::string world = "square";
+    unsigned seed = 1;
+    int stills = 8;
+    bool platform = false;
+};
+
+/// Arguments after the verb. None, and `why`, when they are wrong.
+std::optional<CalibrateOptions> parseCalibrate(const QStringList& arguments, QString* why);
+std::optional<SynthesizeOptions> parseSynthesize(const QStringList& arguments, QString* why);
+
+QString usageText();
+
+}  // namespace fieldcal

@@ -1,0 +1,135 @@
+#include "tools/RecordingCalibration.h"
+
+#include "devices/CameraParameterReader.h"
+#include "engine/Rotation.h"
+
+#include <utility>
+
+namespace fieldcal {
+namespace {
+
+const ImageFrame32& colourOf(const FrameRecords& frames, bool platformCamera) {
+    return platformCamera ? frames.outOfModuleColour : frames.inModuleColour;
+}
+
+Matrix3 widened(const std::array<float, 9>& matrix) {
+    Matrix3 wide{};
+    for (std::size_t i = 0; i < wide.size(); ++i)
+        wide[i] = static_cast<double>(matrix[i]);
+    return wide;
+}
+
+}  // namespace
+
+RecordingCalibration::RecordingCalibration(std::string folder, session::SessionDescription session, bool platformCamera,
+                                           std::function<void(const QString&)> say)
+    : folder_(std::move(folder)),
+      session_(std::move(session)),
+      platformCamera_(platformCamera),
+      say_(std::move(say)),
+      engine_(context_, parameters_) {}
+
+bool RecordingCalibration::run(QString* why) {
+    vq::Stopwatch watch;
+    qputenv("KXSIM_SESSION", QByteArray::fromStdString(folder_));
+    qputenv("KXSIM_SPEED", "0");
+    bool played = false;
+    {
+        Sensor sensor;
+        if (open(sensor, why)) {
+            CalibrationAttempt attempt(engine_, *this, light_, sensor.settings().attemptLimit);
+            attempt.start(platformCamera_);
+            played = play(sensor, attempt);
+            finish(attempt.state() == State::FoundGoodSolution);
+        }
+    }
+    report_.totalSeconds = watch.lap();
+    if (!deviceError_.isEmpty()) *why = deviceError_;
+    return played && deviceError_.isEmpty();
+}
+
+bool RecordingCalibration::open(Sensor& sensor, QString* why) {
+    const auto report = [this](const QString& text) {
+        if (deviceError_.isEmpty()) deviceError_ = QString(text).replace('\n', ' ');
+    };
+    QObject::connect(&sensor, &Sensor::signal_reportKXAPIError, report);
+    QObject::connect(&sensor, &Sensor::signal_reportMissingQ550Device,
+                     [report] { report("The depth camera was not found."); });
+    QObject::connect(&sensor, &Sensor::signal_reportMissingPlatformCamera,
+                     [report] { report("The rear camera was not found."); });
+    QObject::connect(&sensor, &Sensor::signal_reportPlatformCameraIssue,
+                     [report] { report("The rear camera does not deliver pictures."); });
+    SensorSettings settings = applicationSettings();
+    settings.usePlatformCamera = session_.platform.has_value();
+    *why = "The camera could not be opened.";
+    if (!sensor.open(settings) || !readCameraParameters(sensor, &parameters_, [] {})) return false;
+    if (!platformCamera_ || sensor.settings().usePlatformCamera) return true;
+    *why = "The module has no usable calibration of the rear camera.";
+    return false;
+}
+
+/// False when the sensor fails before the recording ends.
+bool RecordingCalibration::play(Sensor& sensor, CalibrationAttempt& attempt) {
+    const int grabs = session_.grabCount();
+    vq::Stopwatch frameWatch;
+    while (report_.framesUsed < grabs && attempt.state() != State::FoundGoodSolution) {
+        if (attempt.state() == State::WaitingToCalibrate) attempt.start(platformCamera_);
+        const std::size_t pairsBefore = report_.pairs.size();
+        frameWatch.lap();
+        if (!sensor.grab(true) || !deviceError_.isEmpty()) return false;
+        ++report_.framesUsed;
+        attempt.processFrame(sensor.frames().leftInfrared, colourOf(sensor.frames(), platformCamera_));
+        report_.frameSeconds += frameWatch.lap();
+        if (report_.pairs.size() > pairsBefore) report_.frameSeconds -= report_.pairs.back().seconds;
+    }
+    return true;
+}
+
+void RecordingCalibration::finish(bool solved) {
+    const auto& factory = platformCamera_ ? parameters_.depthToOutOfModule : parameters_.depthToInModule;
+    report_.platformCamera = platformCamera_;
+    report_.factoryRotation = report_.rotation = widened(factory.rotation);
+    report_.solved = solved;
+    if (solved) {
+        std::array<float, 9> rotation{};
+        engine_.getRotationMatrix(rotation.data());
+        report_.rotation = widened(rotation);
+        report_.uncertaintyDeg = engine_.calibrator().deviationDeg();
+        const auto& truth = platformCamera_ ? session_.truthPlatform : session_.truthThird;
+        if (truth) report_.errorDeg = rotationDifferenceDeg(report_.rotation, *truth);
+    }
+    const Eigen::Vector3d anglesRad =
+        vq::anglesFromRotation(Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(report_.rotation.data()));
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        report_.anglesDeg[axis] = anglesRad[static_cast<Eigen::Index>(axis)] * vq::kDegreesPerRadian;
+    }
+}
+
+void RecordingCalibration::pairCaptured() {
+    pairWatch_.lap();
+}
+
+void RecordingCalibration::pairProcessed(const vq::CalibratorResult& result) {
+    PairReport pair{engine_.calibrator().statistics(), result.code, pairWatch_.lap()};
+    report_.pairs.push_back(pair);
+    if (!say_) return;
+    say_(QString("pair %1: %2 infrared and %3 colour corners, %4 matched, %5 verified; answer %6, %7 ms")
+             .arg(report_.pairs.size())
+             .arg(pair.statistics.infraredCorners)
+             .arg(pair.statistics.colourCorners)
+             .arg(pair.statistics.matched)
+             .arg(pair.statistics.verified)
+             .arg(result.code)
+             .arg(pair.seconds * 1e3, 0, 'f', 0));
+}
+
+void RecordingCalibration::startText(const std::string& text) {
+    if (say_) say_(QString::fromStdString(text).replace('\n', ' '));
+}
+
+void RecordingCalibration::returnToWellLitArea(bool needed) {
+    if (say_ && needed && !dark_) say_("too dark: waiting for sunlight");
+    dark_ = needed;
+}
+
+}  // namespace fieldcal

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "camera/CameraParameters.h"
+#include "devices/Sensor.h"
+#include "engine/CalibratorInterface.h"
+#include "engine/Stopwatch.h"
+#include "session/RecordedSession.h"
+#include "tools/CalibrationReport.h"
+#include "workflow/CalibrationAttempt.h"
+
+#include <QString>
+
+#include <functional>
+#include <string>
+
+namespace fieldcal {
+
+/// Plays a recording once through sensor, frame path, attempt and engine, as the application would; an attempt that
+/// fails is started again at once, as a user would. One thread.
+class RecordingCalibration : private AttemptListener {
+public:
+    /// `say` receives what happens, a line at a time; may be empty.
+    RecordingCalibration(std::string folder, session::SessionDescription session, bool platformCamera,
+                         std::function<void(const QString&)> say);
+
+    /// False when the device fails, and `why` then says how in one line.
+    bool run(QString* why);
+    const CalibrationReport& report() const { return report_; }
+
+private:
+    bool open(Sensor& sensor, QString* why);
+    bool play(Sensor& sensor, CalibrationAttempt& attempt);
+    void finish(bool solved);
+    void pairProcessed(const vq::CalibratorResult& result) override;
+    void pairCaptured() override;
+    void startText(const std::string& text) override;
+    void returnToWellLitArea(bool needed) override;
+
+    const std::string folder_;
+    const session::SessionDescription session_;
+    const bool platformCamera_;
+    const std::function<void(const QString&)> say_;
+    QString deviceError_;
+    CameraParameters parameters_;
+    vq::RegistrationContext context_;
+    vq::CalibratorInterface engine_;
+    LightGate light_;
+    CalibrationReport report_;
+    vq::Stopwatch pairWatch_;
+    bool dark_ = false;
+};
+
+}  // namespace fieldcal

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "engine/CalibratorResult.h"
+#include "workflow/State.h"
+
+#include <string>
+
+namespace fieldcal {
+
+/// What a calibration attempt tells the user and its driver. Called on the thread that drives the attempt; an
+/// implementation overrides what it shows.
+class AttemptListener {
+public:
+    virtual ~AttemptListener() = default;
+
+    virtual void stateChanged(State) {}
+    /// The instruction of the moment; an empty text hides the line.
+    virtual void movementText(const std::string&) {}
+    /// Shown where an attempt is started: why the last one failed.
+    virtual void startText(const std::string&) {}
+    /// 0..1.
+    virtual void calibrationProgress(double) {}
+    virtual void returnToWellLitArea(bool /*needed*/) {}
+    /// A pair is being taken.
+    virtual void pairCaptured() {}
+    /// A pair has been matched, and a calibration tried with it.
+    virtual void pairProcessed(const vq::CalibratorResult&) {}
+    virtual void offerHowToMove() {}
+};
+
+}  // namespace fieldcal

@@ -1,0 +1,94 @@
+#include "workflow/CalibrationAttempt.h"
+
+#include <QtGlobal>
+
+namespace fieldcal {
+namespace {
+
+constexpr const char* kTooSimpleText =
+    "Calibration isn't working because the scenery in these photos is too simple.\n"
+    "Let's try again. Point at interesting scenery like buildings or trees.";
+
+}  // namespace
+
+double progressAfterPairs(std::int32_t pairs) {
+    return pairs <= 4 ? pairs / 5.0 : 0.9;
+}
+
+CalibrationAttempt::CalibrationAttempt(vq::ICalibrator& calibrator, AttemptListener& listener, const LightGate& light,
+                                       std::int32_t pairLimit)
+    : calibrator_(calibrator), listener_(listener), light_(light), pairLimit_(pairLimit) {}
+
+void CalibrationAttempt::start(bool secondCamera) {
+    calibrator_.setCameraParameters(secondCamera);
+    calibrator_.setup();
+    photoCount_ = 0;
+    enter(State::ProcessingFrame);
+    listener_.calibrationProgress(0.0);
+}
+
+State CalibrationAttempt::processFrame(const ImageFrame16& infrared, const ImageFrame32& colour) {
+    if (state_ != State::ProcessingFrame || infrared.empty() || colour.empty()) return state_;
+    qInfo("Checking the lighting condition...");
+    std::uint16_t brightness = 0;
+    calibrator_.measureInfraredBrightness(infrared, &brightness);
+    const bool lit = light_.isLitForCapture(brightness);
+    listener_.returnToWellLitArea(!lit);
+    if (!lit) {
+        listener_.movementText("");
+        return state_;
+    }
+    switch (calibrator_.inputFramesAndCheckMovement(infrared, colour).code) {
+        case vq::RotateDevice:
+            listener_.movementText("Move the device to capture a different calibration photo.");
+            break;
+        case vq::RemainStill:
+            listener_.movementText("Pause to capture a calibration photo.");
+            break;
+        case vq::ProcessImagePair:
+            addPair();
+            break;
+        default:
+            break;
+    }
+    return state_;
+}
+
+void CalibrationAttempt::addPair() {
+    qInfo("Adding new infrared color pair...");
+    listener_.pairCaptured();
+    const vq::CalibratorResult result = calibrator_.inputImageAndTryCalibration();
+    ++photoCount_;
+    listener_.calibrationProgress(progressAfterPairs(photoCount_));
+    listener_.pairProcessed(result);
+    act(result);
+}
+
+/// A solution counts even when the last permitted pair brought it.
+void CalibrationAttempt::act(const vq::CalibratorResult& result) {
+    if (result.code == vq::GoodSolution) {
+        qInfo("Found a good solution!");
+        enter(State::FoundGoodSolution);
+        return;
+    }
+    if (result.code == vq::NeedMoreImages) qInfo("Could not get a sample set from this image..");
+    if (result.code == vq::AddingFramesForConvergence) qInfo("Continue processing");
+    if (result.code == vq::SceneTooSimple || photoCount_ >= pairLimit_) fail();
+}
+
+void CalibrationAttempt::fail() {
+    photoCount_ = 0;
+    state_ = State::WaitingToCalibrate;
+    calibrator_.resetState();
+    listener_.startText(kTooSimpleText);
+    listener_.movementText("");
+    listener_.offerHowToMove();
+    listener_.stateChanged(state_);
+}
+
+void CalibrationAttempt::enter(State state) {
+    state_ = state;
+    listener_.stateChanged(state);
+}
+
+}  // namespace fieldcal
