@@ -1,0 +1,194 @@
+#include "tests/simulator/TestModule.h"
+
+#include <functional>
+
+namespace {
+
+enum class Stage { created, opened, ready, capturing };
+
+/// An operation, the stage from which on it succeeds, and whether it may be called a second time there.
+struct Call {
+    std::string name;
+    Stage from;
+    bool again;
+    std::function<bool(KXDevice&)> call;
+};
+
+template <typename Record>
+bool discard(bool (KXDevice::*query)(Record*), KXDevice& device) {
+    Record record{};
+    return (device.*query)(&record);
+}
+
+template <typename Record>
+bool discardThird(bool (KXThirdCamera::*query)(Record*), KXDevice& device) {
+    Record record{};
+    return (device.thirdCamera()->*query)(&record);
+}
+
+template <typename Record>
+bool discardPlatform(bool (KXPlatformCamera::*query)(Record*), std::int32_t mode, KXDevice& device) {
+    Record record{};
+    device.platformCamera()->setPlatformMode(mode, 1280, 720);
+    return (device.platformCamera()->*query)(&record);
+}
+
+const Call kCalls[] = {
+    {"openDevice", Stage::created, false, [](auto& d) { return d.openDevice(-1); }},
+    {"initDevice", Stage::opened, false, [](auto& d) { return d.initDevice(); }},
+    {"serialNumber", Stage::opened, true, [](auto& d) { return discard(&KXDevice::serialNumber, d); }},
+    {"calibrationValid", Stage::opened, true, [](auto& d) { return d.calibrationValid(); }},
+    {"thirdCamera", Stage::opened, true, [](auto& d) { return d.thirdCamera() != nullptr; }},
+    {"hardwareControl", Stage::opened, true, [](auto& d) { return d.hardwareControl() != nullptr; }},
+    {"emitterControl", Stage::opened, true, [](auto& d) { return d.emitterControl() != nullptr; }},
+    {"platformCamera", Stage::opened, true, [](auto& d) { return d.platformCamera() != nullptr; }},
+    {"setDepthEnabled", Stage::ready, true, [](auto& d) { return d.setDepthEnabled(true); }},
+    {"setLeftEnabled", Stage::ready, true, [](auto& d) { return d.setLeftEnabled(true); }},
+    {"setRightEnabled", Stage::ready, true, [](auto& d) { return d.setRightEnabled(true); }},
+    {"setStreamOption", Stage::ready, true, [](auto& d) { return d.setStreamOption(true); }},
+    {"setDepthStreamMode", Stage::ready, true, [](auto& d) { return d.setDepthStreamMode(true, 628, 468, 60, 1); }},
+    {"rectifiedLRIntrinsics", Stage::ready, true, [](auto& d) { return discard(&KXDevice::rectifiedLRIntrinsics, d); }},
+    {"zIntrinsics", Stage::ready, true, [](auto& d) { return discard(&KXDevice::zIntrinsics, d); }},
+    {"rectParameters", Stage::ready, true, [](auto& d) { return discard(&KXDevice::rectParameters, d); }},
+    {"setAutoExposure", Stage::ready, true, [](auto& d) { return d.hardwareControl()->setAutoExposure(3, true); }},
+    {"setGain", Stage::ready, true, [](auto& d) { return d.hardwareControl()->setGain(1, 3); }},
+    {"setExposure", Stage::ready, true, [](auto& d) { return d.hardwareControl()->setExposure(16, 3); }},
+    {"setHardwareOption", Stage::ready, true, [](auto& d) { return d.hardwareControl()->setHardwareOption(true, 16); }},
+    {"setEmitter", Stage::ready, true, [](auto& d) { return d.emitterControl()->setEmitter(false); }},
+    {"setThirdEnabled", Stage::ready, true, [](auto& d) { return d.thirdCamera()->setThirdEnabled(true); }},
+    {"setThirdStreamMode", Stage::ready, true,
+     [](auto& d) { return d.thirdCamera()->setThirdStreamMode(true, 640, 480, 30, 3); }},
+    {"rectifiedThirdIntrinsics", Stage::ready, true,
+     [](auto& d) { return discardThird(&KXThirdCamera::rectifiedThirdIntrinsics, d); }},
+    {"zToThirdExtrinsics", Stage::ready, true,
+     [](auto& d) { return discardThird(&KXThirdCamera::zToThirdExtrinsics, d); }},
+    {"setPlatformMode", Stage::ready, true, [](auto& d) { return d.platformCamera()->setPlatformMode(1, 1280, 720); }},
+    {"nonRectifiedIntrinsics", Stage::ready, true,
+     [](auto& d) { return discardPlatform(&KXPlatformCamera::nonRectifiedIntrinsics, 0, d); }},
+    {"rectifiedIntrinsics", Stage::ready, true,
+     [](auto& d) { return discardPlatform(&KXPlatformCamera::rectifiedIntrinsics, 1, d); }},
+    {"rectificationRotation", Stage::ready, true,
+     [](auto& d) { return d.platformCamera()->rectificationRotation() != nullptr; }},
+    {"zToPlatformExtrinsics", Stage::ready, true,
+     [](auto& d) { return discardPlatform(&KXPlatformCamera::zToPlatformExtrinsics, 1, d); }},
+    {"startCapture", Stage::ready, false, [](auto& d) { return d.startCapture(); }},
+    {"depthEnabled", Stage::ready, true, [](auto& d) { return d.depthEnabled(); }},
+    {"leftEnabled", Stage::ready, true, [](auto& d) { return d.leftEnabled(); }},
+    {"rightEnabled", Stage::ready, true, [](auto& d) { return d.rightEnabled(); }},
+    {"thirdEnabled", Stage::ready, true, [](auto& d) { return d.thirdCamera()->thirdEnabled(); }},
+    {"grab", Stage::capturing, true, [](auto& d) { return d.grab(true); }},
+    {"stopCapture", Stage::capturing, false, [](auto& d) { return d.stopCapture(); }},
+};
+
+const char* const kOnlyAtRest[] = {"setDepthEnabled",    "setLeftEnabled",  "setRightEnabled",    "setStreamOption",
+                                   "setDepthStreamMode", "setThirdEnabled", "setThirdStreamMode", "startCapture"};
+
+class Order : public ModuleTest {
+protected:
+    static bool bring(KXDevice* device, Stage stage) {
+        return (stage < Stage::opened || device->openDevice(-1)) && (stage < Stage::ready || device->initDevice()) &&
+               (stage < Stage::ready || setUpStreams(device)) && (stage < Stage::capturing || device->startCapture());
+    }
+};
+
+TEST_F(Order, EveryOperationSucceedsInItsTurnOnly) {
+    for (const Call& call : kCalls) {
+        SCOPED_TRACE(call.name);
+        const std::shared_ptr<KXDevice> device = create();
+        ASSERT_TRUE(bring(device.get(), call.from));
+        EXPECT_TRUE(call.call(*device));
+        EXPECT_EQ(call.call(*device), call.again);
+        EXPECT_EQ(device->lastStatus(), call.again ? 0 : 1);
+        if (call.from == Stage::created) continue;
+        const std::shared_ptr<KXDevice> early = create();
+        ASSERT_TRUE(bring(early.get(), static_cast<Stage>(static_cast<int>(call.from) - 1)));
+        EXPECT_FALSE(call.call(*early)) << "too early";
+        // "No" is an answer of a stream that was not enabled, not a failure.
+        const bool isQuestion = call.name.find("Enabled") != std::string::npos && call.name[0] != 's';
+        EXPECT_EQ(early->lastStatus(), isQuestion ? 0 : 1);
+    }
+}
+
+TEST_F(Order, TheStreamsAreSetUpAtRest) {
+    const std::shared_ptr<KXDevice> device = createCapturing();
+    for (const char* name : kOnlyAtRest) {
+        for (const Call& call : kCalls) {
+            EXPECT_TRUE(call.name != name || !call.call(*device)) << name;
+        }
+    }
+    EXPECT_TRUE(device->stopCapture() && device->setLeftEnabled(false) && device->startCapture() && device->grab(true));
+    EXPECT_EQ(device->leftImage(), nullptr);
+    EXPECT_NE(device->rightImage(), nullptr);
+}
+
+TEST_F(Order, ACaptureNeedsItsModesAndAStream) {
+    const std::shared_ptr<KXDevice> device = createReady();
+    EXPECT_FALSE(device->startCapture()) << "no stream";
+    EXPECT_TRUE(device->setDepthEnabled(true));
+    EXPECT_FALSE(device->startCapture()) << "no mode";
+    EXPECT_FALSE(device->setDepthStreamMode(false, 628, 468, 60, 1));
+    EXPECT_FALSE(device->setDepthStreamMode(true, 628, 0, 60, 1));
+    EXPECT_FALSE(device->setDepthStreamMode(true, 628, 468, 60, 3));
+    EXPECT_FALSE(device->startCapture()) << "refused modes only";
+    EXPECT_TRUE(device->setDepthStreamMode(true, 628, 468, 60, 1));
+    EXPECT_TRUE(device->startCapture());
+}
+
+TEST_F(Order, TheModuleIsReadOnly) {
+    const std::shared_ptr<KXDevice> device = createReady();
+    EXPECT_EQ(device->privateInterface(), nullptr);
+    EXPECT_EQ(device->lastStatus(), 1);
+    EXPECT_FALSE(device->resumeDevice());
+    EXPECT_FALSE(create()->openDevice(1));
+}
+
+using Faults = Order;
+
+TEST_F(Faults, EveryOperationFailsOnOrderAndOnlyThen) {
+    for (const Call& call : kCalls) {
+        SCOPED_TRACE(call.name);
+        bool reached = false;
+        // The way to the operation's stage may take calls of it, too: go on until the fault hits the one after them.
+        for (int failing = 1; failing <= 6 && !reached; ++failing) {
+            set("KXSIM_FAULTS", "grab:40:6," + call.name + ":" + std::to_string(failing) + ":9");
+            const std::shared_ptr<KXDevice> device = create();
+            if (!bring(device.get(), call.from)) continue;
+            reached = true;
+            EXPECT_FALSE(call.call(*device));
+            EXPECT_EQ(device->lastStatus(), 9);
+            EXPECT_TRUE(call.call(*device));
+        }
+        EXPECT_TRUE(reached);
+    }
+}
+
+TEST_F(Faults, HitTheGivenCallsOfAnOperation) {
+    set("KXSIM_FAULTS", "grab:3:0,grab:5:12,resumeDevice:1:7");
+    const std::shared_ptr<KXDevice> device = createCapturing();
+    std::string seen;
+    for (int i = 0; i < 6; ++i)
+        seen += device->grab(true) ? "+" : std::to_string(device->lastStatus());
+    EXPECT_EQ(seen, "++0+12+");
+    EXPECT_FALSE(device->resumeDevice());
+    EXPECT_EQ(device->lastStatus(), 7);
+}
+
+TEST_F(Faults, MalformedOrdersKeepTheDeviceShut) {
+    for (const char* text : {"grab", "grab:1", "grab:1:6:7", "grap:1:6", "grab:0:6", "grab:-1:6", "grab:x:6",
+                             "grab:1:-6", "grab:1:six", "grab:1:99999999999", "grab:1:6,,", "grab:1:6;x:1:2", ":"}) {
+        set("KXSIM_FAULTS", text);
+        const std::shared_ptr<KXDevice> device = create();
+        ::testing::internal::CaptureStderr();
+        EXPECT_FALSE(device->openDevice(-1)) << text;
+        EXPECT_EQ(::testing::internal::GetCapturedStderr().find("KXAPI: KXSIM_FAULTS: \""), 0U) << text;
+        EXPECT_EQ(device->lastStatus(), 1);
+    }
+}
+
+TEST_F(Faults, EveryStatusHasAText) {
+    for (int status = -1; status < 20; ++status)
+        EXPECT_STRNE(library->statusString(status), "") << status;
+    EXPECT_STRNE(library->statusString(5), library->statusString(6));
+}
+
+}  // namespace

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "devices/RearCameraSeam.h"
+#include "kxapi/Library.h"
+#include "tests/session/TestSession.h"
+
+#include <memory>
+#include <string>
+
+/// A session on disk and the library `KXAPI` as the application loads it; the environment is put back at the end.
+class ModuleTest : public fieldcal::session::SessionFolder {
+protected:
+    ModuleTest() : library(KXLibrary::load(&why)) {
+        clearEnvironment();
+        set("KXSIM_SESSION", folder);
+        set("KXSIM_SPEED", "0");
+    }
+    ~ModuleTest() override { clearEnvironment(); }
+    void SetUp() override { ASSERT_NE(library, nullptr) << why; }
+
+    static void set(const char* variable, const std::string& value) {
+        qputenv(variable, QByteArray::fromStdString(value));
+    }
+
+    std::shared_ptr<KXDevice> create() const { return {library->create(0), library->destroy}; }
+
+    std::shared_ptr<KXDevice> createReady() const {
+        std::shared_ptr<KXDevice> device = create();
+        EXPECT_TRUE(device->openDevice(-1) && device->initDevice()) << device->lastStatus();
+        return device;
+    }
+
+    static bool setUpStreams(KXDevice* device) {
+        KXThirdCamera* third = device->thirdCamera();
+        return device->setDepthEnabled(true) && device->setLeftEnabled(true) && device->setRightEnabled(true) &&
+               device->setStreamOption(true) && device->setDepthStreamMode(true, 628, 468, 60, 1) && third != nullptr &&
+               third->setThirdEnabled(true) && third->setThirdStreamMode(true, 640, 480, 30, 3);
+    }
+
+    std::shared_ptr<KXDevice> createCapturing() const {
+        std::shared_ptr<KXDevice> device = createReady();
+        EXPECT_TRUE(setUpStreams(device.get()) && device->startCapture()) << device->lastStatus();
+        return device;
+    }
+
+    /// The rear camera, opened, with its streams set up.
+    RearCameraSource* openRearCamera() const {
+        RearCameraSource* rear = plugInRearCamera();
+        EXPECT_TRUE(rear != nullptr && rear->openCamera() && rear->setAutoFocus(false) && rear->setFocus(1700));
+        EXPECT_TRUE(rear->setupStream(0, 640, 480, 30, "NV12") && rear->setupStream(1, 1280, 720, 30, "NV12"));
+        EXPECT_TRUE(rear->setupStream(2, 3200, 2400, 0, "NV12"));
+        return rear;
+    }
+    RearCameraSource* plugInRearCamera() const {
+        return reinterpret_cast<KXSimRearCameraFunction>(library->symbol("KXSimRearCamera"))();
+    }
+
+    std::string why;
+    std::shared_ptr<const KXLibrary> library;
+
+private:
+    static void clearEnvironment() {
+        for (const char* name : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_PLATFORM", "KXSIM_FAULTS"})
+            qunsetenv(name);
+    }
+};
