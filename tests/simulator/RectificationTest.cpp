@@ -125,18 +125,18 @@ TEST_F(Rectification, ShiftsNothingOnAverage) {
     const KXCalibIntrinsicsRectified rect{928, 928, 640, 360, 1280, 720};
     Picture ramps{1280, 720, std::vector<std::uint8_t>(std::size_t{1280} * 720 * 4)};
     for (std::size_t i = 0; i < ramps.bgra.size(); i += 4) {
-        ramps.bgra[i] = static_cast<std::uint8_t>(8 * (i / 4 % 1280 % 32));
-        ramps.bgra[i + 1] = static_cast<std::uint8_t>(8 * (i / 4 / 1280 % 32));
+        ramps.bgra[i] = static_cast<std::uint8_t>(7 * (i / 4 % 1280 % 32));
+        ramps.bgra[i + 1] = static_cast<std::uint8_t>(7 * (i / 4 / 1280 % 32));
     }
     const Picture out = rectified(ramps, raw, kIdentity, rect);
     for (int c = 0; c < 2; ++c) {
         double sum = 0;
         int count = 0;
         for (int v = 10; v < 700; ++v) {
-            for (int u = 10; u < 1270; ++u) {
+            for (int u = 10; u < 1250; ++u) {
                 const double inRamp = std::fmod(rawPoint(raw, kIdentity, rect, u, v)[c == 0 ? 0 : 1], 32);
                 if (inRamp < 1 || inRamp > 30) continue;
-                sum += out.at(u, v, c) / 8.0 - inRamp;
+                sum += out.at(u, v, c) / 7.0 - inRamp;
                 ++count;
             }
         }
