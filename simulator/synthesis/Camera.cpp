@@ -37,7 +37,7 @@ cv::Point2d distorted(const session::RawIntrinsics& k, cv::Point2d p) {
 }
 
 cv::Point2d undistorted(const session::RawIntrinsics& k, cv::Point2d target) {
-    constexpr int rounds = 12;  // each gains about an order of magnitude for such lenses
+    constexpr int rounds = 8;  // each gains more than an order of magnitude for such lenses
     cv::Point2d p = target;
     for (int i = 0; i < rounds; ++i)
         p += target - distorted(k, p);

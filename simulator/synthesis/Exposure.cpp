@@ -69,7 +69,8 @@ void sharpen(ImageFrame32& frame, double strength) {
 ImageFrame16 exposeInfrared(const cv::Mat_<cv::Vec4f>& picture, const InfraredSensor& sensor, double darkness,
                             Random& random) {
     NoiseTable noise(random);
-    const auto gain = static_cast<float>(sensor.meanLevel * darkness) / clippedMean(picture, {0, 0, 0, 1});
+    const float mean = clippedMean(picture, {0, 0, 0, 1});
+    const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);
     const auto perStep = static_cast<float>(1 / sensor.electronsPerStep);
     const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);
     ImageFrame16 frame;
@@ -77,7 +78,8 @@ ImageFrame16 exposeInfrared(const cv::Mat_<cv::Vec4f>& picture, const InfraredSe
     std::uint16_t* out = frame.pixels();
     for (int y = 0; y < picture.rows; ++y)
         for (int x = 0; x < picture.cols; ++x) {
-            const float level = picture(y, x)[3] * gain * throughLens(x, y, picture.size(), sensor.vignetting);
+            const float light = picture(y, x)[3] * (1 - veil) + mean * veil;
+            const float level = light * gain * throughLens(x, y, picture.size(), sensor.vignetting);
             const float seen = level + std::sqrt(level * perStep + read) * noise.next();
             *out++ = static_cast<std::uint16_t>(std::clamp(seen + 0.5F, 0.0F, 1023.0F));
         }
@@ -87,7 +89,8 @@ ImageFrame16 exposeInfrared(const cv::Mat_<cv::Vec4f>& picture, const InfraredSe
 ImageFrame32 exposeColour(const cv::Mat_<cv::Vec4f>& picture, const ColourSensor& sensor, double darkness,
                           Random& random) {
     NoiseTable noise(random);
-    const auto gain = static_cast<float>(sensor.meanLevel * darkness) / clippedMean(picture, {0.3F, 0.59F, 0.11F, 0});
+    const float mean = clippedMean(picture, {0.3F, 0.59F, 0.11F, 0});
+    const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);
     const auto perUnit = static_cast<float>(1 / sensor.electronsAtFull);
     const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);
     ImageFrame32 frame;
@@ -97,7 +100,7 @@ ImageFrame32 exposeColour(const cv::Mat_<cv::Vec4f>& picture, const ColourSensor
         for (int x = 0; x < picture.cols; ++x, out += 4) {
             const float lens = gain * throughLens(x, y, picture.size(), sensor.vignetting);
             for (int band = 0; band < 3; ++band) {
-                const float level = picture(y, x)[2 - band] * lens;
+                const float level = (picture(y, x)[2 - band] * (1 - veil) + mean * veil) * lens;
                 out[band] = displayed(level + std::sqrt(level * perUnit + read) * noise.next());
             }
             out[3] = 255;

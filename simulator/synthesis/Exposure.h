@@ -9,16 +9,18 @@ namespace fieldcal::synthesis {
 
 struct InfraredSensor {
     double meanLevel = 400;  ///< where the exposure aims, 0 … 1023
-    double electronsPerStep = 9;
-    double readNoise = 2.0;    ///< steps
+    double electronsPerStep = 14;
+    double readNoise = 2.2;    ///< steps
     double vignetting = 0.25;  ///< light lost in the corners
+    double veil = 0.08;        ///< share of the light that the lens scatters over the whole picture
 };
 
 struct ColourSensor {
     double meanLevel = 0.20;  ///< where the exposure aims; full scale is 1, linear light
-    double electronsAtFull = 3500;
-    double readNoise = 0.0015;
-    double vignetting = 0.3;
+    double electronsAtFull = 8000;
+    double readNoise = 0.0010;
+    double vignetting = 0.22;
+    double veil = 0.03;
     double sharpening = 0.5;  ///< strength of the edge enhancement that colour cameras apply
 };
 

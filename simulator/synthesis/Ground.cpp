@@ -59,6 +59,11 @@ Spectrum Ground::cobbles(float x, float z, float footprint) const {
     return stone * (1 - 0.6F * gap * seen);
 }
 
+Spectrum Ground::gravel(float x, float z, float footprint) const {
+    const float trodden = 1 + 0.07F * noise_.fractal(x + 7, z - 9, 2.0F, footprint, 0.5F);
+    return mottled(materials::gravel, noise_, x, z, 0.16F, footprint) * trodden;
+}
+
 Spectrum Ground::asphalt(float x, float z, float footprint) const {
     Spectrum s = mottled(materials::asphalt, noise_, x, z, 2.0F, footprint);
     const float crack = std::abs(noise_.fractal(x + 31, z - 7, 3.5F, footprint, 0.5F));
@@ -78,7 +83,8 @@ bool Ground::isLawn(float x, float z) const {
 /// Seen at a grazing angle, grass shows its blades upright: that texture lives in the view, not on the plane. Its
 /// scale doubles with the distance, one scale fading into the next.
 float Ground::blades(float x, float z, float distance, float shift) const {
-    const float azimuth = std::atan2(x, z), down = std::atan2(eye_, distance);
+    // Mirrored, so that it closes behind the viewer.
+    const float azimuth = std::abs(std::atan2(x, z)), down = std::atan2(eye_, distance);
     const float level = std::log2(std::max(1.0F, distance)), lower = std::floor(level), t = level - lower;
     const auto at = [&](float metres) {
         return noise_.fractal(azimuth * metres * 1.7F + shift, down * metres, 0.22F, metres * bladeFootprint, 0.9F);
@@ -92,7 +98,7 @@ Spectrum Ground::grass(float x, float z, float footprint, float distance) const 
     const float bare = smoothStep(0.75F, 1.25F, noise_.fractal(x + 50, z + 20, 7.0F, 0.3F, 0.6F));
     const float dry = noise_.fractal(z - 15, x + 40, 4.0F, footprint, 0.6F);
     const float shared = 1 + 0.30F * blades(x, z, distance, 0) + 0.12F * tufts;
-    const float visible = shared + 0.18F * blades(x, z, distance, 37.5F);
+    const float visible = shared + 0.12F * blades(x, z, distance, 37.5F);
     Spectrum s = materials::grass.reflectance.scaled(std::max(0.15F, visible), std::max(0.2F, shared + 0.08F * dry));
     s.red *= 1 + 0.5F * std::max(0.0F, dry);
     return mix(s, mottled(materials::soil, noise_, x, z, 1.0F, footprint), bare);
@@ -114,12 +120,12 @@ Spectrum Ground::reflectanceAt(float x, float z, float footprint, float distance
         case Paving::asphalt:
             return asphalt(x, z, footprint);
         case Paving::gravel:
-            return mottled(materials::gravel, noise_, x, z, 0.6F, footprint);
+            return gravel(x, z, footprint);
         case Paving::lawn:
             break;
     }
     const float path = std::abs(noise_.fractal(x * 0.5F + 3, z * 0.5F, 14.0F, 1.0F, 0.4F));
-    if (path < 0.10F) return mottled(materials::gravel, noise_, x, z, 0.6F, footprint);
+    if (path < 0.10F) return gravel(x, z, footprint);
     return grass(x, z, footprint, distance);
 }
 

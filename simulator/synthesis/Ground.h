@@ -34,6 +34,7 @@ private:
     Spectrum reflectanceAt(float x, float z, float footprint, float distance) const;
     Spectrum slabs(float x, float z, float footprint) const;
     Spectrum cobbles(float x, float z, float footprint) const;
+    Spectrum gravel(float x, float z, float footprint) const;
     Spectrum asphalt(float x, float z, float footprint) const;
     Spectrum grass(float x, float z, float footprint, float distance) const;
     float blades(float x, float z, float distance, float shift) const;

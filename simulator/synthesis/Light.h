@@ -12,7 +12,7 @@ namespace fieldcal::synthesis {
 struct Light {
     cv::Vec3f toSun{0.4F, -0.7F, -0.6F};
     Spectrum sun{1.10F, 1.02F, 0.90F, 1.00F};
-    Spectrum sky{0.17F, 0.21F, 0.29F, 0.09F};  ///< shadows are blue, and nearly black in the near infrared
+    Spectrum sky{0.19F, 0.23F, 0.31F, 0.15F};  ///< shadows are blue, and deeper in the near infrared
 };
 
 /// A point of a surface before light falls on it.

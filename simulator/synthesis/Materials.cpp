@@ -3,7 +3,7 @@
 namespace fieldcal::synthesis {
 
 Spectrum mottled(const Material& material, const Noise& noise, float x, float y, float coarse, float footprint) {
-    const float shared = 1 + material.shared * 1.6F * noise.fractal(x, y, coarse, footprint, 0.72F);
+    const float shared = 1 + material.shared * 1.8F * noise.fractal(x, y, coarse, footprint, 0.72F);
     const float visible =
         material.visible * 1.6F * noise.fractal(y + 71.3F, x - 13.1F, coarse * 0.4F, footprint, 0.72F);
     const float infrared =

@@ -122,15 +122,15 @@ std::vector<Cluster> Painter::placeClusters() {
 void Painter::paintLeaf(const Cluster& cluster, const cv::Vec3f& offset, float depthShade) {
     const cv::Vec3f facing = offset * (1.0F / cluster.radius);
     const float toSun = 0.5F + 0.5F * facing.dot(sun_);
-    const float turned = random_.between(0.6F, 1.35F) * (0.25F + 0.9F * toSun);
+    const float turned = random_.between(0.5F, 1.45F) * (0.25F + 0.9F * toSun);
     const float shade = std::clamp(toSun * depthShade * turned, 0.02F, 1.3F);
     // Leaves pass most of the near infrared on to the leaves below, so crowns have shallower shadows there.
     const float infraredShade = 0.55F * shade + 0.45F * 0.55F * (0.6F + 0.4F * depthShade);
     Spectrum light = leaf_ * light_.sky * (0.4F + 0.6F * depthShade);
     light +=
-        (leaf_ * light_.sun).scaled(shade * random_.between(0.8F, 1.2F), infraredShade * random_.between(0.85F, 1.15F));
+        (leaf_ * light_.sun).scaled(shade * random_.between(0.88F, 1.12F), infraredShade * random_.between(0.9F, 1.1F));
     // A waxy leaf mirrors the sky: much for dark green, nothing for the near infrared.
-    if (random_.chance(0.18)) light += Spectrum{0.06F, 0.07F, 0.08F, 0.01F} * random_.between(0.2F, 1.6F);
+    if (random_.chance(0.12)) light += Spectrum{0.06F, 0.07F, 0.08F, 0.01F} * random_.between(0.2F, 1.6F);
     const float size = std::max(random_.between(0.05F, 0.11F), 0.8F / texelsPerMetre_);
     const cv::Vec3f at = cluster.centre + offset;
     const float slim = shape_.kind == PlantKind::conifer ? 0.35F : random_.between(0.4F, 0.75F);

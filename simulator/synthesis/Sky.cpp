@@ -48,7 +48,7 @@ Spectrum Backdrop::ridge(int number, float azimuth, float elevation, float footp
 Spectrum Backdrop::radiance(const cv::Vec3f& d, float footprint) const {
     const float elevation = std::asin(std::clamp(-d[1], -1.0F, 1.0F));
     if (ridgeHeight_ > 0 && elevation < ridgeHeight_ * 2) {
-        const float azimuth = std::atan2(d[0], d[2]);
+        const float azimuth = std::abs(std::atan2(d[0], d[2]));  // mirrored, so that it closes behind the viewer
         for (int number = 0; number < ridgeCount; ++number)
             if (elevation < ridgeHeight_ * ridgeLine(noise_, number, azimuth, footprint))
                 return ridge(number, azimuth, elevation, footprint);

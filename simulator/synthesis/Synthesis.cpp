@@ -76,7 +76,7 @@ public:
     StillSettings settings(const SynthesisOptions& options) {
         StillSettings settings;
         settings.infrared.meanLevel = random_.uniform(340, 450);
-        settings.colour.meanLevel = random_.uniform(0.14, 0.24);
+        settings.colour.meanLevel = random_.uniform(0.17, 0.30);
         settings.darkness = world_.darkness;
         if (options.brightness) settings.infrared.meanLevel = *options.brightness / world_.darkness;
         return settings;
