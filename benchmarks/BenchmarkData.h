@@ -1,0 +1,35 @@
+#pragma once
+
+#include "camera/CameraParameters.h"
+#include "engine/CameraPair.h"
+#include "engine/ImagePairRecord.h"
+
+#include <Eigen/Core>
+#include <opencv2/core.hpp>
+
+#include <string>
+#include <vector>
+
+namespace fieldcal {
+
+/// The pictures of a recording as the engine gets them, for the camera inside the module.
+struct BenchmarkData {
+    std::string folder;
+    vq::CameraPair cameras;
+    CameraParameters parameters;
+    Eigen::Matrix3d factory;
+    Eigen::Matrix3d truth;  ///< the factory rotation when the recording has none
+    std::vector<vq::ImagePairRecord> infrared;
+    std::vector<vq::ImagePairRecord> colour;
+};
+
+/// Ends the program with a message when the recording cannot be read.
+BenchmarkData loadRecording(const std::string& folder);
+
+/// The recordings named by FIELDCAL_RECORDINGS (folders separated by colons); else those that lie beside the project.
+std::vector<std::string> recordingFolders();
+
+/// Degrees between two rotations.
+double differenceDeg(const Eigen::Matrix3d& a, const Eigen::Matrix3d& b);
+
+}  // namespace fieldcal
