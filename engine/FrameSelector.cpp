@@ -15,12 +15,6 @@ using fieldcal::logMessage;
 
 constexpr const char* kTag = "FrameSelector::shouldUseThisFrame";
 
-/// A change of the frame size counts as movement, whatever the pictures show.
-float motionBetween(const cv::Mat& a, const cv::Mat& b) {
-    if (a.size() != b.size()) return std::numeric_limits<float>::max();
-    return static_cast<float>(cv::norm(a, b, cv::NORM_L2));
-}
-
 /// The matrix that is about to leave the queue, to be filled anew: saves an allocation of two megabytes a frame.
 /// Empty when somebody else still holds its pixels.
 cv::Mat takeOldest(std::deque<cv::Mat>& queue, std::size_t limit) {
@@ -74,9 +68,14 @@ bool FrameSelector::shouldUseThisFrame(ImagePairRecord* infrared, ImagePairRecor
 }
 
 float FrameSelector::motionMeasure() const {
-    const cv::Mat& newest = motionQueue_.at(counter_);
-    return std::max(motionBetween(newest, motionQueue_.at(counter_ - step_)),
-                    motionBetween(newest, motionQueue_.at(counter_ - 2 * step_)));
+    return std::max(motionSince(counter_ - step_), motionSince(counter_ - 2 * step_));
+}
+
+float FrameSelector::motionSince(std::size_t index) const {
+    const bool sizeChanged = infraredQueue_.at(index).size() != infraredQueue_.at(counter_).size() ||
+                             colourQueue_.at(index).size() != colourQueue_.at(counter_).size();
+    if (sizeChanged) return std::numeric_limits<float>::max();
+    return static_cast<float>(cv::norm(motionQueue_.at(counter_), motionQueue_.at(index), cv::NORM_L2));
 }
 
 void FrameSelector::enter(State state) {

@@ -30,6 +30,9 @@ public:
 
 private:
     float motionMeasure() const;
+    /// Of the newest frame against an earlier one. A change of a frame size counts as movement, whatever the pictures
+    /// show.
+    float motionSince(std::size_t index) const;
     void enter(State state);
     void copySelectedPair(ImagePairRecord* infrared, ImagePairRecord* colour) const;
 
