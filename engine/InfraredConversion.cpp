@@ -57,7 +57,7 @@ double clampedMean(const Histogram& histogram, std::size_t count, int low, int h
     std::size_t counted = 0;
     for (int level = 0; level < kLevels; ++level) {
         const std::uint32_t bin = histogram[static_cast<std::size_t>(level)];
-        sum += static_cast<double>(bin) * std::clamp(level, low, high);
+        sum += static_cast<double>(bin) * std::min(std::max(level, low), high);
         counted += bin;
     }
     sum += static_cast<double>(count - counted) * high;
