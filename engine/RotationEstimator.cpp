@@ -82,10 +82,11 @@ bool RotationEstimator::estimateRotationByVoting(const MatchGrid& grid, int supp
     auto odd = std::async(std::launch::async, estimateFrom, 1);
     estimateFrom(0);
     odd.get();
+    *anglesRad = unsetAngles();
+    if (stop_ != nullptr && stop_->load()) return false;
     for (const Round& round : rounds)
         votes_.add(round.anglesRad, round.score, round.error, round.weight);
 
-    *anglesRad = unsetAngles();
     const RotationVoteStore::Record* best = votes_.best();
     hasLastBest_ = best != nullptr;
     if (hasLastBest_) lastBest_ = *best;
