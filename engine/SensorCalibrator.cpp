@@ -72,6 +72,7 @@ bool SensorCalibrator::prepare(const ImagePairRecord& infrared, const ImagePairR
                    "The pair [%u x %u] and [%u x %u] does not belong to cameras of [%d x %d] and [%d x %d]",
                    infrared.width, infrared.height, colour.width, colour.height, cameras_.infrared.width,
                    cameras_.infrared.height, cameras_.colour.width, cameras_.colour.height);
+        matcher_.statistics() = {};
         return false;
     }
     matcher_.prepare(asMatrix(infrared, CV_16UC1), asMatrix(colour, CV_8UC4), parameters_.infraredConversionMode);
@@ -130,11 +131,7 @@ void SensorCalibrator::decide() {
     Eigen::Vector3d anglesRad;
     const bool agreed = estimator_.estimateRotationByVoting(grid_, parameters_.supportCount, &anglesRad);
     ++attemptCount_;
-    bool inRange = false;
-    {
-        const std::lock_guard guard(context_.lock);
-        inRange = context_.state->allInRange(degrees(anglesRad));
-    }
+    const bool inRange = isAcceptable(anglesRad);
     outOfRange_ = !inRange;
     if (agreed && inRange) {
         failureStreak_ = 0;
@@ -144,6 +141,11 @@ void SensorCalibrator::decide() {
     }
     recordingBusy_ = false;
     decisionBusy_ = false;
+}
+
+bool SensorCalibrator::isAcceptable(const Eigen::Vector3d& anglesRad) const {
+    const std::lock_guard guard(context_.lock);
+    return context_.state->allInRange(degrees(anglesRad));
 }
 
 void SensorCalibrator::countFailure() {
@@ -161,7 +163,8 @@ void SensorCalibrator::recordSolution() {
     if (best == nullptr || std::isnan(best->anglesRad[0])) return;
     Eigen::Vector3d anglesRad = best->anglesRad;
     PolishedRotation polished;
-    if (polishRotation(attemptMatches_.infrared, attemptMatches_.colour, cameras_, anglesRad, &polished)) {
+    if (polishRotation(attemptMatches_.infrared, attemptMatches_.colour, cameras_, anglesRad, &polished) &&
+        isAcceptable(polished.anglesRad)) {
         anglesRad = polished.anglesRad;
         deviationDeg_ = degrees(polished.deviationRad);
     }

@@ -64,6 +64,7 @@ private:
     CameraPair cameraPair() const;
     void appendToAttempt();
     void decide();
+    bool isAcceptable(const Eigen::Vector3d& anglesRad) const;
     void recordSolution();
     void countFailure();
 
