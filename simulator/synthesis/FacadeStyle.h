@@ -6,7 +6,7 @@
 
 namespace fieldcal::synthesis {
 
-enum class Masonry { plaster, brick, blocks, bare };
+enum class Masonry { plaster, brick, blocks };
 
 /// How a building's front looks. Metres.
 struct FacadeStyle {

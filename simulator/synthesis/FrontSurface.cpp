@@ -49,7 +49,6 @@ Spectrum wallReflectance(const FacadeStyle& style, const Noise& noise, FrontPlac
         wall = courses(style, noise, p, 0.9F, 0.42F, 0.35F);
     else
         wall = mottled(style.wall, noise, p.s, p.h, 3.0F, p.footprint);
-    if (style.masonry == Masonry::bare) return wall;
     if (style.rusticated && p.h < style.storey && p.h - std::floor(p.h / 0.42F) * 0.42F < 0.05F) wall = wall * 0.45F;
     // Rain leaves streaks, strongest near the ground; dirt absorbs in every band.
     const float streak = noise.fractal(p.s * 3, p.h * 0.35F, 1.5F, p.footprint, 0.7F);

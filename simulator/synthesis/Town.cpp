@@ -93,20 +93,6 @@ void buildRing(Scene& scene, const TownPlan& plan, Random& random) {
     }
 }
 
-void buildBareWalls(Scene& scene) {
-    constexpr float distance = 14, length = 2.1F * distance, height = 60;
-    FacadeStyle style;
-    style.windows = false;
-    style.masonry = Masonry::bare;
-    style.wall = materials::plasterWhite;
-    style.wall.shared = style.wall.visible = style.wall.infrared = 0.0F;
-    for (int side = 0; side < 4; ++side) {
-        UprightRectangle wall = frontAt(scene, 1.5708F * static_cast<float>(side), distance, length, height, 0);
-        wall.bottom = -height * 0.5F;
-        scene.add(wall, style);
-    }
-}
-
 void layLawns(Scene& scene, int count, Random& random) {
     for (int i = 0; i < count; ++i) {
         const cv::Vec2f centre = towards(random.between(0, fullTurn)) * random.between(8, 24);

@@ -13,8 +13,6 @@ struct TownPlan {
 };
 
 void buildRing(Scene& scene, const TownPlan& plan, Random& random);
-/// Four plain walls close by, with nothing on them.
-void buildBareWalls(Scene& scene);
 void layLawns(Scene& scene, int count, Random& random);
 /// Cars, lamps, boards and cables.
 void standThings(Scene& scene, int count, Random& random);

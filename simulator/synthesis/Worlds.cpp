@@ -72,13 +72,22 @@ std::unique_ptr<World> repetitive(std::uint64_t seed) {
     return world;
 }
 
+/// Plaster without a mark on it, a little brighter towards one side.
+class PlainWall : public DirectionField {
+public:
+    explicit PlainWall(Random& random) : brighter_(drawLight(random).toSun) {}
+    Spectrum radiance(const cv::Vec3f& direction) const override {
+        return materials::plasterWhite.reflectance * (0.75F + 0.15F * direction.dot(brighter_));
+    }
+
+private:
+    cv::Vec3f brighter_;
+};
+
 std::unique_ptr<World> wall(std::uint64_t seed) {
     Random random(seed, "wall");
-    auto scene = std::make_unique<Scene>(seed, drawLight(random), 2.0F, Paving::asphalt, 0.0F, 0.0F);
-    buildBareWalls(*scene);
-    scene->finish();
     auto world = std::make_unique<World>();
-    world->field = std::move(scene);
+    world->field = std::make_unique<PlainWall>(random);
     return world;
 }
 

@@ -1,0 +1,52 @@
+#include "simulator/synthesis/Rig.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace fieldcal::synthesis {
+namespace {
+
+std::array<double, 3> anglesDeg(const session::Matrix3& r) {
+    constexpr double degree = 180 / 3.141592653589793;
+    return {std::atan2(r[7], r[8]) * degree, -std::asin(r[6]) * degree, std::atan2(r[3], r[0]) * degree};
+}
+
+TEST(Rig, DrawnDriftsStayWithinTheSearchRangesAndUseThem) {
+    const std::array<double, 3> range{4, 1.5, 2}, absolute{4, 4, 3};
+    std::array<double, 3> largest{};
+    for (unsigned seed = 0; seed < 300; ++seed) {
+        const auto rig = drawRig(seed, {true, {}, {}});
+        for (bool platform : {false, true}) {
+            const auto factory = anglesDeg(platform ? rig.platform->rotation : rig.third.rotation);
+            const auto truth = anglesDeg(platform ? *rig.truthPlatform : *rig.truthThird);
+            for (int i = 0; i < 3; ++i) {
+                EXPECT_LE(std::abs(truth[i] - factory[i]), 0.95 * range[i] + 1e-9) << seed;
+                EXPECT_LT(std::abs(truth[i]), absolute[i]) << seed;
+                EXPECT_LE(std::abs(factory[i]), 0.4 + 1e-9) << seed;
+                largest[i] = std::max(largest[i], std::abs(truth[i] - factory[i]));
+            }
+        }
+    }
+    for (int i = 0; i < 3; ++i)
+        EXPECT_GT(largest[i], 0.9 * range[i]);
+}
+
+TEST(Rig, AWishedDriftIsTakenAsItStandsAndThePlatformChangesNothingElse) {
+    const std::array<double, 3> drift{-4.2, 1.6, 2.1};
+    const auto wished = drawRig(5, {true, drift, drift});
+    const auto plain = drawRig(5, {});
+    const auto factory = anglesDeg(wished.third.rotation), truth = anglesDeg(*wished.truthThird);
+    const auto platformFactory = anglesDeg(wished.platform->rotation), platformTruth = anglesDeg(*wished.truthPlatform);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_NEAR(truth[i] - factory[i], drift[i], 1e-9);
+        EXPECT_NEAR(platformTruth[i] - platformFactory[i], drift[i], 1e-9);
+    }
+    EXPECT_EQ(plain.third.rotation, wished.third.rotation);
+    EXPECT_EQ(plain.infrared.fx, wished.infrared.fx);
+    EXPECT_FALSE(plain.platform.has_value());
+    EXPECT_FALSE(plain.truthPlatform.has_value());
+}
+
+}  // namespace
+}  // namespace fieldcal::synthesis
