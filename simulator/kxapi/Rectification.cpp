@@ -35,7 +35,7 @@ Point distorted(const KXCalibIntrinsicsNonRectified& raw, Point p) {
 /// A coordinate in steps of 1/32 pixel, or -1 outside 0 … size - 1. The last pixel's centre moves inside by one step.
 int steps(double coordinate, int size) {
     if (!(coordinate >= -0.5 / kSteps && coordinate <= size - 1 + 0.5 / kSteps)) return -1;
-    return std::min(static_cast<int>(coordinate * kSteps + 0.5), (size - 1) * kSteps - 1);
+    return std::min(static_cast<int>(2 * kSteps * coordinate + 1) / 2, (size - 1) * kSteps - 1);
 }
 
 std::uint32_t entry(int stepsX, int stepsY) {
@@ -70,12 +70,13 @@ Words twoPixels(const std::uint8_t* source) {
     return __builtin_convertvector(bytes, Words);
 }
 
-/// Everything fits into 16 bits: 255 · 32, brought down to quarters of a grey level, times 32 again.
+/// Everything fits into 16 bits: 255 · 32, brought down to quarters of a grey level, times 32 again. The quarters are
+/// cut off, which makes up for what rounding quarters to the nearest adds on average.
 std::uint32_t interpolate(const std::uint8_t* upper, const std::uint8_t* lower, const Words& weightsX,
                           const Words& weightsY) {
     const Words top = twoPixels(upper);
     const Words column = top * kSteps + (twoPixels(lower) - top) * weightsY;
-    const Words weighted = ((column + 4) >> 3) * weightsX;
+    const Words weighted = (column >> 3) * weightsX;
     const Words swapped = __builtin_shufflevector(weighted, weighted, 4, 5, 6, 7, 0, 1, 2, 3);
     const Bytes bytes = __builtin_convertvector((weighted + swapped + 64) >> 7, Bytes);
     std::uint32_t pixel;

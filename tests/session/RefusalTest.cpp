@@ -131,7 +131,7 @@ QImage grey(int width, int height, std::uint16_t value) {
     return image;
 }
 
-QImage colour(int width, int height, QImage::Format format, QColor fill = Qt::white) {
+QImage colour(int width, int height, QImage::Format format, const QColor& fill = Qt::white) {
     QImage image(width, height, format);
     image.fill(fill);
     return image;
@@ -197,9 +197,9 @@ TEST_F(Refusal, ThePlatformPictureHasTheRearCamerasSize) {
     EXPECT_THAT(why, HasSubstr("p.png: frames[0].platform: the picture is 640 x 480, not 1280 x 720"));
     save(path("p.png"), colour(1280, 720, QImage::Format_RGB32, Qt::red));
     ASSERT_TRUE(readPictures(folder, session, 0, &pictures, &why)) << why;
-    EXPECT_EQ(pictures.platform[0], 81);                // BT.601 luma of pure red
-    EXPECT_EQ(pictures.platform[1280 * 720], 90);       // its U
-    EXPECT_EQ(pictures.platform[1280 * 720 + 1], 240);  // its V
+    EXPECT_EQ(pictures.platform[0], 81);                             // BT.601 luma of pure red
+    EXPECT_EQ(pictures.platform[std::size_t{1280} * 720], 90);       // its U
+    EXPECT_EQ(pictures.platform[std::size_t{1280} * 720 + 1], 240);  // its V
     EXPECT_FALSE(readPictures(folder, session, 2, &pictures, &why));
 }
 

@@ -78,9 +78,9 @@ TEST_F(Playback, TheRectificationBlockHoldsRotations) {
     ASSERT_TRUE(createReady()->rectParameters(&block));
     for (const float* m : {block.rectificationInfrared, block.rectificationThird, block.rectificationPlatform}) {
         for (int i = 0; i < 3; ++i) {
-            const float* a = m + 3 * i;
-            const float* b = m + 3 * ((i + 1) % 3);
-            const float* c = m + 3 * ((i + 2) % 3);
+            const float* a = m + std::ptrdiff_t{3} * i;
+            const float* b = m + std::ptrdiff_t{3} * ((i + 1) % 3);
+            const float* c = m + std::ptrdiff_t{3} * ((i + 2) % 3);
             EXPECT_NEAR(a[0] * a[0] + a[1] * a[1] + a[2] * a[2], 1, 1e-6);
             // Right-handed: each row is the cross product of the next two.
             EXPECT_NEAR(b[1] * c[2] - b[2] * c[1], a[0], 1e-6);

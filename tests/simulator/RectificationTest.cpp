@@ -33,7 +33,7 @@ struct Picture {
     int width, height;
     std::vector<std::uint8_t> bgra;
 
-    std::uint8_t at(int x, int y, int c) const { return bgra[static_cast<std::size_t>((y * width + x) * 4 + c)]; }
+    std::uint8_t at(int x, int y, int c) const { return bgra[(std::size_t{4} * y * width) + (4 * x) + c]; }
 };
 
 /// Smooth, different in every channel, alpha 255.
@@ -43,7 +43,7 @@ Picture smoothPicture(int width, int height) {
         for (int x = 0; x < width; ++x) {
             for (int c = 0; c < 3; ++c) {
                 const double value = 127.5 + 127.4 * std::sin(0.02 * (c + 1) * x + 0.5 * c) * std::cos(0.03 * y - c);
-                out.bgra.push_back(static_cast<std::uint8_t>(value + 0.5));
+                out.bgra.push_back(static_cast<std::uint8_t>(std::lround(value)));
             }
             out.bgra.push_back(255);
         }
@@ -171,8 +171,8 @@ TEST_F(Rectification, TheRotationTakesRawToRectified) {
     // Two degrees about Y move what was in the middle of the raw picture to the right: X_rectified = R · X_raw.
     const KXCalibIntrinsicsNonRectified raw{400, 400, 64, 32, 128, 64, 0, 0, 0, 0, 0};
     const KXCalibIntrinsicsRectified rect{400, 400, 64, 32, 128, 64};
-    Picture dot{128, 64, std::vector<std::uint8_t>(128 * 64 * 4, 0)};
-    dot.bgra[(32 * 128 + 64) * 4] = 255;
+    Picture dot{128, 64, std::vector<std::uint8_t>(std::size_t{128} * 64 * 4, 0)};
+    dot.bgra[(std::size_t{32} * 128 + 64) * 4] = 255;
     const Picture out = rectified(dot, raw, rotation(0, 2, 0), rect);
     EXPECT_GT(out.at(78, 32, 0), 200);  // 64 + 400 · tan 2° = 77.97
 }
@@ -194,7 +194,7 @@ TEST_F(Rectification, NonsenseGivesBlack) {
         EXPECT_EQ(picture.at(64, 40, 0) + picture.at(5, 5, 1), 0);
     // A table of noise reads nothing outside the source.
     std::mt19937 random(5);
-    std::vector<std::uint32_t> table(128 * 64);
+    std::vector<std::uint32_t> table(std::size_t{128} * 64);
     for (std::uint32_t& entry : table)
         entry = random();
     Picture out = source;
