@@ -24,6 +24,42 @@ bool isDegenerate(const std::vector<cv::Point2f>& points, const Sample& sample) 
     return false;
 }
 
+/// Unit vectors of a round's matches in both cameras.
+///
+/// A rotation keeps the distance between two directions. Matches between which it differs by more than two inlier
+/// bounds are therefore never inliers together, and a sample without four that go together is not worth its fit: that
+/// spares most fits, and the winner is the same (docs/estimation.md).
+class DirectionPairs {
+public:
+    explicit DirectionPairs(const RotationCost& cost) : tolerance_(2.0 * kInlierPx / cost.focalLengthPx()) {
+        cost.directions(&infrared_, &colour_);
+    }
+
+    bool hasFourCompatible(const Sample& sample) const {
+        std::array<int, kSampleSize> conflicts{};
+        int total = 0;
+        for (std::size_t i = 0; i < sample.size(); ++i) {
+            for (std::size_t j = i + 1; j < sample.size(); ++j) {
+                if (areCompatible(sample[i], sample[j])) continue;
+                ++conflicts[i];
+                ++conflicts[j];
+                ++total;
+            }
+        }
+        // Leaving out one match must leave no conflict.
+        return std::any_of(conflicts.begin(), conflicts.end(), [total](int own) { return own == total; });
+    }
+
+private:
+    bool areCompatible(int a, int b) const {
+        const auto i = static_cast<std::size_t>(a), j = static_cast<std::size_t>(b);
+        return std::abs((infrared_[i] - infrared_[j]).norm() - (colour_[i] - colour_[j]).norm()) <= tolerance_;
+    }
+
+    double tolerance_;
+    std::vector<Eigen::Vector3d> infrared_, colour_;
+};
+
 struct Candidate {
     Eigen::Vector3d anglesRad;
     int inlierCount;
@@ -84,11 +120,12 @@ Consensus findConsensus(const RotationCost& cost, const std::vector<cv::Point2f>
                         const std::vector<Sample>& samples, const Eigen::Vector3d& initialAnglesRad,
                         const std::atomic<bool>* stop) {
     Consensus best;
+    const DirectionPairs directions(cost);
     std::vector<Candidate> candidates;
     std::vector<double> residuals;
     for (const Sample& sample : samples) {
         if (stop != nullptr && stop->load(std::memory_order_relaxed)) break;
-        if (isDegenerate(infraredPoints, sample)) continue;
+        if (isDegenerate(infraredPoints, sample) || !directions.hasFourCompatible(sample)) continue;
         const RotationCost sampleCost(cost, {sample.begin(), sample.end()});
         Eigen::Vector3d anglesRad;
         if (!fitRotationLM(sampleCost, initialAnglesRad, &anglesRad)) continue;

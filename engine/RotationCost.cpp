@@ -2,6 +2,8 @@
 
 #include "engine/Rotation.h"
 
+#include <Eigen/Geometry>
+
 #include <cmath>
 
 namespace vq {
@@ -79,7 +81,7 @@ double RotationCost::termFactor(double squaredPx) const {
     }
     const double ratio = squaredPx / squaredCauchyPx_;
     // √log(1 + r) / √r tends to 1.
-    return ratio > 1e-8 ? unit_ * std::sqrt(std::log1p(ratio) / ratio) : unit_;
+    return ratio > 1e-6 ? unit_ * std::sqrt(std::log(1.0 + ratio) / ratio) : unit_;
 }
 
 template <typename Visit>
@@ -125,6 +127,16 @@ void RotationCost::residuals(const Eigen::Vector3d& anglesRad, std::vector<doubl
         const double squaredPx = u * u + v * v;
         (*out)[i] = std::sqrt(squaredPx) * termFactor(squaredPx);
     });
+}
+
+void RotationCost::directions(std::vector<Eigen::Vector3d>* infrared, std::vector<Eigen::Vector3d>* colour) const {
+    infrared->clear();
+    colour->clear();
+    for (std::size_t i = 0; i < rays_.size(); ++i) {
+        infrared->push_back(rays_[i].homogeneous().normalized());
+        colour->push_back(
+            Eigen::Vector3d((colours_[i][0] - cx_) / fx_, (colours_[i][1] - cy_) / fy_, 1.0).normalized());
+    }
 }
 
 void RotationCost::distancesPx(const Eigen::Vector3d& anglesRad, std::vector<double>* out) const {

@@ -24,9 +24,10 @@ enum class ResidualForm {
     Bounded,       ///< in the direction of the difference, bounded (Geman and McClure)
 };
 
-/// The difference of two matched corners at which the Cauchy form turns from linear to logarithmic, in pixels: twice
-/// the deviation of a right match. Between 0.4 and 2.5 the accuracy is the same; the fits are faster with larger ones.
-constexpr double kCauchyPx = 1.0;
+/// The difference of two matched corners at which the Cauchy form turns from linear to logarithmic, in pixels:
+/// about four deviations of a right match. Between 0.4 and 2.5 the accuracy is the same; the fits are faster with
+/// larger ones.
+constexpr double kCauchyPx = 2.0;
 
 /// Differences between colour points and infrared points mapped by K_colour · R · K_infrared⁻¹, as residual terms of a
 /// rotation given by three angles in radians. Two terms a pair. In the form of Eigen's non-linear optimisation module.
@@ -56,6 +57,9 @@ public:
 
     /// Residual of each pair: the length of its two terms.
     void residuals(const Eigen::Vector3d& anglesRad, std::vector<double>* out) const;
+    /// Unit vectors of each pair's points, each in its own camera.
+    void directions(std::vector<Eigen::Vector3d>* infrared, std::vector<Eigen::Vector3d>* colour) const;
+    double focalLengthPx() const { return fx_; }
     /// Distance in colour pixels of each pair from the prediction.
     void distancesPx(const Eigen::Vector3d& anglesRad, std::vector<double>* out) const;
 
