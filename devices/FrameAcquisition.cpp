@@ -2,6 +2,8 @@
 
 #include "devices/ColourConversion.h"
 
+#include <cstring>
+
 namespace fieldcal {
 namespace {
 
@@ -14,6 +16,11 @@ bool size(ImageFrame* record, std::int32_t width, std::int32_t height) {
 void copy(ImageFrame16* record, std::int32_t width, std::int32_t height, const std::uint16_t* pixels) {
     if (pixels == nullptr || !isPlausiblePictureSize(width, height)) return;
     record->assign(static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height), pixels);
+}
+
+bool hasSize(const ImageFrame32& record, const SensorSettings& settings) {
+    return record.width() == static_cast<std::uint32_t>(settings.thirdScaledWidth) &&
+           record.height() == static_cast<std::uint32_t>(settings.thirdScaledHeight);
 }
 
 }  // namespace
@@ -44,10 +51,18 @@ void FrameAcquisition::refreshThird(KXThirdCamera& third, const SensorSettings& 
     const std::uint8_t* pixels = third.thirdImage();
     if (pixels == nullptr || !isPlausiblePictureSize(width, height)) return;
     if (!isPlausiblePictureSize(settings.thirdScaledWidth, settings.thirdScaledHeight)) return;
-    // A view of the module's own pixels: they hold still until the next grab, and are only read.
-    const cv::Mat bgra(height, width, CV_8UC4, const_cast<std::uint8_t*>(pixels));
-    scaleIntoRecord(bgra, settings.thirdScaledWidth, settings.thirdScaledHeight, &scaledThird_,
+    if (!keepIfNew(pixels, width, height) && hasSize(records.inModuleColour, settings)) return;
+    scaleIntoRecord(third_, settings.thirdScaledWidth, settings.thirdScaledHeight, &scaledThird_,
                     &records.inModuleColour);
+}
+
+bool FrameAcquisition::keepIfNew(const std::uint8_t* pixels, std::int32_t width, std::int32_t height) {
+    const std::size_t bytes = static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4;
+    const bool sameSize = third_.cols == width && third_.rows == height;
+    if (sameSize && std::memcmp(third_.ptr(), pixels, bytes) == 0) return false;
+    third_.create(height, width, CV_8UC4);
+    std::memcpy(third_.ptr(), pixels, bytes);
+    return true;
 }
 
 }  // namespace fieldcal

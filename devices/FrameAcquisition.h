@@ -32,7 +32,11 @@ public:
 
 private:
     void refreshThird(KXThirdCamera& third, const SensorSettings& settings);
+    /// The colour camera runs at half the rate of the infrared ones: every other picture is the one before, and
+    /// comparing costs a tenth of scaling. False: nothing new.
+    bool keepIfNew(const std::uint8_t* pixels, std::int32_t width, std::int32_t height);
 
+    cv::Mat third_;
     cv::Mat scaledThird_;
 };
 

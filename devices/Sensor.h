@@ -47,6 +47,11 @@ public:
     const FrameRecords& frames() const { return frames_.records; }
     const SensorSettings& settings() const { return settings_; }
 
+    /// Whether `grab` brings the rear camera's pictures into their record; it does unless told otherwise. It costs
+    /// more than the rest of the pass, and nobody looks at them while the in-module camera is worked on. Unwanted, the
+    /// record stays as it is; wanted again, the next pass takes the newest picture.
+    void setPlatformPictureWanted(bool wanted) { platformPictureWanted_ = wanted; }
+
     /// Switches the infrared emitter. False, silently, when the device has none.
     bool setEmitter(bool on);
 
@@ -102,6 +107,7 @@ private:
     FrameAcquisition frames_;
     PlatformPicture platformPicture_;
     PlatformCalibration platformCalibration_;
+    bool platformPictureWanted_ = true;
     bool firstPictureAwaited_ = false;
     bool openTried_ = false;
     bool opened_ = false;

@@ -18,10 +18,10 @@ namespace fieldcal::testing {
 class FakeKxDevice final : public KXDevice {
 public:
     FakeKxDevice() : third(*this), hardware(*this), emitter(*this), platform(*this) {
-        left.assign(628 * 468, 500);
-        right.assign(628 * 468, 501);
-        depth.assign(628 * 468, 1502);
-        thirdPixels.assign(640 * 480 * 4, 77);
+        left.assign(std::size_t{628} * 468, 500);
+        right.assign(std::size_t{628} * 468, 501);
+        depth.assign(std::size_t{628} * 468, 1502);
+        thirdPixels.assign(std::size_t{640} * 480 * 4, 77);
     }
 
     /// The n-th call (from 1) of `operation` fails with `status`.
@@ -212,7 +212,7 @@ struct FakeLibrary {
         rectifyCalls = 0;
         library->create = [](std::int32_t) -> KXDevice* { return current; };
         library->destroy = [](KXDevice*) { current->destroyed = true; };
-        library->statusString = [](std::int32_t) -> const char* { return "STATUS TEXT"; };
+        library->statusString = [](std::int32_t) -> const char* { return "STATUS %2 TEXT"; };
         library->rectificationTable = [](const KXCalibIntrinsicsNonRectified*, const double*,
                                          const KXCalibIntrinsicsRectified* rectified, std::uint32_t* table) {
             for (std::int32_t i = 0; i < rectified->w * rectified->h; ++i)
@@ -221,8 +221,9 @@ struct FakeLibrary {
         library->rectifyBGRA8ToBGRA8 = [](const std::uint32_t* table, const std::uint8_t* source, std::int32_t,
                                           std::int32_t w, std::int32_t h, std::uint8_t* destination) {
             ++rectifyCalls;
-            for (std::int32_t i = 0; i < w * h; ++i)
-                std::memcpy(destination + 4 * i, source + 4 * table[i], 4);
+            for (std::size_t i = 0; i < static_cast<std::size_t>(w) * static_cast<std::size_t>(h); ++i) {
+                std::memcpy(destination + 4 * i, source + std::size_t{4} * table[i], 4);
+            }
         };
     }
 

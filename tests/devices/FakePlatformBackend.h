@@ -14,6 +14,7 @@ struct FakeRearCamera {
     std::string failing;  ///< the call, as recorded, that fails
     std::vector<std::string> calls;
     RearCameraSink* sink = nullptr;
+    std::int32_t firstPictureMs = 0;
 
     bool call(const std::string& record) {
         calls.push_back(record);
@@ -44,7 +45,7 @@ public:
         return camera_.call(record);
     }
     void setSink(RearCameraSink* sink) override { camera_.sink = sink; }
-    std::int32_t firstPictureMs() const override { return 0; }
+    std::int32_t firstPictureMs() const override { return camera_.firstPictureMs; }
 
 private:
     FakeRearCamera& camera_;

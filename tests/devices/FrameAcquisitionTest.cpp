@@ -6,6 +6,7 @@
 
 #include <array>
 #include <random>
+#include <thread>
 
 namespace fieldcal::testing {
 namespace {
@@ -100,6 +101,10 @@ TEST_F(FrameAcquisitionTest, RefreshesTheModulesRecords) {
     const cv::Mat third(480, 640, CV_8UC4, device->thirdPixels.data());
     EXPECT_EQ(bytesOf(frames.inModuleColour), slowReference(third, 320, 240));
     EXPECT_TRUE(frames.outOfModuleColour.empty());
+
+    device->thirdPixels[640 * 480 * 4 - 2] ^= 0xF0;  // red of the last pixel
+    EXPECT_TRUE(sensor->grab(true));
+    EXPECT_EQ(bytesOf(frames.inModuleColour), slowReference(third, 320, 240)) << "the smallest change is seen";
 }
 
 TEST_F(FrameAcquisitionTest, StreamsThatAreOffOrOddAreSkipped) {
@@ -139,6 +144,28 @@ TEST_F(FrameAcquisitionTest, ASilentStartOfTheRearCameraIsReportedEveryTime) {
     EXPECT_EQ(sensor->frames().outOfModuleColour.width(), 640U);
 }
 
+TEST_F(FrameAcquisitionTest, ARearCameraThatTakesTimeToStartIsAwaitedOnce) {
+    rearCamera.firstPictureMs = 60000;
+    std::atomic<bool> stop{false};
+    sensor->setStopFlag(&stop);
+    openAndRead(applicationSettings());
+    std::thread camera([this] {
+        std::this_thread::sleep_for(milliseconds(30));
+        rearCamera.deliver(81, 90, 240);
+    });
+    EXPECT_TRUE(sensor->grab(true));
+    camera.join();
+    EXPECT_FALSE(rearPixel().empty());
+
+    renew();
+    sensor->setStopFlag(&stop);
+    openAndRead(applicationSettings());
+    stop = true;
+    EXPECT_FALSE(sensor->grab(true)) << "leaving does not wait for the camera";
+    EXPECT_THAT(emitted, IsEmpty());
+    sensor.reset();
+}
+
 TEST_F(FrameAcquisitionTest, EachRearPictureIsWorkedOnOnce) {
     openAndRead(applicationSettings());
     rearCamera.deliver(81, 90, 240);  // red
@@ -151,6 +178,17 @@ TEST_F(FrameAcquisitionTest, EachRearPictureIsWorkedOnOnce) {
     ASSERT_TRUE(grabAfter(milliseconds(16)));
     EXPECT_THAT(rearPixel(), Each(99)) << "nothing new: the record is not touched, least of all swapped back";
     EXPECT_EQ(FakeLibrary::rectifyCalls, 1);
+
+    sensor->setPlatformPictureWanted(false);
+    for (int i = 0; i < 9; ++i)
+        rearCamera.deliver(16, 128, 128);
+    rearCamera.deliver(235, 128, 128);
+    grabAfter(milliseconds(2000));
+    EXPECT_THAT(rearPixel(), Each(99));
+    sensor->setPlatformPictureWanted(true);
+    grabAfter(milliseconds(16));
+    EXPECT_THAT(rearPixel(), Each(255)) << "the newest of those that came meanwhile";
+    EXPECT_EQ(FakeLibrary::rectifyCalls, 2);
 }
 
 TEST_F(FrameAcquisitionTest, ASilentSecondTurnsTheRecordBlackUntilTheNextPicture) {
