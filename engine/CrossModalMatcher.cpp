@@ -53,8 +53,9 @@ void CrossModalMatcher::setup(const CameraPair& cameras, const Eigen::Vector3d& 
 void CrossModalMatcher::prepare(const cv::Mat& infrared16, const cv::Mat& colour, int infraredConversionMode) {
     statistics_ = {};
     Stopwatch watch;
+    auto greyDone = std::async(std::launch::async, [&] { convertToGrey(colour, &grey_); });
     convertInfrared(infrared16, infraredConversionMode, &infrared8_);
-    convertToGrey(colour, &grey_);
+    greyDone.get();
     statistics_.conversionSeconds = watch.lap();
 }
 

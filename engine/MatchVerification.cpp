@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <future>
 
 namespace vq {
 namespace {
@@ -175,21 +176,32 @@ bool verifyPair(const cv::Mat& colour, const cv::Mat& infrared, const cv::Point2
     return true;
 }
 
+/// Verifies every pair from `first` on by steps of two; `kept` gets one flag a pair.
+void verifyEveryOther(const cv::Mat& colour, const cv::Mat& infrared, const std::vector<cv::Point2f>& colourPoints,
+                      std::size_t first, std::vector<cv::Point2f>* infraredPoints, std::vector<char>* kept) {
+    CostTable costs{};
+    for (std::size_t i = first; i < colourPoints.size(); i += 2) {
+        (*kept)[i] = verifyPair(colour, infrared, colourPoints[i], &(*infraredPoints)[i], &costs) ? 1 : 0;
+    }
+}
+
 }  // namespace
 
 void verifyMatches(const cv::Mat& colour, const cv::Mat& infrared, std::vector<cv::Point2f>* colourPoints,
                    std::vector<cv::Point2f>* infraredPoints) {
-    CostTable costs{};
-    std::size_t kept = 0;
-    for (std::size_t i = 0; i < colourPoints->size(); ++i) {
-        cv::Point2f refined = (*infraredPoints)[i];
-        if (!verifyPair(colour, infrared, (*colourPoints)[i], &refined, &costs)) continue;
-        (*colourPoints)[kept] = (*colourPoints)[i];
-        (*infraredPoints)[kept] = refined;
-        ++kept;
+    std::vector<char> kept(colourPoints->size());
+    auto odd = std::async(std::launch::async,
+                          [&] { verifyEveryOther(colour, infrared, *colourPoints, 1, infraredPoints, &kept); });
+    verifyEveryOther(colour, infrared, *colourPoints, 0, infraredPoints, &kept);
+    odd.get();
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < kept.size(); ++i) {
+        if (kept[i] == 0) continue;
+        (*colourPoints)[count] = (*colourPoints)[i];
+        (*infraredPoints)[count++] = (*infraredPoints)[i];
     }
-    colourPoints->resize(kept);
-    infraredPoints->resize(kept);
+    colourPoints->resize(count);
+    infraredPoints->resize(count);
 }
 
 }  // namespace vq

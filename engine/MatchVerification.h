@@ -10,7 +10,8 @@ namespace vq {
 /// infrared point to the best-correlating position (one Newton step on the integer costs) and drops the pair when that
 /// lies on the rim of the search area or more than 2 pixels from the corner.
 ///
-/// Both images CV_8UC1; both lists equally long, replaced by the kept pairs in their order. Any thread.
+/// Both images CV_8UC1; both lists equally long, replaced by the kept pairs in their order. Any thread; uses a
+/// second one while it works.
 void verifyMatches(const cv::Mat& colour, const cv::Mat& infrared, std::vector<cv::Point2f>* colourPoints,
                    std::vector<cv::Point2f>* infraredPoints);
 
