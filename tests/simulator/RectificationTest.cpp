@@ -33,7 +33,7 @@ struct Picture {
     int width, height;
     std::vector<std::uint8_t> bgra;
 
-    std::uint8_t at(int x, int y, int c) const { return bgra[(std::size_t{4} * y * width) + (4 * x) + c]; }
+    std::uint8_t at(int x, int y, int c) const { return bgra[std::size_t{4} * (std::size_t{1} * y * width + x) + c]; }
 };
 
 /// Smooth, different in every channel, alpha 255.
