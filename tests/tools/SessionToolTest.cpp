@@ -1,0 +1,160 @@
+// The command line as people and scripts use it: the real binary, on recordings it made itself.
+
+#include "session/RecordedSession.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+namespace {
+
+using namespace fieldcal;
+
+struct Result {
+    int status = -1;
+    QByteArray out, error;
+    QJsonObject json() const { return QJsonDocument::fromJson(out).object(); }
+    int errorLines() const { return static_cast<int>(error.count('\n')); }
+};
+
+Result run(const QStringList& arguments, const QString& faults = {}) {
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (!faults.isEmpty()) environment.insert("KXSIM_FAULTS", faults);
+    process.setProcessEnvironment(environment);
+    process.start(TOOL, arguments);
+    process.waitForFinished(-1);
+    const int status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    return {status, process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+/// One recording for all tests, made on first use.
+class SessionToolTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        folder_ = new QTemporaryDir;
+        const Result made = run({"synthesize", recording(), "--seed", "5", "--stills", "4", "--platform"});
+        ASSERT_EQ(made.status, 0) << made.error.constData();
+    }
+    static void TearDownTestSuite() { delete folder_; }
+    static QString recording() { return folder_->filePath("recording"); }
+
+    /// A copy of the recording whose description has been changed.
+    template <typename Change>
+    static QString changed(const QString& name, Change change) {
+        const QString target = folder_->filePath(name);
+        QDir().mkpath(target);
+        for (const QString& file : QDir(recording()).entryList(QDir::Files)) {
+            QFile::copy(recording() + '/' + file, target + '/' + file);
+        }
+        session::SessionDescription session;
+        std::string why;
+        EXPECT_TRUE(session::readDescription(target.toStdString(), &session, &why)) << why;
+        change(&session, target);
+        EXPECT_TRUE(session::writeDescription(target.toStdString(), session, &why)) << why;
+        return target;
+    }
+
+    static QTemporaryDir* folder_;
+};
+QTemporaryDir* SessionToolTest::folder_ = nullptr;
+
+TEST_F(SessionToolTest, SolvesARenderedRecordingForBothCameras) {
+    for (const QString camera : {"third", "platform"}) {
+        const QStringList arguments{"calibrate", recording(), "--camera", camera, "--seed", "3", "--json", "-"};
+        const Result result = run(arguments);
+        ASSERT_EQ(result.status, 0) << result.error.constData();
+        const QJsonObject json = result.json();
+        EXPECT_TRUE(json["solved"].toBool());
+        EXPECT_EQ(json["camera"].toString(), camera);
+        EXPECT_LE(json["errorDeg"].toDouble(1.0), 0.05);
+        EXPECT_EQ(json["rotation"].toArray().size(), 9);
+        EXPECT_EQ(json["perPair"].toArray().size(), json["pairs"].toInt());
+        EXPECT_EQ(json["perPair"].toArray().last().toObject()["code"].toInt(), 8);
+        EXPECT_GT(json["seconds"].toObject()["total"].toDouble(), 0.0);
+        EXPECT_EQ(run(arguments).json()["rotation"], json["rotation"]) << "the same seed gives the same answer";
+    }
+}
+
+TEST_F(SessionToolTest, PlaysToTheEndWithoutAnAnswerWhenThereIsNone) {
+    const QString mismatched = changed("mismatched", [](session::SessionDescription* session, const QString&) {
+        const std::string first = session->frames.front().third;
+        for (std::size_t i = 0; i + 1 < session->frames.size(); ++i) {
+            session->frames[i].third = session->frames[i + 1].third;
+        }
+        session->frames.back().third = first;
+    });
+    const Result wrong = run({"calibrate", mismatched, "--seed", "1", "--json", "-"});
+    EXPECT_EQ(wrong.status, 3);
+    EXPECT_FALSE(wrong.json()["solved"].toBool(true));
+    EXPECT_TRUE(wrong.json()["errorDeg"].isNull());
+    EXPECT_EQ(wrong.json()["rotation"], wrong.json()["factoryRotation"]);
+
+    const QString dark = folder_->filePath("dark");
+    ASSERT_EQ(run({"synthesize", dark, "--world", "night", "--stills", "2"}).status, 0);
+    const Result night = run({"calibrate", dark, "--json", "-"});
+    EXPECT_EQ(night.status, 3);
+    EXPECT_EQ(night.json()["pairs"].toInt(-1), 0) << "a dark frame must not be taken";
+    EXPECT_EQ(night.json()["framesUsed"].toInt(), 52);
+}
+
+TEST_F(SessionToolTest, DeviceFailuresEndWithOneLineAndStatusOne) {
+    const Result grab = run({"calibrate", recording(), "--seed", "1"}, "grab:40:6");
+    EXPECT_EQ(grab.status, 1);
+    EXPECT_EQ(grab.errorLines(), 1) << grab.error.constData();
+    EXPECT_TRUE(grab.error.endsWith(" - Something bad has happened with the Tarnex Deepvane camera.\n"));
+
+    const Result missing = run({"calibrate", recording()}, "openDevice:1:5");
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_EQ(missing.errorLines(), 1) << missing.error.constData();
+
+    const QString invalid = changed("invalid", [](session::SessionDescription* session, const QString&) {
+        session->module.calibrationValid = false;
+    });
+    const Result uncalibrated = run({"calibrate", invalid});
+    EXPECT_EQ(uncalibrated.status, 1);
+    EXPECT_TRUE(
+        uncalibrated.error.endsWith(" - The device has not been calibrated or has invalid calibration data.\n"));
+}
+
+TEST_F(SessionToolTest, UnreadableRecordingsAreNamedWithFileAndReason) {
+    const Result nowhere = run({"calibrate", folder_->filePath("nowhere")});
+    EXPECT_EQ(nowhere.status, 1);
+    EXPECT_EQ(nowhere.errorLines(), 1) << nowhere.error.constData();
+    EXPECT_TRUE(nowhere.error.contains("session.json"));
+
+    const QString cut = changed("cut", [](session::SessionDescription* session, const QString& folder) {
+        QFile picture(folder + '/' + QString::fromStdString(session->frames[2].infrared));
+        picture.resize(picture.size() / 2);
+    });
+    for (const char* verb : {"calibrate", "info"}) {
+        const Result truncated = run({verb, cut});
+        EXPECT_EQ(truncated.status, 1);
+        EXPECT_EQ(truncated.errorLines(), 1) << truncated.error.constData();
+        EXPECT_TRUE(truncated.error.contains("002_infrared")) << truncated.error.constData();
+    }
+}
+
+TEST_F(SessionToolTest, WrongUsageIsRefusedWithStatusTwo) {
+    const QList<QStringList> wrong{{},
+                                   {"fly", "x"},
+                                   {"calibrate"},
+                                   {"calibrate", recording(), "--camera", "left"},
+                                   {"calibrate", recording(), "--seed", "-1"},
+                                   {"calibrate", recording(), "--colour"},
+                                   {"synthesize", "x", "--world", "atlantis"},
+                                   {"synthesize", "x", "--stills", "0"},
+                                   {"info"}};
+    for (const QStringList& arguments : wrong) {
+        const Result result = run(arguments);
+        EXPECT_EQ(result.status, 2) << arguments.join(' ').toStdString();
+        EXPECT_TRUE(result.error.contains("usage:"));
+    }
+    EXPECT_FALSE(QDir("x").exists());
+}
+
+}  // namespace
