@@ -57,12 +57,15 @@ bool RecordingCalibration::open(Sensor& sensor, QString* why) {
                      [report] { report("The depth camera was not found."); });
     QObject::connect(&sensor, &Sensor::signal_reportMissingPlatformCamera,
                      [report] { report("The rear camera was not found."); });
-    QObject::connect(&sensor, &Sensor::signal_reportPlatformCameraIssue,
-                     [report] { report("The rear camera does not deliver pictures."); });
+    // Once opened, a rear camera without pictures is no failure: frames of a recording may lack them.
+    QObject::connect(&sensor, &Sensor::signal_reportPlatformCameraIssue, [&sensor, report] {
+        if (!sensor.opened()) report("The rear camera does not deliver pictures.");
+    });
     SensorSettings settings = applicationSettings();
     settings.usePlatformCamera = session_.platform.has_value();
     *why = "The camera could not be opened.";
     if (!sensor.open(settings) || !readCameraParameters(sensor, &parameters_, [] {})) return false;
+    sensor.setPlatformPictureWanted(platformCamera_);
     if (!platformCamera_ || sensor.settings().usePlatformCamera) return true;
     *why = "The module has no usable calibration of the rear camera.";
     return false;

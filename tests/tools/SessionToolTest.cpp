@@ -37,7 +37,7 @@ class SessionToolTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
         folder_ = new QTemporaryDir;
-        const Result made = run({"synthesize", recording(), "--seed", "5", "--stills", "4", "--platform"});
+        const Result made = run({"synthesize", recording(), "--seed", "5", "--stills", "5", "--platform"});
         ASSERT_EQ(made.status, 0) << made.error.constData();
     }
     static void TearDownTestSuite() { delete folder_; }
@@ -78,6 +78,15 @@ TEST_F(SessionToolTest, SolvesARenderedRecordingForBothCameras) {
         EXPECT_GT(json["seconds"].toObject()["total"].toDouble(), 0.0);
         EXPECT_EQ(run(arguments).json()["rotation"], json["rotation"]) << "the same seed gives the same answer";
     }
+}
+
+TEST_F(SessionToolTest, FramesMayLackTheRearCamerasPicture) {
+    const QString gaps = changed(
+        "gaps", [](session::SessionDescription* session, const QString&) { session->frames[0].platform.clear(); });
+    EXPECT_EQ(run({"calibrate", gaps, "--seed", "1"}).status, 0);
+    const Result platform = run({"calibrate", gaps, "--camera", "platform", "--seed", "1", "--json", "-"});
+    EXPECT_EQ(platform.status, 0) << platform.error.constData();
+    EXPECT_LE(platform.json()["errorDeg"].toDouble(1.0), 0.05);
 }
 
 TEST_F(SessionToolTest, PlaysToTheEndWithoutAnAnswerWhenThereIsNone) {
