@@ -54,7 +54,7 @@ float clippedMean(const cv::Mat_<cv::Vec4f>& picture, const cv::Vec4f& weights) 
 std::uint8_t displayed(float linear) {
     const float v = std::clamp(linear, 0.0F, 1.0F);
     const float encoded = v < 0.0031308F ? 12.92F * v : 1.055F * std::pow(v, 1 / 2.4F) - 0.055F;
-    return static_cast<std::uint8_t>(encoded * 255 + 0.5F);
+    return static_cast<std::uint8_t>(std::lround(encoded * 255));
 }
 
 void sharpen(ImageFrame32& frame, double strength) {

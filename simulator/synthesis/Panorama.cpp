@@ -15,7 +15,7 @@ constexpr int tileEdge = Panorama::tileTexels + 1;  // one more row and column, 
 constexpr float fullScale = 4.0F;                   // the radiance that a 16-bit texel can hold
 
 std::uint16_t quantised(float v) {
-    return static_cast<std::uint16_t>(std::clamp(v, 0.0F, fullScale) * (65535.0F / fullScale) + 0.5F);
+    return static_cast<std::uint16_t>(std::lround(std::clamp(v, 0.0F, fullScale) * (65535.0F / fullScale)));
 }
 
 /// Each texel looks at a random place within itself: edges turn into grain instead of stairs.
@@ -34,7 +34,7 @@ struct Panorama::Tile {
     std::array<std::array<std::uint16_t, 4>, static_cast<std::size_t>(tileEdge) * tileEdge> texels;
 };
 
-Panorama::Panorama(const DirectionField& field) : field_(field), tiles_(columnsOfTiles * rowsOfTiles) {}
+Panorama::Panorama(const DirectionField& field) : field_(field), tiles_(std::size_t{columnsOfTiles} * rowsOfTiles) {}
 Panorama::~Panorama() = default;
 
 std::unique_ptr<Panorama::Tile> Panorama::compute(int column, int row) const {

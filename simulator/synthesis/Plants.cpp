@@ -16,7 +16,7 @@ struct Cluster {
 /// Paints one plant; lives for the length of `paintPlant`.
 class Painter {
 public:
-    Painter(const PlantShape& shape, const Light& light, cv::Vec3f sun, float texelsPerMetre, Random& random)
+    Painter(const PlantShape& shape, const Light& light, const cv::Vec3f& sun, float texelsPerMetre, Random& random)
         : shape_(shape),
           light_(light),
           sun_(sun),
@@ -103,6 +103,7 @@ Cluster Painter::placeCluster() {
 
 void Painter::placeBoughs() {
     const int count = 9 + random_.index(9);
+    boughs_.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         boughs_.push_back(randomDirection() * std::sqrt(random_.between(0.05F, 1.0F)));
 }
@@ -112,6 +113,7 @@ std::vector<Cluster> Painter::placeClusters() {
     int count = small ? 40 : 190;
     if (shape_.kind == PlantKind::hedge) count = static_cast<int>(14 * shape_.width / shape_.height);
     std::vector<Cluster> clusters;
+    clusters.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         clusters.push_back(placeCluster());
     std::sort(clusters.begin(), clusters.end(),
@@ -189,7 +191,8 @@ void Painter::paintBare() {
 
 }  // namespace
 
-Sprite paintPlant(const PlantShape& shape, const Light& light, cv::Vec3f sun, float texelsPerMetre, Random& random) {
+Sprite paintPlant(const PlantShape& shape, const Light& light, const cv::Vec3f& sun, float texelsPerMetre,
+                  Random& random) {
     return Painter(shape, light, sun, texelsPerMetre, random).paint();
 }
 

@@ -15,6 +15,7 @@ struct PlantShape {
 };
 
 /// Paints a plant as seen by a viewer for whom the sun stands towards `sun` (x right, y up, z away from the viewer).
-Sprite paintPlant(const PlantShape& shape, const Light& light, cv::Vec3f sun, float texelsPerMetre, Random& random);
+Sprite paintPlant(const PlantShape& shape, const Light& light, const cv::Vec3f& sun, float texelsPerMetre,
+                  Random& random);
 
 }  // namespace fieldcal::synthesis

@@ -49,8 +49,8 @@ float Occluders::sunlightAt(const cv::Vec3f& point, const Noise& noise) const {
     return share;
 }
 
-ShadowMap::ShadowMap(const Occluders& occluders, const Noise& noise, cv::Vec3f origin, cv::Vec3f across, cv::Vec3f down,
-                     cv::Size2f extent, float step)
+ShadowMap::ShadowMap(const Occluders& occluders, const Noise& noise, const cv::Vec3f& origin, const cv::Vec3f& across,
+                     const cv::Vec3f& down, cv::Size2f extent, float step)
     : grid_(static_cast<int>(extent.height / step) + 2, static_cast<int>(extent.width / step) + 2), step_(step) {
     for (int y = 0; y < grid_.rows; ++y)
         for (int x = 0; x < grid_.cols; ++x) {

@@ -26,7 +26,7 @@ struct Crown {
 /// Everything that throws shadows.
 class Occluders {
 public:
-    explicit Occluders(cv::Vec3f toSun) : toSun_(toSun) {}
+    explicit Occluders(const cv::Vec3f& toSun) : toSun_(toSun) {}
     void add(const UprightRectangle& wall) { walls_.push_back(wall); }
     void add(const Crown& crown) { crowns_.push_back(crown); }
     /// Share of the sun that reaches a point, 0 … 1.
@@ -45,8 +45,8 @@ class ShadowMap {
 public:
     ShadowMap() = default;
     /// The patch is origin + a·across + b·down, a and b within 0 … extent; across and down are unit vectors.
-    ShadowMap(const Occluders& occluders, const Noise& noise, cv::Vec3f origin, cv::Vec3f across, cv::Vec3f down,
-              cv::Size2f extent, float step);
+    ShadowMap(const Occluders& occluders, const Noise& noise, const cv::Vec3f& origin, const cv::Vec3f& across,
+              const cv::Vec3f& down, cv::Size2f extent, float step);
     /// Outside the patch and without one: 1.
     float at(float a, float b) const;
 

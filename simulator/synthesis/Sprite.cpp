@@ -54,6 +54,7 @@ void Canvas::blend(int x, int y, const Spectrum& light, float cover) {
 void Canvas::polygon(const std::vector<cv::Point2f>& corners, const Spectrum& light) {
     constexpr int shift = 4;
     std::vector<cv::Point2f> texels;
+    texels.reserve(corners.size());
     for (const auto& corner : corners)
         texels.push_back(texel(corner));
     const cv::Rect all(0, 0, light_.cols, light_.rows);
@@ -61,6 +62,7 @@ void Canvas::polygon(const std::vector<cv::Point2f>& corners, const Spectrum& li
     bounds = cv::Rect(bounds.x - 1, bounds.y - 1, bounds.width + 2, bounds.height + 2) & all;
     if (bounds.empty()) return;
     std::vector<cv::Point> fixed;
+    fixed.reserve(corners.size());
     for (const auto& t : texels)
         fixed.emplace_back(cvRound((t.x - static_cast<float>(bounds.x)) * (1 << shift)),
                            cvRound((t.y - static_cast<float>(bounds.y)) * (1 << shift)));

@@ -76,12 +76,14 @@ Sprite paintBoard(const Light& light, float texelsPerMetre, Random& random) {
     canvas.box(0.65F, 0, 0.75F, 2.3F, upright({0.2F, 0.2F, 0.2F, 0.2F}, light, 0.4F));
     const float sun = random.between(0.1F, 0.9F), step = 1.0F / texelsPerMetre;
     const auto seed = static_cast<std::uint32_t>(random.bits());
-    for (float y = 0; y < height; y += step)
-        for (float x = 0; x < width; x += step) {
-            const std::uint32_t row = static_cast<std::uint32_t>(y / line);
-            const Spectrum ink = signReflectance(seed + row * 8U, x, y - static_cast<float>(row) * line, line);
-            canvas.box(left + x, foot + y, left + x + step, foot + y + step, upright(ink, light, sun));
-        }
+    const int columns = static_cast<int>(width / step), rows = static_cast<int>(height / step);
+    for (int i = 0; i < columns * rows; ++i) {
+        const int column = i % columns, texelRow = i / columns;
+        const float x = static_cast<float>(column) * step, y = static_cast<float>(texelRow) * step;
+        const auto row = static_cast<std::uint32_t>(y / line);
+        const Spectrum ink = signReflectance(seed + row * 8U, x, y - static_cast<float>(row) * line, line);
+        canvas.box(left + x, foot + y, left + x + step, foot + y + step, upright(ink, light, sun));
+    }
     return canvas.finish();
 }
 

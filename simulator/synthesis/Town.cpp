@@ -50,13 +50,15 @@ void addChimneys(Scene& scene, const UprightRectangle& front, float rise, Random
     style.masonry = Masonry::brick;
     style.wall = materials::brick;
     const UprightRectangle depth = sideOf(front, false, 1);
-    for (float s = random.between(1, 4); s < front.length - 1; s += random.between(3, 9)) {
+    float s = random.between(1, 4);
+    while (s < front.length - 1) {
         UprightRectangle chimney = front;
         chimney.origin = front.origin + front.along * s + depth.along * 2.0F;
         chimney.length = random.between(0.5F, 1.1F);
         chimney.bottom = front.bottom + front.height + 0.5F;
         chimney.height = rise + random.between(0.2F, 1.2F);
         scene.add(chimney, style);
+        s += random.between(3, 9);
     }
 }
 

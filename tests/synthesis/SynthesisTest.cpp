@@ -137,8 +137,10 @@ TEST(Synthesis, TheWallShowsNothingButNoise) {
     // Means of neighbouring blocks: noise averages out, texture would stay.
     const auto block = [&](std::size_t x, std::size_t y) {
         double sum = 0;
-        for (std::size_t i = 0; i < 256; ++i)
-            sum += p[(y + i / 16) * width + x + i % 16];
+        for (std::size_t i = 0; i < 256; ++i) {
+            const std::size_t row = y + i / 16, column = x + i % 16;
+            sum += p[row * width + column];
+        }
         return sum / 256;
     };
     int structured = 0;
