@@ -1,5 +1,7 @@
 #include "tests/session/TestSession.h"
 
+#include <QDir>
+#include <QFile>
 #include <QImage>
 #include <gmock/gmock.h>
 
@@ -11,6 +13,12 @@ namespace {
 using ::testing::HasSubstr;
 using ::testing::Not;
 using ::testing::StartsWith;
+
+/// The system's own words for a file that does not exist.
+std::string missingFile() {
+    QFile file(QDir::tempPath() + "/no file has this name");
+    return file.open(QIODevice::ReadOnly) ? "" : file.errorString().toStdString();
+}
 
 /// One edit of the valid description, and what must be said about it.
 struct BadText {
@@ -94,7 +102,7 @@ TEST_F(Refusal, FilesThatAreNoDescription) {
     describe(kSessionText.substr(0, frames) + "\"frames\": [] }");
     expectRefused("session.json", "frames", "no frame");
     ASSERT_TRUE(QFile::remove(QString::fromStdString(path("session.json"))));
-    expectRefused("session.json", "", "No such file");
+    expectRefused("session.json", "", missingFile());
 }
 
 TEST_F(Refusal, TheSumOfTheRepeatsIsBounded) {
@@ -138,7 +146,7 @@ QImage colour(int width, int height, QImage::Format format, const QColor& fill =
 }
 
 const BadPicture kBadPictures[] = {
-    {"a_infrared.png", "frames[0].infrared", "No such file",
+    {"a_infrared.png", "frames[0].infrared", missingFile(),
      [](const auto& path) { QFile::remove(QString::fromStdString(path)); }},
     {"a_infrared.png", "frames[0].infrared", "the picture is 4 x 6, not 6 x 4",
      [](const auto& path) { save(path, grey(4, 6, 0)); }},

@@ -29,7 +29,9 @@ Result run(const QStringList& arguments, const QString& faults = {}) {
     process.start(TOOL, arguments);
     process.waitForFinished(-1);
     const int status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-    return {status, process.readAllStandardOutput(), process.readAllStandardError()};
+    // Windows ends lines with two characters.
+    return {status, process.readAllStandardOutput().replace("\r\n", "\n"),
+            process.readAllStandardError().replace("\r\n", "\n")};
 }
 
 /// One recording for all tests, made on first use.
