@@ -11,7 +11,7 @@ namespace {
 
 constexpr float kMinimumDistancePx = 10.0F;
 /// A pair within this distance of the winner's prediction is not a rival's own.
-constexpr double kNearWinnerPx = 3.0 * kInlierPx;
+constexpr double kNearWinnerPx = 4.5;
 
 bool isDegenerate(const std::vector<cv::Point2f>& points, const Sample& sample) {
     for (std::size_t i = 0; i < sample.size(); ++i) {

@@ -1,5 +1,6 @@
 #include "engine/RotationEstimator.h"
 
+#include "engine/Rotation.h"
 #include "engine/RotationFit.h"
 
 #include <algorithm>
@@ -20,7 +21,7 @@ constexpr double kToleranceDeg = 0.1;
 constexpr double kMinimumInlierShare = 0.2;
 constexpr int kMinimumInliers = 12;
 /// A second rotation that explains this share of what the winner explains makes the scene ambiguous.
-constexpr double kRivalShare = 0.5;
+constexpr double kRivalShare = 0.25;
 
 Eigen::Vector3d unsetAngles() {
     return Eigen::Vector3d::Constant(std::numeric_limits<double>::quiet_NaN());
@@ -40,6 +41,20 @@ void judgeFit(const RotationCost& cost, const Eigen::Vector3d& anglesRad, float*
     const auto count = static_cast<double>(residuals.size());
     *score = static_cast<float>(1.0 - sum / count);
     *error = static_cast<float>(std::sqrt(squares / count));
+}
+
+/// Beyond the searched range the matcher sees only those matches that happen to reach into their areas; what they
+/// agree on is drawn towards the range. Half a degree beyond it the answer is still right.
+constexpr double kBeyondSearchDeg = 0.5;
+
+bool lieWithin(const SearchRange& range, const Eigen::Vector3d& offsetDeg) {
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const double offset = offsetDeg[static_cast<Eigen::Index>(axis)];
+        if (offset < range.minDeg[axis] - kBeyondSearchDeg || offset > range.maxDeg[axis] + kBeyondSearchDeg) {
+            return false;
+        }
+    }
+    return true;
 }
 
 bool isMoreThanChance(int inliers, int pairs) {
@@ -124,6 +139,8 @@ bool RotationEstimator::refineRotation(const RotationCost& cost, const Consensus
     if (consensus.rivalInlierCount > kRivalShare * consensus.inlierCount) return false;
     Eigen::Vector3d refinedRad;
     if (!fitRotationLM(cost, search_.initialAnglesRad.cast<double>(), &refinedRad)) return false;
+    const Eigen::Vector3d offsetRad = refinedRad - search_.initialAnglesRad.cast<double>();
+    if (!lieWithin(search_.range, offsetRad * kDegreesPerRadian)) return false;
     int inliers = 0;
     judgeFit(cost, refinedRad, score, error, &inliers);
     // The fit over all pairs starts far off, and must have come to where the consensus is.
