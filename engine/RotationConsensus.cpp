@@ -27,8 +27,8 @@ bool isDegenerate(const std::vector<cv::Point2f>& points, const Sample& sample) 
 /// Unit vectors of a round's matches in both cameras.
 ///
 /// A rotation keeps the distance between two directions. Matches between which it differs by more than two inlier
-/// bounds are therefore never inliers together, and a sample without four that go together is not worth its fit: that
-/// spares most fits, and the winner is the same (docs/estimation.md).
+/// bounds are therefore never inliers together, and a sample without four that go together is not worth its fit. That
+/// spares most fits; the refined angles do not depend on it (docs/estimation.md).
 class DirectionPairs {
 public:
     explicit DirectionPairs(const RotationCost& cost) : tolerance_(2.0 * kInlierPx / cost.focalLengthPx()) {
