@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <future>
 #include <vector>
 
 namespace vq {
@@ -99,6 +100,17 @@ private:
     const double* squareBottom_;
 };
 
+void stretchRows(const cv::Mat& clamped, const cv::Mat& sums, const cv::Mat& squares, int first, int end,
+                 cv::Mat* infrared8) {
+    for (int y = first; y < end; ++y) {
+        const RowStretch row(sums, squares, y, clamped.rows);
+        const float* source = clamped.ptr<float>(y);
+        std::uint8_t* target = infrared8->ptr<std::uint8_t>(y);
+        for (int x = 0; x < clamped.cols; ++x)
+            target[x] = row.stretched(source[x], x, clamped.cols);
+    }
+}
+
 void stretchHistogram(const cv::Mat& infrared16, cv::Mat* infrared8) {
     const auto statistics = clippedStatistics(infrared16.ptr<std::uint16_t>(), infrared16.total());
     cv::Mat clamped;
@@ -107,13 +119,11 @@ void stretchHistogram(const cv::Mat& infrared16, cv::Mat* infrared8) {
     cv::Mat sums, squares;
     cv::integral(clamped, sums, squares, CV_64F, CV_64F);
     infrared8->create(infrared16.size(), CV_8UC1);
-    for (int y = 0; y < clamped.rows; ++y) {
-        const RowStretch row(sums, squares, y, clamped.rows);
-        const float* source = clamped.ptr<float>(y);
-        std::uint8_t* target = infrared8->ptr<std::uint8_t>(y);
-        for (int x = 0; x < clamped.cols; ++x)
-            target[x] = row.stretched(source[x], x, clamped.cols);
-    }
+    const int middle = clamped.rows / 2;
+    auto lower =
+        std::async(std::launch::async, [&] { stretchRows(clamped, sums, squares, middle, clamped.rows, infrared8); });
+    stretchRows(clamped, sums, squares, 0, middle, infrared8);
+    lower.get();
 }
 
 void convertByTable(const cv::Mat& infrared16, int mode, cv::Mat* infrared8) {
