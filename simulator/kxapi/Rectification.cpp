@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <functional>
+#include <future>
 
 namespace kxsim {
 namespace {
@@ -84,6 +86,36 @@ std::uint32_t interpolate(const std::uint8_t* upper, const std::uint8_t* lower, 
     return pixel;
 }
 
+struct Picture {
+    const std::uint32_t* table;
+    const std::uint8_t* source;
+    std::int32_t pitchPixels, width, height;
+    std::uint8_t* destination;
+};
+
+void rectifyRows(const Picture& picture, std::int32_t first, std::int32_t end) {
+    static const Weights weights = makeWeights();
+    const std::size_t pitch = std::size_t{4} * static_cast<std::size_t>(picture.pitchPixels);
+    const auto lastX = static_cast<std::uint32_t>(picture.width - 1);
+    const auto lastY = static_cast<std::uint32_t>(picture.height - 1);
+    for (auto row = static_cast<std::size_t>(first); row < static_cast<std::size_t>(end); ++row) {
+        const std::uint32_t* table = picture.table + row * static_cast<std::size_t>(picture.width);
+        std::uint8_t* target = picture.destination + row * pitch;
+        for (std::int32_t column = 0; column < picture.width; ++column, target += 4) {
+            const std::uint32_t from = *table++;
+            const std::uint32_t x = from >> kShiftX & kMaskX;
+            const std::uint32_t y = from >> kShiftY & kMaskY;
+            std::uint32_t pixel = kBlack;
+            if ((from & kInside) != 0 && x < lastX && y < lastY) {
+                const std::uint8_t* upper = picture.source + y * pitch + std::size_t{4} * x;
+                pixel = interpolate(upper, upper + pitch, weights.x[from >> kShiftFractionX & kMaskFraction],
+                                    weights.y[from & kMaskFraction]);
+            }
+            std::memcpy(target, &pixel, sizeof(pixel));
+        }
+    }
+}
+
 }  // namespace
 
 void fillRectificationTable(const KXCalibIntrinsicsNonRectified& raw, const double* rotation,
@@ -105,25 +137,11 @@ void fillRectificationTable(const KXCalibIntrinsicsNonRectified& raw, const doub
 
 void rectify(const std::uint32_t* table, const std::uint8_t* source, std::int32_t pitchPixels, std::int32_t width,
              std::int32_t height, std::uint8_t* destination) {
-    static const Weights weights = makeWeights();
     if (width < 2 || height < 2 || pitchPixels < width) return;
-    const std::size_t pitch = std::size_t{4} * static_cast<std::size_t>(pitchPixels);
-    const auto lastX = static_cast<std::uint32_t>(width - 1);
-    const auto lastY = static_cast<std::uint32_t>(height - 1);
-    for (std::int32_t row = 0; row < height; ++row, destination += pitch) {
-        for (std::int32_t column = 0; column < width; ++column) {
-            const std::uint32_t from = *table++;
-            const std::uint32_t x = from >> kShiftX & kMaskX;
-            const std::uint32_t y = from >> kShiftY & kMaskY;
-            std::uint32_t pixel = kBlack;
-            if ((from & kInside) != 0 && x < lastX && y < lastY) {
-                const std::uint8_t* upper = source + y * pitch + std::size_t{4} * x;
-                pixel = interpolate(upper, upper + pitch, weights.x[from >> kShiftFractionX & kMaskFraction],
-                                    weights.y[from & kMaskFraction]);
-            }
-            std::memcpy(destination + std::size_t{4} * static_cast<std::size_t>(column), &pixel, sizeof(pixel));
-        }
-    }
+    const Picture picture{table, source, pitchPixels, width, height, destination};
+    auto lower = std::async(std::launch::async, rectifyRows, std::cref(picture), height / 2, height);
+    rectifyRows(picture, 0, height / 2);
+    lower.get();
 }
 
 }  // namespace kxsim
