@@ -6,86 +6,61 @@
 namespace vq::testing {
 namespace {
 
-const Eigen::Vector3d kToleranceDeg(0.25, 0.25, 0.25);
-const Eigen::Vector3d kHeadDeg(1.0, 2.0, -1.0);
-constexpr float kHeadScore = 0.5F;
+class VoteStore : public ::testing::Test {
+protected:
+    void add(const Eigen::Vector3d& anglesDeg, float score = 0.5F, int weight = 84) {
+        store_.add(anglesDeg * kDeg, score, 0.1F, weight);
+    }
+    RotationVoteStore store_{3, {0.25, 0.25, 0.25}};
+};
 
-TEST(VoteStore, CandidatesMatchByTwoAnglesAndTheScore) {
+TEST_F(VoteStore, CandidatesMatchByTwoAnglesAndTheScore) {
     struct Case {
         Eigen::Vector3d offsetDeg;
         float score;
         bool joins;
-        const char* what;
     };
-    const Case cases[] = {
-        {{0, 0, 0}, kHeadScore, true, "the same"},
-        {{0, 100, 0}, kHeadScore, true, "the second angle is not compared"},
-        {{0.249, 0, -0.249}, kHeadScore, true, "within both tolerances"},
-        {{0.251, 0, 0}, kHeadScore, false, "first angle"},
-        {{0, 0, -0.251}, kHeadScore, false, "third angle"},
-        // |0.5 - s| <= (0.5 + s) * 0.01 holds up to s = 0.505 / 0.99 and down to 0.495 / 1.01.
-        {{0, 0, 0}, 0.5101F, true, "score nearly too high"},
-        {{0, 0, 0}, 0.5102F, false, "score too high"},
-        {{0, 0, 0}, 0.49012F, true, "score nearly too low"},
-        {{0, 0, 0}, 0.49F, false, "score too low"},
-    };
+    // The scores may differ by a hundredth of their sum: about 0.5 from 0.495 / 1.01 to 0.505 / 0.99.
+    const Case cases[] = {{{0, 0, 0}, 0.5F, true},      {{0, 100, 0}, 0.5F, true},     {{0.249, 0, -0.249}, 0.5F, true},
+                          {{0.251, 0, 0}, 0.5F, false}, {{0, 0, -0.251}, 0.5F, false}, {{0, 0, 0}, 0.5101F, true},
+                          {{0, 0, 0}, 0.5102F, false},  {{0, 0, 0}, 0.49012F, true},   {{0, 0, 0}, 0.49F, false}};
+    const Eigen::Vector3d headDeg(1.0, 2.0, -1.0);
     for (const Case& test : cases) {
-        RotationVoteStore store(1, kToleranceDeg);
-        store.add(kHeadDeg * kDeg, kHeadScore, 0.1F, 84);
-        store.add((kHeadDeg + test.offsetDeg) * kDeg, test.score, 0.2F, 80);
-        ASSERT_NE(store.best(), nullptr);
-        EXPECT_EQ(store.best()->votes, test.joins ? 2 : 1) << test.what;
-        EXPECT_EQ(store.best()->anglesRad, kHeadDeg * kDeg) << test.what;
+        store_.clear();
+        add(headDeg);
+        add(headDeg + test.offsetDeg, test.score);
+        EXPECT_EQ(store_.best()->votes, test.joins ? 2 : 1) << test.offsetDeg.transpose() << ", " << test.score;
+        EXPECT_EQ(store_.best()->anglesRad, headDeg * kDeg);
+    }
+    // The bound is inclusive: 0 for two scores of 0. Two of −1 can never match.
+    for (const auto& [score, votes] : {std::pair{0.0F, 2}, {-1.0F, 1}}) {
+        store_.clear();
+        add(headDeg, score);
+        add(headDeg, score);
+        EXPECT_EQ(store_.best()->votes, votes) << score;
     }
 }
 
-TEST(VoteStore, ScoreBoundIsInclusive) {
-    // With both scores 0 the bound is 0, and so is the difference; with one negative nothing can match.
-    RotationVoteStore store(1, kToleranceDeg);
-    store.add(kHeadDeg * kDeg, 0.0F, 0.1F, 84);
-    store.add(kHeadDeg * kDeg, 0.0F, 0.1F, 84);
-    EXPECT_EQ(store.best()->votes, 2);
-    store.clear();
-    store.add(kHeadDeg * kDeg, -1.0F, 0.1F, 84);
-    store.add(kHeadDeg * kDeg, -1.0F, 0.1F, 84);
-    EXPECT_EQ(store.best()->votes, 1);
+TEST_F(VoteStore, LightCandidatesNeitherHeadNorJoin) {
+    add({0, 0, 0}, 0.5F, 2);
+    EXPECT_EQ(store_.best(), nullptr);
+    for (const int weight : {3, 2, 0})
+        add({0, 0, 0}, 0.5F, weight);
+    EXPECT_EQ(store_.best()->votes, 1);
 }
 
-TEST(VoteStore, LightCandidatesNeitherHeadNorJoin) {
-    RotationVoteStore store(3, kToleranceDeg);
-    store.add(kHeadDeg * kDeg, kHeadScore, 0.1F, 2);
-    EXPECT_EQ(store.best(), nullptr);
-    store.add(kHeadDeg * kDeg, kHeadScore, 0.1F, 3);
-    store.add(kHeadDeg * kDeg, kHeadScore, 0.1F, 2);
-    store.add(kHeadDeg * kDeg, kHeadScore, 0.1F, 0);
-    EXPECT_EQ(store.best()->votes, 1);
-    EXPECT_EQ(store.best()->weight, 3);
-}
-
-TEST(VoteStore, BestIsTheFirstOfEquals) {
-    RotationVoteStore store(1, kToleranceDeg);
+TEST_F(VoteStore, BestIsTheFirstOfEquals) {
     for (const double firstDeg : {0.0, 3.0, 6.0, 6.0, 3.0})
-        store.add(Eigen::Vector3d(firstDeg, 0, 0) * kDeg, kHeadScore, 0.1F, 10);
-    EXPECT_EQ(store.best()->votes, 2);
-    EXPECT_DOUBLE_EQ(store.best()->anglesRad[0], 3.0 * kDeg);
-    store.clear();
-    EXPECT_EQ(store.best(), nullptr);
+        add({firstDeg, 0, 0});
+    EXPECT_EQ(store_.best()->votes, 2);
+    EXPECT_DOUBLE_EQ(store_.best()->anglesRad[0], 3.0 * kDeg);
 }
 
-TEST(VoteStore, AnglesAboutTheReferenceDoNotWrap) {
-    RotationVoteStore store(1, kToleranceDeg);
-    store.setReference(Eigen::Vector3d(0, 0, 180) * kDeg);
-    store.add(Eigen::Vector3d(0, 0, 179.95) * kDeg, kHeadScore, 0.1F, 10);
-    store.add(Eigen::Vector3d(0, 0, -179.95) * kDeg, kHeadScore, 0.1F, 10);
-    EXPECT_EQ(store.best()->votes, 2);
-}
-
-TEST(VoteStore, UnsetAnglesMatchNothing) {
-    RotationVoteStore store(1, kToleranceDeg);
-    const Eigen::Vector3d unset = Eigen::Vector3d::Constant(std::nan(""));
-    store.add(unset, kHeadScore, 0.1F, 10);
-    store.add(unset, kHeadScore, 0.1F, 10);
-    EXPECT_EQ(store.best()->votes, 1);
+TEST_F(VoteStore, AnglesAboutTheReferenceDoNotWrap) {
+    store_.setReference(Eigen::Vector3d(0, 0, 180) * kDeg);
+    add({0, 0, 179.95});
+    add({0, 0, -179.95});
+    EXPECT_EQ(store_.best()->votes, 2);
 }
 
 }  // namespace
