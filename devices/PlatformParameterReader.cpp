@@ -16,7 +16,7 @@ bool hasPictureSize(std::int32_t width, std::int32_t height) {
     return width == kPlatformPictureWidth && height == kPlatformPictureHeight;
 }
 
-bool isRotation(const double* matrix) {
+bool holdsNumbers(const double* matrix) {
     return matrix != nullptr && std::all_of(matrix, matrix + 9, [](double entry) { return std::isfinite(entry); });
 }
 
@@ -43,7 +43,7 @@ bool readRectification(KXPlatformCamera& camera, const KXLibrary& library, Platf
         return unusable("its raw model");
     }
     const double* rotation = camera.rectificationRotation();
-    if (!isRotation(rotation)) return unusable("its rectification");
+    if (!holdsNumbers(rotation)) return unusable("its rectification");
     if (!camera.setPlatformMode(1, kPlatformPictureWidth, kPlatformPictureHeight)) {
         return unusable("its rectified mode");
     }
@@ -93,8 +93,11 @@ bool scaleModel(const CameraModel& infrared, PlatformParameters* out) {
 bool readPlatformParameters(KXPlatformCamera& camera, const KXLibrary& library, const CameraModel& infrared,
                             PlatformParameters* out) {
     qInfo("Reading platform camera calibration from KXAPI...");
-    return readRectification(camera, library, &out->calibration) && readModel(camera, &out->model) &&
-           readExtrinsics(camera, &out->extrinsics) && scaleModel(infrared, out);
+    if (!readRectification(camera, library, &out->calibration)) return false;
+    // Both are read, so that the log tells everything that is wrong.
+    const bool hasModel = readModel(camera, &out->model);
+    const bool hasPose = readExtrinsics(camera, &out->extrinsics);
+    return hasModel && hasPose && scaleModel(infrared, out);
 }
 
 }  // namespace fieldcal

@@ -61,9 +61,9 @@ public:
     /// Reports, once, that the module has no valid calibration.
     void reportInvalidCalibration();
 
-    /// Null until opened. Whoever holds the device keeps it alive.
+    /// Null until `open` has created it. Whoever holds the device keeps it alive.
     std::shared_ptr<KXDevice> device() const { return device_; }
-    /// Null until opened; valid as long as the device.
+    /// Null until the device is open; valid as long as it.
     KXThirdCamera* thirdCamera() const { return third_; }
     /// Null until `open` has loaded it.
     std::shared_ptr<const KXLibrary> library() const { return library_; }

@@ -1,9 +1,9 @@
 #include "session/Description.h"
 
+#include "session/InputFile.h"
 #include "session/JsonReader.h"
 #include "session/Refusal.h"
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -171,9 +171,8 @@ bool parseDescription(const QByteArray& bytes, const std::string& file, SessionD
 
 bool readDescription(const std::string& folder, SessionDescription* out, std::string* why) {
     const std::string name = descriptionFile(folder);
-    QFile file(QString::fromStdString(name));
-    if (!file.open(QIODevice::ReadOnly)) return refuse(why, name, {}, file.errorString().toStdString());
-    if (file.size() > kLargestFile) return refuse(why, name, {}, "larger than 64 MiB");
+    QFile file;
+    if (!openInput(name, {}, kLargestFile, &file, why)) return false;
     return parseDescription(file.readAll(), name, out, why);
 }
 

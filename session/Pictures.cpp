@@ -1,9 +1,10 @@
+#include "session/InputFile.h"
 #include "session/Nv12.h"
 #include "session/PngFile.h"
 #include "session/RecordedSession.h"
 #include "session/Refusal.h"
 
-#include <QFile>
+#include <limits>
 
 namespace fieldcal::session {
 namespace {
@@ -42,21 +43,19 @@ FrameFiles frameFiles(const std::string& folder, const SessionDescription& sessi
 }
 
 bool openRaw(const PngExpectation& expected, QFile* file, std::string* why) {
-    if (!file->open(QIODevice::ReadOnly)) {
-        return refuse(why, expected.file, expected.key, file->errorString().toStdString());
-    }
+    if (!openInput(expected.file, expected.key, std::numeric_limits<qint64>::max(), file, why)) return false;
     if (file->size() == static_cast<qint64>(kNv12Bytes)) return true;
     return refuse(why, expected.file, expected.key,
                   std::to_string(file->size()) + " bytes, not " + std::to_string(kNv12Bytes));
 }
 
 bool checkRaw(const PngExpectation& expected, std::string* why) {
-    QFile file(QString::fromStdString(expected.file));
+    QFile file;
     return openRaw(expected, &file, why);
 }
 
 bool readRaw(const PngExpectation& expected, std::vector<std::uint8_t>* out, std::string* why) {
-    QFile file(QString::fromStdString(expected.file));
+    QFile file;
     if (!openRaw(expected, &file, why)) return false;
     out->resize(kNv12Bytes);
     const qint64 got = file.read(reinterpret_cast<char*>(out->data()), static_cast<qint64>(kNv12Bytes));

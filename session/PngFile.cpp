@@ -1,10 +1,10 @@
 #include "session/PngFile.h"
 
+#include "session/InputFile.h"
 #include "session/PngStructure.h"
 #include "session/Refusal.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QImage>
 #include <QImageReader>
 #include <QImageWriter>
@@ -30,9 +30,8 @@ bool kindMatches(const PngHeader& header, PngKind kind) {
 }
 
 bool load(const PngExpectation& expected, QByteArray* bytes, std::string* why) {
-    QFile file(QString::fromStdString(expected.file));
-    if (!file.open(QIODevice::ReadOnly)) return refused(why, expected, file.errorString().toStdString());
-    if (file.size() > kLargestFile) return refused(why, expected, "larger than 256 MiB");
+    QFile file;
+    if (!openInput(expected.file, expected.key, kLargestFile, &file, why)) return false;
     *bytes = file.readAll();
     return true;
 }
