@@ -31,7 +31,8 @@ RecordingCalibration::RecordingCalibration(std::string folder, session::SessionD
 
 bool RecordingCalibration::run(QString* why) {
     vq::Stopwatch watch;
-    qputenv("KXSIM_SESSION", QByteArray::fromStdString(folder_));
+    // In the encoding in which the library reads it back, which is not UTF-8 on every system.
+    qputenv("KXSIM_SESSION", QString::fromStdString(folder_).toLocal8Bit());
     qputenv("KXSIM_SPEED", "0");
     bool played = false;
     {
