@@ -9,7 +9,18 @@ namespace {
 
 using ::testing::Each;
 using ::testing::ElementsAre;
+using ::testing::FloatEq;
 using ::testing::IsEmpty;
+
+constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+constexpr const char* kNotCalibrated =
+    "STATUS %2 TEXT - The device has not been calibrated or has invalid calibration data.";
+
+using Damage = std::function<void(FakeKxDevice&)>;
+
+std::vector<float> numbersOf(const CameraModel& model) {
+    return {static_cast<float>(model.width), static_cast<float>(model.height), model.fx, model.fy, model.cx, model.cy};
+}
 
 class CameraParameterReaderTest : public SensorTest {
 protected:
@@ -24,27 +35,24 @@ protected:
 };
 
 TEST_F(CameraParameterReaderTest, BringsTheInModuleCameraIntoTheInfraredGeometry) {
-    ASSERT_TRUE(openAndRead());  // 580/1160 = 0.5 across, 576/960 = 0.6 down
-    const CameraModel& colour = parameters.inModuleColour;
-    EXPECT_EQ(colour.width, 320);
-    EXPECT_EQ(colour.height, 240) << "the height follows the factor across";
-    EXPECT_FLOAT_EQ(colour.fx, 580);
-    EXPECT_FLOAT_EQ(colour.fy, 576);
-    EXPECT_FLOAT_EQ(colour.cx, 160);
-    EXPECT_FLOAT_EQ(colour.cy, 144);
+    ASSERT_TRUE(openAndRead());  // 580/1160 = 0.5 across, 576/960 = 0.6 down; the height follows the factor across
+    EXPECT_THAT(numbersOf(parameters.inModuleColour), ElementsAre(320, 240, 580, 576, 160, 144));
     EXPECT_FLOAT_EQ(parameters.inModuleScaling.x, 1.0F);
     EXPECT_FLOAT_EQ(parameters.inModuleScaling.y, 1.2F) << "0.6 wanted, 240/480 delivered";
     EXPECT_EQ(sensor->settings().thirdScaledWidth, 320);
     EXPECT_EQ(sensor->settings().thirdScaledHeight, 240);
-    EXPECT_FLOAT_EQ(parameters.depthToInModule.translation[0], 0.058F);
-    EXPECT_FLOAT_EQ(parameters.depth.fx, 581);
-    EXPECT_EQ(parameters.infrared.width, 628);
+    EXPECT_THAT(parameters.depthToInModule.translation,
+                ElementsAre(FloatEq(0.058F), FloatEq(-0.002F), FloatEq(0.001F)));
+    EXPECT_THAT(numbersOf(parameters.infrared), ElementsAre(628, 468, 580, 576, 314, 234));
+    EXPECT_THAT(numbersOf(parameters.depth), ElementsAre(628, 468, 581, 577, 315, 235));
+    EXPECT_TRUE(
+        LogCapture::has("getCalibIntrinsicsZ output: fx=581.000000, fy=577.000000, cx=315.000000, "
+                        "cy=235.000000, w=628, h=468"));
     EXPECT_TRUE(LogCapture::has("scaleFxThirdToIr = 0.500000, scaleFyThirdToIr = 0.600000"));
-    EXPECT_TRUE(LogCapture::has("yResThirdScaledToIr: 240"));
 }
 
 TEST_F(CameraParameterReaderTest, RoundingIsToldByTheScaling) {
-    device->thirdIntrinsics = {464, 464, 320, 240, 642, 481};  // factor 1.25: 802.5 and 601.25
+    device->third = {464, 464, 320, 240, 642, 481};  // factor 1.25: 802.5 and 601.25
     device->leftRight.fy = 580;
     ASSERT_TRUE(openAndRead());
     EXPECT_EQ(parameters.inModuleColour.width, 803) << "a half rounds away from zero";
@@ -57,14 +65,12 @@ TEST_F(CameraParameterReaderTest, ReadsThePlatformCamera) {
     ASSERT_TRUE(openAndRead());
     EXPECT_EQ(forced, 0);
     EXPECT_TRUE(sensor->settings().usePlatformCamera);
-    EXPECT_EQ(parameters.outOfModuleColour.width, 640);
-    EXPECT_EQ(parameters.outOfModuleColour.height, 360);
-    EXPECT_FLOAT_EQ(parameters.outOfModuleColour.fx, 580);
-    EXPECT_FLOAT_EQ(parameters.outOfModuleColour.fy, 576);
-    EXPECT_FLOAT_EQ(parameters.depthToOutOfModule.translation[1], 0.012F);
+    EXPECT_THAT(numbersOf(parameters.outOfModuleColour),
+                ElementsAre(640, 360, FloatEq(580), FloatEq(576), FloatEq(325), FloatEq(355 * 576.0F / 1145)));
+    EXPECT_THAT(parameters.depthToOutOfModule.translation,
+                ElementsAre(FloatEq(-0.03F), FloatEq(0.012F), FloatEq(0.004F)));
     EXPECT_NEAR(parameters.outOfModuleScaling.y, 576.0 / 1145 * 720 / 360, 1e-6);
     EXPECT_EQ(sensor->settings().platformScaledWidth, 640);
-    EXPECT_EQ(sensor->platformCalibration().rectificationTable.size(), 1280U * 720);
     EXPECT_EQ(sensor->platformCalibration().rectificationTable.back(), 1280U * 720 - 1);
     const std::vector<std::string> last(device->calls.end() - 7, device->calls.end());
     EXPECT_THAT(last, ElementsAre("setPlatformMode(0,1280,720)", "nonRectifiedIntrinsics()", "rectificationRotation()",
@@ -74,23 +80,20 @@ TEST_F(CameraParameterReaderTest, ReadsThePlatformCamera) {
 }
 
 TEST_F(CameraParameterReaderTest, UnusablePlatformDataMeansNoPlatformCamera) {
-    constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
-    using Damage = std::function<void(FakeKxDevice&)>;
     const Damage damages[] = {
         [](auto& d) { d.failCall("platformCamera", 1, 0); },
         [](auto& d) { d.failCall("setPlatformMode", 1, 1); },
         [](auto& d) { d.failCall("setPlatformMode", 2, 1); },
         [](auto& d) { d.failCall("nonRectifiedIntrinsics", 1, 1); },
         [](auto& d) { d.failCall("rectificationRotation", 1, 1); },
-        [](auto& d) { d.failCall("rectifiedIntrinsics", 2, 1); },
-        [](auto& d) { d.failCall("zToPlatformExtrinsics", 1, 1); },
-        [](auto& d) { d.platform.raw.k3 = kNan; },
-        [](auto& d) { d.platform.rotation[8] = kNan; },
-        [](auto& d) { d.platform.rectified.cy = kNan; },
-        [](auto& d) { d.platform.rectified.fx = 0; },
-        [](auto& d) { d.platform.rectified.w = 4000; },  // the table would not fit
-        [](auto& d) { d.platform.zToPlatform.rotation[4] = kNan; },
-        [](auto& d) { d.platform.rectified.fx = 1e-3F; },  // a picture of 742400000 columns
+        [](auto& d) { d.failCall("rectifiedIntrinsics", 2, 1), d.failCall("zToPlatformExtrinsics", 1, 1); },
+        [](auto& d) { d.raw.k3 = kNan; },
+        [](auto& d) { d.rotation[8] = kNan; },
+        [](auto& d) { d.rectified.cy = kNan; },
+        [](auto& d) { d.rectified.fx = 0; },
+        [](auto& d) { d.rectified.w = 4000; },  // the table would not fit
+        [](auto& d) { d.zToPlatform.rotation[4] = kNan; },
+        [](auto& d) { d.rectified.fx = 1e-3F; },  // a picture of 742400000 columns
     };
     int number = 0;
     for (const Damage& damage : damages) {
@@ -111,27 +114,14 @@ TEST_F(CameraParameterReaderTest, UnusablePlatformDataMeansNoPlatformCamera) {
     EXPECT_TRUE(LogCapture::has("CRITICAL getCalibExtrinsicsZToNonRectPlatformCamera failed"));
 }
 
-TEST_F(CameraParameterReaderTest, AnInvalidCalibrationIsReportedOnce) {
-    device->calibrated = false;
-    parameters.infrared.width = 77;
-    EXPECT_FALSE(openAndRead());
-    EXPECT_FALSE(readCameraParameters(*sensor, &parameters, [] {}));
-    EXPECT_EQ(parameters.infrared.width, 77);
-    EXPECT_TRUE(LogCapture::has("CRITICAL Calibration was reported to be invalid..."));
-    EXPECT_THAT(emitted,
-                ElementsAre("STATUS %2 TEXT - The device has not been calibrated or has invalid calibration data."));
-    EXPECT_FALSE(sensor->grab(true));
-}
-
-TEST_F(CameraParameterReaderTest, UnusableModuleDataIsRefused) {
-    using Damage = std::function<void(FakeKxDevice&)>;
+TEST_F(CameraParameterReaderTest, UnusableModuleDataIsRefusedAndReportedOnce) {
     const Damage damages[] = {
-        [](auto& d) { d.thirdIntrinsics.fx = std::numeric_limits<float>::infinity(); },
-        [](auto& d) { d.thirdIntrinsics.fx = 0; },
-        [](auto& d) { d.thirdIntrinsics.fx = 10; },    // 37120 columns
-        [](auto& d) { d.thirdIntrinsics.fx = 1e9F; },  // none
-        [](auto& d) { d.leftRight.cx = std::numeric_limits<float>::quiet_NaN(); },
-        [](auto& d) { d.zToThird.translation[2] = std::numeric_limits<float>::quiet_NaN(); },
+        [](auto& d) { d.calibrated = false; },
+        [](auto& d) { d.third.fx = std::numeric_limits<float>::infinity(); },
+        [](auto& d) { d.third.fx = 10; },    // 37120 columns
+        [](auto& d) { d.third.fx = 1e9F; },  // none
+        [](auto& d) { d.leftRight.cx = kNan; },
+        [](auto& d) { d.zToThird.translation[2] = kNan; },
         [](auto& d) { d.failCall("zIntrinsics", 1, 4); },
     };
     int number = 0;
@@ -139,11 +129,14 @@ TEST_F(CameraParameterReaderTest, UnusableModuleDataIsRefused) {
         SCOPED_TRACE(number++);
         renew();
         damage(*device);
+        parameters.infrared.width = 77;
         EXPECT_FALSE(openAndRead());
-        EXPECT_THAT(
-            emitted,
-            ElementsAre("STATUS %2 TEXT - The device has not been calibrated or has invalid calibration data."));
+        EXPECT_FALSE(readCameraParameters(*sensor, &parameters, [] {}));
+        EXPECT_EQ(parameters.infrared.width, 77);
+        EXPECT_THAT(emitted, ElementsAre(kNotCalibrated));
+        EXPECT_FALSE(sensor->grab(true));
     }
+    EXPECT_TRUE(LogCapture::has("CRITICAL Calibration was reported to be invalid..."));
 }
 
 TEST(ParameterText, PosesAndModels) {

@@ -13,133 +13,35 @@
 
 namespace fieldcal::testing {
 
-/// A camera module that records every call that can change or start something, in order, and fails on request.
-/// `calls` holds "operation(arguments)"; the plain getters of sizes, pictures and flags are not recorded.
-class FakeKxDevice final : public KXDevice {
+using Rectified = KXCalibIntrinsicsRectified;
+using NonRectified = KXCalibIntrinsicsNonRectified;
+using int32 = std::int32_t;
+
+/// A camera module with all its interfaces that records every call that can change or start something, in order, and
+/// fails on request. `calls` holds "operation(arguments)"; the plain getters of sizes, pictures and flags are not
+/// recorded.
+class FakeKxDevice final : public KXDevice,
+                           public KXThirdCamera,
+                           public KXHardwareControl,
+                           public KXEmitterControl,
+                           public KXPlatformCamera {
 public:
-    FakeKxDevice() : third(*this), hardware(*this), emitter(*this), platform(*this) {
-        left.assign(std::size_t{628} * 468, 500);
-        right.assign(std::size_t{628} * 468, 501);
-        depth.assign(std::size_t{628} * 468, 1502);
-        thirdPixels.assign(std::size_t{640} * 480 * 4, 77);
-    }
+    /// The n-th call (from 1) of `operation` fails with `failStatus`.
+    void failCall(const std::string& operation, int n, int32 failStatus) { failures_[operation] = {n, failStatus}; }
 
-    /// The n-th call (from 1) of `operation` fails with `status`.
-    void failCall(const std::string& operation, int n, std::int32_t failStatus) {
-        failures_[operation] = {n, failStatus};
-    }
-
-    /// Records the call and gives its result.
-    template <typename... Arguments>
-    bool call(const std::string& operation, Arguments... arguments) {
-        std::ostringstream text;
-        [[maybe_unused]] const char* separator = "";
-        ((text << std::exchange(separator, ",") << arguments), ...);
-        calls.push_back(operation + "(" + text.str() + ")");
-        const auto failure = failures_.find(operation);
-        if (++counts_[operation], failure == failures_.end() || failure->second.first != counts_[operation])
-            return true;
-        status = failure->second.second;
-        return false;
-    }
-
-    class Third final : public KXThirdCamera {
-    public:
-        explicit Third(FakeKxDevice& owner) : owner_(owner) {}
-        bool setThirdStreamMode(bool rectified, std::int32_t w, std::int32_t h, std::int32_t fps,
-                                std::int32_t format) override {
-            return owner_.call("setThirdStreamMode", rectified, w, h, fps, format);
-        }
-        bool setThirdEnabled(bool on) override { return owner_.call("setThirdEnabled", on); }
-        bool thirdEnabled() override { return owner_.thirdOn; }
-        const std::uint8_t* thirdImage() override { return owner_.thirdPixels.data(); }
-        std::int32_t thirdWidth() override { return owner_.thirdWidthValue; }
-        std::int32_t thirdHeight() override { return owner_.thirdHeightValue; }
-        bool rectifiedThirdIntrinsics(KXCalibIntrinsicsRectified* out) override {
-            *out = owner_.thirdIntrinsics;
-            return owner_.call("rectifiedThirdIntrinsics");
-        }
-        bool zToThirdExtrinsics(KXCalibExtrinsics* out) override {
-            *out = owner_.zToThird;
-            return owner_.call("zToThirdExtrinsics");
-        }
-
-    private:
-        FakeKxDevice& owner_;
-    };
-
-    class Hardware final : public KXHardwareControl {
-    public:
-        explicit Hardware(FakeKxDevice& owner) : owner_(owner) {}
-        bool setAutoExposure(std::int32_t imagers, bool on) override {
-            return owner_.call("setAutoExposure", imagers, on);
-        }
-        bool setGain(float value, std::int32_t imagers) override { return owner_.call("setGain", value, imagers); }
-        bool setExposure(float value, std::int32_t imagers) override {
-            return owner_.call("setExposure", value, imagers);
-        }
-        bool setHardwareOption(bool on, std::int32_t value) override {
-            return owner_.call("setHardwareOption", on, value);
-        }
-
-    private:
-        FakeKxDevice& owner_;
-    };
-
-    class Emitter final : public KXEmitterControl {
-    public:
-        explicit Emitter(FakeKxDevice& owner) : owner_(owner) {}
-        bool setEmitter(bool on) override { return owner_.call("setEmitter", on); }
-
-    private:
-        FakeKxDevice& owner_;
-    };
-
-    class Platform final : public KXPlatformCamera {
-    public:
-        explicit Platform(FakeKxDevice& owner) : owner_(owner) {}
-        bool setPlatformMode(std::int32_t mode, std::int32_t w, std::int32_t h) override {
-            return owner_.call("setPlatformMode", mode, w, h);
-        }
-        bool nonRectifiedIntrinsics(KXCalibIntrinsicsNonRectified* out) override {
-            *out = raw;
-            return owner_.call("nonRectifiedIntrinsics");
-        }
-        bool rectifiedIntrinsics(KXCalibIntrinsicsRectified* out) override {
-            *out = rectified;
-            return owner_.call("rectifiedIntrinsics");
-        }
-        const double* rectificationRotation() override {
-            return owner_.call("rectificationRotation") ? rotation : nullptr;
-        }
-        bool zToPlatformExtrinsics(KXCalibExtrinsics* out) override {
-            *out = zToPlatform;
-            return owner_.call("zToPlatformExtrinsics");
-        }
-
-        KXCalibIntrinsicsNonRectified raw{1000, 1000, 640, 360, 1280, 720, 0.1F, 0.2F, 0.3F, 0.4F, 0.5F};
-        KXCalibIntrinsicsRectified rectified{1160, 1145, 650, 355, 1280, 720};
-        KXCalibExtrinsics zToPlatform{{1, 0, 0, 0, 1, 0, 0, 0, 1}, {-30, 12, 4}};
-        double rotation[9] = {1, 0, 0, 0, 1, 0, 0, 0, 1};
-
-    private:
-        FakeKxDevice& owner_;
-    };
-
-    bool openDevice(std::int32_t index) override { return call("openDevice", index); }
+    // The module.
+    bool openDevice(int32 index) override { return call("openDevice", index); }
     bool initDevice() override { return call("initDevice"); }
     const char* firmwareVersionText() override { return call("firmwareVersionText") ? "1.27.11" : nullptr; }
     const char* softwareVersionText() override { return call("softwareVersionText") ? "2.2.0" : nullptr; }
-    bool serialNumber(std::uint32_t* out) override {
-        *out = 550101;
-        return call("serialNumber");
-    }
-    KXHardwareControl* hardwareControl() override { return call("hardwareControl") ? &hardware : nullptr; }
-    KXThirdCamera* thirdCamera() override { return call("thirdCamera") ? &third : nullptr; }
-    KXEmitterControl* emitterControl() override { return call("emitterControl") ? &emitter : nullptr; }
-    bool setDepthStreamMode(bool rectified, std::int32_t w, std::int32_t h, std::int32_t fps,
-                            std::int32_t format) override {
-        return call("setDepthStreamMode", rectified, w, h, fps, format);
+    bool serialNumber(std::uint32_t* out) override { return give("serialNumber", 550101U, out); }
+    KXHardwareControl* hardwareControl() override { return call("hardwareControl") ? this : nullptr; }
+    KXThirdCamera* thirdCamera() override { return call("thirdCamera") ? this : nullptr; }
+    KXEmitterControl* emitterControl() override { return call("emitterControl") ? this : nullptr; }
+    KXPlatformCamera* platformCamera() override { return call("platformCamera") ? this : nullptr; }
+    KXPrivate* privateInterface() override { return nullptr; }
+    bool setDepthStreamMode(bool rectify, int32 w, int32 h, int32 fps, int32 format) override {
+        return call("setDepthStreamMode", rectify, w, h, fps, format);
     }
     bool setDepthEnabled(bool on) override { return call("setDepthEnabled", on); }
     bool depthEnabled() override { return depthOn; }
@@ -157,52 +59,88 @@ public:
     const std::uint16_t* depthImage() override { return depth.data(); }
     const std::uint16_t* leftImage() override { return left.data(); }
     const std::uint16_t* rightImage() override { return right.data(); }
-    std::int32_t depthWidth() override { return 628; }
-    std::int32_t depthHeight() override { return 468; }
-    std::int32_t lrWidth() override { return lrWidthValue; }
-    std::int32_t lrHeight() override { return 468; }
-    std::int32_t lastStatus() override { return status; }
+    int32 depthWidth() override { return 628; }
+    int32 depthHeight() override { return 468; }
+    int32 lrWidth() override { return lrWidthValue; }
+    int32 lrHeight() override { return 468; }
+    int32 lastStatus() override { return status; }
     bool calibrationValid() override { return calibrated; }
-    bool rectifiedLRIntrinsics(KXCalibIntrinsicsRectified* out) override {
-        *out = leftRight;
-        return call("rectifiedLRIntrinsics");
-    }
-    bool zIntrinsics(KXCalibIntrinsicsRectified* out) override {
-        *out = z;
-        return call("zIntrinsics");
-    }
-    bool rectParameters(KXCalibRectParameters* out) override {
-        *out = rectBlock;
-        return call("rectParameters");
-    }
-    KXPlatformCamera* platformCamera() override { return call("platformCamera") ? &platform : nullptr; }
-    KXPrivate* privateInterface() override { return nullptr; }
+    bool rectifiedLRIntrinsics(Rectified* out) override { return give("rectifiedLRIntrinsics", leftRight, out); }
+    bool zIntrinsics(Rectified* out) override { return give("zIntrinsics", z, out); }
+    bool rectParameters(KXCalibRectParameters* out) override { return give("rectParameters", {}, out); }
     bool resumeDevice() override { return call("resumeDevice"); }
 
-    Third third;
-    Hardware hardware;
-    Emitter emitter;
-    Platform platform;
+    // The camera inside the module.
+    bool setThirdStreamMode(bool rectify, int32 w, int32 h, int32 fps, int32 format) override {
+        return call("setThirdStreamMode", rectify, w, h, fps, format);
+    }
+    bool setThirdEnabled(bool on) override { return call("setThirdEnabled", on); }
+    bool thirdEnabled() override { return thirdOn; }
+    const std::uint8_t* thirdImage() override { return thirdPixels.data(); }
+    int32 thirdWidth() override { return thirdWidthValue; }
+    int32 thirdHeight() override { return 480; }
+    bool rectifiedThirdIntrinsics(Rectified* out) override { return give("rectifiedThirdIntrinsics", third, out); }
+    bool zToThirdExtrinsics(KXCalibExtrinsics* out) override { return give("zToThirdExtrinsics", zToThird, out); }
+
+    // Imagers and emitter.
+    bool setAutoExposure(int32 imagers, bool on) override { return call("setAutoExposure", imagers, on); }
+    bool setGain(float value, int32 imagers) override { return call("setGain", value, imagers); }
+    bool setExposure(float value, int32 imagers) override { return call("setExposure", value, imagers); }
+    bool setHardwareOption(bool on, int32 value) override { return call("setHardwareOption", on, value); }
+    bool setEmitter(bool on) override { return call("setEmitter", on); }
+
+    // The rear camera's calibration.
+    bool setPlatformMode(int32 mode, int32 w, int32 h) override { return call("setPlatformMode", mode, w, h); }
+    bool nonRectifiedIntrinsics(NonRectified* out) override { return give("nonRectifiedIntrinsics", raw, out); }
+    bool rectifiedIntrinsics(Rectified* out) override { return give("rectifiedIntrinsics", rectified, out); }
+    const double* rectificationRotation() override { return call("rectificationRotation") ? rotation : nullptr; }
+    bool zToPlatformExtrinsics(KXCalibExtrinsics* out) override {
+        return give("zToPlatformExtrinsics", zToPlatform, out);
+    }
+
     std::vector<std::string> calls;
-    std::int32_t status = 0;
+    int32 status = 0;
     bool calibrated = true;
     bool depthOn = true;
     bool thirdOn = true;
     bool destroyed = false;
-    std::int32_t lrWidthValue = 628;
-    std::int32_t thirdWidthValue = 640;
-    std::int32_t thirdHeightValue = 480;
-    std::vector<std::uint16_t> left, right, depth;
-    std::vector<std::uint8_t> thirdPixels;
-    KXCalibIntrinsicsRectified leftRight{580, 576, 314, 234, 628, 468};
-    KXCalibIntrinsicsRectified z{581, 577, 315, 235, 628, 468};
-    KXCalibIntrinsicsRectified thirdIntrinsics{1160, 960, 320, 240, 640, 480};
+    int32 lrWidthValue = 628;
+    int32 thirdWidthValue = 640;
+    std::vector<std::uint16_t> left = std::vector<std::uint16_t>(std::size_t{628} * 468, 500);
+    std::vector<std::uint16_t> right = std::vector<std::uint16_t>(std::size_t{628} * 468, 501);
+    std::vector<std::uint16_t> depth = std::vector<std::uint16_t>(std::size_t{628} * 468, 1502);
+    std::vector<std::uint8_t> thirdPixels = std::vector<std::uint8_t>(std::size_t{640} * 480 * 4, 77);
+    Rectified leftRight{580, 576, 314, 234, 628, 468};
+    Rectified z{581, 577, 315, 235, 628, 468};
+    Rectified third{1160, 960, 320, 240, 640, 480};
     KXCalibExtrinsics zToThird{{1, 0, 0, 0, 1, 0, 0, 0, 1}, {58, -2, 1}};
-    KXCalibRectParameters rectBlock{};
+    NonRectified raw{1000, 1000, 640, 360, 1280, 720, 0.1F, 0.2F, 0.3F, 0.4F, 0.5F};
+    Rectified rectified{1160, 1145, 650, 355, 1280, 720};
+    KXCalibExtrinsics zToPlatform{{1, 0, 0, 0, 1, 0, 0, 0, 1}, {-30, 12, 4}};
+    double rotation[9] = {1, 0, 0, 0, 1, 0, 0, 0, 1};
     std::function<void()> onGrab;
 
 private:
-    std::map<std::string, std::pair<int, std::int32_t>> failures_;
+    /// Records the call and gives its result.
+    template <typename... Arguments>
+    bool call(const std::string& operation, Arguments... arguments) {
+        std::ostringstream text;
+        [[maybe_unused]] const char* separator = "";
+        ((text << std::exchange(separator, ",") << arguments), ...);
+        calls.push_back(operation + "(" + text.str() + ")");
+        const int n = ++counts_[operation];
+        const auto failure = failures_.find(operation);
+        if (failure == failures_.end() || failure->second.first != n) return true;
+        status = failure->second.second;
+        return false;
+    }
+    template <typename Record>
+    bool give(const char* operation, const Record& record, Record* out) {
+        *out = record;
+        return call(operation);
+    }
+
+    std::map<std::string, std::pair<int, int32>> failures_;
     std::map<std::string, int> counts_;
 };
 
@@ -210,20 +148,19 @@ private:
 struct FakeLibrary {
     FakeLibrary() {
         rectifyCalls = 0;
-        library->create = [](std::int32_t) -> KXDevice* { return current; };
+        library->create = [](int32) -> KXDevice* { return current; };
         library->destroy = [](KXDevice*) { current->destroyed = true; };
-        library->statusString = [](std::int32_t) -> const char* { return "STATUS %2 TEXT"; };
-        library->rectificationTable = [](const KXCalibIntrinsicsNonRectified*, const double*,
-                                         const KXCalibIntrinsicsRectified* rectified, std::uint32_t* table) {
-            for (std::int32_t i = 0; i < rectified->w * rectified->h; ++i)
+        library->statusString = [](int32) { return "STATUS %2 TEXT"; };
+        library->rectificationTable = [](const NonRectified*, const double*, const Rectified* to,
+                                         std::uint32_t* table) {
+            for (int32 i = 0; i < to->w * to->h; ++i)
                 table[i] = static_cast<std::uint32_t>(i);
         };
-        library->rectifyBGRA8ToBGRA8 = [](const std::uint32_t* table, const std::uint8_t* source, std::int32_t,
-                                          std::int32_t w, std::int32_t h, std::uint8_t* destination) {
+        library->rectifyBGRA8ToBGRA8 = [](const std::uint32_t* table, const std::uint8_t* source, int32, int32 w,
+                                          int32 h, std::uint8_t* destination) {
             ++rectifyCalls;
-            for (std::size_t i = 0; i < static_cast<std::size_t>(w) * static_cast<std::size_t>(h); ++i) {
+            for (std::size_t i = 0; i < static_cast<std::size_t>(w) * static_cast<std::size_t>(h); ++i)
                 std::memcpy(destination + 4 * i, source + std::size_t{4} * table[i], 4);
-            }
         };
     }
 

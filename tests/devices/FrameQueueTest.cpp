@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <thread>
 
@@ -20,24 +21,17 @@ int take(FrameQueue& queue) {
     return queue.latest(0, &picture) ? picture.pixels[5] : -1;
 }
 
-TEST(FrameQueue, DrainsToTheNewestPicture) {
+TEST(FrameQueue, DrainsToTheNewestAndDropsTheOldest) {
     FrameQueue queue;
     EXPECT_EQ(take(queue), -1);
-    for (std::uint8_t i = 0; i < 3; ++i)
-        push(queue, i, 10 + i);
-    EXPECT_EQ(take(queue), 12);
-    EXPECT_EQ(queue.waiting(), 0U);
-    EXPECT_EQ(take(queue), -1) << "nothing new";
-}
-
-TEST(FrameQueue, AFullRingDropsTheOldest) {
-    FrameQueue queue;
-    // Twice around the ring, with reads in between, so that the indices wrap.
-    for (std::uint32_t round = 0; round < 3; ++round) {
-        for (std::uint32_t i = 0; i < 7; ++i)
-            push(queue, round * 7 + i, static_cast<std::uint8_t>(round * 7 + i));
-        EXPECT_EQ(queue.waiting(), FrameQueue::kSlots);
-        EXPECT_EQ(take(queue), static_cast<int>(round * 7 + 6));
+    // Further than around the ring, with reads in between, so that the indices wrap.
+    std::uint8_t number = 0;
+    for (const std::size_t pushed : {3, 7, 1, 7, 2, 7}) {
+        for (std::size_t i = 0; i < pushed; ++i, ++number)
+            push(queue, number, number);
+        EXPECT_EQ(queue.waiting(), std::min(pushed, FrameQueue::kSlots));
+        EXPECT_EQ(take(queue), number - 1);
+        EXPECT_EQ(take(queue), -1) << "nothing new";
     }
 }
 
@@ -50,34 +44,20 @@ TEST(FrameQueue, SequenceNumbersDecideAndWrapAround) {
     push(queue, 3, 3);
     push(queue, 0xFFFFFFFFU, 4);
     EXPECT_EQ(take(queue), 3) << "newest by number, past the wrap";
-}
 
-TEST(FrameQueue, ASingleSlotKeepsTheLastPicture) {
-    FrameQueue queue(FrameQueue::Mode::SingleSlot);
-    push(queue, 5, 1);
-    push(queue, 4, 2);
-    EXPECT_EQ(queue.waiting(), 1U);
-    EXPECT_EQ(take(queue), 2);
-    EXPECT_EQ(take(queue), -1);
-}
-
-TEST(FrameQueue, ReturnedPixelsOutliveFurtherPushes) {
-    FrameQueue queue;
-    push(queue, 0, 42);
-    QueuedPicture picture;
-    ASSERT_TRUE(queue.latest(0, &picture));
-    for (std::uint32_t i = 1; i < 20; ++i)
-        push(queue, i, 0);
-    EXPECT_EQ(picture.pixels[0], 42);
+    FrameQueue singleSlot(FrameQueue::Mode::SingleSlot);
+    push(singleSlot, 5, 1);
+    push(singleSlot, 4, 2);
+    EXPECT_EQ(take(singleSlot), 2) << "the last one, whatever its number";
+    EXPECT_EQ(take(singleSlot), -1);
 }
 
 TEST(FrameQueue, RefusesWhatIsNoPicture) {
     FrameQueue queue;
     const std::uint8_t byte = 0;
-    EXPECT_FALSE(queue.push({nullptr, 2, 2, 0, 0.0}));
-    EXPECT_FALSE(queue.push({&byte, 0, 2, 0, 0.0}));
-    EXPECT_FALSE(queue.push({&byte, 2, -2, 0, 0.0}));
-    EXPECT_FALSE(queue.push({&byte, 1 << 20, 2, 0, 0.0}));
+    for (const QueuedPicture& picture :
+         {QueuedPicture{nullptr, 2, 2}, {&byte, 0, 2}, {&byte, 2, -2}, {&byte, 1 << 20, 2}})
+        EXPECT_FALSE(queue.push(picture));
     EXPECT_EQ(queue.waiting(), 0U);
 }
 

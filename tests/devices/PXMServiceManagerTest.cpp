@@ -19,6 +19,11 @@ const std::string kOpenAll = "openService DeepvanePXMQ550 983551";
 
 class PXMServiceManagerTest : public ::testing::Test {
 protected:
+    static std::ptrdiff_t count(const FakeServiceControl& control, const std::string& prefix) {
+        return std::count_if(control.calls.begin(), control.calls.end(),
+                             [&](const std::string& call) { return call.compare(0, prefix.size(), prefix) == 0; });
+    }
+
     LogCapture log;
     FakeServiceControl control;
     std::unique_ptr<PXMServiceManager> manager = std::make_unique<PXMServiceManager>(control);
@@ -44,21 +49,17 @@ TEST_F(PXMServiceManagerTest, ShutsDownDisablesAndWaits) {
     EXPECT_EQ(LogCapture::lines().back(), "Attempting to call shutdownPXMService but it was already shutdown.");
 }
 
-TEST_F(PXMServiceManagerTest, AStoppedServiceIsOnlyDisabled) {
-    control.states = {1};
-    EXPECT_TRUE(manager->shutdownPXMService());
-    EXPECT_EQ(control.startType, 4U);
-    EXPECT_THAT(control.calls, ::testing::Not(::testing::Contains("controlService 1")));
-}
-
 TEST_F(PXMServiceManagerTest, RestoresTheStartTypeOnce) {
+    control.states = {1};
     ASSERT_TRUE(manager->shutdownPXMService());
+    EXPECT_EQ(control.startType, 4U);
+    EXPECT_EQ(count(control, "controlService"), 0) << "a stopped service is only disabled";
     LogCapture::lines().clear();
     EXPECT_TRUE(manager->restorePXMService());
     EXPECT_EQ(control.startType, 2U);
     EXPECT_THAT(LogCapture::lines(),
                 ElementsAre("PXMServiceManager::_previousServiceStartType = 2 in restore",
-                            "PXMServiceManager::_previousServiceStatus = 4 in restore",
+                            "PXMServiceManager::_previousServiceStatus = 1 in restore",
                             "Changed the service start type.", "PXMServiceManager::ServiceStartType restored to: 2"));
     control.calls.clear();
     EXPECT_TRUE(manager->restorePXMService());
@@ -91,56 +92,45 @@ TEST_F(PXMServiceManagerTest, AMissingServiceIsNoFailure) {
     EXPECT_TRUE(manager->shutdownPXMService());
     EXPECT_TRUE(LogCapture::has("CRITICAL OpenService failed (1060)"));
     EXPECT_EQ(manager->lastError(), QString());
-    EXPECT_EQ(std::count(control.calls.begin(), control.calls.end(), "close manager"), 4);
-    EXPECT_EQ(std::count(control.calls.begin(), control.calls.end(), "close service"), 0);
+    EXPECT_EQ(count(control, "close manager"), 4);
+    EXPECT_EQ(count(control, "close service"), 0);
     EXPECT_TRUE(manager->restorePXMService());
     EXPECT_EQ(LogCapture::lines().back(), "Attempting to call restorePXMService, but the service does not exist.");
 }
 
 TEST_F(PXMServiceManagerTest, EveryFailureHasItsLineAndItsText) {
     struct Case {
-        const char* operation;
+        std::string operation;
         int n;
-        std::uint32_t error;
         const char* line;
         const char* text;
     };
     const Case cases[] = {
-        {"openManager", 1, 5, "OpenSCManager failed (5)", "5: (OpenSCManager) ==> text 5"},
-        {"openManager", 4, 5, "OpenSCManager failed (5)", "5: (OpenSCManager) ==> text 5"},
-        {"openService", 1, 5, "OpenService failed (5)", "5: (OpenSCManager) ==> text 5"},  // named so in this read
-        {"openService", 2, 5, "OpenService failed (5)", "5: (OpenService) ==> text 5"},
-        {"openService", 3, 6, "OpenService failed (6)", "6: (OpenService) ==> text 6"},
-        {"openService", 4, 6, "OpenService failed (6)", "6: (OpenService) ==> text 6"},
-        {"queryConfig", 1, 6, "QueryServiceConfig failed (6) extra: 300", "6: (QueryServiceConfig) ==> text 6"},
-        {"queryConfig", 2, 122, "QueryServiceConfig failed (122) extra: 300", "122: (QueryServiceConfig) ==> text 122"},
-        {"changeConfig", 1, 5, "ChangeServiceConfig failed (5)", "5: (ChangeServiceConfig) ==> text 5"},
-        {"queryState", 1, 6, "QueryServiceStatusEx failed (6)", "6: (QueryServiceStatusEx) ==> text 6"},
-        {"queryState", 2, 6, "QueryServiceStatusEx failed (6)", "6: (QueryServiceStatusEx) ==> text 6"},
-        {"queryState", 4, 6, "QueryServiceStatusEx failed (6)", "6: (QueryServiceStatusEx) ==> text 6"},
-        {"controlService", 1, 1052, "ControlService failed (1052)", "1052: (ControlService) ==> text 1052"},
+        {"openManager", 1, "OpenSCManager failed (5)", "OpenSCManager"},
+        {"openManager", 4, "OpenSCManager failed (5)", "OpenSCManager"},
+        {"openService", 1, "OpenService failed (5)", "OpenSCManager"},  // named so in the read of the start type
+        {"openService", 2, "OpenService failed (5)", "OpenService"},
+        {"openService", 3, "OpenService failed (5)", "OpenService"},
+        {"openService", 4, "OpenService failed (5)", "OpenService"},
+        {"queryConfig", 1, "QueryServiceConfig failed (5) extra: 300", "QueryServiceConfig"},
+        {"queryConfig", 2, "QueryServiceConfig failed (5) extra: 300", "QueryServiceConfig"},
+        {"changeConfig", 1, "ChangeServiceConfig failed (5)", "ChangeServiceConfig"},
+        {"queryState", 1, "QueryServiceStatusEx failed (5)", "QueryServiceStatusEx"},
+        {"queryState", 2, "QueryServiceStatusEx failed (5)", "QueryServiceStatusEx"},
+        {"queryState", 4, "QueryServiceStatusEx failed (5)", "QueryServiceStatusEx"},
+        {"controlService", 1, "ControlService failed (5)", "ControlService"},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(std::string(c.operation) + " " + std::to_string(c.n));
-        LogCapture::lines().clear();
+        SCOPED_TRACE(c.operation + " " + std::to_string(c.n));
         FakeServiceControl failing;
-        failing.fail(c.operation, c.n, c.error);
-        {
-            PXMServiceManager fresh(failing);
-            EXPECT_FALSE(fresh.shutdownPXMService());
-            EXPECT_EQ(LogCapture::lines().back(), std::string("CRITICAL ") + c.line);
-            EXPECT_EQ(fresh.lastError().toStdString(), c.text);
-        }
-        const auto count = [&failing](const std::string& prefix) {
-            return std::count_if(failing.calls.begin(), failing.calls.end(),
-                                 [&](const std::string& call) { return call.compare(0, prefix.size(), prefix) == 0; });
-        };
-        EXPECT_EQ(count("close manager"), count("openManager") - (std::string(c.operation) == "openManager" ? 1 : 0));
-        EXPECT_EQ(count("close service"), count("openService") - (std::string(c.operation) == "openService" ? 1 : 0));
+        failing.fail(c.operation, c.n, 5);
+        PXMServiceManager fresh(failing);
+        EXPECT_FALSE(fresh.shutdownPXMService());
+        EXPECT_EQ(LogCapture::lines().back(), std::string("CRITICAL ") + c.line);
+        EXPECT_EQ(fresh.lastError().toStdString(), "5: (" + std::string(c.text) + ") ==> text 5");
+        EXPECT_EQ(count(failing, "close manager"), count(failing, "openManager") - (c.operation == "openManager"));
+        EXPECT_EQ(count(failing, "close service"), count(failing, "openService") - (c.operation == "openService"));
     }
-}
-
-TEST_F(PXMServiceManagerTest, StartingIsReportedUnderTheControlCall) {
     control.states = {1};
     control.fail("startService", 1, 1058);
     EXPECT_FALSE(manager->driveTo(4));
