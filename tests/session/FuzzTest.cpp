@@ -26,20 +26,17 @@ private:
     void change(QByteArray* bytes) {
         const int at = below(bytes->size());
         const int length = below(12);
-        switch (below(6)) {
+        switch (below(5)) {
             case 0:
                 (*bytes)[at] = static_cast<char>(below(256));
                 break;
             case 1:
-                bytes->remove(at, length);
+                bytes->replace(at, length, bytes->mid(below(bytes->size()), below(12)));
                 break;
             case 2:
-                bytes->insert(at, bytes->mid(below(bytes->size()), length));
-                break;
-            case 3:
                 bytes->truncate(at);
                 break;
-            case 4:
+            case 3:
                 bytes->replace(at, 1, "9e9");
                 break;
             default:

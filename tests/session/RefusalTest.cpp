@@ -5,6 +5,7 @@
 #include <QImage>
 #include <gmock/gmock.h>
 
+#include <array>
 #include <functional>
 
 namespace fieldcal::session {
@@ -32,29 +33,22 @@ const BadText kBadTexts[] = {
     {"\"version\": 1,", "\"version\": 2,", "version", "only version 1 can be read"},
     {"\"version\": 1,", "", "version", "missing"},
     {"\"serial\": 550101", "\"serial\": -1", "module.serial", "-1 is not within 0 to 4294967295"},
-    {"\"serial\": 550101", "\"serial\": 0.5", "module.serial", "0.5 is not a whole number"},
     {"\"2.2.0\"", "2.2", "module.software", "a text expected"},
     {"true", "1", "module.calibrationValid", "true or false expected"},
     {"\"width\": 6", "\"width\": 0", "infrared.width", "0 is not within 1 to 8192"},
-    {"\"width\": 6", "\"width\": 8193", "infrared.width", "8193 is not within 1 to 8192"},
     {"\"width\": 6", "\"width\": \"6\"", "infrared.width", "a number expected"},
     {"\"height\": 3", "\"height\": 3.25", "depth.height", "3.25 is not a whole number"},
     {"\"fx\": 464", "\"fx\": 0", "third.fx", "0 is not within 1 to 100000"},
-    {"\"fy\": 465", "\"fy\": -465", "third.fy", "-465 is not within 1 to 100000"},
-    {"\"fx\": 464", "\"fx\": null", "third.fx", "a number expected"},
     {"\"cx\": 4.1", "\"cx\": 1e200", "third.cx", "is not within -100000 to 100000"},
     {"[1, 0, 0, 0, 0, -1, 0, 1, 0], \"tr", "[1, 0, 0, 0, 0, 1, 0, 1, 0], \"tr", "third.rotation", "not a rotation"},
     {"[1, 0, 0, 0, 0, -1, 0, 1, 0], \"tr", "[1, 0, 0, 0, 0, 1, 0, 1, 0, 0], \"tr", "third.rotation", "9 numbers"},
-    {"[25, 0.5, -0.25]", "[25, 0.5]", "third.translation", "3 numbers expected, not 2"},
     {"[25, 0.5, -0.25]", "[25, true, 0]", "third.translation[1]", "a number expected"},
-    {"[25, 0.5, -0.25]", "25", "third.translation", "a list expected"},
     {"\"name\": \"Rear\",", "", "platform.name", "missing"},
     {"\"width\": 1280", "\"width\": 1920", "platform.raw.width", "1280 expected"},
     {"\"k1\": 0.06", "\"k1\": 1e9", "platform.raw.k1", "is not within"},
     {"[0, -1, 0, 1, 0, 0, 0, 0, 1]", "[0, 1, 0, 1, 0, 0, 0, 0, 1]", "platform.rectification", "not a rotation"},
     {"[0, -1, 0, 1, 0, 0, 0, 0, 1]", "[0, -1.001, 0, 1, 0, 0, 0, 0, 1]", "platform.rectification", "not a rotation"},
     {"\"infrared\": \"a_infrared.png\",", "", "frames[0].infrared", "missing"},
-    {"\"b_third.png\"", "7", "frames[1].third", "a text expected"},
     {"\"b_third.png\"", "\"\"", "frames[1].third", "empty file name"},
     {"\"b_third.png\"", "\"/etc/passwd\"", "frames[1].third", "not relative"},
     {"\"b_third.png\"", "\"C:x.png\"", "frames[1].third", "not relative"},
@@ -63,7 +57,6 @@ const BadText kBadTexts[] = {
     {"\"b_third.png\"", "\"..\"", "frames[1].third", "leaves the folder"},
     {"\"repeat\": 26", "\"repeat\": 0", "frames[0].repeat", "0 is not within 1 to 1000000"},
     {"\"repeat\": 26", "\"repeat\": 1000001", "frames[0].repeat", "is not within"},
-    {"\"repeat\": 26", "\"repeat\": 1.5", "frames[0].repeat", "1.5 is not a whole number"},
     {"\"platform\": {", "\"other\": {", "frames[0].platform", "the session has no platform camera"},
     {"\"truth\": {\"third\": [1, 0, 0", "\"truth\": {\"third\": [2, 0, 0", "truth.third", "not a rotation"},
 };
@@ -92,44 +85,24 @@ TEST_F(Refusal, BadDescriptionsAreNamedByKeyAndReason) {
 }
 
 TEST_F(Refusal, FilesThatAreNoDescription) {
-    describe(kSessionText.substr(0, kSessionText.size() / 2));
-    expectRefused("session.json", "", "not JSON: ");
-    describe("");
-    expectRefused("session.json", "", "not JSON: ");
-    describe("[1, 2]");
-    expectRefused("session.json", "", "an object expected");
-    const std::size_t frames = kSessionText.find("\"frames\"");
-    describe(kSessionText.substr(0, frames) + "\"frames\": [] }");
-    expectRefused("session.json", "frames", "no frame");
-    ASSERT_TRUE(QFile::remove(QString::fromStdString(path("session.json"))));
-    expectRefused("session.json", "", missingFile());
-}
-
-TEST_F(Refusal, TheSumOfTheRepeatsIsBounded) {
+    const std::string beforeFrames = kSessionText.substr(0, kSessionText.find("\"frames\"")) + "\"frames\": [";
     std::string entries;
-    for (int i = 0; i < 1001; ++i) {
+    for (int i = 0; i < 1001; ++i)
         entries += std::string(i > 0 ? "," : "") + R"({"infrared": "i", "third": "t", "repeat": 1000000})";
+    const std::vector<std::array<std::string, 3>> cases{
+        {kSessionText.substr(0, kSessionText.size() / 2), "", "not JSON: "},
+        {"", "", "not JSON: "},
+        {"[1, 2]", "", "an object expected"},
+        {beforeFrames + "] }", "frames", "no frame"},
+        {beforeFrames + entries + "] }", "frames", "more than 1000000000 grabs"}};
+    for (const auto& [text, key, reason] : cases) {
+        describe(text);
+        expectRefused("session.json", key, reason);
     }
-    describe(kSessionText.substr(0, kSessionText.find("\"frames\"")) + "\"frames\": [" + entries + "] }");
-    expectRefused("session.json", "frames", "more than 1000000000 grabs");
 }
-
-/// Replaces one picture of the session by something that it must not be.
-struct BadPicture {
-    std::string file;
-    std::string key;
-    std::string reason;
-    std::function<void(const std::string& path)> spoil;
-};
 
 void save(const std::string& path, const QImage& image) {
     ASSERT_TRUE(image.save(QString::fromStdString(path), "png"));
-}
-
-void edit(const std::string& path, const std::function<void(QByteArray*)>& change) {
-    QByteArray bytes = readFile(path);
-    change(&bytes);
-    writeFile(path, bytes);
 }
 
 QImage grey(int width, int height, std::uint16_t value) {
@@ -145,55 +118,65 @@ QImage colour(int width, int height, QImage::Format format, const QColor& fill =
     return image;
 }
 
+/// A picture of the session, what must be said about it, and what is put in its place: a picture, or its own bytes
+/// changed.
+struct BadPicture {
+    std::string file;
+    std::string key;
+    std::string reason;
+    QImage picture;
+    std::function<void(QByteArray*)> change = {};
+};
+
 const BadPicture kBadPictures[] = {
-    {"a_infrared.png", "frames[0].infrared", missingFile(),
-     [](const auto& path) { QFile::remove(QString::fromStdString(path)); }},
-    {"a_infrared.png", "frames[0].infrared", "the picture is 4 x 6, not 6 x 4",
-     [](const auto& path) { save(path, grey(4, 6, 0)); }},
-    {"a_infrared.png", "frames[0].infrared", "value 1024 above 1023 at x 5, y 3",
-     [](const auto& path) { save(path, grey(6, 4, 1024)); }},
-    {"a_infrared.png", "frames[0].infrared", "not a 16-bit grey picture",
-     [](const auto& path) { save(path, colour(6, 4, QImage::Format_Grayscale8)); }},
-    {"a_infrared.png", "frames[0].infrared", "not a 16-bit grey picture",
-     [](const auto& path) { save(path, colour(6, 4, QImage::Format_RGB32)); }},
-    {"a_depth.png", "frames[0].depth", "the picture is 6 x 4, not 5 x 3",
-     [](const auto& path) { save(path, grey(6, 4, 0)); }},
-    {"b_third.png", "frames[1].third", "not an 8-bit RGB picture",
-     [](const auto& path) { save(path, colour(8, 6, QImage::Format_RGBX64)); }},
-    {"b_third.png", "frames[1].third", "not an 8-bit RGB picture",
-     [](const auto& path) { save(path, colour(8, 6, QImage::Format_Indexed8)); }},
-    {"b_third.png", "frames[1].third", "transparent pixels",
-     [](const auto& path) { save(path, colour(8, 6, QImage::Format_ARGB32, QColor(1, 2, 3, 254))); }},
-    {"b_third.png", "frames[1].third", "truncated picture",
-     [](const auto& path) { edit(path, [](QByteArray* bytes) { bytes->chop(1); }); }},
-    {"b_third.png", "frames[1].third", "truncated picture",
-     [](const auto& path) { edit(path, [](QByteArray* bytes) { bytes->truncate(60); }); }},
-    {"b_third.png", "frames[1].third", "wrong checksum in the block at byte 8",
-     [](const auto& path) { edit(path, [](QByteArray* bytes) { (*bytes)[20] = 1; }); }},
-    {"b_third.png", "frames[1].third", "not a PNG picture",
-     [](const auto& path) { writeFile(path, "\x89PNG but not really"); }},
-    {"a_platform.nv12", "frames[0].platform", "1382399 bytes, not 1382400",
-     [](const auto& path) { edit(path, [](QByteArray* bytes) { bytes->chop(1); }); }},
+    {"a_infrared.png", "frames[0].infrared", "the picture is 4 x 6, not 6 x 4", grey(4, 6, 0)},
+    {"a_infrared.png", "frames[0].infrared", "value 1024 above 1023 at x 5, y 3", grey(6, 4, 1024)},
+    {"a_infrared.png", "frames[0].infrared", "not a 16-bit grey picture", colour(6, 4, QImage::Format_Grayscale8)},
+    {"a_infrared.png", "frames[0].infrared", "not a 16-bit grey picture", colour(6, 4, QImage::Format_RGB32)},
+    {"a_depth.png", "frames[0].depth", "the picture is 6 x 4, not 5 x 3", grey(6, 4, 0)},
+    {"b_third.png", "frames[1].third", "not an 8-bit RGB picture", colour(8, 6, QImage::Format_RGBX64)},
+    {"b_third.png", "frames[1].third", "not an 8-bit RGB picture", colour(8, 6, QImage::Format_Indexed8)},
+    {"b_third.png", "frames[1].third", "transparent pixels", colour(8, 6, QImage::Format_ARGB32, QColor(1, 2, 3, 254))},
+    {"b_third.png", "frames[1].third", "truncated picture", {}, [](auto* bytes) { bytes->chop(1); }},
+    {"b_third.png", "frames[1].third", "truncated picture", {}, [](auto* bytes) { bytes->truncate(60); }},
+    {"b_third.png", "frames[1].third", "checksum in the block at byte 8", {}, [](auto* bytes) { (*bytes)[20] = 1; }},
+    {"b_third.png", "frames[1].third", "not a PNG picture", {}, [](auto* bytes) { *bytes = "\x89PNG but not really"; }},
+    {"a_platform.nv12", "frames[0].platform", "1382399 bytes, not 1382400", {}, [](auto* bytes) { bytes->chop(1); }},
 };
 
 TEST_F(Refusal, BadPicturesAreNamedByFileKeyAndReason) {
     for (const BadPicture& bad : kBadPictures) {
         SCOPED_TRACE(bad.file + ": " + bad.reason);
         const QByteArray whole = readFile(path(bad.file));
-        bad.spoil(path(bad.file));
+        QByteArray bytes = whole;
+        if (bad.change) bad.change(&bytes);
+        if (bad.change) writeFile(path(bad.file), bytes);
+        if (!bad.change) save(path(bad.file), bad.picture);
         expectRefused(bad.file, bad.key, bad.reason);
         writeFile(path(bad.file), whole);
     }
     std::string why;
-    EXPECT_TRUE(verify(folder, &why)) << why;
+    EXPECT_TRUE(verify(folder, &why) && checkPictureFiles(folder, session, &why)) << why;
+    save(path("b_third.png"), colour(8, 7, QImage::Format_RGB32));
+    EXPECT_FALSE(checkPictureFiles(folder, session, &why)) << "sizes are seen without decoding";
+    EXPECT_THAT(why, HasSubstr("b_third.png: frames[1].third: the picture is 8 x 7, not 8 x 6"));
 }
 
-TEST_F(Refusal, FilesAreCheckedWithoutDecodingThem) {
-    std::string why;
-    EXPECT_TRUE(checkPictureFiles(folder, session, &why)) << why;
-    save(path("b_third.png"), colour(8, 7, QImage::Format_RGB32));
-    EXPECT_FALSE(checkPictureFiles(folder, session, &why));
-    EXPECT_THAT(why, HasSubstr("b_third.png: frames[1].third: the picture is 8 x 7, not 8 x 6"));
+TEST_F(Refusal, OnlyRegularFilesAreOpened) {
+    for (const char* file : {"session.json", "a_platform.nv12", "b_third.png", "a_infrared.png"}) {
+        SCOPED_TRACE(file);
+        const QByteArray whole = readFile(path(file));
+        const QString name = QString::fromStdString(path(file));
+        std::string why;
+        ASSERT_TRUE(QFile::remove(name));
+        EXPECT_FALSE(verify(folder, &why));
+        EXPECT_THAT(why, HasSubstr(missingFile()));
+        ASSERT_TRUE(QDir().mkdir(name));
+        EXPECT_FALSE(verify(folder, &why));
+        EXPECT_THAT(why, HasSubstr("not a regular file"));
+        ASSERT_TRUE(QDir().rmdir(name));
+        writeFile(path(file), whole);
+    }
 }
 
 TEST_F(Refusal, ThePlatformPictureHasTheRearCamerasSize) {
@@ -206,7 +189,6 @@ TEST_F(Refusal, ThePlatformPictureHasTheRearCamerasSize) {
     save(path("p.png"), colour(1280, 720, QImage::Format_RGB32, Qt::red));
     ASSERT_TRUE(readPictures(folder, session, 0, &pictures, &why)) << why;
     EXPECT_EQ(pictures.platform[0], 81);                             // BT.601 luma of pure red
-    EXPECT_EQ(pictures.platform[std::size_t{1280} * 720], 90);       // its U
     EXPECT_EQ(pictures.platform[std::size_t{1280} * 720 + 1], 240);  // its V
     EXPECT_FALSE(readPictures(folder, session, 2, &pictures, &why));
 }
