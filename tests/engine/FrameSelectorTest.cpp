@@ -67,6 +67,9 @@ TEST_F(Selection, KeepsTestingTheSlidingRunOfNine) {
     pushEight(0);
     EXPECT_FALSE(push(200)) << "moved in the ninth";
     EXPECT_EQ(pushesUntilSelected(200), 8);
+    selector_.reset();
+    for (int i = 1; i <= 9; ++i)
+        EXPECT_FALSE(push(i == 5 ? 200 : 0)) << "there and back: only the middle one differs";
 }
 
 TEST_F(Selection, ThresholdsAreExclusive) {

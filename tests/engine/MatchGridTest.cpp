@@ -14,7 +14,7 @@ protected:
     /// Distinct points inside a cell of a picture of 628 x 468; the colour point's x tells each from all others.
     void prepare(int column, int row, int count) {
         for (int i = 0; i < count; ++i) {
-            infrared_.emplace_back(static_cast<float>(column * 157 + i % 10), static_cast<float>(row * 156 + i / 10));
+            infrared_.emplace_back(cv::Point(column * 157 + i % 10, row * 156 + i / 10));
             colour_.emplace_back(static_cast<float>(nextId_++), static_cast<float>(row * 4 + column));
         }
     }

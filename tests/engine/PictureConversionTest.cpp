@@ -59,7 +59,7 @@ private:
 cv::Mat slope(cv::RNG& random, const cv::Size& size, int low, int high) {
     cv::Mat image = randomImage(random, size, CV_16UC1, low, low + (high - low) / 3);
     for (int x = 0; x < size.width; ++x)
-        image.col(x) += (high - low) * 2 / 3 * x / size.width;
+        image.col(x) += (high - low) * (2.0 / 3.0) * x / size.width;
     return image;
 }
 

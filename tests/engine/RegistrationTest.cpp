@@ -85,12 +85,12 @@ TEST(Drag, MovesTheSecondAngleAndPullsTheOthersIntoTheirRanges) {
                                           {0, -900, -4}, {-1, 200, 1}, {2, 0, 0}};
     for (const auto& [startDeg, x, expectedDeg] : cases) {
         RegistrationState state = stateAt({0, 0, 0});
-        state.setValues(5.5F, startDeg, -2.0F);
+        state.setValues(5.5F, startDeg, -3.5F);
         state.setDragAreaSize(400, 300);
         state.beginDrag(100, 50);
         state.drag(x / 3.0F);  // where it was in between does not matter
         state.drag(x);
-        EXPECT_THAT(state.values(), ElementsAre(4.0F, FloatNear(expectedDeg, 1e-6F), -2.0F)) << x;
+        EXPECT_THAT(state.values(), ElementsAre(4.0F, FloatNear(expectedDeg, 1e-6F), -3.0F)) << x;
     }
 }
 
