@@ -17,7 +17,8 @@ int worstDifference(const cv::Mat& bgra) {
 
 TEST(Nv12, UniformColoursComeBackWithinTwoSteps) {
     for (int i = 0; i < 18 * 18 * 18; ++i) {
-        const cv::Scalar colour(i % 18 * 15, i / 18 % 18 * 15, i / 324 * 15, 255);
+        const cv::Vec3i steps(i % 18, i / 18 % 18, i / 324);
+        const cv::Scalar colour(15 * steps[0], 15 * steps[1], 15 * steps[2], 255);
         EXPECT_LE(worstDifference(cv::Mat(2, 2, CV_8UC4, colour)), 2) << colour;
     }
 }

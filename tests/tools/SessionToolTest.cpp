@@ -48,7 +48,7 @@ protected:
     /// A copy of the recording whose description has been changed.
     template <typename Change>
     static QString changed(const QString& name, Change change) {
-        const QString target = folder_->filePath(name);
+        QString target = folder_->filePath(name);
         QDir().mkpath(target);
         for (const QString& file : QDir(recording()).entryList(QDir::Files)) {
             QFile::copy(recording() + '/' + file, target + '/' + file);
