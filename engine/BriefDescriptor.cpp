@@ -15,7 +15,7 @@ constexpr int kHalfBox = 4;
 constexpr int kBorder = kHalfPatch + kHalfBox;
 
 cv::Point pixelOf(const cv::Point2f& point) {
-    return {static_cast<int>(point.x + 0.5F), static_cast<int>(point.y + 0.5F)};
+    return {cvFloor(point.x + 0.5F), cvFloor(point.y + 0.5F)};
 }
 
 /// Sums over 9 x 9 boxes, one for each pixel that has a complete box.

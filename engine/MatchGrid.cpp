@@ -43,6 +43,7 @@ void MatchGrid::countAndCut() {
         if (size <= limit) continue;
         drawDistinctIndices(limit, size, &kept);
         std::vector<CellCorrespondence> cut;
+        cut.reserve(kept.size());
         for (const int index : kept)
             cut.push_back(cell[static_cast<std::size_t>(index)]);
         cell = std::move(cut);

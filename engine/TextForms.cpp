@@ -20,7 +20,7 @@ std::string poseEulerText(const Pose& pose) {
 std::string poseAngleAxisText(const Pose& pose) {
     const Eigen::Matrix3d rotation = pose.topLeftCorner<3, 3>().cast<double>();
     const Eigen::AngleAxisd angleAxis(rotation);
-    const Eigen::Vector3d axis = angleAxis.axis();
+    const Eigen::Vector3d& axis = angleAxis.axis();
     const Eigen::Vector3d t = pose.topRightCorner<3, 1>().cast<double>();
     return formatString("R [a=% .4f deg | % .4f % .4f % .4f] T [% .4f % .4f % .4f]",
                         angleAxis.angle() * kDegreesPerRadian, axis[0], axis[1], axis[2], t[0], t[1], t[2]);
