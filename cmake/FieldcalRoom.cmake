@@ -6,9 +6,7 @@
 include_guard()
 
 function(fieldcal_warnings target)
-    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
-    # Interfaces of the camera library have no virtual destructor on purpose: their tables must agree between compilers.
-    target_compile_options(${target} PRIVATE -Wno-non-virtual-dtor)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Werror)
 endfunction()
 
 function(fieldcal_library name)
