@@ -107,9 +107,13 @@ public:
     virtual bool zToPlatformExtrinsics(KXCalibExtrinsics* out) = 0;
 };
 
+/// Writing the calibration. The capture must rest (`stopCapture`).
 class KXPrivate {
 public:
+    /// Hands a block over. `permanent`: into the spare half of the flash, where it does not count before
+    /// `commitCalibration`; else until the module is switched off.
     virtual bool writeRectParameters(const KXCalibRectParameters* parameters, bool permanent) = 0;
+    /// Makes the block written last the valid one, in one step: a loss of power leaves the old or the new one valid.
     virtual bool commitCalibration() = 0;
 };
 
@@ -147,10 +151,12 @@ public:
     virtual bool calibrationValid() = 0;
     virtual bool rectifiedLRIntrinsics(KXCalibIntrinsicsRectified* out) = 0;
     virtual bool zIntrinsics(KXCalibIntrinsicsRectified* out) = 0;
+    /// The valid block, read from the flash in every call.
     virtual bool rectParameters(KXCalibRectParameters* out) = 0;
     /// Null when the module has no calibrated platform camera.
     virtual KXPlatformCamera* platformCamera() = 0;
     virtual KXPrivate* privateInterface() = 0;
+    /// Ends a rest begun by `stopCapture`: the module loads the valid block, works with it from now on, and captures.
     virtual bool resumeDevice() = 0;
 };
 
@@ -167,4 +173,10 @@ using KXRectificationTableFunction = void (*)(const KXCalibIntrinsicsNonRectifie
 using KXRectifyBGRA8ToBGRA8Function = void (*)(const std::uint32_t* table, const std::uint8_t* source,
                                                std::int32_t pitchPixels, std::int32_t width, std::int32_t height,
                                                std::uint8_t* destination);
+
+/// Exported by the companion library `CalibRectParamUpdater` as `KXUpdateThirdCameraRotation` and
+/// `KXUpdatePlatformCameraRotation`: `out` is `in` with another rotation of that colour camera. `rotation`: nine
+/// doubles, from the depth camera's raw frame to the colour camera's raw frame. `in` and `out` may be the same.
+using KXUpdateRotationFunction = void (*)(const KXCalibRectParameters* in, const double* rotation,
+                                          KXCalibRectParameters* out);
 }
