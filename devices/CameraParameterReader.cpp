@@ -22,11 +22,11 @@ void log(const char* name, const KXCalibIntrinsicsRectified& record) {
 }
 
 bool readModule(Sensor& sensor, KXDevice& device, ModuleRecords* out) {
-    KXThirdCamera& third = *sensor.thirdCamera();
-    if (!sensor.checkStatus(third.rectifiedThirdIntrinsics(&out->third)) ||
-        !sensor.checkStatus(device.rectifiedLRIntrinsics(&out->leftRight)) ||
-        !sensor.checkStatus(device.zIntrinsics(&out->z)) ||
-        !sensor.checkStatus(third.zToThirdExtrinsics(&out->zToThird))) {
+    KXThirdCamera* third = sensor.thirdCamera();
+    if (!sensor.read(third, &KXThirdCamera::rectifiedThirdIntrinsics, &out->third) ||
+        !sensor.read(&device, &KXDevice::rectifiedLRIntrinsics, &out->leftRight) ||
+        !sensor.read(&device, &KXDevice::zIntrinsics, &out->z) ||
+        !sensor.read(third, &KXThirdCamera::zToThirdExtrinsics, &out->zToThird)) {
         return false;
     }
     log("RectThird", out->third);
@@ -63,14 +63,19 @@ bool fillModule(Sensor& sensor, const ModuleRecords& records, CameraParameters* 
 
 bool fillPlatform(Sensor& sensor, KXDevice& device, CameraParameters* out) {
     KXPlatformCamera* camera = device.platformCamera();
-    PlatformParameters platform;
-    if (camera == nullptr || !readPlatformParameters(*camera, *sensor.library(), out->infrared, &platform)) {
-        return false;
-    }
-    out->outOfModuleColour = platform.model;
-    out->depthToOutOfModule = platform.extrinsics;
-    out->outOfModuleScaling = platform.scaling;
-    sensor.usePlatformCalibration(std::move(platform.calibration), platform.model.width, platform.model.height);
+    if (camera == nullptr) return false;
+    // What fails in here is logged, and no fault of the module's; only a camera that does not answer is one.
+    const auto platform = std::make_shared<PlatformParameters>();
+    const auto usable = std::make_shared<bool>(false);
+    const auto call = [=, library = sensor.library(), infrared = out->infrared] {
+        *usable = readPlatformParameters(*camera, *library, infrared, platform.get());
+        return true;
+    };
+    if (!sensor.ask(call) || !*usable) return false;
+    out->outOfModuleColour = platform->model;
+    out->depthToOutOfModule = platform->extrinsics;
+    out->outOfModuleScaling = platform->scaling;
+    sensor.usePlatformCalibration(std::move(platform->calibration), platform->model.width, platform->model.height);
     return true;
 }
 
@@ -94,7 +99,12 @@ bool readCameraParameters(Sensor& sensor, CameraParameters* out,
     ModuleRecords records;
     CameraParameters parameters;
     if (!readModule(sensor, *device, &records) || !fillModule(sensor, records, &parameters)) return false;
-    if (!fillPlatform(sensor, *device, &parameters)) {
+    const bool withPlatform = fillPlatform(sensor, *device, &parameters);
+    if (sensor.faulted()) return false;
+    const Rotation& platformRotation = parameters.depthToOutOfModule.rotation;
+    sensor.setRotationsInFlash(parameters.depthToInModule.rotation,
+                               withPlatform ? std::optional<Rotation>(platformRotation) : std::nullopt);
+    if (!withPlatform) {
         sensor.disablePlatformCamera();
         parameters.depthToOutOfModule.rotation.fill(0);
         forceSingleCameraCalibration();

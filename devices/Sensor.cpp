@@ -25,7 +25,7 @@ void Sensor::setStopFlag(const std::atomic<bool>* stop) {
 
 bool Sensor::grab(bool wait) {
     if (!opened_ || faulted_) return false;
-    if (!checkStatus(device_->grab(wait))) return false;
+    if (!ask([device = device_.get(), wait] { return device->grab(wait); })) return false;
     if (settings_.usePlatformCamera && !fetchPlatformPicture()) {
         if (stopRequested()) return false;
         emit signal_reportPlatformCameraIssue();
@@ -52,25 +52,47 @@ bool Sensor::setEmitter(bool on) {
 }
 
 bool Sensor::switchEmitter(KXEmitterControl& emitter, bool on) {
-    if (!checkStatus(emitter.setEmitter(on))) return false;
+    if (!ask([&emitter, on] { return emitter.setEmitter(on); })) return false;
     qInfo("Emitter is %s.", on ? "enabled" : "disabled");
     return true;
 }
 
 bool Sensor::checkStatus(bool callSucceeded) {
     if (callSucceeded) return true;
-    reportFault(device_ != nullptr ? device_->lastStatus() : 0);
+    const std::int32_t status = device_ != nullptr ? device_->lastStatus() : 0;
+    reportFault(status, statusString(status));
+    return false;
+}
+
+bool Sensor::ask(std::function<bool()> call) {
+    if (faulted_ || device_ == nullptr) return false;
+    const auto succeeded = std::make_shared<bool>(false);
+    const auto watched = [device = device_, call = std::move(call), succeeded] { *succeeded = call(); };
+    switch (calls_.run(watched, environment_.callLimit, stop_)) {
+        case WatchedCalls::Ending::Returned:
+            return checkStatus(*succeeded);
+        case WatchedCalls::Ending::Stopped:
+            faulted_ = true;
+            return false;
+        case WatchedCalls::Ending::Overdue:
+            break;
+    }
+    reportFault(KX_STATUS_OK, "The camera does not answer");
     return false;
 }
 
 void Sensor::reportInvalidCalibration() {
-    if (!faulted_) reportFault(KX_STATUS_NOT_CALIBRATED);
+    if (!faulted_) reportFault(KX_STATUS_NOT_CALIBRATED, statusString(KX_STATUS_NOT_CALIBRATED));
 }
 
-void Sensor::reportFault(std::int32_t status) {
+QString Sensor::statusString(std::int32_t status) const {
+    return library_ != nullptr ? QString::fromUtf8(library_->statusString(status)) : QString();
+}
+
+void Sensor::reportFault(std::int32_t status, const QString& libraryText) {
     faulted_ = true;
-    const char* libraryText = library_ != nullptr ? library_->statusString(status) : nullptr;
     const StatusNotice notice = statusNotice(status, libraryText);
+    faultText_ = notice.missingDevice ? libraryText : notice.text;
     if (notice.missingDevice) {
         emit signal_reportMissingQ550Device();
     } else {
@@ -88,6 +110,10 @@ void Sensor::usePlatformCalibration(PlatformCalibration calibration, std::int32_
     platformCalibration_ = std::move(calibration);
     settings_.platformScaledWidth = scaledWidth;
     settings_.platformScaledHeight = scaledHeight;
+}
+
+void Sensor::setRotationsInFlash(const Rotation& third, const std::optional<Rotation>& platform) {
+    rotationsInFlash_ = RotationsInFlash{third, platform};
 }
 
 void Sensor::disablePlatformCamera() {

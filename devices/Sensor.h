@@ -3,8 +3,11 @@
 #include "devices/FrameAcquisition.h"
 #include "devices/PlatformCalibration.h"
 #include "devices/PlatformPicture.h"
+#include "devices/RotationComposition.h"
 #include "devices/SensorEnvironment.h"
 #include "devices/SensorSettings.h"
+#include "devices/WatchedCalls.h"
+#include "devices/WriteBackReport.h"
 #include "kxapi/Library.h"
 
 #include <QObject>
@@ -12,7 +15,9 @@
 
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 
 namespace fieldcal {
 
@@ -20,7 +25,8 @@ namespace fieldcal {
 ///
 /// Built without a device; `open` either completes, or reports what is wrong by one signal and returns false. There is
 /// no second `open`. The first failed call of the camera library is fatal: it is reported once, and from then on the
-/// sensor does nothing more (`faulted`). Created, used and destroyed on one thread; signals are emitted on it.
+/// sensor does nothing more (`faulted`). Created, used and destroyed on one thread; signals are emitted on it. The
+/// thread may hand the sensor over to another one, for good.
 class Sensor : public QObject {
     Q_OBJECT
 
@@ -37,6 +43,10 @@ public:
     bool open(SensorSettings settings);
     bool opened() const { return opened_; }
     bool faulted() const { return faulted_; }
+    /// What the fault was, one line; empty without one.
+    QString faultText() const { return faultText_; }
+    /// 0 until `open` has asked for it.
+    std::uint32_t serialNumber() const { return serialNumber_; }
 
     /// One acquisition pass; with `wait` set it waits for the module's next frame set. True: the records were
     /// refreshed. False: they are as they were, and the fault has been reported, now or before.
@@ -55,8 +65,40 @@ public:
     /// Switches the infrared emitter. False, silently, when the device has none.
     bool setEmitter(bool on);
 
+    /// Writes the depth-to-colour rotations into the module's flash. The block that is there is kept in a file before,
+    /// and the flash is read again after; `writeBack` then says what it holds. True: every call succeeded and the flash
+    /// holds the rotations. Refused, without a call, unless the sensor is open, the calibration has been read and both
+    /// are rotations within 1e-4. `platform` counts only when the platform camera's calibration has been read.
+    bool updateRotation(const Rotation& third, const Rotation& platform);
+
+    /// Writes a whole block, as `ParameterBackup` keeps it, in the same manner. The calibration need not have been
+    /// read.
+    bool restoreParameters(const KXCalibRectParameters& block);
+
+    /// About the last `updateRotation` or `restoreParameters`.
+    const WriteBackReport& writeBack() const { return writeBack_; }
+
     /// Takes the result of every call of the camera library and passes it on; a failed one is reported.
     bool checkStatus(bool callSucceeded);
+
+    /// Makes one call of the camera library and checks its status. A call that does not return is given up, at the
+    /// latest shortly after the stop flag is set: so it captures values and shared records only, never a reference
+    /// (the device is kept for it). Once the sensor has failed, no call is made.
+    bool ask(std::function<bool()> call);
+
+    /// The same for a query that fills a record; `out` is untouched after a failure.
+    template <typename Object, typename Record>
+    bool read(Object* object, bool (Object::*query)(Record*), Record* out) {
+        const auto record = std::make_shared<Record>();
+        if (!ask([object, query, record] { return (object->*query)(record.get()); })) return false;
+        *out = *record;
+        return true;
+    }
+    /// The module's block without a report, also from a sensor that has failed.
+    bool readQuietly(KXCalibRectParameters* out);
+
+    /// Reports that the flash does not hold what was written although no call failed.
+    void reportWriteNotKept(const QString& what);
 
     /// Reports, once, that the module has no valid calibration.
     void reportInvalidCalibration();
@@ -67,11 +109,14 @@ public:
     KXThirdCamera* thirdCamera() const { return third_; }
     /// Null until `open` has loaded it.
     std::shared_ptr<const KXLibrary> library() const { return library_; }
+    std::shared_ptr<const KXRotationUpdater> rotationUpdater() const { return updater_; }
 
     /// What the read-out of the calibration decides.
     void setThirdScaledSize(std::int32_t width, std::int32_t height);
     void usePlatformCalibration(PlatformCalibration calibration, std::int32_t scaledWidth, std::int32_t scaledHeight);
     void disablePlatformCamera();
+    /// The rotations that the module reported; `platform` only when its calibration can be used.
+    void setRotationsInFlash(const Rotation& third, const std::optional<Rotation>& platform);
     const PlatformCalibration& platformCalibration() const { return platformCalibration_; }
 
 signals:
@@ -93,12 +138,23 @@ private:
     bool startStreams();
     bool switchEmitter(KXEmitterControl& emitter, bool on);
     bool fetchPlatformPicture();
-    void reportFault(std::int32_t status);
+    void reportFault(std::int32_t status, const QString& libraryText);
+    QString statusString(std::int32_t status) const;
+    bool mayWrite();
+    bool refuseToWrite(const QString& reason);
+    bool rewriteFlash(
+        const std::function<bool(const KXCalibRectParameters&, KXCalibRectParameters*, QString*)>& change);
     bool stopRequested() const { return stop_ != nullptr && *stop_; }
+
+    struct RotationsInFlash {
+        Rotation third;
+        std::optional<Rotation> platform;
+    };
 
     SensorEnvironment environment_;
     const std::atomic<bool>* stop_ = nullptr;
     std::shared_ptr<const KXLibrary> library_;
+    std::shared_ptr<const KXRotationUpdater> updater_;
     std::shared_ptr<KXDevice> device_;
     KXThirdCamera* third_ = nullptr;
     KXHardwareControl* hardware_ = nullptr;
@@ -107,11 +163,16 @@ private:
     FrameAcquisition frames_;
     PlatformPicture platformPicture_;
     PlatformCalibration platformCalibration_;
+    std::optional<RotationsInFlash> rotationsInFlash_;
+    WriteBackReport writeBack_;
+    std::uint32_t serialNumber_ = 0;
+    QString faultText_;
     bool platformPictureWanted_ = true;
     bool firstPictureAwaited_ = false;
     bool openTried_ = false;
     bool opened_ = false;
     bool faulted_ = false;
+    WatchedCalls calls_;
 };
 
 }  // namespace fieldcal

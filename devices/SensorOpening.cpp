@@ -38,7 +38,8 @@ bool Sensor::shutDownService() {
 bool Sensor::loadLibrary() {
     std::string why;
     library_ = environment_.loadLibrary(&why);
-    if (library_ != nullptr) return true;
+    if (library_ != nullptr) updater_ = environment_.loadRotationUpdater(&why);
+    if (updater_ != nullptr) return true;
     qCritical("%s", why.c_str());
     emit signal_reportMissingQ550Device();
     return false;
@@ -69,30 +70,31 @@ bool Sensor::createDevice() {
     // The deleter holds the library, so that its code outlives the device.
     device_.reset(device, [library = library_](KXDevice* last) { library->destroy(last); });
     qInfo("KXAPI allocated. Opening device...");
-    if (!checkStatus(device_->openDevice(kAnyDevice))) return false;
+    if (!ask([device] { return device->openDevice(kAnyDevice); })) return false;
     qInfo("Q550 device opened.");
     third_ = device_->thirdCamera();
     hardware_ = device_->hardwareControl();
-    return checkStatus(device_->initDevice());
+    return ask([device] { return device->initDevice(); });
 }
 
 bool Sensor::identifyDevice() {
-    std::uint32_t serial = 0;
-    if (!checkStatus(device_->serialNumber(&serial))) return false;
+    if (!read(device_.get(), &KXDevice::serialNumber, &serialNumber_)) return false;
     qInfo("Sensor firmware version: %s", textOf(device_->firmwareVersionText()));
     qInfo("Sensor software version: %s", textOf(device_->softwareVersionText()));
-    qInfo("Sensor camera serial no: %u", serial);
+    qInfo("Sensor camera serial no: %u", serialNumber_);
     if (!device_->calibrationValid()) qCritical("Calibration data on camera is invalid.");
     return true;
 }
 
 bool Sensor::configureDepth() {
-    return checkStatus(device_->setDepthEnabled(settings_.depthEnabled)) &&
-           checkStatus(device_->setLeftEnabled(settings_.leftEnabled)) &&
-           checkStatus(device_->setRightEnabled(settings_.rightEnabled)) &&
-           checkStatus(device_->setStreamOption(settings_.streamOption)) &&
-           checkStatus(device_->setDepthStreamMode(settings_.rectified, settings_.depthWidth, settings_.depthHeight,
-                                                   kDepthFramesPerSecond, settings_.depthPixelFormat));
+    return ask([device = device_.get(), s = settings_] { return device->setDepthEnabled(s.depthEnabled); }) &&
+           ask([device = device_.get(), s = settings_] { return device->setLeftEnabled(s.leftEnabled); }) &&
+           ask([device = device_.get(), s = settings_] { return device->setRightEnabled(s.rightEnabled); }) &&
+           ask([device = device_.get(), s = settings_] { return device->setStreamOption(s.streamOption); }) &&
+           ask([device = device_.get(), s = settings_] {
+               return device->setDepthStreamMode(s.rectified, s.depthWidth, s.depthHeight, kDepthFramesPerSecond,
+                                                 s.depthPixelFormat);
+           });
 }
 
 bool Sensor::configureThird() {
@@ -100,15 +102,19 @@ bool Sensor::configureThird() {
         qInfo("Third failed !_third check. Could not detect in-module color sensor.");
         return false;
     }
-    return checkStatus(third_->setThirdEnabled(true)) &&
-           checkStatus(third_->setThirdStreamMode(settings_.rectified, settings_.thirdWidth, settings_.thirdHeight,
-                                                  kThirdFramesPerSecond, settings_.thirdPixelFormat));
+    return ask([third = third_] { return third->setThirdEnabled(true); }) && ask([third = third_, s = settings_] {
+               return third->setThirdStreamMode(s.rectified, s.thirdWidth, s.thirdHeight, kThirdFramesPerSecond,
+                                                s.thirdPixelFormat);
+           });
 }
 
 bool Sensor::configureHardware() {
-    return checkStatus(hardware_ != nullptr) &&
-           checkStatus(hardware_->setAutoExposure(kBothImagers, settings_.autoExposure)) &&
-           checkStatus(hardware_->setHardwareOption(settings_.hardwareOption, kHardwareOptionValue));
+    return checkStatus(hardware_ != nullptr) && ask([hardware = hardware_, s = settings_] {
+               return hardware->setAutoExposure(kBothImagers, s.autoExposure);
+           }) &&
+           ask([hardware = hardware_, s = settings_] {
+               return hardware->setHardwareOption(s.hardwareOption, kHardwareOptionValue);
+           });
 }
 
 bool Sensor::configureEmitter() {
@@ -120,10 +126,10 @@ bool Sensor::configureEmitter() {
 bool Sensor::startStreams() {
     // A size that no camera has means that the library's answers cannot be trusted.
     if (!checkStatus(frames_.sizeRecords(*device_, *third_))) return false;
-    if (!checkStatus(device_->startCapture())) return false;
+    if (!ask([device = device_.get()] { return device->startCapture(); })) return false;
     if (settings_.autoExposure) return true;
-    return checkStatus(hardware_->setGain(settings_.gain, kBothImagers)) &&
-           checkStatus(hardware_->setExposure(settings_.exposure, kBothImagers));
+    return ask([hardware = hardware_, s = settings_] { return hardware->setGain(s.gain, kBothImagers); }) &&
+           ask([hardware = hardware_, s = settings_] { return hardware->setExposure(s.exposure, kBothImagers); });
 }
 
 }  // namespace fieldcal

@@ -25,10 +25,10 @@ const char* userMessage(std::int32_t status) {
 
 }  // namespace
 
-StatusNotice statusNotice(std::int32_t status, const char* libraryText) {
+StatusNotice statusNotice(std::int32_t status, const QString& libraryText) {
     if (status == KX_STATUS_NO_DEVICE) return {true, QString()};
     const QString form = QStringLiteral("%1 - %2");
-    return {false, form.arg(QString::fromUtf8(libraryText), QString::fromUtf8(userMessage(status)))};
+    return {false, form.arg(libraryText, QString::fromUtf8(userMessage(status)))};
 }
 
 }  // namespace fieldcal

@@ -12,7 +12,7 @@ struct StatusNotice {
     QString text;                ///< "library's text - message"
 };
 
-/// `libraryText`: the library's own text for `status`, UTF-8; may be null. Any thread.
-StatusNotice statusNotice(std::int32_t status, const char* libraryText);
+/// `libraryText`: the library's own text for `status`. Any thread.
+StatusNotice statusNotice(std::int32_t status, const QString& libraryText);
 
 }  // namespace fieldcal

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kxapi/Library.h"
+#include "kxapi/RotationUpdater.h"
 
 #include <cstring>
 #include <functional>
@@ -24,7 +25,8 @@ class FakeKxDevice final : public KXDevice,
                            public KXThirdCamera,
                            public KXHardwareControl,
                            public KXEmitterControl,
-                           public KXPlatformCamera {
+                           public KXPlatformCamera,
+                           public KXPrivate {
 public:
     /// The n-th call (from 1) of `operation` fails with `failStatus`.
     void failCall(const std::string& operation, int n, int32 failStatus) { failures_[operation] = {n, failStatus}; }
@@ -39,7 +41,7 @@ public:
     KXThirdCamera* thirdCamera() override { return call("thirdCamera") ? this : nullptr; }
     KXEmitterControl* emitterControl() override { return call("emitterControl") ? this : nullptr; }
     KXPlatformCamera* platformCamera() override { return call("platformCamera") ? this : nullptr; }
-    KXPrivate* privateInterface() override { return nullptr; }
+    KXPrivate* privateInterface() override { return call("privateInterface") ? this : nullptr; }
     bool setDepthStreamMode(bool rectify, int32 w, int32 h, int32 fps, int32 format) override {
         return call("setDepthStreamMode", rectify, w, h, fps, format);
     }
@@ -67,7 +69,7 @@ public:
     bool calibrationValid() override { return calibrated; }
     bool rectifiedLRIntrinsics(Rectified* out) override { return give("rectifiedLRIntrinsics", leftRight, out); }
     bool zIntrinsics(Rectified* out) override { return give("zIntrinsics", z, out); }
-    bool rectParameters(KXCalibRectParameters* out) override { return give("rectParameters", {}, out); }
+    bool rectParameters(KXCalibRectParameters* out) override { return give("rectParameters", flash, out); }
     bool resumeDevice() override { return call("resumeDevice"); }
 
     // The camera inside the module.
@@ -88,6 +90,20 @@ public:
     bool setExposure(float value, int32 imagers) override { return call("setExposure", value, imagers); }
     bool setHardwareOption(bool on, int32 value) override { return call("setHardwareOption", on, value); }
     bool setEmitter(bool on) override { return call("setEmitter", on); }
+
+    // The flash.
+    bool writeRectParameters(const KXCalibRectParameters* block, bool permanent) override {
+        if (onWrite) onWrite();
+        if (!call("writeRectParameters", permanent)) return false;
+        if (!ignoreWrites) written = *block;
+        return true;
+    }
+    bool commitCalibration() override {
+        if (!call("commitCalibration")) return false;
+        flash = written;
+        if (garbleCommits-- > 0) flash.reserved1[50] ^= 4;
+        return true;
+    }
 
     // The rear camera's calibration.
     bool setPlatformMode(int32 mode, int32 w, int32 h) override { return call("setPlatformMode", mode, w, h); }
@@ -119,6 +135,22 @@ public:
     KXCalibExtrinsics zToPlatform{{1, 0, 0, 0, 1, 0, 0, 0, 1}, {-30, 12, 4}};
     double rotation[9] = {1, 0, 0, 0, 1, 0, 0, 0, 1};
     std::function<void()> onGrab;
+    std::function<void()> onWrite;
+    KXCalibRectParameters flash = unitBlock();
+    KXCalibRectParameters written = flash;
+    bool ignoreWrites = false;
+    int garbleCommits = 0;  ///< that many commits store something else
+
+    /// Recognisable bytes around three identities.
+    static KXCalibRectParameters unitBlock() {
+        KXCalibRectParameters block{};
+        std::memset(&block, 0x5A, sizeof(block));
+        for (float* matrix : {block.rectificationInfrared, block.rectificationThird, block.rectificationPlatform}) {
+            for (int i = 0; i < 9; ++i)
+                matrix[i] = i % 4 == 0 ? 1.0F : 0.0F;
+        }
+        return block;
+    }
 
 private:
     /// Records the call and gives its result.
@@ -167,6 +199,22 @@ struct FakeLibrary {
     std::shared_ptr<KXLibrary> library = std::make_shared<KXLibrary>();
     inline static FakeKxDevice* current = nullptr;
     inline static int rectifyCalls = 0;
+};
+
+/// A companion library that keeps the rotations at the block's start: the third camera's nine doubles, then the
+/// platform camera's.
+struct FakeUpdater {
+    FakeUpdater() {
+        library->updateThirdCamera = [](const KXCalibRectParameters* in, const double* rotation,
+                                        KXCalibRectParameters* out) { put(in, rotation, 0, out); };
+        library->updatePlatformCamera = [](const KXCalibRectParameters* in, const double* rotation,
+                                           KXCalibRectParameters* out) { put(in, rotation, 72, out); };
+    }
+    static void put(const KXCalibRectParameters* in, const double* rotation, int at, KXCalibRectParameters* out) {
+        if (out != in) *out = *in;
+        std::memcpy(out->reserved0 + at, rotation, 72);
+    }
+    std::shared_ptr<KXRotationUpdater> library = std::make_shared<KXRotationUpdater>();
 };
 
 }  // namespace fieldcal::testing

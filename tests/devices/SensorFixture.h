@@ -6,6 +6,7 @@
 #include "tests/devices/FakeServiceControl.h"
 #include "tests/devices/LogCapture.h"
 
+#include <QTemporaryDir>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -42,11 +43,14 @@ protected:
             if (libraryMissing) *why = "no library";
             return libraryMissing ? nullptr : fakeLibrary.library;
         };
+        result.loadRotationUpdater = [this](std::string*) { return fakeUpdater.library; };
         result.services = &services;
         result.createPlatformCamera = [this](const std::shared_ptr<const KXLibrary>&) {
             return std::make_unique<CPlatformCameraControl>(std::make_unique<FakePlatformBackend>(rearCamera));
         };
         result.now = [this] { return now; };
+        result.dataFolder = data.path();
+        result.callLimit = callLimit;
         return result;
     }
 
@@ -59,6 +63,9 @@ protected:
     LogCapture log;
     std::unique_ptr<FakeKxDevice> device;
     FakeLibrary fakeLibrary;
+    FakeUpdater fakeUpdater;
+    QTemporaryDir data;
+    std::chrono::milliseconds callLimit{10000};
     FakeRearCamera rearCamera;
     FakeServiceControl control;
     PXMServiceManager services{control};

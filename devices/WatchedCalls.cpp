@@ -1,0 +1,84 @@
+#include "devices/WatchedCalls.h"
+
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+namespace fieldcal {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds kStopCheck{20};
+constexpr std::chrono::milliseconds kGraceAfterStop{333};
+
+}  // namespace
+
+struct WatchedCalls::Worker {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::function<void()> call;  ///< empty while there is none
+    bool leave = false;
+    std::thread thread;
+
+    static void work(const std::shared_ptr<Worker>& self) {
+        std::unique_lock lock(self->mutex);
+        while (true) {
+            self->changed.wait(lock, [&] { return self->leave || self->call != nullptr; });
+            if (self->leave) return;
+            lock.unlock();
+            self->call();
+            lock.lock();
+            self->call = nullptr;
+            self->changed.notify_all();
+        }
+    }
+
+    bool returnedBy(Clock::time_point time, std::unique_lock<std::mutex>* lock) {
+        return changed.wait_until(*lock, time, [&] { return call == nullptr; });
+    }
+};
+
+WatchedCalls::WatchedCalls() = default;
+
+WatchedCalls::~WatchedCalls() {
+    if (worker_ == nullptr) return;
+    {
+        const std::lock_guard lock(worker_->mutex);
+        worker_->leave = true;
+        worker_->changed.notify_all();
+    }
+    worker_->thread.join();
+}
+
+WatchedCalls::Ending WatchedCalls::run(std::function<void()> call, std::chrono::milliseconds limit,
+                                       const std::atomic<bool>* stop) {
+    if (givenUp_) return Ending::Overdue;
+    if (worker_ == nullptr) {
+        worker_ = std::make_shared<Worker>();
+        worker_->thread = std::thread(Worker::work, worker_);
+    }
+    std::unique_lock lock(worker_->mutex);
+    worker_->call = std::move(call);
+    worker_->changed.notify_all();
+
+    Clock::time_point end = Clock::now() + limit;
+    bool stopped = false;
+    while (!worker_->returnedBy(std::min(end, Clock::now() + kStopCheck), &lock)) {
+        if (!stopped && stop != nullptr && *stop) {
+            stopped = true;
+            end = std::min(end, Clock::now() + kGraceAfterStop);
+        }
+        if (Clock::now() < end) continue;
+        givenUp_ = true;
+        worker_->leave = true;
+        worker_->thread.detach();
+        lock.unlock();
+        worker_.reset();
+        return stopped ? Ending::Stopped : Ending::Overdue;
+    }
+    return Ending::Returned;
+}
+
+}  // namespace fieldcal
