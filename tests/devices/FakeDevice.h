@@ -3,6 +3,7 @@
 #include "kxapi/Library.h"
 #include "kxapi/RotationUpdater.h"
 
+#include <atomic>
 #include <cstring>
 #include <functional>
 #include <map>
@@ -119,7 +120,7 @@ public:
     bool calibrated = true;
     bool depthOn = true;
     bool thirdOn = true;
-    bool destroyed = false;
+    std::atomic<bool> destroyed{false};
     int32 lrWidthValue = 628;
     int32 thirdWidthValue = 640;
     std::vector<std::uint16_t> left = std::vector<std::uint16_t>(std::size_t{628} * 468, 500);

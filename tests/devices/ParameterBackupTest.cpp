@@ -1,0 +1,141 @@
+#include "devices/ParameterBackup.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <gmock/gmock.h>
+
+#include <cstring>
+#include <limits>
+#include <random>
+
+namespace fieldcal {
+namespace {
+
+ParameterBackup sample() {
+    ParameterBackup backup;
+    backup.serial = 550101;
+    backup.taken = QDateTime::fromMSecsSinceEpoch(1774000000123, Qt::UTC);
+    std::memset(&backup.block, 0xA7, sizeof(backup.block));
+    for (float* matrix :
+         {backup.block.rectificationInfrared, backup.block.rectificationThird, backup.block.rectificationPlatform}) {
+        for (int i = 0; i < 9; ++i)
+            matrix[i] = i % 4 == 0 ? 1.0F : 0.0F;
+    }
+    return backup;
+}
+
+bool same(const ParameterBackup& a, const ParameterBackup& b) {
+    return a.serial == b.serial && a.taken == b.taken && std::memcmp(&a.block, &b.block, sizeof(a.block)) == 0;
+}
+
+class ParameterBackupTest : public testing::Test {
+protected:
+    QByteArray bytesOf(const QString& path) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+    void put(const QByteArray& bytes) {
+        QFile file(folder.filePath("changed"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(bytes), bytes.size());
+    }
+    bool read(ParameterBackup* out) {
+        why.clear();
+        return readBackup(folder.filePath("changed"), out, &why);
+    }
+    static QByteArray rehashed(const QByteArray& bytes) {
+        const QByteArray content = bytes.left(bytes.size() - 32);
+        return content + QCryptographicHash::hash(content, QCryptographicHash::Sha256);
+    }
+
+    QTemporaryDir folder;
+    QString why;
+};
+
+TEST_F(ParameterBackupTest, KeepsEveryBlockUnderANameOfItsOwn) {
+    const QString kept = folder.filePath("new/backups");
+    QString first, second;
+    ASSERT_TRUE(keepBackup(kept, sample(), &first, &why)) << why.toStdString();
+    ASSERT_TRUE(keepBackup(kept, sample(), &second, &why));
+    EXPECT_EQ(first, kept + "/550101-20260320T094640123Z.fcbackup");
+    EXPECT_EQ(second, kept + "/550101-20260320T094640123Z-2.fcbackup");
+    ParameterBackup read;
+    ASSERT_TRUE(readBackup(first, &read, &why)) << why.toStdString();
+    EXPECT_TRUE(same(read, sample()));
+    EXPECT_FALSE(writeBackup(first, sample(), &why)) << "nothing is overwritten";
+}
+
+TEST_F(ParameterBackupTest, WhatMakesNoSenseIsNamed) {
+    QString path;
+    ASSERT_TRUE(keepBackup(folder.path(), sample(), &path, &why));
+    const QByteArray whole = bytesOf(path);
+    const float infinite = std::numeric_limits<float>::infinity();
+    const auto changed = [&](int at, const QByteArray& to) {
+        return rehashed(QByteArray(whole).replace(at, to.size(), to));
+    };
+    const struct {
+        QByteArray bytes;
+        const char* what;
+    } cases[] = {{"", "it is no backup"},
+                 {whole.left(9), "version"},
+                 {changed(8, QByteArray("\2\0\0\0", 4)), "version"},
+                 {whole.left(2111), "length"},
+                 {whole + 'x', "length"},
+                 {QByteArray(whole).replace(100, 1, "x"), "checksum"},
+                 {changed(23, "\x7f"), "date"},
+                 {changed(24, "\1"), "block length"},
+                 {changed(32 + 1272, QByteArray(4, '\0')), "infrared rectification: not a rotation"},
+                 {changed(32 + 1416, {reinterpret_cast<const char*>(&infinite), 4}), "third rectification"},
+                 {changed(32 + 1488 + 35, "\xbf"), "platform rectification"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        put(c.bytes);
+        ParameterBackup untouched = sample();
+        untouched.serial = 7;
+        EXPECT_FALSE(read(&untouched));
+        EXPECT_EQ(untouched.serial, 7U);
+        EXPECT_TRUE(why.startsWith(folder.filePath("changed") + ": ")) << why.toStdString();
+        EXPECT_TRUE(why.contains(c.what)) << why.toStdString();
+    }
+    put(whole);
+    ParameterBackup again;
+    EXPECT_TRUE(read(&again));
+    EXPECT_FALSE(readBackup(folder.path(), &again, &why)) << "a folder";
+}
+
+TEST_F(ParameterBackupTest, MutatedFilesAreReadOrRefused) {
+    QString path;
+    ASSERT_TRUE(keepBackup(folder.path(), sample(), &path, &why));
+    const QByteArray whole = bytesOf(path);
+    std::mt19937 random(3);
+    const auto below = [&](int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); };
+    int accepted = 0;
+    for (int i = 0; i < 2000; ++i) {
+        QByteArray bytes = whole;
+        for (int n = below(3); n >= 0; --n) {
+            // Half of the damage goes where the meaning is.
+            const int at = below(2) == 0 ? below(bytes.size()) : below(2) == 0 ? below(32) : 32 + 1272 + below(252);
+            bytes[at] = static_cast<char>(below(256));
+        }
+        if (below(10) == 0) bytes.truncate(below(bytes.size()));
+        put(i % 3 == 0 || bytes.size() < 32 ? bytes : rehashed(bytes));
+        ParameterBackup out;
+        if (read(&out)) {
+            ++accepted;
+            EXPECT_EQ(matrixThatIsNoRotation(out.block), nullptr);
+            EXPECT_TRUE(out.taken.isValid());
+        } else {
+            EXPECT_TRUE(why.startsWith(folder.filePath("changed") + ": ")) << why.toStdString();
+        }
+    }
+    EXPECT_GT(accepted, 200);
+    EXPECT_LT(accepted, 1500);
+    ParameterBackup neighbour;
+    EXPECT_TRUE(readBackup(path, &neighbour, &why));
+}
+
+}  // namespace
+}  // namespace fieldcal

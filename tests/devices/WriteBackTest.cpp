@@ -1,0 +1,228 @@
+#include "devices/CameraParameterReader.h"
+#include "devices/ParameterBackup.h"
+#include "tests/devices/SensorFixture.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cmath>
+#include <future>
+#include <limits>
+#include <thread>
+
+namespace fieldcal::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+using ::testing::StartsWith;
+using Flash = WriteBackReport::Flash;
+
+// Quarter turns: every product can be checked by hand.
+constexpr Rotation kIdentity{1, 0, 0, 0, 1, 0, 0, 0, 1};
+constexpr Rotation kAboutX{1, 0, 0, 0, 0, -1, 0, 1, 0};
+constexpr Rotation kAboutY{0, 0, 1, 0, 1, 0, -1, 0, 0};
+constexpr Rotation kAboutZ{0, -1, 0, 1, 0, 0, 0, 0, 1};
+
+const std::vector<std::string> kWritingCalls{"stopCapture()",          "rectParameters()",    "privateInterface()",
+                                             "writeRectParameters(1)", "commitCalibration()", "resumeDevice()",
+                                             "rectParameters()"};
+
+class WriteBackTest : public SensorTest {
+protected:
+    void open() {
+        ASSERT_TRUE(sensor->open(applicationSettings()));
+        ASSERT_TRUE(readCameraParameters(*sensor, &parameters, [] {}));
+        std::copy(kAboutZ.begin(), kAboutZ.end(), device->flash.rectificationInfrared);
+        std::copy(kAboutX.begin(), kAboutX.end(), device->flash.rectificationThird);
+        std::copy(kAboutY.begin(), kAboutY.end(), device->flash.rectificationPlatform);
+        device->written = device->flash;
+        device->calls.clear();
+    }
+    bool flashIs(const KXCalibRectParameters& block) const {
+        return std::memcmp(&device->flash, &block, sizeof(block)) == 0;
+    }
+    Flash flash() const { return sensor->writeBack().flash; }
+    std::string reason() const { return sensor->writeBack().reason.toStdString(); }
+
+    CameraParameters parameters;
+};
+
+TEST_F(WriteBackTest, ComposesEachRotationBetweenTheRawFramesAndTouchesNothingElse) {
+    open();
+    KXCalibRectParameters expected = device->flash;
+    const KXCalibRectParameters before = expected;
+    const double third[9] = {0, 0, 1, 0, 1, 0, -1, 0, 0};
+    const double platform[9] = {-1, 0, 0, 0, 0, -1, 0, -1, 0};
+    std::memcpy(expected.reserved0, third, sizeof(third));
+    std::memcpy(expected.reserved0 + 72, platform, sizeof(platform));
+
+    ASSERT_TRUE(sensor->updateRotation(kAboutY, kAboutX));
+    EXPECT_TRUE(flashIs(expected));
+    EXPECT_EQ(device->calls, kWritingCalls);
+    EXPECT_EQ(flash(), Flash::Written);
+    EXPECT_THAT(emitted, IsEmpty());
+
+    ParameterBackup backup;
+    QString why;
+    ASSERT_TRUE(readBackup(sensor->writeBack().backupFile, &backup, &why)) << why.toStdString();
+    EXPECT_EQ(backup.serial, 550101U);
+    EXPECT_EQ(std::memcmp(&backup.block, &before, sizeof(before)), 0);
+    ASSERT_TRUE(sensor->restoreParameters(backup.block));
+    EXPECT_TRUE(flashIs(before));
+}
+
+TEST_F(WriteBackTest, ARotationThatDidNotMoveIsLeftAsItIs) {
+    open();
+    const KXCalibRectParameters before = device->flash;
+    for (int i = 0; i < 3; ++i) {
+        ASSERT_TRUE(sensor->updateRotation(kIdentity, kIdentity));
+        EXPECT_TRUE(flashIs(before)) << "both as the module reported them";
+    }
+    ASSERT_TRUE(sensor->updateRotation(kAboutY, kIdentity));
+    const KXCalibRectParameters moved = device->flash;
+    EXPECT_EQ(std::memcmp(moved.reserved0 + 72, before.reserved0 + 72, 72), 0);
+    ASSERT_TRUE(sensor->updateRotation(kAboutY, kIdentity)) << "now that is what the flash holds";
+    EXPECT_TRUE(flashIs(moved));
+    ASSERT_TRUE(sensor->updateRotation(kIdentity, kIdentity));
+    EXPECT_FALSE(flashIs(moved));
+}
+
+TEST_F(WriteBackTest, RefusesWithoutTouchingTheDevice) {
+    EXPECT_FALSE(sensor->updateRotation(kAboutX, kAboutX)) << "not open";
+    ASSERT_TRUE(sensor->open(applicationSettings()));
+    device->calls.clear();
+    EXPECT_FALSE(sensor->updateRotation(kAboutX, kAboutX)) << "not read";
+    EXPECT_THAT(reason(), StartsWith("Nothing is written to the camera: its parameters"));
+    ASSERT_TRUE(readCameraParameters(*sensor, &parameters, [] {}));
+    device->calls.clear();
+
+    Rotation mirrored = kAboutX, stretched = kAboutX, zero{}, notANumber = kAboutX;
+    mirrored[0] = -1;
+    stretched[0] = 1.0002F;
+    notANumber[4] = std::numeric_limits<float>::quiet_NaN();
+    for (const Rotation& bad : {mirrored, stretched, zero, notANumber}) {
+        EXPECT_FALSE(sensor->updateRotation(bad, kAboutX));
+        EXPECT_FALSE(sensor->updateRotation(kAboutX, bad));
+    }
+    EXPECT_THAT(device->calls, IsEmpty());
+    EXPECT_THAT(emitted, IsEmpty());
+    EXPECT_EQ(flash(), Flash::Untouched);
+    Rotation nearly = kAboutX;
+    nearly[0] = 1.00002F;
+    EXPECT_TRUE(sensor->updateRotation(nearly, kAboutX));
+}
+
+TEST_F(WriteBackTest, WithoutAPlatformCalibrationItsRotationDoesNotMatter) {
+    device->failCall("platformCamera", 1, 0);
+    open();
+    ASSERT_TRUE(sensor->updateRotation(kAboutY, Rotation{}));
+    EXPECT_EQ(device->flash.reserved0[72], 0x5A);
+}
+
+TEST_F(WriteBackTest, EveryFailingCallIsReportedOnceAndTheFlashIsReadAgain) {
+    const Flash expected[] = {Flash::Untouched, Flash::Untouched, Flash::Previous, Flash::Previous,
+                              Flash::Previous,  Flash::Written,   Flash::Written};
+    int rectReads = 0;
+    for (std::size_t i = 0; i < kWritingCalls.size(); ++i) {
+        const std::string operation = kWritingCalls[i].substr(0, kWritingCalls[i].find('('));
+        SCOPED_TRACE(kWritingCalls[i] + " " + std::to_string(i));
+        renew();
+        open();
+        if (operation == "rectParameters") ++rectReads;
+        device->failCall(operation, operation == "rectParameters" ? rectReads : 1, 6);
+        EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
+        EXPECT_THAT(emitted,
+                    ElementsAre("STATUS %2 TEXT - Something bad has happened with the Tarnex Deepvane camera."));
+        EXPECT_EQ(reason(), emitted.front());
+        // The last read is the one that failed.
+        EXPECT_EQ(flash(), i == 6 ? Flash::Unknown : i == 2 ? Flash::Untouched : expected[i]);
+        EXPECT_TRUE(sensor->faulted());
+        device->calls.clear();
+        EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
+        EXPECT_THAT(device->calls, IsEmpty());
+        EXPECT_THAT(emitted, SizeIs(1));
+    }
+}
+
+TEST_F(WriteBackTest, WhatTheModuleSaysLastCounts) {
+    open();
+    const KXCalibRectParameters before = device->flash;
+    device->ignoreWrites = true;
+    EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
+    EXPECT_EQ(flash(), Flash::Previous);
+    EXPECT_THAT(emitted, ElementsAre("The camera said that it stored the calibration, but it did not - An unknown "
+                                     "error has occured."));
+    renew();
+    open();
+    device->garbleCommits = 1;
+    EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
+    EXPECT_EQ(flash(), Flash::Previous);
+    EXPECT_TRUE(flashIs(before)) << "a block that arrived wrong is replaced by the previous one";
+    EXPECT_THAT(emitted, SizeIs(1));
+
+    renew();
+    open();
+    device->garbleCommits = 2;
+    EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
+    EXPECT_EQ(flash(), Flash::Other);
+    EXPECT_THAT(emitted, SizeIs(1));
+    EXPECT_TRUE(QFile::exists(sensor->writeBack().backupFile));
+}
+
+TEST_F(WriteBackTest, NothingIsWrittenWhenThePreviousBlockCannotBeKept) {
+    QFile inTheWay(data.filePath("backups"));
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    open();
+    EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
+    EXPECT_EQ(device->calls.size(), 2U);
+    EXPECT_EQ(flash(), Flash::Untouched);
+    EXPECT_THAT(reason(), StartsWith("The present calibration could not be kept: " + data.path().toStdString()));
+
+    device->flash.rectificationInfrared[0] = 2;
+    EXPECT_TRUE(inTheWay.remove());
+    EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
+    EXPECT_EQ(reason(), "The present parameter block cannot be used: its infrared rectification is no rotation");
+}
+
+TEST_F(WriteBackTest, CallsThatNeverReturnAreGivenUp) {
+    std::promise<void> release;
+    const std::shared_future<void> released = release.get_future().share();
+    callLimit = std::chrono::milliseconds(50);
+    renew();
+    open();
+    device->onWrite = [released] { released.wait(); };
+    EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
+    EXPECT_THAT(emitted, ElementsAre("The camera does not answer - An unknown error has occured."));
+    EXPECT_EQ(flash(), Flash::Unknown);
+    sensor.reset();
+    EXPECT_EQ(control.startType, 2U);
+    EXPECT_FALSE(device->destroyed) << "the call that hangs still uses it";
+    release.set_value();
+    while (!device->destroyed)
+        std::this_thread::yield();
+}
+
+TEST_F(WriteBackTest, AStopEndsAGrabThatNeverReturnsWithoutAReport) {
+    std::promise<void> release;
+    const std::shared_future<void> released = release.get_future().share();
+    open();
+    std::atomic<bool> stop{false};
+    sensor->setStopFlag(&stop);
+    device->onGrab = [&stop, released] {
+        stop = true;
+        released.wait();
+    };
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_FALSE(sensor->grab(true));
+    sensor.reset();
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
+    EXPECT_THAT(emitted, IsEmpty());
+    release.set_value();
+    while (!device->destroyed)
+        std::this_thread::yield();
+}
+
+}  // namespace
+}  // namespace fieldcal::testing
