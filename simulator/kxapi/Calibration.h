@@ -10,8 +10,4 @@ KXCalibIntrinsicsRectified rectifiedIntrinsics(const fieldcal::session::Intrinsi
 KXCalibIntrinsicsNonRectified rawIntrinsics(const fieldcal::session::RawIntrinsics& camera);
 KXCalibExtrinsics extrinsics(const fieldcal::session::Matrix3& rotation, const fieldcal::session::Vector3& translation);
 
-/// The rectification block of a module whose infrared camera needs no rectification. The third camera's matrix is a
-/// fixed small rotation, the platform camera's the recording's own (identity without one).
-KXCalibRectParameters rectParameters(const fieldcal::session::SessionDescription& session);
-
 }  // namespace kxsim

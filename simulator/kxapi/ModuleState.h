@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kxapi/KXAPI.h"
+#include "simulator/kxapi/FlashMemory.h"
 #include "simulator/kxapi/SessionPlayer.h"
 #include "simulator/kxapi/Settings.h"
 
@@ -14,7 +15,12 @@ struct ModuleState {
     Settings settings;
     Stage stage = Stage::closed;
     std::unique_ptr<SessionPlayer> player;  ///< set from `opened` on
+    std::unique_ptr<FlashMemory> flash;     ///< set from `opened` on
     std::int32_t lastStatus = KX_STATUS_OK;
+
+    KXCalibRectParameters activeBlock{};                  ///< what the module works with
+    std::optional<KXCalibRectParameters> temporaryBlock;  ///< to be used instead of the flash's from the next resuming
+    bool resting = false;                                 ///< `stopCapture` began a rest
 
     bool depthModeSet = false;
     bool thirdModeSet = false;
@@ -25,6 +31,10 @@ struct ModuleState {
 
     /// Notes the status and returns false.
     bool fail(std::int32_t status);
+    /// Whether it did; else reports and notes why not.
+    bool succeeds(const FlashResult& result);
+    /// Takes up the block that is to be used from now on.
+    bool loadCalibration();
     /// Counts the call. False with a status when a fault hits it or the device is not that far.
     bool enter(const char* operation, Stage atLeast);
     /// For operations that need the capture to rest: ready, but not capturing.

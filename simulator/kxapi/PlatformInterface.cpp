@@ -1,6 +1,7 @@
 #include "simulator/kxapi/PlatformInterface.h"
 
 #include "simulator/kxapi/Calibration.h"
+#include "simulator/kxapi/ParameterBlock.h"
 
 namespace kxsim {
 
@@ -39,8 +40,7 @@ const double* PlatformInterface::rectificationRotation() {
 
 bool PlatformInterface::zToPlatformExtrinsics(KXCalibExtrinsics* out) {
     if (!state_.enterCalibration("zToPlatformExtrinsics")) return false;
-    const fieldcal::session::PlatformCamera& camera = *state_.description().platform;
-    *out = extrinsics(camera.rotation, camera.translation);
+    *out = platformExtrinsics(state_.activeBlock, state_.description());
     return true;
 }
 

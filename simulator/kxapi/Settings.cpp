@@ -32,6 +32,7 @@ void readPlatform(Settings* out) {
 Settings readSettings() {
     Settings out;
     out.session = qEnvironmentVariable("KXSIM_SESSION").toStdString();
+    out.flash = qEnvironmentVariable("KXSIM_FLASH").toStdString();
     readSpeed(&out);
     readPlatform(&out);
     out.faults.parse(qEnvironmentVariable("KXSIM_FAULTS").toStdString(), &out.problem);

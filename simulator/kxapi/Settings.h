@@ -9,6 +9,7 @@ namespace kxsim {
 /// The environment variables KXSIM_*, as they stand when a device is created.
 struct Settings {
     std::string session;          ///< folder of the recording to play, UTF-8; empty: none
+    std::string flash;            ///< file of the module's flash, UTF-8; empty: in the device's memory
     double speed = 1;             ///< 1: 60 grabs a second; 0: as fast as it can
     bool platformAbsent = false;  ///< without a recording: the tablet has no rear camera
     Faults faults;

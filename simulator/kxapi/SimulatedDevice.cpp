@@ -1,6 +1,7 @@
 #include "simulator/kxapi/SimulatedDevice.h"
 
 #include "simulator/kxapi/Calibration.h"
+#include "simulator/kxapi/ParameterBlock.h"
 #include "simulator/kxapi/RearCamera.h"
 
 #include <utility>
@@ -13,7 +14,7 @@ constexpr double kGrabsPerSecond = 60;
 }
 
 SimulatedDevice::SimulatedDevice(Settings settings)
-    : hardware_(&state_), third_(&state_), emitter_(&state_), platform_(&state_) {
+    : hardware_(&state_), third_(&state_), emitter_(&state_), platform_(&state_), private_(&state_) {
     state_.settings = std::move(settings);
 }
 
@@ -26,14 +27,25 @@ bool SimulatedDevice::openDevice(std::int32_t index) {
     if (!state_.enter("openDevice", Stage::closed)) return false;
     if (state_.stage != Stage::closed) return state_.fail(KX_STATUS_FAILED);
     if (settings.session.empty() || index < -1 || index > 0) return state_.fail(KX_STATUS_NO_DEVICE);
+    return plugIn();
+}
+
+/// The module's parts: its recording and its flash.
+bool SimulatedDevice::plugIn() {
     std::string why;
-    state_.player = SessionPlayer::open(settings.session, &why);
-    if (state_.player == nullptr) {
+    std::unique_ptr<SessionPlayer> player = SessionPlayer::open(state_.settings.session, &why);
+    if (player == nullptr) {
         report(why);
         return state_.fail(KX_STATUS_DEVICE_ERROR);
     }
-    const auto& depth = state_.description().depth;
+    const fieldcal::session::SessionDescription& description = player->description();
+    auto flash =
+        std::make_unique<FlashMemory>(state_.settings.flash, description.module.serial, &state_.settings.faults);
+    if (!state_.succeeds(flash->open(factoryBlock(description), &state_.activeBlock))) return false;
+    const auto& depth = description.depth;
     noDepth_.assign(static_cast<std::size_t>(depth.width) * static_cast<std::size_t>(depth.height), 0);
+    state_.player = std::move(player);
+    state_.flash = std::move(flash);
     state_.stage = Stage::opened;
     return true;
 }
@@ -114,11 +126,15 @@ bool SimulatedDevice::setStreamOption(bool) {
 }
 
 bool SimulatedDevice::startCapture() {
-    if (!state_.enterAtRest("startCapture")) return false;
+    return state_.enterAtRest("startCapture") && beginCapture();
+}
+
+bool SimulatedDevice::beginCapture() {
     const bool depthStreams = state_.depthEnabled || state_.leftEnabled || state_.rightEnabled;
     const bool modesSet = (state_.depthModeSet || !depthStreams) && (state_.thirdModeSet || !state_.thirdEnabled);
     if (!modesSet || (!depthStreams && !state_.thirdEnabled)) return state_.fail(KX_STATUS_FAILED);
     state_.stage = Stage::capturing;
+    state_.resting = false;
     pace_.start(state_.settings.speed);
     return true;
 }
@@ -126,6 +142,7 @@ bool SimulatedDevice::startCapture() {
 bool SimulatedDevice::stopCapture() {
     if (!state_.enter("stopCapture", Stage::capturing)) return false;
     state_.stage = Stage::ready;
+    state_.resting = true;
     return true;
 }
 
@@ -204,9 +221,7 @@ bool SimulatedDevice::zIntrinsics(KXCalibIntrinsicsRectified* out) {
 }
 
 bool SimulatedDevice::rectParameters(KXCalibRectParameters* out) {
-    if (!state_.enter("rectParameters", Stage::ready)) return false;
-    *out = kxsim::rectParameters(state_.description());
-    return true;
+    return state_.enter("rectParameters", Stage::ready) && state_.succeeds(state_.flash->read(out));
 }
 
 KXPlatformCamera* SimulatedDevice::platformCamera() {
@@ -214,12 +229,12 @@ KXPlatformCamera* SimulatedDevice::platformCamera() {
 }
 
 KXPrivate* SimulatedDevice::privateInterface() {
-    if (state_.enter("privateInterface", Stage::opened)) state_.fail(KX_STATUS_FAILED);
-    return nullptr;
+    return state_.enter("privateInterface", Stage::opened) ? &private_ : nullptr;
 }
 
 bool SimulatedDevice::resumeDevice() {
-    return state_.enter("resumeDevice", Stage::opened) && state_.fail(KX_STATUS_FAILED);
+    if (!state_.enterAtRest("resumeDevice")) return false;
+    return state_.resting ? state_.loadCalibration() && beginCapture() : state_.fail(KX_STATUS_FAILED);
 }
 
 }  // namespace kxsim

@@ -3,14 +3,14 @@
 #include "simulator/kxapi/ControlInterfaces.h"
 #include "simulator/kxapi/Pace.h"
 #include "simulator/kxapi/PlatformInterface.h"
+#include "simulator/kxapi/PrivateInterface.h"
 #include "simulator/kxapi/ThirdInterface.h"
 
 namespace kxsim {
 
 /// The simulated module. Strict about order: open, init, modes and streams, capture, grab; anything out of turn fails
 /// with status 1. The right infrared picture is the left one again, and depth is 0 where the recording has none.
-/// Whatever size the depth stream is asked for, the recording's own sizes are served. The module is read-only: it has
-/// no private interface, and `resumeDevice` fails.
+/// Whatever size the depth stream is asked for, the recording's own sizes are served.
 class SimulatedDevice final : public KXDevice {
 public:
     explicit SimulatedDevice(Settings settings);
@@ -52,6 +52,8 @@ public:
     bool resumeDevice() override;
 
 private:
+    bool plugIn();
+    bool beginCapture();
     bool setEnabled(const char* operation, bool* stream, bool on);
     const std::uint16_t* infraredImage(const char* operation, bool enabled);
     void showToRearCamera() const;
@@ -61,6 +63,7 @@ private:
     ThirdInterface third_;
     EmitterInterface emitter_;
     PlatformInterface platform_;
+    PrivateInterface private_;
     Pace pace_;
     std::vector<std::uint16_t> noDepth_;  ///< all 0, for frames without depth
 };

@@ -1,6 +1,7 @@
 #include "simulator/kxapi/ThirdInterface.h"
 
 #include "simulator/kxapi/Calibration.h"
+#include "simulator/kxapi/ParameterBlock.h"
 
 namespace kxsim {
 
@@ -43,7 +44,7 @@ bool ThirdInterface::rectifiedThirdIntrinsics(KXCalibIntrinsicsRectified* out) {
 
 bool ThirdInterface::zToThirdExtrinsics(KXCalibExtrinsics* out) {
     if (!state_.enterCalibration("zToThirdExtrinsics")) return false;
-    *out = extrinsics(state_.description().third.rotation, state_.description().third.translation);
+    *out = thirdExtrinsics(state_.activeBlock, state_.description());
     return true;
 }
 

@@ -134,14 +134,6 @@ TEST_F(Order, ACaptureNeedsItsModesAndAStream) {
     EXPECT_TRUE(device->startCapture());
 }
 
-TEST_F(Order, TheModuleIsReadOnly) {
-    const std::shared_ptr<KXDevice> device = createReady();
-    EXPECT_EQ(device->privateInterface(), nullptr);
-    EXPECT_EQ(device->lastStatus(), 1);
-    EXPECT_FALSE(device->resumeDevice());
-    EXPECT_FALSE(create()->openDevice(1));
-}
-
 using Faults = Order;
 
 TEST_F(Faults, EveryOperationFailsOnOrderAndOnlyThen) {

@@ -60,7 +60,7 @@ protected:
 
 private:
     static void clearEnvironment() {
-        for (const char* name : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_PLATFORM", "KXSIM_FAULTS"})
+        for (const char* name : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_PLATFORM", "KXSIM_FAULTS", "KXSIM_FLASH"})
             qunsetenv(name);
     }
 };

@@ -1,0 +1,78 @@
+#include "simulator/kxapi/FlashMemory.h"
+
+#include "simulator/kxapi/ParameterBlock.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kxsim {
+namespace {
+
+constexpr std::size_t kStepBytes = 64;
+static_assert(kBlockBytes % kStepBytes == 0);
+
+}  // namespace
+
+FlashResult FlashMemory::open(const KXCalibRectParameters& factory, KXCalibRectParameters* out) {
+    if (FlashResult made = cells_.createOnce(newImage(serial_, factory)); !made.ok()) return made;
+    return load(out);
+}
+
+FlashResult FlashMemory::find(ValidBank* out, FlashBytes* image) const {
+    if (FlashResult result = cells_.read(image); !result.ok()) return result;
+    FlashResult result = findValidBank(*image, serial_, out);
+    if (!result.ok()) result.why = cells_.name() + ": " + result.why;
+    return result;
+}
+
+FlashResult FlashMemory::read(KXCalibRectParameters* out) const {
+    ValidBank valid;
+    FlashBytes image;
+    FlashResult result = find(&valid, &image);
+    if (result.ok()) *out = valid.block;
+    return result;
+}
+
+FlashResult FlashMemory::load(KXCalibRectParameters* out) const {
+    KXCalibRectParameters block;
+    if (FlashResult result = read(&block); !result.ok()) return result;
+    std::string why;
+    if (!makesSense(block, &why)) return {KX_STATUS_NOT_CALIBRATED, cells_.name() + ": " + why};
+    *out = block;
+    return {};
+}
+
+FlashResult FlashMemory::write(const KXCalibRectParameters& block) {
+    written_.reset();
+    ValidBank valid;
+    FlashBytes image;
+    if (FlashResult result = find(&valid, &image); !result.ok()) return result;
+    if (valid.sequence == kLastSequence) return {KX_STATUS_DEVICE_ERROR, cells_.name() + ": worn out"};
+    Written target{1 - valid.bank, valid.sequence + 1, block};
+    if (FlashResult result = step(bankOffset(target.bank), FlashBytes(kBankBytes, 0xFF)); !result.ok()) return result;
+    if (FlashResult result = programBlock(&target); !result.ok()) return result;
+    written_ = target;
+    return {};
+}
+
+FlashResult FlashMemory::programBlock(Written* target) {
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(&target->block);
+    const std::size_t start = bankOffset(target->bank) + kBankHeaderBytes;
+    for (std::size_t at = 0; at < kBlockBytes; at += kStepBytes) {
+        FlashResult result = step(start + at, FlashBytes(bytes + at, bytes + at + kStepBytes));
+        if (!result.ok()) return result;
+    }
+    return {};
+}
+
+FlashResult FlashMemory::commit() {
+    if (!written_) return {KX_STATUS_FAILED, {}};
+    const Written written = *std::exchange(written_, std::nullopt);
+    return step(bankOffset(written.bank), bankHeader(written.sequence, written.block));
+}
+
+FlashResult FlashMemory::step(std::size_t offset, FlashBytes bytes) {
+    return cells_.write(offset, bytes);
+}
+
+}  // namespace kxsim
