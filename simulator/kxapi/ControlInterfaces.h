@@ -22,7 +22,7 @@ public:
 
 private:
     bool accept(const char* operation, bool valid) {
-        return state_.enter(operation, Stage::ready) && (valid || state_.fail(KX_STATUS_FAILED));
+        return state_.perform(operation, Stage::ready, [&] { return valid || state_.fail(KX_STATUS_FAILED); });
     }
 
     ModuleState& state_;
@@ -33,9 +33,10 @@ public:
     explicit EmitterInterface(ModuleState* state) : state_(*state) {}
 
     bool setEmitter(bool on) override {
-        if (!state_.enter("setEmitter", Stage::ready)) return false;
-        on_ = on;
-        return true;
+        return state_.perform("setEmitter", Stage::ready, [&] {
+            on_ = on;
+            return true;
+        });
     }
     bool isOn() const { return on_; }
 

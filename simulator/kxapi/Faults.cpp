@@ -1,36 +1,16 @@
 #include "simulator/kxapi/Faults.h"
 
-#include <algorithm>
+#include "simulator/kxapi/Operations.h"
+
 #include <charconv>
-#include <iterator>
+#include <chrono>
 #include <sstream>
-#include <string_view>
+#include <thread>
 
 namespace kxsim {
 namespace {
 
-constexpr std::string_view kOperations[] = {
-    "openDevice", "initDevice", "firmwareVersionText", "softwareVersionText", "serialNumber", "hardwareControl",
-    "thirdCamera", "emitterControl", "setDepthStreamMode", "setDepthEnabled", "depthEnabled", "setLeftEnabled",
-    "leftEnabled", "setRightEnabled", "rightEnabled", "setStreamOption", "startCapture", "stopCapture", "grab",
-    "depthImage", "leftImage", "rightImage", "calibrationValid", "rectifiedLRIntrinsics", "zIntrinsics",
-    "rectParameters", "platformCamera", "privateInterface", "resumeDevice",
-    // hardware control
-    "setAutoExposure", "setGain", "setExposure", "setHardwareOption",
-    // third camera
-    "setThirdStreamMode", "setThirdEnabled", "thirdEnabled", "thirdImage", "rectifiedThirdIntrinsics",
-    "zToThirdExtrinsics",
-    // emitter
-    "setEmitter",
-    // platform camera
-    "setPlatformMode", "nonRectifiedIntrinsics", "rectifiedIntrinsics", "rectificationRotation",
-    "zToPlatformExtrinsics",
-    // rear camera
-    "openCamera", "setAutoFocus", "setFocus", "setupStream"};
-
-bool isOperation(const std::string& name) {
-    return std::find(std::begin(kOperations), std::end(kOperations), name) != std::end(kOperations);
-}
+constexpr const char* kFlash = "flash";
 
 /// The whole text as a number.
 template <typename Number>
@@ -48,19 +28,55 @@ std::vector<std::string> split(const std::string& text, char separator) {
     return out;
 }
 
+/// Null, or what is wrong with the text.
+const char* parseFlashFault(const std::string& text, Fault* out) {
+    const std::string cutAfter = "powercut+";
+    const bool cutLate = text.compare(0, cutAfter.size(), cutAfter) == 0;
+    if (text == "powercut" || cutLate) {
+        out->kind = FaultKind::powercut;
+        return !cutLate || take(text.substr(cutAfter.size()), &out->bytes) ? nullptr : "powercut+BYTES expected";
+    }
+    if (text == "corrupt") {
+        out->kind = FaultKind::corrupt;
+    } else if (text == "garble") {
+        out->kind = FaultKind::garble;
+    } else if (text == "die") {
+        out->kind = FaultKind::die;
+    } else {
+        return "powercut, powercut+BYTES, corrupt, garble or die expected";
+    }
+    return nullptr;
+}
+
+const char* parseCallFault(const std::string& text, OperationKind operation, Fault* out) {
+    if (text == "gone") {
+        out->kind = FaultKind::gone;
+    } else if (text == "hang") {
+        out->kind = FaultKind::hang;
+    } else if (text == "lie") {
+        out->kind = FaultKind::lie;
+        return operation == OperationKind::acts ? nullptr : "an operation that answers cannot lie";
+    } else if (!take(text, &out->status) || out->status < 0) {
+        return "the status must be a whole number, at least 0, or gone, hang or lie";
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 bool Faults::parseOrder(const std::string& text, Order* out, std::string* why) {
     const std::vector<std::string> parts = split(text, ':');
+    const bool complete = parts.size() == 3;
+    const std::optional<OperationKind> operation = complete ? operationKind(parts[0]) : std::nullopt;
     const char* wrong = nullptr;
-    if (parts.size() != 3) {
+    if (!complete) {
         wrong = "operation:call:status expected";
-    } else if (!isOperation(parts[0])) {
+    } else if (!operation && parts[0] != kFlash) {
         wrong = "no such operation";
     } else if (!take(parts[1], &out->callsLeft) || out->callsLeft == 0) {
         wrong = "calls are counted from 1";
-    } else if (!take(parts[2], &out->status) || out->status < 0) {
-        wrong = "the status must be a whole number, at least 0";
+    } else {
+        wrong = operation ? parseCallFault(parts[2], *operation, &out->fault) : parseFlashFault(parts[2], &out->fault);
     }
     if (wrong == nullptr) {
         out->operation = parts[0];
@@ -83,12 +99,17 @@ bool Faults::parse(const std::string& text, std::string* why) {
     return true;
 }
 
-std::optional<std::int32_t> Faults::strike(const char* operation) {
-    std::optional<std::int32_t> status;
+std::optional<Fault> Faults::strike(const char* operation) {
+    std::optional<Fault> fault;
     for (Order& order : orders_) {
-        if (order.callsLeft > 0 && order.operation == operation && --order.callsLeft == 0) status = order.status;
+        if (order.callsLeft > 0 && order.operation == operation && --order.callsLeft == 0) fault = order.fault;
     }
-    return status;
+    return fault;
+}
+
+void hang() {
+    for (;;)
+        std::this_thread::sleep_for(std::chrono::hours(1));
 }
 
 }  // namespace kxsim

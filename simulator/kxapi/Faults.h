@@ -7,25 +7,46 @@
 
 namespace kxsim {
 
-/// Failures on order: "op:call:status,…" makes the given call of an operation (counted from 1) fail with that library
-/// status. Operations are those of `KXAPI.h` and of the rear camera, by name. One that returns a pointer gives null.
+enum class FaultKind {
+    status,    ///< the call fails with a status of the library
+    gone,      ///< this call and all that follow fail with status 5
+    hang,      ///< the call does not return
+    lie,       ///< the call says that it succeeded and does nothing
+    powercut,  ///< the module loses power in the middle of a write step, and is gone
+    corrupt,   ///< one bit of a write step arrives wrong in the cells; the checksum shows it
+    garble,    ///< one bit of a write step is wrong before the checksum is taken; nothing shows it
+    die,       ///< the whole tablet loses power in the middle of a write step
+};
+
+struct Fault {
+    FaultKind kind = FaultKind::status;
+    std::int32_t status = 0;  ///< `status`
+    std::size_t bytes = 0;    ///< `powercut`: of the step, written before it
+};
+
+/// Failures on order: "op:call:kind,…" makes the given call of an operation (counted from 1) fail. Operations are those
+/// of `Operations.h`, with a status or one of `gone`, `hang` and, where nothing is answered, `lie`; and `flash`,
+/// counted by write steps, with `powercut`, `powercut+K`, `corrupt`, `garble` or `die`.
 class Faults {
 public:
     /// Replaces the orders. On a malformed text false, `why`, and no orders.
     bool parse(const std::string& text, std::string* why);
 
-    /// Counts a call; the status with which it must fail, if it must.
-    std::optional<std::int32_t> strike(const char* operation);
+    /// Counts a call (or a write step, "flash"); what must happen to it, if anything.
+    std::optional<Fault> strike(const char* operation);
 
 private:
     struct Order {
         std::string operation;
-        std::uint32_t callsLeft;
-        std::int32_t status;
+        std::uint32_t callsLeft = 0;
+        Fault fault;
     };
     static bool parseOrder(const std::string& text, Order* out, std::string* why);
 
     std::vector<Order> orders_;
 };
+
+/// Sleeps for ever.
+[[noreturn]] void hang();
 
 }  // namespace kxsim

@@ -3,12 +3,18 @@
 #include "simulator/kxapi/ParameterBlock.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace kxsim {
 namespace {
 
+constexpr const char* kFlash = "flash";
 constexpr std::size_t kStepBytes = 64;
+/// Set in the first letter of a bank's header, and in the low bits of a number that begins a step.
+constexpr std::uint8_t kWrongBit = 0x40;
+/// The exit code of a killed process.
+constexpr int kKilled = 137;
 static_assert(kBlockBytes % kStepBytes == 0);
 
 }  // namespace
@@ -49,17 +55,24 @@ FlashResult FlashMemory::write(const KXCalibRectParameters& block) {
     if (FlashResult result = find(&valid, &image); !result.ok()) return result;
     if (valid.sequence == kLastSequence) return {KX_STATUS_DEVICE_ERROR, cells_.name() + ": worn out"};
     Written target{1 - valid.bank, valid.sequence + 1, block};
-    if (FlashResult result = step(bankOffset(target.bank), FlashBytes(kBankBytes, 0xFF)); !result.ok()) return result;
+    if (FlashResult result = step(bankOffset(target.bank), FlashBytes(kBankBytes, 0xFF), faults_.strike(kFlash));
+        !result.ok())
+        return result;
     if (FlashResult result = programBlock(&target); !result.ok()) return result;
     written_ = target;
     return {};
 }
 
 FlashResult FlashMemory::programBlock(Written* target) {
-    const auto* bytes = reinterpret_cast<const std::uint8_t*>(&target->block);
+    auto* bytes = reinterpret_cast<std::uint8_t*>(&target->block);
     const std::size_t start = bankOffset(target->bank) + kBankHeaderBytes;
     for (std::size_t at = 0; at < kBlockBytes; at += kStepBytes) {
-        FlashResult result = step(start + at, FlashBytes(bytes + at, bytes + at + kStepBytes));
+        std::optional<Fault> fault = faults_.strike(kFlash);
+        if (fault && fault->kind == FaultKind::garble) {
+            bytes[at] ^= kWrongBit;
+            fault.reset();
+        }
+        FlashResult result = program(start + at, FlashBytes(bytes + at, bytes + at + kStepBytes), fault);
         if (!result.ok()) return result;
     }
     return {};
@@ -68,11 +81,30 @@ FlashResult FlashMemory::programBlock(Written* target) {
 FlashResult FlashMemory::commit() {
     if (!written_) return {KX_STATUS_FAILED, {}};
     const Written written = *std::exchange(written_, std::nullopt);
-    return step(bankOffset(written.bank), bankHeader(written.sequence, written.block));
+    return program(bankOffset(written.bank), bankHeader(written.sequence, written.block), faults_.strike(kFlash));
 }
 
-FlashResult FlashMemory::step(std::size_t offset, FlashBytes bytes) {
-    return cells_.write(offset, bytes);
+FlashResult FlashMemory::program(std::size_t offset, FlashBytes bytes, const std::optional<Fault>& fault) {
+    FlashBytes cells;
+    if (FlashResult result = cells_.read(&cells); !result.ok()) return result;
+    cells.resize(kImageBytes);
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] &= cells[offset + i];
+    return step(offset, std::move(bytes), fault);
+}
+
+FlashResult FlashMemory::step(std::size_t offset, FlashBytes bytes, const std::optional<Fault>& fault) {
+    if (!fault) return cells_.write(offset, bytes);
+    const bool dies = fault->kind == FaultKind::die;
+    const bool cut = fault->kind == FaultKind::powercut;
+    if (dies || cut) {
+        bytes.resize(std::min(dies ? bytes.size() / 2 : fault->bytes, bytes.size()));
+    } else {
+        bytes[0] ^= kWrongBit;
+    }
+    FlashResult result = cells_.write(offset, bytes);
+    if (dies) std::_Exit(kKilled);
+    return cut && result.ok() ? FlashResult{KX_STATUS_NO_DEVICE, {}} : result;
 }
 
 }  // namespace kxsim

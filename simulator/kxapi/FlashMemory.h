@@ -37,7 +37,8 @@ private:
     };
     FlashResult find(ValidBank* out, FlashBytes* image) const;
     FlashResult programBlock(Written* target);
-    FlashResult step(std::size_t offset, FlashBytes bytes);
+    FlashResult program(std::size_t offset, FlashBytes bytes, const std::optional<Fault>& fault);
+    FlashResult step(std::size_t offset, FlashBytes bytes, const std::optional<Fault>& fault);
 
     FlashCells cells_;
     std::uint32_t serial_;

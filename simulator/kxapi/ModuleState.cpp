@@ -11,6 +11,7 @@ bool ModuleState::fail(std::int32_t status) {
 
 bool ModuleState::succeeds(const FlashResult& result) {
     if (!result.why.empty()) report(result.why);
+    gone_ = gone_ || result.status == KX_STATUS_NO_DEVICE;
     return result.ok() || fail(result.status);
 }
 
@@ -22,13 +23,21 @@ bool ModuleState::loadCalibration() {
     return true;
 }
 
-bool ModuleState::enter(const char* operation, Stage atLeast) {
-    if (const std::optional<std::int32_t> status = settings.faults.strike(operation)) return fail(*status);
-    return stage >= atLeast || fail(KX_STATUS_FAILED);
-}
-
-bool ModuleState::enterAtRest(const char* operation) {
-    return enter(operation, Stage::ready) && (stage != Stage::capturing || fail(KX_STATUS_FAILED));
+Gate ModuleState::pass(const char* operation, Stage atLeast) {
+    const std::optional<Fault> fault = settings.faults.strike(operation);
+    if (fault && fault->kind == FaultKind::hang) hang();
+    gone_ = gone_ || (fault && fault->kind == FaultKind::gone);
+    bool open = false;
+    if (gone_) {
+        fail(KX_STATUS_NO_DEVICE);
+    } else if (fault && fault->kind == FaultKind::lie) {
+        return Gate::lie;
+    } else if (fault) {
+        fail(fault->status);
+    } else {
+        open = stage >= atLeast || fail(KX_STATUS_FAILED);
+    }
+    return open ? Gate::open : Gate::refused;
 }
 
 bool ModuleState::enterCalibration(const char* operation) {

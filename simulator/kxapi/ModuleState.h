@@ -10,6 +10,9 @@ namespace kxsim {
 /// What a device has been through; each stage allows what the ones before it do.
 enum class Stage { closed, opened, ready, capturing };
 
+/// What becomes of a call: it fails (the status is noted), is done, or only pretends to be.
+enum class Gate { refused, open, lie };
+
 /// The state that the device and its interfaces share, and the gate through which every call passes.
 struct ModuleState {
     Settings settings;
@@ -36,15 +39,30 @@ struct ModuleState {
     /// Takes up the block that is to be used from now on.
     bool loadCalibration();
     /// Counts the call. False with a status when a fault hits it or the device is not that far.
-    bool enter(const char* operation, Stage atLeast);
+    bool enter(const char* operation, Stage atLeast) { return pass(operation, atLeast) == Gate::open; }
+    /// The same, and does what the operation does; not when it is ordered to lie.
+    template <typename Action>
+    bool perform(const char* operation, Stage atLeast, Action action) {
+        const Gate gate = pass(operation, atLeast);
+        return gate == Gate::lie || (gate == Gate::open && action());
+    }
     /// For operations that need the capture to rest: ready, but not capturing.
-    bool enterAtRest(const char* operation);
+    template <typename Action>
+    bool performAtRest(const char* operation, Action action) {
+        return perform(operation, Stage::ready, [&] { return rests() && action(); });
+    }
     /// For what comes from the calibration: status 4 when it is invalid.
     bool enterCalibration(const char* operation);
 
     const fieldcal::session::SessionDescription& description() const { return player->description(); }
     /// The current frame, null while nothing was grabbed.
     const fieldcal::session::FramePictures* frame() const { return player ? player->current() : nullptr; }
+
+private:
+    Gate pass(const char* operation, Stage atLeast);
+    bool rests() { return stage != Stage::capturing || fail(KX_STATUS_FAILED); }
+
+    bool gone_ = false;  ///< unplugged or without power
 };
 
 }  // namespace kxsim

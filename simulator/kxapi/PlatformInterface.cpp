@@ -9,12 +9,13 @@ using fieldcal::session::kPlatformHeight;
 using fieldcal::session::kPlatformWidth;
 
 bool PlatformInterface::setPlatformMode(std::int32_t rectified, std::int32_t width, std::int32_t height) {
-    if (!state_.enter("setPlatformMode", Stage::ready)) return false;
-    if ((rectified != 0 && rectified != 1) || width != kPlatformWidth || height != kPlatformHeight) {
-        return state_.fail(KX_STATUS_FAILED);
-    }
-    mode_ = rectified;
-    return true;
+    return state_.perform("setPlatformMode", Stage::ready, [&] {
+        if ((rectified != 0 && rectified != 1) || width != kPlatformWidth || height != kPlatformHeight) {
+            return state_.fail(KX_STATUS_FAILED);
+        }
+        mode_ = rectified;
+        return true;
+    });
 }
 
 bool PlatformInterface::enterInMode(const char* operation, std::int32_t mode) {

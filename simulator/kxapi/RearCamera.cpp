@@ -34,6 +34,7 @@ bool RearCamera::plugIn() {
     const std::lock_guard<std::mutex> lock(mutex_);
     name_ = nameIn(settings.session);
     faults_ = std::move(settings.faults);
+    gone_ = false;
     opened_ = false;
     streaming_ = false;
     return !settings.session.empty() || !settings.platformAbsent;
@@ -44,38 +45,48 @@ const char* RearCamera::friendlyName() {
     return name_.c_str();
 }
 
-bool RearCamera::succeeds(const char* operation, bool valid) {
-    return !faults_.strike(operation) && valid;
+std::optional<Fault> RearCamera::strike(const char* operation) {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    std::optional<Fault> fault = faults_.strike(operation);
+    gone_ = gone_ || (fault && fault->kind == FaultKind::gone);
+    return fault;
+}
+
+/// Done under the lock; but a call that hangs must not hold it, or the module would hang with it.
+template <typename Action>
+bool RearCamera::perform(const char* operation, Action action) {
+    const std::optional<Fault> fault = strike(operation);
+    if (fault && fault->kind == FaultKind::hang) hang();
+    const std::lock_guard<std::mutex> lock(mutex_);
+    if (fault || gone_) return !gone_ && fault->kind == FaultKind::lie;
+    return action();
 }
 
 bool RearCamera::openCamera() {
-    const std::lock_guard<std::mutex> lock(mutex_);
-    opened_ = succeeds("openCamera", true);
-    return opened_;
+    return perform("openCamera", [this] { return opened_ = true; });
 }
 
 bool RearCamera::setAutoFocus(bool) {
-    const std::lock_guard<std::mutex> lock(mutex_);
-    return succeeds("setAutoFocus", opened_);
+    return perform("setAutoFocus", [this] { return opened_; });
 }
 
 bool RearCamera::setFocus(std::int32_t value) {
-    const std::lock_guard<std::mutex> lock(mutex_);
-    return succeeds("setFocus", opened_ && value >= 0);
+    return perform("setFocus", [&] { return opened_ && value >= 0; });
 }
 
 bool RearCamera::setupStream(std::int32_t stream, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond,
                              const char* subtype) {
-    const std::lock_guard<std::mutex> lock(mutex_);
     const bool record = stream == kRecordStream;
     const bool sizeFits = record ? width == kPlatformWidth && height == kPlatformHeight : width > 0 && height > 0;
     // A photo stream has no rate.
     const bool rateFits = framesPerSecond > 0 || stream == kPhotoStream;
-    const bool valid = opened_ && stream >= 0 && stream <= kPhotoStream && sizeFits && rateFits && subtype != nullptr &&
+    const bool valid = stream >= 0 && stream <= kPhotoStream && sizeFits && rateFits && subtype != nullptr &&
                        std::strcmp(subtype, "NV12") == 0;
-    if (!succeeds("setupStream", valid)) return false;
-    streaming_ = streaming_ || record;
-    return true;
+    return perform("setupStream", [&] {
+        if (!opened_ || !valid) return false;
+        streaming_ = streaming_ || record;
+        return true;
+    });
 }
 
 void RearCamera::setSink(RearCameraSink* sink) {

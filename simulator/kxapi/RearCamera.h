@@ -31,11 +31,14 @@ public:
     void show(const std::uint8_t* nv12, double timeSeconds);
 
 private:
-    bool succeeds(const char* operation, bool valid);
+    template <typename Action>
+    bool perform(const char* operation, Action action);
+    std::optional<Fault> strike(const char* operation);
 
     std::mutex mutex_;
     std::string name_;
     Faults faults_;
+    bool gone_ = false;
     bool opened_ = false;
     bool streaming_ = false;
     RearCameraSink* sink_ = nullptr;

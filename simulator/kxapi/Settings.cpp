@@ -2,7 +2,10 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <cstdio>
+#include <mutex>
+#include <set>
 
 namespace kxsim {
 namespace {
@@ -40,7 +43,17 @@ Settings readSettings() {
 }
 
 void report(const std::string& line) {
-    std::fprintf(stderr, "KXAPI: %s\n", line.c_str());
+    std::string printable = line;
+    std::replace_if(
+        printable.begin(), printable.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, '?');
+    std::fprintf(stderr, "KXAPI: %s\n", printable.c_str());
+}
+
+void reportOnce(const std::string& line) {
+    static std::mutex mutex;
+    static std::set<std::string> reported;
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (reported.insert(line).second) report(line);
 }
 
 }  // namespace kxsim

@@ -18,7 +18,9 @@ struct Settings {
 
 Settings readSettings();
 
-/// One line on standard error.
+/// One line on standard error, whatever the text holds. Any thread.
 void report(const std::string& line);
+/// The same, unless this process has reported that text before.
+void reportOnce(const std::string& line);
 
 }  // namespace kxsim

@@ -21,13 +21,14 @@ SimulatedDevice::SimulatedDevice(Settings settings)
 bool SimulatedDevice::openDevice(std::int32_t index) {
     const Settings& settings = state_.settings;
     if (!settings.problem.empty()) {
-        report(settings.problem);
+        reportOnce(settings.problem);
         return state_.fail(KX_STATUS_FAILED);
     }
-    if (!state_.enter("openDevice", Stage::closed)) return false;
-    if (state_.stage != Stage::closed) return state_.fail(KX_STATUS_FAILED);
-    if (settings.session.empty() || index < -1 || index > 0) return state_.fail(KX_STATUS_NO_DEVICE);
-    return plugIn();
+    return state_.perform("openDevice", Stage::closed, [&] {
+        if (state_.stage != Stage::closed) return state_.fail(KX_STATUS_FAILED);
+        if (settings.session.empty() || index < -1 || index > 0) return state_.fail(KX_STATUS_NO_DEVICE);
+        return plugIn();
+    });
 }
 
 /// The module's parts: its recording and its flash.
@@ -51,10 +52,11 @@ bool SimulatedDevice::plugIn() {
 }
 
 bool SimulatedDevice::initDevice() {
-    if (!state_.enter("initDevice", Stage::opened)) return false;
-    if (state_.stage != Stage::opened) return state_.fail(KX_STATUS_FAILED);
-    state_.stage = Stage::ready;
-    return true;
+    return state_.perform("initDevice", Stage::opened, [&] {
+        if (state_.stage != Stage::opened) return state_.fail(KX_STATUS_FAILED);
+        state_.stage = Stage::ready;
+        return true;
+    });
 }
 
 const char* SimulatedDevice::firmwareVersionText() {
@@ -85,16 +87,18 @@ KXEmitterControl* SimulatedDevice::emitterControl() {
 
 bool SimulatedDevice::setDepthStreamMode(bool rectified, std::int32_t width, std::int32_t height,
                                          std::int32_t framesPerSecond, std::int32_t pixelFormat) {
-    if (!state_.enterAtRest("setDepthStreamMode")) return false;
-    state_.depthModeSet =
-        rectified && width > 0 && height > 0 && framesPerSecond > 0 && pixelFormat == KX_PIXEL_FORMAT_16_BIT;
-    return state_.depthModeSet || state_.fail(KX_STATUS_FAILED);
+    return state_.performAtRest("setDepthStreamMode", [&] {
+        state_.depthModeSet =
+            rectified && width > 0 && height > 0 && framesPerSecond > 0 && pixelFormat == KX_PIXEL_FORMAT_16_BIT;
+        return state_.depthModeSet || state_.fail(KX_STATUS_FAILED);
+    });
 }
 
 bool SimulatedDevice::setEnabled(const char* operation, bool* stream, bool on) {
-    if (!state_.enterAtRest(operation)) return false;
-    *stream = on;
-    return true;
+    return state_.performAtRest(operation, [&] {
+        *stream = on;
+        return true;
+    });
 }
 
 bool SimulatedDevice::setDepthEnabled(bool on) {
@@ -122,11 +126,11 @@ bool SimulatedDevice::rightEnabled() {
 }
 
 bool SimulatedDevice::setStreamOption(bool) {
-    return state_.enterAtRest("setStreamOption");
+    return state_.performAtRest("setStreamOption", [] { return true; });
 }
 
 bool SimulatedDevice::startCapture() {
-    return state_.enterAtRest("startCapture") && beginCapture();
+    return state_.performAtRest("startCapture", [this] { return beginCapture(); });
 }
 
 bool SimulatedDevice::beginCapture() {
@@ -140,14 +144,18 @@ bool SimulatedDevice::beginCapture() {
 }
 
 bool SimulatedDevice::stopCapture() {
-    if (!state_.enter("stopCapture", Stage::capturing)) return false;
-    state_.stage = Stage::ready;
-    state_.resting = true;
-    return true;
+    return state_.perform("stopCapture", Stage::capturing, [this] {
+        state_.stage = Stage::ready;
+        state_.resting = true;
+        return true;
+    });
 }
 
 bool SimulatedDevice::grab(bool wait) {
-    if (!state_.enter("grab", Stage::capturing)) return false;
+    return state_.perform("grab", Stage::capturing, [&] { return nextFrame(wait); });
+}
+
+bool SimulatedDevice::nextFrame(bool wait) {
     if (!pace_.frameDue(wait)) return true;
     std::string why;
     if (!state_.player->advance(&why)) {
@@ -185,19 +193,19 @@ const std::uint16_t* SimulatedDevice::rightImage() {
 }
 
 std::int32_t SimulatedDevice::depthWidth() {
-    return state_.player ? state_.description().depth.width : 0;
+    return state_.enter("depthWidth", Stage::opened) ? state_.description().depth.width : 0;
 }
 
 std::int32_t SimulatedDevice::depthHeight() {
-    return state_.player ? state_.description().depth.height : 0;
+    return state_.enter("depthHeight", Stage::opened) ? state_.description().depth.height : 0;
 }
 
 std::int32_t SimulatedDevice::lrWidth() {
-    return state_.player ? state_.description().infrared.width : 0;
+    return state_.enter("lrWidth", Stage::opened) ? state_.description().infrared.width : 0;
 }
 
 std::int32_t SimulatedDevice::lrHeight() {
-    return state_.player ? state_.description().infrared.height : 0;
+    return state_.enter("lrHeight", Stage::opened) ? state_.description().infrared.height : 0;
 }
 
 std::int32_t SimulatedDevice::lastStatus() {
@@ -233,8 +241,9 @@ KXPrivate* SimulatedDevice::privateInterface() {
 }
 
 bool SimulatedDevice::resumeDevice() {
-    if (!state_.enterAtRest("resumeDevice")) return false;
-    return state_.resting ? state_.loadCalibration() && beginCapture() : state_.fail(KX_STATUS_FAILED);
+    return state_.performAtRest("resumeDevice", [this] {
+        return state_.resting ? state_.loadCalibration() && beginCapture() : state_.fail(KX_STATUS_FAILED);
+    });
 }
 
 }  // namespace kxsim

@@ -54,6 +54,7 @@ public:
 private:
     bool plugIn();
     bool beginCapture();
+    bool nextFrame(bool wait);
     bool setEnabled(const char* operation, bool* stream, bool on);
     const std::uint16_t* infraredImage(const char* operation, bool enabled);
     void showToRearCamera() const;

@@ -7,16 +7,18 @@ namespace kxsim {
 
 bool ThirdInterface::setThirdStreamMode(bool rectified, std::int32_t width, std::int32_t height,
                                         std::int32_t framesPerSecond, std::int32_t pixelFormat) {
-    if (!state_.enterAtRest("setThirdStreamMode")) return false;
-    state_.thirdModeSet =
-        rectified && width > 0 && height > 0 && framesPerSecond > 0 && pixelFormat == KX_PIXEL_FORMAT_BGRA8;
-    return state_.thirdModeSet || state_.fail(KX_STATUS_FAILED);
+    return state_.performAtRest("setThirdStreamMode", [&] {
+        state_.thirdModeSet =
+            rectified && width > 0 && height > 0 && framesPerSecond > 0 && pixelFormat == KX_PIXEL_FORMAT_BGRA8;
+        return state_.thirdModeSet || state_.fail(KX_STATUS_FAILED);
+    });
 }
 
 bool ThirdInterface::setThirdEnabled(bool on) {
-    if (!state_.enterAtRest("setThirdEnabled")) return false;
-    state_.thirdEnabled = on;
-    return true;
+    return state_.performAtRest("setThirdEnabled", [&] {
+        state_.thirdEnabled = on;
+        return true;
+    });
 }
 
 bool ThirdInterface::thirdEnabled() {
@@ -29,11 +31,11 @@ const std::uint8_t* ThirdInterface::thirdImage() {
 }
 
 std::int32_t ThirdInterface::thirdWidth() {
-    return state_.description().third.width;
+    return state_.enter("thirdWidth", Stage::opened) ? state_.description().third.width : 0;
 }
 
 std::int32_t ThirdInterface::thirdHeight() {
-    return state_.description().third.height;
+    return state_.enter("thirdHeight", Stage::opened) ? state_.description().third.height : 0;
 }
 
 bool ThirdInterface::rectifiedThirdIntrinsics(KXCalibIntrinsicsRectified* out) {
