@@ -1,6 +1,7 @@
 #include "session/Description.h"
 
 #include "session/InputFile.h"
+#include "session/JsonOutline.h"
 #include "session/JsonReader.h"
 #include "session/Refusal.h"
 
@@ -160,10 +161,11 @@ bool parseDescription(const QByteArray& bytes, const std::string& file, SessionD
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError) {
-        return refuse(why, file, {},
+        return refuse(why, file, jsonKeyAt(bytes, error.offset),
                       "not JSON: " + error.errorString().toStdString() + " at byte " + std::to_string(error.offset));
     }
     if (!document.isObject()) return refuse(why, file, {}, "an object expected");
+    if (const auto key = repeatedJsonKey(bytes)) return refuse(why, file, *key, "the key stands twice");
     JsonFault fault;
     *out = sessionDescription(JsonKey(document.object(), &fault));
     return !fault.found() || refuse(why, file, fault.key, fault.reason);
