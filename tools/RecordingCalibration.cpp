@@ -39,9 +39,9 @@ bool RecordingCalibration::run(QString* why) {
         Sensor sensor;
         if (open(sensor, why)) {
             CalibrationAttempt attempt(engine_, *this, light_, sensor.settings().attemptLimit);
-            attempt.start(platformCamera_);
-            played = play(sensor, attempt);
-            finish(attempt.state() == State::FoundGoodSolution);
+            bool solved = false;
+            played = play(sensor, attempt, &solved);
+            finish(solved);
         }
     }
     report_.totalSeconds = watch.lap();
@@ -73,17 +73,23 @@ bool RecordingCalibration::open(Sensor& sensor, QString* why) {
 }
 
 /// False when the sensor fails before the recording ends.
-bool RecordingCalibration::play(Sensor& sensor, CalibrationAttempt& attempt) {
+bool RecordingCalibration::play(Sensor& sensor, CalibrationAttempt& attempt, bool* solved) {
     const int grabs = session_.grabCount();
     vq::Stopwatch frameWatch;
-    while (report_.framesUsed < grabs && attempt.state() != State::FoundGoodSolution) {
-        if (attempt.state() == State::WaitingToCalibrate) attempt.start(platformCamera_);
+    attempt.start(platformCamera_);
+    while (report_.framesUsed < grabs && !*solved) {
         const std::size_t pairsBefore = report_.pairs.size();
         frameWatch.lap();
         if (!sensor.grab(true) || !deviceError_.isEmpty()) return false;
         ++report_.framesUsed;
-        attempt.processFrame(sensor.frames().leftInfrared, colourOf(sensor.frames(), platformCamera_));
+        const auto outcome =
+            attempt.processFrame(sensor.frames().leftInfrared, colourOf(sensor.frames(), platformCamera_));
         report_.frameSeconds += frameWatch.lap();
+        *solved = outcome == CalibrationAttempt::Outcome::Solved;
+        if (outcome == CalibrationAttempt::Outcome::Failed) {
+            attempt.fail();
+            attempt.start(platformCamera_);
+        }
         if (report_.pairs.size() > pairsBefore) report_.frameSeconds -= report_.pairs.back().seconds;
     }
     return true;

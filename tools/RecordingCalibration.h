@@ -29,7 +29,7 @@ public:
 
 private:
     bool open(Sensor& sensor, QString* why);
-    bool play(Sensor& sensor, CalibrationAttempt& attempt);
+    bool play(Sensor& sensor, CalibrationAttempt& attempt, bool* solved);
     void finish(bool solved);
     void pairProcessed(const vq::CalibratorResult& result) override;
     void pairCaptured() override;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "engine/CalibratorResult.h"
-#include "workflow/State.h"
 
 #include <string>
 
@@ -13,7 +12,6 @@ class AttemptListener {
 public:
     virtual ~AttemptListener() = default;
 
-    virtual void stateChanged(State) {}
     /// The instruction of the moment; an empty text hides the line.
     virtual void movementText(const std::string&) {}
     /// Shown where an attempt is started: why the last one failed.

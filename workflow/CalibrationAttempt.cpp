@@ -20,15 +20,16 @@ CalibrationAttempt::CalibrationAttempt(vq::ICalibrator& calibrator, AttemptListe
     : calibrator_(calibrator), listener_(listener), light_(light), pairLimit_(pairLimit) {}
 
 void CalibrationAttempt::start(bool secondCamera) {
+    calibrator_.resetState();
     calibrator_.setCameraParameters(secondCamera);
     calibrator_.setup();
     photoCount_ = 0;
-    enter(State::ProcessingFrame);
+    running_ = true;
     listener_.calibrationProgress(0.0);
 }
 
-State CalibrationAttempt::processFrame(const ImageFrame16& infrared, const ImageFrame32& colour) {
-    if (state_ != State::ProcessingFrame || infrared.empty() || colour.empty()) return state_;
+CalibrationAttempt::Outcome CalibrationAttempt::processFrame(const ImageFrame16& infrared, const ImageFrame32& colour) {
+    if (!running_ || infrared.empty() || colour.empty()) return Outcome::Continues;
     qInfo("Checking the lighting condition...");
     std::uint16_t brightness = 0;
     calibrator_.measureInfraredBrightness(infrared, &brightness);
@@ -36,7 +37,7 @@ State CalibrationAttempt::processFrame(const ImageFrame16& infrared, const Image
     listener_.returnToWellLitArea(!lit);
     if (!lit) {
         listener_.movementText("");
-        return state_;
+        return Outcome::Continues;
     }
     switch (calibrator_.inputFramesAndCheckMovement(infrared, colour).code) {
         case vq::RotateDevice:
@@ -46,49 +47,43 @@ State CalibrationAttempt::processFrame(const ImageFrame16& infrared, const Image
             listener_.movementText("Pause to capture a calibration photo.");
             break;
         case vq::ProcessImagePair:
-            addPair();
-            break;
+            return addPair();
         default:
             break;
     }
-    return state_;
+    return Outcome::Continues;
 }
 
-void CalibrationAttempt::addPair() {
+CalibrationAttempt::Outcome CalibrationAttempt::addPair() {
     qInfo("Adding new infrared color pair...");
     listener_.pairCaptured();
     const vq::CalibratorResult result = calibrator_.inputImageAndTryCalibration();
     ++photoCount_;
     listener_.calibrationProgress(progressAfterPairs(photoCount_));
     listener_.pairProcessed(result);
-    act(result);
+    const Outcome outcome = judge(result);
+    running_ = outcome == Outcome::Continues;
+    return outcome;
 }
 
 /// A solution counts even when the last permitted pair brought it.
-void CalibrationAttempt::act(const vq::CalibratorResult& result) {
+CalibrationAttempt::Outcome CalibrationAttempt::judge(const vq::CalibratorResult& result) const {
     if (result.code == vq::GoodSolution) {
         qInfo("Found a good solution!");
-        enter(State::FoundGoodSolution);
-        return;
+        return Outcome::Solved;
     }
     if (result.code == vq::NeedMoreImages) qInfo("Could not get a sample set from this image..");
     if (result.code == vq::AddingFramesForConvergence) qInfo("Continue processing");
-    if (result.code == vq::SceneTooSimple || photoCount_ >= pairLimit_) fail();
+    const bool failed = result.code == vq::SceneTooSimple || photoCount_ >= pairLimit_;
+    return failed ? Outcome::Failed : Outcome::Continues;
 }
 
 void CalibrationAttempt::fail() {
     photoCount_ = 0;
-    state_ = State::WaitingToCalibrate;
     calibrator_.resetState();
     listener_.startText(kTooSimpleText);
     listener_.movementText("");
     listener_.offerHowToMove();
-    listener_.stateChanged(state_);
-}
-
-void CalibrationAttempt::enter(State state) {
-    state_ = state;
-    listener_.stateChanged(state);
 }
 
 }  // namespace fieldcal

@@ -4,7 +4,6 @@
 #include "engine/ICalibrator.h"
 #include "workflow/AttemptListener.h"
 #include "workflow/LightGate.h"
-#include "workflow/State.h"
 
 #include <cstdint>
 
@@ -18,30 +17,33 @@ public:
     CalibrationAttempt(vq::ICalibrator& calibrator, AttemptListener& listener, const LightGate& light,
                        std::int32_t pairLimit);
 
-    /// Starts from the factory rotation of the chosen camera. The state is `ProcessingFrame` afterwards.
+    /// Forgets what was collected before, of whichever camera, and starts from the factory rotation of the chosen one.
     void start(bool secondCamera);
 
+    enum class Outcome {
+        Continues,
+        Solved,
+        Failed  ///< the scenery is too simple, or the limit is reached; `fail` follows
+    };
     /// Takes one frame set, which must be fresh: it may have been grabbed only once and must not be empty (empty ones
-    /// are ignored). Gives the state afterwards: `ProcessingFrame`, `FoundGoodSolution`, or `WaitingToCalibrate` when
-    /// the attempt has failed. Nothing happens in any other state.
-    State processFrame(const ImageFrame16& infrared, const ImageFrame32& colour);
+    /// are ignored). After another outcome than `Continues` nothing happens until an attempt is started.
+    Outcome processFrame(const ImageFrame16& infrared, const ImageFrame32& colour);
+    /// Ends a failed attempt: resets the engine and tells the user what to try.
+    void fail();
 
-    State state() const { return state_; }
     /// Pairs added in this attempt.
     std::int32_t photoCount() const { return photoCount_; }
 
 private:
-    void addPair();
-    void act(const vq::CalibratorResult& result);
-    void fail();
-    void enter(State state);
+    Outcome addPair();
+    Outcome judge(const vq::CalibratorResult& result) const;
 
     vq::ICalibrator& calibrator_;
     AttemptListener& listener_;
     const LightGate& light_;
     const std::int32_t pairLimit_;
-    State state_ = State::WaitingToCalibrate;
     std::int32_t photoCount_ = 0;
+    bool running_ = false;
 };
 
 /// The progress shown after the given number of pairs: a fifth for each of the first four, 0.9 from the fifth on.

@@ -1,0 +1,35 @@
+#include "workflow/ProcessingThread.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <random>
+
+namespace fieldcal {
+namespace {
+
+constexpr std::chrono::milliseconds kPause{5};
+
+}  // namespace
+
+ProcessingThread::ProcessingThread(Workflow& workflow)
+    : workflow_(workflow), thread_(run, std::ref(workflow), QThread::currentThread()) {}
+
+ProcessingThread::~ProcessingThread() {
+    stop();
+}
+
+void ProcessingThread::stop() {
+    workflow_.requestStop();
+    if (thread_.joinable()) thread_.join();
+}
+
+void ProcessingThread::run(Workflow& workflow, QThread* heir) {
+    // The C library's generator belongs to the thread that draws, on some systems.
+    std::srand(std::random_device{}());
+    while (!workflow.stopRequested()) {
+        if (!workflow.pass()) std::this_thread::sleep_for(kPause);
+    }
+    workflow.handOver(heir);
+}
+
+}  // namespace fieldcal

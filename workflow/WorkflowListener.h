@@ -1,0 +1,38 @@
+#pragma once
+
+#include "camera/CameraParameters.h"
+#include "devices/FrameAcquisition.h"
+#include "workflow/AttemptListener.h"
+#include "workflow/CalibrationRecords.h"
+#include "workflow/LightGate.h"
+#include "workflow/SaveNote.h"
+#include "workflow/State.h"
+
+#include <QString>
+
+namespace fieldcal {
+
+/// What the workflow tells whoever shows it. Called on the thread that runs the workflow, without any of its locks.
+class WorkflowListener : public AttemptListener {
+public:
+    /// The loop's own transitions; those that the user asked for are not echoed.
+    virtual void stateChanged(State) {}
+    /// A new frame set for the views of the state. Valid during the call.
+    virtual void framesReady(State, ColourCamera, const FrameRecords&) {}
+    /// While the user looks for light.
+    virtual void lightMeasured(const LightGate::Reading&) {}
+    /// A rotation was found: what the overlay needs to show it.
+    virtual void solutionFound(ColourCamera, const CameraParameters& /*factory*/, const Rotation& /*estimated*/) {}
+    /// The module has no platform camera that could be calibrated.
+    virtual void singleCameraOnly() {}
+    /// The last calibration was accepted, but not stored. Told once, when the camera has been opened.
+    virtual void lastSaveFailed(const SaveNote&) {}
+
+    /// Faults. After the first one nothing more happens.
+    virtual void deviceError(const QString& /*text*/) {}
+    virtual void missingModule() {}
+    virtual void missingPlatformCamera() {}
+    virtual void platformCameraIssue() {}
+};
+
+}  // namespace fieldcal

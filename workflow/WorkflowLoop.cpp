@@ -1,0 +1,201 @@
+// The loop's side of `Workflow`.
+#include "devices/CameraParameterReader.h"
+#include "engine/Rotation.h"
+#include "engine/TextForms.h"
+#include "workflow/Workflow.h"
+
+#include <QThread>
+
+#include <algorithm>
+#include <cmath>
+
+namespace fieldcal {
+namespace {
+
+constexpr double kDegreesPerRadian = 180 / 3.14159265359;
+
+using Matrix34 = Eigen::Matrix<double, 3, 4>;
+
+Matrix34 poseOf(const Rotation& rotation, const std::array<float, 3>& translation) {
+    Matrix34 pose;
+    pose.leftCols<3>() = Eigen::Map<const Eigen::Matrix<float, 3, 3, Eigen::RowMajor>>(rotation.data()).cast<double>();
+    pose.col(3) = Eigen::Map<const Eigen::Vector3f>(translation.data()).cast<double>();
+    return pose;
+}
+
+void logSolution(const CameraExtrinsics& factory, const Rotation& estimated, const std::array<float, 3>& translation) {
+    const Matrix34 before = poseOf(factory.rotation, factory.translation);
+    const Matrix34 after = poseOf(estimated, translation);
+    const Eigen::Vector3d angles = vq::anglesFromRotation(after.leftCols<3>()) * kDegreesPerRadian;
+    const Matrix34 change = (after - before).cwiseAbs();
+    qInfo("Default extrinsics:\n%s", vq::matrixText(before).c_str());
+    qInfo("Estimated extrinsics:\n%s", vq::matrixText(after).c_str());
+    qInfo("Estimated angles:\n%f %f %f", angles[0], angles[1], angles[2]);
+    // Of the rotation, the entries that small angles about X and Z show in.
+    qInfo("Result: %f", std::max({change(0, 1), change(1, 0), change(1, 2), change(2, 1)}));
+}
+
+}  // namespace
+
+bool Workflow::pass() {
+    if (stop_) return false;
+    doWhatIsWanted();
+    const Snapshot now = state_.take();
+    followEmitter(now.state);
+    const bool refreshed = refreshViews(now);
+    if (sensor_ == nullptr) openCamera(now);
+    if (refreshed) step(now);
+    return refreshed;
+}
+
+void Workflow::doWhatIsWanted() {
+    std::deque<std::function<void()>> wanted;
+    {
+        const std::lock_guard lock(wantedMutex_);
+        wanted.swap(wanted_);
+    }
+    for (const auto& work : wanted)
+        work();
+}
+
+/// Its dots help depth where the user aligns it, and would be matched where the scene's own texture is wanted.
+void Workflow::followEmitter(State state) {
+    if (!sensorReady_ || state == emitterState_) return;
+    emitterState_ = state;
+    sensor_->setEmitter(state == State::RefiningCalibration);
+}
+
+bool Workflow::refreshViews(const Snapshot& now) {
+    if (!sensorReady_ || !sensor_->grab(true)) return false;
+    listener_.framesReady(now.state, camera_, sensor_->frames());
+    return true;
+}
+
+void Workflow::step(const Snapshot& now) {
+    switch (now.state) {
+        case State::DetectingLighting:
+            detectLighting();
+            break;
+        case State::ResetCalibration:
+            resetCalibration(now);
+            break;
+        case State::StartingCalibration:
+            startCalibration(now);
+            break;
+        case State::ProcessingFrame:
+            processFrame(now);
+            break;
+        case State::FoundGoodSolution:
+            takeSolution(now);
+            break;
+        default:
+            break;
+    }
+}
+
+void Workflow::openCamera(const Snapshot& now) {
+    sensor_ = environment_.makeSensor();
+    listenTo(*sensor_);
+    sensor_->setStopFlag(&stop_);
+    if (!sensor_->open(applicationSettings()) ||
+        !readCameraParameters(*sensor_, &factory_, [this] { listener_.singleCameraOnly(); })) {
+        qInfo("Initialize failed.");
+        // What is not a fault of the library is a module without a colour camera.
+        if (!stop_) report("The depth camera was not found.", [this] { listener_.missingModule(); });
+        return;
+    }
+    sensor_->setPlatformPictureWanted(false);
+    records_.setFactory(factory_.depthToInModule.rotation, factory_.depthToOutOfModule.rotation);
+    engine_.setCameraParameters(false);
+    sensorReady_ = true;
+    if (const std::optional<SaveNote> note = readSaveNote(environment_.dataFolder)) {
+        removeSaveNote(environment_.dataFolder);
+        listener_.lastSaveFailed(*note);
+    }
+    advance(now, State::ShowingIntroduction);
+}
+
+void Workflow::listenTo(Sensor& sensor) {
+    QObject::connect(&sensor, &Sensor::signal_reportKXAPIError,
+                     [this](const QString& text) { report(text, [this, text] { listener_.deviceError(text); }); });
+    QObject::connect(&sensor, &Sensor::signal_reportMissingQ550Device,
+                     [this] { report("The depth camera was not found.", [this] { listener_.missingModule(); }); });
+    QObject::connect(&sensor, &Sensor::signal_reportMissingPlatformCamera, [this] {
+        report("The rear camera was not found.", [this] { listener_.missingPlatformCamera(); });
+    });
+    QObject::connect(&sensor, &Sensor::signal_reportPlatformCameraIssue, [this] {
+        if (!leaving_) listener_.platformCameraIssue();
+        faultTold_ = faultTold_ || !sensorReady_;
+    });
+}
+
+/// One fault, one message. While leaving, it is kept until everything is closed.
+void Workflow::report(const QString& error, const std::function<void()>& tell) {
+    if (leaving_) {
+        leavingErrors_.push_back(error);
+    } else if (!std::exchange(faultTold_, true)) {
+        tell();
+    }
+}
+
+void Workflow::detectLighting() {
+    std::uint16_t brightness = 0;
+    engine_.measureInfraredBrightness(sensor_->frames().leftInfrared, &brightness);
+    listener_.lightMeasured(light_.detect(brightness));
+}
+
+void Workflow::resetCalibration(const Snapshot& now) {
+    engine_.resetState();
+    advance(now, State::WaitingToCalibrate);
+}
+
+void Workflow::startCalibration(const Snapshot& now) {
+    records_.forgetEstimate(camera_);
+    attempt_.start(secondCamera());
+    advance(now, State::ProcessingFrame);
+}
+
+void Workflow::processFrame(const Snapshot& now) {
+    switch (attempt_.processFrame(sensor_->frames().leftInfrared, colourFrame())) {
+        case CalibrationAttempt::Outcome::Continues:
+            break;
+        case CalibrationAttempt::Outcome::Solved:
+            advance(now, State::FoundGoodSolution);
+            break;
+        case CalibrationAttempt::Outcome::Failed:
+            if (!state_.advance(now, State::WaitingToCalibrate)) break;
+            attempt_.fail();
+            listener_.stateChanged(State::WaitingToCalibrate);
+            break;
+    }
+}
+
+void Workflow::takeSolution(const Snapshot& now) {
+    Rotation estimated{};
+    std::array<float, 3> translation{};
+    engine_.getRotationMatrix(estimated.data());
+    engine_.getTranslation(translation.data());
+    if (secondCamera()) qInfo("Out of module color sensor:");
+    logSolution(secondCamera() ? factory_.depthToOutOfModule : factory_.depthToInModule, estimated, translation);
+    const State next = secondCamera() ? State::RefiningCalibration : State::RefiningTutorial;
+    if (!records_.setEstimated(camera_, estimated, [&] { return state_.advance(now, next); })) return;
+    listener_.solutionFound(camera_, factory_, estimated);
+    listener_.stateChanged(next);
+}
+
+bool Workflow::advance(const Snapshot& from, State to) {
+    if (!state_.advance(from, to)) return false;
+    listener_.stateChanged(to);
+    return true;
+}
+
+const ImageFrame32& Workflow::colourFrame() const {
+    const FrameRecords& frames = sensor_->frames();
+    return secondCamera() ? frames.outOfModuleColour : frames.inModuleColour;
+}
+
+void Workflow::handOver(QThread* thread) {
+    if (sensor_ != nullptr) sensor_->moveToThread(thread);
+}
+
+}  // namespace fieldcal
