@@ -5,7 +5,6 @@
 namespace fieldcal {
 namespace {
 
-constexpr const char* kDeviceName = "HP Truevision 8MP Rear";
 constexpr const char* kSubtype = "NV12";
 constexpr std::int32_t kFocusPosition = 1700;
 constexpr std::int32_t kFramesPerSecond = 30;
@@ -24,7 +23,7 @@ PlatformSetup failed(PlatformSetup how, const char* line) {
 }  // namespace
 
 PlatformSetup setUpPlatformCamera(CPlatformCameraControl& camera) {
-    if (!camera.findDevice(kDeviceName)) {
+    if (!camera.findDevice(kPlatformCameraName)) {
         return failed(PlatformSetup::Missing, "External platform camera could not be found.");
     }
     if (!camera.openCamera()) {

@@ -4,6 +4,9 @@
 
 namespace fieldcal {
 
+/// The friendly name of the tablet's rear camera.
+inline constexpr const char* kPlatformCameraName = "HP Truevision 8MP Rear";
+
 enum class PlatformSetup {
     Ready,
     Missing,  ///< not found, or not opened

@@ -31,12 +31,14 @@ void PlatformPicture::fetch(CPlatformCameraControl& camera, const PlatformCalibr
 }
 
 bool PlatformPicture::take(CPlatformCameraControl& camera) {
-    const std::uint8_t* nv12 = nullptr;
+    nv12_ = nullptr;
+    const std::uint8_t* newest = nullptr;
     std::int32_t width = 0;
     std::int32_t height = 0;
-    if (!camera.latestFrame(&nv12, &width, &height, kLatestFrameWaitMs)) return false;
+    if (!camera.latestFrame(&newest, &width, &height, kLatestFrameWaitMs)) return false;
     if (width != kPlatformPictureWidth || height != kPlatformPictureHeight) return false;
-    nv12ToBgra(nv12, width, height, &raw_);
+    nv12ToBgra(newest, width, height, &raw_);
+    nv12_ = newest;
     return true;
 }
 

@@ -24,6 +24,10 @@ public:
     void fetch(CPlatformCameraControl& camera, const PlatformCalibration& calibration,
                KXRectifyBGRA8ToBGRA8Function rectify, Clock::time_point now);
 
+    /// The picture that the last `fetch` took, as the camera delivered it; null when it took none. The bytes belong to
+    /// the camera and stay until the next `fetch`.
+    const std::uint8_t* nv12() const { return nv12_; }
+
     /// Scales what `fetch` left, when that is new, into the record. Nothing happens for an implausible size.
     void deliver(std::int32_t width, std::int32_t height, ImageFrame32* record);
 
@@ -32,6 +36,7 @@ private:
     void countSilence(Clock::time_point now);
     void blacken();
 
+    const std::uint8_t* nv12_ = nullptr;
     cv::Mat raw_;
     cv::Mat working_;
     cv::Mat scaled_;

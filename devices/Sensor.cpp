@@ -24,6 +24,7 @@ void Sensor::setStopFlag(const std::atomic<bool>* stop) {
 }
 
 bool Sensor::grab(bool wait) {
+    platformNv12_ = nullptr;
     if (!opened_ || faulted_) return false;
     if (!ask([device = device_.get(), wait] { return device->grab(wait); })) return false;
     if (settings_.usePlatformCamera && !fetchPlatformPicture()) {
@@ -42,6 +43,7 @@ bool Sensor::fetchPlatformPicture() {
     if (!platformCamera_->frameReady()) return false;
     if (!platformPictureWanted_ || platformCalibration_.rectificationTable.empty()) return true;
     platformPicture_.fetch(*platformCamera_, platformCalibration_, library_->rectifyBGRA8ToBGRA8, environment_.now());
+    platformNv12_ = platformPicture_.nv12();
     return true;
 }
 
@@ -118,6 +120,7 @@ void Sensor::setRotationsInFlash(const Rotation& third, const std::optional<Rota
 
 void Sensor::disablePlatformCamera() {
     settings_.usePlatformCamera = false;
+    platformNv12_ = nullptr;
     platformCamera_.reset();
 }
 

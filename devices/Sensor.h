@@ -57,6 +57,10 @@ public:
     const FrameRecords& frames() const { return frames_.records; }
     const SensorSettings& settings() const { return settings_; }
 
+    /// The rear camera's picture that the last `grab` brought, as the camera delivered it (NV12, 1280 x 720); null when
+    /// it brought no new one. Valid until the next `grab`.
+    const std::uint8_t* platformNv12() const { return platformNv12_; }
+
     /// Whether `grab` brings the rear camera's pictures into their record; it does unless told otherwise. It costs
     /// more than the rest of the pass, and nobody looks at them while the in-module camera is worked on. Unwanted, the
     /// record stays as it is; wanted again, the next pass takes the newest picture.
@@ -162,6 +166,7 @@ private:
     SensorSettings settings_;
     FrameAcquisition frames_;
     PlatformPicture platformPicture_;
+    const std::uint8_t* platformNv12_ = nullptr;
     PlatformCalibration platformCalibration_;
     std::optional<RotationsInFlash> rotationsInFlash_;
     WriteBackReport writeBack_;

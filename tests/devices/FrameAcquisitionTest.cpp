@@ -144,6 +144,7 @@ TEST_F(FrameAcquisitionTest, ASilentStartOfTheRearCameraIsReportedEveryTime) {
     deliverRed(640);
     EXPECT_TRUE(sensor->grab(true));
     EXPECT_THAT(rearPixel(), ElementsAre(0, 0, 0, 255)) << "one of another size is none";
+    EXPECT_EQ(sensor->platformNv12(), nullptr);
 }
 
 TEST_F(FrameAcquisitionTest, ARearCameraThatTakesTimeToStartIsAwaitedOnce) {
@@ -171,6 +172,9 @@ TEST_F(FrameAcquisitionTest, EachRearPictureIsWorkedOnOnce) {
     openAndRead(applicationSettings());
     deliverRed();
     ASSERT_TRUE(grabAfter(milliseconds(0)));
+    ASSERT_NE(sensor->platformNv12(), nullptr);
+    EXPECT_EQ(sensor->platformNv12()[0], 81);
+    EXPECT_EQ(sensor->platformNv12()[1280 * 1080 - 1], 240);
     const std::vector<int> red = rearPixel();
     EXPECT_NEAR(red[0], 255, 2);
     EXPECT_NEAR(red[2], 0, 2);
@@ -178,6 +182,7 @@ TEST_F(FrameAcquisitionTest, EachRearPictureIsWorkedOnOnce) {
     markRearRecord();
     ASSERT_TRUE(grabAfter(milliseconds(16)));
     EXPECT_THAT(rearPixel(), Each(99)) << "nothing new: the record is not touched, least of all swapped back";
+    EXPECT_EQ(sensor->platformNv12(), nullptr);
 
     sensor->setPlatformPictureWanted(false);
     for (int i = 0; i < 9; ++i)
