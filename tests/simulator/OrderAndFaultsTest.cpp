@@ -1,6 +1,10 @@
 #include "tests/simulator/TestModule.h"
 
+#include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <functional>
+#include <thread>
 
 namespace {
 
@@ -33,6 +37,11 @@ bool discardPlatform(bool (KXPlatformCamera::*query)(Record*), std::int32_t mode
     return (device.platformCamera()->*query)(&record);
 }
 
+bool writeBlock(KXDevice& device, bool permanent) {
+    const KXCalibRectParameters block{};
+    return device.privateInterface()->writeRectParameters(&block, permanent);
+}
+
 const Call kCalls[] = {
     {"openDevice", Stage::created, false, [](auto& d) { return d.openDevice(-1); }},
     {"initDevice", Stage::opened, false, [](auto& d) { return d.initDevice(); }},
@@ -42,6 +51,15 @@ const Call kCalls[] = {
     {"hardwareControl", Stage::opened, true, [](auto& d) { return d.hardwareControl() != nullptr; }},
     {"emitterControl", Stage::opened, true, [](auto& d) { return d.emitterControl() != nullptr; }},
     {"platformCamera", Stage::opened, true, [](auto& d) { return d.platformCamera() != nullptr; }},
+    {"privateInterface", Stage::opened, true, [](auto& d) { return d.privateInterface() != nullptr; }},
+    {"depthWidth", Stage::opened, true, [](auto& d) { return d.depthWidth() == 5; }},
+    {"depthHeight", Stage::opened, true, [](auto& d) { return d.depthHeight() == 3; }},
+    {"lrWidth", Stage::opened, true, [](auto& d) { return d.lrWidth() == 6; }},
+    {"lrHeight", Stage::opened, true, [](auto& d) { return d.lrHeight() == 4; }},
+    {"thirdWidth", Stage::opened, true,
+     [](auto& d) { return d.thirdCamera() != nullptr && d.thirdCamera()->thirdWidth() == 8; }},
+    {"thirdHeight", Stage::opened, true,
+     [](auto& d) { return d.thirdCamera() != nullptr && d.thirdCamera()->thirdHeight() == 6; }},
     {"setDepthEnabled", Stage::ready, true, [](auto& d) { return d.setDepthEnabled(true); }},
     {"setLeftEnabled", Stage::ready, true, [](auto& d) { return d.setLeftEnabled(true); }},
     {"setRightEnabled", Stage::ready, true, [](auto& d) { return d.setRightEnabled(true); }},
@@ -71,17 +89,26 @@ const Call kCalls[] = {
      [](auto& d) { return d.platformCamera()->rectificationRotation() != nullptr; }},
     {"zToPlatformExtrinsics", Stage::ready, true,
      [](auto& d) { return discardPlatform(&KXPlatformCamera::zToPlatformExtrinsics, 1, d); }},
+    {"writeRectParameters", Stage::ready, true, [](auto& d) { return writeBlock(d, false); }},
+    {"commitCalibration", Stage::ready, true,
+     [](auto& d) { return writeBlock(d, true) && d.privateInterface()->commitCalibration(); }},
     {"startCapture", Stage::ready, false, [](auto& d) { return d.startCapture(); }},
     {"depthEnabled", Stage::ready, true, [](auto& d) { return d.depthEnabled(); }},
     {"leftEnabled", Stage::ready, true, [](auto& d) { return d.leftEnabled(); }},
     {"rightEnabled", Stage::ready, true, [](auto& d) { return d.rightEnabled(); }},
     {"thirdEnabled", Stage::ready, true, [](auto& d) { return d.thirdCamera()->thirdEnabled(); }},
     {"grab", Stage::capturing, true, [](auto& d) { return d.grab(true); }},
+    {"resumeDevice", Stage::capturing, true,
+     [](auto& d) {
+         d.stopCapture();
+         return d.resumeDevice();
+     }},
     {"stopCapture", Stage::capturing, false, [](auto& d) { return d.stopCapture(); }},
 };
 
-const char* const kOnlyAtRest[] = {"setDepthEnabled",    "setLeftEnabled",  "setRightEnabled",    "setStreamOption",
-                                   "setDepthStreamMode", "setThirdEnabled", "setThirdStreamMode", "startCapture"};
+const char* const kOnlyAtRest[] = {"setDepthEnabled",     "setLeftEnabled",   "setRightEnabled",    "setStreamOption",
+                                   "setDepthStreamMode",  "setThirdEnabled",  "setThirdStreamMode", "startCapture",
+                                   "writeRectParameters", "commitCalibration"};
 
 class Order : public ModuleTest {
 protected:
@@ -155,24 +182,96 @@ TEST_F(Faults, EveryOperationFailsOnOrderAndOnlyThen) {
 }
 
 TEST_F(Faults, HitTheGivenCallsOfAnOperation) {
-    set("KXSIM_FAULTS", "grab:3:0,grab:5:12,resumeDevice:1:7");
+    set("KXSIM_FAULTS", "grab:3:0,grab:5:12,stopCapture:1:7");
     const std::shared_ptr<KXDevice> device = createCapturing();
     std::string seen;
     for (int i = 0; i < 6; ++i)
         seen += device->grab(true) ? "+" : std::to_string(device->lastStatus());
     EXPECT_EQ(seen, "++0+12+");
-    EXPECT_FALSE(device->resumeDevice());
+    EXPECT_FALSE(device->stopCapture());
     EXPECT_EQ(device->lastStatus(), 7);
+    EXPECT_TRUE(device->stopCapture());
+}
+
+TEST_F(Faults, AModuleThatIsGoneStaysSo) {
+    for (const Call& call : kCalls) {
+        SCOPED_TRACE(call.name);
+        set("KXSIM_FAULTS", call.name + ":1:gone");
+        const std::shared_ptr<KXDevice> device = create();
+        const bool hitOnTheWay = !bring(device.get(), call.from);
+        EXPECT_FALSE(!hitOnTheWay && call.call(*device));
+        EXPECT_EQ(device->lastStatus(), 5);
+        EXPECT_FALSE(device->openDevice(-1) || device->grab(true) || device->thirdCamera() != nullptr);
+        EXPECT_EQ(device->lastStatus(), 5);
+        EXPECT_EQ(device->depthWidth(), 0);
+        set("KXSIM_FAULTS", "");
+        EXPECT_TRUE(create()->openDevice(-1));
+    }
+}
+
+TEST_F(Faults, ALieDoesNothing) {
+    set("KXSIM_FAULTS",
+        "openDevice:1:lie,initDevice:1:lie,startCapture:1:lie,grab:1:lie,stopCapture:1:lie,setGain:1:lie");
+    const std::shared_ptr<KXDevice> device = create();
+    EXPECT_TRUE(device->openDevice(-1));
+    EXPECT_FALSE(device->calibrationValid());
+    EXPECT_TRUE(device->openDevice(-1) && device->initDevice());
+    EXPECT_FALSE(device->setStreamOption(true));
+    EXPECT_TRUE(device->initDevice() && setUpStreams(device.get()) && device->startCapture() && device->grab(true));
+    EXPECT_EQ(device->leftImage(), nullptr);
+    EXPECT_FALSE(device->grab(true)) << "the capture was not started";
+    EXPECT_TRUE(device->hardwareControl()->setGain(-1, 0)) << "nobody looked";
+    EXPECT_TRUE(device->startCapture() && device->stopCapture() && device->grab(true));
+}
+
+TEST_F(Faults, AHangingCallDoesNotReturnAndHoldsNothing) {
+    set("KXSIM_FAULTS", "grab:1:hang,openCamera:1:hang");
+    const auto returned = std::make_shared<std::atomic<int>>(0);
+    const std::shared_ptr<KXDevice> device = createCapturing();
+    RearCameraSource* rear = plugInRearCamera();
+    std::thread([=] { *returned += device->grab(true) ? 1 : 1; }).detach();
+    std::thread([=] { *returned += rear->openCamera() ? 1 : 1; }).detach();
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    EXPECT_EQ(*returned, 0);
+    EXPECT_NE(plugInRearCamera(), nullptr) << "locked out";
+    EXPECT_TRUE(createCapturing() != nullptr);
 }
 
 TEST_F(Faults, MalformedOrdersKeepTheDeviceShut) {
-    for (const char* text : {"grab", "grab:1", "grab:1:6:7", "grap:1:6", "grab:0:6", "grab:-1:6", "grab:x:6",
-                             "grab:1:-6", "grab:1:six", "grab:1:99999999999", "grab:1:6,,", "grab:1:6;x:1:2", ":"}) {
+    for (const char* text : {"grab",
+                             "grab:1",
+                             "grab:1:6:7",
+                             "grap:1:6",
+                             "grab:0:6",
+                             "grab:-1:6",
+                             "grab:x:6",
+                             "grab:1:-6",
+                             "grab:1:six",
+                             "grab:1:99999999999",
+                             "grab:1:6,,",
+                             "grab:1:6;x:1:2",
+                             ":",
+                             "grab:1:Gone",
+                             "grab:1:powercut",
+                             "zIntrinsics:1:lie",
+                             "depthEnabled:1:lie",
+                             "flash:1:6",
+                             "flash:1:lie",
+                             "flash:0:die",
+                             "flash:1:powercut+",
+                             "flash:1:powercut+-1",
+                             "flash:1:powercut+1x",
+                             "flash:1:powercuts",
+                             "grab\n:1:6"}) {
         set("KXSIM_FAULTS", text);
         const std::shared_ptr<KXDevice> device = create();
         ::testing::internal::CaptureStderr();
         EXPECT_FALSE(device->openDevice(-1)) << text;
-        EXPECT_EQ(::testing::internal::GetCapturedStderr().find("KXAPI: KXSIM_FAULTS: \""), 0U) << text;
+        EXPECT_FALSE(create()->openDevice(-1)) << text;
+        EXPECT_NE(plugInRearCamera(), nullptr);
+        const std::string said = ::testing::internal::GetCapturedStderr();
+        EXPECT_EQ(said.find("KXAPI: KXSIM_FAULTS: \""), 0U) << text;
+        EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << said;
         EXPECT_EQ(device->lastStatus(), 1);
     }
 }

@@ -78,6 +78,12 @@ TEST_F(RearCamera, FailsOnOrder) {
     EXPECT_FALSE(rear->setFocus(1700));
     EXPECT_TRUE(rear->setupStream(0, 640, 480, 30, "NV12"));
     EXPECT_FALSE(rear->setupStream(1, 1280, 720, 30, "NV12"));
+    set("KXSIM_FAULTS", "openCamera:1:lie,setFocus:2:gone");
+    rear = plugInRearCamera();
+    EXPECT_TRUE(rear->openCamera());
+    EXPECT_FALSE(rear->setFocus(1700)) << "the opening was a lie";
+    EXPECT_FALSE(rear->setFocus(1700));
+    EXPECT_FALSE(rear->openCamera()) << "gone";
 }
 
 }  // namespace

@@ -1,0 +1,309 @@
+#include "tests/simulator/FlashFixture.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <random>
+
+namespace {
+
+using fieldcal::session::Matrix3;
+using fieldcal::session::readFile;
+using fieldcal::session::writeFile;
+using ::testing::HasSubstr;
+
+Matrix3 product(const Matrix3& a, const Matrix3& b) {
+    Matrix3 out{};
+    for (std::size_t i = 0; i < 27; ++i)
+        out[i / 9 * 3 + i % 3] += a[i / 9 * 3 + i / 3 % 3] * b[i / 3 % 3 * 3 + i % 3];
+    return out;
+}
+
+Matrix3 transposed(const Matrix3& m) {
+    return {m[0], m[3], m[6], m[1], m[4], m[7], m[2], m[5], m[8]};
+}
+
+Matrix3 widened(const float* values) {
+    Matrix3 out{};
+    std::copy(values, values + 9, out.begin());
+    return out;
+}
+
+Matrix3 doublesAt(const QByteArray& block, int offset) {
+    Matrix3 out{};
+    std::memcpy(out.data(), block.constData() + offset, sizeof(out));
+    return out;
+}
+
+/// The rotation of the unit quaternion (w, x, y, z) / length.
+Matrix3 rotation(double w, double x, double y, double z) {
+    const double s = 2 / (w * w + x * x + y * y + z * z);
+    return {1 - s * (y * y + z * z), s * (x * y - z * w),     s * (x * z + y * w),
+            s * (x * y + z * w),     1 - s * (x * x + z * z), s * (y * z - x * w),
+            s * (x * z - y * w),     s * (y * z + x * w),     1 - s * (x * x + y * y)};
+}
+
+double difference(const Matrix3& a, const Matrix3& b) {
+    double out = 0;
+    for (std::size_t i = 0; i < 9; ++i)
+        out = std::max(out, std::abs(a[i] - b[i]));
+    return out;
+}
+
+bool isNarrowed(const Matrix3& expected, const float* seen) {
+    return std::equal(expected.begin(), expected.end(), seen,
+                      [](double value, float told) { return static_cast<float>(value) == told; });
+}
+
+class Flash : public FlashTest {
+protected:
+    static KXCalibExtrinsics third(KXDevice* device) {
+        KXCalibExtrinsics out{};
+        EXPECT_TRUE(device->thirdCamera()->zToThirdExtrinsics(&out));
+        return out;
+    }
+    static KXCalibExtrinsics platform(KXDevice* device) {
+        KXCalibExtrinsics out{};
+        EXPECT_TRUE(device->platformCamera()->zToPlatformExtrinsics(&out));
+        return out;
+    }
+    /// Leaves a flash of two whole banks, and in `older` and `newer` what a write finds and wants.
+    void fill() {
+        const std::shared_ptr<KXDevice> device = createReady();
+        older = turned(blockOf(device.get()), 0.1);
+        newer = turned(older, -0.2);
+        ASSERT_TRUE(write(device.get(), older));
+        image = readFile(flash);
+    }
+    /// Writes `newer` with these faults, on the flash that `fill` left; whether that said so.
+    bool writeWith(const std::string& faults) const {
+        writeFile(flash, image);
+        set("KXSIM_FAULTS", faults);
+        const std::shared_ptr<KXDevice> device = createReady();
+        const bool written = write(device.get(), newer);
+        EXPECT_TRUE(written || device->lastStatus() == 5);
+        EXPECT_EQ(device->grab(true), false);
+        EXPECT_EQ(device->lastStatus(), written ? 1 : 5) << "without power nothing works";
+        set("KXSIM_FAULTS", "");
+        return written;
+    }
+    void cutAndRecover(int step, int bytes) const {
+        const std::string fault = "flash:" + std::to_string(step) + ":powercut+" + std::to_string(bytes);
+        ASSERT_FALSE(writeWith(fault)) << fault;
+        const QByteArray left = stored();
+        ASSERT_TRUE(left == bytesOf(older) || (step == kLastStep && left == bytesOf(newer))) << fault;
+        ASSERT_TRUE(step != kLastStep || bytes < kHeader || left == bytesOf(newer)) << fault;
+        const KXCalibRectParameters last = turned(older, 0.3);
+        ASSERT_TRUE(write(createReady().get(), last)) << fault;
+        ASSERT_EQ(stored(), bytesOf(last)) << fault;
+    }
+
+    KXCalibRectParameters older{};
+    KXCalibRectParameters newer{};
+    QByteArray image;
+};
+
+TEST_F(Flash, ANewOneSaysBitForBitWhatTheRecordingSays) {
+    set("KXSIM_FLASH", "");
+    std::mt19937 random(3);
+    std::normal_distribution<double> normal;
+    for (int i = 0; i < 400; ++i) {
+        // Quarter turns, rotations by next to nothing and any others.
+        const double w = i < 4 ? i == 0 : i < 100 ? std::pow(10, i / 5.0) : normal(random);
+        session.third.rotation = rotation(w, i == 1 || i > 3 ? normal(random) : 0, i == 2, i == 3 ? 1 : 0);
+        session.platform->rotation = rotation(normal(random), normal(random), normal(random), normal(random));
+        session.platform->rectification = rotation(w, normal(random) * (i > 3), normal(random), 1e-9);
+        ASSERT_TRUE(writeDescription(folder, session, &why)) << why;
+        const std::shared_ptr<KXDevice> device = createReady();
+        ASSERT_TRUE(isNarrowed(session.third.rotation, third(device.get()).rotation)) << i;
+        ASSERT_TRUE(isNarrowed(session.platform->rotation, platform(device.get()).rotation)) << i;
+        const KXCalibRectParameters block = blockOf(device.get());
+        ASSERT_TRUE(isNarrowed(session.platform->rectification, block.rectificationPlatform)) << i;
+        const Matrix3 told =
+            product(product(widened(block.rectificationThird), doublesAt(bytesOf(block), kThirdRotation)),
+                    transposed(widened(block.rectificationInfrared)));
+        ASSERT_LT(difference(told, session.third.rotation), 3e-7) << "what the block itself says";
+    }
+}
+
+TEST_F(Flash, AFileIsLaidOutAsDocumented) {
+    const QByteArray block = stored();
+    const QByteArray made = readFile(flash);
+    ASSERT_EQ(made.size(), kImageBytes);
+    EXPECT_EQ(made.left(20).toHex(), "4b5853494d464c5301000000d56408004c9433bd");
+    EXPECT_EQ(made.mid(kBankA, 12).toHex(), "4b58424b0100000000080000");
+    EXPECT_EQ(made.mid(kBankA + kHeader, 2048), block);
+    EXPECT_EQ(made.mid(kBankB), QByteArray(2064, '\xff'));
+    EXPECT_EQ(withChecksums(made).left(kBankB), made.left(kBankB));
+    const KXCalibRectParameters next = turned(blockOf(createReady().get()), 0.1);
+    ASSERT_TRUE(write(createReady().get(), next));
+    const QByteArray written = readFile(flash);
+    EXPECT_EQ(written.left(kBankB), made.left(kBankB)) << "the other bank is not touched";
+    EXPECT_EQ(written.mid(kBankB, 12).toHex(), "4b58424b0200000000080000");
+    EXPECT_EQ(written.mid(kBankB + kHeader), bytesOf(next));
+    EXPECT_EQ(withChecksums(written), written);
+}
+
+TEST_F(Flash, TheCompanionChangesOneRotationAndNothingElse) {
+    KXCalibRectParameters block = blockOf(createReady().get());
+    const QByteArray before = bytesOf(block);
+    const Matrix3 wanted = rotation(9, 1, -2, 0.5);
+    updater->updateThirdCamera(&block, wanted.data(), &block);
+    QByteArray expected = before;
+    std::memcpy(expected.data() + kThirdRotation, wanted.data(), 72);
+    EXPECT_EQ(bytesOf(block), expected);
+    KXCalibRectParameters both{};
+    updater->updatePlatformCamera(&block, wanted.data(), &both);
+    std::memcpy(expected.data() + kPlatformRotation, wanted.data(), 72);
+    EXPECT_EQ(bytesOf(both), expected);
+    EXPECT_GT(difference(product(widened(block.rectificationThird), widened(block.rectificationInfrared)),
+                         product(widened(block.rectificationInfrared), widened(block.rectificationThird))),
+              1e-6)
+        << "the order of the matrices must matter";
+}
+
+TEST_F(Flash, AWriteCountsAfterItsCommitAndWorksAfterTheRest) {
+    const std::shared_ptr<KXDevice> device = createCapturing();
+    const KXCalibRectParameters before = blockOf(device.get());
+    const KXCalibExtrinsics thirdBefore = third(device.get());
+    const KXCalibExtrinsics platformBefore = platform(device.get());
+    const KXCalibRectParameters next = turned(before, 0.25);
+    KXPrivate* memory = device->privateInterface();
+    EXPECT_FALSE(memory->writeRectParameters(&next, true)) << "capturing";
+    EXPECT_FALSE(device->resumeDevice()) << "capturing";
+    ASSERT_TRUE(device->stopCapture());
+    EXPECT_FALSE(memory->writeRectParameters(nullptr, true));
+    EXPECT_FALSE(memory->commitCalibration()) << "nothing is written";
+    ASSERT_TRUE(memory->writeRectParameters(&next, true));
+    EXPECT_EQ(bytesOf(blockOf(device.get())), bytesOf(before));
+    EXPECT_EQ(stored(), bytesOf(before));
+    ASSERT_TRUE(memory->commitCalibration());
+    EXPECT_FALSE(memory->commitCalibration()) << "once";
+    EXPECT_EQ(device->lastStatus(), 1);
+    EXPECT_EQ(bytesOf(blockOf(device.get())), bytesOf(next));
+    EXPECT_EQ(std::memcmp(third(device.get()).rotation, thirdBefore.rotation, 36), 0) << "not loaded yet";
+    ASSERT_TRUE(device->resumeDevice() && device->grab(true));
+    EXPECT_FALSE(device->resumeDevice()) << "capturing";
+    const Matrix3 expected =
+        product(product(widened(next.rectificationThird),
+                        {std::cos(0.25), -std::sin(0.25), 0, std::sin(0.25), std::cos(0.25), 0, 0, 0, 1}),
+                transposed(widened(next.rectificationInfrared)));
+    EXPECT_LT(difference(widened(third(device.get()).rotation), expected), 3e-7);
+    EXPECT_EQ(std::memcmp(third(device.get()).translation, thirdBefore.translation, 12), 0);
+    const KXCalibExtrinsics platformAfter = platform(device.get());
+    EXPECT_EQ(std::memcmp(&platformAfter, &platformBefore, sizeof(platformAfter)), 0);
+    EXPECT_EQ(std::memcmp(third(createReady().get()).rotation, third(device.get()).rotation, 36), 0);
+}
+
+TEST_F(Flash, ATemporaryBlockIsForgottenWithThePower) {
+    const std::shared_ptr<KXDevice> device = createCapturing();
+    const KXCalibRectParameters before = blockOf(device.get());
+    const KXCalibRectParameters next = turned(before, 0.25);
+    ASSERT_TRUE(device->stopCapture() && device->privateInterface()->writeRectParameters(&next, false));
+    EXPECT_FALSE(device->privateInterface()->commitCalibration());
+    ASSERT_TRUE(device->resumeDevice());
+    EXPECT_NE(std::memcmp(third(device.get()).rotation, third(createReady().get()).rotation, 36), 0);
+    EXPECT_EQ(bytesOf(blockOf(device.get())), bytesOf(before));
+    EXPECT_EQ(stored(), bytesOf(before));
+}
+
+TEST_F(Flash, WithoutAFileAWriteIsForgottenWithTheDeviceAndSaysSo) {
+    set("KXSIM_FLASH", "");
+    const std::shared_ptr<KXDevice> device = createReady();
+    const KXCalibRectParameters before = blockOf(device.get());
+    const KXCalibRectParameters next = turned(before, 0.25);
+    ::testing::internal::CaptureStderr();
+    EXPECT_TRUE(write(device.get(), next));
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(),
+              "KXAPI: no KXSIM_FLASH: what was written is gone with this device\n");
+    EXPECT_EQ(bytesOf(blockOf(device.get())), bytesOf(next));
+    EXPECT_EQ(stored(), bytesOf(before));
+    EXPECT_FALSE(device->resumeDevice()) << "there was no capture";
+}
+
+TEST_F(Flash, APowerCutLeavesTheOldOrTheNewBlock) {
+    fill();
+    for (int step = 1; step <= kLastStep; ++step) {
+        const int size = step == 1 ? 2064 : step == kLastStep ? kHeader : 64;
+        for (const int bytes : {0, size / 2, size})
+            cutAndRecover(step, bytes);
+    }
+}
+
+TEST_F(Flash, RandomPowerCutsLeaveTheOldOrTheNewBlock) {
+    fill();
+    std::mt19937 random(4);
+    for (int i = 0; i < 1000; ++i) {
+        const int step = static_cast<int>(random() % kLastStep) + 1;
+        cutAndRecover(step, static_cast<int>(random() % (step == 1 ? 2066 : 66)));
+        if (HasFatalFailure()) return;
+    }
+}
+
+TEST_F(Flash, WrongBitsAreSeenOrNotAsOrdered) {
+    fill();
+    for (int step = 1; step <= kLastStep; ++step) {
+        const std::string at = "flash:" + std::to_string(step);
+        EXPECT_TRUE(writeWith(at + ":corrupt"));
+        EXPECT_EQ(stored(), bytesOf(older)) << at;
+        EXPECT_TRUE(writeWith(at + ":garble"));
+        QByteArray expected = bytesOf(newer);
+        if (step > 1 && step < kLastStep)
+            expected[64 * (step - 2)] = static_cast<char>(expected.at(64 * (step - 2)) ^ 64);
+        EXPECT_EQ(stored(), step > 1 && step < kLastStep ? expected : bytesOf(older)) << at;
+    }
+}
+
+TEST_F(Flash, LiesWriteNothing) {
+    fill();
+    EXPECT_TRUE(writeWith("writeRectParameters:1:lie,commitCalibration:1:lie"));
+    EXPECT_TRUE(writeWith("commitCalibration:1:lie"));
+    EXPECT_EQ(stored(), bytesOf(older));
+    set("KXSIM_FAULTS", "writeRectParameters:1:lie");
+    const std::shared_ptr<KXDevice> device = createReady();
+    EXPECT_FALSE(write(device.get(), newer));
+    EXPECT_EQ(device->lastStatus(), 1) << "there is nothing to commit";
+    EXPECT_TRUE(write(device.get(), newer));
+}
+
+using FlashDeathTest = Flash;
+
+TEST_F(FlashDeathTest, ATabletThatDiesLeavesTheOldBlock) {
+    fill();
+    for (const int step : {1, 17, kLastStep}) {
+        EXPECT_EXIT(writeWith("flash:" + std::to_string(step) + ":die"), ::testing::ExitedWithCode(137), "");
+        EXPECT_EQ(stored(), bytesOf(older)) << step;
+    }
+}
+
+TEST_F(Flash, AFileThatVanishesFailsTheWriteInOneLine) {
+    const std::shared_ptr<KXDevice> device = createReady();
+    const KXCalibRectParameters block = blockOf(device.get());
+    ASSERT_TRUE(device->privateInterface()->writeRectParameters(&block, true));
+    QFile::remove(QString::fromStdString(flash));
+    QDir().mkpath(QString::fromStdString(flash));
+    ::testing::internal::CaptureStderr();
+    EXPECT_FALSE(device->privateInterface()->commitCalibration());
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "KXAPI: " + flash + ": not a regular file\n");
+    EXPECT_EQ(device->lastStatus(), 6);
+    EXPECT_FALSE(write(device.get(), block));
+    EXPECT_EQ(device->lastStatus(), 6);
+    EXPECT_EQ(opening().second, 6);
+    set("KXSIM_FLASH", folder + "/nowhere/flash");
+    EXPECT_EQ(opening().second, 6);
+}
+
+TEST_F(Flash, NonsenseIsStoredButNeitherLoadedNorInTheWayOfABetterBlock) {
+    const std::shared_ptr<KXDevice> device = createCapturing();
+    const KXCalibRectParameters good = blockOf(device.get());
+    KXCalibRectParameters bad = good;
+    bad.rectificationThird[4] = 0.5F;
+    ASSERT_TRUE(device->stopCapture() && write(device.get(), bad));
+    EXPECT_FALSE(device->resumeDevice());
+    EXPECT_EQ(device->lastStatus(), 4);
+    EXPECT_EQ(opening(), std::make_pair("KXAPI: " + flash + ": rectificationThird: not a rotation\n", 4));
+    EXPECT_TRUE(write(device.get(), good) && device->resumeDevice() && device->grab(true));
+    EXPECT_EQ(opening().second, 0);
+}
+
+}  // namespace
