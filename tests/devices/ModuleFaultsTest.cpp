@@ -1,0 +1,258 @@
+#include "tests/devices/ModuleRig.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace fieldcal::testing {
+namespace {
+
+using ::testing::IsEmpty;
+using Flash = WriteBackReport::Flash;
+
+/// 0.57 degrees about Z.
+constexpr Rotation kTurned{0.99995F, -0.0099998F, 0, 0.0099998F, 0.99995F, 0, 0, 0, 1};
+
+class ModuleFaultsTest : public ModuleRig {
+protected:
+    void expectReport(int status) const {
+        ASSERT_EQ(reports.size(), 1U) << ::testing::PrintToString(reports);
+        if (status == 5) {
+            EXPECT_EQ(reports[0], "MissingQ550");
+        } else {
+            EXPECT_THAT(reports[0], ::testing::EndsWith(" - " + userText(status)));
+        }
+    }
+    /// Closes the sensor; the vendor's service must be as it was.
+    void close() {
+        sensor.reset();
+        EXPECT_EQ(control.startType, 2U);
+    }
+};
+
+/// Every operation that opening, reading out and grabbing use, with the call that comes first there.
+struct ReadOperation {
+    const char* name;
+    int call;
+};
+constexpr ReadOperation kFatal[] = {{"openDevice", 1},
+                                    {"initDevice", 1},
+                                    {"serialNumber", 1},
+                                    {"setDepthEnabled", 1},
+                                    {"setLeftEnabled", 1},
+                                    {"setRightEnabled", 1},
+                                    {"setStreamOption", 1},
+                                    {"setDepthStreamMode", 1},
+                                    {"setThirdEnabled", 1},
+                                    {"setThirdStreamMode", 1},
+                                    {"hardwareControl", 1},
+                                    {"setAutoExposure", 1},
+                                    {"setHardwareOption", 1},
+                                    {"setEmitter", 1},
+                                    {"startCapture", 1},
+                                    {"grab", 1},
+                                    {"grab", 3},
+                                    {"rectifiedThirdIntrinsics", 1},
+                                    {"rectifiedLRIntrinsics", 1},
+                                    {"zIntrinsics", 1},
+                                    {"zToThirdExtrinsics", 1}};
+/// What fails here costs a stream, a text or the rear camera, and is no fault of the module's.
+constexpr ReadOperation kHarmless[] = {{"firmwareVersionText", 1},
+                                       {"softwareVersionText", 1},
+                                       {"emitterControl", 1},
+                                       {"depthEnabled", 1},
+                                       {"leftEnabled", 1},
+                                       {"rightEnabled", 1},
+                                       {"thirdEnabled", 1},
+                                       {"depthImage", 1},
+                                       {"leftImage", 1},
+                                       {"rightImage", 1},
+                                       {"thirdImage", 1},
+                                       {"platformCamera", 1},
+                                       {"setPlatformMode", 1},
+                                       {"setPlatformMode", 2},
+                                       {"nonRectifiedIntrinsics", 1},
+                                       {"rectifiedIntrinsics", 1},
+                                       {"rectifiedIntrinsics", 2},
+                                       {"rectificationRotation", 1},
+                                       {"zToPlatformExtrinsics", 1},
+                                       {"calibrationValid", 1}};
+
+TEST_F(ModuleFaultsTest, EveryCallOfTheReadPathFailsWithOneReportAndACleanEnd) {
+    const auto run = [this](const ReadOperation& operation, const QString& kind) {
+        start(QString("%1:%2:%3").arg(operation.name).arg(operation.call).arg(kind));
+        bool good = open();
+        for (int i = 0; i < 4; ++i)
+            good = good && sensor->grab(true);
+        return good;
+    };
+    for (const int status : kStatuses) {
+        for (const ReadOperation& operation : kFatal) {
+            SCOPED_TRACE(std::string(operation.name) + " " + std::to_string(status));
+            EXPECT_FALSE(run(operation, QString::number(status)));
+            EXPECT_FALSE(sensor->grab(true)) << "nothing more happens";
+            close();
+            expectReport(status);
+        }
+        for (const ReadOperation& operation : kHarmless) {
+            SCOPED_TRACE(std::string(operation.name) + " " + std::to_string(status));
+            EXPECT_TRUE(run(operation, QString::number(status)));
+            close();
+            EXPECT_THAT(reports, IsEmpty());
+        }
+    }
+    for (const ReadOperation& operation : kFatal) {
+        SCOPED_TRACE(std::string(operation.name) + " gone");
+        EXPECT_FALSE(run(operation, "gone"));
+        close();
+        expectReport(5);
+    }
+}
+
+TEST_F(ModuleFaultsTest, WhatIsNotThereIsNamedOnce) {
+    const struct {
+        const char* faults;
+        std::vector<std::string> reports;
+    } cases[] = {{"thirdCamera:1:6", {}},  // only logged
+                 {"calibrationValid:2:1", {"Not calibrated - " + userText(4)}},
+                 {"openCamera:1:1", {"MissingPlatform"}},
+                 {"setAutoFocus:1:1", {"PlatformIssue"}},
+                 {"setFocus:1:1", {"PlatformIssue"}},
+                 {"setupStream:3:1", {"PlatformIssue"}}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.faults);
+        start(c.faults);
+        EXPECT_FALSE(open());
+        close();
+        EXPECT_EQ(reports, c.reports);
+    }
+}
+
+TEST_F(ModuleFaultsTest, ACallThatHangsIsGivenUpEverywhere) {
+    callLimit = std::chrono::milliseconds(60);
+    for (const ReadOperation& operation : kFatal) {
+        if (std::string(operation.name) == "hardwareControl") continue;  // a getter; it is not watched
+        SCOPED_TRACE(operation.name);
+        start(QString("%1:%2:hang").arg(operation.name).arg(operation.call));
+        EXPECT_FALSE(open() && sensor->grab(true) && sensor->grab(true) && sensor->grab(true));
+        close();
+        EXPECT_EQ(reports, std::vector<std::string>{"The camera does not answer - An unknown error has occured."});
+    }
+}
+
+/// The calls of a write-back, with the number that each has after opening and reading out.
+struct WriteOperation {
+    const char* name;
+    int call;
+    bool canLie;
+};
+constexpr WriteOperation kWriting[] = {{"stopCapture", 1, true},       {"rectParameters", 1, false},
+                                       {"privateInterface", 1, false}, {"writeRectParameters", 1, true},
+                                       {"commitCalibration", 1, true}, {"resumeDevice", 1, true},
+                                       {"rectParameters", 2, false}};
+
+class WriteFaultsTest : public ModuleFaultsTest {
+protected:
+    WriteFaultsTest() {
+        factory = stored();
+        EXPECT_TRUE(sensor->updateRotation(kTurned, parameters.depthToOutOfModule.rotation));
+        turned = stored();
+        EXPECT_NE(turned, factory);
+        sensor.reset();
+    }
+    /// A write with this fault, from a fresh flash. Checks what must hold whatever happened, and gives the result.
+    bool tryWriting(const QString& fault) {
+        QFile::remove(flashFile);
+        reopen(fault);
+        const bool stored = sensor->updateRotation(kTurned, parameters.depthToOutOfModule.rotation);
+        said = sensor->writeBack();
+        close();
+        firstReports = reports;
+        checkFlash();
+        EXPECT_EQ(stored, said.reason.isEmpty());
+        if (stored) {
+            EXPECT_EQ(said.flash, Flash::Written);
+        } else {
+            EXPECT_EQ(firstReports.size(), 1U) << ::testing::PrintToString(firstReports);
+        }
+        return stored;
+    }
+    /// Old or new, as the report says; and the backup brings the old one back.
+    void checkFlash() {
+        const QByteArray found = stored();
+        holdsNew = found == turned;
+        EXPECT_TRUE(holdsNew || found == factory) << "torn";
+        if (said.flash == Flash::Written) {
+            EXPECT_TRUE(holdsNew);
+        }
+        if (said.flash == Flash::Untouched || said.flash == Flash::Previous) {
+            EXPECT_FALSE(holdsNew);
+        }
+        EXPECT_NE(said.flash, Flash::Other);
+        if (said.backupFile.isEmpty()) return;
+        ParameterBackup backup;
+        QString why;
+        ASSERT_TRUE(readBackup(said.backupFile, &backup, &why)) << why.toStdString();
+        EXPECT_TRUE(sensor->restoreParameters(backup.block));
+        EXPECT_EQ(this->stored(), factory);
+    }
+
+    QByteArray factory, turned;
+    WriteBackReport said;
+    std::vector<std::string> firstReports;
+    bool holdsNew = false;
+};
+
+TEST_F(WriteFaultsTest, EveryCallWithEveryStatus) {
+    for (const WriteOperation& operation : kWriting) {
+        for (const int status : kStatuses) {
+            const QString fault = QString("%1:%2:%3").arg(operation.name).arg(operation.call).arg(status);
+            SCOPED_TRACE(fault.toStdString());
+            EXPECT_FALSE(tryWriting(fault));
+            reports = firstReports;
+            expectReport(status);
+            // Until the last read fails, the module can say what its flash holds.
+            EXPECT_EQ(said.flash == Flash::Unknown, operation.call == 2);
+        }
+        SCOPED_TRACE(std::string(operation.name) + " gone");
+        EXPECT_FALSE(tryWriting(QString("%1:%2:gone").arg(operation.name).arg(operation.call)));
+        reports = firstReports;
+        expectReport(5);
+    }
+}
+
+TEST_F(WriteFaultsTest, HangsAndLies) {
+    for (const WriteOperation& operation : kWriting) {
+        if (operation.canLie) {
+            SCOPED_TRACE(std::string(operation.name) + " lies");
+            // A module that does not resume has stored the block all the same.
+            const bool stored = std::string(operation.name) == "resumeDevice";
+            EXPECT_EQ(tryWriting(QString("%1:%2:lie").arg(operation.name).arg(operation.call)), stored);
+        }
+        if (std::string(operation.name) == "privateInterface") continue;  // a getter; it is not watched
+        SCOPED_TRACE(std::string(operation.name) + " hangs");
+        callLimit = std::chrono::milliseconds(60);
+        EXPECT_FALSE(tryWriting(QString("%1:%2:hang").arg(operation.name).arg(operation.call)));
+        EXPECT_EQ(firstReports[0], "The camera does not answer - An unknown error has occured.");
+        callLimit = std::chrono::milliseconds(10000);
+    }
+}
+
+TEST_F(WriteFaultsTest, PowerCutsAndBitsThatArriveWrongAtEveryStep) {
+    constexpr int kSteps = 34;
+    for (int step = 1; step <= kSteps; ++step) {
+        for (const char* kind : {"powercut", "powercut+9", "corrupt", "garble"}) {
+            SCOPED_TRACE(QString("flash:%1:%2").arg(step).arg(kind).toStdString());
+            const bool stored = tryWriting(QString("flash:%1:%2").arg(step).arg(kind));
+            // The erasing of a bank that was never used cannot show a wrong bit that is written over afterwards.
+            if (step > 1) {
+                EXPECT_FALSE(stored);
+                EXPECT_FALSE(holdsNew);
+            }
+        }
+    }
+    EXPECT_TRUE(tryWriting(QString("flash:%1:powercut").arg(kSteps + 1))) << "there are no more steps";
+}
+
+}  // namespace
+}  // namespace fieldcal::testing

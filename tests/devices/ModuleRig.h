@@ -1,0 +1,100 @@
+#pragma once
+
+#include "devices/CameraParameterReader.h"
+#include "devices/ParameterBackup.h"
+#include "tests/devices/FakeServiceControl.h"
+#include "tests/devices/LogCapture.h"
+#include "tests/session/TestSession.h"
+
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace fieldcal::testing {
+
+/// The simulated module behind a real sensor: a tiny recording, a flash file, a scripted vendor's service. `reports`
+/// collects what the sensor emits: the error's text, or the signal's short name.
+class ModuleRig : public session::SessionFolder {
+protected:
+    ModuleRig() : flashFile(temporary.filePath("flash")) {
+        const QString name =
+            QString::fromStdString(session::kSessionText).replace("\"Rear\"", "\"HP Truevision 8MP Rear\"");
+        session::writeFile(path("session.json"), name.toUtf8());
+        set("KXSIM_SESSION", QString::fromStdString(folder));
+        set("KXSIM_SPEED", "0");
+        set("KXSIM_FLASH", flashFile);
+    }
+    ~ModuleRig() override {
+        for (const char* variable : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_FLASH", "KXSIM_FAULTS"})
+            qunsetenv(variable);
+    }
+    static void set(const char* variable, const QString& value) { qputenv(variable, value.toLocal8Bit()); }
+
+    /// A new program on a tablet that was just switched on.
+    void start(const QString& faults = {}) {
+        set("KXSIM_FAULTS", faults);
+        sensor.reset();
+        services = std::make_unique<PXMServiceManager>(control);
+        reports.clear();
+        LogCapture::lines().clear();
+        SensorEnvironment environment = systemEnvironment();
+        environment.services = services.get();
+        environment.dataFolder = temporary.filePath("data");
+        environment.callLimit = callLimit;
+        sensor = std::make_unique<Sensor>(environment);
+        const auto add = [this](const char* name) { return [this, name] { reports.emplace_back(name); }; };
+        QObject::connect(sensor.get(), &Sensor::signal_reportKXAPIError,
+                         [this](const QString& text) { reports.push_back(text.toStdString()); });
+        QObject::connect(sensor.get(), &Sensor::signal_reportMissingQ550Device, add("MissingQ550"));
+        QObject::connect(sensor.get(), &Sensor::signal_reportMissingPlatformCamera, add("MissingPlatform"));
+        QObject::connect(sensor.get(), &Sensor::signal_reportPlatformCameraIssue, add("PlatformIssue"));
+    }
+    bool open() {
+        return sensor->open(applicationSettings()) && readCameraParameters(*sensor, &parameters, [] {});
+    }
+    void reopen(const QString& faults = {}) {
+        start(faults);
+        ASSERT_TRUE(open()) << ::testing::PrintToString(reports);
+    }
+    /// The block in the flash as a program finds it that starts now.
+    QByteArray stored() {
+        reopen();
+        KXCalibRectParameters block{};
+        EXPECT_TRUE(sensor->readQuietly(&block));
+        return {reinterpret_cast<const char*>(&block), sizeof(block)};
+    }
+
+    LogCapture log;
+    QString flashFile;
+    FakeServiceControl control;
+    std::unique_ptr<PXMServiceManager> services;
+    std::chrono::milliseconds callLimit{10000};
+    std::vector<std::string> reports;
+    CameraParameters parameters;
+    std::unique_ptr<Sensor> sensor;
+};
+
+/// What follows the library's own text in the report of a status; 5 has none.
+inline std::string userText(int status) {
+    switch (status) {
+        case 1:
+            return "A KXAPI call failed.";
+        case 4:
+            return "The device has not been calibrated or has invalid calibration data.";
+        case 6:
+            return "Something bad has happened with the Tarnex Deepvane camera.";
+        case 7:
+            return "Please close all Tarnex Deepvane applications and any web browsers before proceeding.";
+        case 11:
+            return "Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update "
+                   "your firmware and run the application again.";
+        default:
+            return "An unknown error has occured.";
+    }
+}
+
+inline constexpr int kStatuses[] = {1, 4, 5, 6, 7, 11, 3, 77};
+
+}  // namespace fieldcal::testing
