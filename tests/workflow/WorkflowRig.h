@@ -1,0 +1,158 @@
+#pragma once
+
+#include "simulator/synthesis/Synthesis.h"
+#include "tests/devices/FakeServiceControl.h"
+#include "workflow/ProcessingThread.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+#include <chrono>
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace fieldcal::testing {
+
+/// The person in front of the screen: sees what the workflow tells, and can wait for it.
+class User : public WorkflowListener {
+public:
+    /// Waits until `condition` holds; false after a time in which everything should have happened.
+    bool waitUntil(const std::function<bool()>& condition) {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, std::chrono::seconds(120), condition);
+    }
+    /// Waits for the next time that the workflow enters the state.
+    bool waitFor(State state) {
+        const auto arrived = [&] {
+            while (seen < states.size())
+                if (states[seen++] == state) return true;
+            return false;
+        };
+        return waitUntil([&] { return arrived() || !errors.empty(); }) && errors.empty();
+    }
+
+    void stateChanged(State state) override {
+        note([&] { states.push_back(state); });
+    }
+    void lightMeasured(const LightGate::Reading& reading) override {
+        note([&] { lit = reading.lit; });
+    }
+    void pairCaptured() override {
+        if (onPair) onPair();
+    }
+    void pairProcessed(const vq::CalibratorResult& result) override {
+        note([&] { codes.push_back(result.code); });
+    }
+    void deviceError(const QString& text) override {
+        note([&] { errors.push_back(text.toStdString()); });
+    }
+    void missingModule() override {
+        note([&] { errors.emplace_back("missing module"); });
+    }
+    void missingPlatformCamera() override {
+        note([&] { errors.emplace_back("missing platform camera"); });
+    }
+    void lastSaveFailed(const SaveNote& text) override {
+        note([&] { lastSave = text; });
+    }
+
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::vector<State> states;
+    std::size_t seen = 0;
+    bool lit = false;
+    std::vector<std::int32_t> codes;
+    std::vector<std::string> errors;
+    std::optional<SaveNote> lastSave;
+    std::function<void()> onPair;
+
+private:
+    template <typename Change>
+    void note(Change change) {
+        const std::lock_guard lock(mutex);
+        change();
+        changed.notify_all();
+    }
+};
+
+/// A workflow on its thread, over the simulated module with a flash file. The recording is rendered once.
+class WorkflowTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        recording_ = new QTemporaryDir;
+        synthesis::SynthesisOptions options;
+        options.seed = 5;
+        options.stills = 5;
+        options.platform = true;
+        std::string why;
+        ASSERT_TRUE(synthesis::synthesize(recording_->path().toStdString(), options, {}, &why)) << why;
+    }
+    static void TearDownTestSuite() { delete recording_; }
+
+    WorkflowTest() {
+        set("KXSIM_SESSION", recording_->path());
+        set("KXSIM_SPEED", "0");
+        set("KXSIM_FLASH", folder.filePath("flash"));
+    }
+    ~WorkflowTest() override {
+        thread.reset();
+        workflow.reset();
+        for (const char* variable : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_FLASH", "KXSIM_FAULTS"})
+            qunsetenv(variable);
+    }
+    static void set(const char* variable, const QString& value) { qputenv(variable, value.toLocal8Bit()); }
+
+    /// Starts the program anew. `user` is a new one, too.
+    void start(const QString& faults = {}) {
+        thread.reset();
+        workflow.reset();
+        set("KXSIM_FAULTS", faults);
+        user = std::make_unique<User>();
+        services = std::make_unique<PXMServiceManager>(control);
+        const auto makeSensor = [this] {
+            SensorEnvironment environment = systemEnvironment();
+            environment.services = services.get();
+            environment.dataFolder = folder.filePath("data");
+            return std::make_unique<Sensor>(environment);
+        };
+        workflow = std::make_unique<Workflow>(*user, WorkflowEnvironment{makeSensor, folder.filePath("data")});
+        thread = std::make_unique<ProcessingThread>(*workflow);
+    }
+    /// From the start to a found rotation; leaves the workflow where it shows it.
+    void solve(State shown = State::RefiningTutorial) {
+        workflow->requestState(State::StartingCalibration);
+        ASSERT_TRUE(user->waitFor(shown)) << ::testing::PrintToString(user->errors);
+    }
+    void dragBy(float degrees) {
+        vq::ICalibrator& engine = workflow->engine();
+        engine.setTouchAreaSize(800, 600);
+        engine.setDragAreaSize(800, 600);
+        engine.beginDrag(300, 50);
+        engine.drag(300 + static_cast<int>(degrees * 100), 400);
+        engine.endDrag();
+    }
+    LeaveReport stopAndSave() {
+        thread->stop();
+        return workflow->save();
+    }
+    QByteArray flash() const {
+        QFile file(folder.filePath("flash"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    inline static QTemporaryDir* recording_ = nullptr;
+    QTemporaryDir folder;
+    FakeServiceControl control;
+    std::unique_ptr<PXMServiceManager> services;
+    std::unique_ptr<User> user;
+    std::unique_ptr<Workflow> workflow;
+    std::unique_ptr<ProcessingThread> thread;
+};
+
+}  // namespace fieldcal::testing
