@@ -39,8 +39,9 @@ inline QByteArray withChecksums(QByteArray image) {
     return image;
 }
 
-inline QByteArray bytesOf(const KXCalibRectParameters& block) {
-    return {reinterpret_cast<const char*>(&block), sizeof(block)};
+template <typename Record>
+QByteArray bytesOf(const Record& record) {
+    return {reinterpret_cast<const char*>(&record), sizeof(record)};
 }
 
 /// A module whose flash is a file.

@@ -43,14 +43,13 @@ protected:
                                         std::numeric_limits<double>::infinity()};
         QByteArray out = whole;
         const double wrong = kNonsense[below(8)];
-        const int index = below(9);
         if (below(2) == 0) {
             const int camera = below(2) == 0 ? kThirdRotation : kPlatformRotation;
-            std::memcpy(out.data() + kBankA + kHeader + camera + 8 * below(12), &wrong, 8);
+            out.replace(kBankA + kHeader + camera + 8 * below(12), 8, bytesOf(wrong));
         } else {
             constexpr int kMatrices[] = {1272, 1416, 1488};
             const auto narrow = static_cast<float>(std::isfinite(wrong) ? std::clamp(wrong, -1e30, 1e30) : wrong);
-            std::memcpy(out.data() + kBankA + kHeader + kMatrices[below(3)] + 4 * index, &narrow, 4);
+            out.replace(kBankA + kHeader + kMatrices[below(3)] + 4 * below(9), 4, bytesOf(narrow));
         }
         return withChecksums(out);
     }

@@ -229,8 +229,14 @@ TEST_F(Faults, AHangingCallDoesNotReturnAndHoldsNothing) {
     const auto returned = std::make_shared<std::atomic<int>>(0);
     const std::shared_ptr<KXDevice> device = createCapturing();
     RearCameraSource* rear = plugInRearCamera();
-    std::thread([=] { *returned += device->grab(true) ? 1 : 1; }).detach();
-    std::thread([=] { *returned += rear->openCamera() ? 1 : 1; }).detach();
+    std::thread([=] {
+        device->grab(true);
+        ++*returned;
+    }).detach();
+    std::thread([=] {
+        rear->openCamera();
+        ++*returned;
+    }).detach();
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
     EXPECT_EQ(*returned, 0);
     EXPECT_NE(plugInRearCamera(), nullptr) << "locked out";
