@@ -1,5 +1,5 @@
-#include "diagnostics/Logger.h"
 #include "tools/CommandLine.h"
+#include "tools/Console.h"
 #include "tools/RecordingCalibration.h"
 #include "tools/Verbs.h"
 
@@ -11,24 +11,6 @@
 
 namespace fieldcal {
 namespace {
-
-void printLine(const QString& line) {
-    std::printf("%s\n", qPrintable(line));
-    std::fflush(stdout);
-}
-
-int fail(const QString& why) {
-    std::fprintf(stderr, "%s\n", qPrintable(why));
-    return kFailed;
-}
-
-void discardLogLine(QtMsgType, const QMessageLogContext&, const QString&) {}
-
-/// Standard error is for the one line that says why the command failed.
-void silenceLogs() {
-    setLogLevel(-1);
-    qInstallMessageHandler(discardLogLine);
-}
 
 bool writeJson(const QString& path, const QByteArray& json) {
     QFile file(path);

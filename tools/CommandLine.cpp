@@ -47,10 +47,10 @@ public:
         if (!failed_) *why_ = reason;
         failed_ = true;
     }
-    bool finish(const QString& folder) {
-        if (folder.isEmpty()) fail("a folder is missing");
-        return !failed_;
+    void require(bool given, const char* what) {
+        if (!given) fail(QString("%1 is missing").arg(what));
     }
+    bool failed() const { return failed_; }
 
 private:
     QStringList all_;
@@ -61,6 +61,7 @@ private:
 };
 
 constexpr unsigned kLargestSeed = 0xFFFFFFFFU;
+constexpr unsigned kLargestFrameCount = 1000000;
 
 }  // namespace
 
@@ -82,7 +83,33 @@ std::optional<CalibrateOptions> parseCalibrate(const QStringList& all, QString* 
             arguments.takeFolder(&options.folder);
         }
     }
-    if (!arguments.finish(options.folder)) return std::nullopt;
+    arguments.require(!options.folder.isEmpty(), "a folder");
+    if (arguments.failed()) return std::nullopt;
+    return options;
+}
+
+std::optional<RecordOptions> parseRecord(const QStringList& all, QString* why) {
+    RecordOptions options;
+    Arguments arguments(all, why);
+    while (arguments.next()) {
+        if (arguments.is("--frames")) {
+            options.frames = static_cast<int>(arguments.number(1, kLargestFrameCount));
+        } else {
+            arguments.takeFolder(&options.folder);
+        }
+    }
+    arguments.require(!options.folder.isEmpty(), "a folder");
+    arguments.require(options.frames > 0, "--frames");
+    if (arguments.failed()) return std::nullopt;
+    return options;
+}
+
+std::optional<InfoOptions> parseInfo(const QStringList& all, QString* why) {
+    InfoOptions options;
+    Arguments arguments(all, why);
+    while (arguments.next())
+        arguments.takeFolder(&options.folder);
+    if (arguments.failed()) return std::nullopt;
     return options;
 }
 
@@ -102,14 +129,16 @@ std::optional<SynthesizeOptions> parseSynthesize(const QStringList& all, QString
             arguments.takeFolder(&options.folder);
         }
     }
-    if (!arguments.finish(options.folder)) return std::nullopt;
+    arguments.require(!options.folder.isEmpty(), "a folder");
+    if (arguments.failed()) return std::nullopt;
     return options;
 }
 
 QString usageText() {
     return "usage: fieldcal-session calibrate DIR [--camera third|platform] [--seed N] [--json FILE|-] [--verbose]\n"
            "       fieldcal-session synthesize DIR [--world NAME] [--seed N] [--stills N] [--platform]\n"
-           "       fieldcal-session info DIR\n";
+           "       fieldcal-session record DIR --frames N       from the connected module\n"
+           "       fieldcal-session info [DIR]                  of a recording, or of the connected module\n";
 }
 
 }  // namespace fieldcal

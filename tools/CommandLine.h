@@ -24,6 +24,15 @@ struct CalibrateOptions {
     bool verbose = false;
 };
 
+struct RecordOptions {
+    QString folder;
+    int frames = 0;  ///< frame sets to grab, 1 to 1,000,000
+};
+
+struct InfoOptions {
+    QString folder;  ///< empty: the module that is connected
+};
+
 struct SynthesizeOptions {
     QString folder;
     std::string world = "square";
@@ -34,6 +43,8 @@ struct SynthesizeOptions {
 
 /// Arguments after the verb. None, and `why`, when they are wrong.
 std::optional<CalibrateOptions> parseCalibrate(const QStringList& arguments, QString* why);
+std::optional<RecordOptions> parseRecord(const QStringList& arguments, QString* why);
+std::optional<InfoOptions> parseInfo(const QStringList& arguments, QString* why);
 std::optional<SynthesizeOptions> parseSynthesize(const QStringList& arguments, QString* why);
 
 QString usageText();

@@ -1,16 +1,38 @@
+#include "engine/Rotation.h"
 #include "session/RecordedSession.h"
 #include "tools/CalibrationReport.h"
 #include "tools/CommandLine.h"
+#include "tools/ConnectedModule.h"
+#include "tools/Console.h"
 #include "tools/Verbs.h"
 
+#include <cmath>
 #include <cstdio>
 
 namespace fieldcal {
 namespace {
 
+void printModule(const session::ModuleInfo& module) {
+    std::printf("%-12s serial %u, firmware %s, software %s, calibration %s\n", "module", module.serial,
+                module.firmware.c_str(), module.software.c_str(), module.calibrationValid ? "valid" : "INVALID");
+}
+
 void printIntrinsics(const char* name, const session::Intrinsics& camera) {
     std::printf("%-12s %d x %d, fx %.2f fy %.2f cx %.2f cy %.2f\n", name, camera.width, camera.height, camera.fx,
                 camera.fy, camera.cx, camera.cy);
+}
+
+/// To four decimals, and never minus zero.
+double shown(double angleDeg) {
+    return std::round(angleDeg * 1e4) / 1e4 + 0.0;
+}
+
+void printAngles(const Matrix3& rotation) {
+    const Eigen::Vector3d anglesDeg =
+        vq::anglesFromRotation(Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(rotation.data())) *
+        vq::kDegreesPerRadian;
+    std::printf("%-12s from depth: %.4f %.4f %.4f degrees about X, Y, Z\n", "", shown(anglesDeg[0]),
+                shown(anglesDeg[1]), shown(anglesDeg[2]));
 }
 
 void printTruth(const char* name, const std::optional<Matrix3>& truth, const Matrix3& factory) {
@@ -18,20 +40,13 @@ void printTruth(const char* name, const std::optional<Matrix3>& truth, const Mat
         std::printf("%-12s %.4f degrees off the factory rotation\n", name, rotationDifferenceDeg(*truth, factory));
 }
 
-}  // namespace
-
-int runInfo(const QStringList& arguments) {
-    if (arguments.size() != 1 || arguments[0].startsWith('-')) return refuseUsage("info takes one folder");
-    const std::string folder = arguments[0].toStdString();
+int describeRecording(const std::string& folder) {
     session::SessionDescription session;
     std::string why;
     if (!session::readDescription(folder, &session, &why) || !session::verify(folder, &why)) {
-        std::fprintf(stderr, "%s\n", why.c_str());
-        return kFailed;
+        return fail(QString::fromStdString(why));
     }
-    std::printf("%-12s serial %u, firmware %s, software %s, calibration %s\n", "module", session.module.serial,
-                session.module.firmware.c_str(), session.module.software.c_str(),
-                session.module.calibrationValid ? "valid" : "INVALID");
+    printModule(session.module);
     printIntrinsics("infrared", session.infrared);
     printIntrinsics("depth", session.depth);
     printIntrinsics("third", session.third);
@@ -43,6 +58,37 @@ int runInfo(const QStringList& arguments) {
     printTruth("true third", session.truthThird, session.third.rotation);
     if (session.platform) printTruth("true platform", session.truthPlatform, session.platform->rotation);
     return kSolved;
+}
+
+/// The rear camera itself is not needed to say what the module knows about it.
+int describeConnectedModule() {
+    silenceLogs();
+    ConnectedModule module;
+    QString why;
+    if (!module.open(false, &why)) return fail(why);
+    session::SessionDescription description;
+    description.module = module.info();
+    const bool valid = description.module.calibrationValid;
+    if ((valid && !module.describe(&description, &why)) || !module.close(&why)) return fail(why);
+    printModule(description.module);
+    if (!valid) return kSolved;
+    printIntrinsics("infrared", description.infrared);
+    printIntrinsics("depth", description.depth);
+    printIntrinsics("third", description.third);
+    printAngles(description.third.rotation);
+    if (!description.platform) return kSolved;
+    printIntrinsics("platform", description.platform->rectified);
+    printAngles(description.platform->rotation);
+    return kSolved;
+}
+
+}  // namespace
+
+int runInfo(const QStringList& arguments) {
+    QString why;
+    const auto options = parseInfo(arguments, &why);
+    if (!options) return refuseUsage(why);
+    return options->folder.isEmpty() ? describeConnectedModule() : describeRecording(options->folder.toStdString());
 }
 
 }  // namespace fieldcal

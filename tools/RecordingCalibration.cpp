@@ -45,23 +45,12 @@ bool RecordingCalibration::run(QString* why) {
         }
     }
     report_.totalSeconds = watch.lap();
-    if (!deviceError_.isEmpty()) *why = deviceError_;
-    return played && deviceError_.isEmpty();
+    if (!reports_.first().isEmpty()) *why = reports_.first();
+    return played && reports_.first().isEmpty();
 }
 
 bool RecordingCalibration::open(Sensor& sensor, QString* why) {
-    const auto report = [this](const QString& text) {
-        if (deviceError_.isEmpty()) deviceError_ = QString(text).replace('\n', ' ');
-    };
-    QObject::connect(&sensor, &Sensor::signal_reportKXAPIError, report);
-    QObject::connect(&sensor, &Sensor::signal_reportMissingQ550Device,
-                     [report] { report("The depth camera was not found."); });
-    QObject::connect(&sensor, &Sensor::signal_reportMissingPlatformCamera,
-                     [report] { report("The rear camera was not found."); });
-    // Once opened, a rear camera without pictures is no failure: frames of a recording may lack them.
-    QObject::connect(&sensor, &Sensor::signal_reportPlatformCameraIssue, [&sensor, report] {
-        if (!sensor.opened()) report("The rear camera does not deliver pictures.");
-    });
+    reports_.listenTo(sensor);
     SensorSettings settings = applicationSettings();
     settings.usePlatformCamera = session_.platform.has_value();
     *why = "The camera could not be opened.";
@@ -80,7 +69,7 @@ bool RecordingCalibration::play(Sensor& sensor, CalibrationAttempt& attempt, boo
     while (report_.framesUsed < grabs && !*solved) {
         const std::size_t pairsBefore = report_.pairs.size();
         frameWatch.lap();
-        if (!sensor.grab(true) || !deviceError_.isEmpty()) return false;
+        if (!sensor.grab(true) || !reports_.first().isEmpty()) return false;
         ++report_.framesUsed;
         const auto outcome =
             attempt.processFrame(sensor.frames().leftInfrared, colourOf(sensor.frames(), platformCamera_));

@@ -6,6 +6,7 @@
 #include "engine/Stopwatch.h"
 #include "session/RecordedSession.h"
 #include "tools/CalibrationReport.h"
+#include "tools/SensorReports.h"
 #include "workflow/CalibrationAttempt.h"
 
 #include <QString>
@@ -40,7 +41,7 @@ private:
     const session::SessionDescription session_;
     const bool platformCamera_;
     const std::function<void(const QString&)> say_;
-    QString deviceError_;
+    SensorReports reports_;
     CameraParameters parameters_;
     vq::RegistrationContext context_;
     vq::CalibratorInterface engine_;

@@ -7,6 +7,7 @@ namespace fieldcal {
 /// Each verb takes the arguments after its name and gives the exit status.
 int runCalibrate(const QStringList& arguments);
 int runSynthesize(const QStringList& arguments);
+int runRecord(const QStringList& arguments);
 int runInfo(const QStringList& arguments);
 
 /// Prints the reason and how to use the program; gives the exit status for wrong usage.

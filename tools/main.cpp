@@ -15,6 +15,7 @@ int dispatch(QStringList arguments) {
     const QString verb = arguments.takeFirst();
     if (verb == "calibrate") return runCalibrate(arguments);
     if (verb == "synthesize") return runSynthesize(arguments);
+    if (verb == "record") return runRecord(arguments);
     if (verb == "info") return runInfo(arguments);
     if (verb == "--help" || verb == "-h") {
         std::printf("%s", qPrintable(usageText()));

@@ -1,69 +1,7 @@
-// The command line as people and scripts use it: the real binary, on recordings it made itself.
+#include "tests/tools/SessionTool.h"
 
-#include "session/RecordedSession.h"
-
-#include <QDir>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
-
+namespace fieldcal::testing {
 namespace {
-
-using namespace fieldcal;
-
-struct Result {
-    int status = -1;
-    QByteArray out, error;
-    QJsonObject json() const { return QJsonDocument::fromJson(out).object(); }
-    int errorLines() const { return static_cast<int>(error.count('\n')); }
-};
-
-Result run(const QStringList& arguments, const QString& faults = {}) {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    if (!faults.isEmpty()) environment.insert("KXSIM_FAULTS", faults);
-    process.setProcessEnvironment(environment);
-    process.start(TOOL, arguments);
-    process.waitForFinished(-1);
-    const int status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-    // Windows ends lines with two characters.
-    return {status, process.readAllStandardOutput().replace("\r\n", "\n"),
-            process.readAllStandardError().replace("\r\n", "\n")};
-}
-
-/// One recording for all tests, made on first use.
-class SessionToolTest : public testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        folder_ = new QTemporaryDir;
-        const Result made = run({"synthesize", recording(), "--seed", "5", "--stills", "5", "--platform"});
-        ASSERT_EQ(made.status, 0) << made.error.constData();
-    }
-    static void TearDownTestSuite() { delete folder_; }
-    static QString recording() { return folder_->filePath("recording"); }
-
-    /// A copy of the recording whose description has been changed.
-    template <typename Change>
-    static QString changed(const QString& name, Change change) {
-        QString target = folder_->filePath(name);
-        QDir().mkpath(target);
-        for (const QString& file : QDir(recording()).entryList(QDir::Files)) {
-            QFile::copy(recording() + '/' + file, target + '/' + file);
-        }
-        session::SessionDescription session;
-        std::string why;
-        EXPECT_TRUE(session::readDescription(target.toStdString(), &session, &why)) << why;
-        change(&session, target);
-        EXPECT_TRUE(session::writeDescription(target.toStdString(), session, &why)) << why;
-        return target;
-    }
-
-    static QTemporaryDir* folder_;
-};
-QTemporaryDir* SessionToolTest::folder_ = nullptr;
 
 TEST_F(SessionToolTest, SolvesARenderedRecordingForBothCameras) {
     for (const QString camera : {"third", "platform"}) {
@@ -105,7 +43,7 @@ TEST_F(SessionToolTest, PlaysToTheEndWithoutAnAnswerWhenThereIsNone) {
     EXPECT_TRUE(wrong.json()["errorDeg"].isNull());
     EXPECT_EQ(wrong.json()["rotation"], wrong.json()["factoryRotation"]);
 
-    const QString dark = folder_->filePath("dark");
+    const QString dark = path("dark");
     ASSERT_EQ(run({"synthesize", dark, "--world", "night", "--stills", "2"}).status, 0);
     const Result night = run({"calibrate", dark, "--json", "-"});
     EXPECT_EQ(night.status, 3);
@@ -114,12 +52,12 @@ TEST_F(SessionToolTest, PlaysToTheEndWithoutAnAnswerWhenThereIsNone) {
 }
 
 TEST_F(SessionToolTest, DeviceFailuresEndWithOneLineAndStatusOne) {
-    const Result grab = run({"calibrate", recording(), "--seed", "1"}, "grab:40:6");
+    const Result grab = run({"calibrate", recording(), "--seed", "1"}, {{"FAULTS", "grab:40:6"}});
     EXPECT_EQ(grab.status, 1);
     EXPECT_EQ(grab.errorLines(), 1) << grab.error.constData();
     EXPECT_TRUE(grab.error.endsWith(" - Something bad has happened with the Tarnex Deepvane camera.\n"));
 
-    const Result missing = run({"calibrate", recording()}, "openDevice:1:5");
+    const Result missing = run({"calibrate", recording()}, {{"FAULTS", "openDevice:1:5"}});
     EXPECT_EQ(missing.status, 1);
     EXPECT_EQ(missing.errorLines(), 1) << missing.error.constData();
 
@@ -133,7 +71,7 @@ TEST_F(SessionToolTest, DeviceFailuresEndWithOneLineAndStatusOne) {
 }
 
 TEST_F(SessionToolTest, UnreadableRecordingsAreNamedWithFileAndReason) {
-    const Result nowhere = run({"calibrate", folder_->filePath("nowhere")});
+    const Result nowhere = run({"calibrate", path("nowhere")});
     EXPECT_EQ(nowhere.status, 1);
     EXPECT_EQ(nowhere.errorLines(), 1) << nowhere.error.constData();
     EXPECT_TRUE(nowhere.error.contains("session.json"));
@@ -159,7 +97,10 @@ TEST_F(SessionToolTest, WrongUsageIsRefusedWithStatusTwo) {
                                    {"calibrate", recording(), "--colour"},
                                    {"synthesize", "x", "--world", "atlantis"},
                                    {"synthesize", "x", "--stills", "0"},
-                                   {"info"}};
+                                   {"info", "a", "b"},
+                                   {"record", "x"},
+                                   {"record", "--frames", "1"},
+                                   {"record", "x", "--frames", "0"}};
     for (const QStringList& arguments : wrong) {
         const Result result = run(arguments);
         EXPECT_EQ(result.status, 2) << arguments.join(' ').toStdString();
@@ -169,3 +110,4 @@ TEST_F(SessionToolTest, WrongUsageIsRefusedWithStatusTwo) {
 }
 
 }  // namespace
+}  // namespace fieldcal::testing

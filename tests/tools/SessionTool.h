@@ -1,0 +1,72 @@
+#pragma once
+
+#include "session/RecordedSession.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+#include <map>
+
+/// The command line as people and scripts use it: the real binary, on recordings it made itself.
+namespace fieldcal::testing {
+
+struct Result {
+    int status = -1;
+    QByteArray out, error;
+    QJsonObject json() const { return QJsonDocument::fromJson(out).object(); }
+    int errorLines() const { return static_cast<int>(error.count('\n')); }
+};
+
+/// `knobs` are for the simulated module: "FAULTS" stands for KXSIM_FAULTS.
+inline Result run(const QStringList& arguments, const std::map<QString, QString>& knobs = {}) {
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const auto& [knob, value] : knobs)
+        environment.insert("KXSIM_" + knob, value);
+    process.setProcessEnvironment(environment);
+    process.start(TOOL, arguments);
+    process.waitForFinished(-1);
+    const int status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    // Windows ends lines with two characters.
+    return {status, process.readAllStandardOutput().replace("\r\n", "\n"),
+            process.readAllStandardError().replace("\r\n", "\n")};
+}
+
+/// One recording for all tests, made on first use.
+class SessionToolTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        if (QDir(recording()).exists()) return;
+        const Result made = run({"synthesize", recording(), "--seed", "5", "--stills", "5", "--platform"});
+        ASSERT_EQ(made.status, 0) << made.error.constData();
+    }
+    /// A path in a folder that goes when the program ends.
+    static QString path(const QString& name) {
+        static const QTemporaryDir folder;
+        return folder.filePath(name);
+    }
+    static QString recording() { return path("recording"); }
+
+    /// A copy of the recording whose description has been changed.
+    template <typename Change>
+    static QString changed(const QString& name, Change change) {
+        QString target = path(name);
+        QDir().mkpath(target);
+        for (const QString& file : QDir(recording()).entryList(QDir::Files)) {
+            QFile::copy(recording() + '/' + file, target + '/' + file);
+        }
+        session::SessionDescription session;
+        std::string why;
+        EXPECT_TRUE(session::readDescription(target.toStdString(), &session, &why)) << why;
+        change(&session, target);
+        EXPECT_TRUE(session::writeDescription(target.toStdString(), session, &why)) << why;
+        return target;
+    }
+};
+
+}  // namespace fieldcal::testing

@@ -1,0 +1,56 @@
+#include "tools/CommandLine.h"
+#include "tools/ConnectedModule.h"
+#include "tools/Console.h"
+#include "tools/RecordingWriter.h"
+#include "tools/Verbs.h"
+
+namespace fieldcal {
+namespace {
+
+constexpr int kFramesPerProgressLine = 50;
+
+bool record(ConnectedModule& module, const RecordOptions& options, RecordingWriter* recording, QString* why) {
+    std::string reason;
+    for (int done = 0; done < options.frames;) {
+        session::FramePictures pictures;
+        if (!module.grab(&pictures, why)) return false;
+        if (!recording->add(std::move(pictures), &reason)) {
+            *why = QString::fromStdString(reason);
+            return false;
+        }
+        if (++done % kFramesPerProgressLine == 0 && done < options.frames) {
+            printLine(QString("%1 of %2 frame sets").arg(done).arg(options.frames));
+        }
+    }
+    // Only a recording whose module was let go in good order counts.
+    if (!module.close(why)) return false;
+    if (recording->finish(&reason)) return true;
+    *why = QString::fromStdString(reason);
+    return false;
+}
+
+}  // namespace
+
+int runRecord(const QStringList& arguments) {
+    QString why;
+    const auto options = parseRecord(arguments, &why);
+    if (!options) return refuseUsage(why);
+    silenceLogs();
+
+    ConnectedModule module;
+    session::SessionDescription description;
+    if (!module.open(true, &why) || !module.describe(&description, &why)) return fail(why);
+    if (!module.hasRearCamera()) description.platform.reset();
+    RecordingWriter recording(options->folder.toStdString(), description);
+    std::string reason;
+    if (!recording.start(&reason)) return fail(QString::fromStdString(reason));
+    if (!record(module, *options, &recording, &why)) return fail(why);
+    printLine(QString("recorded %1 frame sets as %2 frames, %3, in %4")
+                  .arg(options->frames)
+                  .arg(recording.frameCount())
+                  .arg(description.platform ? "with the rear camera" : "without a rear camera")
+                  .arg(options->folder));
+    return kSolved;
+}
+
+}  // namespace fieldcal

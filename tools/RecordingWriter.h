@@ -1,0 +1,42 @@
+#pragma once
+
+#include "session/RecordedSession.h"
+
+#include <string>
+
+namespace fieldcal {
+
+/// Puts what a module delivers, grab by grab, into a recording that plays back as it was delivered: frame sets that
+/// follow each other unchanged become one frame that repeats. The description is written last, so a folder without
+/// one is no recording; a recording that is not finished takes its files away again. Failures: false and `why`, one
+/// line "file: key: reason".
+class RecordingWriter {
+public:
+    /// `description`: the cameras; its frames are filled here.
+    RecordingWriter(std::string folder, session::SessionDescription description);
+    ~RecordingWriter();
+    RecordingWriter(const RecordingWriter&) = delete;
+    RecordingWriter& operator=(const RecordingWriter&) = delete;
+
+    /// Makes the folder. Refused when there is something in it already.
+    bool start(std::string* why);
+
+    /// `platform` is empty when the rear camera brought nothing new.
+    bool add(session::FramePictures pictures, std::string* why);
+
+    bool finish(std::string* why);
+
+    std::size_t frameCount() const { return description_.frames.size(); }
+
+private:
+    bool repeatsLast(const session::FramePictures& pictures) const;
+    bool canBePlayed(const session::FramePictures& pictures, std::string* why) const;
+
+    const std::string folder_;
+    session::SessionDescription description_;
+    session::FramePictures last_;
+    bool madeFolder_ = false;
+    bool finished_ = false;
+};
+
+}  // namespace fieldcal
