@@ -13,6 +13,9 @@ using Flash = WriteBackReport::Flash;
 /// 0.57 degrees about Z.
 constexpr Rotation kTurned{0.99995F, -0.0099998F, 0, 0.0099998F, 0.99995F, 0, 0, 0, 1};
 
+/// Long for a call that does nothing, even on a busy machine.
+constexpr std::chrono::milliseconds kShort{250};
+
 class ModuleFaultsTest : public ModuleRig {
 protected:
     void expectReport(int status) const {
@@ -129,7 +132,8 @@ TEST_F(ModuleFaultsTest, WhatIsNotThereIsNamedOnce) {
 }
 
 TEST_F(ModuleFaultsTest, ACallThatHangsIsGivenUpEverywhere) {
-    callLimit = std::chrono::milliseconds(60);
+    dropPlatform();
+    callLimit = kShort;
     for (const ReadOperation& operation : kFatal) {
         if (std::string(operation.name) == "hardwareControl") continue;  // a getter; it is not watched
         SCOPED_TRACE(operation.name);
@@ -153,7 +157,8 @@ constexpr WriteOperation kWriting[] = {{"stopCapture", 1, true},       {"rectPar
 
 class WriteFaultsTest : public ModuleFaultsTest {
 protected:
-    WriteFaultsTest() {
+    WriteFaultsTest() { takeBaseline(); }
+    void takeBaseline() {
         factory = stored();
         EXPECT_TRUE(sensor->updateRotation(kTurned, parameters.depthToOutOfModule.rotation));
         turned = stored();
@@ -221,20 +226,25 @@ TEST_F(WriteFaultsTest, EveryCallWithEveryStatus) {
     }
 }
 
-TEST_F(WriteFaultsTest, HangsAndLies) {
+TEST_F(WriteFaultsTest, Lies) {
     for (const WriteOperation& operation : kWriting) {
-        if (operation.canLie) {
-            SCOPED_TRACE(std::string(operation.name) + " lies");
-            // A module that does not resume has stored the block all the same.
-            const bool stored = std::string(operation.name) == "resumeDevice";
-            EXPECT_EQ(tryWriting(QString("%1:%2:lie").arg(operation.name).arg(operation.call)), stored);
-        }
+        if (!operation.canLie) continue;
+        SCOPED_TRACE(operation.name);
+        // A module that does not resume has stored the block all the same.
+        const bool stored = std::string(operation.name) == "resumeDevice";
+        EXPECT_EQ(tryWriting(QString("%1:%2:lie").arg(operation.name).arg(operation.call)), stored);
+    }
+}
+
+TEST_F(WriteFaultsTest, Hangs) {
+    dropPlatform();
+    takeBaseline();
+    callLimit = kShort;
+    for (const WriteOperation& operation : kWriting) {
         if (std::string(operation.name) == "privateInterface") continue;  // a getter; it is not watched
-        SCOPED_TRACE(std::string(operation.name) + " hangs");
-        callLimit = std::chrono::milliseconds(60);
+        SCOPED_TRACE(operation.name);
         EXPECT_FALSE(tryWriting(QString("%1:%2:hang").arg(operation.name).arg(operation.call)));
         EXPECT_EQ(firstReports[0], "The camera does not answer - An unknown error has occured.");
-        callLimit = std::chrono::milliseconds(10000);
     }
 }
 

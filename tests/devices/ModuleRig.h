@@ -32,6 +32,18 @@ protected:
     }
     static void set(const char* variable, const QString& value) { qputenv(variable, value.toLocal8Bit()); }
 
+    /// From here on the recording has no platform camera, whose read-out takes long.
+    void dropPlatform() {
+        std::string why;
+        session::SessionDescription description;
+        ASSERT_TRUE(session::readDescription(folder, &description, &why)) << why;
+        description.platform.reset();
+        for (session::FrameEntry& frame : description.frames)
+            frame.platform.clear();
+        ASSERT_TRUE(session::writeDescription(folder, description, &why)) << why;
+        QFile::remove(flashFile);
+    }
+
     /// A new program on a tablet that was just switched on.
     void start(const QString& faults = {}) {
         set("KXSIM_FAULTS", faults);
