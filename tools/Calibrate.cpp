@@ -37,7 +37,11 @@ int runCalibrate(const QStringList& arguments) {
     std::srand(options->seed ? *options->seed : std::random_device{}());
     const bool toPeople = options->jsonFile != "-";
     RecordingCalibration calibration(folder, session, options->platformCamera, toPeople ? printLine : nullptr);
+    calibration.setWriting(options->write);
     if (!calibration.run(&why)) return fail(why);
+    if (!options->stateFile.isEmpty() && !calibration.engineState().writeToFile(options->stateFile.toStdString())) {
+        return fail(options->stateFile + ": cannot be written");
+    }
 
     const CalibrationReport& report = calibration.report();
     if (toPeople) std::printf("%s", qPrintable(reportText(report)));

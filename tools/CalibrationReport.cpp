@@ -67,7 +67,7 @@ QByteArray reportJson(const CalibrationReport& report) {
     QJsonArray perPair;
     for (const PairReport& pair : report.pairs)
         perPair.append(jsonPair(pair));
-    const QJsonObject object{
+    QJsonObject object{
         {"solved", report.solved},
         {"camera", report.platformCamera ? "platform" : "third"},
         {"pairs", static_cast<int>(report.pairs.size())},
@@ -79,6 +79,7 @@ QByteArray reportJson(const CalibrationReport& report) {
         {"uncertaintyDeg", report.uncertaintyDeg ? QJsonValue(jsonNumbers(*report.uncertaintyDeg)) : QJsonValue()},
         {"perPair", perPair},
         {"seconds", jsonSeconds(report)}};
+    if (report.written) object.insert("written", *report.written);
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 

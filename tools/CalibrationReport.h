@@ -30,6 +30,7 @@ struct CalibrationReport {
     std::optional<double> errorDeg;                       ///< only when solved and when the recording holds the truth
     std::optional<std::array<double, 3>> uncertaintyDeg;  ///< one standard deviation of each angle
     std::vector<PairReport> pairs;                        ///< of all attempts
+    std::optional<bool> written;  ///< only when asked for: whether the module's flash holds the rotation
     double totalSeconds = 0;
     double frameSeconds = 0;  ///< grabbing, brightness and frame selection of all frames
 

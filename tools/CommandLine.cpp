@@ -34,15 +34,8 @@ public:
         }
         return number;
     }
-    void takeFolder(QString* folder) {
-        if (current_.startsWith('-') && current_.size() > 1) {
-            fail(QString("unknown option %1").arg(current_));
-        } else if (!folder->isEmpty()) {
-            fail(QString("one folder too many: %1").arg(current_));
-        } else {
-            *folder = current_;
-        }
-    }
+    void takeFolder(QString* folder) { takeOnly("folder", folder); }
+    void takeFile(QString* file) { takeOnly("file", file); }
     void fail(const QString& reason) {
         if (!failed_) *why_ = reason;
         failed_ = true;
@@ -53,6 +46,16 @@ public:
     bool failed() const { return failed_; }
 
 private:
+    void takeOnly(const char* what, QString* out) {
+        if (current_.startsWith('-') && current_.size() > 1) {
+            fail(QString("unknown option %1").arg(current_));
+        } else if (!out->isEmpty()) {
+            fail(QString("one %1 too many: %2").arg(what, current_));
+        } else {
+            *out = current_;
+        }
+    }
+
     QStringList all_;
     QString* why_;
     QString current_;
@@ -79,6 +82,10 @@ std::optional<CalibrateOptions> parseCalibrate(const QStringList& all, QString* 
             options.jsonFile = arguments.value();
         } else if (arguments.is("--verbose")) {
             options.verbose = true;
+        } else if (arguments.is("--write")) {
+            options.write = true;
+        } else if (arguments.is("--state")) {
+            options.stateFile = arguments.value();
         } else {
             arguments.takeFolder(&options.folder);
         }
@@ -113,6 +120,25 @@ std::optional<InfoOptions> parseInfo(const QStringList& all, QString* why) {
     return options;
 }
 
+std::optional<BackupOptions> parseBackup(const QStringList& all, QString* why) {
+    BackupOptions options;
+    Arguments arguments(all, why);
+    while (arguments.next())
+        arguments.takeFile(&options.file);
+    if (arguments.failed()) return std::nullopt;
+    return options;
+}
+
+std::optional<RestoreOptions> parseRestore(const QStringList& all, QString* why) {
+    RestoreOptions options;
+    Arguments arguments(all, why);
+    while (arguments.next())
+        arguments.takeFile(&options.file);
+    arguments.require(!options.file.isEmpty(), "a file");
+    if (arguments.failed()) return std::nullopt;
+    return options;
+}
+
 std::optional<SynthesizeOptions> parseSynthesize(const QStringList& all, QString* why) {
     SynthesizeOptions options;
     Arguments arguments(all, why);
@@ -135,10 +161,13 @@ std::optional<SynthesizeOptions> parseSynthesize(const QStringList& all, QString
 }
 
 QString usageText() {
-    return "usage: fieldcal-session calibrate DIR [--camera third|platform] [--seed N] [--json FILE|-] [--verbose]\n"
+    return "usage: fieldcal-session calibrate DIR [--camera third|platform] [--seed N] [--json FILE|-] [--write]\n"
+           "                                  [--state FILE] [--verbose]\n"
            "       fieldcal-session synthesize DIR [--world NAME] [--seed N] [--stills N] [--platform]\n"
            "       fieldcal-session record DIR --frames N       from the connected module\n"
-           "       fieldcal-session info [DIR]                  of a recording, or of the connected module\n";
+           "       fieldcal-session info [DIR]                  of a recording, or of the connected module\n"
+           "       fieldcal-session backup [FILE]               keeps the connected module's parameter block\n"
+           "       fieldcal-session restore FILE                writes such a block back\n";
 }
 
 }  // namespace fieldcal

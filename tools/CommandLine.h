@@ -22,6 +22,8 @@ struct CalibrateOptions {
     std::optional<unsigned> seed;
     QString jsonFile;  ///< empty: none; "-": standard output, instead of the text for people
     bool verbose = false;
+    bool write = false;  ///< into the module's flash, when solved
+    QString stateFile;   ///< where the engine's state goes; empty: nowhere
 };
 
 struct RecordOptions {
@@ -31,6 +33,14 @@ struct RecordOptions {
 
 struct InfoOptions {
     QString folder;  ///< empty: the module that is connected
+};
+
+struct BackupOptions {
+    QString file;  ///< empty: a dated one in the user's data folder
+};
+
+struct RestoreOptions {
+    QString file;
 };
 
 struct SynthesizeOptions {
@@ -45,6 +55,8 @@ struct SynthesizeOptions {
 std::optional<CalibrateOptions> parseCalibrate(const QStringList& arguments, QString* why);
 std::optional<RecordOptions> parseRecord(const QStringList& arguments, QString* why);
 std::optional<InfoOptions> parseInfo(const QStringList& arguments, QString* why);
+std::optional<BackupOptions> parseBackup(const QStringList& arguments, QString* why);
+std::optional<RestoreOptions> parseRestore(const QStringList& arguments, QString* why);
 std::optional<SynthesizeOptions> parseSynthesize(const QStringList& arguments, QString* why);
 
 QString usageText();

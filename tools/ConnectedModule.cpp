@@ -134,6 +134,26 @@ bool ConnectedModule::describePlatform(session::PlatformCamera* out) {
     return true;
 }
 
+bool ConnectedModule::readBlock(ParameterBackup* out, QString* why) {
+    out->serial = sensor_->serialNumber();
+    out->taken = QDateTime::currentDateTimeUtc();
+    return sensor_->read(sensor_->device().get(), &KXDevice::rectParameters, &out->block) ||
+           failed(why, "The parameter block cannot be read.");
+}
+
+bool ConnectedModule::restoreBlock(const ParameterBackup& backup, QString* done, QString* why) {
+    if (backup.serial != sensor_->serialNumber()) {
+        *why = QString("the backup is of module %1, the connected one is %2")
+                   .arg(backup.serial)
+                   .arg(sensor_->serialNumber());
+        return false;
+    }
+    const bool restored = sensor_->restoreParameters(backup.block);
+    *done = flashText(sensor_->writeBack());
+    if (!restored) *why = QString("%1 (%2)").arg(sensor_->writeBack().reason, *done);
+    return restored;
+}
+
 bool ConnectedModule::grab(session::FramePictures* out, QString* why) {
     constexpr const char* kNothing = "The camera delivers no pictures.";
     if (!sensor_->grab(true) || !reports_.first().isEmpty()) return failed(why, kNothing);

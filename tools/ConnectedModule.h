@@ -1,5 +1,6 @@
 #pragma once
 
+#include "devices/ParameterBackup.h"
 #include "devices/Sensor.h"
 #include "session/RecordedSession.h"
 #include "tools/SensorReports.h"
@@ -29,6 +30,11 @@ public:
 
     /// Whether grabs bring the rear camera's pictures.
     bool hasRearCamera() const { return sensor_->settings().usePlatformCamera; }
+
+    /// The module's parameter block as it is now.
+    bool readBlock(ParameterBackup* out, QString* why);
+    /// Writes a block of this very module back into its flash. `done` gets what the flash holds then.
+    bool restoreBlock(const ParameterBackup& backup, QString* done, QString* why);
 
     /// Lets the module go. False when that, too, failed.
     bool close(QString* why);

@@ -42,9 +42,11 @@ bool RecordingCalibration::run(QString* why) {
             bool solved = false;
             played = play(sensor, attempt, &solved);
             finish(solved);
+            if (writing_ && solved) played = write(sensor, why) && played;
         }
     }
     report_.totalSeconds = watch.lap();
+    if (report_.written == false) return false;
     if (!reports_.first().isEmpty()) *why = reports_.first();
     return played && reports_.first().isEmpty();
 }
@@ -102,6 +104,29 @@ void RecordingCalibration::finish(bool solved) {
     for (std::size_t axis = 0; axis < 3; ++axis) {
         report_.anglesDeg[axis] = anglesRad[static_cast<Eigen::Index>(axis)] * vq::kDegreesPerRadian;
     }
+}
+
+bool RecordingCalibration::write(Sensor& sensor, QString* why) {
+    Rotation rotation{};
+    engine_.getRotationMatrix(rotation.data());
+    const Rotation& third = platformCamera_ ? parameters_.depthToInModule.rotation : rotation;
+    const Rotation& platform = platformCamera_ ? rotation : parameters_.depthToOutOfModule.rotation;
+    report_.written = sensor.updateRotation(third, platform);
+    const WriteBackReport& done = sensor.writeBack();
+    if (*report_.written) {
+        if (say_) say_(flashText(done) + " The previous one is kept in " + done.backupFile);
+    } else {
+        *why = QString("%1 (%2)").arg(done.reason, flashText(done));
+    }
+    return *report_.written;
+}
+
+vq::CalibrationState RecordingCalibration::engineState() const {
+    vq::Pose pose = context_.defaultExtrinsics;
+    pose.topLeftCorner<3, 3>() =
+        Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(report_.rotation.data()).cast<float>();
+    return vq::calibrationState(context_.infraredModel, parameters_.inModuleColour, context_.colourModel, pose,
+                                platformCamera_ ? 1 : 0);
 }
 
 void RecordingCalibration::pairCaptured() {

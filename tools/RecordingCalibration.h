@@ -2,6 +2,7 @@
 
 #include "camera/CameraParameters.h"
 #include "devices/Sensor.h"
+#include "engine/CalibrationState.h"
 #include "engine/CalibratorInterface.h"
 #include "engine/Stopwatch.h"
 #include "session/RecordedSession.h"
@@ -24,14 +25,19 @@ public:
     RecordingCalibration(std::string folder, session::SessionDescription session, bool platformCamera,
                          std::function<void(const QString&)> say);
 
+    /// Also writes a solution into the module's flash.
+    void setWriting(bool on) { writing_ = on; }
     /// False when the device fails, and `why` then says how in one line.
     bool run(QString* why);
+    /// Of the engine after `run`: cameras and rotation as it last had them.
+    vq::CalibrationState engineState() const;
     const CalibrationReport& report() const { return report_; }
 
 private:
     bool open(Sensor& sensor, QString* why);
     bool play(Sensor& sensor, CalibrationAttempt& attempt, bool* solved);
     void finish(bool solved);
+    bool write(Sensor& sensor, QString* why);
     void pairProcessed(const vq::CalibratorResult& result) override;
     void pairCaptured() override;
     void startText(const std::string& text) override;
@@ -49,6 +55,7 @@ private:
     CalibrationReport report_;
     vq::Stopwatch pairWatch_;
     bool dark_ = false;
+    bool writing_ = false;
 };
 
 }  // namespace fieldcal

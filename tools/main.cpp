@@ -17,6 +17,8 @@ int dispatch(QStringList arguments) {
     if (verb == "synthesize") return runSynthesize(arguments);
     if (verb == "record") return runRecord(arguments);
     if (verb == "info") return runInfo(arguments);
+    if (verb == "backup") return runBackup(arguments);
+    if (verb == "restore") return runRestore(arguments);
     if (verb == "--help" || verb == "-h") {
         std::printf("%s", qPrintable(usageText()));
         return kSolved;

@@ -1,0 +1,51 @@
+#include "devices/ParameterBackup.h"
+#include "tools/CommandLine.h"
+#include "tools/ConnectedModule.h"
+#include "tools/Console.h"
+#include "tools/Verbs.h"
+
+namespace fieldcal {
+namespace {
+
+bool keep(const ParameterBackup& backup, QString* file, QString* why) {
+    if (file->isEmpty()) return keepBackup(userDataFolder() + "/backups", backup, file, why);
+    return writeBackup(*file, backup, why);
+}
+
+}  // namespace
+
+int runBackup(const QStringList& arguments) {
+    QString why;
+    const auto options = parseBackup(arguments, &why);
+    if (!options) return refuseUsage(why);
+    silenceLogs();
+    ConnectedModule module;
+    ParameterBackup backup;
+    QString file = options->file;
+    if (!module.open(false, &why) || !module.readBlock(&backup, &why) || !module.close(&why) ||
+        !keep(backup, &file, &why)) {
+        return fail(why);
+    }
+    printLine(QString("The parameter block of module %1 is kept in %2").arg(backup.serial).arg(file));
+    return kSolved;
+}
+
+int runRestore(const QStringList& arguments) {
+    QString why;
+    const auto options = parseRestore(arguments, &why);
+    if (!options) return refuseUsage(why);
+    silenceLogs();
+    ParameterBackup backup;
+    if (!readBackup(options->file, &backup, &why)) return fail(why);
+    ConnectedModule module;
+    QString done;
+    if (!module.open(false, &why)) return fail(why);
+    if (!module.restoreBlock(backup, &done, &why)) return fail(why);
+    if (!module.close(&why)) return fail(why);
+    printLine(QString("The parameter block of %1 is in module %2 again.")
+                  .arg(backup.taken.toString(Qt::ISODate))
+                  .arg(backup.serial));
+    return kSolved;
+}
+
+}  // namespace fieldcal
