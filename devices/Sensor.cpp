@@ -61,6 +61,7 @@ bool Sensor::switchEmitter(KXEmitterControl& emitter, bool on) {
 
 bool Sensor::checkStatus(bool callSucceeded) {
     if (callSucceeded) return true;
+    if (faulted_) return false;
     const std::int32_t status = device_ != nullptr ? device_->lastStatus() : 0;
     reportFault(status, statusString(status));
     return false;

@@ -82,7 +82,7 @@ public:
     /// About the last `updateRotation` or `restoreParameters`.
     const WriteBackReport& writeBack() const { return writeBack_; }
 
-    /// Takes the result of every call of the camera library and passes it on; a failed one is reported.
+    /// Takes the result of every call of the camera library and passes it on; the first failed one is reported.
     bool checkStatus(bool callSucceeded);
 
     /// Makes one call of the camera library and checks its status. A call that does not return is given up, at the

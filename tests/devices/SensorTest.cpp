@@ -121,13 +121,14 @@ TEST_F(SensorTest, EveryStatusHasItsMessage) {
     messages[11] =
         "Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your "
         "firmware and run the application again.";
-    ASSERT_TRUE(sensor->open(withoutPlatform()));
-    EXPECT_TRUE(sensor->checkStatus(true));
     for (std::int32_t status = 0; status <= 13; ++status) {
         SCOPED_TRACE(status);
-        emitted.clear();
+        renew();
+        ASSERT_TRUE(sensor->open(withoutPlatform()));
+        EXPECT_TRUE(sensor->checkStatus(true));
         device->status = status;
         EXPECT_FALSE(sensor->checkStatus(false));
+        EXPECT_FALSE(sensor->checkStatus(false)) << "reported once";
         EXPECT_THAT(emitted, ElementsAre(status == 5 ? "MissingQ550" : kText + messages[status]));
     }
 }
