@@ -5,6 +5,11 @@
 #include <utility>
 
 namespace fieldcal {
+namespace {
+
+constexpr std::chrono::milliseconds kReleaseLimit{500};
+
+}
 
 Sensor::Sensor() : Sensor(systemEnvironment()) {}
 
@@ -12,10 +17,17 @@ Sensor::Sensor(SensorEnvironment environment) : environment_(std::move(environme
 
 Sensor::~Sensor() {
     platformCamera_.reset();
-    device_.reset();
+    releaseDevice();
     PXMServiceManager& services = *environment_.services;
     if (!services.restorePXMService()) emit signal_reportKXAPIError(services.lastError());
     services.setStopFlag(nullptr);
+}
+
+/// A module that does not let go must not keep the service from being restored.
+void Sensor::releaseDevice() {
+    if (device_ == nullptr) return;
+    const auto last = std::make_shared<std::shared_ptr<KXDevice>>(std::move(device_));
+    calls_.run([last] { last->reset(); }, kReleaseLimit, nullptr);
 }
 
 void Sensor::setStopFlag(const std::atomic<bool>* stop) {

@@ -130,6 +130,7 @@ signals:
     void signal_reportPlatformCameraIssue();
 
 private:
+    void releaseDevice();
     bool shutDownService();
     bool loadLibrary();
     bool openPlatformCamera();

@@ -55,7 +55,7 @@ std::optional<SaveNote> readSaveNote(const QString& folder) {
         complain(folder, "it is no note that this program can read");
         return note;
     }
-    note.serial = static_cast<std::uint32_t>(object["serial"].toDouble());
+    note.serial = object["serial"].toVariant().toUInt();
     note.begun = QDateTime::fromString(object["begun"].toString(), Qt::ISODateWithMs);
     note.reason = object["reason"].toString();
     note.flash = object["flash"].toString();

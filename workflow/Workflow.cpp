@@ -1,5 +1,7 @@
 #include "workflow/Workflow.h"
 
+#include "workflow/Saving.h"
+
 #include <utility>
 
 namespace fieldcal {
@@ -57,33 +59,16 @@ LeaveReport Workflow::save() {
     acceptRefinement();
     LeaveReport report;
     leaving_ = true;
-    if (sensor_ != nullptr) report.stored = store(&report);
+    if (sensor_ != nullptr) {
+        report.stored = storeCalibration(*sensor_, records_, environment_.dataFolder);
+        report.writeBack = sensor_->writeBack();
+    }
     return close(report);
 }
 
 LeaveReport Workflow::leave() {
     leaving_ = true;
     return close({});
-}
-
-bool Workflow::store(LeaveReport* report) {
-    SaveNote note{sensor_->serialNumber(), QDateTime::currentDateTimeUtc(), {}, {}, {}};
-    const bool matters = records_.anyAccepted();
-    // Before the write: should the program not live to see its end, the next start knows.
-    if (matters) writeSaveNote(environment_.dataFolder, note);
-    const bool stored =
-        sensor_->updateRotation(records_.toStore(ColourCamera::InModule), records_.toStore(ColourCamera::OutOfModule));
-    report->writeBack = sensor_->writeBack();
-    if (!stored) {
-        qInfo("Failed to store calibration information to flash.");
-        note.reason = report->writeBack.reason;
-        note.flash = flashText(report->writeBack);
-        note.backupFile = report->writeBack.backupFile;
-        if (matters) writeSaveNote(environment_.dataFolder, note);
-    } else if (matters) {
-        removeSaveNote(environment_.dataFolder);
-    }
-    return stored;
 }
 
 LeaveReport Workflow::close(LeaveReport report) {

@@ -81,7 +81,6 @@ private:
     // Workflow.cpp: the user's actions and leaving.
     void acceptRefinement();
     void want(std::function<void()> work);
-    bool store(LeaveReport* report);
     LeaveReport close(LeaveReport report);
 
     // WorkflowLoop.cpp: one function for each state that has a step.
