@@ -62,13 +62,12 @@ bool fillModule(Sensor& sensor, const ModuleRecords& records, CameraParameters* 
 }
 
 bool fillPlatform(Sensor& sensor, KXDevice& device, CameraParameters* out) {
-    KXPlatformCamera* camera = device.platformCamera();
-    if (camera == nullptr) return false;
     // What fails in here is logged, and no fault of the module's; only a camera that does not answer is one.
     const auto platform = std::make_shared<PlatformParameters>();
     const auto usable = std::make_shared<bool>(false);
-    const auto call = [=, library = sensor.library(), infrared = out->infrared] {
-        *usable = readPlatformParameters(*camera, *library, infrared, platform.get());
+    const auto call = [=, from = &device, library = sensor.library(), infrared = out->infrared] {
+        KXPlatformCamera* camera = from->platformCamera();
+        *usable = camera != nullptr && readPlatformParameters(*camera, *library, infrared, platform.get());
         return true;
     };
     if (!sensor.ask(call) || !*usable) return false;
@@ -94,7 +93,13 @@ bool readCameraParameters(Sensor& sensor, CameraParameters* out,
                           const std::function<void()>& forceSingleCameraCalibration) {
     const std::shared_ptr<KXDevice> device = sensor.device();
     if (!sensor.opened() || sensor.faulted()) return false;
-    if (!device->calibrationValid()) return refuse(sensor, "Calibration was reported to be invalid...");
+    const auto valid = std::make_shared<bool>(false);
+    const auto askWhetherValid = [device, valid] {
+        *valid = device->calibrationValid();
+        return true;
+    };
+    if (!sensor.ask(askWhetherValid)) return false;
+    if (!*valid) return refuse(sensor, "Calibration was reported to be invalid...");
 
     ModuleRecords records;
     CameraParameters parameters;

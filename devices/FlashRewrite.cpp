@@ -37,9 +37,14 @@ FlashRewrite::FlashRewrite(Sensor& sensor, QString backupFolder, WriteBackReport
     : sensor_(sensor), backupFolder_(std::move(backupFolder)), report_(*report) {}
 
 bool FlashRewrite::run(const Change& change) {
-    if (!prepare(change)) return false;
-    const bool stored = write(wanted_) && confirm();
+    if (!prepare(change)) {
+        resume();
+        return false;
+    }
+    const bool stored = write() && keeps() && resume() && readAgain() && keeps();
     if (!stored) {
+        putBackWhatArrivedWrong();
+        resume();
         if (report_.reason.isEmpty()) report_.reason = sensor_.faultText();
         qCritical("The calibration was not stored: %s", qUtf8Printable(report_.reason));
     }
@@ -50,11 +55,9 @@ bool FlashRewrite::run(const Change& change) {
 /// Up to here nothing has been sent to the flash.
 bool FlashRewrite::prepare(const Change& change) {
     KXDevice* device = sensor_.device().get();
-    if (!sensor_.ask([device] { return device->stopCapture(); }) ||
-        !sensor_.read(device, &KXDevice::rectParameters, &previous_)) {
-        report_.reason = sensor_.faultText();
-        return false;
-    }
+    if (!sensor_.ask([device] { return device->stopCapture(); })) return failed();
+    resting_ = true;
+    if (!sensor_.read(device, &KXDevice::rectParameters, &previous_)) return failed();
     QString why;
     const ParameterBackup backup{sensor_.serialNumber(), QDateTime::currentDateTimeUtc(), previous_};
     if (!keepBackup(backupFolder_, backup, &report_.backupFile, &why)) {
@@ -62,41 +65,76 @@ bool FlashRewrite::prepare(const Change& change) {
     }
     qInfo("The present calibration is kept in %s", qUtf8Printable(report_.backupFile));
     if (!change(previous_, &wanted_, &why)) return refuse(why);
+    const auto found = std::make_shared<KXPrivate*>(nullptr);
+    const auto find = [device, found] { return (*found = device->privateInterface()) != nullptr; };
+    if (!sensor_.ask(find)) return failed();
+    access_ = *found;
     return true;
 }
 
-bool FlashRewrite::write(const KXCalibRectParameters& block) {
-    KXDevice* device = sensor_.device().get();
-    KXPrivate* access = device->privateInterface();
-    if (!sensor_.checkStatus(access != nullptr)) return false;
-    const auto sent = std::make_shared<const KXCalibRectParameters>(block);
+bool FlashRewrite::write() {
+    KXPrivate* access = access_;
+    const auto sent = std::make_shared<const KXCalibRectParameters>(wanted_);
     const bool called = sensor_.ask([access, sent] { return access->writeRectParameters(sent.get(), true); }) &&
-                        sensor_.ask([access] { return access->commitCalibration(); }) &&
-                        sensor_.ask([device] { return device->resumeDevice(); });
-    KXCalibRectParameters found{};
-    const bool known = called ? sensor_.read(device, &KXDevice::rectParameters, &found) : sensor_.readQuietly(&found);
-    report_.flash = known ? compare(found) : Flash::Unknown;
-    return called && known;
-}
-
-/// All calls have succeeded; whether the block is there is another matter.
-bool FlashRewrite::confirm() {
-    if (report_.flash == Flash::Written) return true;
-    report_.reason = "The camera said that it stored the calibration, but it did not";
-    if (report_.flash == Flash::Other) putBack();
-    if (!sensor_.faulted()) sensor_.reportWriteNotKept(report_.reason);
+                        sensor_.ask([access] { return access->commitCalibration(); });
+    if (called) return readAgain();
+    readQuietly();
     return false;
 }
 
-void FlashRewrite::putBack() {
+bool FlashRewrite::readAgain() {
+    KXCalibRectParameters found{};
+    if (sensor_.read(sensor_.device().get(), &KXDevice::rectParameters, &found)) {
+        report_.flash = compare(found);
+        return true;
+    }
+    readQuietly();
+    return false;
+}
+
+void FlashRewrite::readQuietly() {
+    const auto found = std::make_shared<KXCalibRectParameters>();
     KXDevice* device = sensor_.device().get();
+    const bool known = sensor_.askQuietly([device, found] { return device->rectParameters(found.get()); });
+    report_.flash = known ? compare(*found) : Flash::Unknown;
+}
+
+/// All calls have succeeded; whether the block is there is another matter.
+bool FlashRewrite::keeps() {
+    if (report_.flash == Flash::Written) return true;
+    report_.reason = "The camera said that it stored the calibration, but it did not";
+    sensor_.reportFault(report_.reason);
+    return false;
+}
+
+/// Before anything is loaded from it. What went wrong has been reported.
+void FlashRewrite::putBackWhatArrivedWrong() {
+    if (report_.flash != Flash::Other || !resting_) return;
     qCritical("The camera's flash holds something else than what was written; putting the previous block back.");
-    if (sensor_.ask([device] { return device->stopCapture(); })) write(previous_);
+    KXPrivate* access = access_;
+    const auto sent = std::make_shared<const KXCalibRectParameters>(previous_);
+    sensor_.askQuietly(
+        [access, sent] { return access->writeRectParameters(sent.get(), true) && access->commitCalibration(); });
+    readQuietly();
+}
+
+/// A module that has failed is left as it is, except for its pictures, which may come back.
+bool FlashRewrite::resume() {
+    if (!std::exchange(resting_, false)) return true;
+    KXDevice* device = sensor_.device().get();
+    const auto call = [device] { return device->resumeDevice(); };
+    return sensor_.faulted() ? sensor_.askQuietly(call) : sensor_.ask(call);
 }
 
 Flash FlashRewrite::compare(const KXCalibRectParameters& block) const {
     if (same(block, wanted_)) return Flash::Written;
     return same(block, previous_) ? Flash::Previous : Flash::Other;
+}
+
+/// The sensor has reported it.
+bool FlashRewrite::failed() {
+    report_.reason = sensor_.faultText();
+    return false;
 }
 
 bool FlashRewrite::refuse(const QString& reason) {

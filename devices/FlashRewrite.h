@@ -22,10 +22,14 @@ public:
 
 private:
     bool prepare(const Change& change);
-    bool write(const KXCalibRectParameters& block);
-    bool confirm();
-    void putBack();
+    bool write();
+    bool readAgain();
+    void readQuietly();
+    bool keeps();
+    void putBackWhatArrivedWrong();
+    bool resume();
     WriteBackReport::Flash compare(const KXCalibRectParameters& block) const;
+    bool failed();
     bool refuse(const QString& reason);
 
     Sensor& sensor_;
@@ -33,6 +37,8 @@ private:
     WriteBackReport& report_;
     KXCalibRectParameters previous_{};
     KXCalibRectParameters wanted_{};
+    KXPrivate* access_ = nullptr;
+    bool resting_ = false;
 };
 
 }  // namespace fieldcal

@@ -59,7 +59,7 @@ QString decode(const QByteArray& bytes, ParameterBackup* out) {
     out->serial = number(12);
     out->taken = QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
     std::memcpy(&out->block, bytes.constData() + kHeaderBytes, sizeof(out->block));
-    const char* wrong = matrixThatIsNoRotation(out->block);
+    const char* wrong = matrixThatIsNoRotation(out->block, false);
     return wrong != nullptr ? QString("%1: not a rotation").arg(wrong) : QString();
 }
 
@@ -70,22 +70,20 @@ bool refuse(const QString& file, const QString& reason, QString* why) {
 
 }  // namespace
 
-const char* matrixThatIsNoRotation(const KXCalibRectParameters& block) {
+const char* matrixThatIsNoRotation(const KXCalibRectParameters& block, bool withPlatform) {
     if (!isRotation(block.rectificationInfrared, kRotationTolerance)) return "infrared rectification";
     if (!isRotation(block.rectificationThird, kRotationTolerance)) return "third rectification";
-    if (!isRotation(block.rectificationPlatform, kRotationTolerance)) return "platform rectification";
+    if (withPlatform && !isRotation(block.rectificationPlatform, kRotationTolerance)) return "platform rectification";
     return nullptr;
 }
 
 bool keepBackup(const QString& folder, const ParameterBackup& backup, QString* file, QString* why) {
     if (!QDir().mkpath(folder)) return refuse(folder, "the folder cannot be made", why);
-    const QString stem = QString("%1/%2-%3")
-                             .arg(folder)
-                             .arg(backup.serial)
-                             .arg(backup.taken.toUTC().toString("yyyyMMdd'T'HHmmsszzz'Z'"));
+    const QString stem =
+        folder + '/' + QString::number(backup.serial) + backup.taken.toUTC().toString("'-'yyyyMMdd'T'HHmmsszzz'Z'");
     QString free = stem + ".fcbackup";
     for (int i = 2; QFile::exists(free); ++i)
-        free = QString("%1-%2.fcbackup").arg(stem).arg(i);
+        free = stem + '-' + QString::number(i) + ".fcbackup";
     if (!writeBackup(free, backup, why)) return false;
     *file = free;
     return true;

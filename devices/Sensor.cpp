@@ -7,27 +7,28 @@
 namespace fieldcal {
 namespace {
 
-constexpr std::chrono::milliseconds kReleaseLimit{500};
+/// While somebody waits for the program to end.
+constexpr std::chrono::milliseconds kHastyReleaseLimit{300};
 
-}
+}  // namespace
 
 Sensor::Sensor() : Sensor(systemEnvironment()) {}
 
 Sensor::Sensor(SensorEnvironment environment) : environment_(std::move(environment)) {}
 
 Sensor::~Sensor() {
-    platformCamera_.reset();
-    releaseDevice();
+    release(std::move(platformCamera_));
+    release(std::move(device_));
     PXMServiceManager& services = *environment_.services;
     if (!services.restorePXMService()) emit signal_reportKXAPIError(services.lastError());
     services.setStopFlag(nullptr);
 }
 
-/// A module that does not let go must not keep the service from being restored.
-void Sensor::releaseDevice() {
-    if (device_ == nullptr) return;
-    const auto last = std::make_shared<std::shared_ptr<KXDevice>>(std::move(device_));
-    calls_.run([last] { last->reset(); }, kReleaseLimit, nullptr);
+/// A camera that does not let go must not keep the service from being restored.
+void Sensor::release(std::shared_ptr<void> last) {
+    if (last == nullptr) return;
+    const auto held = std::make_shared<std::shared_ptr<void>>(std::move(last));
+    calls_.run([held] { held->reset(); }, stopRequested() ? kHastyReleaseLimit : environment_.callLimit, nullptr);
 }
 
 void Sensor::setStopFlag(const std::atomic<bool>* stop) {
@@ -38,14 +39,18 @@ void Sensor::setStopFlag(const std::atomic<bool>* stop) {
 bool Sensor::grab(bool wait) {
     platformNv12_ = nullptr;
     if (!opened_ || faulted_) return false;
-    if (!ask([device = device_.get(), wait] { return device->grab(wait); })) return false;
+    const auto grabAndCopy = [device = device_.get(), third = third_, frames = frames_, s = settings_, wait] {
+        if (!device->grab(wait)) return false;
+        frames->refresh(*device, third, s);
+        return true;
+    };
+    if (!ask(grabAndCopy)) return false;
     if (settings_.usePlatformCamera && !fetchPlatformPicture()) {
         if (stopRequested()) return false;
         emit signal_reportPlatformCameraIssue();
     }
-    frames_.refresh(*device_, third_, settings_);
     platformPicture_.deliver(settings_.platformScaledWidth, settings_.platformScaledHeight,
-                             &frames_.records.outOfModuleColour);
+                             &frames_->records.outOfModuleColour);
     return true;
 }
 
@@ -60,13 +65,22 @@ bool Sensor::fetchPlatformPicture() {
 }
 
 bool Sensor::setEmitter(bool on) {
-    if (faulted_ || device_ == nullptr) return false;
-    KXEmitterControl* emitter = device_->emitterControl();
-    return emitter != nullptr && switchEmitter(*emitter, on);
+    KXEmitterControl* emitter = nullptr;
+    return findEmitter(&emitter) && emitter != nullptr && switchEmitter(emitter, on);
 }
 
-bool Sensor::switchEmitter(KXEmitterControl& emitter, bool on) {
-    if (!ask([&emitter, on] { return emitter.setEmitter(on); })) return false;
+bool Sensor::findEmitter(KXEmitterControl** out) {
+    const auto found = std::make_shared<KXEmitterControl*>(nullptr);
+    const bool asked = ask([device = device_.get(), found] {
+        *found = device->emitterControl();
+        return true;
+    });
+    *out = *found;
+    return asked;
+}
+
+bool Sensor::switchEmitter(KXEmitterControl* emitter, bool on) {
+    if (!ask([emitter, on] { return emitter->setEmitter(on); })) return false;
     qInfo("Emitter is %s.", on ? "enabled" : "disabled");
     return true;
 }
@@ -79,21 +93,26 @@ bool Sensor::checkStatus(bool callSucceeded) {
     return false;
 }
 
+WatchedCalls::Ending Sensor::watch(std::function<void()> call) {
+    const WatchedCalls::Ending ending = calls_.run(std::move(call), environment_.callLimit, stop_);
+    faulted_ = faulted_ || ending != WatchedCalls::Ending::Returned;
+    return ending;
+}
+
 bool Sensor::ask(std::function<bool()> call) {
     if (faulted_ || device_ == nullptr) return false;
     const auto succeeded = std::make_shared<bool>(false);
-    const auto watched = [device = device_, call = std::move(call), succeeded] { *succeeded = call(); };
-    switch (calls_.run(watched, environment_.callLimit, stop_)) {
-        case WatchedCalls::Ending::Returned:
-            return checkStatus(*succeeded);
-        case WatchedCalls::Ending::Stopped:
-            faulted_ = true;
-            return false;
-        case WatchedCalls::Ending::Overdue:
-            break;
-    }
-    reportFault(KX_STATUS_OK, "The camera does not answer");
+    const auto ending = watch([device = device_, call = std::move(call), succeeded] { *succeeded = call(); });
+    if (ending == WatchedCalls::Ending::Returned) return checkStatus(*succeeded);
+    if (ending == WatchedCalls::Ending::Overdue) reportFault("The camera does not answer");
     return false;
+}
+
+bool Sensor::askQuietly(std::function<bool()> call) {
+    if (device_ == nullptr) return false;
+    const auto succeeded = std::make_shared<bool>(false);
+    const auto ending = watch([device = device_, call = std::move(call), succeeded] { *succeeded = call(); });
+    return ending == WatchedCalls::Ending::Returned && *succeeded;
 }
 
 void Sensor::reportInvalidCalibration() {
@@ -134,7 +153,7 @@ void Sensor::setRotationsInFlash(const Rotation& third, const std::optional<Rota
 void Sensor::disablePlatformCamera() {
     settings_.usePlatformCamera = false;
     platformNv12_ = nullptr;
-    platformCamera_.reset();
+    release(std::move(platformCamera_));
 }
 
 }  // namespace fieldcal

@@ -54,7 +54,7 @@ public:
     /// pass, and the other records are refreshed all the same. Natively its pictures arrive within the pass.
     bool grab(bool wait);
 
-    const FrameRecords& frames() const { return frames_.records; }
+    const FrameRecords& frames() const { return frames_->records; }
     const SensorSettings& settings() const { return settings_; }
 
     /// The rear camera's picture that the last `grab` brought, as the camera delivered it (NV12, 1280 x 720); null when
@@ -90,6 +90,9 @@ public:
     /// (the device is kept for it). Once the sensor has failed, no call is made.
     bool ask(std::function<bool()> call);
 
+    /// The same without a report, also after a failure, unless an earlier call was given up.
+    bool askQuietly(std::function<bool()> call);
+
     /// The same for a query that fills a record; `out` is untouched after a failure.
     template <typename Object, typename Record>
     bool read(Object* object, bool (Object::*query)(Record*), Record* out) {
@@ -98,11 +101,9 @@ public:
         *out = *record;
         return true;
     }
-    /// The module's block without a report, also from a sensor that has failed.
-    bool readQuietly(KXCalibRectParameters* out);
 
-    /// Reports that the flash does not hold what was written although no call failed.
-    void reportWriteNotKept(const QString& what);
+    /// Reports a fault that no status tells of: "what - An unknown error has occured."
+    void reportFault(const QString& what) { reportFault(KX_STATUS_OK, what); }
 
     /// Reports, once, that the module has no valid calibration.
     void reportInvalidCalibration();
@@ -130,7 +131,8 @@ signals:
     void signal_reportPlatformCameraIssue();
 
 private:
-    void releaseDevice();
+    WatchedCalls::Ending watch(std::function<void()> call);
+    void release(std::shared_ptr<void> last);
     bool shutDownService();
     bool loadLibrary();
     bool openPlatformCamera();
@@ -141,7 +143,8 @@ private:
     bool configureHardware();
     bool configureEmitter();
     bool startStreams();
-    bool switchEmitter(KXEmitterControl& emitter, bool on);
+    bool findEmitter(KXEmitterControl** out);
+    bool switchEmitter(KXEmitterControl* emitter, bool on);
     bool fetchPlatformPicture();
     void reportFault(std::int32_t status, const QString& libraryText);
     QString statusString(std::int32_t status) const;
@@ -163,9 +166,9 @@ private:
     std::shared_ptr<KXDevice> device_;
     KXThirdCamera* third_ = nullptr;
     KXHardwareControl* hardware_ = nullptr;
-    std::unique_ptr<CPlatformCameraControl> platformCamera_;
+    std::shared_ptr<CPlatformCameraControl> platformCamera_;
     SensorSettings settings_;
-    FrameAcquisition frames_;
+    std::shared_ptr<FrameAcquisition> frames_ = std::make_shared<FrameAcquisition>();
     PlatformPicture platformPicture_;
     const std::uint8_t* platformNv12_ = nullptr;
     PlatformCalibration platformCalibration_;

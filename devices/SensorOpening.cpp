@@ -2,6 +2,7 @@
 #include "devices/PlatformCameraSetup.h"
 #include "devices/Sensor.h"
 
+#include <string>
 #include <utility>
 
 namespace fieldcal {
@@ -13,9 +14,25 @@ constexpr std::int32_t kHardwareOptionValue = 16;
 constexpr std::int32_t kDepthFramesPerSecond = 60;
 constexpr std::int32_t kThirdFramesPerSecond = 30;
 
-const char* textOf(const char* libraryText) {
+std::string textOf(const char* libraryText) {
     return libraryText != nullptr ? libraryText : "";
 }
+
+struct Interfaces {
+    KXThirdCamera* third = nullptr;
+    KXHardwareControl* hardware = nullptr;
+};
+
+struct Identity {
+    std::string firmware;
+    std::string software;
+    bool calibrationValid = false;
+};
+
+struct RearCamera {
+    std::shared_ptr<CPlatformCameraControl> camera;
+    PlatformSetup setup = PlatformSetup::Issue;
+};
 
 }  // namespace
 
@@ -46,22 +63,30 @@ bool Sensor::loadLibrary() {
 }
 
 bool Sensor::openPlatformCamera() {
-    platformCamera_ = environment_.createPlatformCamera(library_);
-    switch (setUpPlatformCamera(*platformCamera_)) {
-        case PlatformSetup::Ready:
-            return true;
-        case PlatformSetup::Missing:
-            emit signal_reportMissingPlatformCamera();
-            return false;
-        case PlatformSetup::Issue:
-            emit signal_reportPlatformCameraIssue();
-            return false;
+    const auto rear = std::make_shared<RearCamera>();
+    const auto ending = watch([create = environment_.createPlatformCamera, library = library_, rear] {
+        rear->camera = create(library);
+        rear->setup = setUpPlatformCamera(*rear->camera);
+    });
+    if (ending == WatchedCalls::Ending::Stopped) return false;
+    if (ending == WatchedCalls::Ending::Overdue || rear->setup == PlatformSetup::Issue) {
+        emit signal_reportPlatformCameraIssue();
+        return false;
     }
-    return false;
+    if (rear->setup == PlatformSetup::Missing) {
+        emit signal_reportMissingPlatformCamera();
+        return false;
+    }
+    platformCamera_ = std::move(rear->camera);
+    return true;
 }
 
 bool Sensor::createDevice() {
-    KXDevice* device = library_->create(0);
+    const auto created = std::make_shared<KXDevice*>(nullptr);
+    const auto ending = watch([library = library_, created] { *created = library->create(0); });
+    if (ending == WatchedCalls::Ending::Overdue) reportFault("The camera does not answer");
+    if (ending != WatchedCalls::Ending::Returned) return false;
+    KXDevice* device = *created;
     if (device == nullptr) {
         qCritical("The library KXAPI did not create a device.");
         emit signal_reportMissingQ550Device();
@@ -72,17 +97,32 @@ bool Sensor::createDevice() {
     qInfo("KXAPI allocated. Opening device...");
     if (!ask([device] { return device->openDevice(kAnyDevice); })) return false;
     qInfo("Q550 device opened.");
-    third_ = device_->thirdCamera();
-    hardware_ = device_->hardwareControl();
+    const auto found = std::make_shared<Interfaces>();
+    const auto find = [device, found] {
+        found->third = device->thirdCamera();
+        found->hardware = device->hardwareControl();
+        return true;
+    };
+    if (!ask(find)) return false;
+    third_ = found->third;
+    hardware_ = found->hardware;
     return ask([device] { return device->initDevice(); });
 }
 
 bool Sensor::identifyDevice() {
-    if (!read(device_.get(), &KXDevice::serialNumber, &serialNumber_)) return false;
-    qInfo("Sensor firmware version: %s", textOf(device_->firmwareVersionText()));
-    qInfo("Sensor software version: %s", textOf(device_->softwareVersionText()));
+    KXDevice* device = device_.get();
+    if (!read(device, &KXDevice::serialNumber, &serialNumber_)) return false;
+    const auto identity = std::make_shared<Identity>();
+    const auto identify = [device, identity] {
+        *identity = {textOf(device->firmwareVersionText()), textOf(device->softwareVersionText()),
+                     device->calibrationValid()};
+        return true;
+    };
+    if (!ask(identify)) return false;
+    qInfo("Sensor firmware version: %s", identity->firmware.c_str());
+    qInfo("Sensor software version: %s", identity->software.c_str());
     qInfo("Sensor camera serial no: %u", serialNumber_);
-    if (!device_->calibrationValid()) qCritical("Calibration data on camera is invalid.");
+    if (!identity->calibrationValid) qCritical("Calibration data on camera is invalid.");
     return true;
 }
 
@@ -118,14 +158,19 @@ bool Sensor::configureHardware() {
 }
 
 bool Sensor::configureEmitter() {
-    KXEmitterControl* emitter = device_->emitterControl();
+    KXEmitterControl* emitter = nullptr;
+    if (!findEmitter(&emitter)) return false;
     if (emitter == nullptr) return !settings_.emitterOn;
-    return switchEmitter(*emitter, settings_.emitterOn);
+    return switchEmitter(emitter, settings_.emitterOn);
 }
 
 bool Sensor::startStreams() {
     // A size that no camera has means that the library's answers cannot be trusted.
-    if (!checkStatus(frames_.sizeRecords(*device_, *third_))) return false;
+    if (!ask([frames = frames_, device = device_.get(), third = third_] {
+            return frames->sizeRecords(*device, *third);
+        })) {
+        return false;
+    }
     if (!ask([device = device_.get()] { return device->startCapture(); })) return false;
     if (settings_.autoExposure) return true;
     return ask([hardware = hardware_, s = settings_] { return hardware->setGain(s.gain, kBothImagers); }) &&

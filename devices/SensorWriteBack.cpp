@@ -27,8 +27,8 @@ bool update(Sensor& sensor, const KXUpdateRotationFunction function, const Rotat
     return true;
 }
 
-bool rectifies(const Block& block, const char* which, QString* why) {
-    const char* wrong = matrixThatIsNoRotation(block);
+bool rectifies(const Block& block, const char* which, bool withPlatform, QString* why) {
+    const char* wrong = matrixThatIsNoRotation(block, withPlatform);
     if (wrong != nullptr)
         *why = QString("The %1 parameter block cannot be used: its %2 is no rotation").arg(which, wrong);
     return wrong == nullptr;
@@ -50,12 +50,12 @@ bool Sensor::updateRotation(const Rotation& third, const Rotation& platform) {
     const bool thirdMoves = third != rotationsInFlash_->third;
     const bool platformMoves = withPlatform && platform != *rotationsInFlash_->platform;
     const auto change = [&](const Block& present, Block* wanted, QString* why) {
-        if (!rectifies(present, "present", why)) return false;
+        if (!rectifies(present, "present", withPlatform, why)) return false;
         *wanted = present;
         if ((!thirdMoves || update(*this, updater_->updateThirdCamera, third, present.rectificationThird, wanted)) &&
             (!platformMoves ||
              update(*this, updater_->updatePlatformCamera, platform, present.rectificationPlatform, wanted))) {
-            return rectifies(*wanted, "new", why);
+            return rectifies(*wanted, "new", withPlatform, why);
         }
         *why = faultText();
         return false;
@@ -70,14 +70,15 @@ bool Sensor::restoreParameters(const KXCalibRectParameters& block) {
     writeBack_ = {};
     if (!mayWrite()) return false;
     QString why;
-    if (!rectifies(block, "given", &why)) return refuseToWrite(why);
+    if (!rectifies(block, "given", false, &why)) return refuseToWrite(why);
     const auto change = [&](const Block&, Block* wanted, QString*) {
         *wanted = block;
         return true;
     };
+    const bool restored = rewriteFlash(change);
     // What the module reports from now on has to be read anew before a rotation can be written.
-    rotationsInFlash_.reset();
-    return rewriteFlash(change);
+    if (writeBack_.flash != WriteBackReport::Flash::Untouched) rotationsInFlash_.reset();
+    return restored;
 }
 
 bool Sensor::mayWrite() {
@@ -99,19 +100,6 @@ bool Sensor::rewriteFlash(const std::function<bool(const Block&, Block*, QString
     const bool done = rewrite.run(change);
     stop_ = stop;
     return done;
-}
-
-bool Sensor::readQuietly(Block* out) {
-    const auto block = std::make_shared<Block>();
-    const auto answered = std::make_shared<bool>(false);
-    const auto call = [device = device_, block, answered] { *answered = device->rectParameters(block.get()); };
-    if (calls_.run(call, environment_.callLimit, nullptr) != WatchedCalls::Ending::Returned || !*answered) return false;
-    *out = *block;
-    return true;
-}
-
-void Sensor::reportWriteNotKept(const QString& what) {
-    reportFault(KX_STATUS_OK, what);
 }
 
 }  // namespace fieldcal

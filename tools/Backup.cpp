@@ -22,12 +22,9 @@ int runBackup(const QStringList& arguments) {
     ConnectedModule module;
     ParameterBackup backup;
     QString file = options->file;
-    if (!module.open(false, &why) || !module.readBlock(&backup, &why) || !module.close(&why) ||
-        !keep(backup, &file, &why)) {
-        return fail(why);
-    }
-    printLine(QString("The parameter block of module %1 is kept in %2").arg(backup.serial).arg(file));
-    return kSolved;
+    if (!module.open(false, &why) || !module.readBlock(&backup, &why) || !keep(backup, &file, &why)) return fail(why);
+    printLine(QString("The parameter block of module %1 is kept in ").arg(backup.serial) + file);
+    return module.close(&why) ? kSolved : fail(why);
 }
 
 int runRestore(const QStringList& arguments) {
@@ -38,14 +35,11 @@ int runRestore(const QStringList& arguments) {
     ParameterBackup backup;
     if (!readBackup(options->file, &backup, &why)) return fail(why);
     ConnectedModule module;
-    QString done;
-    if (!module.open(false, &why)) return fail(why);
-    if (!module.restoreBlock(backup, &done, &why)) return fail(why);
-    if (!module.close(&why)) return fail(why);
+    if (!module.open(false, &why) || !module.restoreBlock(backup, &why)) return fail(why);
     printLine(QString("The parameter block of %1 is in module %2 again.")
                   .arg(backup.taken.toString(Qt::ISODate))
                   .arg(backup.serial));
-    return kSolved;
+    return module.close(&why) ? kSolved : fail(why);
 }
 
 }  // namespace fieldcal

@@ -141,17 +141,16 @@ bool ConnectedModule::readBlock(ParameterBackup* out, QString* why) {
            failed(why, "The parameter block cannot be read.");
 }
 
-bool ConnectedModule::restoreBlock(const ParameterBackup& backup, QString* done, QString* why) {
+bool ConnectedModule::restoreBlock(const ParameterBackup& backup, QString* why) {
     if (backup.serial != sensor_->serialNumber()) {
         *why = QString("the backup is of module %1, the connected one is %2")
                    .arg(backup.serial)
                    .arg(sensor_->serialNumber());
         return false;
     }
-    const bool restored = sensor_->restoreParameters(backup.block);
-    *done = flashText(sensor_->writeBack());
-    if (!restored) *why = QString("%1 (%2)").arg(sensor_->writeBack().reason, *done);
-    return restored;
+    if (sensor_->restoreParameters(backup.block)) return true;
+    *why = QString("%1 (%2)").arg(sensor_->writeBack().reason, flashText(sensor_->writeBack()));
+    return false;
 }
 
 bool ConnectedModule::grab(session::FramePictures* out, QString* why) {

@@ -33,8 +33,8 @@ public:
 
     /// The module's parameter block as it is now.
     bool readBlock(ParameterBackup* out, QString* why);
-    /// Writes a block of this very module back into its flash. `done` gets what the flash holds then.
-    bool restoreBlock(const ParameterBackup& backup, QString* done, QString* why);
+    /// Writes a block of this very module back into its flash.
+    bool restoreBlock(const ParameterBackup& backup, QString* why);
 
     /// Lets the module go. False when that, too, failed.
     bool close(QString* why);

@@ -25,7 +25,6 @@ void CalibrationAttempt::start(bool secondCamera) {
     calibrator_.setup();
     photoCount_ = 0;
     running_ = true;
-    listener_.calibrationProgress(0.0);
 }
 
 CalibrationAttempt::Outcome CalibrationAttempt::processFrame(const ImageFrame16& infrared, const ImageFrame32& colour) {

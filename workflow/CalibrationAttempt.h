@@ -28,6 +28,8 @@ public:
     /// Takes one frame set, which must be fresh: it may have been grabbed only once and must not be empty (empty ones
     /// are ignored). After another outcome than `Continues` nothing happens until an attempt is started.
     Outcome processFrame(const ImageFrame16& infrared, const ImageFrame32& colour);
+    /// Takes no more frames until an attempt is started.
+    void cancel() { running_ = false; }
     /// Ends a failed attempt: resets the engine and tells the user what to try.
     void fail();
 

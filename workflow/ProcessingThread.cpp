@@ -15,11 +15,11 @@ ProcessingThread::ProcessingThread(Workflow& workflow)
     : workflow_(workflow), thread_(run, std::ref(workflow), QThread::currentThread()) {}
 
 ProcessingThread::~ProcessingThread() {
-    stop();
+    stop(Stop::ToLeave);
 }
 
-void ProcessingThread::stop() {
-    workflow_.requestStop();
+void ProcessingThread::stop(Stop stop) {
+    workflow_.requestStop(stop);
     if (thread_.joinable()) thread_.join();
 }
 

@@ -18,8 +18,8 @@ public:
     ProcessingThread(const ProcessingThread&) = delete;
     ProcessingThread& operator=(const ProcessingThread&) = delete;
 
-    /// Ends the loop and waits for it: about a second at most, whatever it is waiting for. Once is enough.
-    void stop();
+    /// Ends the loop and waits for it. `ToLeave`: less than a second, whatever it is waiting for. Once is enough.
+    void stop(Stop stop);
 
 private:
     static void run(Workflow& workflow, QThread* heir);

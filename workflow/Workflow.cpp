@@ -22,24 +22,35 @@ Workflow::~Workflow() {
     if (sensor_ != nullptr) leave();
 }
 
+void Workflow::requestStop(Stop stop) {
+    giveUpWaiting_ = giveUpWaiting_ || stop == Stop::ToLeave;
+    stop_ = true;
+}
+
 void Workflow::requestState(State state) {
+    const auto set = [this, state] { state_.set(state); };
+    if (state == State::WaitingToCalibrate) {
+        act(set, [this] { engine_.resetState(); });
+    } else {
+        act(set, nullptr);
+    }
+    // Only now, so that a solution which the loop is about to note cannot survive it.
     if (state == State::ResetCalibration) records_.forget(usersCamera_);
-    state_.set(state);
-    if (state == State::WaitingToCalibrate) want([this] { engine_.resetState(); });
 }
 
 void Workflow::switchCamera(ColourCamera camera) {
     acceptRefinement();
     usersCamera_ = camera;
+    act([this] { state_.interrupt(); },
+        [this, camera] {
+            camera_ = camera;
+            attempt_.cancel();
+            engine_.resetState();
+            if (!sensorReady_) return;
+            sensor_->setEmitter(false);
+            sensor_->setPlatformPictureWanted(secondCamera());
+        });
     records_.forgetEstimate(camera);
-    state_.interrupt();
-    want([this, camera] {
-        camera_ = camera;
-        engine_.resetState();
-        if (!sensorReady_) return;
-        sensor_->setEmitter(false);
-        sensor_->setPlatformPictureWanted(secondCamera());
-    });
 }
 
 /// The rotation that the finger left, as it is now: whatever comes after may reset the engine.
@@ -50,15 +61,17 @@ void Workflow::acceptRefinement() {
     records_.accept(usersCamera_, rotation);
 }
 
-void Workflow::want(std::function<void()> work) {
-    const std::lock_guard lock(wantedMutex_);
-    wanted_.push_back(std::move(work));
+/// As one: a loop that sees the change has the work to do, and one that does not loses its transition.
+void Workflow::act(const std::function<void()>& change, std::function<void()> work) {
+    const std::lock_guard lock(actionsMutex_);
+    change();
+    if (work != nullptr) wanted_.push_back(std::move(work));
 }
 
 LeaveReport Workflow::save() {
     acceptRefinement();
     LeaveReport report;
-    leaving_ = true;
+    requestStop(Stop::ToSave);
     if (sensor_ != nullptr) {
         report.stored = storeCalibration(*sensor_, records_, environment_.dataFolder);
         report.writeBack = sensor_->writeBack();
@@ -67,12 +80,11 @@ LeaveReport Workflow::save() {
 }
 
 LeaveReport Workflow::leave() {
-    leaving_ = true;
+    requestStop(Stop::ToLeave);
     return close({});
 }
 
 LeaveReport Workflow::close(LeaveReport report) {
-    stop_ = true;
     sensorReady_ = false;
     sensor_.reset();
     report.errors = std::exchange(leavingErrors_, {});

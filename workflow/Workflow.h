@@ -30,6 +30,8 @@ struct WorkflowEnvironment {
 };
 WorkflowEnvironment systemWorkflowEnvironment();
 
+enum class Stop { ToLeave, ToSave };
+
 /// How leaving went.
 struct LeaveReport {
     bool stored = false;        ///< the module has confirmed the accepted rotations
@@ -52,8 +54,9 @@ public:
     void requestState(State state);
     /// Goes on with the other camera. From the refinement, the rotation as it is now is accepted first.
     void switchCamera(ColourCamera camera);
-    /// Every wait ends soon; `pass` does nothing from now on.
-    void requestStop() { stop_ = true; }
+    /// `pass` does nothing from now on. To leave, every wait is given up soon as well; to save, a call of the camera
+    /// library that is under way may take its time, since a camera that was given up can no longer be written.
+    void requestStop(Stop stop);
 
     State state() const { return state_.state(); }
     /// The camera that the user is working on.
@@ -61,7 +64,6 @@ public:
     const CalibrationRecords& records() const { return records_; }
     /// For the overlay: rotation and drag, from the interface's thread.
     vq::ICalibrator& engine() { return engine_; }
-    const vq::CalibratorInterface& engine() const { return engine_; }
 
     // The loop's.
     /// One pass. False: there was nothing to do, and the caller may pause.
@@ -80,15 +82,16 @@ private:
 
     // Workflow.cpp: the user's actions and leaving.
     void acceptRefinement();
-    void want(std::function<void()> work);
+    void act(const std::function<void()>& change, std::function<void()> work);
     LeaveReport close(LeaveReport report);
 
     // WorkflowLoop.cpp: one function for each state that has a step.
-    void doWhatIsWanted();
+    Snapshot takeActions();
     void followEmitter(State state);
     bool refreshViews(const Snapshot& now);
     void step(const Snapshot& now);
     void openCamera(const Snapshot& now);
+    void tellOfLastSave();
     void listenTo(Sensor& sensor);
     void report(const QString& error, const std::function<void()>& tell);
     void detectLighting();
@@ -103,12 +106,13 @@ private:
     WorkflowListener& listener_;
     const WorkflowEnvironment environment_;
     std::atomic<bool> stop_{false};
+    std::atomic<bool> giveUpWaiting_{false};
     WorkflowState state_;
     std::atomic<ColourCamera> usersCamera_{ColourCamera::InModule};
     CalibrationRecords records_;
 
-    std::mutex wantedMutex_;
-    std::deque<std::function<void()>> wanted_;
+    std::mutex actionsMutex_;
+    std::deque<std::function<void()>> wanted_;  ///< what the user's actions leave for the loop to do
 
     CameraParameters factory_;
     vq::RegistrationContext context_;
@@ -120,7 +124,6 @@ private:
     bool sensorReady_ = false;
     bool faultTold_ = false;
     State emitterState_ = State::FirstOpened;  ///< the state that the emitter was switched for
-    bool leaving_ = false;
     QStringList leavingErrors_;
 };
 

@@ -39,8 +39,7 @@ void logSolution(const CameraExtrinsics& factory, const Rotation& estimated, con
 
 bool Workflow::pass() {
     if (stop_) return false;
-    doWhatIsWanted();
-    const Snapshot now = state_.take();
+    const Snapshot now = takeActions();
     followEmitter(now.state);
     const bool refreshed = refreshViews(now);
     if (sensor_ == nullptr) openCamera(now);
@@ -48,14 +47,18 @@ bool Workflow::pass() {
     return refreshed;
 }
 
-void Workflow::doWhatIsWanted() {
+/// The state, and all that the user's actions up to it have left to do, done.
+Workflow::Snapshot Workflow::takeActions() {
     std::deque<std::function<void()>> wanted;
+    Snapshot now{};
     {
-        const std::lock_guard lock(wantedMutex_);
+        const std::lock_guard lock(actionsMutex_);
         wanted.swap(wanted_);
+        now = state_.take();
     }
     for (const auto& work : wanted)
         work();
+    return now;
 }
 
 /// Its dots help depth where the user aligns it, and would be matched where the scene's own texture is wanted.
@@ -96,7 +99,7 @@ void Workflow::step(const Snapshot& now) {
 void Workflow::openCamera(const Snapshot& now) {
     sensor_ = environment_.makeSensor();
     listenTo(*sensor_);
-    sensor_->setStopFlag(&stop_);
+    sensor_->setStopFlag(&giveUpWaiting_);
     if (!sensor_->open(applicationSettings()) ||
         !readCameraParameters(*sensor_, &factory_, [this] { listener_.singleCameraOnly(); })) {
         qInfo("Initialize failed.");
@@ -108,11 +111,16 @@ void Workflow::openCamera(const Snapshot& now) {
     records_.setFactory(factory_.depthToInModule.rotation, factory_.depthToOutOfModule.rotation);
     engine_.setCameraParameters(false);
     sensorReady_ = true;
-    if (const std::optional<SaveNote> note = readSaveNote(environment_.dataFolder)) {
-        removeSaveNote(environment_.dataFolder);
-        listener_.lastSaveFailed(*note);
-    }
+    tellOfLastSave();
     advance(now, State::ShowingIntroduction);
+}
+
+/// Of this module's, that is; a note about another one waits until that one is connected.
+void Workflow::tellOfLastSave() {
+    const std::optional<SaveNote> note = readSaveNote(environment_.dataFolder);
+    if (!note || (note->serial != 0 && note->serial != sensor_->serialNumber())) return;
+    removeSaveNote(environment_.dataFolder);
+    listener_.lastSaveFailed(*note);
 }
 
 void Workflow::listenTo(Sensor& sensor) {
@@ -124,14 +132,14 @@ void Workflow::listenTo(Sensor& sensor) {
         report("The rear camera was not found.", [this] { listener_.missingPlatformCamera(); });
     });
     QObject::connect(&sensor, &Sensor::signal_reportPlatformCameraIssue, [this] {
-        if (!leaving_) listener_.platformCameraIssue();
+        if (!stop_) listener_.platformCameraIssue();
         faultTold_ = faultTold_ || !sensorReady_;
     });
 }
 
-/// One fault, one message. While leaving, it is kept until everything is closed.
+/// One fault, one message. Once the program is to end, it is kept until everything is closed.
 void Workflow::report(const QString& error, const std::function<void()>& tell) {
-    if (leaving_) {
+    if (stop_) {
         leavingErrors_.push_back(error);
     } else if (!std::exchange(faultTold_, true)) {
         tell();
@@ -152,7 +160,7 @@ void Workflow::resetCalibration(const Snapshot& now) {
 void Workflow::startCalibration(const Snapshot& now) {
     records_.forgetEstimate(camera_);
     attempt_.start(secondCamera());
-    advance(now, State::ProcessingFrame);
+    if (advance(now, State::ProcessingFrame)) listener_.calibrationProgress(0.0);
 }
 
 void Workflow::processFrame(const Snapshot& now) {

@@ -74,7 +74,7 @@ protected:
     QByteArray stored() {
         reopen();
         KXCalibRectParameters block{};
-        EXPECT_TRUE(sensor->readQuietly(&block));
+        EXPECT_TRUE(sensor->read(sensor->device().get(), &KXDevice::rectParameters, &block));
         return {reinterpret_cast<const char*>(&block), sizeof(block)};
     }
 

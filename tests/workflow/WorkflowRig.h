@@ -137,7 +137,7 @@ protected:
         engine.endDrag();
     }
     LeaveReport stopAndSave() {
-        thread->stop();
+        thread->stop(Stop::ToSave);
         return workflow->save();
     }
     QByteArray flash() const {

@@ -81,7 +81,7 @@ TEST_F(WorkflowTest, LeavingKeepsTheFlashAndACameraThatWasNotAcceptedKeepsItsFac
     solve();
     workflow->requestState(State::RefiningCalibration);
     dragBy(0.5F);
-    thread->stop();
+    thread->stop(Stop::ToLeave);
     workflow->leave();
     EXPECT_EQ(flash(), before);
 
@@ -167,7 +167,7 @@ TEST_F(WorkflowTest, AFaultIsToldOnceAndEndsTheGrabbing) {
         start(faults);
         ASSERT_TRUE(user->waitUntil([&] { return !user->errors.empty(); }));
         EXPECT_EQ(workflow->state(), State::FirstOpened);
-        thread->stop();
+        thread->stop(Stop::ToLeave);
         EXPECT_THAT(workflow->leave().errors, IsEmpty());
         EXPECT_THAT(user->errors, ElementsAre(told));
     }
@@ -176,7 +176,7 @@ TEST_F(WorkflowTest, AFaultIsToldOnceAndEndsTheGrabbing) {
 TEST_F(WorkflowTest, LeavingTakesLessThanASecondFromEverywhere) {
     const auto leaveInTime = [this](const char* from) {
         const auto begin = std::chrono::steady_clock::now();
-        thread->stop();
+        thread->stop(Stop::ToLeave);
         workflow->leave();
         EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1)) << from;
         EXPECT_EQ(control.startType, 2U) << from;
