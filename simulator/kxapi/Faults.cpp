@@ -30,22 +30,22 @@ std::vector<std::string> split(const std::string& text, char separator) {
 
 /// Null, or what is wrong with the text.
 const char* parseFlashFault(const std::string& text, Fault* out) {
-    const std::string cutAfter = "powercut+";
-    const bool cutLate = text.compare(0, cutAfter.size(), cutAfter) == 0;
-    if (text == "powercut" || cutLate) {
+    const std::size_t plus = text.find('+');
+    const std::string kind = text.substr(0, plus);
+    const bool countsBytes = kind == "powercut" || kind == "garble";
+    const bool bytesFit = plus == std::string::npos || (countsBytes && take(text.substr(plus + 1), &out->bytes));
+    if (kind == "powercut") {
         out->kind = FaultKind::powercut;
-        return !cutLate || take(text.substr(cutAfter.size()), &out->bytes) ? nullptr : "powercut+BYTES expected";
-    }
-    if (text == "corrupt") {
-        out->kind = FaultKind::corrupt;
-    } else if (text == "garble") {
+    } else if (kind == "garble") {
         out->kind = FaultKind::garble;
-    } else if (text == "die") {
+    } else if (kind == "corrupt") {
+        out->kind = FaultKind::corrupt;
+    } else if (kind == "die") {
         out->kind = FaultKind::die;
     } else {
-        return "powercut, powercut+BYTES, corrupt, garble or die expected";
+        return "powercut, powercut+BYTES, corrupt, garble, garble+BYTE or die expected";
     }
-    return nullptr;
+    return bytesFit ? nullptr : "a number of bytes expected after powercut+ or garble+";
 }
 
 const char* parseCallFault(const std::string& text, OperationKind operation, Fault* out) {

@@ -21,12 +21,12 @@ enum class FaultKind {
 struct Fault {
     FaultKind kind = FaultKind::status;
     std::int32_t status = 0;  ///< `status`
-    std::size_t bytes = 0;    ///< `powercut`: of the step, written before it
+    std::size_t bytes = 0;    ///< `powercut`: of the step, written before it; `garble`: the byte it hits
 };
 
 /// Failures on order: "op:call:kind,…" makes the given call of an operation (counted from 1) fail. Operations are those
 /// of `Operations.h`, with a status or one of `gone`, `hang` and, where nothing is answered, `lie`; and `flash`,
-/// counted by write steps, with `powercut`, `powercut+K`, `corrupt`, `garble` or `die`.
+/// counted by write steps, with `powercut`, `powercut+K`, `corrupt`, `garble`, `garble+K` or `die`.
 class Faults {
 public:
     /// Replaces the orders. On a malformed text false, `why`, and no orders.

@@ -69,7 +69,7 @@ FlashResult FlashMemory::programBlock(Written* target) {
     for (std::size_t at = 0; at < kBlockBytes; at += kStepBytes) {
         std::optional<Fault> fault = faults_.strike(kFlash);
         if (fault && fault->kind == FaultKind::garble) {
-            bytes[at] ^= kWrongBit;
+            bytes[at + std::min(fault->bytes, kStepBytes - 1)] ^= kWrongBit;
             fault.reset();
         }
         FlashResult result = program(start + at, FlashBytes(bytes + at, bytes + at + kStepBytes), fault);

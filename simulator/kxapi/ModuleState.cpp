@@ -16,10 +16,15 @@ bool ModuleState::succeeds(const FlashResult& result) {
 }
 
 bool ModuleState::loadCalibration() {
-    if (!temporaryBlock) return succeeds(flash->load(&activeBlock));
     std::string why;
-    if (!makesSense(*temporaryBlock, &why)) return succeeds({KX_STATUS_NOT_CALIBRATED, "temporary block: " + why});
-    activeBlock = *temporaryBlock;
+    if (!temporaryBlock) {
+        if (!succeeds(flash->load(&activeBlock))) return false;
+    } else if (makesSense(*temporaryBlock, &why)) {
+        activeBlock = *temporaryBlock;
+    } else {
+        return succeeds({KX_STATUS_NOT_CALIBRATED, "temporary block: " + why});
+    }
+    blockMakesSense = true;
     return true;
 }
 
@@ -41,7 +46,7 @@ Gate ModuleState::pass(const char* operation, Stage atLeast) {
 }
 
 bool ModuleState::enterCalibration(const char* operation) {
-    return enter(operation, Stage::ready) && (description().module.calibrationValid || fail(KX_STATUS_NOT_CALIBRATED));
+    return enter(operation, Stage::ready) && (calibrationValid() || fail(KX_STATUS_NOT_CALIBRATED));
 }
 
 }  // namespace kxsim

@@ -22,6 +22,7 @@ struct ModuleState {
     std::int32_t lastStatus = KX_STATUS_OK;
 
     KXCalibRectParameters activeBlock{};                  ///< what the module works with
+    bool blockMakesSense = false;                         ///< `activeBlock`
     std::optional<KXCalibRectParameters> temporaryBlock;  ///< to be used instead of the flash's from the next resuming
     bool resting = false;                                 ///< `stopCapture` began a rest
 
@@ -53,6 +54,8 @@ struct ModuleState {
     }
     /// For what comes from the calibration: status 4 when it is invalid.
     bool enterCalibration(const char* operation);
+
+    bool calibrationValid() const { return blockMakesSense && description().module.calibrationValid; }
 
     const fieldcal::session::SessionDescription& description() const { return player->description(); }
     /// The current frame, null while nothing was grabbed.

@@ -42,7 +42,10 @@ bool SimulatedDevice::plugIn() {
     const fieldcal::session::SessionDescription& description = player->description();
     auto flash =
         std::make_unique<FlashMemory>(state_.settings.flash, description.module.serial, &state_.settings.faults);
-    if (!state_.succeeds(flash->open(factoryBlock(description), &state_.activeBlock))) return false;
+    const FlashResult loaded = flash->open(factoryBlock(description), &state_.activeBlock);
+    state_.blockMakesSense = loaded.ok();
+    // A block that makes no sense is a calibration that is not valid; the module itself works, and can be written.
+    if (!state_.succeeds(loaded) && !flash->read(&state_.activeBlock).ok()) return false;
     const auto& depth = description.depth;
     noDepth_.assign(static_cast<std::size_t>(depth.width) * static_cast<std::size_t>(depth.height), 0);
     state_.player = std::move(player);
@@ -213,7 +216,7 @@ std::int32_t SimulatedDevice::lastStatus() {
 }
 
 bool SimulatedDevice::calibrationValid() {
-    return state_.enter("calibrationValid", Stage::opened) && state_.description().module.calibrationValid;
+    return state_.enter("calibrationValid", Stage::opened) && state_.calibrationValid();
 }
 
 bool SimulatedDevice::rectifiedLRIntrinsics(KXCalibIntrinsicsRectified* out) {

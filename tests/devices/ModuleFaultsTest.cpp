@@ -258,7 +258,34 @@ TEST_F(WriteFaultsTest, PowerCutsAndBitsThatArriveWrongAtEveryStep) {
             }
         }
     }
+    EXPECT_FALSE(tryWriting(QString("flash:%1:powercut+16").arg(kSteps)));
+    EXPECT_TRUE(holdsNew) << "the header was whole when the power went";
     EXPECT_TRUE(tryWriting(QString("flash:%1:powercut").arg(kSteps + 1))) << "there are no more steps";
+}
+
+/// The high byte of the infrared matrix' first entry: 1 becomes 1e38.
+constexpr const char* kNonsense = "flash:21:garble+59";
+
+TEST_F(WriteFaultsTest, ABlockThatArrivedAsNonsenseIsNeverLoaded) {
+    EXPECT_FALSE(tryWriting(kNonsense));
+    EXPECT_EQ(said.flash, Flash::Previous) << "it was put back while the module rested";
+
+    // Twice: the module is left with the nonsense, and says so at the next start. The backup brings it back to life.
+    QFile::remove(flashFile);
+    reopen(QString(kNonsense) + ",flash:55:garble+59");
+    EXPECT_FALSE(sensor->updateRotation(kTurned, parameters.depthToOutOfModule.rotation));
+    EXPECT_EQ(sensor->writeBack().flash, Flash::Other);
+    const QString kept = sensor->writeBack().backupFile;
+    start();
+    EXPECT_FALSE(open());
+    expectReport(4);
+    start();
+    ASSERT_TRUE(sensor->open(applicationSettings()));
+    ParameterBackup backup;
+    QString why;
+    ASSERT_TRUE(readBackup(kept, &backup, &why)) << why.toStdString();
+    EXPECT_TRUE(sensor->restoreParameters(backup.block)) << sensor->writeBack().reason.toStdString();
+    EXPECT_EQ(stored(), factory);
 }
 
 }  // namespace

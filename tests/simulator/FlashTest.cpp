@@ -215,7 +215,8 @@ TEST_F(Flash, NonsenseIsStoredButNeitherLoadedNorInTheWayOfABetterBlock) {
     ASSERT_TRUE(device->stopCapture() && write(device.get(), bad));
     EXPECT_FALSE(device->resumeDevice());
     EXPECT_EQ(device->lastStatus(), 4);
-    EXPECT_EQ(opening(), std::make_pair("KXAPI: " + flash + ": rectificationThird: not a rotation\n", 4));
+    EXPECT_EQ(opening(), std::make_pair("KXAPI: " + flash + ": rectificationThird: not a rotation\n", 0));
+    EXPECT_FALSE(createReady()->calibrationValid());
     EXPECT_TRUE(write(device.get(), good) && device->resumeDevice() && device->grab(true));
     EXPECT_EQ(opening().second, 0);
 }
