@@ -164,7 +164,8 @@ TEST_F(Playback, KeepsThePaceItIsAskedFor) {
     const Clock::time_point start = Clock::now();
     for (int i = 0; i < 13; ++i)
         ASSERT_TRUE(device->grab(true));
-    EXPECT_GE(std::chrono::duration<double>(Clock::now() - start).count(), 12 / 120.0);
+    // Some systems' clocks are a little behind their sleep.
+    EXPECT_GE(std::chrono::duration<double>(Clock::now() - start).count(), 12 / 120.0 - 0.005);
     // Without waiting, a grab before its time leaves the current frame.
     int grabs = 13;
     for (; device->depthImage()[0] != 0; ++grabs)

@@ -1,9 +1,13 @@
 #include "devices/CameraParameterReader.h"
 #include "tests/devices/SensorFixture.h"
+#include "workflow/ProcessingThread.h"
 #include "workflow/SaveNote.h"
 #include "workflow/Saving.h"
 
 #include <QFile>
+
+#include <atomic>
+#include <thread>
 
 namespace fieldcal::testing {
 namespace {
@@ -57,6 +61,49 @@ TEST_F(SavingTest, ANoteThatCannotBeReadStillCounts) {
     }
     EXPECT_TRUE(removeSaveNote(data.path()));
     EXPECT_FALSE(readSaveNote(data.path()));
+}
+
+/// A whole workflow over the fake module.
+class EndingTest : public SensorTest {
+protected:
+    struct Listener : WorkflowListener {
+        void stateChanged(State) override { opened = true; }
+        void deviceError(const QString&) override { ++errors; }
+        std::atomic<bool> opened{false};
+        std::atomic<int> errors{0};
+    };
+    void start() {
+        thread = std::make_unique<ProcessingThread>(workflow);
+        while (!listener.opened)
+            std::this_thread::yield();
+    }
+
+    Listener listener;
+    Workflow workflow{listener, {[this] { return std::make_unique<Sensor>(environment()); }, data.path()}};
+    std::unique_ptr<ProcessingThread> thread;
+};
+
+TEST_F(EndingTest, SavingWaitsForACallThatIsSlow) {
+    device->onGrab = [] { std::this_thread::sleep_for(std::chrono::milliseconds(500)); };
+    start();
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    thread->stop(Stop::ToSave);
+    const LeaveReport report = workflow.save();
+    EXPECT_TRUE(report.stored) << report.writeBack.reason.toStdString();
+}
+
+TEST_F(EndingTest, WhatFailsAfterTheUserWantsToEndIsKeptForTheEnd) {
+    std::atomic<int> grabs{0};
+    device->onGrab = [&] {
+        if (++grabs == 3) workflow.requestStop(Stop::ToSave);
+    };
+    device->failCall("grab", 3, 6);
+    start();
+    while (grabs < 3)
+        std::this_thread::yield();
+    thread->stop(Stop::ToSave);
+    EXPECT_EQ(workflow.save().errors.size(), 1);
+    EXPECT_EQ(listener.errors, 0);
 }
 
 }  // namespace

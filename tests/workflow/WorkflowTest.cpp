@@ -182,7 +182,8 @@ TEST_F(WorkflowTest, LeavingTakesLessThanASecondFromEverywhere) {
         EXPECT_EQ(control.startType, 2U) << from;
     };
     for (const char* hanging :
-         {"openDevice:1:hang", "zIntrinsics:1:hang", "nonRectifiedIntrinsics:1:hang", "grab:9:hang"}) {
+         {"openCamera:1:hang", "openDevice:1:hang", "thirdCamera:1:hang", "emitterControl:1:hang", "zIntrinsics:1:hang",
+          "nonRectifiedIntrinsics:1:hang", "grab:9:hang", "leftImage:5:hang"}) {
         start(hanging);
         std::this_thread::sleep_for(std::chrono::milliseconds(150));
         leaveInTime(hanging);
