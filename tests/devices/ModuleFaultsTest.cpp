@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <random>
 
 namespace fieldcal::testing {
 namespace {
@@ -261,6 +262,21 @@ TEST_F(WriteFaultsTest, PowerCutsAndBitsThatArriveWrongAtEveryStep) {
     EXPECT_FALSE(tryWriting(QString("flash:%1:powercut+16").arg(kSteps)));
     EXPECT_TRUE(holdsNew) << "the header was whole when the power went";
     EXPECT_TRUE(tryWriting(QString("flash:%1:powercut").arg(kSteps + 1))) << "there are no more steps";
+}
+
+/// FIELDCAL_POWER_CUTS: how many.
+TEST_F(WriteFaultsTest, PowerCutsAnywhere) {
+    const int asked = qEnvironmentVariableIntValue("FIELDCAL_POWER_CUTS");
+    std::mt19937 random(11);
+    int foundNew = 0;
+    for (int i = 0; i < (asked > 0 ? asked : 40); ++i) {
+        const auto step = random() % 34 + 1;
+        const QString fault = QString("flash:%1:powercut+%2").arg(step).arg(random() % (step == 1 ? 2100 : 70));
+        SCOPED_TRACE(fault.toStdString());
+        EXPECT_FALSE(tryWriting(fault));
+        foundNew += holdsNew ? 1 : 0;
+    }
+    RecordProperty("holdsNew", foundNew);
 }
 
 /// The high byte of the infrared matrix' first entry: 1 becomes 1e38.
