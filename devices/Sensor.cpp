@@ -8,7 +8,7 @@ namespace fieldcal {
 namespace {
 
 /// While somebody waits for the program to end.
-constexpr std::chrono::milliseconds kHastyReleaseLimit{300};
+constexpr std::chrono::milliseconds kHastyReleaseLimit{600};
 
 }  // namespace
 
