@@ -2,17 +2,12 @@
 
 #include "devices/ParameterBackup.h"
 
-#include <cstring>
 #include <utility>
 
 namespace fieldcal {
 namespace {
 
 using Flash = WriteBackReport::Flash;
-
-bool same(const KXCalibRectParameters& a, const KXCalibRectParameters& b) {
-    return std::memcmp(&a, &b, sizeof(a)) == 0;
-}
 
 }  // namespace
 
@@ -127,8 +122,8 @@ bool FlashRewrite::resume() {
 }
 
 Flash FlashRewrite::compare(const KXCalibRectParameters& block) const {
-    if (same(block, wanted_)) return Flash::Written;
-    return same(block, previous_) ? Flash::Previous : Flash::Other;
+    if (sameBytes(block, wanted_)) return Flash::Written;
+    return sameBytes(block, previous_) ? Flash::Previous : Flash::Other;
 }
 
 /// The sensor has reported it.

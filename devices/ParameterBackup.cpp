@@ -8,6 +8,7 @@
 #include <QSaveFile>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstring>
 
 namespace fieldcal {
@@ -69,6 +70,11 @@ bool refuse(const QString& file, const QString& reason, QString* why) {
 }
 
 }  // namespace
+
+bool sameBytes(const KXCalibRectParameters& a, const KXCalibRectParameters& b) {
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(&a);
+    return std::equal(bytes, bytes + sizeof(a), reinterpret_cast<const std::uint8_t*>(&b));
+}
 
 const char* matrixThatIsNoRotation(const KXCalibRectParameters& block, bool withPlatform) {
     if (!isRotation(block.rectificationInfrared, kRotationTolerance)) return "infrared rectification";

@@ -27,7 +27,7 @@ ParameterBackup sample() {
 }
 
 bool same(const ParameterBackup& a, const ParameterBackup& b) {
-    return a.serial == b.serial && a.taken == b.taken && std::memcmp(&a.block, &b.block, sizeof(a.block)) == 0;
+    return a.serial == b.serial && a.taken == b.taken && sameBytes(a.block, b.block);
 }
 
 class ParameterBackupTest : public testing::Test {

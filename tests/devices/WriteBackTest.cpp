@@ -40,9 +40,7 @@ protected:
         device->written = device->flash;
         device->calls.clear();
     }
-    bool flashIs(const KXCalibRectParameters& block) const {
-        return std::memcmp(&device->flash, &block, sizeof(block)) == 0;
-    }
+    bool flashIs(const KXCalibRectParameters& block) const { return sameBytes(device->flash, block); }
     Flash flash() const { return sensor->writeBack().flash; }
     std::string reason() const { return sensor->writeBack().reason.toStdString(); }
 
@@ -68,7 +66,7 @@ TEST_F(WriteBackTest, ComposesEachRotationBetweenTheRawFramesAndTouchesNothingEl
     QString why;
     ASSERT_TRUE(readBackup(sensor->writeBack().backupFile, &backup, &why)) << why.toStdString();
     EXPECT_EQ(backup.serial, 550101U);
-    EXPECT_EQ(std::memcmp(&backup.block, &before, sizeof(before)), 0);
+    EXPECT_TRUE(sameBytes(backup.block, before));
     ASSERT_TRUE(sensor->restoreParameters(backup.block));
     EXPECT_TRUE(flashIs(before));
 }
