@@ -1,0 +1,36 @@
+#pragma once
+
+#include "simulator/synthesis/Random.h"
+#include "simulator/world/Worlds.h"
+
+#include <memory>
+#include <utility>
+
+namespace fieldcal::world {
+
+/// What a world is put together in.
+struct Builder {
+    Builder(std::uint64_t seed, const char* name)
+        : random(seed, name), noise(std::make_unique<synthesis::Noise>(seed)) {}
+
+    template <typename Kind, typename... Arguments>
+    MaterialId material(Arguments&&... arguments) {
+        materials.push_back(std::make_unique<Kind>(std::forward<Arguments>(arguments)...));
+        return static_cast<MaterialId>(materials.size() - 1);
+    }
+    /// Daylight with the sun anywhere between 25° and 55° high.
+    void drawDaylight();
+    std::unique_ptr<Stage> finish();
+
+    synthesis::Random random;
+    std::unique_ptr<synthesis::Noise> noise;
+    Mesh mesh;
+    Materials materials;
+    Daylight daylight;
+};
+
+std::unique_ptr<Stage> buildMountains(std::uint64_t seed);
+std::unique_ptr<Stage> buildSquare(std::uint64_t seed);
+std::unique_ptr<Stage> buildWall(std::uint64_t seed);
+
+}  // namespace fieldcal::world

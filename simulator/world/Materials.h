@@ -1,0 +1,73 @@
+#pragma once
+
+#include "simulator/synthesis/Materials.h"
+#include "simulator/world/Material.h"
+
+#include <array>
+
+namespace fieldcal::world {
+
+/// A mottled solid. Texture coordinates in metres.
+class Solid : public Material {
+public:
+    struct Finish {
+        float coarse = 1;  ///< size of the largest mottles, metres
+        float mirror = 0;
+        float relief = 0;  ///< how far bumps turn the normal, about radians
+    };
+    Solid(const synthesis::Material& substance, const synthesis::Noise& noise, const Finish& finish)
+        : substance_(substance), noise_(noise), finish_(finish) {}
+    Look at(const Place& place) const override;
+
+private:
+    synthesis::Material substance_;
+    const synthesis::Noise& noise_;
+    Finish finish_;
+};
+
+/// Shines by itself, alike in every band and from every side.
+class Glow : public Material {
+public:
+    explicit Glow(float radiance) : radiance_(radiance) {}
+    Look at(const Place& place) const override;
+
+private:
+    float radiance_;
+};
+
+/// Leaves, needles and blades: single triangles or quads. Texture: (a number of the leaf's own, share of the sky
+/// that it sees).
+class Leaf : public Material {
+public:
+    explicit Leaf(const synthesis::Spectrum& reflectance) : reflectance_(reflectance) {}
+    Look at(const Place& place) const override;
+
+private:
+    synthesis::Spectrum reflectance_;
+};
+
+/// Window glass in front of a dim inside.
+class Glass : public Material {
+public:
+    explicit Glass(const synthesis::Spectrum& inside) : inside_(inside) {}
+    Look at(const Place& place) const override;
+
+private:
+    synthesis::Spectrum inside_;
+};
+
+/// A board with lettering in inks of which some are not seen in the near infrared. Texture from its lower left corner.
+class Sign : public Material {
+public:
+    Sign(std::uint32_t seed, float height) : seed_(seed), height_(height) {}
+    Look at(const Place& place) const override;
+
+private:
+    std::uint32_t seed_;
+    float height_;
+};
+
+/// Slope of a field of bumps at a place, for tilting normals: two independent numbers of about ±1.
+cv::Vec2f bumps(const synthesis::Noise& noise, const cv::Vec2f& at, float coarse, float footprint);
+
+}  // namespace fieldcal::world

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "simulator/synthesis/Noise.h"
+#include "simulator/synthesis/Random.h"
+#include "simulator/world/Shapes.h"
+
+namespace fieldcal::world {
+
+/// Mountains around a viewer at the origin who looks out over a valley: nothing comes nearer than 100 m to a point
+/// less than 5 m from the origin.
+class Terrain {
+public:
+    Terrain(const synthesis::Noise& noise, synthesis::Random& random);
+    /// Metres above the viewer's eye, negative below.
+    float height(float x, float z) const;
+
+private:
+    const synthesis::Noise& noise_;
+    float valley_, rise_, shiftX_, shiftZ_;
+};
+
+}  // namespace fieldcal::world

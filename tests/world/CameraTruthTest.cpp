@@ -1,0 +1,232 @@
+#include "simulator/synthesis/Rig.h"
+#include "simulator/world/Cameras.h"
+#include "tests/world/Scenes.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace fieldcal::world {
+namespace {
+
+using session::SessionDescription;
+
+synthesis::StillSettings noiseless() {
+    synthesis::StillSettings s;
+    s.infrared = {150, 1e12, 0, 0, 0};
+    s.colour = {0.10, 1e12, 0, 0, 0, 0};
+    return s;
+}
+
+/// A light that fades smoothly from its middle, so that few samples a pixel find its centroid. Texture in deviations.
+class SoftDot : public Material {
+public:
+    Look at(const Place& place) const override {
+        Look look;
+        const float v = 0.1F + 0.4F * std::exp(-0.5F * place.texture.dot(place.texture));
+        look.surface.gloss = {v, v, v, v};
+        return look;
+    }
+};
+
+/// Dots of known position before an even background, some near and some far, so that baselines show.
+struct Dots {
+    Pose pose;
+    std::vector<cv::Vec3d> centres;
+    std::unique_ptr<World> world;
+
+    explicit Dots(std::uint64_t seed) {
+        synthesis::Random random(seed, "dots");
+        pose = poseOf({random.uniform(-20, 20), random.uniform(-180, 180), random.uniform(-10, 10)},
+                      {random.uniform(-3, 3), random.uniform(-3, 3), random.uniform(-3, 3)});
+        TestScene scene;
+        const auto background = scene.material<Glow>(0.1F), bright = scene.material<SoftDot>();
+        addBall(scene.mesh, cv::Vec3f(pose.centre), {60, 60, 60}, 24, background);
+        for (int row = 0; row < 5; ++row)
+            for (int column = 0; column < 7; ++column) {
+                const double z = row % 2 == column % 2 ? random.uniform(1.2, 3) : random.uniform(4, 25);
+                add(scene.mesh, cv::Vec3d((column - 3) * 0.15 * z, (row - 2) * 0.15 * z, z), bright);
+            }
+        world = std::make_unique<World>(std::move(scene.mesh), std::move(scene.materials), scene.daylight,
+                                        std::move(scene.noise));
+    }
+
+private:
+    /// A small square across the camera's axis, ten deviations wide.
+    void add(Mesh& mesh, const cv::Vec3d& there, MaterialId material) {
+        const cv::Matx33d world_camera = pose.camera_world.t();
+        const cv::Vec3f x(world_camera * cv::Vec3d(1, 0, 0)), y(world_camera * cv::Vec3d(0, 1, 0)), z = x.cross(y);
+        centres.push_back(pose.centre + world_camera * there);
+        const cv::Vec3f centre(centres.back());
+        const auto reach = static_cast<float>(0.016 * there[2]);
+        const auto corner = [&](float s, float t) {
+            return mesh.add({centre + x * (s * reach) + y * (t * reach), z, {5 * s, 5 * t}});
+        };
+        const auto a = corner(-1, -1), b = corner(1, -1), c = corner(1, 1), d = corner(-1, 1);
+        mesh.add(a, b, c, material);
+        mesh.add(a, c, d, material);
+    }
+};
+
+/// Centroid of what exceeds the background around `guess`; NaN near a border.
+cv::Point2d centroid(const cv::Mat_<float>& picture, cv::Point2d guess) {
+    constexpr int reach = 10;
+    const int cx = cvRound(guess.x), cy = cvRound(guess.y);
+    const cv::Rect around(cx - reach, cy - reach, 2 * reach + 1, 2 * reach + 1);
+    if ((around & cv::Rect({}, picture.size())) != around) return {std::nan(""), 0};
+    double low = 0, high = 0, weight = 0;
+    cv::minMaxLoc(picture(around), &low, &high);
+    cv::Point2d sum(0, 0);
+    for (int y = around.y; y < around.br().y; ++y)
+        for (int x = around.x; x < around.br().x; ++x) {
+            const double w = std::max(0.0, picture(y, x) - low - 0.1 * (high - low));
+            sum += cv::Point2d(x, y) * w;
+            weight += w;
+        }
+    return high > 1.4 * low ? sum / weight : cv::Point2d(std::nan(""), 1);
+}
+
+using Projection = std::function<cv::Point2d(const cv::Vec3d&)>;
+
+/// Every dot that `project` puts inside the picture is found there.
+void expectDots(const Dots& dots, const cv::Mat_<float>& picture, const Projection& project) {
+    int found = 0;
+    cv::Point2d sum(0, 0);
+    for (const auto& centre : dots.centres) {
+        const cv::Point2d expected = project(dots.pose.camera_world * (centre - dots.pose.centre));
+        const cv::Point2d seen = centroid(picture, expected);
+        if (std::isnan(seen.x)) {
+            EXPECT_EQ(seen.y, 0) << "nothing bright at " << expected;
+            continue;
+        }
+        EXPECT_LT(cv::norm(seen - expected), 0.05) << "at " << expected << ", seen at " << seen;
+        sum += seen - expected;
+        ++found;
+    }
+    ASSERT_GE(found, 20);
+    EXPECT_LT(cv::norm(sum / found), 0.01);
+}
+
+cv::Vec3d moved(const session::Matrix3& rotation, const session::Vector3& millimetres, const cv::Vec3d& point) {
+    return cv::Matx33d(rotation.data()) * point + cv::Vec3d(millimetres.data()) / 1000;
+}
+
+/// Pixel of a colour camera's point, from the contract: (cx, cy) is the principal point times s after scaling by s.
+cv::Point2d colourPixel(const session::Intrinsics& k, const session::Intrinsics& infrared, const cv::Vec3d& p) {
+    const double sx = infrared.fx / k.fx, sy = infrared.fy / k.fy;
+    return {(infrared.fx * p[0] / p[2] + sx * k.cx + 0.5) / sx - 0.5,
+            (infrared.fy * p[1] / p[2] + sy * k.cy + 0.5) / sy - 0.5};
+}
+
+cv::Mat_<float> infraredOf(const session::FramePictures& pictures, const SessionDescription& rig) {
+    cv::Mat_<float> out;
+    cv::Mat_<std::uint16_t>(rig.infrared.height, rig.infrared.width,
+                            const_cast<std::uint16_t*>(pictures.infrared.pixels()))
+        .convertTo(out, CV_32F);
+    return out;
+}
+
+cv::Mat_<float> greenOf(const ImageFrame32& frame) {
+    cv::Mat_<float> out(static_cast<int>(frame.height()), static_cast<int>(frame.width()));
+    for (int i = 0; i < out.rows * out.cols; ++i)
+        out(i / out.cols, i % out.cols) = frame.bytes()[4 * i + 1];
+    return out;
+}
+
+cv::Mat_<float> lumaOf(const std::vector<std::uint8_t>& nv12) {
+    cv::Mat_<float> out;
+    cv::Mat_<std::uint8_t>(session::kPlatformHeight, session::kPlatformWidth, const_cast<std::uint8_t*>(nv12.data()))
+        .convertTo(out, CV_32F);
+    return out - 16;
+}
+
+TEST(WorldCameras, MarkedPointsLieWhereModelsAndPosePutThemInAllCameras) {
+    for (std::uint64_t seed = 1; seed <= 10; ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        const auto rig = synthesis::drawRig(seed, {true, {}, {}});
+        const Dots dots(seed);
+        const auto pictures = Cameras(rig, {2, 2, 1}).take(*dots.world, dots.pose, noiseless(), {}, seed);
+
+        const auto& k = rig.infrared;
+        expectDots(dots, infraredOf(pictures, rig), [&](const cv::Vec3d& p) {
+            return cv::Point2d(k.fx * p[0] / p[2] + k.cx, k.fy * p[1] / p[2] + k.cy);
+        });
+        expectDots(dots, greenOf(pictures.third), [&](const cv::Vec3d& p) {
+            return colourPixel(rig.third, k, moved(*rig.truthThird, rig.third.translation, p));
+        });
+        expectDots(dots, lumaOf(pictures.platform), [&](const cv::Vec3d& p) {
+            const cv::Vec3d there = moved(*rig.truthPlatform, rig.platform->translation, p);
+            return synthesis::rawFromRectified(*rig.platform, colourPixel(rig.platform->rectified, k, there));
+        });
+    }
+}
+
+/// A slanted plane 3 m away; returns z along the ray (x, y, 1) of the camera at the origin that looks along +z.
+struct SlantedPlane {
+    cv::Vec3d point{0, 0, 3}, normal{0.4, -0.3, -1};
+    World world;
+
+    SlantedPlane() : world(build()) {}
+    World build() const {
+        TestScene scene;
+        const cv::Vec3f along = unit(cv::Vec3f(normal).cross({0, 1, 0})), up = unit(cv::Vec3f(normal).cross(along));
+        addQuad(scene.mesh, {cv::Vec3f(point) - along * 20 - up * 20, along * 40, up * 40}, scene.even({1, 1, 1, 1}));
+        return scene.finish();
+    }
+    double depth(const cv::Vec2f& ray) const { return point.dot(normal) / normal.dot({ray[0], ray[1], 1}); }
+};
+
+TEST(WorldCameras, DepthIsAlongTheAxisOfTheInfraredCameraAndHoldsTheRangeOfTheModule) {
+    const auto rig = synthesis::drawRig(4, {});
+    const auto rays = synthesis::infraredRays(rig.depth, 1);
+    const SlantedPlane plane;
+    const auto exact = exactDepth(plane.world, rays, {}, 100);
+    StereoModel model;
+    model.farthest = 3.5;
+    synthesis::Random random(1, "depth");
+    const auto frame = takeDepth(plane.world, rays, {}, rig.depth.fx, model, random);
+    int near = 0, far = 0;
+    for (int y = 0; y < exact.rows; y += 7)
+        for (int x = 0; x < exact.cols; x += 7) {
+            const double truth = plane.depth(rays.rays(y, x));
+            ASSERT_NEAR(exact(y, x), truth * 1000, 0.1 + truth * 0.01);
+            const int measured = frame.pixels()[y * exact.cols + x];
+            // One step and five deviations of disparity, taken back to depth.
+            const double blur =
+                1000 * truth * truth / (rig.depth.fx * model.baseline) * (model.stepPx + 5 * model.noisePx);
+            if (truth < 3.3) {
+                EXPECT_NEAR(measured, truth * 1000, blur);
+                ++near;
+            }
+            if (truth > 3.8) {
+                EXPECT_EQ(measured, 0);
+                ++far;
+            }
+        }
+    EXPECT_GT(near, 500);
+    EXPECT_GT(far, 300);
+}
+
+TEST(WorldCameras, TheSecondInfraredCameraMissesAStripBesideNearThings) {
+    TestScene scene;
+    const auto grey = scene.even({1, 1, 1, 1});
+    addQuad(scene.mesh, {{-20, -20, 4}, {40, 0, 0}, {0, 40, 0}}, grey);
+    addQuad(scene.mesh, {{-0.2F, -20, 1}, {0.4F, 0, 0}, {0, 40, 0}}, grey);
+    const World world = scene.finish();
+    const auto rig = synthesis::drawRig(2, {});
+    StereoModel model;
+    synthesis::Random random(1, "depth");
+    const auto frame = takeDepth(world, synthesis::infraredRays(rig.depth, 1), {}, rig.depth.fx, model, random);
+    const auto at = [&](double x) {
+        return frame.pixels()[frame.width() * 200 + static_cast<unsigned>(std::lround(rig.depth.cx + x))];
+    };
+    // The strip is as wide as the difference of the disparities, left of the near thing.
+    const double edge = -0.2 * rig.depth.fx, width = rig.depth.fx * model.baseline * (1 - 0.25);
+    EXPECT_NEAR(at(edge + 6), 1000, 30);
+    EXPECT_EQ(at(edge - width / 2), 0);
+    EXPECT_NEAR(at(edge - width - 6), 4000, 300);
+    EXPECT_NEAR(at(-edge + 6), 4000, 300);
+}
+
+}  // namespace
+}  // namespace fieldcal::world
