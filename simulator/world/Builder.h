@@ -30,7 +30,12 @@ struct Builder {
 };
 
 std::unique_ptr<Stage> buildMountains(std::uint64_t seed);
+std::unique_ptr<Stage> buildNear(std::uint64_t seed);
+std::unique_ptr<Stage> buildNight(std::uint64_t seed);
+std::unique_ptr<Stage> buildPark(std::uint64_t seed);
+std::unique_ptr<Stage> buildRepetitive(std::uint64_t seed);
 std::unique_ptr<Stage> buildSquare(std::uint64_t seed);
+std::unique_ptr<Stage> buildStreet(std::uint64_t seed);
 std::unique_ptr<Stage> buildWall(std::uint64_t seed);
 
 }  // namespace fieldcal::world

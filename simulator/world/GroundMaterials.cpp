@@ -33,10 +33,11 @@ Look Paving::at(const Place& place) const {
 
 Look Turf::at(const Place& place) const {
     const float x = place.texture[0], z = place.texture[1];
+    constexpr synthesis::Material blades{synthesis::materials::grass.reflectance, 0.13F, 0.14F, 0.08F};
     const float worn = smoothStep(0.5F, 0.9F, noise_.fractal(x, z, 7.0F, place.footprint, 0.6F));
     Look look;
     look.surface.reflectance =
-        mix(mottled(synthesis::materials::grass, noise_, x, z, 2.5F, place.footprint),
+        mix(mottled(blades, noise_, x, z, 2.5F, place.footprint),
             mottled(synthesis::materials::soil, noise_, x, z, 1.5F, place.footprint), worn * 0.8F);
     // Blades stand on edge: their shading is coarser than any mottle, and deepest where they are thick.
     const cv::Vec2f slope = bumps(noise_, place.texture, 0.25F, place.footprint);
@@ -76,8 +77,9 @@ Look Mountainside::at(const Place& place) const {
     const float ragged = noise_.fractal(place.texture[0], place.texture[1], 250.0F, place.footprint, 0.65F);
     const cv::Vec2f slope = bumps(noise_, place.texture, 25.0F, place.footprint);
     look.tilt = cv::Vec3f(slope[0], 0, slope[1]) * 0.35F;
-    const float stony = smoothStep(0.80F, 0.70F, level + 0.10F * ragged);
-    const float wooded = smoothStep(-0.1F, 0.15F, ragged + 1.2F * (treeLine_ - height) / treeLine_ - 0.2F);
+    const float stony = smoothStep(0.86F, 0.78F, level + 0.07F * ragged);
+    const float wooded =
+        smoothStep(-0.1F, 0.15F, ragged + 0.7F * std::min(1.0F, (treeLine_ - height) / treeLine_) - 0.55F);
     const float snowy = smoothStep(-60, 60, height - snowLine_ + 220 * ragged) * smoothStep(0.62F, 0.72F, level);
     cv::Vec3f crowns(0, 0, 0);
     Spectrum ground = meadow(place);

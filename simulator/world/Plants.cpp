@@ -92,7 +92,7 @@ void addTree(Mesh& mesh, const Tree& tree, const PlantMaterials& materials, Rand
 
 void addBush(Mesh& mesh, const cv::Vec3f& foot, const cv::Vec3f& radii, int leaves, float leafSize, MaterialId leaf,
              Random& random) {
-    Crown crown{foot + cv::Vec3f(0, -radii[1] * 0.9F, 0), radii, leaves, leafSize};
+    Crown crown{foot + cv::Vec3f(0, -radii[1] * 0.62F, 0), radii, leaves, leafSize};
     addLeaves(mesh, crown, placeBoughs(12 + random.index(8), random), leaf, random);
 }
 

@@ -1,94 +1,28 @@
-#include "simulator/world/Building.h"
 #include "simulator/world/GroundMaterials.h"
 #include "simulator/world/Materials.h"
-#include "simulator/world/Plants.h"
+#include "simulator/world/Neighbourhood.h"
 #include "simulator/world/Shapes.h"
 #include "simulator/world/StreetThings.h"
-
-#include <cmath>
 
 namespace fieldcal::world {
 
 namespace {
 
-constexpr float quarter = 1.5707963F;
+constexpr float quarter = 1.5707963F, wholeTurn = 6.2831853F;
 
-struct Plan {
-    float eye = 1.7F;    ///< height above the paving
-    float half = 26.0F;  ///< from the viewer to the fronts
-};
-
-cv::Vec3f onGround(const Plan& plan, float distance, float angle) {
-    return {distance * std::sin(angle), plan.eye, distance * std::cos(angle)};
-}
-
-/// Houses along one side of the square, with a lane between some.
-void buildSide(Builder& b, const Plan& plan, int side) {
-    const float angle = quarter * static_cast<float>(side);
-    const cv::Vec3f along(std::cos(angle), 0, -std::sin(angle)), away(std::sin(angle), 0, std::cos(angle));
-    const float half = plan.half * b.random.between(0.85F, 1.3F);
-    float from = -half;
-    while (from < half) {
-        House house;
-        house.style = synthesis::drawFacadeStyle(b.random);
-        house.length = b.random.between(8, 18);
-        house.height = house.style.storey * static_cast<float>(2 + b.random.index(4)) + 0.8F;
-        house.roofRise = b.random.between(1.5F, 4.5F);
-        house.along = along;
-        house.corner = away * (half + b.random.between(0, 0.8F)) + along * from + cv::Vec3f(0, plan.eye, 0);
-        addHouse(b, house);
-        from += house.length + (b.random.chance(0.25) ? b.random.between(2, 6) : 0);
-    }
-}
-
-/// Taller houses behind, seen through the lanes and over the roofs.
-void buildBehind(Builder& b, const Plan& plan) {
-    for (int i = 0; i < 16; ++i) {
-        const float angle = 0.39F * static_cast<float>(i) + b.random.between(-0.1F, 0.1F);
-        House house;
-        house.style = synthesis::drawFacadeStyle(b.random);
-        house.length = b.random.between(12, 26);
-        house.height = b.random.between(12, 26);
-        house.along = {std::cos(angle), 0, -std::sin(angle)};
-        house.corner =
-            onGround(plan, plan.half * b.random.between(2.2F, 3.5F), angle) - house.along * (house.length / 2);
-        addHouse(b, house);
-    }
-}
-
-void plantTrees(Builder& b, const Plan& plan, int count) {
-    for (int i = 0; i < count; ++i) {
-        const auto bark = b.material<Solid>(synthesis::materials::bark, *b.noise, Solid::Finish{0.2F, 0, 0.4F});
-        synthesis::Spectrum green = synthesis::materials::leaf.reflectance;
-        green.red *= b.random.between(0.7F, 1.7F);
-        const auto leaf = b.material<Leaf>(green.scaled(b.random.between(0.8F, 1.3F), b.random.between(0.85F, 1.1F)));
-        Tree tree;
-        tree.height = b.random.between(5, 10);
-        tree.crownRadius = tree.height * b.random.between(0.24F, 0.36F);
-        tree.leaves = 9000;
-        tree.leafSize = b.random.between(0.15F, 0.24F);
-        const float angle = 6.2832F * (static_cast<float>(i) + b.random.between(0, 0.9F)) / static_cast<float>(count);
-        tree.foot = onGround(plan, b.random.between(8.5F, plan.half * 0.85F), angle);
-        addTree(b.mesh, tree, {bark, leaf}, b.random);
-    }
-}
-
-void standThings(Builder& b, const Plan& plan) {
-    const auto somewhere = [&](float nearest, float farthest) {
-        return onGround(plan, b.random.between(nearest, farthest), b.random.between(0, 6.2832F));
-    };
-    const auto anyTurn = [&] { return b.random.between(0, 6.2832F); };
+void standThings(Builder& b, float eye, float half) {
+    const auto anyAngle = [&] { return b.random.between(0, wholeTurn); };
     for (int i = 0; i < 11; ++i)
-        addCar(b, somewhere(plan.half * 0.55F, plan.half * 0.9F),
+        addCar(b, onGround(eye, half * b.random.between(0.55F, 0.9F), anyAngle()),
                quarter * static_cast<float>(b.random.index(4)) + b.random.between(-0.05F, 0.05F));
     for (int i = 0; i < 8; ++i)
-        addLamp(b, somewhere(7, 22));
+        addLamp(b, onGround(eye, b.random.between(7, 22), anyAngle()));
     for (int i = 0; i < 6; ++i) {
-        const float angle = anyTurn();
-        addSign(b, onGround(plan, b.random.between(6, 18), angle), -angle + b.random.between(-0.6F, 0.6F));
+        const float angle = anyAngle();
+        addSign(b, onGround(eye, b.random.between(6, 18), angle), -angle + b.random.between(-0.6F, 0.6F));
     }
     for (int i = 0; i < 12; ++i)
-        addFurniture(b, somewhere(5, 16), anyTurn());
+        addFurniture(b, onGround(eye, b.random.between(5, 16), anyAngle()), anyAngle());
 }
 
 Paving::Stones drawStones(synthesis::Random& random) {
@@ -99,24 +33,54 @@ Paving::Stones drawStones(synthesis::Random& random) {
     return stones;
 }
 
+void pave(Builder& b, float eye, const Paving::Stones& stones) {
+    const auto paving = b.material<Paving>(stones, *b.noise);
+    addHeightField(
+        b.mesh, {0.05F, 300, 64, 24}, [&](float, float) { return -eye; }, paving);
+}
+
 }  // namespace
 
 std::unique_ptr<Stage> buildSquare(std::uint64_t seed) {
     Builder b(seed, "square");
     b.drawDaylight();
     b.daylight.ridgeHeight = 0.09F;
-    Plan plan;
-    plan.eye = b.random.between(1.6F, 2.6F);
-    plan.half = b.random.between(20, 30);
-    const auto paving = b.material<Paving>(drawStones(b.random), *b.noise);
-    addHeightField(
-        b.mesh, {0.05F, 300, 64, 24}, [&](float, float) { return -plan.eye; }, paving);
-    for (int side = 0; side < 4; ++side)
-        buildSide(b, plan, side);
-    buildBehind(b, plan);
-    plantTrees(b, plan, 14);
-    standThings(b, plan);
+    const float eye = b.random.between(1.6F, 2.6F), half = b.random.between(20, 30);
+    pave(b, eye, drawStones(b.random));
+    for (int side = 0; side < 4; ++side) {
+        const float away = half * b.random.between(0.85F, 1.3F);
+        buildRow(b, {quarter * static_cast<float>(side), away, -away, away, eye});
+    }
+    buildFarHouses(b, eye, half * 2.8F, 16);
+    for (int i = 0; i < 14; ++i) {
+        const float angle = wholeTurn * (static_cast<float>(i) + b.random.between(0, 0.9F)) / 14;
+        plantTree(b, onGround(eye, b.random.between(8.5F, half * 0.85F), angle), b.random.between(5, 10), 9000);
+    }
+    standThings(b, eye, half);
     return b.finish();
+}
+
+/// One window like the next, on all four sides.
+std::unique_ptr<Stage> buildRepetitive(std::uint64_t seed) {
+    Builder b(seed, "repetitive");
+    b.drawDaylight();
+    constexpr float eye = 2;
+    pave(b, eye, {});
+    synthesis::FacadeStyle style = synthesis::drawFacadeStyle(b.random);
+    style.variety = 0, style.balconies = 0, style.shops = false, style.shutters = false;
+    const float side = 16 * style.bay, height = style.storey * 7 + 0.8F;
+    for (int i = 0; i < 4; ++i)
+        buildRow(b, {quarter * static_cast<float>(i), side / 2, -side / 2, side / 2 - 1, eye, 0, &style, height});
+    auto stage = b.finish();
+    if (stage) stage->lowestPitchDeg = 8, stage->highestPitchDeg = 16;
+    return stage;
+}
+
+/// The square when there is too little light for the cameras.
+std::unique_ptr<Stage> buildNight(std::uint64_t seed) {
+    auto stage = buildSquare(seed);
+    if (stage) stage->darkness = 0.05;
+    return stage;
 }
 
 }  // namespace fieldcal::world

@@ -28,10 +28,12 @@ float Terrain::height(float x, float z) const {
         v = 0.6F * u + 0.8F * v - 173.0F;
         u = turned;
     }
-    const float away = synthesis::smoothStep(200, 4200, distance);
+    const float away = 0.22F + 0.78F * synthesis::smoothStep(200, 3800, distance);
     const float mountain = away * 620 * ridges * rise_;
-    const float hummocks = 26 * noise_.fractal(x + shiftX_, z + shiftZ_, 170, 1, 0.5F);
-    return std::min(-valley_ + mountain + hummocks, distance < 260 ? -108.0F : 1e9F);
+    const float hummocks = 34 * noise_.fractal(x + shiftX_, z + shiftZ_, 260, 1, 0.45F);
+    // The eye stands over an edge: the ground beneath it is kept low enough for nothing to come near.
+    const float lowest = -108 + 0.9F * std::max(0.0F, distance - 260);
+    return std::min(-valley_ + mountain + hummocks, lowest);
 }
 
 }  // namespace fieldcal::world

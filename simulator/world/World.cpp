@@ -175,7 +175,7 @@ Sample World::traced(const cv::Vec3f& origin, const cv::Vec3f& direction, bool m
         light =
             mix(light, traced(place.point + place.normal * liftOff(hit.distance), unit(away), false).radiance, share);
     }
-    return {synthesis::Backdrop::throughAir(light, hit.distance), hit.distance};
+    return {synthesis::Backdrop::throughAir(light, hit.distance / daylight_.clarity), hit.distance};
 }
 
 Sample World::trace(const cv::Vec3f& origin, const cv::Vec3f& direction) const {

@@ -19,6 +19,7 @@ struct Sample {
 struct Daylight {
     synthesis::Light light;
     float cloudiness = 0.4F;   ///< 0 clear … 1
+    float clarity = 2;         ///< how many times further one sees than through summer haze
     float ridgeHeight = 0.0F;  ///< painted ridges at infinity, radians; 0 for none
 };
 

@@ -24,7 +24,8 @@ namespace {
 using Build = std::unique_ptr<Stage> (*)(std::uint64_t);
 const std::vector<std::pair<std::string, Build>>& builders() {
     static const std::vector<std::pair<std::string, Build>> all{
-        {"square", buildSquare}, {"mountains", buildMountains}, {"wall", buildWall}};
+        {"square", buildSquare}, {"street", buildStreet},         {"park", buildPark}, {"mountains", buildMountains},
+        {"wall", buildWall},     {"repetitive", buildRepetitive}, {"near", buildNear}, {"night", buildNight}};
     return all;
 }
 
