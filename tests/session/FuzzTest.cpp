@@ -1,5 +1,6 @@
 #include "session/Description.h"
 #include "session/PngFile.h"
+#include "tests/session/Crc32.h"
 #include "tests/session/TestSession.h"
 
 #include <QtEndian>
@@ -47,22 +48,12 @@ private:
     std::mt19937 random_;
 };
 
-std::uint32_t checksum(const QByteArray& bytes) {
-    std::uint32_t value = 0xFFFFFFFFU;
-    for (const char byte : bytes) {
-        value ^= static_cast<std::uint8_t>(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            value = (value >> 1) ^ ((value & 1) != 0 ? 0xEDB88320U : 0);
-    }
-    return ~value;
-}
-
 /// Makes the checksums of a PNG file's chunks right again, as far as the chunks can be followed.
 QByteArray withChecksums(QByteArray bytes) {
     const auto length = [&](int at) { return qFromBigEndian<quint32>(bytes.constData() + at); };
     for (int at = 8; at + 12 <= bytes.size() && length(at) <= static_cast<quint32>(bytes.size() - at - 12);) {
         const int data = static_cast<int>(length(at));
-        qToBigEndian(checksum(bytes.mid(at + 4, data + 4)), bytes.data() + at + 8 + data);
+        qToBigEndian(fieldcal::testing::crc32(bytes.mid(at + 4, data + 4)), bytes.data() + at + 8 + data);
         at += 12 + data;
     }
     return bytes;

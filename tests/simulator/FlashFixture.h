@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kxapi/RotationUpdater.h"
+#include "tests/session/Crc32.h"
 #include "tests/simulator/TestModule.h"
 
 #include <cmath>
@@ -15,16 +16,6 @@ constexpr int kThirdRotation = 256;
 constexpr int kPlatformRotation = 512;
 constexpr int kLastStep = 34;
 
-inline std::uint32_t crc32(const QByteArray& bytes) {
-    std::uint32_t value = 0xFFFFFFFFU;
-    for (const char byte : bytes) {
-        value ^= static_cast<std::uint8_t>(byte);
-        for (int bit = 0; bit < 8; ++bit)
-            value = (value >> 1) ^ ((value & 1) != 0 ? 0xEDB88320U : 0);
-    }
-    return ~value;
-}
-
 inline void putNumber(QByteArray* image, int at, std::uint32_t number) {
     for (int i = 0; i < 4; ++i)
         (*image)[at + i] = static_cast<char>(number >> (8 * i));
@@ -32,9 +23,10 @@ inline void putNumber(QByteArray* image, int at, std::uint32_t number) {
 
 /// Makes the three checksums of a whole image right again.
 inline QByteArray withChecksums(QByteArray image) {
-    putNumber(&image, 16, crc32(image.left(16)));
+    putNumber(&image, 16, fieldcal::testing::crc32(image.left(16)));
     for (const int bank : {kBankA, kBankB}) {
-        putNumber(&image, bank + 12, crc32(image.mid(bank + 4, 4) + image.mid(bank + kHeader, 2048)));
+        putNumber(&image, bank + 12,
+                  fieldcal::testing::crc32(image.mid(bank + 4, 4) + image.mid(bank + kHeader, 2048)));
     }
     return image;
 }
