@@ -47,6 +47,8 @@ void Workflow::switchCamera(ColourCamera camera) {
             attempt_.cancel();
             engine_.resetState();
             if (!sensorReady_) return;
+            // Off even if the state still is the refinement, until that is entered again.
+            emitterState_ = State::RefiningCalibration;
             sensor_->setEmitter(false);
             sensor_->setPlatformPictureWanted(secondCamera());
         });

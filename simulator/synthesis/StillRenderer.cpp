@@ -4,19 +4,12 @@
 
 namespace fieldcal::synthesis {
 
-namespace {
-
-// Spread of the lenses' blur, pixels.
-constexpr double infraredLens = 0.55, thirdLens = 0.5, platformLens = 0.8;
-
 std::vector<std::uint8_t> nv12Of(const ImageFrame32& bgra) {
     const int width = static_cast<int>(bgra.width()), height = static_cast<int>(bgra.height());
     std::vector<std::uint8_t> bytes(static_cast<std::size_t>(width) * height * 3 / 2);
     session::nv12FromBgra(bgra.bytes(), width, height, bytes.data());
     return bytes;
 }
-
-}  // namespace
 
 StillRenderer::StillRenderer(const DirectionField& field, const session::SessionDescription& rig)
     : panorama_(field),

@@ -7,6 +7,12 @@
 
 namespace fieldcal::synthesis {
 
+/// Spread of the lenses' blur, pixels.
+inline constexpr double infraredLens = 0.55, thirdLens = 0.5, platformLens = 0.8;
+
+/// The bytes that a rear camera delivers of its picture.
+std::vector<std::uint8_t> nv12Of(const ImageFrame32& bgra);
+
 struct StillSettings {
     InfraredSensor infrared;
     ColourSensor colour;

@@ -1,23 +1,11 @@
 #include "simulator/world/Cameras.h"
 
-#include "session/Nv12.h"
-
 namespace fieldcal::world {
 
 namespace {
 
-// Spread of the lenses' blur, pixels.
-constexpr double infraredLens = 0.55, thirdLens = 0.5, platformLens = 0.8;
-
 cv::Vec3d metres(const session::Vector3& millimetres) {
     return cv::Vec3d(millimetres.data()) * 0.001;
-}
-
-std::vector<std::uint8_t> nv12Of(const ImageFrame32& bgra) {
-    const int width = static_cast<int>(bgra.width()), height = static_cast<int>(bgra.height());
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(width) * height * 3 / 2);
-    session::nv12FromBgra(bgra.bytes(), width, height, bytes.data());
-    return bytes;
 }
 
 }  // namespace
@@ -43,15 +31,15 @@ session::FramePictures Cameras::take(const World& world, const Pose& pose, const
     session::FramePictures pictures;
     synthesis::Random infraredNoise(noiseSeed, "infrared noise"), thirdNoise(noiseSeed, "third noise");
     synthesis::Random depthNoise(noiseSeed, "depth noise");
-    pictures.infrared = exposeInfrared(takePicture(world, infrared_, pose, infraredLens), settings.infrared,
+    pictures.infrared = exposeInfrared(takePicture(world, infrared_, pose, synthesis::infraredLens), settings.infrared,
                                        settings.darkness, infraredNoise);
-    pictures.third = exposeColour(takePicture(world, third_, thirdPose(pose), thirdLens), settings.colour,
+    pictures.third = exposeColour(takePicture(world, third_, thirdPose(pose), synthesis::thirdLens), settings.colour,
                                   settings.darkness, thirdNoise);
     pictures.depth = takeDepth(world, depth_, pose, rig_.depth.fx, stereo, depthNoise);
     if (!rig_.platform) return pictures;
     synthesis::Random platformNoise(noiseSeed, "platform noise");
-    const auto radiance = takePicture(world, platform_, platformPose(pose), platformLens);
-    pictures.platform = nv12Of(exposeColour(radiance, settings.colour, settings.darkness, platformNoise));
+    const auto radiance = takePicture(world, platform_, platformPose(pose), synthesis::platformLens);
+    pictures.platform = synthesis::nv12Of(exposeColour(radiance, settings.colour, settings.darkness, platformNoise));
     return pictures;
 }
 
