@@ -43,11 +43,15 @@ float clippedMean(std::vector<float> values) {
     return static_cast<float>(sum / static_cast<double>(values.size()));
 }
 
-float clippedMean(const cv::Mat_<cv::Vec4f>& picture, const cv::Vec4f& weights) {
+float meanLight(const cv::Mat_<float>& picture) {
+    return std::max(1e-4F, clippedMean({picture.begin(), picture.end()}));
+}
+
+float meanLight(const cv::Mat_<cv::Vec3f>& picture) {
     std::vector<float> values;
     values.reserve(picture.total());
     for (const auto& p : picture)
-        values.push_back(p.dot(weights));
+        values.push_back(p.dot({0.3F, 0.59F, 0.11F}));
     return std::max(1e-4F, clippedMean(std::move(values)));
 }
 
@@ -66,10 +70,22 @@ void sharpen(ImageFrame32& frame, double strength) {
 
 }  // namespace
 
-ImageFrame16 exposeInfrared(const cv::Mat_<cv::Vec4f>& picture, const InfraredSensor& sensor, double darkness,
+cv::Mat_<float> infraredBand(const cv::Mat_<cv::Vec4f>& picture) {
+    cv::Mat_<float> band;
+    cv::extractChannel(picture, band, 3);
+    return band;
+}
+
+cv::Mat_<cv::Vec3f> colourBands(const cv::Mat_<cv::Vec4f>& picture) {
+    cv::Mat_<cv::Vec3f> bands(picture.size());
+    cv::mixChannels({picture}, {bands}, {0, 0, 1, 1, 2, 2});
+    return bands;
+}
+
+ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const InfraredSensor& sensor, double darkness,
                             Random& random) {
     NoiseTable noise(random);
-    const float mean = clippedMean(picture, {0, 0, 0, 1});
+    const float mean = meanLight(picture);
     const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);
     const auto perStep = static_cast<float>(1 / sensor.electronsPerStep);
     const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);
@@ -78,7 +94,7 @@ ImageFrame16 exposeInfrared(const cv::Mat_<cv::Vec4f>& picture, const InfraredSe
     std::uint16_t* out = frame.pixels();
     for (int y = 0; y < picture.rows; ++y)
         for (int x = 0; x < picture.cols; ++x) {
-            const float light = picture(y, x)[3] * (1 - veil) + mean * veil;
+            const float light = picture(y, x) * (1 - veil) + mean * veil;
             const float level = light * gain * throughLens(x, y, picture.size(), sensor.vignetting);
             const float seen = level + std::sqrt(level * perStep + read) * noise.next();
             *out++ = static_cast<std::uint16_t>(std::clamp(seen + 0.5F, 0.0F, 1023.0F));
@@ -86,10 +102,10 @@ ImageFrame16 exposeInfrared(const cv::Mat_<cv::Vec4f>& picture, const InfraredSe
     return frame;
 }
 
-ImageFrame32 exposeColour(const cv::Mat_<cv::Vec4f>& picture, const ColourSensor& sensor, double darkness,
+ImageFrame32 exposeColour(const cv::Mat_<cv::Vec3f>& picture, const ColourSensor& sensor, double darkness,
                           Random& random) {
     NoiseTable noise(random);
-    const float mean = clippedMean(picture, {0.3F, 0.59F, 0.11F, 0});
+    const float mean = meanLight(picture);
     const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);
     const auto perUnit = static_cast<float>(1 / sensor.electronsAtFull);
     const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);

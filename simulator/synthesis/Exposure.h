@@ -24,13 +24,17 @@ struct ColourSensor {
     double sharpening = 0.5;  ///< strength of the edge enhancement that colour cameras apply
 };
 
-/// Ten bits, as the module delivers infrared. `picture`: the radiance of `takePicture`.
+/// The bands that a kind of camera sees, of the radiance that `takePicture` gives.
+cv::Mat_<float> infraredBand(const cv::Mat_<cv::Vec4f>& picture);
+cv::Mat_<cv::Vec3f> colourBands(const cv::Mat_<cv::Vec4f>& picture);
+
+/// Ten bits, as the module delivers infrared. `picture`: linear light, any unit.
 /// `darkness`: the share of the light that a full exposure would need, 1 in daylight.
-ImageFrame16 exposeInfrared(const cv::Mat_<cv::Vec4f>& picture, const InfraredSensor& sensor, double darkness,
+ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const InfraredSensor& sensor, double darkness,
                             Random& random);
 
-/// Eight bits with gamma, BGRA in storage order, alpha 255.
-ImageFrame32 exposeColour(const cv::Mat_<cv::Vec4f>& picture, const ColourSensor& sensor, double darkness,
+/// Eight bits with gamma, BGRA in storage order, alpha 255. `picture`: linear red, green and blue.
+ImageFrame32 exposeColour(const cv::Mat_<cv::Vec3f>& picture, const ColourSensor& sensor, double darkness,
                           Random& random);
 
 }  // namespace fieldcal::synthesis

@@ -26,14 +26,15 @@ session::FramePictures StillRenderer::take(const cv::Matx33d& infrared_world, co
                                            std::uint64_t noiseSeed) {
     session::FramePictures pictures;
     Random infraredNoise(noiseSeed, "infrared noise"), thirdNoise(noiseSeed, "third noise");
-    pictures.infrared = exposeInfrared(takePicture(panorama_, infrared_, infrared_world, infraredLens),
+    pictures.infrared = exposeInfrared(infraredBand(takePicture(panorama_, infrared_, infrared_world, infraredLens)),
                                        settings.infrared, settings.darkness, infraredNoise);
-    pictures.third = exposeColour(takePicture(panorama_, third_, third_infrared_ * infrared_world, thirdLens),
-                                  settings.colour, settings.darkness, thirdNoise);
+    pictures.third =
+        exposeColour(colourBands(takePicture(panorama_, third_, third_infrared_ * infrared_world, thirdLens)),
+                     settings.colour, settings.darkness, thirdNoise);
     if (!hasPlatform_) return pictures;
     Random platformNoise(noiseSeed, "platform noise");
     const auto radiance = takePicture(panorama_, platform_, platform_infrared_ * infrared_world, platformLens);
-    pictures.platform = nv12Of(exposeColour(radiance, settings.colour, settings.darkness, platformNoise));
+    pictures.platform = nv12Of(exposeColour(colourBands(radiance), settings.colour, settings.darkness, platformNoise));
     return pictures;
 }
 

@@ -26,20 +26,28 @@ Pose Cameras::platformPose(const Pose& depth) const {
     return colourPose(depth, cv::Matx33d(rig_.truthPlatform->data()), metres(rig_.platform->translation));
 }
 
-session::FramePictures Cameras::take(const World& world, const Pose& pose, const synthesis::StillSettings& settings,
+View Cameras::see(const World& world, const Moment& infraredAndDepth, const Moment& colour, bool withPlatform) const {
+    const auto colourSeen = [&](const synthesis::RayGrid& grid, const Pose& pose, double lens) {
+        return synthesis::colourBands(takePicture(world, grid, pose, lens));
+    };
+    View view;
+    view.infrared =
+        synthesis::infraredBand(takePicture(world, infrared_, infraredAndDepth.pose, synthesis::infraredLens));
+    view.third = colourSeen(third_, thirdPose(colour.pose), synthesis::thirdLens);
+    if (withPlatform && rig_.platform)
+        view.platform = colourSeen(platform_, platformPose(colour.pose), synthesis::platformLens);
+    seeDepth(world, depth_, infraredAndDepth, rig_.depth.fx, &view);
+    return view;
+}
+
+session::FramePictures Cameras::take(const World& world, const Moment& moment, const synthesis::StillSettings& settings,
                                      const StereoModel& stereo, std::uint64_t noiseSeed) const {
+    const View view = see(world, moment, moment, true);
     session::FramePictures pictures;
-    synthesis::Random infraredNoise(noiseSeed, "infrared noise"), thirdNoise(noiseSeed, "third noise");
-    synthesis::Random depthNoise(noiseSeed, "depth noise");
-    pictures.infrared = exposeInfrared(takePicture(world, infrared_, pose, synthesis::infraredLens), settings.infrared,
-                                       settings.darkness, infraredNoise);
-    pictures.third = exposeColour(takePicture(world, third_, thirdPose(pose), synthesis::thirdLens), settings.colour,
-                                  settings.darkness, thirdNoise);
-    pictures.depth = takeDepth(world, depth_, pose, rig_.depth.fx, stereo, depthNoise);
-    if (!rig_.platform) return pictures;
-    synthesis::Random platformNoise(noiseSeed, "platform noise");
-    const auto radiance = takePicture(world, platform_, platformPose(pose), synthesis::platformLens);
-    pictures.platform = synthesis::nv12Of(exposeColour(radiance, settings.colour, settings.darkness, platformNoise));
+    pictures.infrared = infraredFrame(view, settings, noiseSeed);
+    pictures.third = thirdFrame(view, settings, noiseSeed);
+    pictures.platform = platformFrame(view, settings, noiseSeed);
+    pictures.depth = depthFrame(view, stereo, noiseSeed);
     return pictures;
 }
 

@@ -1,10 +1,7 @@
 #pragma once
 
 #include "session/RecordedSession.h"
-#include "simulator/synthesis/StillRenderer.h"
-#include "simulator/world/Depth.h"
-
-#include <optional>
+#include "simulator/world/Sensors.h"
 
 namespace fieldcal::world {
 
@@ -19,9 +16,14 @@ public:
     /// `rig` must carry the true rotations of its cameras.
     explicit Cameras(const session::SessionDescription& rig, const Sampling& sampling = {});
 
-    /// The pictures seen when the infrared camera, which is the depth camera, has `pose`. Equal arguments, equal bytes
-    /// on the same kind of processor.
-    session::FramePictures take(const World& world, const Pose& pose, const synthesis::StillSettings& settings,
+    /// What stands before the lenses. The infrared camera, which is the depth camera, has the pose of
+    /// `infraredAndDepth` when infrared is exposed, and that of `colour` when the colour cameras are.
+    /// `withPlatform` means nothing on a rig without a platform camera. Equal arguments, equal pictures on the same
+    /// kind of processor.
+    View see(const World& world, const Moment& infraredAndDepth, const Moment& colour, bool withPlatform) const;
+
+    /// The pictures of all sensors at one moment: `see`, then the functions of `Sensors.h`.
+    session::FramePictures take(const World& world, const Moment& moment, const synthesis::StillSettings& settings,
                                 const StereoModel& stereo, std::uint64_t noiseSeed) const;
 
     Pose thirdPose(const Pose& depth) const;

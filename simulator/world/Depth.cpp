@@ -7,12 +7,17 @@ namespace fieldcal::world {
 
 namespace {
 
+/// Cosine between ray and surface below which the two cameras see it too differently.
+constexpr double slantLimit = 0.12;
+/// Metres beyond which nobody asks for depth; a little more than the module delivers, since noise brings some back.
+constexpr float farthestOfUse = 40;
+
 /// What the stereo of the module makes of an exact depth in metres; millimetres, 0 when nothing is left.
 std::uint16_t measured(double depth, double focalPx, const StereoModel& model, double noise) {
-    const double disparity = focalPx * model.baseline / depth + model.noisePx * noise;
+    const double disparity = focalPx * stereoBaseline / depth + model.noisePx * noise;
     const double stepped = std::round(disparity / model.stepPx) * model.stepPx;
     if (stepped <= 0) return 0;
-    const double found = focalPx * model.baseline / stepped;
+    const double found = focalPx * stereoBaseline / stepped;
     if (found < model.nearest || found > model.farthest) return 0;
     return static_cast<std::uint16_t>(std::lround(found * 1000));
 }
@@ -29,39 +34,39 @@ double slantAt(const cv::Mat_<float>& depth, int x, int y, double focalPx) {
 
 }  // namespace
 
-cv::Mat_<float> exactDepth(const World& world, const synthesis::RayGrid& pixels, const Pose& pose, double farthest) {
-    const cv::Matx33f world_camera = pose.camera_world.t();
-    const cv::Vec3f centre = pose.centre;
-    cv::Mat_<float> depth(pixels.rays.size());
-    forEachRow(depth.rows, [&](int y) {
-        for (int x = 0; x < depth.cols; ++x) {
+void seeDepth(const World& world, const synthesis::RayGrid& pixels, const Moment& moment, double focalPx, View* view) {
+    const cv::Matx33f world_camera = moment.pose.camera_world.t();
+    const cv::Vec3f centre = moment.pose.centre;
+    view->depthFocalPx = focalPx;
+    view->depth.create(pixels.rays.size());
+    forEachRow(pixels.rays.rows, [&](int y) {
+        for (int x = 0; x < pixels.rays.cols; ++x) {
             const cv::Vec3f ray(pixels.rays(y, x)[0], pixels.rays(y, x)[1], 1);
             const float z = world.distance(centre, unit(world_camera * ray)) / static_cast<float>(cv::norm(ray));
-            depth(y, x) = z <= static_cast<float>(farthest) ? z * 1000 : 0;
+            view->depth(y, x) = std::isfinite(z) ? z : 0;
         }
     });
-    return depth;
+    const cv::Vec3f second = moment.pose.centre + moment.pose.camera_world.t() * cv::Vec3d(stereoBaseline, 0, 0);
+    view->unmatched.create(pixels.rays.size());
+    forEachRow(pixels.rays.rows, [&](int y) {
+        for (int x = 0; x < pixels.rays.cols; ++x) {
+            const float z = view->depth(y, x);
+            const cv::Vec3f ray(pixels.rays(y, x)[0], pixels.rays(y, x)[1], 1);
+            const bool found = z > 0 && z < farthestOfUse && slantAt(view->depth, x, y, focalPx) >= slantLimit &&
+                               !world.isHidden(second, centre + world_camera * (ray * z));
+            view->unmatched(y, x) = found ? 0 : 255;
+        }
+    });
 }
 
-ImageFrame16 takeDepth(const World& world, const synthesis::RayGrid& pixels, const Pose& pose, double focalPx,
-                       const StereoModel& model, synthesis::Random& random) {
-    // A little further than what is delivered: noise brings some of it back.
-    const cv::Mat_<float> exact = exactDepth(world, pixels, pose, model.farthest * 1.2);
-    const cv::Vec3f centre = pose.centre;
-    const cv::Matx33d world_camera = pose.camera_world.t();
-    const cv::Vec3f second = pose.centre + world_camera * cv::Vec3d(model.baseline, 0, 0);
+ImageFrame16 measureDepth(const View& view, const StereoModel& model, synthesis::Random& random) {
     ImageFrame16 frame;
-    frame.resize(static_cast<std::uint32_t>(exact.cols), static_cast<std::uint32_t>(exact.rows));
+    frame.resize(static_cast<std::uint32_t>(view.depth.cols), static_cast<std::uint32_t>(view.depth.rows));
     std::uint16_t* out = frame.pixels();
-    for (int y = 0; y < exact.rows; ++y)
-        for (int x = 0; x < exact.cols; ++x, ++out) {
+    for (int y = 0; y < view.depth.rows; ++y)
+        for (int x = 0; x < view.depth.cols; ++x, ++out) {
             const double noise = random.normal();  // drawn for every pixel, so that holes shift nothing
-            const float z = exact(y, x) / 1000;
-            *out = 0;
-            if (z <= 0 || slantAt(exact, x, y, focalPx) < model.slantLimit) continue;
-            const cv::Vec3f ray(pixels.rays(y, x)[0], pixels.rays(y, x)[1], 1);
-            const cv::Vec3f point = centre + cv::Matx33f(world_camera) * (ray * z);
-            if (!world.isHidden(second, point)) *out = measured(z, focalPx, model, noise);
+            *out = view.unmatched(y, x) != 0 ? 0 : measured(view.depth(y, x), view.depthFocalPx, model, noise);
         }
     return frame;
 }

@@ -145,7 +145,7 @@ TEST(WorldCameras, MarkedPointsLieWhereModelsAndPosePutThemInAllCameras) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         const auto rig = synthesis::drawRig(seed, {true, {}, {}});
         const Dots dots(seed);
-        const auto pictures = Cameras(rig, {2, 2, 1}).take(*dots.world, dots.pose, noiseless(), {}, seed);
+        const auto pictures = Cameras(rig, {2, 2, 1}).take(*dots.world, {dots.pose}, noiseless(), {}, seed);
 
         const auto& k = rig.infrared;
         expectDots(dots, infraredOf(pictures, rig), [&](const cv::Vec3d& p) {
@@ -176,24 +176,29 @@ struct SlantedPlane {
     double depth(const cv::Vec2f& ray) const { return point.dot(normal) / normal.dot({ray[0], ray[1], 1}); }
 };
 
+View depthView(const World& world, const SessionDescription& rig) {
+    View view;
+    seeDepth(world, synthesis::infraredRays(rig.depth, 1), {}, rig.depth.fx, &view);
+    return view;
+}
+
 TEST(WorldCameras, DepthIsAlongTheAxisOfTheInfraredCameraAndHoldsTheRangeOfTheModule) {
     const auto rig = synthesis::drawRig(4, {});
-    const auto rays = synthesis::infraredRays(rig.depth, 1);
     const SlantedPlane plane;
-    const auto exact = exactDepth(plane.world, rays, {}, 100);
+    const View view = depthView(plane.world, rig);
+    const auto rays = synthesis::infraredRays(rig.depth, 1);
     StereoModel model;
     model.farthest = 3.5;
-    synthesis::Random random(1, "depth");
-    const auto frame = takeDepth(plane.world, rays, {}, rig.depth.fx, model, random);
+    const auto frame = depthFrame(view, model, 1);
     int near = 0, far = 0;
-    for (int y = 0; y < exact.rows; y += 7)
-        for (int x = 0; x < exact.cols; x += 7) {
+    for (int y = 0; y < view.depth.rows; y += 7)
+        for (int x = 0; x < view.depth.cols; x += 7) {
             const double truth = plane.depth(rays.rays(y, x));
-            ASSERT_NEAR(exact(y, x), truth * 1000, 0.1 + truth * 0.01);
-            const int measured = frame.pixels()[y * exact.cols + x];
+            ASSERT_NEAR(view.depth(y, x), truth, 1e-4 + truth * 1e-5);
+            const int measured = frame.pixels()[y * view.depth.cols + x];
             // One step and five deviations of disparity, taken back to depth.
             const double blur =
-                1000 * truth * truth / (rig.depth.fx * model.baseline) * (model.stepPx + 5 * model.noisePx);
+                1000 * truth * truth / (rig.depth.fx * stereoBaseline) * (model.stepPx + 5 * model.noisePx);
             if (truth < 3.3) {
                 EXPECT_NEAR(measured, truth * 1000, blur);
                 ++near;
@@ -214,14 +219,12 @@ TEST(WorldCameras, TheSecondInfraredCameraMissesAStripBesideNearThings) {
     addQuad(scene.mesh, {{-0.2F, -20, 1}, {0.4F, 0, 0}, {0, 40, 0}}, grey);
     const World world = scene.finish();
     const auto rig = synthesis::drawRig(2, {});
-    StereoModel model;
-    synthesis::Random random(1, "depth");
-    const auto frame = takeDepth(world, synthesis::infraredRays(rig.depth, 1), {}, rig.depth.fx, model, random);
+    const auto frame = depthFrame(depthView(world, rig), {}, 1);
     const auto at = [&](double x) {
         return frame.pixels()[frame.width() * 200 + static_cast<unsigned>(std::lround(rig.depth.cx + x))];
     };
     // The strip is as wide as the difference of the disparities, left of the near thing.
-    const double edge = -0.2 * rig.depth.fx, width = rig.depth.fx * model.baseline * (1 - 0.25);
+    const double edge = -0.2 * rig.depth.fx, width = rig.depth.fx * stereoBaseline * (1 - 0.25);
     EXPECT_NEAR(at(edge + 6), 1000, 30);
     EXPECT_EQ(at(edge - width / 2), 0);
     EXPECT_NEAR(at(edge - width - 6), 4000, 300);

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "simulator/synthesis/StillRenderer.h"
+#include "simulator/world/Depth.h"
+
+/// What the sensors of a rig make of a view. Equal arguments, equal bytes.
+namespace fieldcal::world {
+
+/// Ten bits a pixel.
+ImageFrame16 infraredFrame(const View& view, const synthesis::StillSettings& settings, std::uint64_t noiseSeed);
+
+/// BGRA, alpha 255.
+ImageFrame32 thirdFrame(const View& view, const synthesis::StillSettings& settings, std::uint64_t noiseSeed);
+
+/// NV12; empty when the view has no platform picture.
+std::vector<std::uint8_t> platformFrame(const View& view, const synthesis::StillSettings& settings,
+                                        std::uint64_t noiseSeed);
+
+/// Millimetres, 0 for none.
+ImageFrame16 depthFrame(const View& view, const StereoModel& model, std::uint64_t noiseSeed);
+
+}  // namespace fieldcal::world
