@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace fieldcal {
+
+/// English names of the user's interface language and of its country; none where the system does not say.
+struct SystemLanguage {
+    std::optional<QString> language;
+    std::optional<QString> country;
+};
+
+SystemLanguage systemLanguage();
+
+}  // namespace fieldcal
