@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::int32_t kLatestFrameWaitMs = 10;
 constexpr std::chrono::milliseconds kLongestSilence{1000};
+constexpr std::chrono::milliseconds kSilenceOfTheDead{3000};
 // Between two grabs the caller may have been busy for seconds; a camera that delivers while we grab was not silent.
 constexpr std::chrono::milliseconds kLongestGap{100};
 
@@ -28,6 +29,10 @@ void PlatformPicture::fetch(CPlatformCameraControl& camera, const PlatformCalibr
     isNew_ = true;
     black_ = false;
     everTaken_ = true;
+}
+
+bool PlatformPicture::hasDied() const {
+    return everTaken_ && silence_ >= kSilenceOfTheDead;
 }
 
 bool PlatformPicture::take(CPlatformCameraControl& camera) {

@@ -28,6 +28,9 @@ public:
     /// the camera and stay until the next `fetch`.
     const std::uint8_t* nv12() const { return nv12_; }
 
+    /// The camera delivered once, and then nothing during some seconds of grabbing.
+    bool hasDied() const;
+
     /// Scales what `fetch` left, when that is new, into the record. Nothing happens for an implausible size.
     void deliver(std::int32_t width, std::int32_t height, ImageFrame32* record);
 

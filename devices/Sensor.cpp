@@ -61,7 +61,7 @@ bool Sensor::fetchPlatformPicture() {
     if (!platformPictureWanted_ || platformCalibration_.rectificationTable.empty()) return true;
     platformPicture_.fetch(*platformCamera_, platformCalibration_, library_->rectifyBGRA8ToBGRA8, environment_.now());
     platformNv12_ = platformPicture_.nv12();
-    return true;
+    return !platformPicture_.hasDied();
 }
 
 bool Sensor::setEmitter(bool on) {

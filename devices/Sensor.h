@@ -50,8 +50,9 @@ public:
 
     /// One acquisition pass; with `wait` set it waits for the module's next frame set. True: the records were
     /// refreshed. False: they are as they were, and the fault has been reported, now or before.
-    /// A rear camera that has not delivered a picture yet is reported by `signal_reportPlatformCameraIssue` in every
-    /// pass, and the other records are refreshed all the same. Natively its pictures arrive within the pass.
+    /// A rear camera that has not delivered a picture yet, or none for three seconds, is reported by
+    /// `signal_reportPlatformCameraIssue` in every pass, and the other records are refreshed all the same. Natively its
+    /// pictures arrive within the pass.
     bool grab(bool wait);
 
     const FrameRecords& frames() const { return frames_->records; }

@@ -88,7 +88,9 @@ LeaveReport Workflow::leave() {
 
 LeaveReport Workflow::close(LeaveReport report) {
     sensorReady_ = false;
+    const int errorsBefore = leavingErrors_.size();
     sensor_.reset();
+    report.closingErrors = leavingErrors_.mid(errorsBefore);
     report.errors = std::exchange(leavingErrors_, {});
     for (const QString& error : report.errors)
         qCritical("%s", qUtf8Printable(error));

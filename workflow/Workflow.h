@@ -37,6 +37,7 @@ struct LeaveReport {
     bool stored = false;        ///< the module has confirmed the accepted rotations
     WriteBackReport writeBack;  ///< of a save that came as far as the module
     QStringList errors;         ///< what arose while saving and closing, in order
+    QStringList closingErrors;  ///< those of them that came last: the vendor's service was not restored
 };
 
 /// The calibration workflow without a screen: the states, two cameras in turn, what is stored and saved.
@@ -123,6 +124,7 @@ private:
     ColourCamera camera_ = ColourCamera::InModule;  ///< the loop's; follows the user's
     bool sensorReady_ = false;
     bool faultTold_ = false;
+    bool platformIssueTold_ = false;
     State emitterState_ = State::FirstOpened;  ///< the state that the emitter was switched for
     QStringList leavingErrors_;
 };

@@ -21,6 +21,9 @@ public:
     virtual void framesReady(State, ColourCamera, const FrameRecords&) {}
     /// While the user looks for light.
     virtual void lightMeasured(const LightGate::Reading&) {}
+    /// Every pass in which the user refines or is shown how to, after the pass's frames. May wait for the screen, but
+    /// not longer than for the stop.
+    virtual void refining(State) {}
     /// A rotation was found: what the overlay needs to show it.
     virtual void solutionFound(ColourCamera, const CameraParameters& /*factory*/, const Rotation& /*estimated*/) {}
     /// The module has no platform camera that could be calibrated.
@@ -32,6 +35,7 @@ public:
     virtual void deviceError(const QString& /*text*/) {}
     virtual void missingModule() {}
     virtual void missingPlatformCamera() {}
+    /// The rear camera delivers nothing. Once; the rest goes on.
     virtual void platformCameraIssue() {}
 };
 

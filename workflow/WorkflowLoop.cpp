@@ -91,6 +91,10 @@ void Workflow::step(const Snapshot& now) {
         case State::FoundGoodSolution:
             takeSolution(now);
             break;
+        case State::RefiningTutorial:
+        case State::RefiningCalibration:
+            listener_.refining(now.state);
+            break;
         default:
             break;
     }
@@ -132,7 +136,7 @@ void Workflow::listenTo(Sensor& sensor) {
         report("The rear camera was not found.", [this] { listener_.missingPlatformCamera(); });
     });
     QObject::connect(&sensor, &Sensor::signal_reportPlatformCameraIssue, [this] {
-        if (!stop_) listener_.platformCameraIssue();
+        if (!stop_ && !std::exchange(platformIssueTold_, true)) listener_.platformCameraIssue();
         faultTold_ = faultTold_ || !sensorReady_;
     });
 }

@@ -216,7 +216,11 @@ TEST_F(FrameAcquisitionTest, ASilentSecondTurnsTheRecordBlackUntilTheNextPicture
     EXPECT_EQ(rearPixel(), red);
     grabAfter(milliseconds(8000));
     EXPECT_EQ(rearPixel(), red) << "the caller was busy, the camera was not silent";
+    for (int i = 0; i < 28; ++i)
+        grabAfter(milliseconds(100));
     EXPECT_THAT(emitted, IsEmpty());
+    grabAfter(milliseconds(100));
+    EXPECT_THAT(emitted, ElementsAre("PlatformIssue")) << "three seconds of silence";
 }
 
 }  // namespace
