@@ -2,7 +2,7 @@
 
 #include "kxapi/KXAPI.h"
 #include "simulator/kxapi/FlashMemory.h"
-#include "simulator/kxapi/SessionPlayer.h"
+#include "simulator/kxapi/FrameSource.h"
 #include "simulator/kxapi/Settings.h"
 
 namespace kxsim {
@@ -17,7 +17,7 @@ enum class Gate { refused, open, lie };
 struct ModuleState {
     Settings settings;
     Stage stage = Stage::closed;
-    std::unique_ptr<SessionPlayer> player;  ///< set from `opened` on
+    std::unique_ptr<FrameSource> source;  ///< set from `opened` on
     std::unique_ptr<FlashMemory> flash;     ///< set from `opened` on
     std::int32_t lastStatus = KX_STATUS_OK;
 
@@ -57,9 +57,9 @@ struct ModuleState {
 
     bool calibrationValid() const { return blockMakesSense && description().module.calibrationValid; }
 
-    const fieldcal::session::SessionDescription& description() const { return player->description(); }
+    const fieldcal::session::SessionDescription& description() const { return source->description(); }
     /// The current frame, null while nothing was grabbed.
-    const fieldcal::session::FramePictures* frame() const { return player ? player->current() : nullptr; }
+    const fieldcal::session::FramePictures* frame() const { return source ? source->current() : nullptr; }
 
 private:
     Gate pass(const char* operation, Stage atLeast);

@@ -4,14 +4,9 @@
 #include <thread>
 
 namespace kxsim {
-namespace {
 
-constexpr double kFramesPerSecond = 60;
-
-}
-
-void Pace::start(double speed) {
-    const std::chrono::duration<double> period(speed > 0 ? 1 / (kFramesPerSecond * speed) : 0);
+void Pace::start(double framesPerSecond, double speed) {
+    const std::chrono::duration<double> period(speed > 0 ? 1 / (framesPerSecond * speed) : 0);
     period_ = std::chrono::duration_cast<Clock::duration>(period);
     due_ = Clock::now();
 }

@@ -4,11 +4,11 @@
 
 namespace kxsim {
 
-/// When the next frame set is there: 60 a second at speed 1, always at speed 0. A caller that comes late gets its
+/// When the next frame set is there: at the source's rate at speed 1, always at speed 0. A caller that comes late gets its
 /// frame at once and moves the beat; frames are never skipped, so that playing does not depend on timing.
 class Pace {
 public:
-    void start(double speed);
+    void start(double framesPerSecond, double speed);
 
     /// Whether the next frame set is there; with `wait`, sleeps until it is.
     bool frameDue(bool wait);

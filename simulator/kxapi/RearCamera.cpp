@@ -37,7 +37,7 @@ bool RearCamera::plugIn() {
     gone_ = false;
     opened_ = false;
     streaming_ = false;
-    return !settings.session.empty() || !settings.platformAbsent;
+    return !settings.session.empty() || settings.platform != PlatformChoice::absent;
 }
 
 const char* RearCamera::friendlyName() {
@@ -92,6 +92,11 @@ bool RearCamera::setupStream(std::int32_t stream, std::int32_t width, std::int32
 void RearCamera::setSink(RearCameraSink* sink) {
     const std::lock_guard<std::mutex> lock(mutex_);
     sink_ = sink;
+}
+
+bool RearCamera::streams() {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    return streaming_ && sink_ != nullptr;
 }
 
 void RearCamera::show(const std::uint8_t* nv12, double timeSeconds) {

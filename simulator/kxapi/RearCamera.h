@@ -27,6 +27,8 @@ public:
                      const char* subtype) override;
     void setSink(RearCameraSink* sink) override;
 
+    /// Whether somebody takes the pictures.
+    bool streams();
     /// Hands a 1280 x 720 NV12 picture to the sink, when there is one and the record stream is set up.
     void show(const std::uint8_t* nv12, double timeSeconds);
 

@@ -1,8 +1,9 @@
 #include "simulator/kxapi/Settings.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <mutex>
 #include <set>
@@ -12,6 +13,7 @@ namespace {
 
 constexpr double kSlowest = 0.01;
 constexpr double kFastest = 1000;
+constexpr double kLargestDriftDeg = 20;
 
 void readSpeed(Settings* out) {
     const QString text = qEnvironmentVariable("KXSIM_SPEED");
@@ -23,11 +25,40 @@ void readSpeed(Settings* out) {
 }
 
 void readPlatform(Settings* out) {
-    const QString text = qEnvironmentVariable("KXSIM_PLATFORM");
-    out->platformAbsent = text == QLatin1String("absent");
-    if (text.isEmpty() || out->platformAbsent) return;
-    if (text == QLatin1String("uncalibrated") || text == QLatin1String("calibrated")) return;
+    const QString text = qEnvironmentVariable("KXSIM_PLATFORM", "calibrated");
+    const QStringList choices{"absent", "uncalibrated", "calibrated"};
+    const auto choice = static_cast<int>(choices.indexOf(text));
+    if (choice >= 0) out->platform = static_cast<PlatformChoice>(choice);
+    if (choice >= 0 || text.isEmpty()) return;
     out->problem = "KXSIM_PLATFORM: \"" + text.toStdString() + "\": absent, uncalibrated or calibrated expected";
+}
+
+void readSeed(Settings* out) {
+    const QString text = qEnvironmentVariable("KXSIM_SEED");
+    if (text.isEmpty()) return;
+    bool ok = false;
+    out->seed = text.toUInt(&ok);
+    if (!ok) out->problem = "KXSIM_SEED: \"" + text.toStdString() + "\": a number from 0 to 4294967295 expected";
+}
+
+std::optional<std::array<double, 3>> anglesIn(const QString& text) {
+    const QStringList parts = text.split(',');
+    std::array<double, 3> angles{};
+    if (parts.size() != 3) return {};
+    for (int i = 0; i < 3; ++i) {
+        bool ok = false;
+        angles[i] = parts[i].toDouble(&ok);
+        if (!ok || !(std::abs(angles[i]) <= kLargestDriftDeg)) return {};
+    }
+    return angles;
+}
+
+void readDrift(const char* variable, std::optional<std::array<double, 3>>* drift, std::string* problem) {
+    const QString text = qEnvironmentVariable(variable);
+    if (text.isEmpty()) return;
+    *drift = anglesIn(text);
+    if (!*drift)
+        *problem = std::string(variable) + ": \"" + text.toStdString() + "\": three degrees from -20 to 20 expected";
 }
 
 }  // namespace
@@ -36,7 +67,12 @@ Settings readSettings() {
     Settings out;
     out.session = qEnvironmentVariable("KXSIM_SESSION").toStdString();
     out.flash = qEnvironmentVariable("KXSIM_FLASH").toStdString();
+    out.world = qEnvironmentVariable("KXSIM_WORLD", "square").toStdString();
+    out.light = qEnvironmentVariable("KXSIM_LIGHT", "sun").toStdString();
     readSpeed(&out);
+    readSeed(&out);
+    readDrift("KXSIM_DRIFT", &out.drift, &out.problem);
+    readDrift("KXSIM_PLATFORM_DRIFT", &out.platformDrift, &out.problem);
     readPlatform(&out);
     out.faults.parse(qEnvironmentVariable("KXSIM_FAULTS").toStdString(), &out.problem);
     return out;

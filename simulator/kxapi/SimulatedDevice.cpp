@@ -3,16 +3,11 @@
 #include "simulator/kxapi/Calibration.h"
 #include "simulator/kxapi/ParameterBlock.h"
 #include "simulator/kxapi/RearCamera.h"
+#include "simulator/kxapi/Sources.h"
 
 #include <utility>
 
 namespace kxsim {
-namespace {
-
-constexpr double kGrabsPerSecond = 60;
-
-}
-
 SimulatedDevice::SimulatedDevice(Settings settings)
     : hardware_(&state_), third_(&state_), emitter_(&state_), platform_(&state_), private_(&state_) {
     state_.settings = std::move(settings);
@@ -26,29 +21,29 @@ bool SimulatedDevice::openDevice(std::int32_t index) {
     }
     return state_.perform("openDevice", Stage::closed, [&] {
         if (state_.stage != Stage::closed) return state_.fail(KX_STATUS_FAILED);
-        if (settings.session.empty() || index < -1 || index > 0) return state_.fail(KX_STATUS_NO_DEVICE);
+        if (!hasSource(settings) || index < -1 || index > 0) return state_.fail(KX_STATUS_NO_DEVICE);
         return plugIn();
     });
 }
 
-/// The module's parts: its recording and its flash.
+/// The module's parts: its pictures and its flash.
 bool SimulatedDevice::plugIn() {
     std::string why;
-    std::unique_ptr<SessionPlayer> player = SessionPlayer::open(state_.settings.session, &why);
-    if (player == nullptr) {
+    std::unique_ptr<FrameSource> source = openSource(state_.settings, &why);
+    if (source == nullptr) {
         report(why);
         return state_.fail(KX_STATUS_DEVICE_ERROR);
     }
-    const fieldcal::session::SessionDescription& description = player->description();
+    const fieldcal::session::SessionDescription& description = source->description();
     auto flash =
-        std::make_unique<FlashMemory>(state_.settings.flash, description.module.serial, &state_.settings.faults);
+        std::make_unique<FlashMemory>(flashFile(state_.settings, description.module.serial), description.module.serial, &state_.settings.faults);
     const FlashResult loaded = flash->open(factoryBlock(description), &state_.activeBlock);
     state_.blockMakesSense = loaded.ok();
     // A block that makes no sense is a calibration that is not valid; the module itself works, and can be written.
     if (!state_.succeeds(loaded) && !flash->read(&state_.activeBlock).ok()) return false;
     const auto& depth = description.depth;
     noDepth_.assign(static_cast<std::size_t>(depth.width) * static_cast<std::size_t>(depth.height), 0);
-    state_.player = std::move(player);
+    state_.source = std::move(source);
     state_.flash = std::move(flash);
     state_.stage = Stage::opened;
     return true;
@@ -142,7 +137,7 @@ bool SimulatedDevice::beginCapture() {
     if (!modesSet || (!depthStreams && !state_.thirdEnabled)) return state_.fail(KX_STATUS_FAILED);
     state_.stage = Stage::capturing;
     state_.resting = false;
-    pace_.start(state_.settings.speed);
+    pace_.start(state_.source->grabsPerSecond(), state_.settings.speed);
     return true;
 }
 
@@ -161,7 +156,9 @@ bool SimulatedDevice::grab(bool wait) {
 bool SimulatedDevice::nextFrame(bool wait) {
     if (!pace_.frameDue(wait)) return true;
     std::string why;
-    if (!state_.player->advance(&why)) {
+    state_.source->setEmitter(emitter_.isOn());
+    state_.source->setPlatformWanted(RearCamera::instance().streams());
+    if (!state_.source->advance(&why)) {
         report(why);
         return state_.fail(KX_STATUS_DEVICE_ERROR);
     }
@@ -169,12 +166,11 @@ bool SimulatedDevice::nextFrame(bool wait) {
     return true;
 }
 
-/// The rear camera runs at half the module's rate, and always shows a new frame with its first grab.
 void SimulatedDevice::showToRearCamera() const {
-    const SessionPlayer& player = *state_.player;
-    const std::vector<std::uint8_t>& picture = player.current()->platform;
-    if (picture.empty() || player.repetition() % 2 != 0) return;
-    RearCamera::instance().show(picture.data(), static_cast<double>(player.grabs()) / kGrabsPerSecond);
+    const FrameSource& source = *state_.source;
+    if (source.current() == nullptr || !source.hasNewPlatformPicture()) return;
+    const double seconds = static_cast<double>(source.grabs()) / source.grabsPerSecond();
+    RearCamera::instance().show(source.current()->platform.data(), seconds);
 }
 
 const std::uint16_t* SimulatedDevice::depthImage() {

@@ -21,11 +21,6 @@ RayGrid gridOf(cv::Size size, int samplesPerPixel, const std::function<cv::Point
     return grid;
 }
 
-cv::Point2d ownPrincipalPoint(const session::Intrinsics& colour, const session::Intrinsics& infrared) {
-    const double sx = infrared.fx / colour.fx, sy = infrared.fy / colour.fy;
-    return {colour.cx - 0.5 + 0.5 / sx, colour.cy - 0.5 + 0.5 / sy};
-}
-
 cv::Matx33d matrix(const session::Matrix3& m) {
     return cv::Matx33d(m.data());
 }
@@ -45,6 +40,11 @@ cv::Point2d undistorted(const session::RawIntrinsics& k, cv::Point2d target) {
 }
 
 }  // namespace
+
+cv::Point2d ownPrincipalPoint(const session::Intrinsics& colour, const session::Intrinsics& infrared) {
+    const double sx = infrared.fx / colour.fx, sy = infrared.fy / colour.fy;
+    return {colour.cx - 0.5 + 0.5 / sx, colour.cy - 0.5 + 0.5 / sy};
+}
 
 RayGrid infraredRays(const session::Intrinsics& infrared, int samplesPerPixel) {
     return gridOf({infrared.width, infrared.height}, samplesPerPixel, [&](cv::Point2d p) {

@@ -21,6 +21,9 @@ RayGrid infraredRays(const session::Intrinsics& infrared, int samplesPerPixel);
 /// scaled by s = f_infrared / f_colour with aligned pixel areas; in its own pixels that is cx − 0.5 + 0.5/s.
 RayGrid colourRays(const session::Intrinsics& colour, const session::Intrinsics& infrared, int samplesPerPixel);
 
+/// The principal point of such a camera in its own pixels.
+cv::Point2d ownPrincipalPoint(const session::Intrinsics& colour, const session::Intrinsics& infrared);
+
 /// Rays of the unrectified rear camera, in its *rectified* frame. A raw pixel is first taken to the rectified pixel
 /// that the rectification table reads there, and that pixel's ray is the one `colourRays` gives it; so rectifying
 /// the raw picture yields exactly the picture that `colourRays` describes.

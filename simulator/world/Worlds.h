@@ -15,6 +15,8 @@ struct Stage {
     double lowestPitchDeg = -4, highestPitchDeg = 9;  ///< upwards positive
     /// Below 1 the cameras cannot reach their exposure: the share of the light they would need.
     double darkness = 1;
+    /// Whether what is seen depends on the time.
+    bool moves = false;
 };
 
 /// The worlds that can be built, in the order in which they are listed to people.

@@ -1,0 +1,65 @@
+#include "simulator/handheld/Lens.h"
+
+#include "simulator/synthesis/Camera.h"
+
+#include <opencv2/imgproc.hpp>
+
+namespace fieldcal::handheld {
+
+namespace {
+
+/// Distance of the places that are calculated; in between, positions run straight to a hundredth of a pixel.
+constexpr int cell = 16;
+constexpr double farOutside = -1e4;
+
+cv::Vec2f pixelBefore(const Lens& lens, const cv::Matx33d& before_after, cv::Point2d pixel) {
+    const cv::Point2d ray = lens.ray(pixel);
+    const cv::Vec3d before = before_after * cv::Vec3d(ray.x, ray.y, 1);
+    if (before[2] < 0.2) return {static_cast<float>(farOutside), static_cast<float>(farOutside)};
+    const cv::Point2d p = lens.pixel({before[0] / before[2], before[1] / before[2]});
+    return {static_cast<float>(p.x), static_cast<float>(p.y)};
+}
+
+}  // namespace
+
+Lens::Lens(const session::Intrinsics& camera, cv::Point2d principalPoint)
+    : size_(camera.width, camera.height), fx_(camera.fx), fy_(camera.fy), principalPoint_(principalPoint) {}
+
+Lens Lens::ofInfrared(const session::Intrinsics& infrared) {
+    return {infrared, {infrared.cx, infrared.cy}};
+}
+
+Lens Lens::ofThird(const session::SessionDescription& rig) {
+    return {rig.third, synthesis::ownPrincipalPoint(rig.third, rig.infrared)};
+}
+
+Lens Lens::ofPlatform(const session::SessionDescription& rig) {
+    Lens lens(rig.platform->rectified, synthesis::ownPrincipalPoint(rig.platform->rectified, rig.infrared));
+    lens.distortion_ = rig.platform;
+    return lens;
+}
+
+cv::Point2d Lens::ray(cv::Point2d pixel) const {
+    const cv::Point2d p = distortion_ ? synthesis::rectifiedFromRaw(*distortion_, pixel) : pixel;
+    return {(p.x - principalPoint_.x) / fx_, (p.y - principalPoint_.y) / fy_};
+}
+
+cv::Point2d Lens::pixel(cv::Point2d ray) const {
+    const cv::Point2d p(ray.x * fx_ + principalPoint_.x, ray.y * fy_ + principalPoint_.y);
+    return distortion_ ? synthesis::rawFromRectified(*distortion_, p) : p;
+}
+
+cv::Mat_<cv::Vec2f> pixelsBeforeTurning(const Lens& lens, const cv::Matx33d& before_after) {
+    // One cell more on every side, so that nothing is extrapolated.
+    const cv::Size cells(lens.size().width / cell + 3, lens.size().height / cell + 3);
+    cv::Mat_<cv::Vec2f> coarse(cells);
+    for (int y = 0; y < cells.height; ++y)
+        for (int x = 0; x < cells.width; ++x)
+            coarse(y, x) =
+                pixelBefore(lens, before_after, {(x - 1 + 0.5) * cell - 0.5, (y - 1 + 0.5) * cell - 0.5});
+    cv::Mat_<cv::Vec2f> fine;
+    cv::resize(coarse, fine, cells * cell, 0, 0, cv::INTER_LINEAR);
+    return fine(cv::Rect({cell, cell}, lens.size()));
+}
+
+}  // namespace fieldcal::handheld

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "simulator/handheld/Hand.h"
+#include "simulator/handheld/TurnedView.h"
+#include "simulator/synthesis/StillRenderer.h"
+
+#include <condition_variable>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+
+namespace fieldcal::handheld {
+
+/// What is seen where the hand rests: once in a world that stands still, at several moments in one that moves.
+struct RestingView {
+    Rest rest;
+    std::vector<SeenView> moments;
+    synthesis::StillSettings settings;  ///< how the exposure comes out in full light
+};
+
+/// Builds a world and renders the views of a hand ahead of time, on a thread of its own. The other members may be
+/// called from one thread. Destruction stops the rendering.
+class ViewMaker {
+public:
+    ViewMaker(std::string world, std::uint64_t seed, const session::SessionDescription& rig);
+    ~ViewMaker();
+    ViewMaker(const ViewMaker&) = delete;
+    ViewMaker& operator=(const ViewMaker&) = delete;
+
+    /// Asks for a view; the one after it is made next. Earlier ones may be forgotten.
+    void request(int number, bool withPlatform);
+    /// Null while it is not there; `patience` is how long to wait for it at most.
+    std::shared_ptr<const RestingView> view(int number, bool withPlatform, std::chrono::milliseconds patience);
+
+private:
+    struct Order {
+        int number;
+        bool withPlatform;
+    };
+    void work();
+    bool nextOrder(Order* order);
+    bool isMade(int number, bool withPlatform) const;
+
+    const std::string world_;
+    const std::uint64_t seed_;
+    const session::SessionDescription rig_;
+
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    bool stop_ = false;
+    Order wanted_{0, false};
+    std::map<int, std::shared_ptr<const RestingView>> made_;
+    std::thread thread_;  ///< last, so that it finds everything else in place
+};
+
+}  // namespace fieldcal::handheld

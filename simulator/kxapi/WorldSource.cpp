@@ -1,0 +1,76 @@
+#include "simulator/kxapi/WorldSource.h"
+
+#include "simulator/handheld/Footage.h"
+#include "simulator/synthesis/Rig.h"
+#include "simulator/world/Worlds.h"
+
+#include <algorithm>
+
+namespace kxsim {
+namespace {
+
+using fieldcal::handheld::Footage;
+using fieldcal::handheld::LightCourse;
+using fieldcal::session::SessionDescription;
+
+/// How long one grab waits for a view; after that it answers without a new frame.
+constexpr std::chrono::milliseconds kPatience{5000};
+
+class WorldSource final : public FrameSource {
+public:
+    WorldSource(const Settings& settings, const SessionDescription& rig, const LightCourse& light)
+        : rig_(rig), footage_(settings.world, settings.seed, rig, light), waits_(settings.speed == 0) {
+        description_ = rig;
+        if (settings.platform != PlatformChoice::calibrated) description_.platform.reset();
+    }
+
+    const SessionDescription& description() const override { return description_; }
+    double grabsPerSecond() const override { return fieldcal::handheld::framesPerSecond; }
+    bool advance(std::string*) override {
+        const bool first = footage_.current() == nullptr;
+        isNew_ = footage_.advance(waits_ || first ? kPatience : kPatience * 0);
+        grabs_ += isNew_ ? 1 : 0;
+        return true;
+    }
+    const fieldcal::session::FramePictures* current() const override { return footage_.current(); }
+    bool hasNewPlatformPicture() const override {
+        return isNew_ && grabs_ % 2 == 1 && !current()->platform.empty();
+    }
+    std::uint64_t grabs() const override { return grabs_; }
+    void setEmitter(bool on) override { footage_.setEmitter(on); }
+    void setPlatformWanted(bool wanted) override { footage_.setPlatformWanted(wanted && rig_.platform); }
+
+private:
+    SessionDescription rig_, description_;
+    Footage footage_;
+    bool waits_;
+    bool isNew_ = false;
+    std::uint64_t grabs_ = 0;
+};
+
+bool isOneOf(const std::vector<std::string>& names, const char* what, const std::string& name, std::string* why) {
+    if (std::find(names.begin(), names.end(), name) != names.end()) return true;
+    *why = std::string(what) + ": \"" + name + "\" is none of";
+    for (const std::string& known : names)
+        *why += ' ' + known;
+    return false;
+}
+
+}  // namespace
+
+const bool canRenderWorlds = true;
+
+std::unique_ptr<FrameSource> openWorld(const Settings& settings, std::string* why) {
+    LightCourse light;
+    if (!isOneOf(fieldcal::world::worldNames(), "KXSIM_WORLD", settings.world, why)) return nullptr;
+    if (!LightCourse::find(settings.light, &light)) {
+        isOneOf(LightCourse::names(), "KXSIM_LIGHT", settings.light, why);
+        return nullptr;
+    }
+    const bool platform = settings.platform != PlatformChoice::absent;
+    const SessionDescription rig =
+        fieldcal::synthesis::drawRig(settings.seed, {platform, settings.drift, settings.platformDrift});
+    return std::make_unique<WorldSource>(settings, rig, light);
+}
+
+}  // namespace kxsim
