@@ -78,7 +78,8 @@ const session::FramePictures* Footage::resting() {
         const auto trembled = [&](double frame) { return tremor(seed_, rest_, frame) * seen.pose.camera_world; };
         const double frame = static_cast<double>(phase), lag = colourLagSeconds * framesPerSecond;
         const world::View view = turner_.trembled(seen, {trembled(frame), trembled(frame + lag)});
-        const std::uint64_t noise = synthesis::mixBits(seed_) + static_cast<std::uint64_t>(rest_) * tremorFrames + phase;
+        const std::uint64_t noise =
+            synthesis::mixBits(seed_) + static_cast<std::uint64_t>(rest_) * tremorFrames + phase;
         trembling_[phase] = expose(view, here_->settings, noise);
         isThere_[phase] = true;
     }

@@ -2,7 +2,6 @@
 
 #include "simulator/synthesis/Rotation.h"
 
-
 #include <algorithm>
 #include <cmath>
 

@@ -55,8 +55,7 @@ cv::Mat_<cv::Vec2f> pixelsBeforeTurning(const Lens& lens, const cv::Matx33d& bef
     cv::Mat_<cv::Vec2f> coarse(cells);
     for (int y = 0; y < cells.height; ++y)
         for (int x = 0; x < cells.width; ++x)
-            coarse(y, x) =
-                pixelBefore(lens, before_after, {(x - 1 + 0.5) * cell - 0.5, (y - 1 + 0.5) * cell - 0.5});
+            coarse(y, x) = pixelBefore(lens, before_after, {(x - 1 + 0.5) * cell - 0.5, (y - 1 + 0.5) * cell - 0.5});
     cv::Mat_<cv::Vec2f> fine;
     cv::resize(coarse, fine, cells * cell, 0, 0, cv::INTER_LINEAR);
     return fine(cv::Rect({cell, cell}, lens.size()));

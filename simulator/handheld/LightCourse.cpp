@@ -32,7 +32,8 @@ std::vector<std::string> LightCourse::names() {
 
 double LightCourse::at(double seconds) const {
     const double t = repeats_ ? std::fmod(seconds, levels_.back().seconds) : seconds;
-    const auto next = std::find_if(levels_.begin(), levels_.end(), [&](const Level& level) { return level.seconds > t; });
+    const auto next =
+        std::find_if(levels_.begin(), levels_.end(), [&](const Level& level) { return level.seconds > t; });
     if (next == levels_.begin()) return levels_.front().light;
     const Level& before = *(next - 1);
     if (next == levels_.end()) return before.light;

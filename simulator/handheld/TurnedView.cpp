@@ -41,8 +41,7 @@ void ViewTurner::paint(const SeenView& seen, const Attitude& now, int interpolat
     };
     paintBand(infrared_, now.infrared, seen.view.infrared, out->infrared);
     paintBand(third_, now.colour, seen.view.third, out->third);
-    if (platform_ && !seen.view.platform.empty())
-        paintBand(*platform_, now.colour, seen.view.platform, out->platform);
+    if (platform_ && !seen.view.platform.empty()) paintBand(*platform_, now.colour, seen.view.platform, out->platform);
     paintDepth(seen, now, border, out);
 }
 
@@ -55,7 +54,8 @@ void ViewTurner::paintDepth(const SeenView& seen, const Attitude& now, int borde
     for (int y = 0; y < along.rows; ++y)
         for (int x = 0; x < along.cols; ++x) {
             const cv::Point2d ray = depth_.lens.ray(cv::Point2d(x, y));
-            along(y, x) = seen.view.depth(y, x) * static_cast<float>(back(2, 0) * ray.x + back(2, 1) * ray.y + back(2, 2));
+            along(y, x) =
+                seen.view.depth(y, x) * static_cast<float>(back(2, 0) * ray.x + back(2, 1) * ray.y + back(2, 2));
         }
     cv::remap(along, out->depth, map, cv::noArray(), cv::INTER_NEAREST, border);
     cv::remap(seen.view.unmatched, out->unmatched, map, cv::noArray(), cv::INTER_NEAREST, border);

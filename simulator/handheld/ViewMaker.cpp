@@ -71,8 +71,7 @@ void ViewMaker::request(int number, bool withPlatform) {
     changed_.notify_all();
 }
 
-std::shared_ptr<const RestingView> ViewMaker::view(int number, bool withPlatform,
-                                                   std::chrono::milliseconds patience) {
+std::shared_ptr<const RestingView> ViewMaker::view(int number, bool withPlatform, std::chrono::milliseconds patience) {
     std::unique_lock<std::mutex> lock(mutex_);
     if (!changed_.wait_for(lock, patience, [&] { return isMade(number, withPlatform); })) return nullptr;
     return made_.at(number);

@@ -18,7 +18,7 @@ struct ModuleState {
     Settings settings;
     Stage stage = Stage::closed;
     std::unique_ptr<FrameSource> source;  ///< set from `opened` on
-    std::unique_ptr<FlashMemory> flash;     ///< set from `opened` on
+    std::unique_ptr<FlashMemory> flash;   ///< set from `opened` on
     std::int32_t lastStatus = KX_STATUS_OK;
 
     KXCalibRectParameters activeBlock{};                  ///< what the module works with

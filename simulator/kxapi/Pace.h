@@ -4,8 +4,8 @@
 
 namespace kxsim {
 
-/// When the next frame set is there: at the source's rate at speed 1, always at speed 0. A caller that comes late gets its
-/// frame at once and moves the beat; frames are never skipped, so that playing does not depend on timing.
+/// When the next frame set is there: at the source's rate at speed 1, always at speed 0. A caller that comes late gets
+/// its frame at once and moves the beat; frames are never skipped, so that playing does not depend on timing.
 class Pace {
 public:
     void start(double framesPerSecond, double speed);

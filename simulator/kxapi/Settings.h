@@ -16,11 +16,11 @@ struct Settings {
     std::string session;           ///< folder of the recording to play, UTF-8; empty: a world is rendered
     std::string world = "square";  ///< which one
     std::string light = "sun";
-    std::uint64_t seed = 1;                                ///< of the world, its cameras and the hand
+    std::uint64_t seed = 1;                                     ///< of the world, its cameras and the hand
     std::optional<std::array<double, 3>> drift, platformDrift;  ///< degrees; without: from the seed
-    PlatformChoice platform = PlatformChoice::calibrated;  ///< a recording decides by itself
-    std::string flash;             ///< file of the module's flash, UTF-8; empty: see `flashFile`
-    double speed = 1;              ///< 1: the source's own rate; 0: as fast as it can
+    PlatformChoice platform = PlatformChoice::calibrated;       ///< a recording decides by itself
+    std::string flash;  ///< file of the module's flash, UTF-8; empty: see `flashFile`
+    double speed = 1;   ///< 1: the source's own rate; 0: as fast as it can
     Faults faults;
     std::string problem;  ///< what is malformed, one line; such a device does not open
 };

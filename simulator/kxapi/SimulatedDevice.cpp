@@ -35,8 +35,8 @@ bool SimulatedDevice::plugIn() {
         return state_.fail(KX_STATUS_DEVICE_ERROR);
     }
     const fieldcal::session::SessionDescription& description = source->description();
-    auto flash =
-        std::make_unique<FlashMemory>(flashFile(state_.settings, description.module.serial), description.module.serial, &state_.settings.faults);
+    auto flash = std::make_unique<FlashMemory>(flashFile(state_.settings, description.module.serial),
+                                               description.module.serial, &state_.settings.faults);
     const FlashResult loaded = flash->open(factoryBlock(description), &state_.activeBlock);
     state_.blockMakesSense = loaded.ok();
     // A block that makes no sense is a calibration that is not valid; the module itself works, and can be written.

@@ -33,9 +33,7 @@ public:
         return true;
     }
     const fieldcal::session::FramePictures* current() const override { return footage_.current(); }
-    bool hasNewPlatformPicture() const override {
-        return isNew_ && grabs_ % 2 == 1 && !current()->platform.empty();
-    }
+    bool hasNewPlatformPicture() const override { return isNew_ && grabs_ % 2 == 1 && !current()->platform.empty(); }
     std::uint64_t grabs() const override { return grabs_; }
     void setEmitter(bool on) override { footage_.setEmitter(on); }
     void setPlatformWanted(bool wanted) override { footage_.setPlatformWanted(wanted && rig_.platform); }

@@ -33,7 +33,7 @@ float throughLens(int x, int y, cv::Size size, double vignetting) {
     return 1 - static_cast<float>(vignetting) * (dx * dx + dy * dy) / corner;
 }
 
-/// Mean of a channel with its brightest 2 % cut off.
+/// Mean with the brightest 2 % cut off.
 float clippedMean(std::vector<float> values) {
     const auto cut = values.begin() + static_cast<std::ptrdiff_t>(values.size() * 49 / 50);
     std::nth_element(values.begin(), cut, values.end());
@@ -43,23 +43,36 @@ float clippedMean(std::vector<float> values) {
     return static_cast<float>(sum / static_cast<double>(values.size()));
 }
 
-float meanLight(const cv::Mat_<float>& picture) {
-    return std::max(1e-4F, clippedMean({picture.begin(), picture.end()}));
-}
-
-float meanLight(const cv::Mat_<cv::Vec3f>& picture) {
+/// The exposure metering looks at one pixel of a few.
+template <typename Pixel, typename Light>
+float meanLight(const cv::Mat_<Pixel>& picture, Light light) {
+    constexpr int step = 3;
     std::vector<float> values;
-    values.reserve(picture.total());
-    for (const auto& p : picture)
-        values.push_back(p.dot({0.3F, 0.59F, 0.11F}));
+    values.reserve(picture.total() / (step * step) + picture.total() / step);
+    for (int y = 0; y < picture.rows; y += step)
+        for (int x = 0; x < picture.cols; x += step)
+            values.push_back(light(picture(y, x)));
     return std::max(1e-4F, clippedMean(std::move(values)));
 }
 
-std::uint8_t displayed(float linear) {
-    const float v = std::clamp(linear, 0.0F, 1.0F);
-    const float encoded = v < 0.0031308F ? 12.92F * v : 1.055F * std::pow(v, 1 / 2.4F) - 0.055F;
-    return static_cast<std::uint8_t>(std::lround(encoded * 255));
-}
+/// The usual gamma of displays, from a table that is fine enough for eight bits.
+class Gamma {
+public:
+    Gamma() {
+        for (std::size_t i = 0; i < encoded_.size(); ++i) {
+            const float v = static_cast<float>(i) / (steps - 1);
+            const float encoded = v < 0.0031308F ? 12.92F * v : 1.055F * std::pow(v, 1 / 2.4F) - 0.055F;
+            encoded_[i] = static_cast<std::uint8_t>(std::lround(encoded * 255));
+        }
+    }
+    std::uint8_t operator()(float linear) const {
+        return encoded_[static_cast<std::size_t>(std::clamp(linear, 0.0F, 1.0F) * (steps - 1) + 0.5F)];
+    }
+
+private:
+    static constexpr int steps = 1 << 15;
+    std::array<std::uint8_t, steps> encoded_{};
+};
 
 void sharpen(ImageFrame32& frame, double strength) {
     cv::Mat picture(static_cast<int>(frame.height()), static_cast<int>(frame.width()), CV_8UC4, frame.bytes());
@@ -85,7 +98,7 @@ cv::Mat_<cv::Vec3f> colourBands(const cv::Mat_<cv::Vec4f>& picture) {
 ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const InfraredSensor& sensor, double darkness,
                             Random& random) {
     NoiseTable noise(random);
-    const float mean = meanLight(picture);
+    const float mean = meanLight(picture, [](float v) { return v; });
     const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);
     const auto perStep = static_cast<float>(1 / sensor.electronsPerStep);
     const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);
@@ -105,7 +118,8 @@ ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const InfraredSensor
 ImageFrame32 exposeColour(const cv::Mat_<cv::Vec3f>& picture, const ColourSensor& sensor, double darkness,
                           Random& random) {
     NoiseTable noise(random);
-    const float mean = meanLight(picture);
+    const float mean = meanLight(picture, [](const cv::Vec3f& p) { return p.dot({0.3F, 0.59F, 0.11F}); });
+    static const Gamma displayed;
     const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);
     const auto perUnit = static_cast<float>(1 / sensor.electronsAtFull);
     const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);
