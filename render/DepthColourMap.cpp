@@ -1,0 +1,63 @@
+#include "render/DepthColourMap.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace fieldcal {
+namespace {
+
+using Rgba = std::array<std::uint8_t, 4>;
+
+constexpr double kDegree = 3.14159265358979323846 / 180;
+
+/// Lightness, chroma and hue in a space whose distances follow the eye (Björn Ottosson's Oklab, 2020).
+struct PerceivedColour {
+    double lightness;
+    double chroma;
+    double hueDeg;
+};
+
+constexpr PerceivedColour kNearColour{0.93, 0.15, 100};
+constexpr PerceivedColour kFarColour{0.40, 0.15, -80};
+
+std::uint8_t displayValue(double linear) {
+    const double light = std::clamp(linear, 0.0, 1.0);
+    const double encoded = light <= 0.0031308 ? 12.92 * light : 1.055 * std::pow(light, 1 / 2.4) - 0.055;
+    return static_cast<std::uint8_t>(std::lround(255 * encoded));
+}
+
+Rgba toRgba(const PerceivedColour& colour) {
+    const double a = colour.chroma * std::cos(colour.hueDeg * kDegree);
+    const double b = colour.chroma * std::sin(colour.hueDeg * kDegree);
+    const double l = std::pow(colour.lightness + 0.3963377774 * a + 0.2158037573 * b, 3);
+    const double m = std::pow(colour.lightness - 0.1055613458 * a - 0.0638541728 * b, 3);
+    const double s = std::pow(colour.lightness - 0.0894841775 * a - 1.2914855480 * b, 3);
+    return {displayValue(4.0767416621 * l - 3.3077115913 * m + 0.2309699292 * s),
+            displayValue(-1.2684380046 * l + 2.6097574011 * m - 0.3413193965 * s),
+            displayValue(-0.0041960863 * l - 0.7034186147 * m + 1.7076147010 * s), 255};
+}
+
+Rgba colourAt(double metres) {
+    const double range = std::log(kFarthestColouredMetres / kNearestColouredMetres);
+    const double t = std::clamp(std::log(metres / kNearestColouredMetres) / range, 0.0, 1.0);
+    const auto between = [t](double near, double far) { return near + t * (far - near); };
+    return toRgba({between(kNearColour.lightness, kFarColour.lightness), between(kNearColour.chroma, kFarColour.chroma),
+                   between(kNearColour.hueDeg, kFarColour.hueDeg)});
+}
+
+std::vector<Rgba> makeTable() {
+    std::vector<Rgba> table(65536);
+    for (std::size_t millimetres = 0; millimetres < table.size(); ++millimetres)
+        table[millimetres] = colourAt(std::max<double>(static_cast<double>(millimetres), 1) * 0.001);
+    return table;
+}
+
+}  // namespace
+
+std::array<std::uint8_t, 4> depthColour(std::uint16_t millimetres) {
+    static const std::vector<Rgba> table = makeTable();
+    return table[millimetres];
+}
+
+}  // namespace fieldcal

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "camera/CameraParameters.h"
+
+#include <array>
+
+namespace fieldcal {
+
+constexpr std::array<float, 9> kNoRotation{1, 0, 0, 0, 1, 0, 0, 0, 1};
+
+/// What the overlay needs to bring depth into one colour camera's picture.
+struct OverlayCalibration {
+    CameraModel depth;
+    CameraModel colour;
+    ColourScaling scaling;
+    CameraExtrinsics stored;                       ///< depth to colour, as the module holds it
+    std::array<float, 9> estimated = kNoRotation;  ///< the rotation that was found; row-major
+};
+
+/// `platform`: the out-of-module camera instead of the one inside the module.
+OverlayCalibration overlayCalibration(const CameraParameters& parameters, bool platform,
+                                      const std::array<float, 9>& estimated);
+
+}  // namespace fieldcal
