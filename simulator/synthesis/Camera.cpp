@@ -13,11 +13,13 @@ RayGrid gridOf(cv::Size size, int samplesPerPixel, const std::function<cv::Point
     RayGrid grid;
     grid.samplesPerPixel = samplesPerPixel;
     grid.rays.create(size.height * samplesPerPixel, size.width * samplesPerPixel);
-    for (int y = 0; y < grid.rays.rows; ++y)
-        for (int x = 0; x < grid.rays.cols; ++x) {
-            const cv::Point2d r = ray({(x + 0.5) / samplesPerPixel - 0.5, (y + 0.5) / samplesPerPixel - 0.5});
-            grid.rays(y, x) = cv::Vec2f(static_cast<float>(r.x), static_cast<float>(r.y));
-        }
+    cv::parallel_for_({0, grid.rays.rows}, [&](const cv::Range& rows) {
+        for (int y = rows.start; y < rows.end; ++y)
+            for (int x = 0; x < grid.rays.cols; ++x) {
+                const cv::Point2d r = ray({(x + 0.5) / samplesPerPixel - 0.5, (y + 0.5) / samplesPerPixel - 0.5});
+                grid.rays(y, x) = cv::Vec2f(static_cast<float>(r.x), static_cast<float>(r.y));
+            }
+    });
     return grid;
 }
 
@@ -34,8 +36,11 @@ cv::Point2d distorted(const session::RawIntrinsics& k, cv::Point2d p) {
 cv::Point2d undistorted(const session::RawIntrinsics& k, cv::Point2d target) {
     constexpr int rounds = 8;  // each gains more than an order of magnitude for such lenses
     cv::Point2d p = target;
-    for (int i = 0; i < rounds; ++i)
-        p += target - distorted(k, p);
+    for (int i = 0; i < rounds; ++i) {
+        const cv::Point2d missing = target - distorted(k, p);
+        p += missing;
+        if (missing.dot(missing) < 1e-18) break;
+    }
     return p;
 }
 

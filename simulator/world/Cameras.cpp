@@ -8,13 +8,17 @@ cv::Vec3d metres(const session::Vector3& millimetres) {
     return cv::Vec3d(millimetres.data()) * 0.001;
 }
 
+bool isSame(const session::Intrinsics& a, const session::Intrinsics& b) {
+    return a.width == b.width && a.height == b.height && a.fx == b.fx && a.fy == b.fy && a.cx == b.cx && a.cy == b.cy;
+}
+
 }  // namespace
 
 Cameras::Cameras(const session::SessionDescription& rig, const Sampling& sampling)
     : rig_(rig),
       infrared_(synthesis::infraredRays(rig.infrared, sampling.infrared)),
-      depth_(synthesis::infraredRays(rig.depth, 1)),
       third_(synthesis::colourRays(rig.third, rig.infrared, sampling.third)) {
+    if (!isSame(rig.depth, rig.infrared)) depth_ = synthesis::infraredRays(rig.depth, 1);
     if (rig.platform) platform_ = synthesis::platformRays(*rig.platform, rig.infrared, sampling.platform);
 }
 
@@ -28,15 +32,19 @@ Pose Cameras::platformPose(const Pose& depth) const {
 
 View Cameras::see(const World& world, const Moment& infraredAndDepth, const Moment& colour, bool withPlatform) const {
     const auto colourSeen = [&](const synthesis::RayGrid& grid, const Pose& pose, double lens) {
-        return synthesis::colourBands(takePicture(world, grid, pose, lens));
+        return synthesis::colourBands(takePicture(world, grid, {pose, 0, false, lens}).light);
     };
     View view;
-    view.infrared =
-        synthesis::infraredBand(takePicture(world, infrared_, infraredAndDepth.pose, synthesis::infraredLens));
+    const Shot shot{infraredAndDepth.pose, 0, true, synthesis::infraredLens};
+    const Picture infrared = takePicture(world, infrared_, shot);
+    view.infrared = synthesis::infraredBand(infrared.light);
+    if (depth_.rays.empty())
+        seeDepth(world, infrared_, shot, infrared, rig_.infrared.fx, &view);
+    else
+        seeDepth(world, depth_, shot, takePicture(world, depth_, shot), rig_.depth.fx, &view);
     view.third = colourSeen(third_, thirdPose(colour.pose), synthesis::thirdLens);
     if (withPlatform && rig_.platform)
         view.platform = colourSeen(platform_, platformPose(colour.pose), synthesis::platformLens);
-    seeDepth(world, depth_, infraredAndDepth, rig_.depth.fx, &view);
     return view;
 }
 

@@ -5,9 +5,9 @@
 
 namespace fieldcal::world {
 
-/// How many samples each pixel takes across and down. Fewer are faster and less smooth.
+/// How many samples a pixel takes across and down where neighbours differ. Fewer are faster and less smooth.
 struct Sampling {
-    int infrared = 3, third = 3, platform = 2;
+    int infrared = 2, third = 2, platform = 2;
 };
 
 /// The cameras of one rig, each at its own centre. One thread at a time; all processors work for it.
@@ -32,7 +32,8 @@ public:
 
 private:
     session::SessionDescription rig_;
-    synthesis::RayGrid infrared_, depth_, third_, platform_;
+    synthesis::RayGrid infrared_, third_, platform_;
+    synthesis::RayGrid depth_;  // empty when depth has the pixels of infrared
 };
 
 }  // namespace fieldcal::world

@@ -10,7 +10,7 @@ namespace {
 /// Cosine between ray and surface below which the two cameras see it too differently.
 constexpr double slantLimit = 0.12;
 /// Metres beyond which nobody asks for depth; a little more than the module delivers, since noise brings some back.
-constexpr float farthestOfUse = 40;
+constexpr float farthestOfUse = 20;
 
 /// What the stereo of the module makes of an exact depth in metres; millimetres, 0 when nothing is left.
 std::uint16_t measured(double depth, double focalPx, const StereoModel& model, double noise) {
@@ -34,28 +34,35 @@ double slantAt(const cv::Mat_<float>& depth, int x, int y, double focalPx) {
 
 }  // namespace
 
-void seeDepth(const World& world, const synthesis::RayGrid& pixels, const Moment& moment, double focalPx, View* view) {
-    const cv::Matx33f world_camera = moment.pose.camera_world.t();
-    const cv::Vec3f centre = moment.pose.centre;
+void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& shot, const Picture& picture,
+              double focalPx, View* view) {
+    const cv::Mat_<float>& depth = view->depth = picture.depth;
+    cv::Mat_<std::uint8_t>& unmatched = view->unmatched = picture.reflected.clone();
     view->depthFocalPx = focalPx;
-    view->depth.create(pixels.rays.size());
-    forEachRow(pixels.rays.rows, [&](int y) {
-        for (int x = 0; x < pixels.rays.cols; ++x) {
-            const cv::Vec3f ray(pixels.rays(y, x)[0], pixels.rays(y, x)[1], 1);
-            const float z = world.distance(centre, unit(world_camera * ray)) / static_cast<float>(cv::norm(ray));
-            view->depth(y, x) = std::isfinite(z) ? z : 0;
+    const cv::Matx33f world_camera = shot.pose.camera_world.t();
+    const cv::Vec3f first = shot.pose.centre, second = first + world_camera * cv::Vec3f(stereoBaseline, 0, 0);
+    const int n = grid.samplesPerPixel;
+    forEachRow(depth.rows, [&](int y) {
+        Rays rays;
+        rays.phase = shot.phase;
+        std::array<int, Rays::most> owner{};
+        const auto flush = [&] {
+            const unsigned hidden = world.hidden(rays);
+            for (int i = 0; i < rays.count; ++i)
+                if ((hidden >> i & 1U) != 0) unmatched(y, owner[i]) = 255;
+            rays.count = 0;
+        };
+        for (int x = 0; x < depth.cols; ++x) {
+            const float z = depth(y, x);
+            if (z <= 0 || z > farthestOfUse || slantAt(depth, x, y, focalPx) < slantLimit) unmatched(y, x) = 255;
+            if (unmatched(y, x) != 0) continue;
+            const cv::Vec2f& ray = grid.rays(y * n + n / 2, x * n + n / 2);
+            const cv::Vec3f way = first + world_camera * (cv::Vec3f(ray[0], ray[1], 1) * z) - second;
+            owner[rays.count] = x;
+            rays.add(second, unit(way), static_cast<float>(cv::norm(way)));
+            if (rays.count == Rays::most) flush();
         }
-    });
-    const cv::Vec3f second = moment.pose.centre + moment.pose.camera_world.t() * cv::Vec3d(stereoBaseline, 0, 0);
-    view->unmatched.create(pixels.rays.size());
-    forEachRow(pixels.rays.rows, [&](int y) {
-        for (int x = 0; x < pixels.rays.cols; ++x) {
-            const float z = view->depth(y, x);
-            const cv::Vec3f ray(pixels.rays(y, x)[0], pixels.rays(y, x)[1], 1);
-            const bool found = z > 0 && z < farthestOfUse && slantAt(view->depth, x, y, focalPx) >= slantLimit &&
-                               !world.isHidden(second, centre + world_camera * (ray * z));
-            view->unmatched(y, x) = found ? 0 : 255;
-        }
+        flush();
     });
 }
 

@@ -18,8 +18,10 @@ struct StereoModel {
     bool emitter = false;  ///< the projector gives surfaces the texture they lack
 };
 
-/// Sets `depth`, `unmatched` and `depthFocalPx` of a view. `pixels`: one ray a pixel; `focalPx`: along x.
-void seeDepth(const World& world, const synthesis::RayGrid& pixels, const Moment& moment, double focalPx, View* view);
+/// Sets `depth`, `unmatched` and `depthFocalPx` of a view from the picture that the depth camera, with `focalPx` along
+/// x, took of the world.
+void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& shot, const Picture& picture,
+              double focalPx, View* view);
 
 /// Depth in millimetres as the module delivers it, 0 for none.
 ImageFrame16 measureDepth(const View& view, const StereoModel& model, synthesis::Random& random);

@@ -2,6 +2,7 @@
 
 #include "simulator/world/Materials.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace fieldcal::world {
@@ -24,6 +25,8 @@ Look Paving::at(const Place& place) const {
     Spectrum stone = mottled(stones_.stone, noise_, x, z, 2.5F, place.footprint)
                          .scaled(shared + 0.2F * draw(72), shared + 0.2F * draw(73));
     const float joint = std::max(stones_.joint, place.footprint * 0.5F), depth = seen * stones_.joint / joint;
+    const float inside = std::min({u, v, stones_.length - u, stones_.width - v});
+    look.smooth = seen == 0 || inside > joint + place.footprint;
     if (std::min(u, v) < joint) stone = mix(stone, synthesis::materials::soil.reflectance * 0.5F, depth);
     look.surface.reflectance = stone;
     const cv::Vec2f slope = bumps(noise_, place.texture, 0.3F, place.footprint);
@@ -43,6 +46,7 @@ Look Turf::at(const Place& place) const {
     const cv::Vec2f slope = bumps(noise_, place.texture, 0.25F, place.footprint);
     look.tilt = cv::Vec3f(slope[0], 0, slope[1]) * (0.55F * (1 - worn));
     look.surface.openness = 0.8F;
+    look.smooth = true;
     return look;
 }
 
@@ -73,6 +77,7 @@ Spectrum Mountainside::woods(const Place& place, cv::Vec3f* tilt) const {
 
 Look Mountainside::at(const Place& place) const {
     Look look;
+    look.smooth = true;
     const float height = -place.point[1], level = std::abs(place.normal[1]);
     const float ragged = noise_.fractal(place.texture[0], place.texture[1], 250.0F, place.footprint, 0.65F);
     const cv::Vec2f slope = bumps(noise_, place.texture, 25.0F, place.footprint);

@@ -23,6 +23,7 @@ struct Look {
     float mirror = 0;           ///< share of the light mirrored when looked at squarely, as by glass or polish
     float through = 0;          ///< share of the light from behind that passes, as in a leaf
     float throughInfrared = 0;  ///< the same in the near infrared
+    bool smooth = false;        ///< shows nothing finer than the footprint
 };
 
 /// Reflectance in red, green, blue and near infrared, procedural. Any thread.

@@ -16,6 +16,7 @@ cv::Vec2f bumps(const Noise& noise, const cv::Vec2f& at, float coarse, float foo
 
 Look Solid::at(const Place& place) const {
     Look look;
+    look.smooth = true;
     look.surface.reflectance =
         mottled(substance_, noise_, place.texture[0], place.texture[1], finish_.coarse, place.footprint);
     look.mirror = finish_.mirror;

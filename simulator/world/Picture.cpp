@@ -3,10 +3,148 @@
 #include <opencv2/imgproc.hpp>
 
 #include <atomic>
+#include <cmath>
 #include <future>
 #include <thread>
 
 namespace fieldcal::world {
+
+namespace {
+
+/// Relative difference between neighbours from which one sample no longer tells what a pixel shows: a little above
+/// the noise of the sensors. Materials that fade their own details need care only at their shadows and outlines.
+constexpr float plainLimit = 0.04F, smoothLimit = 0.4F;
+
+/// One ray for every pixel, through its middle.
+cv::Mat_<cv::Vec2f> middleRays(const synthesis::RayGrid& grid) {
+    const int n = grid.samplesPerPixel, low = (n - 1) / 2, high = n / 2;
+    cv::Mat_<cv::Vec2f> middle(grid.rays.rows / n, grid.rays.cols / n);
+    for (int y = 0; y < middle.rows; ++y) {
+        const cv::Vec2f *upper = grid.rays[y * n + low], *lower = grid.rays[y * n + high];
+        for (int x = 0; x < middle.cols; ++x)
+            middle(y, x) =
+                (upper[x * n + low] + upper[x * n + high] + lower[x * n + low] + lower[x * n + high]) * 0.25F;
+    }
+    return middle;
+}
+
+class Shooting {
+public:
+    Shooting(const World& world, const synthesis::RayGrid& grid, const Shot& shot)
+        : world_(world),
+          grid_(grid),
+          middle_(middleRays(grid)),
+          world_camera_(shot.pose.camera_world.t()),
+          centre_(shot.pose.centre),
+          phase_(shot.phase),
+          bands_(shot.infrared ? cv::Vec4f(0, 0, 0, 1) : cv::Vec4f(0.3F, 0.59F, 0.11F, 0)),
+          spread_(spacing()),
+          first_(middle_.total()) {}
+
+    Picture take() {
+        picture_.light.create(middle_.size());
+        picture_.depth.create(middle_.size());
+        picture_.reflected.create(middle_.size());
+        forEachRow(middle_.rows, [this](int y) { glance(y); });
+        if (grid_.samplesPerPixel > 1) forEachRow(middle_.rows, [this](int y) { lookCloser(y); });
+        return std::move(picture_);
+    }
+
+private:
+    struct First {
+        float level = 0;
+        int material = -1;
+        cv::Vec3f normal;
+        bool sunlit = false, smooth = true;
+    };
+
+    float spacing() const {
+        const cv::Vec2f &a = middle_(middle_.rows / 2, middle_.cols / 2), &b = middle_(0, 0);
+        return std::abs(a[0] - b[0]) / static_cast<float>(std::max(1, middle_.cols / 2));
+    }
+    std::size_t indexOf(int y, int x) const {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(middle_.cols) + static_cast<std::size_t>(x);
+    }
+    cv::Vec3f towards(const cv::Vec2f& ray) const { return unit(world_camera_ * cv::Vec3f(ray[0], ray[1], 1)); }
+    static cv::Vec4f asVector(const synthesis::Spectrum& s) { return {s.red, s.green, s.blue, s.infrared}; }
+
+    /// One sample for every pixel of a row.
+    void glance(int y) {
+        std::array<Sample, Rays::most> samples;
+        for (int x = 0; x < middle_.cols; x += Rays::most) {
+            Rays rays;
+            rays.phase = phase_;
+            for (int i = x; i < std::min(x + Rays::most, middle_.cols); ++i)
+                rays.add(centre_, towards(middle_(y, i)));
+            world_.trace(rays, spread_, samples.data());
+            for (int i = 0; i < rays.count; ++i)
+                keep(y, x + i, samples[i]);
+        }
+    }
+
+    void keep(int y, int x, const Sample& s) {
+        const cv::Vec2f& ray = middle_(y, x);
+        const cv::Vec4f light = asVector(s.radiance);
+        picture_.light(y, x) = light;
+        picture_.depth(y, x) = std::isinf(s.distance) ? 0 : s.distance / std::sqrt(1 + ray.dot(ray));
+        picture_.reflected(y, x) = s.mirror ? 255 : 0;
+        first_[indexOf(y, x)] = {light.dot(bands_), s.material, s.normal, s.sunlit, s.smooth};
+    }
+
+    static bool alike(const First& a, const First& b) {
+        if (a.material != b.material || a.sunlit != b.sunlit) return false;
+        const bool smooth = a.smooth && b.smooth && (a.material < 0 || a.normal.dot(b.normal) > 0.98F);
+        const float limit = smooth ? smoothLimit : plainLimit;
+        return std::abs(a.level - b.level) <= limit * 0.5F * (a.level + b.level);
+    }
+
+    bool isPlain(int y, int x) const {
+        for (int v = std::max(0, y - 1); v <= std::min(y + 1, middle_.rows - 1); ++v)
+            for (int u = std::max(0, x - 1); u <= std::min(x + 1, middle_.cols - 1); ++u)
+                if (!alike(first_[indexOf(y, x)], first_[indexOf(v, u)])) return false;
+        return true;
+    }
+
+    /// The samples of the grid for the pixels that need them. The one in the middle counts as one of them.
+    void lookCloser(int y) {
+        Rays rays;
+        rays.phase = phase_;
+        std::array<int, Rays::most> owner{};
+        const int n = grid_.samplesPerPixel, middle = n % 2 == 1 ? n * n / 2 : -1;
+        const float share = 1.0F / static_cast<float>(middle < 0 ? n * n + 1 : n * n);
+        const auto flush = [&] {
+            std::array<Sample, Rays::most> samples;
+            world_.trace(rays, spread_ / static_cast<float>(n), samples.data());
+            for (int i = 0; i < rays.count; ++i)
+                picture_.light(y, owner[i]) += asVector(samples[i].radiance) * share;
+            rays.count = 0;
+        };
+        for (int x = 0; x < middle_.cols; ++x) {
+            if (isPlain(y, x)) continue;
+            picture_.light(y, x) *= share;
+            for (int k = 0; k < n * n; ++k) {
+                if (k == middle) continue;
+                owner[rays.count] = x;
+                rays.add(centre_, towards(grid_.rays(y * n + k / n, x * n + k % n)));
+                if (rays.count == Rays::most) flush();
+            }
+        }
+        flush();
+    }
+
+    const World& world_;
+    const synthesis::RayGrid& grid_;
+    cv::Mat_<cv::Vec2f> middle_;
+    cv::Matx33f world_camera_;
+    cv::Vec3f centre_;
+    float phase_;
+    cv::Vec4f bands_;
+    float spread_;
+    std::vector<First> first_;
+    Picture picture_;
+};
+
+}  // namespace
 
 Pose colourPose(const Pose& depth, const cv::Matx33d& rotation, const cv::Vec3d& translation) {
     Pose colour;
@@ -29,23 +167,11 @@ void forEachRow(int rows, const std::function<void(int)>& row) {
         helper.wait();
 }
 
-cv::Mat_<cv::Vec4f> takePicture(const World& world, const synthesis::RayGrid& grid, const Pose& pose,
-                                double lensSigma) {
-    const cv::Matx33f world_camera = pose.camera_world.t();
-    const cv::Vec3f centre = pose.centre;
-    const int n = grid.samplesPerPixel;
-    const float share = 1.0F / static_cast<float>(n * n);
-    cv::Mat_<cv::Vec4f> picture(grid.rays.rows / n, grid.rays.cols / n, cv::Vec4f(0, 0, 0, 0));
-    forEachRow(picture.rows, [&](int row) {
-        cv::Vec4f* pixels = picture[row];
-        for (int y = row * n; y < (row + 1) * n; ++y)
-            for (int x = 0; x < picture.cols * n; ++x) {
-                const cv::Vec2f& ray = grid.rays(y, x);
-                const auto s = world.trace(centre, unit(world_camera * cv::Vec3f(ray[0], ray[1], 1))).radiance;
-                pixels[x / n] += cv::Vec4f(s.red, s.green, s.blue, s.infrared) * share;
-            }
-    });
-    if (lensSigma > 0) cv::GaussianBlur(picture, picture, cv::Size(), lensSigma, lensSigma, cv::BORDER_REPLICATE);
+Picture takePicture(const World& world, const synthesis::RayGrid& grid, const Shot& shot) {
+    Picture picture = Shooting(world, grid, shot).take();
+    if (shot.lensSigma > 0)
+        cv::GaussianBlur(picture.light, picture.light, cv::Size(), shot.lensSigma, shot.lensSigma,
+                         cv::BORDER_REPLICATE);
     return picture;
 }
 

@@ -16,9 +16,23 @@ struct Pose {
 /// The pose of a colour camera with X_colour = rotation · X_depth + translation (metres).
 Pose colourPose(const Pose& depth, const cv::Matx33d& rotation, const cv::Vec3d& translation);
 
-/// Mean radiance over every pixel, blurred by a lens of Gaussian spread `lensSigma` pixels. Channels: red, green,
-/// blue, infrared. All processors work on it; the result does not depend on their number.
-cv::Mat_<cv::Vec4f> takePicture(const World& world, const synthesis::RayGrid& grid, const Pose& pose, double lensSigma);
+/// When and whence a picture is taken, and by what kind of camera.
+struct Shot {
+    Pose pose;
+    float phase = 0;         ///< of what sways, 0 … 1
+    bool infrared = false;   ///< else colour: what it cannot see needs no care
+    double lensSigma = 0.5;  ///< spread of the lens's Gaussian blur, pixels
+};
+
+struct Picture {
+    cv::Mat_<cv::Vec4f> light;         ///< mean radiance over every pixel: red, green, blue, infrared
+    cv::Mat_<float> depth;             ///< metres along the axis in the middle of every pixel; 0 for the sky
+    cv::Mat_<std::uint8_t> reflected;  ///< 255 where the middle of a pixel shows a mirror
+};
+
+/// Takes a picture. Pixels unlike their neighbours take all samples of the grid, the others only one in the middle.
+/// All processors work on it; the result does not depend on their number.
+Picture takePicture(const World& world, const synthesis::RayGrid& grid, const Shot& shot);
 
 /// Calls `row` for 0 … rows − 1 on all processors, in no particular order, and returns when all are done.
 void forEachRow(int rows, const std::function<void(int)>& row);

@@ -2,6 +2,7 @@
 
 #include "simulator/synthesis/Light.h"
 #include "simulator/synthesis/Sky.h"
+#include "simulator/world/Caster.h"
 #include "simulator/world/Material.h"
 #include "simulator/world/Mesh.h"
 
@@ -12,7 +13,12 @@ namespace fieldcal::world {
 
 struct Sample {
     synthesis::Spectrum radiance;  ///< sunlit white is about 1
-    float distance;                ///< metres; infinite for the sky
+    float distance = 0;            ///< metres; infinite for the sky
+    cv::Vec3f normal{0, 0, 0};     ///< of the surface, towards the eye
+    int material = -1;             ///< −1 for the sky
+    bool sunlit = false;
+    bool smooth = true;  ///< the material shows nothing finer than the sample covers
+    bool mirror = false;
 };
 
 /// Sun, sky and air.
@@ -33,32 +39,31 @@ public:
     World& operator=(const World&) = delete;
 
     /// False when the ray-casting library could not be started; every ray then sees the sky.
-    bool isValid() const;
+    bool isValid() const { return caster_.isValid(); }
 
-    /// `direction` has unit length.
+    /// What each ray sees. `spread`: radians between neighbouring samples, so that nothing finer is shown.
+    void trace(const Rays& rays, float spread, Sample* samples) const;
+    /// The same for one ray of a still. `direction` has unit length.
     Sample trace(const cv::Vec3f& origin, const cv::Vec3f& direction) const;
-    /// Metres to the first surface, infinite for the sky.
-    float distance(const cv::Vec3f& origin, const cv::Vec3f& direction) const;
-    /// True when something stands between two points (not counting the last millimetres before either).
-    bool isHidden(const cv::Vec3f& from, const cv::Vec3f& to) const;
+    /// One bit for each ray on whose way something stands (not counting the last millimetres before either end).
+    unsigned hidden(Rays rays) const;
 
     const synthesis::Light& light() const { return daylight_.light; }
 
 private:
-    struct Caster;
-    struct Hit;
-    bool cast(const cv::Vec3f& origin, const cv::Vec3f& direction, Hit* hit) const;
-    bool inShadow(const cv::Vec3f& point, const cv::Vec3f& side, float distance) const;
-    Sample traced(const cv::Vec3f& origin, const cv::Vec3f& direction, bool mirrors) const;
-    synthesis::Spectrum shaded(const Look& look, const Place& place, float distance) const;
-    Place placeOf(const cv::Vec3f& origin, const cv::Vec3f& direction, const Hit& hit) const;
+    struct Shading;
+    void traced(const Rays& rays, float spread, bool mirrors, Sample* samples) const;
+    Place placeOf(const cv::Vec3f& origin, const cv::Vec3f& direction, const Hit& hit, float spread) const;
+    unsigned sunlit(const Rays& rays, const Shading* shadings) const;
+    synthesis::Spectrum shaded(const Shading& shading, bool sunny) const;
+    void addMirrored(const Rays& rays, const Shading* shadings, float spread, Sample* samples) const;
 
     Mesh mesh_;
     Materials materials_;
     Daylight daylight_;
     std::unique_ptr<synthesis::Noise> noise_;
     synthesis::Backdrop sky_;
-    std::unique_ptr<Caster> caster_;
+    Caster caster_;
 };
 
 }  // namespace fieldcal::world

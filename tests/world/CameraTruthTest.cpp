@@ -177,8 +177,9 @@ struct SlantedPlane {
 };
 
 View depthView(const World& world, const SessionDescription& rig) {
+    const auto rays = synthesis::infraredRays(rig.depth, 1);
     View view;
-    seeDepth(world, synthesis::infraredRays(rig.depth, 1), {}, rig.depth.fx, &view);
+    seeDepth(world, rays, {}, takePicture(world, rays, {}), rig.depth.fx, &view);
     return view;
 }
 

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "simulator/world/Mesh.h"
+
+#include <limits>
+#include <memory>
+
+namespace fieldcal::world {
+
+/// Up to eight rays that are followed together. Directions have unit length.
+struct Rays {
+    static constexpr int most = 8;
+    int count = 0;
+    float phase = 0;  ///< of what sways, 0 … 1
+    std::array<cv::Vec3f, most> origin, direction;
+    std::array<float, most> length;  ///< metres, only looked at by `hidden`
+
+    void add(const cv::Vec3f& from, const cv::Vec3f& towards, float metres = std::numeric_limits<float>::infinity()) {
+        origin[count] = from, direction[count] = towards, length[count++] = metres;
+    }
+};
+
+struct Hit {
+    float distance = std::numeric_limits<float>::infinity();  ///< metres; infinite when nothing was hit
+    float u = 0, v = 0;                                       ///< weights of the triangle's second and third corner
+    std::uint32_t triangle = 0;
+};
+
+/// Finds where rays meet a mesh. Built once, then only read: any thread. Wraps the ray-casting library.
+class Caster {
+public:
+    explicit Caster(const Mesh& mesh);
+    ~Caster();
+    Caster(const Caster&) = delete;
+    Caster& operator=(const Caster&) = delete;
+
+    /// False when the library could not be started; no ray then hits anything.
+    bool isValid() const;
+    void cast(const Rays& rays, Hit* hits) const;
+    /// One bit for each ray that meets something within its length.
+    unsigned hidden(const Rays& rays) const;
+
+private:
+    struct Library;
+    std::unique_ptr<Library> library_;
+};
+
+}  // namespace fieldcal::world
