@@ -83,10 +83,11 @@ int main(int argc, char** argv) {
     for (int i = 0; i < frames; ++i) {
         const auto start = Clock::now();
         if (!sensor.grab(true)) fatalFailure("grab failed", 1);
+        const ImageFrame32& colour = platform ? records.outOfModuleColour : records.inModuleColour;
+        if (records.leftInfrared.empty() || colour.empty()) continue;  // the very first view is not there yet
         std::uint16_t brightness = 0;
         engine.measureInfraredBrightness(records.leftInfrared, &brightness);
-        engine.inputFramesAndCheckMovement(records.leftInfrared,
-                                           platform ? records.outOfModuleColour : records.inModuleColour);
+        engine.inputFramesAndCheckMovement(records.leftInfrared, colour);
         const double ms = millisecondsSince(start);
         const bool known = memory.knows(records.leftInfrared);
         (ms > waitMs ? waiting : known ? resting : moving).push_back(ms);

@@ -73,16 +73,14 @@ const session::FramePictures* Footage::resting() {
     if (!(now == circumstances_)) isThere_.fill(false);
     circumstances_ = now;
     const auto phase = static_cast<std::size_t>(held_ % tremorFrames);
-    if (!isThere_[phase]) {
-        const auto& seen = here_->moments[phase % here_->moments.size()];
-        const auto trembled = [&](double frame) { return tremor(seed_, rest_, frame) * seen.pose.camera_world; };
-        const double frame = static_cast<double>(phase), lag = colourLagSeconds * framesPerSecond;
-        const world::View view = turner_.trembled(seen, {trembled(frame), trembled(frame + lag)});
-        const std::uint64_t noise =
-            synthesis::mixBits(seed_) + static_cast<std::uint64_t>(rest_) * tremorFrames + phase;
-        trembling_[phase] = expose(view, here_->settings, noise);
-        isThere_[phase] = true;
-    }
+    if (isThere_[phase]) return &trembling_[phase];
+    const auto& seen = here_->moments[phase % here_->moments.size()];
+    const auto trembled = [&](double frame) { return tremor(seed_, rest_, frame) * seen.pose.camera_world; };
+    const double frame = static_cast<double>(phase), lag = colourLagSeconds * framesPerSecond;
+    const world::View view = turner_.trembled(seen, {trembled(frame), trembled(frame + lag)}, withPlatform_);
+    const std::uint64_t noise = synthesis::mixBits(seed_) + static_cast<std::uint64_t>(rest_) * tremorFrames + phase;
+    trembling_[phase] = expose(view, here_->settings, noise);
+    isThere_[phase] = true;
     return &trembling_[phase];
 }
 
@@ -93,8 +91,10 @@ const session::FramePictures* Footage::turning() {
         return poseBetween(from.pose, to.pose, way).camera_world;
     };
     const bool firstHalf = 2 * turned_ < here_->rest.turnFrames;
-    world::View view =
-        turner_.between(firstHalf ? from : to, firstHalf ? to : from, {attitude(0), attitude(colourLagSeconds)});
+    // The rear camera shows every other frame only.
+    const bool platformShows = withPlatform_ && frame_ % 2 == 1;
+    world::View view = turner_.between(firstHalf ? from : to, firstHalf ? to : from,
+                                       {attitude(0), attitude(colourLagSeconds)}, platformShows);
     turner_.smear(&view, motionDeg(attitude(0), attitude(exposureSeconds)));
     moving_ = expose(view, firstHalf ? here_->settings : there_->settings, synthesis::mixBits(seed_ ^ frame_));
     return &moving_;
@@ -106,12 +106,8 @@ session::FramePictures Footage::expose(const world::View& view, const synthesis:
     synthesis::StillSettings infrared = settings, colour = settings;
     infrared.darkness *= light;
     colour.darkness *= colourLight(light);
-    session::FramePictures pictures;
-    pictures.infrared = infraredFrame(view, infrared, noise);
-    pictures.third = thirdFrame(view, colour, noise);
-    pictures.depth = depthFrame(view, {}, noise);
-    if (withPlatform_) pictures.platform = platformFrame(view, colour, noise);
-    return pictures;
+    return {infraredFrame(view, infrared, noise), depthFrame(view, {}, noise), thirdFrame(view, colour, noise),
+            platformFrame(view, colour, noise)};
 }
 
 }  // namespace fieldcal::handheld

@@ -8,6 +8,8 @@ namespace fieldcal::handheld {
 
 namespace {
 
+using Map = cv::Mat_<cv::Vec2f>;
+
 constexpr double radiansPerDegree = 3.141592653589793 / 180;
 
 cv::Matx33d rotationOf(const std::optional<session::Matrix3>& truth) {
@@ -18,6 +20,40 @@ void smearPicture(cv::Mat picture, double acrossPx, double downPx) {
     const auto odd = [](double length) { return 1 + 2 * static_cast<int>(std::abs(length) / 2); };
     const cv::Size size(odd(acrossPx), odd(downPx));
     if (size.area() > 1) cv::blur(picture, picture, size, {-1, -1}, cv::BORDER_REPLICATE);
+}
+
+/// The smallest rectangle with every pixel that has no place in a picture of `size`.
+cv::Rect placeless(const Map& map, cv::Size size) {
+    const cv::Mat_<std::uint8_t> placed = [&] {
+        cv::Mat inside;
+        cv::inRange(map, cv::Scalar(0, 0), cv::Scalar(size.width - 1, size.height - 1), inside);
+        return inside;
+    }();
+    return cv::boundingRect(placed == 0);
+}
+
+/// Paints `to` with what `from` has at the places of `map`; not where it has nothing.
+void paintOver(const cv::Mat& from, const Map& map, int interpolation, cv::Mat to) {
+    cv::remap(from, to, map, cv::noArray(), interpolation, cv::BORDER_TRANSPARENT);
+}
+
+void paintAll(const cv::Mat& from, const Map& map, int interpolation, cv::Mat to) {
+    cv::remap(from, to, map, cv::noArray(), interpolation, cv::BORDER_REPLICATE);
+}
+
+/// Depth is counted along the axis of the camera, which turns, too.
+cv::Mat_<float> alongTurnedAxis(const cv::Mat_<float>& depth, const Lens& lens, const cv::Matx33d& before_after) {
+    // The factor is linear in the pixel.
+    const auto factor = [&](double x, double y) {
+        const cv::Point2d ray = lens.ray({x, y});
+        return static_cast<float>(before_after(0, 2) * ray.x + before_after(1, 2) * ray.y + before_after(2, 2));
+    };
+    const float origin = factor(0, 0), across = factor(1, 0) - origin, down = factor(0, 1) - origin;
+    cv::Mat_<float> along(depth.size());
+    for (int y = 0; y < along.rows; ++y)
+        for (int x = 0; x < along.cols; ++x)
+            along(y, x) = depth(y, x) * (origin + across * static_cast<float>(x) + down * static_cast<float>(y));
+    return along;
 }
 
 }  // namespace
@@ -33,56 +69,64 @@ cv::Matx33d ViewTurner::Eye::turn(const cv::Matx33d& before, const cv::Matx33d& 
     return eye_infrared * before * now.t() * eye_infrared.t();
 }
 
-void ViewTurner::paint(const SeenView& seen, const Attitude& now, int interpolation, int border,
-                       world::View* out) const {
-    const auto paintBand = [&](const Eye& eye, const cv::Matx33d& attitude, const cv::Mat& from, cv::Mat& to) {
-        const cv::Mat map = pixelsBeforeTurning(eye.lens, eye.turn(seen.pose.camera_world, attitude));
-        cv::remap(from, to, map, cv::noArray(), interpolation, border);
+cv::Mat_<cv::Vec2f> ViewTurner::Eye::places(const SeenView& seen, const cv::Matx33d& now) const {
+    return pixelsBeforeTurning(lens, turn(seen.pose.camera_world, now));
+}
+
+world::View ViewTurner::trembled(const SeenView& seen, const Attitude& now, bool withPlatform) const {
+    const world::View& from = seen.view;
+    world::View to = emptyLike(from, withPlatform);
+    paintAll(from.infrared, infrared_.places(seen, now.infrared), cv::INTER_CUBIC, to.infrared);
+    paintAll(from.third, third_.places(seen, now.colour), cv::INTER_CUBIC, to.third);
+    if (!to.platform.empty())
+        paintAll(from.platform, platform_->places(seen, now.colour), cv::INTER_CUBIC, to.platform);
+    const cv::Mat_<cv::Vec2f> depthPlaces = depth_.places(seen, now.infrared);
+    paintAll(from.depth, depthPlaces, cv::INTER_NEAREST, to.depth);
+    paintAll(from.unmatched, depthPlaces, cv::INTER_NEAREST, to.unmatched);
+    return to;
+}
+
+world::View ViewTurner::between(const SeenView& nearer, const SeenView& other, const Attitude& now,
+                                bool withPlatform) const {
+    world::View to = emptyLike(nearer.view, withPlatform);
+    const auto paint = [&](const Eye& eye, const cv::Matx33d& attitude, const cv::Mat& near, const cv::Mat& far,
+                           int interpolation, cv::Mat out) {
+        const Map places = eye.places(nearer, attitude);
+        const cv::Rect rest = placeless(places, near.size());
+        if (!rest.empty()) paintAll(far, eye.places(other, attitude)(rest), interpolation, out(rest));
+        paintOver(near, places, interpolation, out);
     };
-    paintBand(infrared_, now.infrared, seen.view.infrared, out->infrared);
-    paintBand(third_, now.colour, seen.view.third, out->third);
-    if (platform_ && !seen.view.platform.empty()) paintBand(*platform_, now.colour, seen.view.platform, out->platform);
-    paintDepth(seen, now, border, out);
+    paint(infrared_, now.infrared, nearer.view.infrared, other.view.infrared, cv::INTER_LINEAR, to.infrared);
+    paint(third_, now.colour, nearer.view.third, other.view.third, cv::INTER_LINEAR, to.third);
+    if (!to.platform.empty())
+        paint(*platform_, now.colour, nearer.view.platform, other.view.platform, cv::INTER_LINEAR, to.platform);
+    const auto turned = [&](const SeenView& seen) {
+        return alongTurnedAxis(seen.view.depth, depth_.lens, depth_.turn(seen.pose.camera_world, now.infrared));
+    };
+    paint(depth_, now.infrared, turned(nearer), turned(other), cv::INTER_NEAREST, to.depth);
+    paint(depth_, now.infrared, nearer.view.unmatched, other.view.unmatched, cv::INTER_NEAREST, to.unmatched);
+    return to;
 }
 
-void ViewTurner::paintDepth(const SeenView& seen, const Attitude& now, int border, world::View* out) const {
-    const cv::Matx33d turn = depth_.turn(seen.pose.camera_world, now.infrared);
-    const cv::Mat_<cv::Vec2f> map = pixelsBeforeTurning(depth_.lens, turn);
-    // Depth is counted along the axis, which turns, too.
-    cv::Mat_<float> along(seen.view.depth.size());
-    const cv::Matx33d back = turn.t();
-    for (int y = 0; y < along.rows; ++y)
-        for (int x = 0; x < along.cols; ++x) {
-            const cv::Point2d ray = depth_.lens.ray(cv::Point2d(x, y));
-            along(y, x) =
-                seen.view.depth(y, x) * static_cast<float>(back(2, 0) * ray.x + back(2, 1) * ray.y + back(2, 2));
-        }
-    cv::remap(along, out->depth, map, cv::noArray(), cv::INTER_NEAREST, border);
-    cv::remap(seen.view.unmatched, out->unmatched, map, cv::noArray(), cv::INTER_NEAREST, border);
-    out->depthFocalPx = seen.view.depthFocalPx;
-}
-
-world::View ViewTurner::trembled(const SeenView& seen, const Attitude& now) const {
-    world::View view;
-    paint(seen, now, cv::INTER_CUBIC, cv::BORDER_REPLICATE, &view);
-    return view;
-}
-
-world::View ViewTurner::between(const SeenView& nearer, const SeenView& other, const Attitude& now) const {
-    world::View view;
-    paint(other, now, cv::INTER_LINEAR, cv::BORDER_REPLICATE, &view);
-    paint(nearer, now, cv::INTER_LINEAR, cv::BORDER_TRANSPARENT, &view);
-    return view;
+world::View ViewTurner::emptyLike(const world::View& view, bool withPlatform) const {
+    world::View out = view;
+    out.infrared.release(), out.third.release(), out.platform.release(), out.depth.release(), out.unmatched.release();
+    out.infrared.create(view.infrared.size());
+    out.third.create(view.third.size());
+    if (withPlatform && platform_) out.platform.create(view.platform.size());
+    out.depth.create(view.depth.size());
+    out.unmatched.create(view.unmatched.size());
+    return out;
 }
 
 void ViewTurner::smear(world::View* view, cv::Point2d motionDeg) const {
-    const auto smearBand = [&](cv::Mat picture, const Eye& eye) {
+    const auto smearBand = [&](const cv::Mat& picture, const Eye& eye) {
         const double perDegree = eye.lens.focalPx() * radiansPerDegree;
         smearPicture(picture, motionDeg.y * perDegree, motionDeg.x * perDegree);
     };
     smearBand(view->infrared, infrared_);
     smearBand(view->third, third_);
-    if (platform_ && !view->platform.empty()) smearBand(view->platform, *platform_);
+    if (!view->platform.empty()) smearBand(view->platform, *platform_);
 }
 
 }  // namespace fieldcal::handheld

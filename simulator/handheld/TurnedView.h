@@ -25,10 +25,10 @@ public:
     /// `rig` must carry the true rotations of its cameras.
     explicit ViewTurner(const session::SessionDescription& rig);
 
-    /// What `seen` shows from a slightly different attitude, as sharp as it was.
-    world::View trembled(const SeenView& seen, const Attitude& now) const;
+    /// What `seen` shows from an attitude that differs by a tremor, as sharp as it was.
+    world::View trembled(const SeenView& seen, const Attitude& now, bool withPlatform) const;
     /// What is seen between two views: from the nearer one, and from the other where that one does not reach.
-    world::View between(const SeenView& nearer, const SeenView& other, const Attitude& now) const;
+    world::View between(const SeenView& nearer, const SeenView& other, const Attitude& now, bool withPlatform) const;
 
     /// Blurs by a motion of so many degrees about x and y during the exposure.
     void smear(world::View* view, cv::Point2d motionDeg) const;
@@ -37,10 +37,12 @@ private:
     struct Eye {
         Lens lens;
         cv::Matx33d eye_infrared;  ///< rotation
+        /// Takes directions in the eye's frame back into its frame before the infrared camera turned.
         cv::Matx33d turn(const cv::Matx33d& before, const cv::Matx33d& now) const;
+        /// Where the pixels were in a picture of `seen`.
+        cv::Mat_<cv::Vec2f> places(const SeenView& seen, const cv::Matx33d& now) const;
     };
-    void paint(const SeenView& seen, const Attitude& now, int interpolation, int border, world::View* out) const;
-    void paintDepth(const SeenView& seen, const Attitude& now, int border, world::View* out) const;
+    world::View emptyLike(const world::View& view, bool withPlatform) const;
 
     Eye infrared_, depth_, third_;
     std::optional<Eye> platform_;

@@ -3,6 +3,9 @@
 #include "simulator/world/Cameras.h"
 #include "simulator/world/Worlds.h"
 
+#include <sys/resource.h>
+#include <unistd.h>
+
 namespace fieldcal::handheld {
 
 namespace {
@@ -18,6 +21,11 @@ synthesis::StillSettings drawSettings(std::uint64_t seed, int number, double dar
     settings.colour.meanLevel = random.uniform(0.17, 0.30);
     settings.darkness = darkness;
     return settings;
+}
+
+/// Frames that are due come first. The threads that help with rendering inherit it.
+void yieldToOthers() {
+    setpriority(PRIO_PROCESS, static_cast<id_t>(gettid()), 15);
 }
 
 /// Renders one view after another.
@@ -97,6 +105,7 @@ bool ViewMaker::nextOrder(Order* order) {
 }
 
 void ViewMaker::work() {
+    yieldToOthers();
     Studio studio(world_, seed_, rig_);
     Order order{};
     while (nextOrder(&order)) {
