@@ -1,0 +1,18 @@
+#include "app/ApplicationEnvironment.h"
+
+#include <QMessageBox>
+
+namespace fieldcal {
+
+ApplicationEnvironment systemApplicationEnvironment() {
+    ApplicationEnvironment environment;
+    environment.workflow = systemWorkflowEnvironment();
+    environment.language = systemLanguage();
+    environment.updateManifest = QUrl(QStringLiteral(FIELDCAL_UPDATE_MANIFEST));
+    environment.showCritical = [](const QString& title, const QString& text) {
+        QMessageBox::critical(nullptr, title, text, QMessageBox::Ok);
+    };
+    return environment;
+}
+
+}  // namespace fieldcal

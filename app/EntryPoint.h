@@ -1,0 +1,9 @@
+#pragma once
+
+namespace fieldcal {
+
+/// The whole program. Gives the process's exit code: 1 at once and silently while another copy runs, 1 after a message
+/// about an error of the camera library, else 0.
+int runApplication(int& argc, char** argv);
+
+}  // namespace fieldcal

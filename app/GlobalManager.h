@@ -1,0 +1,101 @@
+#pragma once
+
+#include "app/ApplicationEnvironment.h"
+#include "app/ImageViews.h"
+#include "app/QmlFunctions.h"
+#include "app/UpdateCheck.h"
+#include "app/WorkflowBridge.h"
+#include "workflow/ProcessingThread.h"
+#include "workflow/Workflow.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QQmlApplicationEngine>
+#include <QString>
+#include <QTranslator>
+
+#include <memory>
+
+class QNetworkReply;
+class QQuickWindow;
+
+namespace fieldcal {
+
+/// The application object. Builds the interface and the workflow, connects them, starts the processing thread, and
+/// passes on what the one tells the other; both ways out end here. Slots and everything else run on the main thread;
+/// the signals are emitted on the processing thread and queued.
+class GlobalManager : public QApplication {
+    Q_OBJECT
+public:
+    GlobalManager(int& argc, char** argv, ApplicationEnvironment environment = systemApplicationEnvironment());
+    /// Stops the processing thread and closes the camera, whatever ended the event loop.
+    ~GlobalManager() override;
+
+    /// What the process is to return: 0, or 1 after a message about an error.
+    int exitCode() const { return exitCode_; }
+
+    // For tests.
+    Workflow& workflow() { return workflow_; }
+    QQuickWindow* window() const { return window_; }
+
+signals:
+    void signal_tellAppToRenderImages();
+    void signal_modifyUiToState(State new_state);
+    void signal_displayMovementText(QString text);
+    void signal_startCalibrationText(QString text);
+    void signal_saveCalibrationText(QString text);
+
+public slots:
+    void slot_tellAppToRenderImages();
+    void slot_modifyUiToState(State state);
+    void slot_displayMovementText(QString text);
+    void slot_startCalibrationText(QString text);
+    void slot_saveCalibrationText(QString text);
+    void slot_toggleTutorialAnimation(bool on);
+    void slot_switchToOOMColorSensor();
+    void slot_switchToIMColorSensor();
+    void slot_userAskedToExit();
+    void slot_saveAndQuit();
+    void slot_stateChanged(int state);
+    void slot_downloadLatestUpdate();
+    void slot_abortDownloadOfUpdate();
+    void slot_networkReplyLatestVersionJsonFinished(QNetworkReply* reply);
+    void slot_timeoutNetworkReplyJson();
+    /// The first error counts, and nothing after the user has chosen to leave.
+    void slot_getKXAPIErrorAndQuit(QString message);
+    void slot_reportMissingQ550Device();
+    void slot_reportMissingPlatformCamera();
+    void slot_reportPlatformCameraIssue();
+
+protected:
+    /// Swallows the user's input once the program is ending.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void loadUILanguage();
+    void loadInterface();
+    void connectSignals();
+    void switchCamera(ColourCamera camera, const char* description, const char* instruction);
+
+    // GlobalManagerEnding.cpp
+    bool beginEnding();
+    void endProcessing(Stop stop);
+    void finishEnding(const char* who, const LeaveReport& report);
+
+    const ApplicationEnvironment environment_;
+    QTranslator translator_;
+    bool leftToRight_ = true;
+    QmlFunctions functions_;
+    ImageViews views_;
+    WorkflowBridge bridge_{*this, functions_, views_};
+    Workflow workflow_;
+    UpdateCheck updates_;
+    QQmlApplicationEngine engine_;  ///< its views use the workflow's engine
+    QQuickWindow* window_ = nullptr;
+    QElapsedTimer lightingStopwatch_;
+    std::unique_ptr<ProcessingThread> thread_;
+    bool ending_ = false;
+    int exitCode_ = 0;
+};
+
+}  // namespace fieldcal

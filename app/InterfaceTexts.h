@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+namespace fieldcal {
+
+/// A text of the interface in the user's language; as it is where there is no translation. Any thread.
+QString interfaceText(const char* english);
+
+/// What the application itself says; the workflow has texts of its own.
+namespace texts {
+
+constexpr const char* kContinue = QT_TRANSLATE_NOOP("Interface", "Continue");
+constexpr const char* kDarkTitle = QT_TRANSLATE_NOOP("Interface", "Sunlight Required");
+constexpr const char* kDark =
+    QT_TRANSLATE_NOOP("Interface", "There is not enough sunlight.\nMove outside to a bright, sunlit area.");
+constexpr const char* kLitTitle = QT_TRANSLATE_NOOP("Interface", "Sufficient Sunlight");
+constexpr const char* kLit = QT_TRANSLATE_NOOP("Interface", "It's bright enough here!\nPress continue.");
+
+constexpr const char* kOnlyCamera = QT_TRANSLATE_NOOP("Interface", "Color Camera");
+constexpr const char* kFirstCamera = QT_TRANSLATE_NOOP("Interface", "First Color Camera");
+constexpr const char* kSecondCamera = QT_TRANSLATE_NOOP("Interface", "Second Color Camera");
+constexpr const char* kRefineOnly =
+    QT_TRANSLATE_NOOP("Interface",
+                      "Align the colorful depth image with the color image.\n"
+                      "Press Continue to accept the calibration of the color camera. Or press Restart to start over.");
+constexpr const char* kRefineFirst = QT_TRANSLATE_NOOP(
+    "Interface",
+    "Align the colorful depth image with the color image.\n"
+    "Press Continue to accept the calibration of the first color camera. Or press Restart to start over.");
+constexpr const char* kRefineSecond = QT_TRANSLATE_NOOP(
+    "Interface",
+    "Align the colorful depth image with the color image.\n"
+    "Press Continue to accept the calibration of the second color camera. Or press Restart to start over.");
+
+constexpr const char* kSaved = QT_TRANSLATE_NOOP("Interface", "The calibration is stored in the camera.");
+constexpr const char* kLastSaveFailed =
+    QT_TRANSLATE_NOOP("Interface", "The last calibration was not stored in the camera.\nPlease calibrate again.");
+
+}  // namespace texts
+}  // namespace fieldcal

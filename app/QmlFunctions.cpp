@@ -1,0 +1,105 @@
+#include "app/QmlFunctions.h"
+
+#include <QGenericArgument>
+#include <QMetaObject>
+#include <QThread>
+
+namespace fieldcal {
+
+void QmlFunctions::setLeftToRightLanguage(bool leftToRight) {
+    call("setLeftToRightLanguage", {leftToRight});
+}
+
+void QmlFunctions::modifyUiToStateInQML(State state) {
+    call("modifyUiToStateInQML", {static_cast<int>(state)});
+}
+
+void QmlFunctions::showMovementText(const QString& text) {
+    call("showMovementText", {text});
+}
+
+void QmlFunctions::showCalibrationStartupText(const QString& text) {
+    call("showCalibrationStartupText", {text});
+}
+
+void QmlFunctions::showSaveCalibrationText(const QString& text) {
+    call("showSaveCalibrationText", {text});
+}
+
+void QmlFunctions::setLightingDialogText(const QString& title, const QString& message) {
+    call("setLightingDialogText", {title, message});
+}
+
+void QmlFunctions::setLightingProgress(double progress) {
+    call("setLightingProgress", {progress});
+}
+
+void QmlFunctions::toggleLightingContinueButtonVisibility(bool visible, const QString& label) {
+    call("toggleLightingContinueButtonVisibility", {visible, label});
+}
+
+void QmlFunctions::setCalibrationProgress(double progress) {
+    call("setCalibrationProgress", {progress});
+}
+
+void QmlFunctions::setColorCameraDescriptionText(const QString& text) {
+    call("setColorCameraDescriptionText", {text});
+}
+
+void QmlFunctions::showReturnToAWellLitAreaPopup() {
+    call("showReturnToAWellLitAreaPopup");
+}
+
+void QmlFunctions::hideReturnToAWellLitAreaPopup() {
+    call("hideReturnToAWellLitAreaPopup");
+}
+
+void QmlFunctions::flashCalibrationImageViews() {
+    call("flashCalibrationImageViews");
+}
+
+void QmlFunctions::showHowToMoveTutorialButton() {
+    call("showHowToMoveTutorialButton");
+}
+
+void QmlFunctions::forceSingleCameraCalibration() {
+    call("forceSingleCameraCalibration");
+}
+
+void QmlFunctions::displayMissingQ550Device() {
+    call("displayMissingQ550Device");
+}
+
+void QmlFunctions::displayMissingPlatformCamera() {
+    call("displayMissingPlatformCamera");
+}
+
+void QmlFunctions::displayPlatformCameraIssue() {
+    call("displayPlatformCameraIssue");
+}
+
+void QmlFunctions::showLastSaveFailed(const QString& text) {
+    call("showLastSaveFailed", {text});
+}
+
+// The root belongs to the main thread; another thread does not even look at it.
+void QmlFunctions::call(const char* function, const QVariantList& arguments) {
+    if (QThread::currentThread() == thread()) {
+        callNow(function, arguments);
+    } else {
+        QMetaObject::invokeMethod(
+            this, [this, function, arguments] { callNow(function, arguments); }, Qt::QueuedConnection);
+    }
+}
+
+void QmlFunctions::callNow(const char* function, const QVariantList& arguments) const {
+    if (root_ == nullptr) return;
+    const auto argument = [&](int i) {
+        return i < arguments.size() ? Q_ARG(QVariant, arguments[i]) : QGenericArgument();
+    };
+    if (!QMetaObject::invokeMethod(root_, function, Qt::DirectConnection, argument(0), argument(1))) {
+        qCritical("The interface has no function %s for %d arguments.", function, arguments.size());
+    }
+}
+
+}  // namespace fieldcal

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "workflow/State.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QVariantList>
+
+namespace fieldcal {
+
+/// The functions of the interface's root document; what each does is told in `docs/interface-map.md`. Any thread: a
+/// call from another thread than this object's is queued and never waits, in the order of what that thread emits.
+class QmlFunctions : public QObject {
+public:
+    /// Before any call; main thread.
+    void setRoot(QObject* root) { root_ = root; }
+
+    void setLeftToRightLanguage(bool leftToRight);
+    void modifyUiToStateInQML(State state);
+    void showMovementText(const QString& text);
+    void showCalibrationStartupText(const QString& text);
+    void showSaveCalibrationText(const QString& text);
+    void setLightingDialogText(const QString& title, const QString& message);
+    void setLightingProgress(double progress);
+    void toggleLightingContinueButtonVisibility(bool visible, const QString& label);
+    void setCalibrationProgress(double progress);
+    void setColorCameraDescriptionText(const QString& text);
+    void showReturnToAWellLitAreaPopup();
+    void hideReturnToAWellLitAreaPopup();
+    void flashCalibrationImageViews();
+    void showHowToMoveTutorialButton();
+    void forceSingleCameraCalibration();
+    void displayMissingQ550Device();
+    void displayMissingPlatformCamera();
+    void displayPlatformCameraIssue();
+    void showLastSaveFailed(const QString& text);
+
+private:
+    void call(const char* function, const QVariantList& arguments = {});
+    void callNow(const char* function, const QVariantList& arguments) const;
+
+    QPointer<QObject> root_;
+};
+
+}  // namespace fieldcal

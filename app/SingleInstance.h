@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+
+namespace fieldcal {
+
+/// Held by the one running copy of the program, from its start to its end; the system lets go of it when the program
+/// dies. On Windows one copy runs on a machine, elsewhere one in a user's session.
+class SingleInstance {
+public:
+    SingleInstance();
+    ~SingleInstance();
+    SingleInstance(const SingleInstance&) = delete;
+    SingleInstance& operator=(const SingleInstance&) = delete;
+
+    /// False: another copy holds it.
+    bool isFirst() const;
+
+private:
+    struct Handle;
+    std::unique_ptr<Handle> handle_;
+};
+
+}  // namespace fieldcal

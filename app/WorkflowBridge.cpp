@@ -1,0 +1,107 @@
+#include "app/WorkflowBridge.h"
+
+#include "app/GlobalManager.h"
+#include "app/ImageViews.h"
+#include "app/InterfaceTexts.h"
+#include "app/QmlFunctions.h"
+
+namespace fieldcal {
+
+WorkflowBridge::WorkflowBridge(GlobalManager& manager, QmlFunctions& functions, ImageViews& views)
+    : manager_(manager), functions_(functions), views_(views) {}
+
+template <typename Slot>
+void WorkflowBridge::queue(Slot slot) {
+    QMetaObject::invokeMethod(&manager_, slot, Qt::QueuedConnection);
+}
+
+void WorkflowBridge::requestRender() {
+    if (pacer_.request()) emit manager_.signal_tellAppToRenderImages();
+}
+
+void WorkflowBridge::stateChanged(State state) {
+    // A last step of the demonstration may have come after the user's restart.
+    if (state == State::WaitingToCalibrate) views_.stopTutorial();
+    emit manager_.signal_modifyUiToState(state);
+}
+
+void WorkflowBridge::framesReady(State state, ColourCamera camera, const FrameRecords& frames) {
+    views_.setFrames(state, camera, frames);
+    requestRender();
+}
+
+void WorkflowBridge::lightMeasured(const LightGate::Reading& reading) {
+    functions_.setLightingProgress(reading.progress);
+    functions_.toggleLightingContinueButtonVisibility(reading.lit, interfaceText(texts::kContinue));
+    functions_.setLightingDialogText(interfaceText(reading.lit ? texts::kLitTitle : texts::kDarkTitle),
+                                     interfaceText(reading.lit ? texts::kLit : texts::kDark));
+}
+
+void WorkflowBridge::refining(State state) {
+    if (state == State::RefiningTutorial) {
+        if (!tutorialAnimation_) return;
+        views_.swingTutorial();
+    }
+    requestRender();
+    pacer_.wait();
+}
+
+void WorkflowBridge::solutionFound(ColourCamera camera, const CameraParameters& factory, const Rotation& estimated) {
+    views_.setCalibration(camera, factory, estimated);
+}
+
+void WorkflowBridge::singleCameraOnly() {
+    platformCamera_ = false;
+    functions_.forceSingleCameraCalibration();
+}
+
+void WorkflowBridge::lastSaveFailed(const SaveNote& note) {
+    qInfo("The last calibration was not stored: %s %s", qUtf8Printable(note.reason), qUtf8Printable(note.flash));
+    functions_.showLastSaveFailed(interfaceText(texts::kLastSaveFailed));
+}
+
+void WorkflowBridge::deviceError(const QString& text) {
+    queue([this, text] { manager_.slot_getKXAPIErrorAndQuit(text); });
+}
+
+void WorkflowBridge::missingModule() {
+    queue([this] { manager_.slot_reportMissingQ550Device(); });
+}
+
+void WorkflowBridge::missingPlatformCamera() {
+    queue([this] { manager_.slot_reportMissingPlatformCamera(); });
+}
+
+void WorkflowBridge::platformCameraIssue() {
+    queue([this] { manager_.slot_reportPlatformCameraIssue(); });
+}
+
+void WorkflowBridge::movementText(const std::string& text) {
+    emit manager_.signal_displayMovementText(interfaceText(text.c_str()));
+}
+
+void WorkflowBridge::startText(const std::string& text) {
+    emit manager_.signal_startCalibrationText(interfaceText(text.c_str()));
+}
+
+void WorkflowBridge::calibrationProgress(double progress) {
+    functions_.setCalibrationProgress(progress);
+}
+
+void WorkflowBridge::returnToWellLitArea(bool needed) {
+    if (needed) {
+        functions_.showReturnToAWellLitAreaPopup();
+    } else {
+        functions_.hideReturnToAWellLitAreaPopup();
+    }
+}
+
+void WorkflowBridge::pairCaptured() {
+    functions_.flashCalibrationImageViews();
+}
+
+void WorkflowBridge::offerHowToMove() {
+    functions_.showHowToMoveTutorialButton();
+}
+
+}  // namespace fieldcal

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "app/RenderPacer.h"
+#include "workflow/WorkflowListener.h"
+
+#include <atomic>
+
+namespace fieldcal {
+
+class GlobalManager;
+class ImageViews;
+class QmlFunctions;
+
+/// Brings what the workflow tells, on the processing thread, to the main thread: as the manager's queued signals, as
+/// queued calls, and as pictures for the views. Waits for the main thread only in `refining`.
+class WorkflowBridge : public WorkflowListener {
+public:
+    WorkflowBridge(GlobalManager& manager, QmlFunctions& functions, ImageViews& views);
+
+    // The main thread's.
+    void renderRequestArrived() { pacer_.arrived(); }
+    /// Before the processing thread is waited for.
+    void stopWaiting() { pacer_.close(); }
+    void animateTutorial(bool on) { tutorialAnimation_ = on; }
+    /// Until the module says otherwise, there is one.
+    bool platformCameraPresent() const { return platformCamera_; }
+
+    // The processing thread's.
+    void stateChanged(State state) override;
+    void framesReady(State state, ColourCamera camera, const FrameRecords& frames) override;
+    void lightMeasured(const LightGate::Reading& reading) override;
+    void refining(State state) override;
+    void solutionFound(ColourCamera camera, const CameraParameters& factory, const Rotation& estimated) override;
+    void singleCameraOnly() override;
+    void lastSaveFailed(const SaveNote& note) override;
+    void deviceError(const QString& text) override;
+    void missingModule() override;
+    void missingPlatformCamera() override;
+    void platformCameraIssue() override;
+    void movementText(const std::string& text) override;
+    void startText(const std::string& text) override;
+    void calibrationProgress(double progress) override;
+    void returnToWellLitArea(bool needed) override;
+    void pairCaptured() override;
+    void offerHowToMove() override;
+
+private:
+    void requestRender();
+    template <typename Slot>
+    void queue(Slot slot);
+
+    GlobalManager& manager_;
+    QmlFunctions& functions_;
+    ImageViews& views_;
+    RenderPacer pacer_;
+    std::atomic<bool> tutorialAnimation_{false};
+    std::atomic<bool> platformCamera_{true};
+};
+
+}  // namespace fieldcal

@@ -1,0 +1,5 @@
+#include "app/EntryPoint.h"
+
+int main(int argc, char** argv) {
+    return fieldcal::runApplication(argc, argv);
+}

@@ -1,0 +1,27 @@
+#include "app/OrientationLock.h"
+
+#include <QtGlobal>
+
+#include <windows.h>
+
+namespace fieldcal {
+namespace {
+
+constexpr int kLandscape = 1;
+
+/// Looked up at run time: not every Windows has it.
+bool setRotationPreference(int orientation) {
+    using Function = BOOL(WINAPI*)(int);
+    const HMODULE user = GetModuleHandleA("user32.dll");
+    const auto function =
+        reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(user, "SetDisplayAutoRotationPreferences")));
+    return function != nullptr && function(orientation) != 0;
+}
+
+}  // namespace
+
+void lockOrientation() {
+    if (!setRotationPreference(kLandscape)) qInfo("Failed to lock auto rotation state. This may not matter.");
+}
+
+}  // namespace fieldcal
