@@ -1,5 +1,6 @@
 #include "render/ImageItem.h"
 
+#include <QOpenGLContext>
 #include <QQuickWindow>
 
 namespace fieldcal {
@@ -88,6 +89,7 @@ void ImageItem::drawContents(FixedFunctionGl& gl) {
 }
 
 void ImageItem::releaseGraphics() {
+    if (QOpenGLContext::currentContext() == nullptr) return;
     FixedFunctionGl* gl = fixedFunctionGl();
     if (gl == nullptr) return;
     const std::lock_guard lock(frameLock_);

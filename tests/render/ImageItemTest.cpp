@@ -97,8 +97,7 @@ TEST_F(ImageItems, PictureOutlivesTheGraphicsContext) {
     window().setPersistentOpenGLContext(false);
     window().setPersistentSceneGraph(false);
     window().hide();
-    window().releaseResources();
-    QCoreApplication::processEvents();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !window().isExposed(); }));
     window().show();
     waitUntilExposed();
     look();

@@ -9,8 +9,8 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QTest>
 #include <gtest/gtest.h>
-#include <qtestsupport_gui.h>
 
 #include <functional>
 #include <memory>

@@ -1,0 +1,242 @@
+#include "engine/CalibratorInterface.h"
+#include "engine/Rotation.h"
+#include "render/DepthColourMap.h"
+#include "tests/render/Stage.h"
+
+#include <QSignalSpy>
+
+#include <cmath>
+
+namespace fieldcal {
+namespace {
+
+using test::paint;
+using test::plainPicture;
+
+constexpr QRgb kGrey = qRgb(100, 100, 100);
+constexpr double kPixel = 1;  ///< tolerance of a centre on the screen: points are drawn at whole pixels
+
+/// No two numbers alike, so that nothing can be mistaken for another. The colour picture is stretched unequally.
+CameraParameters testCameras() {
+    CameraParameters cameras;
+    cameras.depth = {160, 120, 130, 132, 78, 61};
+    cameras.infrared = cameras.depth;
+    cameras.inModuleColour = {200, 150, 126, 128, 103, 71};
+    cameras.inModuleScaling = {1.03F, 0.98F};
+    cameras.depthToInModule.translation = {0.1F, -0.05F, 0.02F};
+    return cameras;
+}
+
+ImageFrame16 emptyDepth() {
+    ImageFrame16 depth;
+    depth.resize(160, 120);
+    std::fill_n(depth.pixels(), 160 * 120, std::uint16_t{0});
+    return depth;
+}
+
+void fill(ImageFrame16* depth, const QRect& area, int millimetres) {
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        std::fill_n(depth->pixels() + y * 160 + area.left(), area.width(), static_cast<std::uint16_t>(millimetres));
+}
+
+/// Where the point in the middle of a depth area is seen in a window of 640 x 480 that the picture fills.
+QPointF expectedCentre(const CameraParameters& cameras, const Eigen::Matrix3d& rotation, const QRect& area,
+                       int millimetres) {
+    const CameraModel& from = cameras.depth;
+    const CameraModel& to = cameras.inModuleColour;
+    const auto& shift = cameras.depthToInModule.translation;
+    const double z = 0.001 * millimetres;
+    const Eigen::Vector3d point((area.left() + (area.width() - 1) / 2.0 - from.cx) / from.fx * z,
+                                (area.top() + (area.height() - 1) / 2.0 - from.cy) / from.fy * z, z);
+    const Eigen::Vector3d seen = rotation * point + Eigen::Vector3d(shift[0], shift[1], shift[2]);
+    const double modelX = to.fx * seen.x() / seen.z() + to.cx;
+    const double modelY = to.fy * seen.y() / seen.z() + to.cy;
+    const double deliveredX = (modelX + 0.5) / cameras.inModuleScaling.x;
+    const double deliveredY = (modelY + 0.5) / cameras.inModuleScaling.y;
+    return {deliveredX * 640 / to.width, deliveredY * 480 / to.height};
+}
+
+/// What depth of this colour looks like under the grey picture.
+QRgb overGrey(int millimetres) {
+    const auto colour = depthColour(static_cast<std::uint16_t>(millimetres));
+    const auto mixed = [](int value) { return static_cast<int>(std::lround(0.55 * value + 0.45 * 100)); };
+    return qRgb(mixed(colour[0]), mixed(colour[1]), mixed(colour[2]));
+}
+
+bool alike(QRgb a, QRgb b) {
+    return std::abs(qRed(a) - qRed(b)) <= 2 && std::abs(qGreen(a) - qGreen(b)) <= 2 &&
+           std::abs(qBlue(a) - qBlue(b)) <= 2;
+}
+
+void expectNear(const QPointF& seen, const QPointF& expected, double tolerance = kPixel) {
+    EXPECT_NEAR(seen.x(), expected.x(), tolerance);
+    EXPECT_NEAR(seen.y(), expected.y(), tolerance);
+}
+
+class Overlay : public test::Stage {
+protected:
+    void SetUp() override {
+        open(R"(Item { objectName: "area"; width: 640; height: 480
+                    DepthColorOverlayRenderer { objectName: "overlay" } })");
+        overlay_ = &find<DepthColorOverlayRenderer>("overlay");
+        overlay_->show();
+        engine_.setCameraParameters(false);
+        overlay_->setCalibrator(&engine_);
+    }
+
+    void calibrate(const Eigen::Vector3d& anglesDeg) {
+        context_.state->setValues(static_cast<float>(anglesDeg.x()), static_cast<float>(anglesDeg.y()),
+                                  static_cast<float>(anglesDeg.z()));
+        std::array<float, 9> rotation{};
+        engine_.getRotationMatrix(rotation.data());
+        overlay_->setCalibration(overlayCalibration(cameras_, false, rotation));
+    }
+
+    static Eigen::Matrix3d rotation(const Eigen::Vector3d& anglesDeg) {
+        return vq::rotationFromAngles(anglesDeg / vq::kDegreesPerRadian);
+    }
+
+    void showArea(const QRect& area, int millimetres) {
+        ImageFrame16 depth = emptyDepth();
+        fill(&depth, area, millimetres);
+        overlay_->setFrames(plainPicture(200, 150, kGrey), depth);
+    }
+
+    QPointF centreOfDepth() {
+        look();
+        return centreOf([](QRgb colour) { return !alike(colour, kGrey); });
+    }
+
+    float angleDeg(int axis) const { return context_.state->item(axis).value; }
+
+    CameraParameters cameras_ = testCameras();
+    vq::RegistrationContext context_;
+    vq::CalibratorInterface engine_{context_, cameras_};
+    DepthColorOverlayRenderer* overlay_ = nullptr;
+};
+
+TEST_F(Overlay, DepthIsSeenWhereTheCamerasSayAndOnlyThere) {
+    const QRect area(40, 30, 9, 7);
+    showArea(area, 2000);
+    look();
+    EXPECT_EQ(seenAt(320, 240), kGrey) << "without cameras the picture alone";
+    EXPECT_EQ(centreOf([](QRgb) { return true; }), QPointF(320, 240)) << "nothing was found to be different";
+
+    const Eigen::Vector3d anglesDeg(1.5, -2, 2.5);
+    calibrate(anglesDeg);
+    const QPointF expected = expectedCentre(cameras_, rotation(anglesDeg), area, 2000);
+    expectNear(centreOfDepth(), expected);
+    EXPECT_TRUE(alike(seenAt(static_cast<int>(expected.x()), static_cast<int>(expected.y())), overGrey(2000)));
+
+    // Nine by seven depth pixels, each somewhat more than three on the screen.
+    EXPECT_TRUE(alike(seenAt(static_cast<int>(expected.x()) - 12, static_cast<int>(expected.y())), overGrey(2000)));
+    EXPECT_EQ(seenAt(static_cast<int>(expected.x()) - 24, static_cast<int>(expected.y())), kGrey);
+}
+
+TEST_F(Overlay, WholeFrameOfDepthHasNoHoles) {
+    calibrate({1, -1, 3});
+    showArea({0, 0, 160, 120}, 5000);
+    look();
+    int holes = 0;
+    for (int y = 60; y < 380; ++y)
+        for (int x = 120; x < 540; ++x)
+            if (!alike(seenAt(x, y), overGrey(5000))) ++holes;
+    EXPECT_EQ(holes, 0);
+}
+
+TEST_F(Overlay, NearDepthHidesWhatIsBehindIt) {
+    const QRect square(70, 50, 20, 20);
+    ImageFrame16 depth = emptyDepth();
+    fill(&depth, {0, 0, 160, 120}, 8000);
+    fill(&depth, square, 1000);
+    calibrate({0, 0, 0});
+    overlay_->setFrames(plainPicture(200, 150, kGrey), depth);
+    look();
+    const Eigen::Matrix3d none = Eigen::Matrix3d::Identity();
+    const QPointF near = expectedCentre(cameras_, none, square, 1000);
+    // Seen from the colour camera the square covers a part of the wall, and bares one that depth could not see.
+    const auto isNear = [](QRgb colour) { return alike(colour, overGrey(1000)); };
+    expectNear(centreOf(isNear), near);
+    const auto edge = [&](const QRect& strip, int millimetres) {
+        return expectedCentre(cameras_, none, strip, millimetres);
+    };
+    for (const int corner : {0, 19}) {
+        const QPointF inside = edge({square.left() + corner, square.top() + corner, 1, 1}, 1000);
+        EXPECT_TRUE(isNear(seenAt(static_cast<int>(inside.x()), static_cast<int>(inside.y())))) << corner;
+    }
+    const QPointF bared = edge({square.left() + 2, square.top() + 17, 1, 1}, 8000);
+    EXPECT_EQ(seenAt(static_cast<int>(bared.x()), static_cast<int>(bared.y())), kGrey);
+    const QPointF wall = edge({square.left() - 20, square.top() + 10, 1, 1}, 8000);
+    EXPECT_TRUE(alike(seenAt(static_cast<int>(wall.x()), static_cast<int>(wall.y())), overGrey(8000)));
+}
+
+TEST_F(Overlay, DragTurnsTheOverlayUnderTheFinger) {
+    const QRect area(70, 60, 5, 5);
+    calibrate({0.5, 0, -0.5});
+    showArea(area, 6000);
+    expectNear(centreOfDepth(), expectedCentre(cameras_, rotation({0.5, 0, -0.5}), area, 6000));
+    QSignalSpy changes(overlay_, &DepthColorOverlayRenderer::correctionDegChanged);
+
+    overlay_->slot_touchMove(300, 10);
+    EXPECT_EQ(angleDeg(1), 0.0F) << "a move without touch";
+    overlay_->slot_touchDown(100, 50);
+    overlay_->slot_touchMove(100, 400);
+    EXPECT_EQ(angleDeg(1), 0.0F) << "vertical motion";
+    overlay_->slot_touchMove(260, 50);
+    EXPECT_FLOAT_EQ(angleDeg(1), 2.0F);
+    EXPECT_NEAR(overlay_->correctionDeg(), 2.0, 1e-5);
+    overlay_->slot_touchMove(420, 50);
+    EXPECT_EQ(angleDeg(1), 4.0F) << "half the width";
+    expectNear(centreOfDepth(), expectedCentre(cameras_, rotation({0.5, 4, -0.5}), area, 6000));
+    overlay_->slot_touchMove(639, 50);
+    EXPECT_EQ(angleDeg(1), 4.0F);
+    overlay_->slot_touchMove(-1000, 50);
+    EXPECT_EQ(angleDeg(1), -4.0F);
+    EXPECT_EQ(angleDeg(0), 0.5F);
+    EXPECT_EQ(angleDeg(2), -0.5F);
+    expectNear(centreOfDepth(), expectedCentre(cameras_, rotation({0.5, -4, -0.5}), area, 6000));
+    overlay_->slot_touchUp(-1000, 50);
+    EXPECT_EQ(context_.state->touchDownPoint(), (std::array<float, 2>{-1.0F, -1.0F}));
+    overlay_->slot_touchMove(100, 50);
+    EXPECT_EQ(angleDeg(1), -4.0F);
+    QCoreApplication::processEvents();
+    EXPECT_GT(changes.count(), 0);
+
+    // The stored calibration to compare with, and back.
+    overlay_->setStoredShown(true);
+    expectNear(centreOfDepth(), expectedCentre(cameras_, Eigen::Matrix3d::Identity(), area, 6000));
+    overlay_->setStoredShown(false);
+    expectNear(centreOfDepth(), expectedCentre(cameras_, rotation({0.5, -4, -0.5}), area, 6000));
+}
+
+TEST_F(Overlay, DragNeedsAnAreaAndAnEngine) {
+    calibrate({0, 1, 0});
+    find<QQuickItem>("area").setWidth(0);
+    overlay_->slot_touchDown(0, 0);
+    overlay_->slot_touchMove(50, 0);
+    EXPECT_EQ(angleDeg(1), 1.0F);
+    find<QQuickItem>("area").setWidth(640);
+    overlay_->setCalibrator(nullptr);
+    overlay_->slot_touchDown(0, 0);
+    overlay_->slot_touchMove(50, 0);
+    overlay_->slot_touchUp(50, 0);
+    EXPECT_EQ(angleDeg(1), 1.0F);
+}
+
+TEST_F(Overlay, TooLittleDepthIsSaid) {
+    QSignalSpy changes(overlay_, &DepthColorOverlayRenderer::depthSparseChanged);
+    const auto share = [this](int percent) {
+        showArea({0, 0, 160, 120 * percent / 100}, 3000);
+        QCoreApplication::processEvents();
+        return overlay_->depthSparse();
+    };
+    EXPECT_FALSE(share(50));
+    EXPECT_TRUE(share(2));
+    EXPECT_TRUE(share(5)) << "does not flicker about one value";
+    EXPECT_FALSE(share(10));
+    EXPECT_FALSE(share(5));
+    EXPECT_EQ(changes.count(), 2);
+}
+
+}  // namespace
+}  // namespace fieldcal
