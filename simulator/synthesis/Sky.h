@@ -12,8 +12,9 @@ public:
     Backdrop(const Noise& noise, float cloudiness, float ridgeHeight)
         : noise_(noise), cloudiness_(cloudiness), ridgeHeight_(ridgeHeight) {}
 
-    Spectrum radiance(const cv::Vec3f& direction, float footprint) const;
-    Spectrum skyOnly(const cv::Vec3f& direction, float footprint) const;
+    /// `drift`: how far the clouds have moved, in heights of theirs above the ground.
+    Spectrum radiance(const cv::Vec3f& direction, float footprint, const cv::Vec2f& drift = {0, 0}) const;
+    Spectrum skyOnly(const cv::Vec3f& direction, float footprint, const cv::Vec2f& drift = {0, 0}) const;
     /// Light scattered in between: what far things fade into.
     static Spectrum haze() { return {0.50F, 0.57F, 0.66F, 0.30F}; }
     /// Distance blurs the visible sooner than the near infrared.

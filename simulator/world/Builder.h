@@ -25,11 +25,13 @@ struct Builder {
     synthesis::Random random;
     std::unique_ptr<synthesis::Noise> noise;
     Mesh mesh;
+    Sway sway;
     Materials materials;
     Daylight daylight;
 };
 
 std::unique_ptr<Stage> buildMountains(std::uint64_t seed);
+std::unique_ptr<Stage> buildMoving(std::uint64_t seed);
 std::unique_ptr<Stage> buildNear(std::uint64_t seed);
 std::unique_ptr<Stage> buildNight(std::uint64_t seed);
 std::unique_ptr<Stage> buildPark(std::uint64_t seed);

@@ -8,6 +8,10 @@ cv::Vec3d metres(const session::Vector3& millimetres) {
     return cv::Vec3d(millimetres.data()) * 0.001;
 }
 
+float secondsOf(const Moment& moment) {
+    return static_cast<float>(moment.seconds);
+}
+
 bool isSame(const session::Intrinsics& a, const session::Intrinsics& b) {
     return a.width == b.width && a.height == b.height && a.fx == b.fx && a.fy == b.fy && a.cx == b.cx && a.cy == b.cy;
 }
@@ -32,10 +36,10 @@ Pose Cameras::platformPose(const Pose& depth) const {
 
 View Cameras::see(const World& world, const Moment& infraredAndDepth, const Moment& colour, bool withPlatform) const {
     const auto colourSeen = [&](const synthesis::RayGrid& grid, const Pose& pose, double lens) {
-        return synthesis::colourBands(takePicture(world, grid, {pose, 0, false, lens}).light);
+        return synthesis::colourBands(takePicture(world, grid, {pose, secondsOf(colour), false, lens}).light);
     };
     View view;
-    const Shot shot{infraredAndDepth.pose, 0, true, synthesis::infraredLens};
+    const Shot shot{infraredAndDepth.pose, secondsOf(infraredAndDepth), true, synthesis::infraredLens};
     const Picture infrared = takePicture(world, infrared_, shot);
     view.infrared = synthesis::infraredBand(infrared.light);
     if (depth_.rays.empty())

@@ -7,6 +7,8 @@ namespace fieldcal::world {
 
 namespace {
 
+constexpr unsigned swaying = 1;  // the geometry of what moves
+
 struct alignas(32) Lanes {
     int valid[Rays::most];  // as the library asks: all bits set for a ray in use
     explicit Lanes(const Rays& rays) {
@@ -16,11 +18,12 @@ struct alignas(32) Lanes {
 };
 
 void fill(const Rays& rays, RTCRay8* out) {
+    const float phase = swayPhase(rays.seconds);
     for (int i = 0; i < rays.count; ++i) {
         out->org_x[i] = rays.origin[i][0], out->org_y[i] = rays.origin[i][1], out->org_z[i] = rays.origin[i][2];
         out->dir_x[i] = rays.direction[i][0], out->dir_y[i] = rays.direction[i][1];
         out->dir_z[i] = rays.direction[i][2];
-        out->tnear[i] = 0, out->tfar[i] = rays.length[i], out->time[i] = rays.phase;
+        out->tnear[i] = 0, out->tfar[i] = rays.length[i], out->time[i] = phase;
         out->mask[i] = ~0U, out->id[i] = 0, out->flags[i] = 0;
     }
 }
@@ -31,13 +34,19 @@ struct Caster::Library {
     RTCDevice device = nullptr;
     RTCScene scene = nullptr;
 
-    explicit Library(const Mesh& mesh) {
+    std::uint32_t stillTriangles;
+
+    Library(const Mesh& still, const Sway& sway) : stillTriangles(static_cast<std::uint32_t>(still.triangles.size())) {
         // One thread builds the tree: it then comes out the same every time.
         device = rtcNewDevice("threads=1");
         if (device == nullptr) return;
         scene = rtcNewScene(device);
         rtcSetSceneFlags(scene, RTC_SCENE_FLAG_ROBUST);
-        if (!mesh.triangles.empty()) attach(mesh);
+        if (!still.triangles.empty())
+            attach(still, 0, 1, [&](std::size_t vertex, int) { return still.vertices[vertex].position; });
+        if (!sway.mesh.triangles.empty())
+            attach(sway.mesh, swaying, Sway::steps + 1,
+                   [&](std::size_t vertex, int step) { return sway.positionAt(vertex, step); });
         rtcCommitScene(scene);
     }
     Library(const Library&) = delete;
@@ -48,25 +57,32 @@ struct Caster::Library {
     }
 
 private:
-    void attach(const Mesh& mesh) {
+    template <typename Position>
+    void attach(const Mesh& mesh, unsigned id, int steps, const Position& positionAt) {
         RTCGeometry geometry = rtcNewGeometry(device, RTC_GEOMETRY_TYPE_TRIANGLE);
-        auto* position = static_cast<float*>(rtcSetNewGeometryBuffer(
-            geometry, RTC_BUFFER_TYPE_VERTEX, 0, RTC_FORMAT_FLOAT3, 3 * sizeof(float), mesh.vertices.size()));
+        rtcSetGeometryTimeStepCount(geometry, static_cast<unsigned>(steps));
+        bool complete = true;
+        for (int step = 0; step < steps; ++step) {
+            auto* position = static_cast<float*>(rtcSetNewGeometryBuffer(geometry, RTC_BUFFER_TYPE_VERTEX,
+                                                                         static_cast<unsigned>(step), RTC_FORMAT_FLOAT3,
+                                                                         3 * sizeof(float), mesh.vertices.size()));
+            complete = complete && position != nullptr;
+            for (std::size_t i = 0; complete && i < mesh.vertices.size(); ++i)
+                position = std::copy_n(positionAt(i, step).val, 3, position);
+        }
         auto* corner = static_cast<std::uint32_t*>(rtcSetNewGeometryBuffer(
             geometry, RTC_BUFFER_TYPE_INDEX, 0, RTC_FORMAT_UINT3, 3 * sizeof(std::uint32_t), mesh.triangles.size()));
-        if (position != nullptr && corner != nullptr) {
-            for (const auto& v : mesh.vertices)
-                position = std::copy_n(v.position.val, 3, position);
+        if (complete && corner != nullptr) {
             for (const auto& t : mesh.triangles)
                 corner = std::copy(t.begin(), t.end(), corner);
             rtcCommitGeometry(geometry);
-            rtcAttachGeometry(scene, geometry);
+            rtcAttachGeometryByID(scene, geometry, id);
         }
         rtcReleaseGeometry(geometry);
     }
 };
 
-Caster::Caster(const Mesh& mesh) : library_(std::make_unique<Library>(mesh)) {}
+Caster::Caster(const Mesh& still, const Sway& sway) : library_(std::make_unique<Library>(still, sway)) {}
 
 Caster::~Caster() = default;
 
@@ -87,8 +103,10 @@ void Caster::cast(const Rays& rays, Hit* hits) const {
     std::fill_n(seen.hit.geomID, Rays::most, RTC_INVALID_GEOMETRY_ID);
     rtcIntersect8(lanes.valid, library_->scene, &context, &seen);
     for (int i = 0; i < rays.count; ++i)
-        if (seen.hit.geomID[i] != RTC_INVALID_GEOMETRY_ID)
-            hits[i] = {seen.ray.tfar[i], seen.hit.u[i], seen.hit.v[i], seen.hit.primID[i]};
+        if (seen.hit.geomID[i] != RTC_INVALID_GEOMETRY_ID) {
+            const std::uint32_t before = seen.hit.geomID[i] == swaying ? library_->stillTriangles : 0;
+            hits[i] = {seen.ray.tfar[i], seen.hit.u[i], seen.hit.v[i], before + seen.hit.primID[i]};
+        }
 }
 
 unsigned Caster::hidden(const Rays& rays) const {

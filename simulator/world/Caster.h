@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/world/Mesh.h"
+#include "simulator/world/Sway.h"
 
 #include <limits>
 #include <memory>
@@ -11,7 +11,7 @@ namespace fieldcal::world {
 struct Rays {
     static constexpr int most = 8;
     int count = 0;
-    float phase = 0;  ///< of what sways, 0 … 1
+    float seconds = 0;  ///< time in a world that moves
     std::array<cv::Vec3f, most> origin, direction;
     std::array<float, most> length;  ///< metres, only looked at by `hidden`
 
@@ -23,13 +23,13 @@ struct Rays {
 struct Hit {
     float distance = std::numeric_limits<float>::infinity();  ///< metres; infinite when nothing was hit
     float u = 0, v = 0;                                       ///< weights of the triangle's second and third corner
-    std::uint32_t triangle = 0;
+    std::uint32_t triangle = 0;                               ///< of the still mesh, then of what sways
 };
 
 /// Finds where rays meet a mesh. Built once, then only read: any thread. Wraps the ray-casting library.
 class Caster {
 public:
-    explicit Caster(const Mesh& mesh);
+    Caster(const Mesh& still, const Sway& sway);
     ~Caster();
     Caster(const Caster&) = delete;
     Caster& operator=(const Caster&) = delete;

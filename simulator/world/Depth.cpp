@@ -44,7 +44,7 @@ void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& sh
     const int n = grid.samplesPerPixel;
     forEachRow(depth.rows, [&](int y) {
         Rays rays;
-        rays.phase = shot.phase;
+        rays.seconds = shot.seconds;
         std::array<int, Rays::most> owner{};
         const auto flush = [&] {
             const unsigned hidden = world.hidden(rays);

@@ -44,12 +44,26 @@ MaterialId drawLeaf(Builder& b) {
     return b.material<Leaf>(green.scaled(b.random.between(0.8F, 1.3F), b.random.between(0.85F, 1.1F)));
 }
 
-void plantTree(Builder& b, const cv::Vec3f& foot, float height, int leaves) {
+namespace {
+
+void plantInto(Mesh& mesh, Builder& b, const cv::Vec3f& foot, float height, int leaves) {
     const auto bark = b.material<Solid>(synthesis::materials::bark, *b.noise, Solid::Finish{0.2F, 0, 0.4F});
     const auto leaf = drawLeaf(b);
     // Fewer leaves are larger, so that far crowns are as dense as near ones.
     const float size = b.random.between(0.15F, 0.24F) * std::sqrt(9000.0F / static_cast<float>(leaves)) * height / 9;
-    addTree(b.mesh, {foot, height, height * b.random.between(0.24F, 0.36F), leaves, size}, {bark, leaf}, b.random);
+    addTree(mesh, {foot, height, height * b.random.between(0.24F, 0.36F), leaves, size}, {bark, leaf}, b.random);
+}
+
+}  // namespace
+
+void plantTree(Builder& b, const cv::Vec3f& foot, float height, int leaves) {
+    plantInto(b.mesh, b, foot, height, leaves);
+}
+
+void plantSwayingTree(Builder& b, const cv::Vec3f& foot, float height, int leaves) {
+    const std::size_t first = b.sway.mesh.vertices.size();
+    plantInto(b.sway.mesh, b, foot, height, leaves);
+    b.sway.plant(first, foot, height, height * b.random.between(0.02F, 0.04F));
 }
 
 }  // namespace fieldcal::world

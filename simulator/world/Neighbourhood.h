@@ -20,6 +20,8 @@ void buildFarHouses(Builder& builder, float eye, float distance, int count);
 /// Leaves of a kind of their own.
 MaterialId drawLeaf(Builder& builder);
 void plantTree(Builder& builder, const cv::Vec3f& foot, float height, int leaves);
+/// The same, swaying in the wind.
+void plantSwayingTree(Builder& builder, const cv::Vec3f& foot, float height, int leaves);
 
 /// A place on level ground around the viewer.
 inline cv::Vec3f onGround(float eye, float distance, float angle) {

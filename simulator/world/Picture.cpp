@@ -36,7 +36,7 @@ public:
           middle_(middleRays(grid)),
           world_camera_(shot.pose.camera_world.t()),
           centre_(shot.pose.centre),
-          phase_(shot.phase),
+          seconds_(shot.seconds),
           bands_(shot.infrared ? cv::Vec4f(0, 0, 0, 1) : cv::Vec4f(0.3F, 0.59F, 0.11F, 0)),
           spread_(spacing()),
           first_(middle_.total()) {}
@@ -73,7 +73,7 @@ private:
         std::array<Sample, Rays::most> samples;
         for (int x = 0; x < middle_.cols; x += Rays::most) {
             Rays rays;
-            rays.phase = phase_;
+            rays.seconds = seconds_;
             for (int i = x; i < std::min(x + Rays::most, middle_.cols); ++i)
                 rays.add(centre_, towards(middle_(y, i)));
             world_.trace(rays, spread_, samples.data());
@@ -108,7 +108,7 @@ private:
     /// The samples of the grid for the pixels that need them. The one in the middle counts as one of them.
     void lookCloser(int y) {
         Rays rays;
-        rays.phase = phase_;
+        rays.seconds = seconds_;
         std::array<int, Rays::most> owner{};
         const int n = grid_.samplesPerPixel, middle = n % 2 == 1 ? n * n / 2 : -1;
         const float share = 1.0F / static_cast<float>(middle < 0 ? n * n + 1 : n * n);
@@ -137,7 +137,7 @@ private:
     cv::Mat_<cv::Vec2f> middle_;
     cv::Matx33f world_camera_;
     cv::Vec3f centre_;
-    float phase_;
+    float seconds_;
     cv::Vec4f bands_;
     float spread_;
     std::vector<First> first_;

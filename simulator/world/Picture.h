@@ -19,7 +19,7 @@ Pose colourPose(const Pose& depth, const cv::Matx33d& rotation, const cv::Vec3d&
 /// When and whence a picture is taken, and by what kind of camera.
 struct Shot {
     Pose pose;
-    float phase = 0;         ///< of what sways, 0 … 1
+    float seconds = 0;       ///< time in a world that moves
     bool infrared = false;   ///< else colour: what it cannot see needs no care
     double lensSigma = 0.5;  ///< spread of the lens's Gaussian blur, pixels
 };

@@ -28,13 +28,15 @@ struct World::Shading {
     bool isSky() const { return std::isinf(hit.distance); }
 };
 
-World::World(Mesh mesh, Materials materials, const Daylight& day, std::unique_ptr<synthesis::Noise> noise)
+World::World(Mesh mesh, Materials materials, const Daylight& day, std::unique_ptr<synthesis::Noise> noise,
+             const Sway& sway)
     : mesh_(std::move(mesh)),
       materials_(std::move(materials)),
       daylight_(day),
       noise_(std::move(noise)),
       sky_(*noise_, day.cloudiness, day.ridgeHeight),
-      caster_(mesh_) {
+      caster_(mesh_, sway) {
+    append(mesh_, sway.mesh);
     daylight_.light.toSun = unit(daylight_.light.toSun);
 }
 
@@ -66,7 +68,7 @@ Place World::placeOf(const cv::Vec3f& origin, const cv::Vec3f& direction, const 
 
 unsigned World::sunlit(const Rays& rays, const Shading* shadings) const {
     Rays toSun;
-    toSun.phase = rays.phase;
+    toSun.seconds = rays.seconds;
     std::array<int, Rays::most> owner{};
     for (int i = 0; i < rays.count; ++i) {
         const Shading& s = shadings[i];
@@ -100,7 +102,7 @@ Spectrum World::shaded(const Shading& s, bool sunny) const {
 
 void World::addMirrored(const Rays& rays, const Shading* shadings, float spread, Sample* samples) const {
     Rays away;
-    away.phase = rays.phase;
+    away.seconds = rays.seconds;
     std::array<int, Rays::most> owner{};
     std::array<float, Rays::most> share{};
     for (int i = 0; i < rays.count; ++i) {
@@ -142,7 +144,7 @@ void World::traced(const Rays& rays, float spread, bool mirrors, Sample* samples
         samples[i] = {};
         samples[i].distance = s.hit.distance;
         if (s.isSky()) {
-            samples[i].radiance = sky_.radiance(rays.direction[i], spread);
+            samples[i].radiance = sky_.radiance(rays.direction[i], spread, daylight_.wind * rays.seconds);
             continue;
         }
         samples[i].material = mesh_.materials[s.hit.triangle];

@@ -27,13 +27,15 @@ struct Daylight {
     float cloudiness = 0.4F;   ///< 0 clear … 1
     float clarity = 2;         ///< how many times further one sees than through summer haze
     float ridgeHeight = 0.0F;  ///< painted ridges at infinity, radians; 0 for none
+    cv::Vec2f wind{0, 0};      ///< how far clouds move in a second, in heights of theirs above the ground
 };
 
 /// Surfaces under a sky. Built once, then only read: any thread, and the same ray always gives the same answer.
 class World {
 public:
     /// Takes a second for a million triangles. `noise` outlives the world and the materials that refer to it.
-    World(Mesh mesh, Materials materials, const Daylight& day, std::unique_ptr<synthesis::Noise> noise);
+    World(Mesh mesh, Materials materials, const Daylight& day, std::unique_ptr<synthesis::Noise> noise,
+          const Sway& sway = {});
     ~World();
     World(const World&) = delete;
     World& operator=(const World&) = delete;

@@ -15,7 +15,7 @@ void Builder::drawDaylight() {
 
 std::unique_ptr<Stage> Builder::finish() {
     auto stage = std::make_unique<Stage>();
-    stage->world = std::make_unique<World>(std::move(mesh), std::move(materials), daylight, std::move(noise));
+    stage->world = std::make_unique<World>(std::move(mesh), std::move(materials), daylight, std::move(noise), sway);
     return stage->world->isValid() ? std::move(stage) : nullptr;
 }
 
@@ -24,8 +24,9 @@ namespace {
 using Build = std::unique_ptr<Stage> (*)(std::uint64_t);
 const std::vector<std::pair<std::string, Build>>& builders() {
     static const std::vector<std::pair<std::string, Build>> all{
-        {"square", buildSquare}, {"street", buildStreet},         {"park", buildPark}, {"mountains", buildMountains},
-        {"wall", buildWall},     {"repetitive", buildRepetitive}, {"near", buildNear}, {"night", buildNight}};
+        {"square", buildSquare},       {"street", buildStreet}, {"park", buildPark},
+        {"mountains", buildMountains}, {"wall", buildWall},     {"repetitive", buildRepetitive},
+        {"near", buildNear},           {"moving", buildMoving}, {"night", buildNight}};
     return all;
 }
 

@@ -86,6 +86,19 @@ TEST(Worlds, EachIsBuiltAndTheSameSeedGivesTheSameBytes) {
     EXPECT_EQ(buildWorld("nowhere", 1), nullptr);
 }
 
+TEST(Worlds, FoliageSwaysByDecimetresAndComesBackWhileTheGroundRests) {
+    const auto stage = buildWorld("moving", 2);
+    const auto depthAt = [&](float seconds) {
+        const auto rays = synthesis::infraredRays(synthesis::drawRig(3, {}).infrared, 1);
+        return takePicture(*stage->world, rays, {{}, seconds, true, 0}).depth;
+    };
+    const cv::Mat_<float> start = depthAt(0), later = depthAt(1.1F), period = depthAt(Sway::periodSeconds);
+    EXPECT_LT(cv::countNonZero(cv::abs(start - period) > 0.01), 50);
+    EXPECT_GT(cv::countNonZero(cv::abs(start - later) > 0.01), 3000);
+    const cv::Rect ground(0, start.rows - 60, start.cols, 60);
+    EXPECT_LT(cv::countNonZero(cv::abs(start(ground) - later(ground)) > 0.01), ground.area() / 10);
+}
+
 TEST(Worlds, MountainsAreNeverNearerThanAHundredMetres) {
     for (std::uint64_t seed : {1U, 2U, 3U}) {
         const auto stage = buildWorld("mountains", seed);
