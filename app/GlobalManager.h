@@ -37,6 +37,7 @@ public:
     // For tests.
     Workflow& workflow() { return workflow_; }
     QQuickWindow* window() const { return window_; }
+    WorkflowBridge& bridge() { return bridge_; }
 
 signals:
     void signal_tellAppToRenderImages();

@@ -1,0 +1,154 @@
+#pragma once
+
+#include "app/GlobalManager.h"
+#include "simulator/synthesis/Synthesis.h"
+#include "tests/devices/FakeServiceControl.h"
+#include "tests/devices/LogCapture.h"
+
+#include <QElapsedTimer>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace fieldcal::testing {
+
+constexpr qint64 kPatienceMs = 120000;
+
+/// The application over the simulated module, with an interface that writes down what it is told.
+class ApplicationTest : public ::testing::Test {
+protected:
+    /// Rendered once, for all.
+    static QString recording() {
+        static const QTemporaryDir folder;
+        static const bool rendered = [] {
+            synthesis::SynthesisOptions options;
+            options.seed = 5;
+            options.stills = 5;
+            options.platform = true;
+            std::string why;
+            const bool done = synthesis::synthesize(folder.path().toStdString(), options, {}, &why);
+            EXPECT_TRUE(done) << why;
+            return done;
+        }();
+        return rendered ? folder.path() : QString();
+    }
+
+    ApplicationTest() {
+        set("QT_QPA_PLATFORM", "offscreen");
+        set("QT_QUICK_BACKEND", "software");
+        set("KXSIM_SESSION", recording());
+        set("KXSIM_SPEED", "0");
+        set("KXSIM_FLASH", folder.filePath("flash"));
+    }
+    ~ApplicationTest() override {
+        end();
+        for (const char* variable : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_FLASH", "KXSIM_FAULTS"})
+            qunsetenv(variable);
+    }
+    static void set(const char* variable, const QString& value) { qputenv(variable, value.toLocal8Bit()); }
+
+    /// Starts the program anew. `change` may alter what it finds outside itself.
+    void start(const QString& faults = {}, const std::function<void(ApplicationEnvironment&)>& change = nullptr) {
+        end();
+        set("KXSIM_FAULTS", faults);
+        boxes.clear();
+        services = std::make_unique<PXMServiceManager>(control);
+        ApplicationEnvironment environment = systemApplicationEnvironment();
+        environment.workflow = {[this] { return std::make_unique<Sensor>(sensorEnvironment()); }, dataFolder()};
+        environment.rootDocument = QUrl::fromLocalFile(FIELDCAL_APP_TESTS "/RecordingInterface.qml");
+        environment.updateManifest = QUrl();
+        environment.language = {QString("German"), QString("Germany")};
+        environment.showCritical = [this](const QString& title, const QString& text) {
+            boxes.push_back((title + ": " + text).toStdString());
+        };
+        environment.savedShownFor = std::chrono::milliseconds(300);
+        if (change) change(environment);
+        manager = std::make_unique<GlobalManager>(argc, argv, environment);
+    }
+    void end() {
+        manager.reset();
+        services.reset();
+    }
+
+    /// What the interface was told so far.
+    std::vector<std::string> calls() const {
+        std::vector<std::string> texts;
+        for (const QVariant& call : manager->window()->property("calls").toList())
+            texts.push_back(call.toString().toStdString());
+        return texts;
+    }
+    void forget() { manager->window()->setProperty("calls", QVariantList()); }
+    bool wasTold(const std::string& call) const {
+        const std::vector<std::string> all = calls();
+        return std::find(all.begin(), all.end(), call) != all.end();
+    }
+    template <typename Condition>
+    static bool waitUntil(Condition condition) {
+        QElapsedTimer timer;
+        timer.start();
+        while (!condition()) {
+            if (timer.elapsed() > kPatienceMs) return false;
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        }
+        return true;
+    }
+    /// Waits for it, and forgets what was told up to it.
+    bool waitFor(const std::string& call) {
+        if (!waitUntil([&] { return wasTold(call); })) return false;
+        forget();
+        return true;
+    }
+
+    // What the interface does when the user presses something.
+    void press(const char* signal) { QMetaObject::invokeMethod(manager->window(), signal); }
+    void goTo(State state) {
+        QMetaObject::invokeMethod(manager->window(), "stateChanged", Q_ARG(int, static_cast<int>(state)));
+    }
+    void touch(const char* signal, int x, int y) {
+        QMetaObject::invokeMethod(manager->window(), signal, Q_ARG(int, x), Q_ARG(int, y));
+    }
+    /// From the start page or later to where a found rotation is shown.
+    bool solve(const std::string& shown) {
+        goTo(State::StartingCalibration);
+        return waitFor(shown);
+    }
+    /// Runs the event loop until the program ends by itself, after `action`. Milliseconds that it took.
+    qint64 runUntilEnd(const std::function<void()>& action) {
+        QElapsedTimer timer;
+        QTimer::singleShot(0, [&] {
+            timer.start();
+            action();
+        });
+        QTimer watchdog;
+        QObject::connect(&watchdog, &QTimer::timeout, [] { FAIL() << "the program does not end"; });
+        QObject::connect(&watchdog, &QTimer::timeout, &QCoreApplication::quit);
+        watchdog.start(kPatienceMs);
+        GlobalManager::exec();
+        return timer.elapsed();
+    }
+
+    QString dataFolder() const { return folder.filePath("data"); }
+    SensorEnvironment sensorEnvironment() const {
+        SensorEnvironment environment = systemEnvironment();
+        environment.services = services.get();
+        environment.dataFolder = dataFolder();
+        return environment;
+    }
+
+    int argc = 1;
+    char program[16] = "application";
+    char* argv[2] = {program, nullptr};
+    QTemporaryDir folder;
+    FakeServiceControl control;
+    std::unique_ptr<PXMServiceManager> services;
+    std::vector<std::string> boxes;
+    std::unique_ptr<GlobalManager> manager;
+};
+
+}  // namespace fieldcal::testing

@@ -1,0 +1,179 @@
+#include "engine/Rotation.h"
+#include "session/RecordedSession.h"
+#include "tests/app/ApplicationRig.h"
+
+#include <QTest>
+
+#include <cmath>
+
+namespace fieldcal::testing {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+constexpr ColourCamera kFirst = ColourCamera::InModule;
+constexpr ColourCamera kSecond = ColourCamera::OutOfModule;
+constexpr const char* kSaved = "saveText|The calibration is stored in the camera.";
+
+Eigen::Vector3d anglesDeg(const Rotation& rotation) {
+    const Eigen::Map<const Eigen::Matrix<float, 3, 3, Eigen::RowMajor>> matrix(rotation.data());
+    return vq::anglesFromRotation(matrix.cast<double>()) * vq::kDegreesPerRadian;
+}
+
+class EndingTest : public ApplicationTest {
+protected:
+    CalibrationRecords& records() { return const_cast<CalibrationRecords&>(manager->workflow().records()); }
+
+    void openCamera() { ASSERT_TRUE(waitFor("state|1")); }
+    /// Through the tutorial to the first camera's refinement.
+    void refineFirst() {
+        openCamera();
+        press("switchToIMColorSensor");
+        ASSERT_TRUE(solve("state|9"));
+        QMetaObject::invokeMethod(manager->window(), "toggleTutorialAnimation", Q_ARG(bool, true));
+        goTo(State::RefiningCalibration);
+    }
+    void drag(int fromX, int toX, int toY) {
+        touch("touchDown", fromX, 10);
+        touch("touchMove", toX, toY);
+        touch("touchUp", toX, toY);
+    }
+    /// Leaves the program in the middle of a state, from a pass or two into it.
+    void driveTo(State state) {
+        if (state == State::FirstOpened) return;
+        openCamera();
+        if (state == State::RefiningTutorial || state == State::RefiningCalibration) {
+            press("switchToIMColorSensor");
+            ASSERT_TRUE(solve("state|9"));
+            QMetaObject::invokeMethod(manager->window(), "toggleTutorialAnimation", Q_ARG(bool, true));
+        }
+        if (state != State::RefiningTutorial && state != State::ShowingIntroduction) goTo(state);
+        QTest::qWait(30);
+    }
+    static std::vector<State> statesToLeave() {
+        return {State::FirstOpened,        State::ShowingIntroduction, State::DetectingLighting,
+                State::WaitingToCalibrate, State::StartingCalibration, State::RefiningTutorial,
+                State::RefiningCalibration};
+    }
+};
+
+TEST_F(EndingTest, TwoCamerasAreDraggedAcceptedAndStored) {
+    start();
+    refineFirst();
+    const Eigen::Vector3d found = anglesDeg(*records().estimated(kFirst));
+    const int width = 800;
+    drag(100, 100 + width / 4, 500);
+    press("switchToOOMColorSensor");
+    const Eigen::Vector3d accepted = anglesDeg(*records().accepted(kFirst));
+    EXPECT_NEAR(accepted[1] - found[1], 2.0, 1e-3) << "a quarter of the width";
+    EXPECT_NEAR(accepted[0], found[0], 1e-3);
+    EXPECT_NEAR(accepted[2], found[2], 1e-3);
+    EXPECT_TRUE(waitFor("camera|Second Color Camera"));
+
+    ASSERT_TRUE(solve("state|10")) << "the second camera goes without the tutorial";
+    const Eigen::Vector3d foundSecond = anglesDeg(*records().estimated(kSecond));
+    drag(400, 300, 0);
+    goTo(State::RefiningCalibration);
+    const qint64 milliseconds = runUntilEnd([this] {
+        press("quit");
+        EXPECT_EQ(calls().back(), kSaved);
+        press("quit");
+        press("userAskedToExit");
+        QTest::mouseClick(manager->window(), Qt::LeftButton);
+    });
+    EXPECT_GE(milliseconds, 300) << "the user can read it";
+    EXPECT_EQ(manager->window()->property("clicks"), 0) << "nothing can be pressed any more";
+    EXPECT_EQ(manager->exitCode(), 0);
+    EXPECT_THAT(boxes, IsEmpty());
+    EXPECT_EQ(control.startType, 2U);
+
+    start();
+    openCamera();
+    const Eigen::Vector3d stored = anglesDeg(records().toStore(kFirst));
+    const Eigen::Vector3d storedSecond = anglesDeg(records().toStore(kSecond));
+    EXPECT_LT((stored - accepted).cwiseAbs().maxCoeff(), 1e-3);
+    EXPECT_NEAR(storedSecond[1] - foundSecond[1], -1.0, 1e-3);
+}
+
+TEST_F(EndingTest, AFailedSaveEndsQuietlyAndIsSaidAtTheNextStart) {
+    start("commitCalibration:1:6");
+    refineFirst();
+    const LogCapture log;
+    EXPECT_LT(runUntilEnd([this] { press("quit"); }), 1000);
+    EXPECT_TRUE(LogCapture::has("Failed to store calibration information to flash."));
+    EXPECT_TRUE(LogCapture::has("slot_saveAndQuit - cleaning up resources"));
+    EXPECT_THAT(calls(), Not(Contains(kSaved)));
+    EXPECT_THAT(boxes, IsEmpty());
+    EXPECT_EQ(manager->exitCode(), 0);
+
+    start();
+    ASSERT_TRUE(waitUntil([&] { return wasTold("state|1"); }));
+    EXPECT_THAT(calls(), Contains("lastSaveFailed|The last calibration was not stored in the camera.\nPlease calibrate "
+                                  "again."));
+}
+
+TEST_F(EndingTest, EveryStateIsLeftWithinASecondAndWithoutAWrite) {
+    for (const bool closedBySystem : {false, true}) {
+        for (const State state : statesToLeave()) {
+            start();
+            driveTo(state);
+            EXPECT_LT(runUntilEnd([&] {
+                          if (closedBySystem) {
+                              manager->window()->close();
+                          } else {
+                              press("userAskedToExit");
+                          }
+                      }),
+                      1000)
+                << static_cast<int>(state);
+            EXPECT_EQ(manager->exitCode(), 0);
+            QElapsedTimer timer;
+            timer.start();
+            manager.reset();
+            EXPECT_LT(timer.elapsed(), 1000) << static_cast<int>(state);
+            EXPECT_EQ(control.startType, 2U) << "the camera is handed back";
+            EXPECT_THAT(boxes, IsEmpty());
+        }
+    }
+    start("openDevice:1:hang");
+    QTest::qWait(100);
+    EXPECT_LT(runUntilEnd([this] { press("userAskedToExit"); }), 1000);
+    EXPECT_FALSE(QDir(dataFolder() + "/backups").exists());
+}
+
+TEST_F(EndingTest, AnErrorOfTheLibraryShowsOneBoxAndEndsWithOneInEveryState) {
+    for (const State state : statesToLeave()) {
+        start();
+        driveTo(state);
+        const auto failTwice = [this] {
+            manager->bridge().deviceError("The camera is gone.");
+            manager->bridge().deviceError("Another one.");
+        };
+        EXPECT_LT(runUntilEnd(failTwice), 2000) << static_cast<int>(state);
+        EXPECT_THAT(boxes, ElementsAre("KXAPI ERROR: The camera is gone."));
+        EXPECT_EQ(manager->exitCode(), 1);
+        EXPECT_EQ(control.startType, 2U);
+    }
+    start("grab:40:7");
+    runUntilEnd([] {});
+    EXPECT_EQ(manager->exitCode(), 1);
+    EXPECT_THAT(boxes, ElementsAre(::testing::EndsWith("any web browsers before proceeding.")));
+}
+
+TEST_F(EndingTest, AServiceThatIsNotRestoredIsAnErrorOnEitherWayOut) {
+    for (const char* way : {"userAskedToExit", "quit"}) {
+        control = FakeServiceControl();
+        start();
+        openCamera();
+        control.fail("changeConfig", 2, 5);
+        runUntilEnd([&] { press(way); });
+        EXPECT_THAT(boxes, ElementsAre("KXAPI ERROR: 5: (ChangeServiceConfig) ==> text 5"));
+        EXPECT_EQ(manager->exitCode(), 1);
+    }
+}
+
+}  // namespace
+}  // namespace fieldcal::testing

@@ -1,0 +1,203 @@
+#include "render/ImageItem.h"
+#include "tests/app/ApplicationRig.h"
+
+#include <QTcpServer>
+
+#include <thread>
+
+namespace fieldcal::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsSupersetOf;
+
+constexpr const char* kDark =
+    "lighting|Sunlight Required|There is not enough sunlight.\nMove outside to a bright, sunlit area.";
+constexpr const char* kLit = "lighting|Sufficient Sunlight|It's bright enough here!\nPress continue.";
+
+class InterfaceBridgeTest : public ApplicationTest {
+protected:
+    /// One letter for each view that is shown, in the order of their names in the interface.
+    std::string shownViews() const {
+        std::string shown;
+        const std::pair<const char*, char> views[] = {{"introImageView", 'i'},
+                                                      {"calibColorView", 'c'},
+                                                      {"calibInfraredView", 'r'},
+                                                      {"refinementWalkthroughView", 'w'},
+                                                      {"refinementView", 'f'}};
+        for (const auto& [name, letter] : views) {
+            const auto* view = manager->window()->findChild<ImageItem*>(name);
+            if (view->paintEnabled() != 0 && view->drawFlag()) shown += letter;
+        }
+        return shown;
+    }
+};
+
+TEST_F(InterfaceBridgeTest, EachStateOfTheUsersShowsItsViewsAndIsLogged) {
+    start("openDevice:1:5");
+    ASSERT_TRUE(waitFor("missingDevice"));
+    const LogCapture log;
+    const std::pair<State, const char*> table[] = {
+        {State::ShowingIntroduction, "i"},  {State::DetectingLighting, "cr"},  {State::RefiningCalibration, "f"},
+        {State::AskToSaveCalibration, "f"}, {State::ResetCalibration, "cr"},   {State::ProcessingFrame, "cr"},
+        {State::ShowingIntroduction, "i"},  {State::WaitingToCalibrate, "cr"}, {State::StartingCalibration, "cr"},
+    };
+    for (const auto& [state, views] : table) {
+        goTo(state);
+        EXPECT_EQ(shownViews(), views) << static_cast<int>(state);
+        EXPECT_EQ(manager->workflow().state(), state);
+    }
+    EXPECT_TRUE(LogCapture::has("changing to state 10 from state 2"));
+    EXPECT_THAT(calls(), ::testing::Contains(kDark)) << "before any measurement";
+    EXPECT_THAT(calls(), ::testing::Contains("startText|"));
+    EXPECT_THAT(calls(), ::testing::Not(::testing::Contains(::testing::StartsWith("state|")))) << "no echo";
+
+    emit manager->signal_modifyUiToState(State::RefiningTutorial);
+    EXPECT_EQ(shownViews(), "w");
+    emit manager->signal_modifyUiToState(State::RefiningCalibration);
+    EXPECT_EQ(shownViews(), "f");
+    press("switchToOOMColorSensor");
+    EXPECT_EQ(shownViews(), "cr") << "the second camera has a picture";
+}
+
+TEST_F(InterfaceBridgeTest, LightAndCaptureAreToldAsTheyAreMeasured) {
+    start("openDevice:1:5");
+    ASSERT_TRUE(waitFor("missingDevice"));
+    LightGate gate;
+    const std::pair<int, std::vector<std::string>> table[] = {
+        {8, {"light|0.000", "lightContinue|false|Continue", kDark}},   {130, {"light|0.938"}},
+        {131, {"light|1.000", "lightContinue|true|Continue", kLit}},   {111, {}},
+        {110, {"light|0.923", "lightContinue|false|Continue", kDark}},
+    };
+    for (const auto& [brightness, told] : table) {
+        manager->bridge().lightMeasured(gate.detect(static_cast<std::uint16_t>(brightness)));
+        EXPECT_EQ(calls(), told) << brightness;
+        forget();
+    }
+    manager->bridge().returnToWellLitArea(true);
+    goTo(State::ResetCalibration);
+    EXPECT_THAT(calls(), IsSupersetOf({"popup|true", "popup|false"})) << "leaving the capture hides it";
+}
+
+TEST_F(InterfaceBridgeTest, WhatTheLoopTellsArrivesInItsOrder) {
+    start("openDevice:1:5");
+    ASSERT_TRUE(waitFor("missingDevice"));
+    WorkflowBridge& bridge = manager->bridge();
+    std::thread([&] {
+        bridge.pairCaptured();
+        bridge.calibrationProgress(0.9);
+        bridge.startText("again");
+        bridge.movementText("");
+        bridge.offerHowToMove();
+        bridge.stateChanged(State::WaitingToCalibrate);
+    }).join();
+    EXPECT_THAT(calls(), ElementsAre()) << "nobody waits for the interface";
+    ASSERT_TRUE(waitUntil([&] { return wasTold("state|5"); }));
+    EXPECT_THAT(calls(), ElementsAre("flash", "progress|0.9", "startText|again", "movement|", "howToMove",
+                                     "popup|false", "state|5"));
+}
+
+TEST_F(InterfaceBridgeTest, EachCameraSwitchNamesItsCamera) {
+    const std::string align =
+        "saveText|Align the colorful depth image with the color image.\nPress Continue to accept "
+        "the calibration of the ";
+    const std::string restart = " color camera. Or press Restart to start over.";
+    start();
+    ASSERT_TRUE(waitFor("state|1"));
+    press("switchToIMColorSensor");
+    EXPECT_THAT(calls(), ElementsAre("camera|First Color Camera", "progress|0.0", align + "first" + restart));
+    forget();
+    press("switchToOOMColorSensor");
+    EXPECT_THAT(calls(), ElementsAre("camera|Second Color Camera", "progress|0.0", align + "second" + restart));
+    EXPECT_EQ(manager->workflow().camera(), ColourCamera::OutOfModule);
+
+    start("platformCamera:1:0");
+    ASSERT_TRUE(waitUntil([&] { return wasTold("state|1"); }));
+    EXPECT_TRUE(wasTold("singleCamera"));
+    forget();
+    press("switchToIMColorSensor");
+    EXPECT_THAT(calls(), ElementsAre("camera|Color Camera", "progress|0.0",
+                                     "saveText|Align the colorful depth image with the color image.\nPress Continue to "
+                                     "accept the calibration of the color camera. Or press Restart to start over."));
+}
+
+TEST_F(InterfaceBridgeTest, WhatIsMissingIsShownAndLeftAsUsual) {
+    for (const auto& [faults, told] : {std::pair{"openDevice:1:5", "missingDevice"},
+                                       {"thirdCamera:1:0", "missingDevice"},
+                                       {"openCamera:1:0", "missingPlatformCamera"},
+                                       {"setFocus:1:1", "platformCameraIssue"}}) {
+        start(faults);
+        ASSERT_TRUE(waitUntil([&, text = told] { return wasTold(text); })) << faults;
+        EXPECT_THAT(boxes, ElementsAre()) << faults;
+        EXPECT_EQ(manager->workflow().state(), State::FirstOpened);
+        EXPECT_LT(runUntilEnd([this] { press("userAskedToExit"); }), 1000);
+        EXPECT_EQ(manager->exitCode(), 0);
+    }
+}
+
+TEST_F(InterfaceBridgeTest, AnArabicInterfaceReadsFromTheRight) {
+    start("openDevice:1:5", [](ApplicationEnvironment& environment) {
+        environment.language = {QString("Arabic"), QString("Egypt")};
+    });
+    EXPECT_EQ(calls().front(), "leftToRight|false");
+    EXPECT_TRUE(QGuiApplication::isRightToLeft());
+}
+
+TEST_F(InterfaceBridgeTest, AServerThatDoesNotAnswerIsGivenUpQuietly) {
+    start("openDevice:1:5");
+    const LogCapture log;
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    UpdateCheck check(QUrl(QString("http://127.0.0.1:%1/Version.json").arg(server.serverPort())));
+    for (const bool release : {true, false}) {
+        check.start(manager.get());
+        ASSERT_TRUE(waitUntil([&] { return server.hasPendingConnections(); }));
+        server.nextPendingConnection();
+        if (release) {
+            check.release();
+        } else {
+            check.timedOut();
+        }
+        QCoreApplication::processEvents();
+        EXPECT_EQ(LogCapture::has("No version manifest: Operation canceled"), !release);
+    }
+}
+
+/// The product's own interface: what the application calls is there.
+TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
+    const LogCapture log;
+    start("openDevice:1:5", [](ApplicationEnvironment& environment) {
+        environment.rootDocument = ApplicationEnvironment().rootDocument;
+    });
+    QmlFunctions functions;
+    functions.setRoot(manager->window());
+    functions.setLeftToRightLanguage(false);
+    for (int state = 0; state <= 11; ++state)
+        functions.modifyUiToStateInQML(static_cast<State>(state));
+    functions.showMovementText("a");
+    functions.showCalibrationStartupText("a");
+    functions.showSaveCalibrationText("a");
+    functions.setLightingDialogText("a", "b");
+    functions.setLightingProgress(0.5);
+    functions.toggleLightingContinueButtonVisibility(true, "a");
+    functions.setCalibrationProgress(0.5);
+    functions.setColorCameraDescriptionText("a");
+    functions.showReturnToAWellLitAreaPopup();
+    functions.hideReturnToAWellLitAreaPopup();
+    functions.flashCalibrationImageViews();
+    functions.showHowToMoveTutorialButton();
+    functions.forceSingleCameraCalibration();
+    functions.displayMissingQ550Device();
+    functions.displayMissingPlatformCamera();
+    functions.displayPlatformCameraIssue();
+    functions.showLastSaveFailed("a");
+    const auto isOfTheInterface = [](const std::string& line) {
+        return line.find("interface has no") != std::string::npos || line.find("No such") != std::string::npos ||
+               line.find("main.qml") != std::string::npos;
+    };
+    EXPECT_EQ(std::count_if(LogCapture::lines().begin(), LogCapture::lines().end(), isOfTheInterface), 0)
+        << ::testing::PrintToString(LogCapture::lines());
+}
+
+}  // namespace
+}  // namespace fieldcal::testing

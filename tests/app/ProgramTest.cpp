@@ -1,0 +1,70 @@
+#include "app/LogFile.h"
+#include "app/SingleInstance.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace fieldcal::testing {
+namespace {
+
+TEST(SingleInstanceTest, ASecondCopyEndsAtOnceSilentlyWithOne) {
+    QTemporaryDir session;
+    qputenv("XDG_RUNTIME_DIR", session.path().toLocal8Bit());
+    auto first = std::make_unique<SingleInstance>();
+    ASSERT_TRUE(first->isFirst());
+    EXPECT_FALSE(SingleInstance().isFirst());
+
+    QElapsedTimer timer;
+    timer.start();
+    QProcess second;
+    second.start(FIELDCAL_PROGRAM, QStringList());
+    ASSERT_TRUE(second.waitForFinished(10000));
+    EXPECT_LT(timer.elapsed(), 1000);
+    EXPECT_EQ(second.exitCode(), 1);
+    EXPECT_EQ(second.exitStatus(), QProcess::NormalExit);
+    EXPECT_TRUE((second.readAllStandardOutput() + second.readAllStandardError()).isEmpty());
+
+    first.reset();
+    EXPECT_TRUE(SingleInstance().isFirst());
+    qunsetenv("XDG_RUNTIME_DIR");
+}
+
+TEST(LogFileTest, LinesAreKeptWithTimeAndLevelAndTheOldestAreDropped) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath("data/field-calibrator.log");
+    const auto contents = [&](const QString& suffix) {
+        QFile file(path + suffix);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const QtMessageHandler outer = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    {
+        const LogFile log(folder.filePath("data"));
+        qInfo("a line with \xc3\xa4");
+        qCritical("trouble");
+    }
+    EXPECT_TRUE(contents("").contains("Z info a line with \xc3\xa4\n"));
+    EXPECT_TRUE(contents("").contains("Z critical trouble\n"));
+    {
+        const LogFile log(folder.filePath("data"));
+        const QByteArray longLine(64 * 1024, 'x');
+        for (int i = 0; i < 5 * 17; ++i)
+            qInfo("%s", longLine.constData());
+        qInfo("the last");
+    }
+    EXPECT_TRUE(contents("").endsWith("the last\n"));
+    EXPECT_FALSE(contents(".3").isEmpty());
+    EXPECT_TRUE(contents(".4").isEmpty());
+    for (const char* suffix : {"", ".1", ".2", ".3"}) {
+        EXPECT_LT(contents(suffix).size(), LogFile::kFullBytes + 70000) << suffix;
+        EXPECT_FALSE(contents(suffix).contains("trouble")) << suffix;
+    }
+    qInstallMessageHandler(outer);
+}
+
+}  // namespace
+}  // namespace fieldcal::testing

@@ -1,0 +1,64 @@
+import QtQuick 2.15
+import QtQuick.Window 2.15
+import ImageRenderTypes 1.0
+
+// An interface without pages: writes down what the application tells it.
+Window {
+    id: root
+    width: 800
+    height: 600
+    visible: true
+
+    property var calls: []
+    property var latest: ({})
+    property int clicks: 0
+
+    signal toggleTutorialAnimation(bool on)
+    signal switchToOOMColorSensor()
+    signal switchToIMColorSensor()
+    signal userAskedToExit()
+    signal quit()
+    signal touchDown(int x, int y)
+    signal touchMove(int x, int y)
+    signal touchUp(int x, int y)
+    signal stateChanged(int state)
+    signal startDownloadingUpdate()
+    signal abortDownloadingUpdate()
+
+    function add(name, values) { calls.push([name].concat(values).join("|")) }
+    // What is told in every pass counts only when it changes.
+    function note(name, values) {
+        if (latest[name] !== String(values)) add(name, values)
+        latest[name] = String(values)
+    }
+
+    function setLeftToRightLanguage(on) { add("leftToRight", [on]) }
+    function modifyUiToStateInQML(state) { add("state", [state]) }
+    function showMovementText(text) { note("movement", [text]) }
+    function showCalibrationStartupText(text) { add("startText", [text]) }
+    function showSaveCalibrationText(text) { add("saveText", [text]) }
+    function setLightingDialogText(title, text) { note("lighting", [title, text]) }
+    function setLightingProgress(value) { note("light", [value.toFixed(3)]) }
+    function toggleLightingContinueButtonVisibility(on, label) { note("lightContinue", [on, label]) }
+    function setCalibrationProgress(value) { add("progress", [value.toFixed(1)]) }
+    function setColorCameraDescriptionText(text) { add("camera", [text]) }
+    function showReturnToAWellLitAreaPopup() { note("popup", [true]) }
+    function hideReturnToAWellLitAreaPopup() { note("popup", [false]) }
+    function flashCalibrationImageViews() { add("flash", []) }
+    function showHowToMoveTutorialButton() { add("howToMove", []) }
+    function forceSingleCameraCalibration() { add("singleCamera", []) }
+    function displayMissingQ550Device() { add("missingDevice", []) }
+    function displayMissingPlatformCamera() { add("missingPlatformCamera", []) }
+    function displayPlatformCameraIssue() { add("platformCameraIssue", []) }
+    function showLastSaveFailed(text) { add("lastSaveFailed", [text]) }
+
+    Item {
+        width: root.width; height: root.height
+        ColorImageRendererItem { objectName: "introImageView" }
+        ColorImageRendererItem { objectName: "calibColorView" }
+        InfraredImageRendererItem { objectName: "calibInfraredView" }
+        DepthColorOverlayRenderer { objectName: "refinementWalkthroughView" }
+        DepthColorOverlayRenderer { objectName: "refinementView" }
+        MouseArea { anchors.fill: parent; onPressed: ++root.clicks }
+    }
+}
