@@ -1,7 +1,6 @@
 #include "benchmarks/BenchmarkData.h"
 
 #include "diagnostics/Assertions.h"
-#include "session/RecordedSession.h"
 
 #include <Eigen/Geometry>
 #include <opencv2/imgproc.hpp>
@@ -41,9 +40,9 @@ void scaleToInfrared(const session::SessionDescription& session, vq::CameraPair*
                               static_cast<float>(sy * session.third.height / colour.height)};
 }
 
-vq::ImagePairRecord scaledColour(session::FramePictures& pictures, const CameraModel& model) {
+vq::ImagePairRecord scaledColour(const session::FramePictures& pictures, const CameraModel& model) {
     const cv::Mat raw(static_cast<int>(pictures.third.height()), static_cast<int>(pictures.third.width()), CV_8UC4,
-                      pictures.third.bytes());
+                      const_cast<std::uint8_t*>(pictures.third.bytes()));
     cv::Mat scaled;
     cv::resize(raw, scaled, {model.width, model.height});
     cv::cvtColor(scaled, scaled, cv::COLOR_BGRA2RGBA);
@@ -54,12 +53,8 @@ vq::ImagePairRecord scaledColour(session::FramePictures& pictures, const CameraM
 
 }  // namespace
 
-BenchmarkData loadRecording(const std::string& folder) {
-    session::SessionDescription session;
-    std::string why;
-    if (!session::readDescription(folder, &session, &why)) fatalFailure(why.c_str(), 1);
+BenchmarkData camerasOf(const session::SessionDescription& session) {
     BenchmarkData data;
-    data.folder = folder;
     data.cameras.infrared = modelOf(session.infrared);
     scaleToInfrared(session, &data.cameras);
     data.factory = matrixOf(session.third.rotation);
@@ -70,13 +65,26 @@ BenchmarkData loadRecording(const std::string& folder) {
     for (std::size_t i = 0; i < 9; ++i) {
         data.parameters.depthToInModule.rotation[i] = static_cast<float>(session.third.rotation[i]);
     }
+    return data;
+}
+
+void addPair(const session::FramePictures& pictures, BenchmarkData* data) {
+    vq::ImagePairRecord infrared;
+    infrared.assign(pictures.infrared.width(), pictures.infrared.height(), pictures.infrared.bytes(), 2);
+    data->infrared.push_back(std::move(infrared));
+    data->colour.push_back(scaledColour(pictures, data->cameras.colour));
+}
+
+BenchmarkData loadRecording(const std::string& folder) {
+    session::SessionDescription session;
+    std::string why;
+    if (!session::readDescription(folder, &session, &why)) fatalFailure(why.c_str(), 1);
+    BenchmarkData data = camerasOf(session);
+    data.folder = folder;
     for (std::size_t i = 0; i < session.frames.size(); ++i) {
         session::FramePictures pictures;
         if (!session::readPictures(folder, session, i, &pictures, &why)) fatalFailure(why.c_str(), 1);
-        vq::ImagePairRecord infrared;
-        infrared.assign(pictures.infrared.width(), pictures.infrared.height(), pictures.infrared.bytes(), 2);
-        data.infrared.push_back(std::move(infrared));
-        data.colour.push_back(scaledColour(pictures, data.cameras.colour));
+        addPair(pictures, &data);
     }
     return data;
 }

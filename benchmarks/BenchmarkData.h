@@ -3,6 +3,7 @@
 #include "camera/CameraParameters.h"
 #include "engine/CameraPair.h"
 #include "engine/ImagePairRecord.h"
+#include "session/RecordedSession.h"
 
 #include <Eigen/Core>
 #include <opencv2/core.hpp>
@@ -22,6 +23,10 @@ struct BenchmarkData {
     std::vector<vq::ImagePairRecord> infrared;
     std::vector<vq::ImagePairRecord> colour;
 };
+
+/// The cameras of a session, without pictures; and one more pair of pictures of its third camera.
+BenchmarkData camerasOf(const session::SessionDescription& session);
+void addPair(const session::FramePictures& pictures, BenchmarkData* data);
 
 /// Ends the program with a message when the recording cannot be read.
 BenchmarkData loadRecording(const std::string& folder);
