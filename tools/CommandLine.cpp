@@ -151,6 +151,8 @@ std::optional<SynthesizeOptions> parseSynthesize(const QStringList& all, QString
             options.stills = static_cast<int>(arguments.number(1, 999));
         } else if (arguments.is("--platform")) {
             options.platform = true;
+        } else if (arguments.is("--no-baselines")) {
+            options.baselines = false;
         } else {
             arguments.takeFolder(&options.folder);
         }
@@ -164,6 +166,7 @@ QString usageText() {
     return "usage: fieldcal-session calibrate DIR [--camera third|platform] [--seed N] [--json FILE|-] [--write]\n"
            "                                  [--state FILE] [--verbose]\n"
            "       fieldcal-session synthesize DIR [--world NAME] [--seed N] [--stills N] [--platform]\n"
+           "                                  [--no-baselines]\n"
            "       fieldcal-session record DIR --frames N       from the connected module\n"
            "       fieldcal-session info [DIR]                  of a recording, or of the connected module\n"
            "       fieldcal-session backup [FILE]               keeps the connected module's parameter block\n"

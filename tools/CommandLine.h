@@ -49,6 +49,7 @@ struct SynthesizeOptions {
     unsigned seed = 1;
     int stills = 8;
     bool platform = false;
+    bool baselines = true;  ///< between the cameras
 };
 
 /// Arguments after the verb. None, and `why`, when they are wrong.

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "simulator/handheld/Hand.h"
-#include "simulator/handheld/TurnedView.h"
-#include "simulator/synthesis/StillRenderer.h"
+#include "simulator/handheld/Studio.h"
 
+#include <chrono>
 #include <condition_variable>
 #include <map>
 #include <memory>
@@ -12,13 +11,6 @@
 #include <thread>
 
 namespace fieldcal::handheld {
-
-/// What is seen where the hand rests: once in a world that stands still, at several moments in one that moves.
-struct RestingView {
-    Rest rest;
-    std::vector<SeenView> moments;
-    synthesis::StillSettings settings;  ///< how the exposure comes out in full light
-};
 
 /// Builds a world and renders the views of a hand ahead of time, on a thread of its own. The other members may be
 /// called from one thread. Destruction stops the rendering.

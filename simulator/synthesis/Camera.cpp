@@ -1,7 +1,5 @@
 #include "simulator/synthesis/Camera.h"
 
-#include <opencv2/imgproc.hpp>
-
 #include <functional>
 
 namespace fieldcal::synthesis {
@@ -87,24 +85,6 @@ RayGrid platformRays(const session::PlatformCamera& platform, const session::Int
         const cv::Point2d r = rectifiedFromRaw(platform, p);
         return cv::Point2d((r.x - principal.x) / k.fx, (r.y - principal.y) / k.fy);
     });
-}
-
-cv::Mat_<cv::Vec4f> takePicture(Panorama& panorama, const RayGrid& grid, const cv::Matx33d& camera_world,
-                                double lensSigma) {
-    const cv::Matx33f world_camera = camera_world.t();
-    const int n = grid.samplesPerPixel;
-    const float share = 1.0F / static_cast<float>(n * n);
-    cv::Mat_<cv::Vec4f> picture(grid.rays.rows / n, grid.rays.cols / n, cv::Vec4f(0, 0, 0, 0));
-    for (int y = 0; y < picture.rows * n; ++y) {
-        const cv::Vec2f* ray = grid.rays[y];
-        cv::Vec4f* row = picture[y / n];
-        for (int x = 0; x < picture.cols * n; ++x) {
-            const Spectrum s = panorama.sample(world_camera * cv::Vec3f(ray[x][0], ray[x][1], 1));
-            row[x / n] += cv::Vec4f(s.red, s.green, s.blue, s.infrared) * share;
-        }
-    }
-    if (lensSigma > 0) cv::GaussianBlur(picture, picture, cv::Size(), lensSigma, lensSigma, cv::BORDER_REPLICATE);
-    return picture;
 }
 
 }  // namespace fieldcal::synthesis

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "session/RecordedSession.h"
-#include "simulator/synthesis/Panorama.h"
 
 #include <opencv2/core.hpp>
 
@@ -34,10 +33,5 @@ RayGrid platformRays(const session::PlatformCamera& platform, const session::Int
 cv::Point2d rawFromRectified(const session::PlatformCamera& platform, cv::Point2d rectified);
 /// Its inverse.
 cv::Point2d rectifiedFromRaw(const session::PlatformCamera& platform, cv::Point2d raw);
-
-/// Mean radiance over every pixel, blurred by a lens of Gaussian spread `lensSigma` pixels.
-/// `camera_world` takes world directions into the frame of the rays. Channels: red, green, blue, infrared.
-cv::Mat_<cv::Vec4f> takePicture(Panorama& panorama, const RayGrid& grid, const cv::Matx33d& camera_world,
-                                double lensSigma);
 
 }  // namespace fieldcal::synthesis

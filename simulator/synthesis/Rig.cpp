@@ -87,6 +87,9 @@ session::SessionDescription drawRig(std::uint64_t seed, const RigWishes& wishes)
     rig.third.translation = drawTranslation(random, 25);
     rig.truthThird = rowMajor(rotationFromAngles(drawTrueAngles(random, factory, wishes.thirdDriftDeg)));
     if (wishes.platform) addPlatform(seed, wishes, rig);
+    if (wishes.baselines) return rig;
+    rig.third.translation = {};
+    if (rig.platform) rig.platform->translation = {};
     return rig;
 }
 

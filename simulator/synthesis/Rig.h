@@ -11,6 +11,7 @@ namespace fieldcal::synthesis {
 struct RigWishes {
     bool platform = false;
     std::optional<std::array<double, 3>> thirdDriftDeg, platformDriftDeg;
+    bool baselines = true;  ///< false: all cameras stand at one place, so that there is no parallax
 };
 
 /// The cameras of a session with their factory records and their true rotations, drawn from the seed. What belongs

@@ -1,5 +1,7 @@
 #include "simulator/world/Sensors.h"
 
+#include "session/Nv12.h"
+
 namespace fieldcal::world {
 
 using synthesis::Random;
@@ -18,7 +20,11 @@ std::vector<std::uint8_t> platformFrame(const View& view, const synthesis::Still
                                         std::uint64_t noiseSeed) {
     if (view.platform.empty()) return {};
     Random random(noiseSeed, "platform noise");
-    return synthesis::nv12Of(exposeColour(view.platform, settings.colour, settings.darkness, random));
+    const ImageFrame32 bgra = exposeColour(view.platform, settings.colour, settings.darkness, random);
+    const int width = static_cast<int>(bgra.width()), height = static_cast<int>(bgra.height());
+    std::vector<std::uint8_t> nv12(static_cast<std::size_t>(width) * height * 3 / 2);
+    session::nv12FromBgra(bgra.bytes(), width, height, nv12.data());
+    return nv12;
 }
 
 ImageFrame16 depthFrame(const View& view, const StereoModel& model, std::uint64_t noiseSeed) {

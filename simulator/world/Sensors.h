@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/synthesis/StillRenderer.h"
+#include "simulator/synthesis/StillSettings.h"
 #include "simulator/world/Depth.h"
 
 /// What the sensors of a rig make of a view. Equal arguments, equal bytes.

@@ -60,7 +60,8 @@ protected:
 
 private:
     static void clearEnvironment() {
-        for (const char* name : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_PLATFORM", "KXSIM_FAULTS", "KXSIM_FLASH"})
+        for (const char* name : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_PLATFORM", "KXSIM_FAULTS", "KXSIM_FLASH",
+                                 "KXSIM_WORLD", "KXSIM_SEED", "KXSIM_DRIFT", "KXSIM_PLATFORM_DRIFT"})
             qunsetenv(name);
     }
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/RecordedSession.h"
+#include "tests/tools/RenderedRecording.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -37,20 +38,15 @@ inline Result run(const QStringList& arguments, const std::map<QString, QString>
             process.readAllStandardError().replace("\r\n", "\n")};
 }
 
-/// One recording for all tests, made on first use.
+/// One recording for all tests.
 class SessionToolTest : public ::testing::Test {
 protected:
-    static void SetUpTestSuite() {
-        if (QDir(recording()).exists()) return;
-        const Result made = run({"synthesize", recording(), "--seed", "5", "--stills", "5", "--platform"});
-        ASSERT_EQ(made.status, 0) << made.error.constData();
-    }
     /// A path in a folder that goes when the program ends.
     static QString path(const QString& name) {
         static const QTemporaryDir folder;
         return folder.filePath(name);
     }
-    static QString recording() { return path("recording"); }
+    static QString recording() { return mountainRecording(); }
 
     /// A copy of the recording whose description has been changed.
     template <typename Change>

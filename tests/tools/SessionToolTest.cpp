@@ -43,9 +43,7 @@ TEST_F(SessionToolTest, PlaysToTheEndWithoutAnAnswerWhenThereIsNone) {
     EXPECT_TRUE(wrong.json()["errorDeg"].isNull());
     EXPECT_EQ(wrong.json()["rotation"], wrong.json()["factoryRotation"]);
 
-    const QString dark = path("dark");
-    ASSERT_EQ(run({"synthesize", dark, "--world", "night", "--stills", "2"}).status, 0);
-    const Result night = run({"calibrate", dark, "--json", "-"});
+    const Result night = run({"calibrate", nightRecording(), "--json", "-"});
     EXPECT_EQ(night.status, 3);
     EXPECT_EQ(night.json()["pairs"].toInt(-1), 0) << "a dark frame must not be taken";
     EXPECT_EQ(night.json()["framesUsed"].toInt(), 52);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "simulator/synthesis/Synthesis.h"
 #include "tests/devices/FakeServiceControl.h"
+#include "tests/tools/RenderedRecording.h"
 #include "workflow/ProcessingThread.h"
 
 #include <QFile>
@@ -80,22 +80,11 @@ private:
     }
 };
 
-/// A workflow on its thread, over the simulated module with a flash file. The recording is rendered once.
+/// A workflow on its thread, over the simulated module with a flash file.
 class WorkflowTest : public ::testing::Test {
 protected:
-    static void SetUpTestSuite() {
-        recording_ = new QTemporaryDir;
-        synthesis::SynthesisOptions options;
-        options.seed = 5;
-        options.stills = 5;
-        options.platform = true;
-        std::string why;
-        ASSERT_TRUE(synthesis::synthesize(recording_->path().toStdString(), options, {}, &why)) << why;
-    }
-    static void TearDownTestSuite() { delete recording_; }
-
     WorkflowTest() {
-        set("KXSIM_SESSION", recording_->path());
+        set("KXSIM_SESSION", mountainRecording());
         set("KXSIM_SPEED", "0");
         set("KXSIM_FLASH", folder.filePath("flash"));
     }
@@ -146,7 +135,6 @@ protected:
         return file.readAll();
     }
 
-    inline static QTemporaryDir* recording_ = nullptr;
     QTemporaryDir folder;
     FakeServiceControl control;
     std::unique_ptr<PXMServiceManager> services;

@@ -33,7 +33,7 @@ double angleAboutYDeg(const Rotation& rotation) {
 TEST_F(WorkflowTest, TwoCamerasFromTheFirstScreenToTheFlash) {
     session::SessionDescription truth;
     std::string why;
-    ASSERT_TRUE(session::readDescription(recording_->path().toStdString(), &truth, &why));
+    ASSERT_TRUE(session::readDescription(mountainRecording().toStdString(), &truth, &why));
 
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));

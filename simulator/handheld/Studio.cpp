@@ -1,0 +1,42 @@
+#include "simulator/handheld/Studio.h"
+
+namespace fieldcal::handheld {
+
+namespace {
+
+/// In a world that moves a resting view is seen at so many moments, so far apart.
+constexpr int movingMoments = 3;
+constexpr double momentSeconds = 0.12, restSeconds = 3;
+
+/// Exposure control never finds quite the same level.
+synthesis::StillSettings drawSettings(std::uint64_t seed, int number, double darkness) {
+    synthesis::Random random(seed + static_cast<std::uint64_t>(number), "exposure");
+    synthesis::StillSettings settings;
+    settings.infrared.meanLevel = random.uniform(340, 450);
+    settings.colour.meanLevel = random.uniform(0.17, 0.30);
+    settings.darkness = darkness;
+    return settings;
+}
+
+}  // namespace
+
+Studio::Studio(const std::string& world, std::uint64_t seed, const session::SessionDescription& rig)
+    : seed_(seed),
+      stage_(world::buildWorld(world, seed)),
+      cameras_(rig),
+      hand_(seed, stage_->lowestPitchDeg, stage_->highestPitchDeg) {}
+
+std::shared_ptr<const RestingView> Studio::make(int number, bool withPlatform) {
+    auto view = std::make_shared<RestingView>();
+    view->rest = hand_.rest(number);
+    view->settings = drawSettings(seed_, number, stage_->darkness);
+    const int moments = stage_->moves ? movingMoments : 1;
+    for (int i = 0; i < moments; ++i) {
+        const double seconds = number * restSeconds + i * momentSeconds;
+        const world::Moment infrared{view->rest.pose, seconds}, colour{view->rest.pose, seconds + colourLagSeconds};
+        view->moments.push_back({view->rest.pose, cameras_.see(*stage_->world, infrared, colour, withPlatform)});
+    }
+    return view;
+}
+
+}  // namespace fieldcal::handheld

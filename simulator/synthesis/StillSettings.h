@@ -1,0 +1,17 @@
+#pragma once
+
+#include "simulator/synthesis/Exposure.h"
+
+namespace fieldcal::synthesis {
+
+/// Spread of the lenses' blur, pixels.
+inline constexpr double infraredLens = 0.55, thirdLens = 0.5, platformLens = 0.8;
+
+/// How the exposure of one still comes out.
+struct StillSettings {
+    InfraredSensor infrared;
+    ColourSensor colour;
+    double darkness = 1;
+};
+
+}  // namespace fieldcal::synthesis

@@ -1,0 +1,153 @@
+#include "simulator/handheld/Footage.h"
+#include "simulator/synthesis/Rig.h"
+
+#include <gmock/gmock.h>
+#include <opencv2/imgproc.hpp>
+
+#include <cmath>
+
+namespace fieldcal::handheld {
+namespace {
+
+using namespace std::chrono_literals;
+
+LightCourse light(const std::string& name) {
+    LightCourse course;
+    EXPECT_TRUE(LightCourse::find(name, &course));
+    return course;
+}
+
+session::SessionDescription rig() {
+    return synthesis::drawRig(3, {});
+}
+
+/// What tells whether two frame sets are the same.
+struct Print {
+    std::vector<std::uint16_t> infrared, depth;
+    std::vector<std::uint8_t> third;
+    explicit Print(const session::FramePictures& p)
+        : infrared(p.infrared.pixels(), p.infrared.pixels() + p.infrared.byteCount() / 2),
+          depth(p.depth.pixels(), p.depth.pixels() + p.depth.byteCount() / 2),
+          third(p.third.bytes(), p.third.bytes() + p.third.byteCount()) {}
+    bool operator==(const Print& other) const {
+        return infrared == other.infrared && depth == other.depth && third == other.third;
+    }
+};
+
+/// The motion that the frame selection measures: differences of colour pictures at a quarter of the size.
+double motion(const session::FramePictures& a, const session::FramePictures& b) {
+    const auto quarter = [](const session::FramePictures& p) {
+        cv::Mat small = cv::Mat(480, 640, CV_8UC4, const_cast<std::uint8_t*>(p.third.bytes())).clone();
+        cv::pyrDown(small, small);
+        cv::pyrDown(small, small);
+        return small;
+    };
+    return cv::norm(quarter(a), quarter(b), cv::NORM_L2);
+}
+
+TEST(Footage, EqualSeedsGiveEqualFramesWhichRestMoveAndRestAgain) {
+    Footage one("mountains", 3, rig(), light("sun")), other("mountains", 3, rig(), light("sun"));
+    std::vector<session::FramePictures> last;
+    int still = 0, moving = 0, restsAfterMoving = 0;
+    for (int i = 0; i < 150; ++i) {
+        ASSERT_TRUE(one.advance(60s) && other.advance(60s));
+        ASSERT_TRUE(i % 7 != 0 || Print(*one.current()) == Print(*other.current())) << i;
+        last.push_back(*one.current());
+        if (last.size() < 9) continue;
+        const double most = std::max(motion(last[4], last[8]), motion(last[0], last[8]));
+        still += most < 4000 ? 1 : 0;
+        moving += most > 8500 ? 1 : 0;
+        restsAfterMoving += moving > 0 && most < 4000 ? 1 : 0;
+        last.erase(last.begin());
+    }
+    EXPECT_GT(still, 60);
+    EXPECT_GT(moving, 4);
+    EXPECT_GT(restsAfterMoving, 20);
+}
+
+TEST(Footage, WithTheEmitterOnTheHandStays) {
+    Footage footage("mountains", 3, rig(), light("sun"));
+    footage.setEmitter(true);
+    std::vector<session::FramePictures> first;
+    for (int i = 0; i < 200; ++i) {
+        ASSERT_TRUE(footage.advance(60s));
+        if (first.empty()) first.push_back(*footage.current());
+        ASSERT_LT(motion(first.front(), *footage.current()), 4000) << i;
+    }
+}
+
+TEST(LightCourse, DarkensAndBrightensWhatIsSeen) {
+    // Means of infrared, as the light gate takes them: lit above 130, lost again at 110.
+    const auto mean = [](const std::string& name, int frames) {
+        Footage footage("mountains", 3, rig(), light(name));
+        for (int i = 0; i < frames; ++i)
+            EXPECT_TRUE(footage.advance(60s));
+        const Print print(*footage.current());
+        double sum = 0;
+        for (const std::uint16_t value : print.infrared)
+            sum += value;
+        return sum / static_cast<double>(print.infrared.size());
+    };
+    EXPECT_GT(mean("sun", 1), 200);
+    EXPECT_LT(mean("shade", 1), 100);
+    EXPECT_LT(mean("indoors", 1), 40);
+    EXPECT_LT(mean("walk-out", 60), 40);
+    EXPECT_GT(mean("walk-out", 220), 200);
+    const LightCourse clouds = light("clouds");
+    EXPECT_EQ(clouds.at(1), 1);
+    EXPECT_LT(clouds.at(12), 0.25);
+    EXPECT_EQ(clouds.at(17), 1);
+    LightCourse none;
+    EXPECT_FALSE(LightCourse::find("disco", &none));
+}
+
+/// Pixels that are found again after turning must lie on rays that differ by exactly that rotation, in every camera.
+TEST(Lens, TurningMovesPixelsToTheRaysOfTheTurnedCamera) {
+    const auto cameras = synthesis::drawRig(5, {true, {}, {}});
+    const cv::Matx33d before_after = poseBetween({cv::Matx33d::eye(), {}}, {tremor(1, 1, 1.5), {}}, 1).camera_world;
+    for (const Lens& lens : {Lens::ofInfrared(cameras.infrared), Lens::ofThird(cameras), Lens::ofPlatform(cameras)}) {
+        const auto map = pixelsBeforeTurning(lens, before_after);
+        for (const cv::Point pixel : {cv::Point(0, 0), cv::Point(333, 201), cv::Point(lens.size()) - cv::Point(1, 1)}) {
+            const cv::Point2d after = lens.ray(pixel), before = lens.ray(cv::Point2d(cv::Point2f(map(pixel))));
+            const cv::Vec3d turned = before_after * cv::Vec3d(after.x, after.y, 1);
+            EXPECT_NEAR(before.x, turned[0] / turned[2], 0.02 / lens.focalPx()) << pixel;
+            EXPECT_NEAR(before.y, turned[1] / turned[2], 0.02 / lens.focalPx()) << pixel;
+        }
+    }
+}
+
+TEST(ViewTurner, BetweenTwoViewsEachFillsWhatTheOtherLacks) {
+    // Both views show the same scene: a place's radiance is a function of its direction.
+    const auto cameras = rig();
+    const ViewTurner turner(cameras);
+    const Lens lens = Lens::ofInfrared(cameras.infrared);
+    const auto painted = [&](const cv::Matx33d& camera_world) {
+        SeenView seen{{camera_world, {}}, {}};
+        seen.view.third = cv::Mat_<cv::Vec3f>(480, 640, cv::Vec3f(1, 1, 1));
+        seen.view.unmatched = cv::Mat_<std::uint8_t>(468, 628, std::uint8_t{0});
+        seen.view.infrared.create(468, 628);
+        seen.view.depth.create(468, 628);
+        for (int y = 0; y < 468; ++y)
+            for (int x = 0; x < 628; ++x) {
+                const cv::Point2d ray = lens.ray(cv::Point2d(x, y));
+                const cv::Vec3d direction = camera_world.t() * cv::Vec3d(ray.x, ray.y, 1);
+                seen.view.infrared(y, x) = static_cast<float>(direction[0] / cv::norm(direction) + 2);
+                // A sphere of five metres around the eye.
+                seen.view.depth(y, x) = static_cast<float>(5 / cv::norm(direction));
+            }
+        return seen;
+    };
+    Hand hand(4, -4, 9);
+    const auto from = painted(hand.rest(0).pose.camera_world), to = painted(hand.rest(1).pose.camera_world);
+    const cv::Matx33d way = poseBetween({from.pose.camera_world, {}}, {to.pose.camera_world, {}}, 0.5).camera_world;
+    const auto wanted = painted(way).view;
+    const auto made = turner.between(from, to, {way, way}, false);
+    for (int y = 20; y < 448; y += 13)
+        for (int x = 1; x < 627; x += 13) {
+            ASSERT_NEAR(made.infrared(y, x), wanted.infrared(y, x), 2e-3) << x << ' ' << y;
+            ASSERT_NEAR(made.depth(y, x), wanted.depth(y, x), 0.02) << x << ' ' << y;
+        }
+}
+
+}  // namespace
+}  // namespace fieldcal::handheld

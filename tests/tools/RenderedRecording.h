@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+namespace fieldcal::testing {
+
+/// A rendered recording, made on first use and gone when the program ends. A build that renders no worlds finds it in
+/// the folder FIELDCAL_RECORDINGS, under the same name.
+inline QString renderedRecording(const QString& name, const QStringList& wishes) {
+    const QString prepared = qEnvironmentVariable("FIELDCAL_RECORDINGS");
+    if (!prepared.isEmpty()) return prepared + '/' + name;
+    static const QTemporaryDir folder;
+    QString path = folder.filePath(name);
+    if (!QDir(path).exists()) {
+        EXPECT_EQ(QProcess::execute(TOOL, QStringList{"synthesize", path} + wishes), 0) << name.toStdString();
+    }
+    return path;
+}
+
+/// Five stills of the mountains, where nothing is near, with the rear camera.
+inline QString mountainRecording() {
+    return renderedRecording("mountains", {"--world", "mountains", "--seed", "5", "--stills", "5", "--platform"});
+}
+/// Two stills of the night.
+inline QString nightRecording() {
+    return renderedRecording("night", {"--world", "night", "--stills", "2"});
+}
+
+}  // namespace fieldcal::testing

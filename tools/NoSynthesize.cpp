@@ -1,0 +1,10 @@
+#include "tools/Console.h"
+#include "tools/Verbs.h"
+
+namespace fieldcal {
+
+int runSynthesize(const QStringList&) {
+    return fail("this build renders no worlds");
+}
+
+}  // namespace fieldcal
