@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/GlobalManager.h"
-#include "simulator/synthesis/Synthesis.h"
 #include "tests/devices/FakeServiceControl.h"
 #include "tests/devices/LogCapture.h"
+#include "tests/tools/RenderedRecording.h"
 
 #include <QElapsedTimer>
 #include <QQuickWindow>
@@ -23,26 +23,10 @@ constexpr qint64 kPatienceMs = 120000;
 /// The application over the simulated module, with an interface that writes down what it is told.
 class ApplicationTest : public ::testing::Test {
 protected:
-    /// Rendered once, for all.
-    static QString recording() {
-        static const QTemporaryDir folder;
-        static const bool rendered = [] {
-            synthesis::SynthesisOptions options;
-            options.seed = 5;
-            options.stills = 5;
-            options.platform = true;
-            std::string why;
-            const bool done = synthesis::synthesize(folder.path().toStdString(), options, {}, &why);
-            EXPECT_TRUE(done) << why;
-            return done;
-        }();
-        return rendered ? folder.path() : QString();
-    }
-
     ApplicationTest() {
         set("QT_QPA_PLATFORM", "offscreen");
         set("QT_QUICK_BACKEND", "software");
-        set("KXSIM_SESSION", recording());
+        set("KXSIM_SESSION", mountainRecording());
         set("KXSIM_SPEED", "0");
         set("KXSIM_FLASH", folder.filePath("flash"));
     }

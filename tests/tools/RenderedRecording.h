@@ -20,9 +20,9 @@ inline QString renderedRecording(const QString& name, const QStringList& wishes)
     return path;
 }
 
-/// Five stills of the mountains, where nothing is near, with the rear camera.
+/// Six stills of the mountains, where nothing is near, with the rear camera.
 inline QString mountainRecording() {
-    return renderedRecording("mountains", {"--world", "mountains", "--seed", "5", "--stills", "5", "--platform"});
+    return renderedRecording("mountains", {"--world", "mountains", "--seed", "5", "--stills", "6", "--platform"});
 }
 /// Two stills of the night.
 inline QString nightRecording() {
