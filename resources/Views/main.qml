@@ -83,6 +83,20 @@ Window {
         }
     }
 
+    function pressMainButton() {
+        for (let i = 0; i < frame.children.length; ++i) {
+            const page = frame.children[i]
+            if (!page.visible || !page.mainButton || !page.mainButton.visible) continue
+            page.mainButton.clicked()
+            return
+        }
+    }
+    Shortcut {
+        sequences: ["Return", "Enter"]
+        enabled: !root.saving
+        onActivated: root.pressMainButton()
+    }
+
     // The image items paint underneath the interface, each into its parent's rectangle; the parent's y counts from
     // the window's lower edge, and these two stand in the middle.
     Item {
@@ -114,6 +128,17 @@ Window {
         }
     }
 
+    // Nothing else clears what is outside of the pictures.
+    component Cover: Rectangle {
+        color: "black"
+        width: root.width
+    }
+    readonly property bool sideBySide: uiState >= _state_DetectingLighting && uiState <= _state_FoundGoodSolution
+    readonly property real bandHeight: (root.height - root.width * 0.375) / 2
+    Cover { visible: root.sideBySide; height: root.bandHeight }
+    Cover { visible: root.sideBySide; height: root.bandHeight; y: root.height - height }
+    Cover { visible: root.uiState === root._state_FirstOpened || root.notice !== "" || root.saving; height: root.height }
+
     Timer {
         id: saveSoon
         interval: 50  // lets the saving page be seen before the main thread is busy
@@ -122,6 +147,7 @@ Window {
 
     component Page: Column {
         property bool shown: false
+        property Button mainButton
         visible: shown && root.notice === "" && !root.saving
         spacing: 12
         padding: 24
@@ -143,9 +169,11 @@ Window {
         }
         Page {
             objectName: "introductionPage"
+            mainButton: introContinueButton
             shown: root.uiState === root._state_ShowingIntroduction
             Words { id: lastSaveFailedText; objectName: "lastSaveFailedText" }
             Button {
+                id: introContinueButton
                 objectName: "introContinueButton"
                 text: qsTr("Start")
                 onClicked: { root.switchToIMColorSensor(); root.goTo(root._state_DetectingLighting) }
@@ -153,6 +181,7 @@ Window {
         }
         Page {
             objectName: "lightingPage"
+            mainButton: lightingContinueButton
             shown: root.uiState === root._state_DetectingLighting
             Words { id: lightingTitle; objectName: "lightingTitle" }
             Words { id: lightingMessage; objectName: "lightingMessage" }
@@ -166,10 +195,12 @@ Window {
         }
         Page {
             objectName: "startPage"
+            mainButton: startButton
             shown: root.uiState === root._state_ResetCalibration || root.uiState === root._state_WaitingToCalibrate
             Words { id: startText; objectName: "startText" }
             Button { id: howToMoveButton; objectName: "howToMoveButton"; visible: false; text: qsTr("How to move") }
             Button {
+                id: startButton
                 objectName: "startButton"
                 text: qsTr("Start")
                 onClicked: root.goTo(root._state_StartingCalibration)
@@ -190,8 +221,10 @@ Window {
         }
         Page {
             objectName: "tutorialPage"
+            mainButton: tutorialContinueButton
             shown: root.uiState === root._state_RefiningTutorial
             Button {
+                id: tutorialContinueButton
                 objectName: "tutorialContinueButton"
                 text: qsTr("Continue")
                 onClicked: { root.toggleTutorialAnimation(false); root.goTo(root._state_RefiningCalibration) }
@@ -200,9 +233,15 @@ Window {
         Page {
             id: refinementPage
             objectName: "refinementPage"
+            mainButton: refinementContinueButton
             shown: root.uiState === root._state_RefiningCalibration
             Words { text: saveText.text }
-            Button { objectName: "refinementContinueButton"; text: qsTr("Continue"); onClicked: root.acceptRefinement() }
+            Button {
+                id: refinementContinueButton
+                objectName: "refinementContinueButton"
+                text: qsTr("Continue")
+                onClicked: root.acceptRefinement()
+            }
             Button {
                 objectName: "refinementRestartButton"
                 text: qsTr("Restart")
