@@ -31,7 +31,7 @@ inline constexpr Material paving{{0.33F, 0.31F, 0.28F, 0.35F}, 0.12F, 0.06F, 0.0
 inline constexpr Material gravel{{0.42F, 0.37F, 0.29F, 0.44F}, 0.22F, 0.10F, 0.10F};
 inline constexpr Material grass{{0.09F, 0.16F, 0.05F, 0.56F}, 0.22F, 0.20F, 0.12F};
 inline constexpr Material soil{{0.22F, 0.16F, 0.11F, 0.28F}, 0.22F, 0.10F, 0.10F};
-inline constexpr Material leaf{{0.06F, 0.115F, 0.035F, 0.52F}, 0.20F, 0.25F, 0.15F};
+inline constexpr Material leaf{{0.085F, 0.16F, 0.05F, 0.52F}, 0.20F, 0.25F, 0.15F};
 inline constexpr Material bark{{0.15F, 0.12F, 0.09F, 0.24F}, 0.20F, 0.10F, 0.10F};
 inline constexpr Material whitePaint{{0.78F, 0.77F, 0.73F, 0.72F}, 0.03F, 0.02F, 0.02F};
 inline constexpr Material greenPaint{{0.08F, 0.20F, 0.12F, 0.34F}, 0.05F, 0.04F, 0.04F};

@@ -35,16 +35,18 @@ Look Paving::at(const Place& place) const {
 }
 
 Look Turf::at(const Place& place) const {
-    const float x = place.texture[0], z = place.texture[1];
-    constexpr synthesis::Material blades{synthesis::materials::grass.reflectance, 0.13F, 0.14F, 0.08F};
-    const float worn = smoothStep(0.5F, 0.9F, noise_.fractal(x, z, 7.0F, place.footprint, 0.6F));
+    const float x = place.texture[0], z = place.texture[1], seen = place.footprint;
+    constexpr synthesis::Material blades{synthesis::materials::grass.reflectance, 0.18F, 0.07F, 0.05F};
+    constexpr synthesis::Material grit{synthesis::materials::gravel.reflectance, 0.20F, 0.06F, 0.06F};
+    // Where people walk, the ground is bare and stony.
+    const float worn = smoothStep(0.25F, 0.4F, noise_.fractal(x, z, 9.0F, seen, 0.55F));
+    const float tufts = noise_.fractal(x, z, 0.3F, seen, 0.85F),
+                across = noise_.fractal(z - 17, x + 29, 0.3F, seen, 0.85F);
     Look look;
-    look.surface.reflectance =
-        mix(mottled(blades, noise_, x, z, 2.5F, place.footprint),
-            mottled(synthesis::materials::soil, noise_, x, z, 1.5F, place.footprint), worn * 0.8F);
-    // Blades stand on edge: their shading is coarser than any mottle, and deepest where they are thick.
-    const cv::Vec2f slope = bumps(noise_, place.texture, 0.25F, place.footprint);
-    look.tilt = cv::Vec3f(slope[0], 0, slope[1]) * (0.55F * (1 - worn));
+    look.surface.reflectance = mix(mottled(blades, noise_, x, z, 1.5F, seen) * std::max(0.3F, 1 + 0.3F * tufts),
+                                   mottled(grit, noise_, x, z, 0.4F, seen) * std::max(0.4F, 1 + 0.2F * across), worn);
+    // Blades stand on edge, and their shading is deepest where they are thick.
+    look.tilt = cv::Vec3f(tufts, 0, across) * (0.4F - 0.15F * worn);
     look.surface.openness = 0.8F;
     look.smooth = true;
     return look;

@@ -36,10 +36,10 @@ Look Glow::at(const Place& /*place*/) const {
 Look Leaf::at(const Place& place) const {
     const int leaf = static_cast<int>(place.texture[0]);
     const auto draw = [leaf](std::uint32_t what) { return Noise::cell(leaf, leaf >> 8, what) - 0.5F; };
-    const float shared = 1 + 0.5F * draw(61);
+    const float shared = 1 + 0.7F * draw(61);
     Look look;
-    look.surface.reflectance = reflectance_.scaled(shared + 0.7F * draw(62), shared + 0.3F * draw(63));
-    look.surface.reflectance.red *= 1 + 0.8F * draw(64);
+    look.surface.reflectance = reflectance_.scaled(shared + 0.3F * draw(62), shared + 0.15F * draw(63));
+    look.surface.reflectance.red *= 1 + 0.5F * draw(64);
     look.surface.openness = place.texture[1];
     // Most of the near infrared passes a leaf and lights the ones behind it: shadows in crowns are shallow there.
     look.through = 0.45F;

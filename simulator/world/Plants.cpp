@@ -53,6 +53,21 @@ void addLeaves(Mesh& mesh, const Crown& crown, const std::vector<cv::Vec3f>& bou
     }
 }
 
+/// Bodies of shade within the boughs, so that the sky shows only at the rim.
+void addHearts(Mesh& mesh, const Crown& crown, const std::vector<cv::Vec3f>& boughs, MaterialId material,
+               Random& random) {
+    for (const auto& bough : boughs) {
+        const float phase = random.between(0, 6);
+        const auto ragged = [phase](const cv::Vec3f& d) {
+            return 1 + 0.3F * std::sin(7 * d[0] + phase) * std::sin(6 * d[1] - phase) * std::cos(8 * d[2]);
+        };
+        const std::size_t first = mesh.vertices.size();
+        addBall(mesh, within(crown, bough), crown.radii * 0.17F, 6, material, ragged);
+        for (std::size_t i = first; i < mesh.vertices.size(); ++i)
+            mesh.vertices[i].texture = {static_cast<float>(random.index(60000)) + 0.5F, 0.15F};
+    }
+}
+
 std::vector<cv::Vec3f> placeBoughs(int count, Random& random) {
     std::vector<cv::Vec3f> boughs;
     boughs.reserve(static_cast<std::size_t>(count));
@@ -79,7 +94,7 @@ void addTree(Mesh& mesh, const Tree& tree, const PlantMaterials& materials, Rand
     crown.radii = {tree.crownRadius, tree.height * 0.36F, tree.crownRadius};
     crown.centre = tree.foot + cv::Vec3f(0, -(tree.height - crown.radii[1]), 0);
     crown.leaves = tree.leaves, crown.leafSize = tree.leafSize;
-    const float girth = tree.height * 0.022F;
+    const float girth = tree.height * 0.013F;
     addPost(mesh, {tree.foot, tree.height * 0.75F, girth * 1.3F, girth * 0.35F, 12}, materials.bark);
     const auto boughs = placeBoughs(14 + random.index(10), random);
     for (const auto& bough : boughs) {
@@ -87,13 +102,16 @@ void addTree(Mesh& mesh, const Tree& tree, const PlantMaterials& materials, Rand
         const float fork = std::max(tree.height * 0.25F, (tree.foot[1] - tip[1]) * random.between(0.55F, 0.8F));
         addStick(mesh, tree.foot + cv::Vec3f(0, -fork, 0), tip, girth * 0.25F, materials.bark);
     }
+    addHearts(mesh, crown, boughs, materials.leaf, random);
     addLeaves(mesh, crown, boughs, materials.leaf, random);
 }
 
 void addBush(Mesh& mesh, const cv::Vec3f& foot, const cv::Vec3f& radii, int leaves, float leafSize, MaterialId leaf,
              Random& random) {
     Crown crown{foot + cv::Vec3f(0, -radii[1] * 0.62F, 0), radii, leaves, leafSize};
-    addLeaves(mesh, crown, placeBoughs(12 + random.index(8), random), leaf, random);
+    const auto boughs = placeBoughs(12 + random.index(8), random);
+    addHearts(mesh, crown, boughs, leaf, random);
+    addLeaves(mesh, crown, boughs, leaf, random);
 }
 
 void addConifer(Mesh& mesh, const cv::Vec3f& foot, float height, MaterialId needles, Random& random) {

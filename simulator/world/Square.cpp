@@ -68,7 +68,9 @@ std::unique_ptr<Stage> buildRepetitive(std::uint64_t seed) {
     pave(b, eye, {});
     synthesis::FacadeStyle style = synthesis::drawFacadeStyle(b.random);
     style.variety = 0, style.balconies = 0, style.shops = false, style.shutters = false;
-    const float side = 16 * style.bay, height = style.storey * 7 + 0.8F;
+    // Far enough for the next window to lie within what the matcher searches.
+    style.bay = 2.0F, style.windowWidth = 0.9F, style.windowHeight = 1.3F, style.storey = 2.8F, style.sill = 0.8F;
+    const float side = 48 * style.bay, height = style.storey * 14 + 0.8F;
     for (int i = 0; i < 4; ++i)
         buildRow(b, {quarter * static_cast<float>(i), side / 2, -side / 2, side / 2 - 1, eye, 0, &style, height});
     auto stage = b.finish();
@@ -79,7 +81,7 @@ std::unique_ptr<Stage> buildRepetitive(std::uint64_t seed) {
 /// The square when there is too little light for the cameras.
 std::unique_ptr<Stage> buildNight(std::uint64_t seed) {
     auto stage = buildSquare(seed);
-    if (stage) stage->darkness = 0.05;
+    if (stage) stage->darkness = 0.004;
     return stage;
 }
 
