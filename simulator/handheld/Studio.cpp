@@ -20,6 +20,12 @@ synthesis::StillSettings drawSettings(std::uint64_t seed, int number, double dar
 
 }  // namespace
 
+session::FramePictures takeStill(const RestingView& seen, std::uint64_t noise) {
+    const world::View& view = seen.moments.front().view;
+    return {infraredFrame(view, seen.settings, noise), depthFrame(view, {}, noise),
+            thirdFrame(view, seen.settings, noise), platformFrame(view, seen.settings, noise)};
+}
+
 Studio::Studio(const std::string& world, std::uint64_t seed, const session::SessionDescription& rig)
     : seed_(seed),
       stage_(world::buildWorld(world, seed)),

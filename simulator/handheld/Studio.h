@@ -17,6 +17,9 @@ struct RestingView {
     synthesis::StillSettings settings;  ///< how the exposure comes out in full light
 };
 
+/// Its pictures in full light, the hand quite still. Equal `noise`, equal bytes.
+session::FramePictures takeStill(const RestingView& seen, std::uint64_t noise);
+
 /// A world, the cameras and the hand that leads them: renders what is seen where the hand rests. One thread.
 class Studio {
 public:

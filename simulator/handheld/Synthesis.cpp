@@ -54,12 +54,6 @@ session::FrameEntry frameEntry(int number, const SynthesisOptions& options) {
     return entry;
 }
 
-session::FramePictures picturesOf(const RestingView& seen, std::uint64_t noise) {
-    const world::View& view = seen.moments.front().view;
-    return {infraredFrame(view, seen.settings, noise), depthFrame(view, {}, noise),
-            thirdFrame(view, seen.settings, noise), platformFrame(view, seen.settings, noise)};
-}
-
 }  // namespace
 
 bool synthesize(const std::string& folder, const SynthesisOptions& options,
@@ -71,7 +65,7 @@ bool synthesize(const std::string& folder, const SynthesisOptions& options,
     for (int i = 0; i < options.stills; ++i) {
         const std::uint64_t noise = synthesis::mixBits(options.seed) + static_cast<unsigned>(i);
         rig.frames.push_back(frameEntry(i, options));
-        if (!session::writePictures(folder, rig.frames.back(), picturesOf(*studio.make(i, options.platform), noise),
+        if (!session::writePictures(folder, rig.frames.back(), takeStill(*studio.make(i, options.platform), noise),
                                     why))
             return false;
         if (progress) progress(i + 1, options.stills);
