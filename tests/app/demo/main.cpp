@@ -107,6 +107,10 @@ int run(const QString& recording, const QString& folder) {
     qputenv("KXSIM_SESSION", recording.toLocal8Bit());
     qputenv("KXSIM_FLASH", (folder + "/flash").toLocal8Bit());
     qputenv("XDG_DATA_HOME", (folder + "/data").toLocal8Bit());
+    // A session of its own: a copy that runs elsewhere is not in the way.
+    QDir().mkpath(folder + "/session");
+    QFile::setPermissions(folder + "/session", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv("XDG_RUNTIME_DIR", (folder + "/session").toLocal8Bit());
     QFile::remove(folder + "/flash");
     WalkThrough user(folder);
     QString problem;
