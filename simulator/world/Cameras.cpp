@@ -43,9 +43,9 @@ View Cameras::see(const World& world, const Moment& infraredAndDepth, const Mome
     const Picture infrared = takePicture(world, infrared_, shot);
     view.infrared = synthesis::infraredBand(infrared.light);
     if (depth_.rays.empty())
-        seeDepth(world, infrared_, shot, infrared, rig_.infrared.fx, &view);
+        seeDepth(world, infrared_, shot, infrared, rig_.infrared, &view);
     else
-        seeDepth(world, depth_, shot, takePicture(world, depth_, shot), rig_.depth.fx, &view);
+        seeDepth(world, depth_, shot, takePicture(world, depth_, shot), rig_.depth, &view);
     view.third = colourSeen(third_, thirdPose(colour.pose), synthesis::thirdLens);
     if (withPlatform && rig_.platform)
         view.platform = colourSeen(platform_, platformPose(colour.pose), synthesis::platformLens);

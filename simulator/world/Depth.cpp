@@ -1,5 +1,7 @@
 #include "simulator/world/Depth.h"
 
+#include <opencv2/imgproc.hpp>
+
 #include <algorithm>
 #include <cmath>
 
@@ -13,13 +15,31 @@ constexpr double slantLimit = 0.12;
 constexpr float farthestOfUse = 20;
 
 /// What the stereo of the module makes of an exact depth in metres; millimetres, 0 when nothing is left.
-std::uint16_t measured(double depth, double focalPx, const StereoModel& model, double noise) {
-    const double disparity = focalPx * stereoBaseline / depth + model.noisePx * noise;
+std::uint16_t measured(double depth, double focalPx, const StereoModel& model, double noisePx) {
+    const double disparity = focalPx * stereoBaseline / depth + noisePx;
     const double stepped = std::round(disparity / model.stepPx) * model.stepPx;
     if (stepped <= 0) return 0;
     const double found = focalPx * stereoBaseline / stepped;
     if (found < model.nearest || found > model.farthest) return 0;
     return static_cast<std::uint16_t>(std::lround(found * 1000));
+}
+
+/// Texture along the rows around each pixel, in deviations of the infrared sensor's noise.
+cv::Mat_<float> textureOf(const View& view) {
+    constexpr int window = 9;
+    constexpr double exposed = 400, stepsPerElectron = 1.0 / 14, readNoise = 2.2;
+    cv::Mat_<float> texture, level, slope;
+    cv::resize(view.infrared, level, view.depth.size());
+    level *= exposed / std::max(1e-6, cv::mean(level)[0]);
+    cv::filter2D(level, slope, CV_32F, cv::Matx13f(-0.7071F, 0, 0.7071F));
+    cv::sqrBoxFilter(slope, texture, CV_32F, {window, window});
+    cv::blur(level, level, {window, window});
+    for (int y = 0; y < level.rows; ++y)
+        for (int x = 0; x < level.cols; ++x) {
+            const auto noise = static_cast<float>(level(y, x) * stepsPerElectron + readNoise * readNoise);
+            texture(y, x) = std::sqrt(texture(y, x) / noise);
+        }
+    return texture;
 }
 
 /// Cosine between ray and surface, from the depths to the left and right and above and below.
@@ -35,13 +55,12 @@ double slantAt(const cv::Mat_<float>& depth, int x, int y, double focalPx) {
 }  // namespace
 
 void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& shot, const Picture& picture,
-              double focalPx, View* view) {
+              const session::Intrinsics& camera, View* view) {
     const cv::Mat_<float>& depth = view->depth = picture.depth;
     cv::Mat_<std::uint8_t>& unmatched = view->unmatched = picture.reflected.clone();
-    view->depthFocalPx = focalPx;
+    view->depthCamera = camera;
     const cv::Matx33f world_camera = shot.pose.camera_world.t();
     const cv::Vec3f first = shot.pose.centre, second = first + world_camera * cv::Vec3f(stereoBaseline, 0, 0);
-    const int n = grid.samplesPerPixel;
     forEachRow(depth.rows, [&](int y) {
         Rays rays;
         rays.seconds = shot.seconds;
@@ -54,9 +73,9 @@ void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& sh
         };
         for (int x = 0; x < depth.cols; ++x) {
             const float z = depth(y, x);
-            if (z <= 0 || z > farthestOfUse || slantAt(depth, x, y, focalPx) < slantLimit) unmatched(y, x) = 255;
+            if (z <= 0 || z > farthestOfUse || slantAt(depth, x, y, camera.fx) < slantLimit) unmatched(y, x) = 255;
             if (unmatched(y, x) != 0) continue;
-            const cv::Vec2f& ray = grid.rays(y * n + n / 2, x * n + n / 2);
+            const cv::Vec2f ray = middleRay(grid, x, y);
             const cv::Vec3f way = first + world_camera * (cv::Vec3f(ray[0], ray[1], 1) * z) - second;
             owner[rays.count] = x;
             rays.add(second, unit(way), static_cast<float>(cv::norm(way)));
@@ -67,13 +86,20 @@ void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& sh
 }
 
 ImageFrame16 measureDepth(const View& view, const StereoModel& model, synthesis::Random& random) {
+    constexpr double plenty = 2;  // texture in deviations of the noise; below 1 nothing is found
+    const cv::Mat_<float> texture = textureOf(view);
     ImageFrame16 frame;
     frame.resize(static_cast<std::uint32_t>(view.depth.cols), static_cast<std::uint32_t>(view.depth.rows));
     std::uint16_t* out = frame.pixels();
     for (int y = 0; y < view.depth.rows; ++y)
         for (int x = 0; x < view.depth.cols; ++x, ++out) {
             const double noise = random.normal();  // drawn for every pixel, so that holes shift nothing
-            *out = view.unmatched(y, x) != 0 ? 0 : measured(view.depth(y, x), view.depthFocalPx, model, noise);
+            const double z = view.depth(y, x), dots = model.emitter && z > 0 ? 1 / (model.light * z * z) : 0;
+            const double seen = std::hypot(texture(y, x), dots);
+            *out = 0;
+            if (view.unmatched(y, x) != 0 || seen < 1) continue;
+            const double noisePx = noise * model.noisePx * std::clamp(plenty / seen, 1.0, 3.0);
+            *out = measured(z, view.depthCamera.fx, model, noisePx);
         }
     return frame;
 }

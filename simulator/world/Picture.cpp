@@ -15,16 +15,11 @@ namespace {
 /// the noise of the sensors. Materials that fade their own details need care only at their shadows and outlines.
 constexpr float plainLimit = 0.04F, smoothLimit = 0.4F;
 
-/// One ray for every pixel, through its middle.
 cv::Mat_<cv::Vec2f> middleRays(const synthesis::RayGrid& grid) {
-    const int n = grid.samplesPerPixel, low = (n - 1) / 2, high = n / 2;
-    cv::Mat_<cv::Vec2f> middle(grid.rays.rows / n, grid.rays.cols / n);
-    for (int y = 0; y < middle.rows; ++y) {
-        const cv::Vec2f *upper = grid.rays[y * n + low], *lower = grid.rays[y * n + high];
+    cv::Mat_<cv::Vec2f> middle(grid.rays.rows / grid.samplesPerPixel, grid.rays.cols / grid.samplesPerPixel);
+    for (int y = 0; y < middle.rows; ++y)
         for (int x = 0; x < middle.cols; ++x)
-            middle(y, x) =
-                (upper[x * n + low] + upper[x * n + high] + lower[x * n + low] + lower[x * n + high]) * 0.25F;
-    }
+            middle(y, x) = middleRay(grid, x, y);
     return middle;
 }
 
@@ -151,6 +146,12 @@ Pose colourPose(const Pose& depth, const cv::Matx33d& rotation, const cv::Vec3d&
     colour.camera_world = rotation * depth.camera_world;
     colour.centre = depth.centre - colour.camera_world.t() * translation;
     return colour;
+}
+
+cv::Vec2f middleRay(const synthesis::RayGrid& grid, int x, int y) {
+    const int n = grid.samplesPerPixel, low = (n - 1) / 2, high = n / 2;
+    const cv::Vec2f *upper = grid.rays[y * n + low] + x * n, *lower = grid.rays[y * n + high] + x * n;
+    return (upper[low] + upper[high] + lower[low] + lower[high]) * 0.25F;
 }
 
 void forEachRow(int rows, const std::function<void(int)>& row) {

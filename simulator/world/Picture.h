@@ -30,6 +30,9 @@ struct Picture {
     cv::Mat_<std::uint8_t> reflected;  ///< 255 where the middle of a pixel shows a mirror
 };
 
+/// The ray through the middle of a pixel.
+cv::Vec2f middleRay(const synthesis::RayGrid& grid, int x, int y);
+
 /// Takes a picture. Pixels unlike their neighbours take all samples of the grid, the others only one in the middle.
 /// All processors work on it; the result does not depend on their number.
 Picture takePicture(const World& world, const synthesis::RayGrid& grid, const Shot& shot);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "session/RecordedSession.h"
 #include "simulator/world/Picture.h"
 
 namespace fieldcal::world {
@@ -18,7 +19,7 @@ struct View {
     cv::Mat_<float> depth;         ///< metres along the axis of the depth camera; 0 for the sky
     /// 255 where stereo finds nothing in any light: hidden from the second infrared camera, too slanted, or a mirror.
     cv::Mat_<std::uint8_t> unmatched;
-    double depthFocalPx = 0;  ///< of the depth camera along x
+    session::Intrinsics depthCamera;
 };
 
 }  // namespace fieldcal::world

@@ -1,5 +1,7 @@
 #include "simulator/synthesis/Rig.h"
 #include "simulator/world/Cameras.h"
+#include "simulator/world/Emitter.h"
+#include "simulator/world/Worlds.h"
 #include "tests/world/Scenes.h"
 
 #include <gmock/gmock.h>
@@ -177,10 +179,19 @@ struct SlantedPlane {
 };
 
 View depthView(const World& world, const SessionDescription& rig) {
-    const auto rays = synthesis::infraredRays(rig.depth, 1);
+    const auto rays = synthesis::infraredRays(rig.depth, 2);
     View view;
-    seeDepth(world, rays, {}, takePicture(world, rays, {}), rig.depth.fx, &view);
+    const Picture picture = takePicture(world, rays, {});
+    view.infrared = synthesis::infraredBand(picture.light);
+    seeDepth(world, rays, {}, picture, rig.depth, &view);
     return view;
+}
+
+/// Where dots give plain surfaces all the texture they need.
+StereoModel inADimRoom() {
+    StereoModel model;
+    model.emitter = true, model.light = 0.02;
+    return model;
 }
 
 TEST(WorldCameras, DepthIsAlongTheAxisOfTheInfraredCameraAndHoldsTheRangeOfTheModule) {
@@ -188,7 +199,7 @@ TEST(WorldCameras, DepthIsAlongTheAxisOfTheInfraredCameraAndHoldsTheRangeOfTheMo
     const SlantedPlane plane;
     const View view = depthView(plane.world, rig);
     const auto rays = synthesis::infraredRays(rig.depth, 1);
-    StereoModel model;
+    StereoModel model = inADimRoom();
     model.farthest = 3.5;
     const auto frame = depthFrame(view, model, 1);
     int near = 0, far = 0;
@@ -220,7 +231,7 @@ TEST(WorldCameras, TheSecondInfraredCameraMissesAStripBesideNearThings) {
     addQuad(scene.mesh, {{-0.2F, -20, 1}, {0.4F, 0, 0}, {0, 40, 0}}, grey);
     const World world = scene.finish();
     const auto rig = synthesis::drawRig(2, {});
-    const auto frame = depthFrame(depthView(world, rig), {}, 1);
+    const auto frame = depthFrame(depthView(world, rig), inADimRoom(), 1);
     const auto at = [&](double x) {
         return frame.pixels()[frame.width() * 200 + static_cast<unsigned>(std::lround(rig.depth.cx + x))];
     };
@@ -230,6 +241,36 @@ TEST(WorldCameras, TheSecondInfraredCameraMissesAStripBesideNearThings) {
     EXPECT_EQ(at(edge - width / 2), 0);
     EXPECT_NEAR(at(edge - width - 6), 4000, 300);
     EXPECT_NEAR(at(-edge + 6), 4000, 300);
+}
+
+TEST(WorldCameras, PlainSurfacesHaveNoDepthUntilDotsFallOnThem) {
+    const auto rig = synthesis::drawRig(5, {});
+    const auto stage = buildWorld("wall", 1);
+    const World& wall = *stage->world;
+    View view = depthView(wall, rig);
+    const auto found = [&](const StereoModel& model) {
+        const auto frame = depthFrame(view, model, 1);
+        const int count = view.depth.rows * view.depth.cols;
+        return 100 * std::count_if(frame.pixels(), frame.pixels() + count, [](int z) { return z > 0; }) / count;
+    };
+    StereoModel sun, sunAndDots, room;
+    sunAndDots.emitter = true;
+    room.emitter = true, room.light = 1.0 / 16;
+    EXPECT_LT(found(sun), 10);
+    EXPECT_LT(found(sunAndDots), 10);
+    EXPECT_GT(found(room), 80);
+    // The dots themselves: clearly seen in the room, hardly in the sun.
+    cv::Scalar mean, plain, sunny, dotted;
+    const View before = view;
+    cv::meanStdDev(view.infrared, mean, plain);
+    view.infrared = before.infrared.clone();
+    addEmitterDots(1, &view);
+    cv::meanStdDev(view.infrared, mean, sunny);
+    view.infrared = before.infrared.clone();
+    addEmitterDots(1.0 / 16, &view);
+    cv::meanStdDev(view.infrared, mean, dotted);
+    EXPECT_LT(sunny[0] - plain[0], 0.02 * mean[0]);
+    EXPECT_GT(dotted[0], 0.15 * mean[0]);
 }
 
 }  // namespace

@@ -1,0 +1,51 @@
+#include "simulator/world/Emitter.h"
+
+#include "simulator/synthesis/Noise.h"
+
+#include <opencv2/imgproc.hpp>
+
+#include <cmath>
+
+namespace fieldcal::world {
+
+namespace {
+
+constexpr float projectorX = 0.028F;            // metres to the right of the infrared camera
+constexpr float pitch = 0.014F, dot = 0.0017F;  // radians about: between dots, and a dot's spread
+constexpr float power = 0.12F;                  // of a dot on white at 1 m, sunlit white being 1
+constexpr float farthest = 8;
+
+/// Light of the pattern in a direction from the projector (x/z and y/z), 1 in the middle of a dot.
+float pattern(float u, float v) {
+    const int column = static_cast<int>(std::floor(u / pitch)), row = static_cast<int>(std::floor(v / pitch));
+    float light = 0;
+    for (int r = row - 1; r <= row + 1; ++r)
+        for (int c = column - 1; c <= column + 1; ++c) {
+            if (synthesis::Noise::cell(c, r, 131) > 0.7F) continue;
+            const float du = u - (static_cast<float>(c) + synthesis::Noise::cell(c, r, 132)) * pitch;
+            const float dv = v - (static_cast<float>(r) + synthesis::Noise::cell(c, r, 133)) * pitch;
+            light += std::exp(-0.5F * (du * du + dv * dv) / (dot * dot));
+        }
+    return light;
+}
+
+}  // namespace
+
+void addEmitterDots(double light, View* view) {
+    if (view->infrared.size() != view->depth.size()) return;
+    const auto& k = view->depthCamera;
+    cv::Mat_<float> around;  // how bright a surface is tells roughly how much it throws back
+    cv::blur(view->infrared, around, {15, 15});
+    forEachRow(view->depth.rows, [&](int y) {
+        for (int x = 0; x < view->depth.cols; ++x) {
+            const float z = view->depth(y, x);
+            if (z <= 0 || z > farthest) continue;
+            const float u = static_cast<float>((x - k.cx) / k.fx) - projectorX / z;
+            const float reflectance = std::min(0.9F, 0.2F + 0.7F * around(y, x));
+            view->infrared(y, x) += pattern(u, static_cast<float>((y - k.cy) / k.fy)) * reflectance * power /
+                                    (z * z * static_cast<float>(light));
+        }
+    });
+}
+
+}  // namespace fieldcal::world

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "simulator/world/View.h"
+
+namespace fieldcal::world {
+
+/// Adds what the infrared camera sees of the projector's dots: a fixed pattern of directions from 28 mm beside it,
+/// fading with the square of the distance. `light`: around the module, 1 in the sun, where dots are seen to about 1 m;
+/// a lit room has about 1/16, and they are seen to 4 m. Nothing is added unless infrared and depth have the same
+/// pixels.
+void addEmitterDots(double light, View* view);
+
+}  // namespace fieldcal::world
