@@ -22,11 +22,11 @@ void smearPicture(cv::Mat picture, double acrossPx, double downPx) {
     if (size.area() > 1) cv::blur(picture, picture, size, {-1, -1}, cv::BORDER_REPLICATE);
 }
 
-/// The smallest rectangle with every pixel that has no place in a picture of `size`.
+/// The smallest rectangle with every pixel that has no place well inside a picture of `size`.
 cv::Rect placeless(const Map& map, cv::Size size) {
     const cv::Mat_<std::uint8_t> placed = [&] {
         cv::Mat inside;
-        cv::inRange(map, cv::Scalar(0, 0), cv::Scalar(size.width - 1, size.height - 1), inside);
+        cv::inRange(map, cv::Scalar(1, 1), cv::Scalar(size.width - 2, size.height - 2), inside);
         return inside;
     }();
     return cv::boundingRect(placed == 0);

@@ -107,7 +107,7 @@ ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const InfraredSensor
     std::uint16_t* out = frame.pixels();
     for (int y = 0; y < picture.rows; ++y)
         for (int x = 0; x < picture.cols; ++x) {
-            const float light = picture(y, x) * (1 - veil) + mean * veil;
+            const float light = std::max(0.0F, picture(y, x)) * (1 - veil) + mean * veil;
             const float level = light * gain * throughLens(x, y, picture.size(), sensor.vignetting);
             const float seen = level + std::sqrt(level * perStep + read) * noise.next();
             *out++ = static_cast<std::uint16_t>(std::clamp(seen + 0.5F, 0.0F, 1023.0F));
@@ -130,7 +130,7 @@ ImageFrame32 exposeColour(const cv::Mat_<cv::Vec3f>& picture, const ColourSensor
         for (int x = 0; x < picture.cols; ++x, out += 4) {
             const float lens = gain * throughLens(x, y, picture.size(), sensor.vignetting);
             for (int band = 0; band < 3; ++band) {
-                const float level = (picture(y, x)[2 - band] * (1 - veil) + mean * veil) * lens;
+                const float level = (std::max(0.0F, picture(y, x)[2 - band]) * (1 - veil) + mean * veil) * lens;
                 out[band] = displayed(level + std::sqrt(level * perUnit + read) * noise.next());
             }
             out[3] = 255;
