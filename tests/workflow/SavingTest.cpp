@@ -69,8 +69,10 @@ protected:
     struct Listener : WorkflowListener {
         void stateChanged(State) override { opened = true; }
         void deviceError(const QString&) override { ++errors; }
+        void platformCameraIssue() override { ++rearCameraIssues; }
         std::atomic<bool> opened{false};
         std::atomic<int> errors{0};
+        std::atomic<int> rearCameraIssues{0};
     };
     void start() {
         thread = std::make_unique<ProcessingThread>(workflow);
@@ -90,6 +92,17 @@ TEST_F(EndingTest, SavingWaitsForACallThatIsSlow) {
     thread->stop(Stop::ToSave);
     const LeaveReport report = workflow.save();
     EXPECT_TRUE(report.stored) << report.writeBack.reason.toStdString();
+}
+
+TEST_F(EndingTest, ASilentRearCameraIsToldOnceAndTheRestGoesOn) {
+    std::atomic<int> grabs{0};
+    device->onGrab = [&] { ++grabs; };
+    start();
+    while (grabs < 20)
+        std::this_thread::yield();
+    thread->stop(Stop::ToLeave);
+    EXPECT_EQ(listener.rearCameraIssues, 1);
+    EXPECT_EQ(listener.errors, 0);
 }
 
 TEST_F(EndingTest, WhatFailsAfterTheUserWantsToEndIsKeptForTheEnd) {
