@@ -22,6 +22,13 @@ void smearPicture(cv::Mat picture, double acrossPx, double downPx) {
     if (size.area() > 1) cv::blur(picture, picture, size, {-1, -1}, cv::BORDER_REPLICATE);
 }
 
+/// Places of the pixels of a picture of half the size.
+Map halved(const Map& places) {
+    Map half;
+    cv::resize(places, half, places.size() / 2, 0, 0, cv::INTER_AREA);
+    return half;
+}
+
 /// The smallest rectangle with every pixel that has no place well inside a picture of `size`.
 cv::Rect placeless(const Map& map, cv::Size size) {
     const cv::Mat_<std::uint8_t> placed = [&] {
@@ -89,11 +96,17 @@ world::View ViewTurner::trembled(const SeenView& seen, const Attitude& now, bool
 world::View ViewTurner::between(const SeenView& nearer, const SeenView& other, const Attitude& now,
                                 bool withPlatform) const {
     world::View to = emptyLike(nearer.view, withPlatform);
+    // The motion blurs what half of the platform camera's many pixels would hold.
+    if (!to.platform.empty()) to.platform.create(nearer.view.platform.size() / 2);
     const auto paint = [&](const Eye& eye, const cv::Matx33d& attitude, const cv::Mat& near, const cv::Mat& far,
                            int interpolation, cv::Mat out) {
-        const Map places = eye.places(nearer, attitude);
+        const auto placesIn = [&](const SeenView& seen) {
+            const Map places = eye.places(seen, attitude);
+            return out.size() == places.size() ? places : halved(places);
+        };
+        const Map places = placesIn(nearer);
         const cv::Rect rest = placeless(places, near.size());
-        if (!rest.empty()) paintAll(far, eye.places(other, attitude)(rest), interpolation, out(rest));
+        if (!rest.empty()) paintAll(far, placesIn(other)(rest), interpolation, out(rest));
         paintOver(near, places, interpolation, out);
     };
     paint(infrared_, now.infrared, nearer.view.infrared, other.view.infrared, cv::INTER_LINEAR, to.infrared);
@@ -121,7 +134,8 @@ world::View ViewTurner::emptyLike(const world::View& view, bool withPlatform) co
 
 void ViewTurner::smear(world::View* view, cv::Point2d motionDeg) const {
     const auto smearBand = [&](const cv::Mat& picture, const Eye& eye) {
-        const double perDegree = eye.lens.focalPx() * radiansPerDegree;
+        const double scale = static_cast<double>(picture.cols) / eye.lens.size().width;
+        const double perDegree = eye.lens.focalPx() * radiansPerDegree * scale;
         smearPicture(picture, motionDeg.y * perDegree, motionDeg.x * perDegree);
     };
     smearBand(view->infrared, infrared_);

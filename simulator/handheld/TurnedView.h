@@ -27,7 +27,8 @@ public:
 
     /// What `seen` shows from an attitude that differs by a tremor, as sharp as it was.
     world::View trembled(const SeenView& seen, const Attitude& now, bool withPlatform) const;
-    /// What is seen between two views: from the nearer one, and from the other where that one does not reach.
+    /// What is seen between two views: from the nearer one, and from the other where that one does not reach. The
+    /// platform camera's picture comes in half its size.
     world::View between(const SeenView& nearer, const SeenView& other, const Attitude& now, bool withPlatform) const;
 
     /// Blurs by a motion of so many degrees about x and y during the exposure.

@@ -18,11 +18,22 @@ public:
         for (float& v : values_)
             v = static_cast<float>(random.normal());
     }
-    float next() { return values_[random_.bits() % values_.size()]; }
+    float next() {
+        if (left_ == 0) {
+            bits_ = random_.bits();
+            left_ = 4;
+        }
+        const std::uint64_t drawn = bits_;
+        bits_ >>= 16;
+        --left_;
+        return values_[drawn % values_.size()];
+    }
 
 private:
     Random& random_;
     std::array<float, 8192> values_{};
+    std::uint64_t bits_ = 0;  ///< four numbers are drawn at once
+    int left_ = 0;
 };
 
 /// Light left at a place after the lens, 1 in the middle.

@@ -2,6 +2,8 @@
 
 #include "session/Nv12.h"
 
+#include <opencv2/imgproc.hpp>
+
 namespace fieldcal::world {
 
 using synthesis::Random;
@@ -20,10 +22,12 @@ std::vector<std::uint8_t> platformFrame(const View& view, const synthesis::Still
                                         std::uint64_t noiseSeed) {
     if (view.platform.empty()) return {};
     Random random(noiseSeed, "platform noise");
-    const ImageFrame32 bgra = exposeColour(view.platform, settings.colour, settings.darkness, random);
-    const int width = static_cast<int>(bgra.width()), height = static_cast<int>(bgra.height());
+    ImageFrame32 seen = exposeColour(view.platform, settings.colour, settings.darkness, random);
+    const int width = session::kPlatformWidth, height = session::kPlatformHeight;
+    cv::Mat bgra(static_cast<int>(seen.height()), static_cast<int>(seen.width()), CV_8UC4, seen.bytes());
+    if (bgra.cols != width) cv::resize(bgra, bgra, {width, height}, 0, 0, cv::INTER_LINEAR);
     std::vector<std::uint8_t> nv12(static_cast<std::size_t>(width) * height * 3 / 2);
-    session::nv12FromBgra(bgra.bytes(), width, height, nv12.data());
+    session::nv12FromBgra(bgra.data, width, height, nv12.data());
     return nv12;
 }
 

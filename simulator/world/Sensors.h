@@ -12,7 +12,7 @@ ImageFrame16 infraredFrame(const View& view, const synthesis::StillSettings& set
 /// BGRA, alpha 255.
 ImageFrame32 thirdFrame(const View& view, const synthesis::StillSettings& settings, std::uint64_t noiseSeed);
 
-/// NV12; empty when the view has no platform picture.
+/// NV12, 1280 x 720; empty when the view has no platform picture. One of half the size is enlarged.
 std::vector<std::uint8_t> platformFrame(const View& view, const synthesis::StillSettings& settings,
                                         std::uint64_t noiseSeed);
 
