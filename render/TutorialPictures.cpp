@@ -49,6 +49,7 @@ RawPicture readRaw(const QString& path, qint64 bytesPerPixel, const char* missin
 void readDepth(const QString& path, ImageFrame16* depth) {
     const RawPicture raw =
         readRaw(path, kDepthBytes, "Could not open Depth Image to use inside of the refinement tutorial.");
+    if (raw.pixels.isEmpty()) return;
     depth->resize(raw.width, raw.height);
     qFromLittleEndian<quint16>(raw.pixels.constData(), raw.pixels.size() / kDepthBytes, depth->pixels());
 }
