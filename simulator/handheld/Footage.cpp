@@ -1,5 +1,6 @@
 #include "simulator/handheld/Footage.h"
 
+#include "simulator/world/Emitter.h"
 #include "simulator/world/Sensors.h"
 
 #include <cmath>
@@ -77,9 +78,9 @@ const session::FramePictures* Footage::resting() {
     const auto& seen = here_->moments[phase % here_->moments.size()];
     const auto trembled = [&](double frame) { return tremor(seed_, rest_, frame) * seen.pose.camera_world; };
     const double frame = static_cast<double>(phase), lag = colourLagSeconds * framesPerSecond;
-    const world::View view = turner_.trembled(seen, {trembled(frame), trembled(frame + lag)}, withPlatform_);
+    world::View view = turner_.trembled(seen, {trembled(frame), trembled(frame + lag)}, withPlatform_);
     const std::uint64_t noise = synthesis::mixBits(seed_) + static_cast<std::uint64_t>(rest_) * tremorFrames + phase;
-    trembling_[phase] = expose(view, here_->settings, noise);
+    trembling_[phase] = expose(std::move(view), here_->settings, noise);
     isThere_[phase] = true;
     return &trembling_[phase];
 }
@@ -96,17 +97,22 @@ const session::FramePictures* Footage::turning() {
     world::View view = turner_.between(firstHalf ? from : to, firstHalf ? to : from,
                                        {attitude(0), attitude(colourLagSeconds)}, platformShows);
     turner_.smear(&view, motionDeg(attitude(0), attitude(exposureSeconds)));
-    moving_ = expose(view, firstHalf ? here_->settings : there_->settings, synthesis::mixBits(seed_ ^ frame_));
+    moving_ =
+        expose(std::move(view), firstHalf ? here_->settings : there_->settings, synthesis::mixBits(seed_ ^ frame_));
     return &moving_;
 }
 
-session::FramePictures Footage::expose(const world::View& view, const synthesis::StillSettings& settings,
+session::FramePictures Footage::expose(world::View view, const synthesis::StillSettings& settings,
                                        std::uint64_t noise) const {
     const double light = light_.at(frame_ / framesPerSecond);
+    world::StereoModel stereo;
+    stereo.emitter = emitter_;
+    stereo.light = light * settings.darkness;
+    if (emitter_) addEmitterDots(stereo.light, &view);
     synthesis::StillSettings infrared = settings, colour = settings;
     infrared.darkness *= light;
     colour.darkness *= colourLight(light);
-    return {infraredFrame(view, infrared, noise), depthFrame(view, {}, noise), thirdFrame(view, colour, noise),
+    return {infraredFrame(view, infrared, noise), depthFrame(view, stereo, noise), thirdFrame(view, colour, noise),
             platformFrame(view, colour, noise)};
 }
 

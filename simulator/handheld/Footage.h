@@ -16,7 +16,8 @@ public:
     Footage(const std::string& world, std::uint64_t seed, const session::SessionDescription& rig,
             const LightCourse& light);
 
-    /// With the emitter on the hand stays where it is, as a user does who studies the overlay.
+    /// From the next frame on. With the emitter on its dots are seen, and the hand stays where it is, as a user does
+    /// who studies the overlay.
     void setEmitter(bool on) { emitter_ = on; }
     void setPlatformWanted(bool wanted) { withPlatform_ = wanted; }
 
@@ -42,7 +43,7 @@ private:
     bool mayLeave(std::chrono::milliseconds patience);
     const session::FramePictures* resting();
     const session::FramePictures* turning();
-    session::FramePictures expose(const world::View& view, const synthesis::StillSettings& settings,
+    session::FramePictures expose(world::View view, const synthesis::StillSettings& settings,
                                   std::uint64_t noise) const;
 
     std::uint64_t seed_;

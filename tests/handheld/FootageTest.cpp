@@ -76,6 +76,32 @@ TEST(Footage, WithTheEmitterOnTheHandStays) {
     }
 }
 
+TEST(Footage, DotsAreSeenAsLongAsTheEmitterIsOnAndNotAFrameLonger) {
+    Footage plain("near", 3, rig(), light("indoors")), dotted("near", 3, rig(), light("indoors"));
+    dotted.setEmitter(true);
+    const auto count = [](const Print& some, const Print& other) {
+        int brighter = 0, deeper = 0;
+        for (std::size_t i = 0; i < some.infrared.size(); ++i) {
+            brighter += some.infrared[i] > other.infrared[i] + 60 ? 1 : 0;
+            deeper += some.depth[i] > 0 && other.depth[i] == 0 ? 1 : 0;
+        }
+        return std::make_pair(brighter, deeper);
+    };
+    for (int i = 0; i < 30; ++i) {
+        dotted.setEmitter(i < 12);
+        ASSERT_TRUE(plain.advance(60s) && dotted.advance(60s));
+        const Print without(*plain.current()), with(*dotted.current());
+        if (i >= 12) {
+            ASSERT_TRUE(with == without) << i;
+            continue;
+        }
+        EXPECT_GT(count(with, without).first, 2000) << i;
+        EXPECT_EQ(count(without, with).first, 0) << i;
+        EXPECT_GT(count(with, without).second, 2 * count(without, with).second) << i;
+        EXPECT_EQ(with.third, without.third) << i;
+    }
+}
+
 TEST(LightCourse, DarkensAndBrightensWhatIsSeen) {
     // Means of infrared, as the light gate takes them: lit above 130, lost again at 110.
     const auto mean = [](const std::string& name, int frames) {

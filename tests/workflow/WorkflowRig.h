@@ -8,15 +8,41 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <set>
 #include <string>
 #include <vector>
 
 namespace fieldcal::testing {
+
+/// Whether the module's emitter is on, as the sensor's log has it.
+class EmitterWatch {
+public:
+    EmitterWatch() { previous() = qInstallMessageHandler(&EmitterWatch::watch); }
+    ~EmitterWatch() { qInstallMessageHandler(previous()); }
+    EmitterWatch(const EmitterWatch&) = delete;
+    EmitterWatch& operator=(const EmitterWatch&) = delete;
+
+    static std::atomic<bool>& isOn() {
+        static std::atomic<bool> on{false};
+        return on;
+    }
+
+private:
+    static QtMessageHandler& previous() {
+        static QtMessageHandler handler = nullptr;
+        return handler;
+    }
+    static void watch(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+        if (text.startsWith("Emitter is ")) isOn() = text == "Emitter is enabled.";
+        previous()(type, context, text);
+    }
+};
 
 /// The person in front of the screen: sees what the workflow tells, and can wait for it.
 class User : public WorkflowListener {
@@ -38,6 +64,9 @@ public:
 
     void stateChanged(State state) override {
         note([&] { states.push_back(state); });
+    }
+    void framesReady(State state, ColourCamera, const FrameRecords&) override {
+        if (EmitterWatch::isOn()) note([&] { dotted.insert(state); });
     }
     void lightMeasured(const LightGate::Reading& reading) override {
         note([&] { lit = reading.lit; });
@@ -66,6 +95,7 @@ public:
     std::vector<State> states;
     std::size_t seen = 0;
     bool lit = false;
+    std::set<State> dotted;  ///< states in which frames came while the emitter was on
     std::vector<std::int32_t> codes;
     std::vector<std::string> errors;
     std::optional<SaveNote> lastSave;
@@ -138,6 +168,7 @@ protected:
     QTemporaryDir folder;
     FakeServiceControl control;
     std::unique_ptr<PXMServiceManager> services;
+    EmitterWatch emitter;
     std::unique_ptr<User> user;
     std::unique_ptr<Workflow> workflow;
     std::unique_ptr<ProcessingThread> thread;

@@ -59,6 +59,7 @@ TEST_F(WorkflowTest, TwoCamerasFromTheFirstScreenToTheFlash) {
     const Rotation secondEstimate = *workflow->records().estimated(kSecond);
     EXPECT_LT(degreesBetween(matrixOf(secondEstimate), Eigen::Map<const Matrix>(truth.truthPlatform->data())), 0.05);
 
+    EXPECT_THAT(user->dotted, ElementsAre(State::RefiningCalibration)) << "dots would spoil what is matched";
     EXPECT_EQ(flash(), before) << "nothing is written before the save";
     const LeaveReport report = stopAndSave();
     EXPECT_TRUE(report.stored) << report.writeBack.reason.toStdString();
