@@ -53,7 +53,7 @@ function(fieldcal_test name)
     set(command test_${name})
     if(ARG_SCREEN)
         # Not the developer's display: windows there would steal the focus, and the pixels be those of its driver.
-        if(FIELDCAL_SANITIZE MATCHES address)
+        if(FIELDCAL_SANITIZE)
             target_sources(test_${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/screen/KeepDriver.cpp)
         endif()
         set(command ${PROJECT_SOURCE_DIR}/scripts/on-screen ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:test_${name}>)

@@ -63,12 +63,12 @@ void DepthColorOverlayRenderer::judgeDepth(std::size_t points, std::size_t pixel
     const bool sparse = share < (depthSparse_ ? kEnoughFrom : kSparseBelow);
     // Interfaces listen on the main thread only.
     if (depthSparse_.exchange(sparse) != sparse)
-        QMetaObject::invokeMethod(this, &DepthColorOverlayRenderer::depthSparseChanged, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "depthSparseChanged", Qt::QueuedConnection);
 }
 
 void DepthColorOverlayRenderer::setCorrectionDeg(double degrees) {
     if (correctionDeg_.exchange(degrees) != degrees)
-        QMetaObject::invokeMethod(this, &DepthColorOverlayRenderer::correctionDegChanged, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "correctionDegChanged", Qt::QueuedConnection);
 }
 
 void DepthColorOverlayRenderer::setStoredShown(bool shown) {
