@@ -44,6 +44,7 @@ TEST_F(WorkflowTest, TwoCamerasFromTheFirstScreenToTheFlash) {
     const Rotation firstEstimate = *workflow->records().estimated(kFirst);
     EXPECT_LT(degreesBetween(matrixOf(firstEstimate), Eigen::Map<const Matrix>(truth.truthThird->data())), 0.05);
     workflow->requestState(State::RefiningCalibration);
+    ASSERT_TRUE(user->waitUntil([&] { return !user->dotted.empty(); })) << "depth is to reach further";
     dragBy(1.0F);
 
     // The restart comes before the loop has seen the switch; it is about the second camera all the same.
