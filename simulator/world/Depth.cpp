@@ -24,20 +24,21 @@ std::uint16_t measured(double depth, double focalPx, const StereoModel& model, d
     return static_cast<std::uint16_t>(std::lround(found * 1000));
 }
 
-/// Texture along the rows around each pixel, in deviations of the infrared sensor's noise.
+/// Texture along the rows around each pixel, as a multiple of what stereo needs against the infrared sensor's noise.
 cv::Mat_<float> textureOf(const View& view) {
-    constexpr int window = 9;
+    constexpr double window = 5;   // pixels, of a Gaussian
+    constexpr float gathered = 2;  // how far below the noise a whole window still tells shifts apart
     constexpr double exposed = 400, stepsPerElectron = 1.0 / 14, readNoise = 2.2;
     cv::Mat_<float> texture, level, slope;
     cv::resize(view.infrared, level, view.depth.size());
     level *= exposed / std::max(1e-6, cv::mean(level)[0]);
     cv::filter2D(level, slope, CV_32F, cv::Matx13f(-0.7071F, 0, 0.7071F));
-    cv::sqrBoxFilter(slope, texture, CV_32F, {window, window});
-    cv::blur(level, level, {window, window});
+    cv::GaussianBlur(slope.mul(slope), texture, cv::Size(), window);
+    cv::GaussianBlur(level, level, cv::Size(), window);
     for (int y = 0; y < level.rows; ++y)
         for (int x = 0; x < level.cols; ++x) {
             const auto noise = static_cast<float>(level(y, x) * stepsPerElectron + readNoise * readNoise);
-            texture(y, x) = std::sqrt(texture(y, x) / noise);
+            texture(y, x) = gathered * std::sqrt(texture(y, x) / noise);
         }
     return texture;
 }
@@ -86,7 +87,7 @@ void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& sh
 }
 
 ImageFrame16 measureDepth(const View& view, const StereoModel& model, synthesis::Random& random) {
-    constexpr double plenty = 2;  // texture in deviations of the noise; below 1 nothing is found
+    constexpr double plenty = 2;  // times the texture that is needed
     const cv::Mat_<float> texture = textureOf(view);
     ImageFrame16 frame;
     frame.resize(static_cast<std::uint32_t>(view.depth.cols), static_cast<std::uint32_t>(view.depth.rows));

@@ -37,16 +37,16 @@ Look Paving::at(const Place& place) const {
 Look Turf::at(const Place& place) const {
     const float x = place.texture[0], z = place.texture[1], seen = place.footprint;
     constexpr synthesis::Material blades{synthesis::materials::grass.reflectance, 0.18F, 0.07F, 0.05F};
-    constexpr synthesis::Material grit{synthesis::materials::gravel.reflectance, 0.20F, 0.06F, 0.06F};
+    constexpr synthesis::Material grit{synthesis::materials::gravel.reflectance, 0.16F, 0.05F, 0.05F};
     // Where people walk, the ground is bare and stony.
-    const float worn = smoothStep(0.25F, 0.4F, noise_.fractal(x, z, 9.0F, seen, 0.55F));
-    const float tufts = noise_.fractal(x, z, 0.3F, seen, 0.85F),
-                across = noise_.fractal(z - 17, x + 29, 0.3F, seen, 0.85F);
+    const float worn = smoothStep(0.2F, 0.35F, noise_.fractal(x, z, 9.0F, seen, 0.55F));
+    const float tufts = noise_.fractal(x, z, 0.3F, seen, 0.85F);
+    const float pebbles = noise_.fractal(z - 17, x + 29, 0.12F, seen, 0.9F);
     Look look;
-    look.surface.reflectance = mix(mottled(blades, noise_, x, z, 1.5F, seen) * std::max(0.3F, 1 + 0.3F * tufts),
-                                   mottled(grit, noise_, x, z, 0.4F, seen) * std::max(0.4F, 1 + 0.2F * across), worn);
+    look.surface.reflectance = mix(mottled(blades, noise_, x, z, 1.5F, seen) * std::max(0.3F, 1 + 0.4F * tufts),
+                                   mottled(grit, noise_, x, z, 1.0F, seen) * std::max(0.4F, 1 + 0.3F * pebbles), worn);
     // Blades stand on edge, and their shading is deepest where they are thick.
-    look.tilt = cv::Vec3f(tufts, 0, across) * (0.4F - 0.15F * worn);
+    look.tilt = cv::Vec3f(tufts, 0, pebbles) * (0.4F - 0.1F * worn);
     look.surface.openness = 0.8F;
     look.smooth = true;
     return look;

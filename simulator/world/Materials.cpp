@@ -43,8 +43,8 @@ Look Leaf::at(const Place& place) const {
     look.surface.openness = place.texture[1];
     // Most of the near infrared passes a leaf and lights the ones behind it: shadows in crowns are shallow there.
     look.through = 0.45F;
-    look.throughInfrared = 0.9F;
-    look.surface.gloss.infrared = 0.10F * reflectance_.infrared * (0.4F + 0.6F * place.texture[1]);
+    look.throughInfrared = 0.65F;
+    look.surface.gloss.infrared = 0.05F * reflectance_.infrared * (0.4F + 0.6F * place.texture[1]);
     return look;
 }
 

@@ -53,19 +53,19 @@ void addLeaves(Mesh& mesh, const Crown& crown, const std::vector<cv::Vec3f>& bou
     }
 }
 
-/// Bodies of shade within the boughs, so that the sky shows only at the rim.
+/// Large leaves deep within the boughs, so that the sky shows only at the rim.
 void addHearts(Mesh& mesh, const Crown& crown, const std::vector<cv::Vec3f>& boughs, MaterialId material,
                Random& random) {
-    for (const auto& bough : boughs) {
-        const float phase = random.between(0, 6);
-        const auto ragged = [phase](const cv::Vec3f& d) {
-            return 1 + 0.3F * std::sin(7 * d[0] + phase) * std::sin(6 * d[1] - phase) * std::cos(8 * d[2]);
-        };
-        const std::size_t first = mesh.vertices.size();
-        addBall(mesh, within(crown, bough), crown.radii * 0.17F, 6, material, ragged);
-        for (std::size_t i = first; i < mesh.vertices.size(); ++i)
-            mesh.vertices[i].texture = {static_cast<float>(random.index(60000)) + 0.5F, 0.15F};
-    }
+    constexpr int leaves = 110;
+    const float size = 0.075F * (crown.radii[0] + crown.radii[1]) * 0.5F;
+    for (const auto& bough : boughs)
+        for (int i = 0; i < leaves; ++i) {
+            const cv::Vec3f out = anyDirection(random);
+            const cv::Vec3f place = within(crown, bough + out * random.between(0.06F, 0.15F));
+            const cv::Vec3f normal = unit(out + anyDirection(random) * 0.5F);
+            addLeaf(mesh, place, normal, size * random.between(0.7F, 1.2F), random.between(0.2F, 0.4F), material,
+                    random);
+        }
 }
 
 std::vector<cv::Vec3f> placeBoughs(int count, Random& random) {
@@ -96,7 +96,7 @@ void addTree(Mesh& mesh, const Tree& tree, const PlantMaterials& materials, Rand
     crown.leaves = tree.leaves, crown.leafSize = tree.leafSize;
     const float girth = tree.height * 0.013F;
     addPost(mesh, {tree.foot, tree.height * 0.75F, girth * 1.3F, girth * 0.35F, 12}, materials.bark);
-    const auto boughs = placeBoughs(14 + random.index(10), random);
+    const auto boughs = placeBoughs(18 + random.index(10), random);
     for (const auto& bough : boughs) {
         const cv::Vec3f tip = within(crown, bough);
         const float fork = std::max(tree.height * 0.25F, (tree.foot[1] - tip[1]) * random.between(0.55F, 0.8F));
@@ -109,7 +109,7 @@ void addTree(Mesh& mesh, const Tree& tree, const PlantMaterials& materials, Rand
 void addBush(Mesh& mesh, const cv::Vec3f& foot, const cv::Vec3f& radii, int leaves, float leafSize, MaterialId leaf,
              Random& random) {
     Crown crown{foot + cv::Vec3f(0, -radii[1] * 0.62F, 0), radii, leaves, leafSize};
-    const auto boughs = placeBoughs(12 + random.index(8), random);
+    const auto boughs = placeBoughs(14 + random.index(8), random);
     addHearts(mesh, crown, boughs, leaf, random);
     addLeaves(mesh, crown, boughs, leaf, random);
 }
