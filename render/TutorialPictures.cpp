@@ -14,7 +14,8 @@ constexpr qint64 kHeaderBytes = 8;
 constexpr qint64 kDepthBytes = 2;
 constexpr qint64 kColourBytes = 3;
 
-constexpr float kFocalOverWidth = 0.75F;
+constexpr float kDepthFocalOverWidth = 0.94F;
+constexpr float kColourFocalOverWidth = 0.73F;
 constexpr float kBaselineMetres = 0.025F;
 
 struct RawPicture {
@@ -87,10 +88,10 @@ bool write(const QString& path, const ImageFrame& frame, const QByteArray& pixel
     return false;
 }
 
-CameraModel tutorialCamera(const ImageFrame& frame) {
+CameraModel tutorialCamera(const ImageFrame& frame, float focalOverWidth) {
     const auto width = static_cast<float>(frame.width());
     const auto height = static_cast<float>(frame.height());
-    const float focal = kFocalOverWidth * width;
+    const float focal = focalOverWidth * width;
     return {static_cast<std::int32_t>(frame.width()),
             static_cast<std::int32_t>(frame.height()),
             focal,
@@ -125,8 +126,8 @@ bool writeTutorialColour(const QString& path, const ImageFrame32& colour) {
 
 OverlayCalibration tutorialCalibration(const TutorialPictures& pictures) {
     OverlayCalibration cameras;
-    cameras.depth = tutorialCamera(pictures.depth);
-    cameras.colour = tutorialCamera(pictures.colour);
+    cameras.depth = tutorialCamera(pictures.depth, kDepthFocalOverWidth);
+    cameras.colour = tutorialCamera(pictures.colour, kColourFocalOverWidth);
     cameras.stored.translation = {kBaselineMetres, 0, 0};
     return cameras;
 }

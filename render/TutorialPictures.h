@@ -31,8 +31,9 @@ TutorialPictures loadTutorialPictures(const TutorialFiles& files);
 bool writeTutorialDepth(const QString& path, const ImageFrame16& depth);
 bool writeTutorialColour(const QString& path, const ImageFrame32& colour);
 
-/// The cameras that the pictures are made with: for each a pinhole whose focal length is 0.75 of the width, principal
-/// point in the middle; their axes are parallel, and the colour camera lies 25 mm to the left of the depth camera.
+/// The cameras that the pictures are made with: pinholes with the principal point in the middle, the depth camera's
+/// focal length 0.94 of its width, the colour camera's 0.73. Their axes are parallel; the colour camera lies 25 mm to
+/// the left of the depth camera.
 OverlayCalibration tutorialCalibration(const TutorialPictures& pictures);
 
 }  // namespace fieldcal

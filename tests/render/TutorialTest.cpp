@@ -90,9 +90,10 @@ TEST_F(Tutorial, ShowsStoredPicturesThatSwingWithTheHint) {
     look();
     const QPointF hintAtRest = centreOf(isHint);
     const QPointF depthAtRest = centreOf(isDepth);
-    // Focal length 0.75 · 640; the colour camera stands 25 mm beside depth.
-    EXPECT_NEAR(depthAtRest.x(), 320 + 2 + 480 * 0.025 / 2.5, 1);
-    EXPECT_NEAR(depthAtRest.y(), 240 + 2, 1);
+    // Half a pixel off the axis of depth; the colour camera stands 25 mm beside it.
+    const double colourFocal = 0.73 * 640;
+    EXPECT_NEAR(depthAtRest.x(), 320 + colourFocal * (0.5 / (0.94 * 160) + 0.025 / 2.5), 1);
+    EXPECT_NEAR(depthAtRest.y(), 240 + colourFocal * 0.5 / (0.94 * 160), 1);
     EXPECT_NEAR(hintAtRest.x(), 320, 1);
 
     const int quarter = 22;  // nearly a quarter of the swing
@@ -100,7 +101,7 @@ TEST_F(Tutorial, ShowsStoredPicturesThatSwingWithTheHint) {
     overlay.setDemonstrationRotation(swingRotation(quarter));
     look();
     EXPECT_NEAR((centreOf(isHint) - hintAtRest).x(), 320 * kSwingAmplitudeDeg / 4, 1);
-    EXPECT_NEAR((centreOf(isDepth) - depthAtRest).x(), 480 * std::tan(kSwingAmplitudeDeg / 57.29578), 1);
+    EXPECT_NEAR((centreOf(isDepth) - depthAtRest).x(), colourFocal * std::tan(kSwingAmplitudeDeg / 57.29578), 1);
 
     overlay.setTutorialMode(false);
     overlay.setFrames(plainPicture(8, 8, qRgb(0, 255, 0)), depthOf(8, 8, 1));
