@@ -86,9 +86,10 @@ private:
     const ApplicationEnvironment environment_;
     QTranslator translator_;
     bool leftToRight_ = true;
-    QmlFunctions functions_;
+    MainThreadCalls mainThread_;
+    QmlFunctions functions_{mainThread_};
     ImageViews views_;
-    WorkflowBridge bridge_{*this, functions_, views_};
+    WorkflowBridge bridge_{*this, mainThread_, functions_, views_};
     Workflow workflow_;
     UpdateCheck updates_;
     QQmlApplicationEngine engine_;  ///< its views use the workflow's engine

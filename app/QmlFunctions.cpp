@@ -2,7 +2,6 @@
 
 #include <QGenericArgument>
 #include <QMetaObject>
-#include <QThread>
 
 namespace fieldcal {
 
@@ -84,12 +83,7 @@ void QmlFunctions::showLastSaveFailed(const QString& text) {
 
 // The root belongs to the main thread; another thread does not even look at it.
 void QmlFunctions::call(const char* function, const QVariantList& arguments) {
-    if (QThread::currentThread() == thread()) {
-        callNow(function, arguments);
-    } else {
-        QMetaObject::invokeMethod(
-            this, [this, function, arguments] { callNow(function, arguments); }, Qt::QueuedConnection);
-    }
+    mainThread_.call([this, function, arguments] { callNow(function, arguments); });
 }
 
 void QmlFunctions::callNow(const char* function, const QVariantList& arguments) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/MainThreadCalls.h"
 #include "workflow/State.h"
 
 #include <QObject>
@@ -9,10 +10,12 @@
 
 namespace fieldcal {
 
-/// The functions of the interface's root document; what each does is told in `docs/interface-map.md`. Any thread: a
-/// call from another thread than this object's is queued and never waits, in the order of what that thread emits.
-class QmlFunctions : public QObject {
+/// The functions of the interface's root document; what each does is told in `docs/interface-map.md`. Any thread: from
+/// another than the main one the calls are queued.
+class QmlFunctions {
 public:
+    explicit QmlFunctions(MainThreadCalls& mainThread) : mainThread_(mainThread) {}
+
     /// Before any call; main thread.
     void setRoot(QObject* root) { root_ = root; }
 
@@ -40,6 +43,7 @@ private:
     void call(const char* function, const QVariantList& arguments = {});
     void callNow(const char* function, const QVariantList& arguments) const;
 
+    MainThreadCalls& mainThread_;
     QPointer<QObject> root_;
 };
 

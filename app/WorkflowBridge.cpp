@@ -7,13 +7,9 @@
 
 namespace fieldcal {
 
-WorkflowBridge::WorkflowBridge(GlobalManager& manager, QmlFunctions& functions, ImageViews& views)
-    : manager_(manager), functions_(functions), views_(views) {}
-
-template <typename Slot>
-void WorkflowBridge::queue(Slot slot) {
-    QMetaObject::invokeMethod(&manager_, slot, Qt::QueuedConnection);
-}
+WorkflowBridge::WorkflowBridge(GlobalManager& manager, MainThreadCalls& mainThread, QmlFunctions& functions,
+                               ImageViews& views)
+    : manager_(manager), mainThread_(mainThread), functions_(functions), views_(views) {}
 
 void WorkflowBridge::requestRender() {
     if (pacer_.request()) emit manager_.signal_tellAppToRenderImages();
@@ -61,19 +57,19 @@ void WorkflowBridge::lastSaveFailed(const SaveNote& note) {
 }
 
 void WorkflowBridge::deviceError(const QString& text) {
-    queue([this, text] { manager_.slot_getKXAPIErrorAndQuit(text); });
+    mainThread_.call([this, text] { manager_.slot_getKXAPIErrorAndQuit(text); });
 }
 
 void WorkflowBridge::missingModule() {
-    queue([this] { manager_.slot_reportMissingQ550Device(); });
+    mainThread_.call([this] { manager_.slot_reportMissingQ550Device(); });
 }
 
 void WorkflowBridge::missingPlatformCamera() {
-    queue([this] { manager_.slot_reportMissingPlatformCamera(); });
+    mainThread_.call([this] { manager_.slot_reportMissingPlatformCamera(); });
 }
 
 void WorkflowBridge::platformCameraIssue() {
-    queue([this] { manager_.slot_reportPlatformCameraIssue(); });
+    mainThread_.call([this] { manager_.slot_reportPlatformCameraIssue(); });
 }
 
 void WorkflowBridge::movementText(const std::string& text) {

@@ -9,13 +9,14 @@ namespace fieldcal {
 
 class GlobalManager;
 class ImageViews;
+class MainThreadCalls;
 class QmlFunctions;
 
 /// Brings what the workflow tells, on the processing thread, to the main thread: as the manager's queued signals, as
 /// queued calls, and as pictures for the views. Waits for the main thread only in `refining`.
 class WorkflowBridge : public WorkflowListener {
 public:
-    WorkflowBridge(GlobalManager& manager, QmlFunctions& functions, ImageViews& views);
+    WorkflowBridge(GlobalManager& manager, MainThreadCalls& mainThread, QmlFunctions& functions, ImageViews& views);
 
     // The main thread's.
     void renderRequestArrived() { pacer_.arrived(); }
@@ -46,10 +47,9 @@ public:
 
 private:
     void requestRender();
-    template <typename Slot>
-    void queue(Slot slot);
 
     GlobalManager& manager_;
+    MainThreadCalls& mainThread_;
     QmlFunctions& functions_;
     ImageViews& views_;
     RenderPacer pacer_;

@@ -169,7 +169,8 @@ TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
     start("openDevice:1:5", [](ApplicationEnvironment& environment) {
         environment.rootDocument = ApplicationEnvironment().rootDocument;
     });
-    QmlFunctions functions;
+    MainThreadCalls mainThread;
+    QmlFunctions functions(mainThread);
     functions.setRoot(manager->window());
     functions.setLeftToRightLanguage(false);
     for (int state = 0; state <= 11; ++state)

@@ -4,6 +4,7 @@
 #include <QtGlobal>
 
 #include <algorithm>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -25,10 +26,18 @@ public:
         static std::vector<std::string> collected;
         return collected;
     }
-    static bool has(const std::string& line) { return std::count(lines().begin(), lines().end(), line) > 0; }
+    static bool has(const std::string& line) {
+        const std::lock_guard lock(mutex());
+        return std::count(lines().begin(), lines().end(), line) > 0;
+    }
 
 private:
+    static std::mutex& mutex() {
+        static std::mutex ofLines;
+        return ofLines;
+    }
     static void collect(QtMsgType type, const QMessageLogContext&, const QString& text) {
+        const std::lock_guard lock(mutex());
         lines().push_back((type == QtCriticalMsg ? "CRITICAL " : "") + text.toStdString());
     }
 
