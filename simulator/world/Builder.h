@@ -28,6 +28,7 @@ struct Builder {
     Sway sway;
     Materials materials;
     Daylight daylight;
+    float lampsLit = 0;  ///< radiance of lamp heads; 0: switched off
 };
 
 std::unique_ptr<Stage> buildMountains(std::uint64_t seed);

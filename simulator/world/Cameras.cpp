@@ -59,7 +59,9 @@ session::FramePictures Cameras::take(const World& world, const Moment& moment, c
     pictures.infrared = infraredFrame(view, settings, noiseSeed);
     pictures.third = thirdFrame(view, settings, noiseSeed);
     pictures.platform = platformFrame(view, settings, noiseSeed);
-    pictures.depth = depthFrame(view, stereo, noiseSeed);
+    StereoModel depth = stereo;
+    depth.darkness = settings.darkness;
+    pictures.depth = depthFrame(view, depth, noiseSeed);
     return pictures;
 }
 

@@ -25,13 +25,13 @@ std::uint16_t measured(double depth, double focalPx, const StereoModel& model, d
 }
 
 /// Texture along the rows around each pixel, as a multiple of what stereo needs against the infrared sensor's noise.
-cv::Mat_<float> textureOf(const View& view) {
+cv::Mat_<float> textureOf(const View& view, double darkness) {
     constexpr double window = 5;   // pixels, of a Gaussian
     constexpr float gathered = 2;  // how far below the noise a whole window still tells shifts apart
     constexpr double exposed = 400, stepsPerElectron = 1.0 / 14, readNoise = 2.2;
     cv::Mat_<float> texture, level, slope;
     cv::resize(view.infrared, level, view.depth.size());
-    level *= exposed / std::max(1e-6, cv::mean(level)[0]);
+    level *= exposed * darkness / std::max(1e-6, cv::mean(level)[0]);
     cv::filter2D(level, slope, CV_32F, cv::Matx13f(-0.7071F, 0, 0.7071F));
     cv::GaussianBlur(slope.mul(slope), texture, cv::Size(), window);
     cv::GaussianBlur(level, level, cv::Size(), window);
@@ -88,7 +88,7 @@ void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& sh
 
 ImageFrame16 measureDepth(const View& view, const StereoModel& model, synthesis::Random& random) {
     constexpr double plenty = 2;  // times the texture that is needed
-    const cv::Mat_<float> texture = textureOf(view);
+    const cv::Mat_<float> texture = textureOf(view, model.darkness);
     ImageFrame16 frame;
     frame.resize(static_cast<std::uint32_t>(view.depth.cols), static_cast<std::uint32_t>(view.depth.rows));
     std::uint16_t* out = frame.pixels();

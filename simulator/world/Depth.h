@@ -16,6 +16,7 @@ struct StereoModel {
     double noisePx = 0.06;                ///< where there is plenty of texture; up to three times that elsewhere
     double stepPx = 1.0 / 32;
     bool emitter = false;  ///< its dots give surfaces the texture they lack, to about 1 m in the sun
+    double darkness = 1;   ///< share of the light that a full exposure would need, as for the other sensors
     double light = 1;      ///< around the module, 1 in the sun; a lit room has about 1/16, and the dots reach 4 m
 };
 

@@ -58,6 +58,15 @@ Look Glass::at(const Place& place) const {
     return look;
 }
 
+Look Water::at(const Place& place) const {
+    Look look;
+    look.surface.reflectance = {0.03F, 0.05F, 0.04F, 0.012F};
+    look.mirror = 0.02F;
+    const cv::Vec2f ripples = bumps(noise_, place.texture, 0.5F, place.footprint);
+    look.tilt = cv::Vec3f(ripples[0], 0, ripples[1]) * 0.012F;
+    return look;
+}
+
 Look Sign::at(const Place& place) const {
     Look look;
     look.surface.reflectance = synthesis::signReflectance(seed_, place.texture[0], place.texture[1], height_);

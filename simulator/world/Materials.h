@@ -56,6 +56,16 @@ private:
     synthesis::Spectrum inside_;
 };
 
+/// Still water with ripples, dark in the near infrared. Texture: metres.
+class Water : public Material {
+public:
+    explicit Water(const synthesis::Noise& noise) : noise_(noise) {}
+    Look at(const Place& place) const override;
+
+private:
+    const synthesis::Noise& noise_;
+};
+
 /// A board with lettering in inks of which some are not seen in the near infrared. Texture from its lower left corner.
 class Sign : public Material {
 public:

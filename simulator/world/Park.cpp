@@ -62,6 +62,7 @@ void furnish(Builder& b, const Lawn& lawn) {
         addFurniture(b, lawn.at(b.random.between(5, 18), b.random.between(0, 6.2832F)), b.random.between(0, 6.2832F));
     for (int i = 0; i < 4; ++i)
         addLamp(b, lawn.at(b.random.between(7, 25), b.random.between(0, 6.2832F)));
+    addFountain(b, lawn.at(b.random.between(7, 12), b.random.between(0, 6.2832F)), b.random.between(1.8F, 3));
     buildFarHouses(b, lawn.eye, 110, 8);
 }
 

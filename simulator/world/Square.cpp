@@ -23,6 +23,7 @@ void standThings(Builder& b, float eye, float half) {
     }
     for (int i = 0; i < 12; ++i)
         addFurniture(b, onGround(eye, b.random.between(5, 16), anyAngle()), anyAngle());
+    addFountain(b, onGround(eye, b.random.between(6, 10), anyAngle()), b.random.between(1.6F, 2.6F));
 }
 
 Paving::Stones drawStones(synthesis::Random& random) {
@@ -41,8 +42,11 @@ void pave(Builder& b, float eye, const Paving::Stones& stones) {
 
 }  // namespace
 
-std::unique_ptr<Stage> buildSquare(std::uint64_t seed) {
+namespace {
+
+std::unique_ptr<Stage> build(std::uint64_t seed, float lampsLit) {
     Builder b(seed, "square");
+    b.lampsLit = lampsLit;
     b.drawDaylight();
     b.daylight.ridgeHeight = 0.09F;
     const float eye = b.random.between(1.6F, 2.6F), half = b.random.between(20, 30);
@@ -58,6 +62,12 @@ std::unique_ptr<Stage> buildSquare(std::uint64_t seed) {
     }
     standThings(b, eye, half);
     return b.finish();
+}
+
+}  // namespace
+
+std::unique_ptr<Stage> buildSquare(std::uint64_t seed) {
+    return build(seed, 0);
 }
 
 /// One window like the next, on all four sides.
@@ -78,9 +88,9 @@ std::unique_ptr<Stage> buildRepetitive(std::uint64_t seed) {
     return stage;
 }
 
-/// The square when there is too little light for the cameras.
+/// The square when there is too little light for the cameras: they see little more than the lamps.
 std::unique_ptr<Stage> buildNight(std::uint64_t seed) {
-    auto stage = buildSquare(seed);
+    auto stage = build(seed, 60);
     if (stage) stage->darkness = 0.004;
     return stage;
 }

@@ -97,10 +97,44 @@ void addCar(Builder& b, const cv::Vec3f& foot, float turn) {
     addWheels(b, car);
 }
 
+void addFountain(Builder& b, const cv::Vec3f& foot, float radius) {
+    constexpr int sides = 28;
+    constexpr float rim = 0.3F;
+    const auto stone = b.material<Solid>(synthesis::materials::stone, *b.noise, Solid::Finish{0.6F, 0, 0.05F});
+    const auto water = b.material<Water>(*b.noise);
+    const float height = b.random.between(0.4F, 0.6F);
+    const auto at = [&](int side, float reach, float up) {
+        const float angle = 6.2831853F * static_cast<float>(side) / sides;
+        return foot + cv::Vec3f(reach * std::sin(angle), -up, reach * std::cos(angle));
+    };
+    for (int i = 0; i < sides; ++i) {
+        const cv::Vec3f outer = at(i, radius, height), inner = at(i, radius - rim, height);
+        const cv::Vec3f along = at(i + 1, radius, height) - outer, down(0, height, 0);
+        const cv::Vec2f texture(radius * 6.2831853F * static_cast<float>(i) / sides, 0);
+        addQuad(b.mesh, {outer, along, down, texture}, stone);
+        addQuad(b.mesh, {inner, at(i + 1, radius - rim, height) - inner, down, texture}, stone);
+        addQuad(b.mesh, {outer, along, inner - outer, texture}, stone);
+    }
+    const float level = foot[1] - height + 0.12F, half = radius - rim * 0.5F;
+    for (int i = 0; i < sides; ++i) {
+        const auto corner = [&](int side) {
+            const cv::Vec3f p = at(side, half, 0);
+            return b.mesh.add({{p[0], level, p[2]}, {0, -1, 0}, {p[0], p[2]}});
+        };
+        const auto middle = b.mesh.add({{foot[0], level, foot[2]}, {0, -1, 0}, {foot[0], foot[2]}});
+        const auto first = corner(i), second = corner(i + 1);
+        b.mesh.add(middle, first, second, water);
+    }
+    addPost(b.mesh, {foot, height + 0.9F, 0.25F, 0.18F, 14}, stone);
+    addBall(b.mesh, foot + cv::Vec3f(0, -height - 0.95F, 0), {0.6F, 0.16F, 0.6F}, 10, stone);
+}
+
 void addLamp(Builder& b, const cv::Vec3f& foot) {
     const auto iron = b.material<Solid>(synthesis::Material{{0.06F, 0.08F, 0.07F, 0.10F}, 0.1F, 0, 0}, *b.noise,
                                         Solid::Finish{0.3F, 0.02F, 0.05F});
-    const auto shade = b.material<Solid>(synthesis::materials::whitePaint, *b.noise, Solid::Finish{0.2F, 0.06F, 0});
+    const auto shade =
+        b.lampsLit > 0 ? b.material<Glow>(b.lampsLit)
+                       : b.material<Solid>(synthesis::materials::whitePaint, *b.noise, Solid::Finish{0.2F, 0.06F, 0});
     const float height = b.random.between(3.2F, 4.6F);
     addPost(b.mesh, {foot, 0.5F, 0.11F, 0.08F, 10}, iron);
     addPost(b.mesh, {foot, height, 0.06F, 0.04F, 10}, iron);
