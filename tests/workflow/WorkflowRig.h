@@ -69,7 +69,10 @@ public:
         if (EmitterWatch::isOn()) note([&] { dotted.insert(state); });
     }
     void lightMeasured(const LightGate::Reading& reading) override {
-        note([&] { lit = reading.lit; });
+        note([&] {
+            lit = reading.lit;
+            darkReadings += lit ? 0 : 1;
+        });
     }
     void pairCaptured() override {
         if (onPair) onPair();
@@ -95,6 +98,7 @@ public:
     std::vector<State> states;
     std::size_t seen = 0;
     bool lit = false;
+    int darkReadings = 0;
     std::set<State> dotted;  ///< states in which frames came while the emitter was on
     std::vector<std::int32_t> codes;
     std::vector<std::string> errors;
