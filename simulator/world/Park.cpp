@@ -43,7 +43,7 @@ void plantEverything(Builder& b, const Lawn& lawn, bool swaying) {
     const auto anyAngle = [&] { return b.random.between(0, 6.2832F); };
     const auto near = swaying ? plantSwayingTree : plantTree;
     for (int i = 0; i < 26; ++i)
-        near(b, lawn.at(b.random.between(9, 38), anyAngle()), b.random.between(5, 12), swaying ? 3000 : 12000);
+        near(b, lawn.at(b.random.between(9, 38), anyAngle()), b.random.between(5, 12), swaying ? 3000 : 10000);
     for (int i = 0; i < 150; ++i)
         plantTree(b, lawn.at(b.random.between(38, 95), anyAngle()), b.random.between(8, 18), 2200);
     plantBushes(b, lawn, swaying);

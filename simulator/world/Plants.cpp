@@ -56,8 +56,8 @@ void addLeaves(Mesh& mesh, const Crown& crown, const std::vector<cv::Vec3f>& bou
 /// Large leaves deep within the boughs, so that the sky shows only at the rim.
 void addHearts(Mesh& mesh, const Crown& crown, const std::vector<cv::Vec3f>& boughs, MaterialId material,
                Random& random) {
-    constexpr int leaves = 110;
-    const float size = 0.075F * (crown.radii[0] + crown.radii[1]) * 0.5F;
+    const int leaves = std::clamp(crown.leaves / 100, 20, 110);
+    const float size = 0.4F * (crown.radii[0] + crown.radii[1]) / std::sqrt(static_cast<float>(leaves));
     for (const auto& bough : boughs)
         for (int i = 0; i < leaves; ++i) {
             const cv::Vec3f out = anyDirection(random);
