@@ -13,12 +13,11 @@ public:
     /// RGBA. Any thread.
     void setFrame(const ImageFrame32& frame);
 
-public slots:
-    void slot_initializeGL();
-    void slot_paintGL();
-    void slot_resizeGL();
-    void slot_update();
-    void slot_handleWindowChanged(QQuickWindow* window);
+    Q_SLOT void slot_initializeGL();
+    Q_SLOT void slot_paintGL();
+    Q_SLOT void slot_resizeGL();
+    Q_SLOT void slot_update();
+    Q_SLOT void slot_handleWindowChanged(QQuickWindow* window);
 };
 
 }  // namespace fieldcal

@@ -2,16 +2,10 @@
 
 #include "render/DepthColourMap.h"
 
-#include <cstddef>
-
 namespace fieldcal {
 namespace {
 
 constexpr float kMetresPerMillimetre = 0.001F;
-
-const void* bufferOffset(std::size_t bytes) {
-    return reinterpret_cast<const void*>(bytes);
-}
 
 }  // namespace
 
@@ -23,7 +17,7 @@ void depthToCloud(const ImageFrame16& depth, std::vector<DepthPoint>* cloud) {
         for (std::uint32_t x = 0; x < depth.width(); ++x, ++pixel) {
             if (*pixel == 0) continue;
             const float z = static_cast<float>(*pixel) * kMetresPerMillimetre;
-            cloud->push_back({{static_cast<float>(x) * z, static_cast<float>(y) * z, z}, depthColour(*pixel)});
+            cloud->push_back({depthColour(*pixel), {static_cast<float>(x) * z, static_cast<float>(y) * z, z}});
         }
     }
 }
@@ -50,10 +44,7 @@ void DepthCloudBuffer::draw(FixedFunctionGl& gl, const Eigen::Matrix4d& clip_poi
     gl.glLoadIdentity();
     gl.glPointSize(pointSize);
     gl.glBindBuffer(GL_ARRAY_BUFFER, name_);
-    gl.glEnableClientState(GL_VERTEX_ARRAY);
-    gl.glEnableClientState(GL_COLOR_ARRAY);
-    gl.glVertexPointer(3, GL_FLOAT, sizeof(DepthPoint), bufferOffset(offsetof(DepthPoint, position)));
-    gl.glColorPointer(4, GL_UNSIGNED_BYTE, sizeof(DepthPoint), bufferOffset(offsetof(DepthPoint, colour)));
+    gl.glInterleavedArrays(GL_C4UB_V3F, 0, nullptr);
     gl.glDrawArrays(GL_POINTS, 0, count_);
     gl.glDisableClientState(GL_COLOR_ARRAY);
     gl.glDisableClientState(GL_VERTEX_ARRAY);

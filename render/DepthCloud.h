@@ -11,11 +11,11 @@
 
 namespace fieldcal {
 
-/// One depth pixel (column x, row y, depth z in metres), ready for OpenGL. The position is (x·z, y·z, z): linear in the
-/// point in space whatever the intrinsics are, so that these stay in the matrix.
+/// One depth pixel (column x, row y, depth z in metres) in OpenGL's layout C4UB_V3F. The position is (x·z, y·z, z):
+/// linear in the point in space whatever the intrinsics are, so that these stay in the matrix.
 struct DepthPoint {
-    std::array<float, 3> position;
     std::array<std::uint8_t, 4> colour;
+    std::array<float, 3> position;
 };
 
 /// The points of a depth frame in millimetres, colourised by their depth; 0 is no point. Any thread.

@@ -10,7 +10,7 @@ namespace fieldcal {
 namespace {
 
 /// Of the picture over the depth, where there is depth: edges of both stay visible.
-constexpr float kPictureOpacity = 0.45F;
+constexpr float kPictureOpacity = 0.4F;
 /// A little more than the distance between neighbours, which rotation and parallax vary.
 constexpr double kPointOverlap = 1.05;
 

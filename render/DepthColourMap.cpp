@@ -41,7 +41,7 @@ Rgba toRgba(const PerceivedColour& colour) {
 Rgba colourAt(double metres) {
     const double range = std::log(kFarthestColouredMetres / kNearestColouredMetres);
     const double t = std::clamp(std::log(metres / kNearestColouredMetres) / range, 0.0, 1.0);
-    const auto between = [t](double near, double far) { return near + t * (far - near); };
+    const auto between = [t](double first, double last) { return first + t * (last - first); };
     return toRgba({between(kNearColour.lightness, kFarColour.lightness), between(kNearColour.chroma, kFarColour.chroma),
                    between(kNearColour.hueDeg, kFarColour.hueDeg)});
 }

@@ -6,8 +6,8 @@
 namespace fieldcal {
 
 /// The range of depths that the colours cover; what lies outside has the nearest end's colour.
-constexpr double kNearestColouredMetres = 0.5;
-constexpr double kFarthestColouredMetres = 12;
+constexpr double kNearestColouredMetres = 1;
+constexpr double kFarthestColouredMetres = 10;
 
 /// RGBA, alpha 255. From light yellow (near) through red and magenta to dark blue (far), with steps that look equal for
 /// equal ratios of depth. Any thread.

@@ -29,10 +29,10 @@ TEST(DepthColours, EqualRatiosOfDepthLookEquallyDifferent) {
     double smallest = 1e9, largest = 0;
     for (int step = 0; step < kSteps; ++step) {
         const double metres = kNearestColouredMetres * std::pow(ratio, step);
-        const auto near = lab(depthColour(static_cast<std::uint16_t>(std::lround(1000 * metres))));
-        const auto far = lab(depthColour(static_cast<std::uint16_t>(std::lround(1000 * metres * ratio))));
-        EXPECT_LT(far[0], near[0]) << "farther is darker, " << metres;
-        const double difference = std::hypot(far[0] - near[0], far[1] - near[1], far[2] - near[2]);
+        const auto nearer = lab(depthColour(static_cast<std::uint16_t>(std::lround(1000 * metres))));
+        const auto farther = lab(depthColour(static_cast<std::uint16_t>(std::lround(1000 * metres * ratio))));
+        EXPECT_LT(farther[0], nearer[0]) << "farther is darker, " << metres;
+        const double difference = std::hypot(farther[0] - nearer[0], farther[1] - nearer[1], farther[2] - nearer[2]);
         smallest = std::min(smallest, difference);
         largest = std::max(largest, difference);
     }
@@ -41,9 +41,9 @@ TEST(DepthColours, EqualRatiosOfDepthLookEquallyDifferent) {
 }
 
 TEST(DepthColours, BeyondTheRangeTheEndsGoOn) {
-    EXPECT_EQ(depthColour(1), depthColour(500));
-    EXPECT_EQ(depthColour(12000), depthColour(65535));
-    EXPECT_NE(depthColour(500), depthColour(600));
+    EXPECT_EQ(depthColour(1), depthColour(1000));
+    EXPECT_EQ(depthColour(10000), depthColour(65535));
+    EXPECT_NE(depthColour(1000), depthColour(1200));
 }
 
 TEST(InfraredForTheEye, KeepsTheOrderOfLight) {

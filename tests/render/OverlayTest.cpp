@@ -10,7 +10,6 @@
 namespace fieldcal {
 namespace {
 
-using test::paint;
 using test::plainPicture;
 
 constexpr QRgb kGrey = qRgb(100, 100, 100);
@@ -59,7 +58,7 @@ QPointF expectedCentre(const CameraParameters& cameras, const Eigen::Matrix3d& r
 /// What depth of this colour looks like under the grey picture.
 QRgb overGrey(int millimetres) {
     const auto colour = depthColour(static_cast<std::uint16_t>(millimetres));
-    const auto mixed = [](int value) { return static_cast<int>(std::lround(0.55 * value + 0.45 * 100)); };
+    const auto mixed = [](int value) { return static_cast<int>(std::lround(0.6 * value + 0.4 * 100)); };
     return qRgb(mixed(colour[0]), mixed(colour[1]), mixed(colour[2]));
 }
 
@@ -153,10 +152,9 @@ TEST_F(Overlay, NearDepthHidesWhatIsBehindIt) {
     overlay_->setFrames(plainPicture(200, 150, kGrey), depth);
     look();
     const Eigen::Matrix3d none = Eigen::Matrix3d::Identity();
-    const QPointF near = expectedCentre(cameras_, none, square, 1000);
     // Seen from the colour camera the square covers a part of the wall, and bares one that depth could not see.
     const auto isNear = [](QRgb colour) { return alike(colour, overGrey(1000)); };
-    expectNear(centreOf(isNear), near);
+    expectNear(centreOf(isNear), expectedCentre(cameras_, none, square, 1000));
     const auto edge = [&](const QRect& strip, int millimetres) {
         return expectedCentre(cameras_, none, strip, millimetres);
     };
