@@ -123,15 +123,15 @@ void GlobalManager::slot_stateChanged(int state) {
     workflow_.requestState(next);
 }
 
-void GlobalManager::slot_displayMovementText(QString text) {
+void GlobalManager::slot_displayMovementText(const QString& text) {
     functions_.showMovementText(text);
 }
 
-void GlobalManager::slot_startCalibrationText(QString text) {
+void GlobalManager::slot_startCalibrationText(const QString& text) {
     functions_.showCalibrationStartupText(text);
 }
 
-void GlobalManager::slot_saveCalibrationText(QString text) {
+void GlobalManager::slot_saveCalibrationText(const QString& text) {
     functions_.showSaveCalibrationText(text);
 }
 

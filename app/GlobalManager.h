@@ -42,16 +42,16 @@ public:
 signals:
     void signal_tellAppToRenderImages();
     void signal_modifyUiToState(State new_state);
-    void signal_displayMovementText(QString text);
-    void signal_startCalibrationText(QString text);
-    void signal_saveCalibrationText(QString text);
+    void signal_displayMovementText(const QString& text);
+    void signal_startCalibrationText(const QString& text);
+    void signal_saveCalibrationText(const QString& text);
 
 public slots:
     void slot_tellAppToRenderImages();
     void slot_modifyUiToState(State state);
-    void slot_displayMovementText(QString text);
-    void slot_startCalibrationText(QString text);
-    void slot_saveCalibrationText(QString text);
+    void slot_displayMovementText(const QString& text);
+    void slot_startCalibrationText(const QString& text);
+    void slot_saveCalibrationText(const QString& text);
     void slot_toggleTutorialAnimation(bool on);
     void slot_switchToOOMColorSensor();
     void slot_switchToIMColorSensor();
@@ -63,7 +63,7 @@ public slots:
     void slot_networkReplyLatestVersionJsonFinished(QNetworkReply* reply);
     void slot_timeoutNetworkReplyJson();
     /// The first error counts, and nothing after the user has chosen to leave.
-    void slot_getKXAPIErrorAndQuit(QString message);
+    void slot_getKXAPIErrorAndQuit(const QString& message);
     void slot_reportMissingQ550Device();
     void slot_reportMissingPlatformCamera();
     void slot_reportPlatformCameraIssue();

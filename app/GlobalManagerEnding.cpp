@@ -33,7 +33,7 @@ void GlobalManager::slot_userAskedToExit() {
     QCoreApplication::quit();
 }
 
-void GlobalManager::slot_getKXAPIErrorAndQuit(QString message) {
+void GlobalManager::slot_getKXAPIErrorAndQuit(const QString& message) {
     if (!beginEnding()) return;
     exitCode_ = 1;
     endProcessing(Stop::ToLeave);

@@ -6,10 +6,18 @@
 
 namespace fieldcal::testing {
 
-X11Hand::X11Hand() : display_(XOpenDisplay(nullptr)) {}
+struct X11Hand::Connection {
+    Display* display = XOpenDisplay(nullptr);
+};
+
+X11Hand::X11Hand() : connection_(std::make_unique<Connection>()) {}
 
 X11Hand::~X11Hand() {
-    if (display_ != nullptr) XCloseDisplay(display_);
+    if (connected()) XCloseDisplay(connection_->display);
+}
+
+bool X11Hand::connected() const {
+    return connection_->display != nullptr;
 }
 
 bool X11Hand::focusLargestWindow() {
@@ -17,12 +25,15 @@ bool X11Hand::focusLargestWindow() {
     Window parent = 0;
     Window* windows = nullptr;
     unsigned int count = 0;
-    if (XQueryTree(display_, DefaultRootWindow(display_), &root, &parent, &windows, &count) == 0) return false;
+    if (XQueryTree(connection_->display, DefaultRootWindow(connection_->display), &root, &parent, &windows, &count) ==
+        0)
+        return false;
     Window largest = 0;
     int largestArea = 0;
     for (unsigned int i = 0; i < count; ++i) {
         XWindowAttributes attributes;
-        if (XGetWindowAttributes(display_, windows[i], &attributes) == 0 || attributes.map_state != IsViewable)
+        if (XGetWindowAttributes(connection_->display, windows[i], &attributes) == 0 ||
+            attributes.map_state != IsViewable)
             continue;
         if (attributes.width * attributes.height <= largestArea) continue;
         largest = windows[i];
@@ -30,31 +41,31 @@ bool X11Hand::focusLargestWindow() {
     }
     XFree(windows);
     if (largest == 0) return false;
-    XSetInputFocus(display_, largest, RevertToParent, CurrentTime);
-    XSync(display_, False);
+    XSetInputFocus(connection_->display, largest, RevertToParent, CurrentTime);
+    XSync(connection_->display, False);
     return true;
 }
 
 void X11Hand::pressReturn() {
-    const KeyCode key = XKeysymToKeycode(display_, XK_Return);
-    XTestFakeKeyEvent(display_, key, True, CurrentTime);
-    XTestFakeKeyEvent(display_, key, False, CurrentTime);
-    XSync(display_, False);
+    const KeyCode key = XKeysymToKeycode(connection_->display, XK_Return);
+    XTestFakeKeyEvent(connection_->display, key, True, CurrentTime);
+    XTestFakeKeyEvent(connection_->display, key, False, CurrentTime);
+    XSync(connection_->display, False);
 }
 
 void X11Hand::moveTo(int x, int y) {
-    XTestFakeMotionEvent(display_, -1, x, y, CurrentTime);
-    XSync(display_, False);
+    XTestFakeMotionEvent(connection_->display, -1, x, y, CurrentTime);
+    XSync(connection_->display, False);
 }
 
 void X11Hand::buttonDown() {
-    XTestFakeButtonEvent(display_, 1, True, CurrentTime);
-    XSync(display_, False);
+    XTestFakeButtonEvent(connection_->display, 1, True, CurrentTime);
+    XSync(connection_->display, False);
 }
 
 void X11Hand::buttonUp() {
-    XTestFakeButtonEvent(display_, 1, False, CurrentTime);
-    XSync(display_, False);
+    XTestFakeButtonEvent(connection_->display, 1, False, CurrentTime);
+    XSync(connection_->display, False);
 }
 
 }  // namespace fieldcal::testing

@@ -1,6 +1,6 @@
 #pragma once
 
-struct _XDisplay;
+#include <memory>
 
 namespace fieldcal::testing {
 
@@ -10,7 +10,7 @@ public:
     X11Hand();
     ~X11Hand();
 
-    bool connected() const { return display_ != nullptr; }
+    bool connected() const;
     /// Gives the keyboard to the largest window; without a window manager nobody else does. False: there is none.
     bool focusLargestWindow();
     void pressReturn();
@@ -19,7 +19,8 @@ public:
     void buttonUp();
 
 private:
-    _XDisplay* display_;
+    struct Connection;
+    std::unique_ptr<Connection> connection_;
 };
 
 }  // namespace fieldcal::testing
