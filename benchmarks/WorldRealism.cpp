@@ -153,6 +153,7 @@ void print(const std::string& name, const std::vector<Figures>& all, double shar
     std::printf("%-22s", name.c_str());
     for (std::size_t column = 0; column < kColumns.size(); ++column) {
         std::vector<double> values;
+        values.reserve(all.size());
         for (const auto& figures : all)
             values.push_back(figures.*kColumns[column]);
         std::printf(column < 6 ? "%8.0f" : "%8.2f", quantile(std::move(values), share));
@@ -177,7 +178,7 @@ int main(int argc, char** argv) {
     for (std::size_t i = 2; i < words.size(); ++i) {
         std::vector<Figures> all;
         if (std::find(worlds.begin(), worlds.end(), words[i]) == worlds.end()) all = tellRecording(words[i]);
-        for (int seed = 1; all.size() < 1 || seed <= std::atoi(words[1].c_str()); ++seed) {
+        for (int seed = 1; all.empty() || seed <= std::atoi(words[1].c_str()); ++seed) {
             if (std::find(worlds.begin(), worlds.end(), words[i]) == worlds.end()) break;
             const auto more = tellWorld(words[i], static_cast<std::uint64_t>(seed), std::atoi(words[0].c_str()));
             all.insert(all.end(), more.begin(), more.end());
