@@ -105,7 +105,7 @@ TEST_F(ImageItems, PictureOutlivesTheGraphicsContext) {
 }
 
 TEST_F(ImageItems, WindowMayCloseAtAnyTime) {
-    for (int i = 0; i < 20; ++i) {
+    for (int i = 0; i < 8; ++i) {
         open(kPage, false);
         find<ColorImageRendererItem>("picture").setFrame(quarters(32, 24));
         for (int event = 0; event < i; ++event)
