@@ -105,13 +105,14 @@ const session::FramePictures* Footage::turning() {
 session::FramePictures Footage::expose(world::View view, const synthesis::StillSettings& settings,
                                        std::uint64_t noise) const {
     const double light = light_.at(frame_ / framesPerSecond);
-    world::StereoModel stereo;
-    stereo.emitter = emitter_;
-    stereo.light = light * settings.darkness;
-    if (emitter_) addEmitterDots(stereo.light, &view);
     synthesis::StillSettings infrared = settings, colour = settings;
     infrared.darkness *= light;
     colour.darkness *= colourLight(light);
+    world::StereoModel stereo;
+    stereo.emitter = emitter_;
+    stereo.light = light * settings.darkness;
+    stereo.darkness = infrared.darkness;
+    if (emitter_) addEmitterDots(stereo.light, &view);
     return {infraredFrame(view, infrared, noise), depthFrame(view, stereo, noise), thirdFrame(view, colour, noise),
             platformFrame(view, colour, noise)};
 }

@@ -22,7 +22,9 @@ synthesis::StillSettings drawSettings(std::uint64_t seed, int number, double dar
 
 session::FramePictures takeStill(const RestingView& seen, std::uint64_t noise) {
     const world::View& view = seen.moments.front().view;
-    return {infraredFrame(view, seen.settings, noise), depthFrame(view, {}, noise),
+    world::StereoModel stereo;
+    stereo.darkness = seen.settings.darkness;
+    return {infraredFrame(view, seen.settings, noise), depthFrame(view, stereo, noise),
             thirdFrame(view, seen.settings, noise), platformFrame(view, seen.settings, noise)};
 }
 
@@ -32,7 +34,7 @@ Studio::Studio(const std::string& world, std::uint64_t seed, const session::Sess
       cameras_(rig),
       hand_(seed, stage_->lowestPitchDeg, stage_->highestPitchDeg) {}
 
-std::shared_ptr<const RestingView> Studio::make(int number, bool withPlatform) {
+std::shared_ptr<const RestingView> Studio::make(int number, bool withPlatform, const std::atomic<bool>* stop) {
     auto view = std::make_shared<RestingView>();
     view->rest = hand_.rest(number);
     view->settings = drawSettings(seed_, number, stage_->darkness);
@@ -40,7 +42,7 @@ std::shared_ptr<const RestingView> Studio::make(int number, bool withPlatform) {
     for (int i = 0; i < moments; ++i) {
         const double seconds = number * restSeconds + i * momentSeconds;
         const world::Moment infrared{view->rest.pose, seconds}, colour{view->rest.pose, seconds + colourLagSeconds};
-        view->moments.push_back({view->rest.pose, cameras_.see(*stage_->world, infrared, colour, withPlatform)});
+        view->moments.push_back({view->rest.pose, cameras_.see(*stage_->world, infrared, colour, withPlatform, stop)});
     }
     return view;
 }

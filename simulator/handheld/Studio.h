@@ -6,6 +6,8 @@
 #include "simulator/world/Cameras.h"
 #include "simulator/world/Worlds.h"
 
+#include <atomic>
+#include <memory>
 #include <string>
 
 namespace fieldcal::handheld {
@@ -26,8 +28,9 @@ public:
     /// Builds the world, one of `world::worldNames()`; takes a second or so. `rig` must carry the true rotations.
     Studio(const std::string& world, std::uint64_t seed, const session::SessionDescription& rig);
 
-    /// Views are counted from 0. All processors work on one.
-    std::shared_ptr<const RestingView> make(int number, bool withPlatform);
+    /// Views are counted from 0. All processors work on one. Once `stop` (may be null) is true, it returns soon, and
+    /// the view is worth nothing.
+    std::shared_ptr<const RestingView> make(int number, bool withPlatform, const std::atomic<bool>* stop = nullptr);
 
 private:
     std::uint64_t seed_;

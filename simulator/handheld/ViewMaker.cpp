@@ -66,7 +66,7 @@ void ViewMaker::work() {
     Studio studio(world_, seed_, rig_);
     Order order{};
     while (nextOrder(&order)) {
-        auto view = studio.make(order.number, order.withPlatform);
+        auto view = studio.make(order.number, order.withPlatform, &stop_);
         const std::lock_guard<std::mutex> lock(mutex_);
         made_[order.number] = std::move(view);
         changed_.notify_all();

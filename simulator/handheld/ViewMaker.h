@@ -41,7 +41,7 @@ private:
 
     std::mutex mutex_;
     std::condition_variable changed_;
-    bool stop_ = false;
+    std::atomic<bool> stop_{false};  ///< set under the lock
     Order wanted_{0, false};
     std::map<int, std::shared_ptr<const RestingView>> made_;
     std::thread thread_;  ///< last, so that it finds everything else in place

@@ -34,12 +34,13 @@ Pose Cameras::platformPose(const Pose& depth) const {
     return colourPose(depth, cv::Matx33d(rig_.truthPlatform->data()), metres(rig_.platform->translation));
 }
 
-View Cameras::see(const World& world, const Moment& infraredAndDepth, const Moment& colour, bool withPlatform) const {
+View Cameras::see(const World& world, const Moment& infraredAndDepth, const Moment& colour, bool withPlatform,
+                  const std::atomic<bool>* stop) const {
     const auto colourSeen = [&](const synthesis::RayGrid& grid, const Pose& pose, double lens) {
-        return synthesis::colourBands(takePicture(world, grid, {pose, secondsOf(colour), false, lens}).light);
+        return synthesis::colourBands(takePicture(world, grid, {pose, secondsOf(colour), false, lens, stop}).light);
     };
     View view;
-    const Shot shot{infraredAndDepth.pose, secondsOf(infraredAndDepth), true, synthesis::infraredLens};
+    const Shot shot{infraredAndDepth.pose, secondsOf(infraredAndDepth), true, synthesis::infraredLens, stop};
     const Picture infrared = takePicture(world, infrared_, shot);
     view.infrared = synthesis::infraredBand(infrared.light);
     if (depth_.rays.empty())

@@ -32,16 +32,21 @@ public:
           world_camera_(shot.pose.camera_world.t()),
           centre_(shot.pose.centre),
           seconds_(shot.seconds),
+          stop_(shot.stop),
           bands_(shot.infrared ? cv::Vec4f(0, 0, 0, 1) : cv::Vec4f(0.3F, 0.59F, 0.11F, 0)),
           spread_(spacing()),
           first_(middle_.total()) {}
 
     Picture take() {
-        picture_.light.create(middle_.size());
-        picture_.depth.create(middle_.size());
-        picture_.reflected.create(middle_.size());
-        forEachRow(middle_.rows, [this](int y) { glance(y); });
-        if (grid_.samplesPerPixel > 1) forEachRow(middle_.rows, [this](int y) { lookCloser(y); });
+        picture_.light = cv::Mat_<cv::Vec4f>::zeros(middle_.size());
+        picture_.depth = cv::Mat_<float>::zeros(middle_.size());
+        picture_.reflected = cv::Mat_<std::uint8_t>::zeros(middle_.size());
+        const auto everyRow = [this](void (Shooting::*look)(int)) {
+            forEachRow(
+                middle_.rows, [&](int y) { (this->*look)(y); }, stop_);
+        };
+        everyRow(&Shooting::glance);
+        if (grid_.samplesPerPixel > 1) everyRow(&Shooting::lookCloser);
         return std::move(picture_);
     }
 
@@ -133,6 +138,7 @@ private:
     cv::Matx33f world_camera_;
     cv::Vec3f centre_;
     float seconds_;
+    const std::atomic<bool>* stop_;
     cv::Vec4f bands_;
     float spread_;
     std::vector<First> first_;
@@ -154,10 +160,10 @@ cv::Vec2f middleRay(const synthesis::RayGrid& grid, int x, int y) {
     return (upper[low] + upper[high] + lower[low] + lower[high]) * 0.25F;
 }
 
-void forEachRow(int rows, const std::function<void(int)>& row) {
+void forEachRow(int rows, const std::function<void(int)>& row, const std::atomic<bool>* stop) {
     std::atomic<int> next{0};
     const auto work = [&] {
-        for (int y = next++; y < rows; y = next++)
+        for (int y = next++; y < rows && (stop == nullptr || !*stop); y = next++)
             row(y);
     };
     std::vector<std::future<void>> helpers;

@@ -3,6 +3,7 @@
 #include "simulator/synthesis/Camera.h"
 #include "simulator/world/World.h"
 
+#include <atomic>
 #include <functional>
 
 namespace fieldcal::world {
@@ -19,9 +20,10 @@ Pose colourPose(const Pose& depth, const cv::Matx33d& rotation, const cv::Vec3d&
 /// When and whence a picture is taken, and by what kind of camera.
 struct Shot {
     Pose pose;
-    float seconds = 0;       ///< time in a world that moves
-    bool infrared = false;   ///< else colour: what it cannot see needs no care
-    double lensSigma = 0.5;  ///< spread of the lens's Gaussian blur, pixels
+    float seconds = 0;                        ///< time in a world that moves
+    bool infrared = false;                    ///< else colour: what it cannot see needs no care
+    double lensSigma = 0.5;                   ///< spread of the lens's Gaussian blur, pixels
+    const std::atomic<bool>* stop = nullptr;  ///< once it is true, the rest of the picture stays black
 };
 
 struct Picture {
@@ -37,7 +39,8 @@ cv::Vec2f middleRay(const synthesis::RayGrid& grid, int x, int y);
 /// All processors work on it; the result does not depend on their number.
 Picture takePicture(const World& world, const synthesis::RayGrid& grid, const Shot& shot);
 
-/// Calls `row` for 0 … rows − 1 on all processors, in no particular order, and returns when all are done.
-void forEachRow(int rows, const std::function<void(int)>& row);
+/// Calls `row` for 0 … rows − 1 on all processors, in no particular order, and returns when all are done; or sooner
+/// and incomplete when `stop`, which may be null, becomes true.
+void forEachRow(int rows, const std::function<void(int)>& row, const std::atomic<bool>* stop = nullptr);
 
 }  // namespace fieldcal::world
