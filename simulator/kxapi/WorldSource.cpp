@@ -5,6 +5,7 @@
 #include "simulator/world/Worlds.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace kxsim {
 namespace {
@@ -16,32 +17,42 @@ using fieldcal::session::SessionDescription;
 /// How long one grab waits for a view; after that it answers without a new frame.
 constexpr std::chrono::milliseconds kPatience{5000};
 
+/// Its world is built, and rendering begins, with the first grab: who asks for texts and calibrations only does not
+/// pay.
 class WorldSource final : public FrameSource {
 public:
-    WorldSource(const Settings& settings, const SessionDescription& rig, const LightCourse& light)
-        : rig_(rig), footage_(settings.world, settings.seed, rig, light), waits_(settings.speed == 0) {
-        description_ = rig;
+    WorldSource(const Settings& settings, SessionDescription rig, const LightCourse& light)
+        : rig_(std::move(rig)),
+          description_(rig_),
+          waits_(settings.speed == 0),
+          open_([=] { return std::make_unique<Footage>(settings.world, settings.seed, rig_, light); }) {
         if (settings.platform != PlatformChoice::calibrated) description_.platform.reset();
     }
 
     const SessionDescription& description() const override { return description_; }
     double grabsPerSecond() const override { return fieldcal::handheld::framesPerSecond; }
     bool advance(std::string*) override {
-        const bool first = footage_.current() == nullptr;
-        isNew_ = footage_.advance(waits_ || first ? kPatience : kPatience * 0);
+        if (footage_ == nullptr) footage_ = open_();
+        footage_->setEmitter(emitter_);
+        footage_->setPlatformWanted(platformWanted_);
+        isNew_ = footage_->advance(waits_ || current() == nullptr ? kPatience : kPatience * 0);
         grabs_ += isNew_ ? 1 : 0;
         return true;
     }
-    const fieldcal::session::FramePictures* current() const override { return footage_.current(); }
+    const fieldcal::session::FramePictures* current() const override {
+        return footage_ ? footage_->current() : nullptr;
+    }
     bool hasNewPlatformPicture() const override { return isNew_ && grabs_ % 2 == 1 && !current()->platform.empty(); }
     std::uint64_t grabs() const override { return grabs_; }
-    void setEmitter(bool on) override { footage_.setEmitter(on); }
-    void setPlatformWanted(bool wanted) override { footage_.setPlatformWanted(wanted && rig_.platform); }
+    void setEmitter(bool on) override { emitter_ = on; }
+    void setPlatformWanted(bool wanted) override { platformWanted_ = wanted && rig_.platform; }
 
 private:
     SessionDescription rig_, description_;
-    Footage footage_;
     bool waits_;
+    std::function<std::unique_ptr<Footage>()> open_;
+    std::unique_ptr<Footage> footage_;
+    bool emitter_ = false, platformWanted_ = false;
     bool isNew_ = false;
     std::uint64_t grabs_ = 0;
 };
