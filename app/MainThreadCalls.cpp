@@ -19,8 +19,7 @@ void MainThreadCalls::call(std::function<void()> work) {
     QCoreApplication::postEvent(this, new QEvent(QEvent::User));
 }
 
-bool MainThreadCalls::event(QEvent* event) {
-    if (event->type() != QEvent::User) return QObject::event(event);
+void MainThreadCalls::customEvent(QEvent*) {
     std::function<void()> work;
     {
         const std::lock_guard lock(mutex_);
@@ -28,7 +27,6 @@ bool MainThreadCalls::event(QEvent* event) {
         waiting_.pop_front();
     }
     work();
-    return true;
 }
 
 }  // namespace fieldcal

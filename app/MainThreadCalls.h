@@ -14,7 +14,8 @@ class MainThreadCalls : public QObject {
 public:
     void call(std::function<void()> work);
 
-    bool event(QEvent* event) override;
+protected:
+    void customEvent(QEvent* event) override;
 
 private:
     std::mutex mutex_;

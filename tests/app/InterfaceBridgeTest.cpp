@@ -192,6 +192,7 @@ TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
     functions.displayMissingPlatformCamera();
     functions.displayPlatformCameraIssue();
     functions.showLastSaveFailed("a");
+    end();
     const auto isOfTheInterface = [](const std::string& line) {
         return line.find("interface has no") != std::string::npos || line.find("No such") != std::string::npos ||
                line.find("main.qml") != std::string::npos;

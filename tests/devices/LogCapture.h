@@ -15,6 +15,7 @@ namespace fieldcal::testing {
 class LogCapture {
 public:
     LogCapture() {
+        const std::lock_guard lock(mutex());
         lines().clear();
         previous_ = qInstallMessageHandler(&LogCapture::collect);
     }
