@@ -1,17 +1,17 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Window 2.15
-import ImageRenderTypes 1.0
+import "theme"
 
-// A plain interface: every page, text and control that the application talks to, and nothing else.
-// docs/interface-map.md tells what each of them is for.
+// The contract between the interface and the application, which docs/interface-map.md tells; how it looks is told by
+// the screens.
 Window {
     id: root
     objectName: "root"
-    width: 1280
-    height: 800
+    width: Screen.width
+    height: Screen.height
     visible: true
-    color: "black"
+    visibility: Window.Maximized
+    color: Theme.ground
     title: "Field Calibrator"
 
     readonly property int _state_FirstOpened: 0
@@ -27,12 +27,6 @@ Window {
     readonly property int _state_RefiningCalibration: 10
     readonly property int _state_AskToSaveCalibration: 11
 
-    property int uiState: _state_FirstOpened
-    property string notice: ""          // the object name of the notice that hides every page
-    property bool saving: false
-    property bool singleCamera: false
-    property bool secondCamera: false
-
     signal toggleTutorialAnimation(bool on)
     signal switchToOOMColorSensor()
     signal switchToIMColorSensor()
@@ -45,239 +39,97 @@ Window {
     signal startDownloadingUpdate()
     signal abortDownloadingUpdate()
 
-    function setLeftToRightLanguage(leftToRight) { frame.LayoutMirroring.enabled = !leftToRight }
-    function modifyUiToStateInQML(state) { uiState = state; toggleTutorialAnimation(state === _state_RefiningTutorial) }
-    function showMovementText(message) { movementText.text = message }
-    function showCalibrationStartupText(message) { startText.text = message }
-    function showSaveCalibrationText(message) { saveText.text = message }
-    function setLightingDialogText(title, message) { lightingTitle.text = title; lightingMessage.text = message }
-    function setLightingProgress(progress) { lightingProgress.value = progress }
+    function setLeftToRightLanguage(leftToRight) { mirrored = !leftToRight }
+    function modifyUiToStateInQML(state) { status.state = state }
+    function showMovementText(message) { status.movementText = message }
+    function showCalibrationStartupText(message) { status.startText = message }
+    function showSaveCalibrationText(message) { status.showSaveText(message) }
+    function setLightingDialogText(title, message) { status.lightingTitle = title; status.lightingMessage = message }
+    function setLightingProgress(progress) { status.lightingProgress = progress }
     function toggleLightingContinueButtonVisibility(shown, label) {
-        lightingContinueButton.visible = shown
-        lightingContinueButton.text = label
+        status.lit = shown
+        status.lightingContinueLabel = label
     }
-    function setCalibrationProgress(progress) { calibrationProgress.value = progress }
-    function setColorCameraDescriptionText(text) { colorCameraDescription.text = text }
-    function showReturnToAWellLitAreaPopup() { returnToLightPopup.visible = true }
-    function hideReturnToAWellLitAreaPopup() { returnToLightPopup.visible = false }
-    function flashCalibrationImageViews() { flash.restart() }
-    function showHowToMoveTutorialButton() { howToMoveButton.visible = true }
-    function forceSingleCameraCalibration() { singleCamera = true }
-    function displayMissingQ550Device() { notice = "missingDevicePage" }
-    function displayMissingPlatformCamera() { notice = "missingPlatformCameraPage" }
-    function displayPlatformCameraIssue() { notice = "platformCameraIssuePage" }
-    function showLastSaveFailed(message) { lastSaveFailedText.text = message }
+    function setCalibrationProgress(progress) {
+        if (progress === 0) status.startAttempt()
+        status.progress = progress
+    }
+    function setColorCameraDescriptionText(text) { status.cameraName = text }
+    function showReturnToAWellLitAreaPopup() { status.lightNeeded = true }
+    function hideReturnToAWellLitAreaPopup() { status.lightNeeded = false }
+    function flashCalibrationImageViews() { ++status.photoCount; pages.confirmPhoto() }
+    function showHowToMoveTutorialButton() { status.howToMoveOffered = true }
+    function forceSingleCameraCalibration() { status.singleCamera = true }
+    function displayMissingQ550Device() { status.notice = "missingDevicePage" }
+    function displayMissingPlatformCamera() { status.notice = "missingPlatformCameraPage" }
+    function displayPlatformCameraIssue() { status.notice = "platformCameraIssuePage" }
+    function showLastSaveFailed(message) { status.lastSaveFailedText = message }
+    function showCapturedPhoto(source) { status.photos = status.photos.concat([source]) }
+    function showDetailMap(areas) { status.detail = areas }
+    function showFoundTurn(anglesDeg) { status.foundTurn = anglesDeg }
+
+    property bool mirrored: false
+    property bool askedBeforeClosing: false
+    readonly property bool tutorialShown: status.state === _state_RefiningTutorial && !status.foundShown
+                                          && status.notice === ""
+    onTutorialShownChanged: toggleTutorialAnimation(tutorialShown)
 
     function goTo(state) {
-        uiState = state
+        status.state = state
         stateChanged(state)
     }
     function acceptRefinement() {
-        if (!singleCamera && !secondCamera) {
-            secondCamera = true
+        if (!status.singleCamera && !status.secondCamera) {
+            status.secondCamera = true
             switchToOOMColorSensor()
             goTo(_state_StartingCalibration)
         } else {
-            saving = true
+            status.saving = true
             saveSoon.start()
         }
     }
-
-    function pressMainButton() {
-        for (let i = 0; i < frame.children.length; ++i) {
-            const page = frame.children[i]
-            if (!page.visible || !page.mainButton || !page.mainButton.visible) continue
-            page.mainButton.clicked()
-            return
-        }
-    }
-    Shortcut {
-        sequences: ["Return", "Enter"]
-        enabled: !root.saving
-        onActivated: root.pressMainButton()
+    onClosing: {
+        if (askedBeforeClosing || !status.somethingToLose) return
+        askedBeforeClosing = true
+        close.accepted = false
+        pages.askToLeave()
     }
 
-    // The image items paint underneath the interface, each into its parent's rectangle; the parent's y counts from
-    // the window's lower edge, and these two stand in the middle.
-    Item {
-        width: root.width; height: root.height
-        ColorImageRendererItem { objectName: "introImageView"; anchors.fill: parent }
-    }
-    Item {
-        width: root.width / 2; height: width * 0.75; y: (root.height - height) / 2
-        ColorImageRendererItem { objectName: "calibColorView"; anchors.fill: parent }
-    }
-    Item {
-        x: root.width / 2; width: root.width / 2; height: width * 0.75; y: (root.height - height) / 2
-        InfraredImageRendererItem { objectName: "calibInfraredView"; anchors.fill: parent }
-    }
-    Item {
-        width: root.width; height: root.height
-        DepthColorOverlayRenderer { objectName: "refinementWalkthroughView"; anchors.fill: parent }
-    }
-    Item {
-        width: root.width; height: root.height
-        DepthColorOverlayRenderer { objectName: "refinementView"; anchors.fill: parent }
-        MouseArea {
-            objectName: "refinementTouchArea"
-            anchors.fill: parent
-            enabled: refinementPage.visible
-            onPressed: root.touchDown(mouse.x, mouse.y)
-            onReleased: root.touchUp(mouse.x, mouse.y)
-            onMouseXChanged: root.touchMove(mouseX, mouseY)
-        }
-    }
-
-    // Nothing else clears what is outside of the pictures.
-    component Cover: Rectangle {
-        color: "black"
-        width: root.width
-    }
-    readonly property bool sideBySide: uiState >= _state_DetectingLighting && uiState <= _state_FoundGoodSolution
-    readonly property real bandHeight: (root.height - root.width * 0.375) / 2
-    Cover { visible: root.sideBySide; height: root.bandHeight }
-    Cover { visible: root.sideBySide; height: root.bandHeight; y: root.height - height }
-    Cover { visible: root.uiState === root._state_FirstOpened || root.notice !== "" || root.saving; height: root.height }
-
+    Binding { target: Theme; property: "windowWidth"; value: root.width }
+    Binding { target: Theme; property: "windowHeight"; value: root.height }
+    CalibrationStatus { id: status }
     Timer {
         id: saveSoon
-        interval: 50  // lets the saving page be seen before the main thread is busy
+        interval: 100  // lets the saving page be seen before the main thread is busy
         onTriggered: root.quit()
     }
-
-    component Page: Column {
-        property bool shown: false
-        property Button mainButton
-        visible: shown && root.notice === "" && !root.saving
-        spacing: 12
-        padding: 24
+    PictureLayout {
+        id: layout
+        width: root.width
+        height: root.height
+        mirrored: root.mirrored
+        wideColour: status.secondCamera
     }
-    component Words: Text {
-        color: "white"
-        font.pixelSize: 24
-    }
-
-    Item {
-        id: frame
+    Pictures {
+        id: pictures
         anchors.fill: parent
+        status: status
+        layout: layout
+        onTouchDown: root.touchDown(x, y)
+        onTouchMove: root.touchMove(x, y)
+        onTouchUp: root.touchUp(x, y)
+    }
+    Pages {
+        id: pages
+        anchors.fill: parent
+        status: status
+        layout: layout
+        overlay: pictures.refinementView
+        LayoutMirroring.enabled: root.mirrored
         LayoutMirroring.childrenInherit: true
-
-        Page {
-            objectName: "openingPage"
-            shown: root.uiState === root._state_FirstOpened
-            Words { text: qsTr("Opening the camera…") }
-        }
-        Page {
-            objectName: "introductionPage"
-            mainButton: introContinueButton
-            shown: root.uiState === root._state_ShowingIntroduction
-            Words { id: lastSaveFailedText; objectName: "lastSaveFailedText" }
-            Button {
-                id: introContinueButton
-                objectName: "introContinueButton"
-                text: qsTr("Start")
-                onClicked: { root.switchToIMColorSensor(); root.goTo(root._state_DetectingLighting) }
-            }
-        }
-        Page {
-            objectName: "lightingPage"
-            mainButton: lightingContinueButton
-            shown: root.uiState === root._state_DetectingLighting
-            Words { id: lightingTitle; objectName: "lightingTitle" }
-            Words { id: lightingMessage; objectName: "lightingMessage" }
-            ProgressBar { id: lightingProgress; objectName: "lightingProgress" }
-            Button {
-                id: lightingContinueButton
-                objectName: "lightingContinueButton"
-                visible: false
-                onClicked: root.goTo(root._state_StartingCalibration)
-            }
-        }
-        Page {
-            objectName: "startPage"
-            mainButton: startButton
-            shown: root.uiState === root._state_ResetCalibration || root.uiState === root._state_WaitingToCalibrate
-            Words { id: startText; objectName: "startText" }
-            Button { id: howToMoveButton; objectName: "howToMoveButton"; visible: false; text: qsTr("How to move") }
-            Button {
-                id: startButton
-                objectName: "startButton"
-                text: qsTr("Start")
-                onClicked: root.goTo(root._state_StartingCalibration)
-            }
-        }
-        Page {
-            objectName: "capturePage"
-            shown: root.uiState === root._state_StartingCalibration || root.uiState === root._state_ProcessingFrame
-                   || root.uiState === root._state_FoundGoodSolution
-            Words { id: colorCameraDescription; objectName: "colorCameraDescription" }
-            Words { id: movementText; objectName: "movementText" }
-            ProgressBar { id: calibrationProgress; objectName: "calibrationProgress" }
-            Button {
-                objectName: "captureRestartButton"
-                text: qsTr("Restart")
-                onClicked: root.goTo(root._state_ResetCalibration)
-            }
-        }
-        Page {
-            objectName: "tutorialPage"
-            mainButton: tutorialContinueButton
-            shown: root.uiState === root._state_RefiningTutorial
-            Button {
-                id: tutorialContinueButton
-                objectName: "tutorialContinueButton"
-                text: qsTr("Continue")
-                onClicked: { root.toggleTutorialAnimation(false); root.goTo(root._state_RefiningCalibration) }
-            }
-        }
-        Page {
-            id: refinementPage
-            objectName: "refinementPage"
-            mainButton: refinementContinueButton
-            shown: root.uiState === root._state_RefiningCalibration
-            Words { text: saveText.text }
-            Button {
-                id: refinementContinueButton
-                objectName: "refinementContinueButton"
-                text: qsTr("Continue")
-                onClicked: root.acceptRefinement()
-            }
-            Button {
-                objectName: "refinementRestartButton"
-                text: qsTr("Restart")
-                onClicked: root.goTo(root._state_ResetCalibration)
-            }
-        }
-        Column {
-            objectName: "savingPage"
-            visible: root.saving
-            padding: 24
-            Words { id: saveText; objectName: "saveText" }
-        }
-        Words { objectName: "missingDevicePage"; visible: root.notice === objectName; text: qsTr("The depth camera was not found.") }
-        Words { objectName: "missingPlatformCameraPage"; visible: root.notice === objectName; text: qsTr("The rear camera was not found.") }
-        Words { objectName: "platformCameraIssuePage"; visible: root.notice === objectName; text: qsTr("The rear camera delivers no picture.") }
-
-        Button {
-            objectName: "exitButton"
-            anchors.right: parent.right
-            text: qsTr("Exit")
-            onClicked: root.userAskedToExit()
-        }
-        Rectangle {
-            id: returnToLightPopup
-            objectName: "returnToLightPopup"
-            visible: false
-            anchors.centerIn: parent
-            width: 600; height: 120
-            Text { anchors.centerIn: parent; text: qsTr("Return to a well lit area.") }
-        }
-        Rectangle {
-            objectName: "flash"
-            anchors.fill: parent
-            color: "white"
-            opacity: 0
-            OpacityAnimator on opacity { id: flash; from: 0.6; to: 0; duration: 300; running: false }
-        }
+        onWanted: root.goTo(state)
+        onBegun: { root.switchToIMColorSensor(); root.goTo(root._state_DetectingLighting) }
+        onAccepted: root.acceptRefinement()
+        onLeft: root.userAskedToExit()
     }
 }

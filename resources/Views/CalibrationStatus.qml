@@ -1,0 +1,56 @@
+import QtQuick 2.15
+
+// What the application has told the interface so far.
+QtObject {
+    id: status
+
+    readonly property var states: ({
+        firstOpened: 0, introduction: 1, lighting: 2, reset: 3, waiting: 5, starting: 6, capturing: 7, found: 8,
+        tutorial: 9, refining: 10
+    })
+    property int state: states.firstOpened
+    property string notice: ""  // the object name of the notice that hides every page
+    property bool saving: false
+    property bool singleCamera: false
+    property bool secondCamera: false
+    property string cameraName: ""
+
+    property string lastSaveFailedText: ""
+    property string startText: ""
+    property bool howToMoveOffered: false
+    property string refinementText: ""
+    property string savedText: ""
+
+    property string lightingTitle: ""
+    property string lightingMessage: ""
+    property real lightingProgress: 0
+    property bool lit: false
+    property string lightingContinueLabel: ""
+    property bool lightNeeded: false
+
+    property string movementText: ""
+    property real progress: 0
+    property int photoCount: 0
+    property var photos: []     // of each photo the source of its small picture; may be fewer than were taken
+    property var detail: []     // of each area of the picture 0..1, row by row; empty before the first photo
+    property var foundTurn: []  // degrees about X, Y, Z
+    property bool foundRead: false
+
+    // Its page comes between the capture and what the application shows next.
+    readonly property bool foundShown: state === states.found
+                                       || ((state === states.tutorial || state === states.refining) && !foundRead)
+    readonly property bool somethingToLose: !saving && notice === ""
+        && (secondCamera || state >= states.found || (state >= states.starting && photoCount > 0))
+
+    function startAttempt() {
+        photoCount = 0
+        photos = []
+        detail = []
+        movementText = ""
+        foundRead = false
+    }
+    function showSaveText(message) {
+        if (saving) savedText = message
+        else refinementText = message
+    }
+}

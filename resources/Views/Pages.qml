@@ -1,0 +1,174 @@
+import QtQuick 2.15
+import "components"
+import "screens"
+import "theme"
+
+// Which page is shown, what stands on top of it, and the keyboard.
+Item {
+    id: pages
+    property CalibrationStatus status
+    property PictureLayout layout
+    property Item overlay
+    signal wanted(int state)
+    signal begun()
+    signal accepted()
+    signal left()
+
+    readonly property var states: status.states
+    readonly property int step: status.state
+    readonly property bool paged: status.notice === "" && !status.saving
+    readonly property var screens: [opening, introduction, lighting, start, capture, found, tutorial, refinement, saving,
+                                    missingDevice, missingRearCamera, rearCameraTrouble]
+    readonly property bool covered: howToMove.visible || leaveQuestion.visible
+
+    function confirmPhoto() { capture.confirmPhoto() }
+    function askToLeave() { leaveQuestion.visible = true }
+    function leave() {
+        if (status.somethingToLose) askToLeave()
+        else left()
+    }
+    function pressMainButton() {
+        const page = leaveQuestion.visible ? leaveQuestion
+                   : howToMove.visible ? howToMove : screens.find(screen => screen.shown)
+        if (page && page.mainButton && page.mainButton.visible) page.mainButton.clicked()
+    }
+    function goBack() {
+        if (leaveQuestion.visible) leaveQuestion.visible = false
+        else if (howToMove.visible) howToMove.visible = false
+        else leave()
+    }
+    Shortcut {
+        sequences: ["Return", "Enter"]
+        enabled: !pages.status.saving
+        onActivated: pages.pressMainButton()
+    }
+    Shortcut {
+        sequence: "Escape"
+        enabled: !pages.status.saving
+        onActivated: pages.goBack()
+    }
+    Binding { target: pages.layout; property: "exitSpace"; value: exitButton.width + Theme.margin }
+
+    Item {
+        anchors.fill: parent
+        enabled: !pages.covered
+
+        OpeningScreen {
+            id: opening
+            objectName: "openingPage"
+            shown: pages.paged && pages.step === pages.states.firstOpened
+            status: pages.status
+        }
+        IntroductionScreen {
+            id: introduction
+            objectName: "introductionPage"
+            shown: pages.paged && pages.step === pages.states.introduction
+            status: pages.status
+            layout: pages.layout
+            onBegun: pages.begun()
+        }
+        LightingScreen {
+            id: lighting
+            objectName: "lightingPage"
+            shown: pages.paged && pages.step === pages.states.lighting
+            status: pages.status
+            layout: pages.layout
+            onContinued: pages.wanted(pages.states.starting)
+        }
+        StartScreen {
+            id: start
+            objectName: "startPage"
+            shown: pages.paged && (pages.step === pages.states.reset || pages.step === pages.states.waiting)
+            status: pages.status
+            layout: pages.layout
+            onStarted: pages.wanted(pages.states.starting)
+            onHowToMoveWanted: howToMove.open()
+        }
+        CaptureScreen {
+            id: capture
+            objectName: "capturePage"
+            shown: pages.paged && (pages.step === pages.states.starting || pages.step === pages.states.capturing)
+            status: pages.status
+            layout: pages.layout
+            onRestarted: pages.wanted(pages.states.reset)
+            onHowToMoveWanted: howToMove.open()
+        }
+        FoundScreen {
+            id: found
+            objectName: "foundPage"
+            shown: pages.paged && pages.status.foundShown
+            status: pages.status
+            layout: pages.layout
+            onContinued: pages.status.foundRead = true
+        }
+        TutorialScreen {
+            id: tutorial
+            objectName: "tutorialPage"
+            shown: pages.paged && !pages.status.foundShown && pages.step === pages.states.tutorial
+            status: pages.status
+            layout: pages.layout
+            onContinued: pages.wanted(pages.states.refining)
+        }
+        RefinementScreen {
+            id: refinement
+            objectName: "refinementPage"
+            shown: pages.paged && !pages.status.foundShown && pages.step === pages.states.refining
+            status: pages.status
+            layout: pages.layout
+            overlay: pages.overlay
+            onContinued: pages.accepted()
+            onRestarted: pages.wanted(pages.states.reset)
+        }
+        SavingScreen {
+            id: saving
+            objectName: "savingPage"
+            shown: pages.status.saving
+            status: pages.status
+        }
+        NoticeScreen {
+            id: missingDevice
+            objectName: "missingDevicePage"
+            shown: pages.status.notice === objectName && !pages.status.saving
+            drawing: "missing"
+            title: qsTr("The depth camera was not found.")
+            steps: [qsTr("Close every other program that uses a camera."),
+                    qsTr("Switch the tablet off and on again."),
+                    qsTr("Start the calibration again. If the camera is still missing, the tablet needs service.")]
+            onLeft: pages.left()
+        }
+        NoticeScreen {
+            id: missingRearCamera
+            objectName: "missingPlatformCameraPage"
+            shown: pages.status.notice === objectName && !pages.status.saving
+            drawing: "rearMissing"
+            title: qsTr("The rear camera was not found.")
+            steps: [qsTr("Check in the system's privacy settings that programs may use the camera."),
+                    qsTr("Check in the device manager that the rear camera is switched on."),
+                    qsTr("Start the calibration again.")]
+            onLeft: pages.left()
+        }
+        NoticeScreen {
+            id: rearCameraTrouble
+            objectName: "platformCameraIssuePage"
+            shown: pages.status.notice === objectName && !pages.status.saving
+            drawing: "rearMissing"
+            title: qsTr("The rear camera delivers no picture.")
+            steps: [qsTr("Close every other program that uses the rear camera."),
+                    qsTr("Make sure that nothing covers the camera."),
+                    qsTr("Start the calibration again. What was found so far is not stored.")]
+            onLeft: pages.left()
+        }
+        TouchButton {
+            id: exitButton
+            objectName: "exitButton"
+            visible: !pages.status.saving
+            anchors.right: parent.right
+            anchors.top: parent.top
+            anchors.margins: Theme.margin
+            text: qsTr("Exit")
+            onClicked: pages.leave()
+        }
+    }
+    HowToMove { id: howToMove; anchors.fill: parent }
+    LeaveQuestion { id: leaveQuestion; anchors.fill: parent; onLeft: pages.left() }
+}

@@ -1,0 +1,73 @@
+import QtQuick 2.15
+import ImageRenderTypes 1.0
+import "components"
+import "theme"
+
+// The five views, and the ground that covers the window outside of the one or two that the page shows. Views paint
+// underneath everything, each into its parent's rectangle, whose y counts from the window's lower edge.
+Item {
+    id: pictures
+    property CalibrationStatus status
+    property PictureLayout layout
+    property alias refinementView: refinementView
+    signal touchDown(int x, int y)
+    signal touchMove(int x, int y)
+    signal touchUp(int x, int y)
+
+    readonly property bool paged: status.notice === "" && !status.saving && !status.foundShown
+    readonly property bool refining: paged && status.state === status.states.refining
+    readonly property string view: {
+        const s = status.states
+        if (!paged || status.state === s.firstOpened) return "none"
+        if (status.state === s.introduction || status.state === s.tutorial) return "single"
+        return status.state === s.refining ? "full" : "pair"
+    }
+    readonly property var shown: {
+        if (view === "none") return []
+        if (view === "single") return [layout.single]
+        if (view === "full") return [layout.full]
+        return layout.mirrored ? [layout.infrared, layout.colour] : [layout.colour, layout.infrared]
+    }
+
+    component Area: Item {
+        property rect place
+        x: place.x
+        y: pictures.height - place.y - place.height
+        width: place.width
+        height: place.height
+    }
+    Area {
+        place: pictures.layout.single
+        ColorImageRendererItem { objectName: "introImageView"; anchors.fill: parent }
+    }
+    Area {
+        place: pictures.layout.colour
+        ColorImageRendererItem { objectName: "calibColorView"; anchors.fill: parent }
+    }
+    Area {
+        place: pictures.layout.infrared
+        InfraredImageRendererItem { objectName: "calibInfraredView"; anchors.fill: parent }
+    }
+    Area {
+        place: pictures.layout.single
+        DepthColorOverlayRenderer { objectName: "refinementWalkthroughView"; anchors.fill: parent }
+    }
+    Area {
+        place: pictures.layout.full
+        DepthColorOverlayRenderer { id: refinementView; objectName: "refinementView"; anchors.fill: parent }
+        MouseArea {
+            objectName: "refinementTouchArea"
+            anchors.fill: parent
+            enabled: pictures.refining
+            onPressed: pictures.touchDown(mouse.x, mouse.y)
+            onReleased: pictures.touchUp(mouse.x, mouse.y)
+            onMouseXChanged: pictures.touchMove(mouseX, mouseY)
+        }
+    }
+
+    Ground {
+        anchors.fill: parent
+        holes: pictures.shown
+        corner: pictures.refining ? 0 : Theme.radius
+    }
+}

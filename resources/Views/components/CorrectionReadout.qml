@@ -1,0 +1,30 @@
+import QtQuick 2.15
+import "../theme"
+
+// By how much the finger has turned what was found, and to which side.
+Item {
+    id: readout
+    property real correctionDeg: 0
+    readonly property bool none: Math.abs(correctionDeg) < 0.005
+
+    component Arrow: Illustration {
+        height: Theme.length(44)
+        width: height
+        anchors.verticalCenter: parent.verticalCenter
+    }
+    Row {
+        anchors.centerIn: parent
+        spacing: Theme.smallGap
+        LayoutMirroring.enabled: false  // left is left
+        Arrow { drawing: "chevronLeft"; opacity: readout.none || readout.correctionDeg < 0 ? 1 : 0.15 }
+        Words {
+            objectName: "correctionText"
+            width: Theme.length(170)
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("%1°").arg(Number(readout.none ? 0 : Math.abs(readout.correctionDeg)).toLocaleString(Qt.locale(), "f", 2))
+            font.pixelSize: Theme.instructionSize
+            horizontalAlignment: Text.AlignHCenter
+        }
+        Arrow { drawing: "chevronRight"; opacity: readout.none || readout.correctionDeg > 0 ? 1 : 0.15 }
+    }
+}

@@ -1,0 +1,45 @@
+import QtQuick 2.15
+import "../theme"
+
+// The photos taken, in a row with room for as many as an attempt may take.
+Row {
+    id: row
+    property int count: 0
+    property var sources: []
+    readonly property int limit: 8
+    readonly property real slotWidth: Math.min((width - (limit - 1) * spacing) / limit, height * 4 / 3)
+    spacing: Theme.smallGap
+
+    Repeater {
+        model: row.limit
+        Rectangle {
+            readonly property bool taken: index < row.count
+            width: row.slotWidth
+            height: width * 3 / 4
+            anchors.verticalCenter: parent.verticalCenter
+            radius: Theme.radius / 2
+            color: Theme.panel
+            border.width: Theme.hairline
+            border.color: taken ? Theme.done : index === row.count ? Theme.now : Theme.line
+            Behavior on border.color { ColorAnimation { duration: Theme.calmly } }
+            Image {
+                anchors.fill: parent
+                anchors.margins: 2 * Theme.hairline
+                visible: parent.taken
+                source: row.sources[index] || ""
+                fillMode: Image.PreserveAspectCrop
+                opacity: status === Image.Ready ? 1 : 0
+                Behavior on opacity { NumberAnimation { duration: Theme.calmly } }
+            }
+            Illustration {
+                visible: parent.taken
+                width: Math.round(parent.height * 0.36)
+                height: width
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                anchors.margins: 2 * Theme.hairline
+                drawing: "done"
+            }
+        }
+    }
+}

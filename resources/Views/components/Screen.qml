@@ -1,0 +1,21 @@
+import QtQuick 2.15
+import ".."
+import "../theme"
+
+// One page: comes softly, goes at once. `mainButton` is the one that Return presses.
+Item {
+    property CalibrationStatus status
+    property PictureLayout layout
+    property bool shown: false
+    property Item mainButton: null
+
+    anchors.fill: parent
+    visible: shown
+    opacity: 0
+    onVisibleChanged: opacity = visible ? 1 : 0
+    Behavior on opacity {
+        enabled: visible
+        NumberAnimation { duration: Theme.briefly }
+    }
+    Component.onCompleted: opacity = visible ? 1 : 0
+}

@@ -1,0 +1,30 @@
+import QtQuick 2.15
+import "../theme"
+
+// A text of several lines: what comes first is set large, the rest quiet below it.
+Item {
+    id: statement
+    property string text
+    property int size: Theme.headingSize
+    property real share: 0.56  // of the height, for what comes first
+    readonly property int breakAt: text.indexOf("\n")
+    readonly property bool parted: breakAt >= 0
+
+    Words {
+        width: parent.width
+        height: statement.parted ? parent.height * statement.share : parent.height
+        text: statement.parted ? statement.text.slice(0, statement.breakAt) : statement.text
+        font.pixelSize: statement.size
+        font.weight: Font.DemiBold
+        lineHeight: 1
+        verticalAlignment: statement.parted ? Text.AlignBottom : Text.AlignVCenter
+    }
+    Words {
+        width: parent.width
+        y: parent.height * statement.share + Theme.smallGap / 2
+        height: parent.height - y
+        visible: statement.parted
+        text: statement.text.slice(statement.breakAt + 1)
+        color: Theme.quietText
+    }
+}

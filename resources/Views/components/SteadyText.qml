@@ -1,0 +1,15 @@
+import QtQuick 2.15
+import "../theme"
+
+// A text that changes only when the new one has lasted a moment, so that it can be read.
+Words {
+    id: words
+    property string wanted: ""
+
+    onWantedChanged: settle.restart()
+    Timer {
+        id: settle
+        interval: Theme.steady
+        onTriggered: words.text = words.wanted
+    }
+}

@@ -1,0 +1,15 @@
+import QtQuick 2.15
+import "../theme"
+
+// Text that wraps, and shrinks rather than being cut off where its height is given.
+Text {
+    color: Theme.text
+    font.family: Theme.family
+    font.pixelSize: Theme.bodySize
+    minimumPixelSize: Theme.smallestSize
+    fontSizeMode: Text.Fit
+    wrapMode: Text.WordWrap
+    lineHeight: Theme.lineHeight
+    textFormat: Text.PlainText
+    horizontalAlignment: Text.AlignLeft
+}

@@ -1,0 +1,54 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import "../components"
+import "../theme"
+
+// Asked once, and only when something would be lost.
+Rectangle {
+    id: question
+    property Item mainButton: stayButton
+    signal left()
+
+    objectName: "leaveQuestion"
+    visible: false
+    color: Qt.rgba(0, 0, 0, 0.7)
+    MouseArea { anchors.fill: parent }
+    Rectangle {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.length(820))
+        height: Math.min(parent.height - 2 * Theme.margin, Theme.length(340))
+        radius: 2 * Theme.radius
+        color: Theme.panel
+        ColumnLayout {
+            anchors.fill: parent
+            anchors.margins: Theme.margin * 1.5
+            spacing: Theme.margin
+            Statement {
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                text: qsTr("Leave without storing?\nThe photos and what was found so far would be lost. The camera keeps its old calibration.")
+            }
+            RowLayout {
+                Layout.fillWidth: true
+                spacing: Theme.gap
+                TouchButton {
+                    objectName: "leaveButton"
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    Layout.preferredHeight: Theme.bigTarget
+                    text: qsTr("Leave")
+                    onClicked: question.left()
+                }
+                TouchButton {
+                    id: stayButton
+                    objectName: "stayButton"
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    main: true
+                    text: qsTr("Stay")
+                    onClicked: question.visible = false
+                }
+            }
+        }
+    }
+}

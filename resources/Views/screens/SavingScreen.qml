@@ -1,0 +1,41 @@
+import QtQuick 2.15
+import "../components"
+import "../theme"
+
+Screen {
+    id: screen
+    readonly property bool saved: status.savedText !== ""
+
+    Column {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 2 * Theme.margin, Theme.length(1000))
+        spacing: Theme.margin
+        Item {
+            width: parent.width
+            height: Theme.length(180)
+            Illustration {
+                anchors.centerIn: parent
+                width: height
+                height: parent.height
+                drawing: screen.saved ? "done" : "camera"
+            }
+        }
+        Words {
+            objectName: "saveText"
+            width: parent.width
+            height: 2.4 * Theme.instructionSize
+            text: screen.saved ? screen.status.savedText : qsTr("Storing the calibration in the camera…")
+            font.pixelSize: Theme.instructionSize
+            font.weight: Font.DemiBold
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+        }
+        Words {
+            width: parent.width
+            height: 2.4 * Theme.bodySize
+            text: screen.saved ? qsTr("The program closes by itself.") : qsTr("Please wait, and do not switch the tablet off.")
+            color: Theme.quietText
+            horizontalAlignment: Text.AlignHCenter
+        }
+    }
+}

@@ -1,0 +1,57 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import "../components"
+import "../theme"
+
+Screen {
+    id: screen
+    signal continued()
+    mainButton: continueButton
+
+    ColumnLayout {
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        anchors.margins: Theme.margin
+        width: screen.layout.panelWidth - Theme.margin
+        spacing: Theme.gap
+        Words {
+            Layout.fillWidth: true
+            Layout.preferredHeight: Theme.target
+            Layout.rightMargin: screen.layout.exitSpace
+            text: qsTr("Example")
+            color: Theme.quietText
+            verticalAlignment: Text.AlignVCenter
+        }
+        Item { Layout.fillHeight: true }
+        Words {
+            Layout.fillWidth: true
+            Layout.preferredHeight: 4.6 * Theme.instructionSize
+            text: qsTr("Drag left or right until the colors fit the picture.")
+            font.pixelSize: Theme.instructionSize
+            font.weight: Font.DemiBold
+        }
+        Words {
+            Layout.fillWidth: true
+            Layout.preferredHeight: 4 * Theme.bodySize * Theme.lineHeight
+            color: Theme.quietText
+            text: qsTr("Every color is a distance. Where something near ends, the color has to end as well.")
+        }
+        Words {
+            Layout.fillWidth: true
+            Layout.preferredHeight: 4 * Theme.bodySize * Theme.lineHeight
+            color: Theme.quietText
+            text: qsTr("Often nothing needs to be changed.")
+        }
+        Item { Layout.fillHeight: true }
+        TouchButton {
+            id: continueButton
+            objectName: "tutorialContinueButton"
+            Layout.fillWidth: true
+            Layout.preferredHeight: Math.max(Theme.target, Theme.length(96))
+            main: true
+            text: qsTr("Continue")
+            onClicked: screen.continued()
+        }
+    }
+}

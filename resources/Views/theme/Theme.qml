@@ -1,0 +1,48 @@
+pragma Singleton
+import QtQuick 2.15
+
+// A calm instrument: dark neutral ground, one warm colour for what to do now, one for what is done. Every colour,
+// size and duration of the interface. Sizes follow the window, so that it reads the same on every screen.
+QtObject {
+    property real windowWidth: 1280
+    property real windowHeight: 800
+    readonly property real unit: Math.min(windowWidth / 1280, windowHeight / 800)
+
+    // Every text colour stands at 7:1 or more on the ground and on a panel: it is read in the sun.
+    readonly property color ground: "#12161a"
+    readonly property color panel: "#1c2228"
+    readonly property color line: "#3a444d"
+    readonly property color text: "#f4f6f7"
+    readonly property color quietText: "#bcc6cd"
+    readonly property color now: "#ffb030"
+    readonly property color nowPressed: "#d98f14"
+    readonly property color done: "#63d6a4"
+    readonly property color textOnColour: "#12161a"
+    readonly property color flash: "#ffffff"
+    readonly property real veil: 0.88  // of panels over a picture
+
+    readonly property string family: Qt.platform.os === "windows" ? "Segoe UI" : Qt.application.font.family
+    readonly property int instructionSize: size(42, 20)
+    readonly property int headingSize: size(34, 18)
+    readonly property int bodySize: size(23, 14)
+    readonly property int captionSize: size(19, 12)
+    readonly property int smallestSize: 11  // to which long translations may shrink
+    readonly property real lineHeight: 1.15
+
+    readonly property real margin: length(24)
+    readonly property real gap: length(16)
+    readonly property real smallGap: length(8)
+    readonly property real radius: length(12)
+    readonly property real hairline: Math.max(1, length(2))
+    readonly property int target: size(60, 48)  // of everything that is touched
+    readonly property int bigTarget: size(76, 48)
+
+    readonly property int briefly: 180
+    readonly property int calmly: 400
+    readonly property int slowly: 1600
+    readonly property int confirmation: 1500
+    readonly property int steady: 250  // an instruction that lasts shorter is not shown
+
+    function length(atDesignSize) { return Math.round(atDesignSize * unit) }
+    function size(atDesignSize, atLeast) { return Math.max(atLeast, length(atDesignSize)) }
+}

@@ -1,0 +1,115 @@
+#include "tests/views/ViewsStory.h"
+
+#include "app/InterfaceTexts.h"
+
+#include <QDir>
+
+namespace fieldcal::testing {
+namespace {
+
+void takePhotos(ViewsStage& stage, int count) {
+    for (int i = 0; i < count; ++i) {
+        stage.tell("flashCalibrationImageViews");
+        const QString picture = qEnvironmentVariable("STORY_PICTURES") + QString("/%1_third.png").arg(i, 3, 10, QChar('0'));
+        stage.tell("showCapturedPhoto", QUrl::fromLocalFile(picture).toString());
+        stage.tell("setCalibrationProgress", 0.2 * (i + 1));
+    }
+    const QVariantList areas{1, 0.8, 0.1, 0, 1, 1, 1, 0.4, 1, 1, 1, 1};
+    stage.tell("showDetailMap", areas);
+}
+
+void startAttempt(ViewsStage& stage) {
+    stage.enter(7);
+    stage.tell("setCalibrationProgress", 0.0);
+}
+
+void found(ViewsStage& stage) {
+    stage.enter(8);
+    stage.tell("showFoundTurn", QVariantList{0.42, -1.87, 0.05});
+}
+
+}  // namespace
+
+std::vector<Scene> story() {
+    return {
+        {"opening", [](ViewsStage&) {}},
+        {"introduction",
+         [](ViewsStage& stage) {
+             stage.tell("showLastSaveFailed", interfaceText(texts::kLastSaveFailed));
+             stage.enter(1);
+         }},
+        {"sunlight",
+         [](ViewsStage& stage) {
+             stage.press("introContinueButton");
+             stage.tell("setColorCameraDescriptionText", interfaceText(texts::kFirstCamera));
+             stage.tell("setLightingDialogText", interfaceText(texts::kDarkTitle), interfaceText(texts::kDark));
+             stage.tell("setLightingProgress", 0.55);
+         }},
+        {"sunlight-enough",
+         [](ViewsStage& stage) {
+             stage.tell("setLightingDialogText", interfaceText(texts::kLitTitle), interfaceText(texts::kLit));
+             stage.tell("setLightingProgress", 1.0);
+             stage.tell("toggleLightingContinueButtonVisibility", true, interfaceText(texts::kContinue));
+         }},
+        {"capture",
+         [](ViewsStage& stage) {
+             stage.press("lightingContinueButton");
+             startAttempt(stage);
+             takePhotos(stage, 3);
+             stage.tell("showMovementText",
+                        interfaceText("Move the device to capture a different calibration photo."));
+         }},
+        {"light-lost", [](ViewsStage& stage) { stage.tell("showReturnToAWellLitAreaPopup"); }},
+        {"leave-question",
+         [](ViewsStage& stage) {
+             stage.tell("hideReturnToAWellLitAreaPopup");
+             stage.press("exitButton");
+         }},
+        {"start-again",
+         [](ViewsStage& stage) {
+             stage.press("stayButton");
+             stage.tell("showCalibrationStartupText",
+                        interfaceText(
+                            "Calibration isn't working because the scenery in these photos is too simple.\nLet's try "
+                            "again. Point at interesting scenery like buildings or trees."));
+             stage.tell("showHowToMoveTutorialButton");
+             stage.enter(5);
+         }},
+        {"how-to-move", [](ViewsStage& stage) { stage.press("howToMoveButton"); }},
+        {"how-to-move-turn", [](ViewsStage& stage) { stage.press("howToMoveNextButton"); }},
+        {"how-to-move-pause", [](ViewsStage& stage) { stage.press("howToMoveNextButton"); }},
+        {"found",
+         [](ViewsStage& stage) {
+             stage.press("howToMoveNextButton");
+             startAttempt(stage);
+             takePhotos(stage, 4);
+             found(stage);
+             stage.enter(9);
+         }},
+        {"tutorial", [](ViewsStage& stage) { stage.press("foundContinueButton"); }},
+        {"refinement",
+         [](ViewsStage& stage) {
+             stage.tell("showSaveCalibrationText", interfaceText(texts::kRefineFirst));
+             stage.press("tutorialContinueButton");
+         }},
+        {"capture-second",
+         [](ViewsStage& stage) {
+             stage.press("refinementContinueButton");
+             stage.tell("setColorCameraDescriptionText", interfaceText(texts::kSecondCamera));
+             startAttempt(stage);
+             takePhotos(stage, 5);
+             stage.tell("showMovementText", interfaceText("Pause to capture a calibration photo."));
+         }},
+        {"refinement-second",
+         [](ViewsStage& stage) {
+             stage.tell("showSaveCalibrationText", interfaceText(texts::kRefineSecond));
+             found(stage);
+             stage.enter(10);
+             stage.press("foundContinueButton");
+         }},
+        {"saving", [](ViewsStage& stage) { stage.press("refinementContinueButton"); }},
+        {"saved", [](ViewsStage& stage) { stage.tell("showSaveCalibrationText", interfaceText(texts::kSaved)); }},
+    };
+}
+
+}  // namespace fieldcal::testing

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "tests/views/ViewsStage.h"
+
+#include <functional>
+#include <vector>
+
+namespace fieldcal::testing {
+
+/// A page as it looks in the middle of things.
+struct Scene {
+    const char* name;
+    std::function<void(ViewsStage&)> enter;
+};
+
+/// Every page once, in the order of the workflow, each entered from the one before, as the application does it.
+std::vector<Scene> story();
+
+}  // namespace fieldcal::testing
