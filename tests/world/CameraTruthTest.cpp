@@ -1,3 +1,5 @@
+#include "session/Nv12.h"
+#include "simulator/kxapi/Rectification.h"
 #include "simulator/synthesis/Rig.h"
 #include "simulator/world/Cameras.h"
 #include "simulator/world/Emitter.h"
@@ -142,6 +144,24 @@ cv::Mat_<float> lumaOf(const std::vector<std::uint8_t>& nv12) {
     return out - 16;
 }
 
+/// The rear camera's picture as the tablet's software rectifies it.
+cv::Mat_<float> rectified(const session::PlatformCamera& camera, const std::vector<std::uint8_t>& nv12) {
+    const auto f = [](double v) { return static_cast<float>(v); };
+    const auto& r = camera.raw;
+    const auto& k = camera.rectified;
+    const KXCalibIntrinsicsNonRectified raw{f(r.fx), f(r.fy), f(r.cx), f(r.cy), r.width, r.height,
+                                            f(r.k1), f(r.k2), f(r.p1), f(r.p2), f(r.k3)};
+    const KXCalibIntrinsicsRectified target{f(k.fx), f(k.fy), f(k.cx), f(k.cy), k.width, k.height};
+    std::vector<std::uint32_t> table(static_cast<std::size_t>(k.width) * static_cast<std::size_t>(k.height));
+    kxsim::fillRectificationTable(raw, camera.rectification.data(), target, table.data());
+    ImageFrame32 source, destination;
+    source.resize(static_cast<std::uint32_t>(r.width), static_cast<std::uint32_t>(r.height));
+    destination.resize(static_cast<std::uint32_t>(k.width), static_cast<std::uint32_t>(k.height));
+    session::bgraFromNv12(nv12.data(), r.width, r.height, source.bytes());
+    kxsim::rectify(table.data(), source.bytes(), k.width, k.width, k.height, destination.bytes());
+    return greenOf(destination);
+}
+
 TEST(WorldCameras, MarkedPointsLieWhereModelsAndPosePutThemInAllCameras) {
     for (std::uint64_t seed = 1; seed <= 10; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
@@ -160,7 +180,35 @@ TEST(WorldCameras, MarkedPointsLieWhereModelsAndPosePutThemInAllCameras) {
             const cv::Vec3d there = moved(*rig.truthPlatform, rig.platform->translation, p);
             return synthesis::rawFromRectified(*rig.platform, colourPixel(rig.platform->rectified, k, there));
         });
+        expectDots(dots, rectified(*rig.platform, pictures.platform), [&](const cv::Vec3d& p) {
+            const cv::Vec3d there = moved(*rig.truthPlatform, rig.platform->translation, p);
+            return colourPixel(rig.platform->rectified, k, there);
+        });
     }
+}
+
+TEST(WorldCameras, DepthBroughtIntoColourLandsOnTheSameSurface) {
+    const auto rig = synthesis::drawRig(6, {});
+    const auto stage = buildWorld("street", 2);
+    const Cameras cameras(rig, {1, 1, 1});
+    const Moment moment{{cv::Matx33d::eye(), {0, 0, 0}}, 0};
+    const View view = cameras.see(*stage->world, moment, moment, false);
+    const auto rays = synthesis::colourRays(rig.third, rig.infrared, 1);
+    const Picture colour = takePicture(*stage->world, rays, {cameras.thirdPose(moment.pose)});
+    int seen = 0, same = 0;
+    for (int y = 0; y < view.depth.rows; y += 3)
+        for (int x = 0; x < view.depth.cols; x += 3) {
+            const double z = view.depth(y, x);
+            if (z <= 0 || z > 20) continue;
+            const cv::Vec3d ray((x - rig.depth.cx) / rig.depth.fx, (y - rig.depth.cy) / rig.depth.fy, 1);
+            const cv::Vec3d there = moved(*rig.truthThird, rig.third.translation, ray * z);
+            const cv::Point at = colourPixel(rig.third, rig.infrared, there);
+            if (!cv::Rect({}, colour.depth.size()).contains(at)) continue;
+            ++seen;
+            same += std::abs(colour.depth(at) - there[2]) < 0.02 * there[2] ? 1 : 0;
+        }
+    ASSERT_GT(seen, 3000);
+    EXPECT_GT(same, 0.95 * seen) << "the rest is hidden from the colour camera, or lies at an edge";
 }
 
 /// A slanted plane 3 m away; returns z along the ray (x, y, 1) of the camera at the origin that looks along +z.
