@@ -56,6 +56,7 @@ void GlobalManager::loadUILanguage() {
 }
 
 void GlobalManager::loadInterface() {
+    engine_.addImageProvider(PhotoProvider::name(), bridge_.makePhotoProvider());
     engine_.load(environment_.rootDocument);
     window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().value(0));
     if (window_ == nullptr) {

@@ -81,6 +81,18 @@ void QmlFunctions::showLastSaveFailed(const QString& text) {
     call("showLastSaveFailed", {text});
 }
 
+void QmlFunctions::showCapturedPhoto(const QString& source) {
+    call("showCapturedPhoto", {source});
+}
+
+void QmlFunctions::showDetailMap(const QVariantList& areas) {
+    call("showDetailMap", {QVariant(areas)});
+}
+
+void QmlFunctions::showFoundTurn(const QVariantList& anglesDeg) {
+    call("showFoundTurn", {QVariant(anglesDeg)});
+}
+
 // The root belongs to the main thread; another thread does not even look at it.
 void QmlFunctions::call(const char* function, const QVariantList& arguments) {
     mainThread_.call([this, function, arguments] { callNow(function, arguments); });

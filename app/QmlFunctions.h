@@ -38,6 +38,10 @@ public:
     void displayMissingPlatformCamera();
     void displayPlatformCameraIssue();
     void showLastSaveFailed(const QString& text);
+    void showCapturedPhoto(const QString& source);
+    void showDetailMap(const QVariantList& areas);
+    /// Of the camera, upwards, to the right, and clockwise as seen from behind it.
+    void showFoundTurn(const QVariantList& anglesDeg);
 
 private:
     void call(const char* function, const QVariantList& arguments = {});

@@ -4,8 +4,24 @@
 #include "app/ImageViews.h"
 #include "app/InterfaceTexts.h"
 #include "app/QmlFunctions.h"
+#include "engine/Rotation.h"
+
+#include <array>
 
 namespace fieldcal {
+namespace {
+
+/// Of the camera against where the stored rotation has it: about its own X, Y and Z axis.
+std::array<double, 3> turnDeg(const Rotation& stored, const Rotation& estimated) {
+    using Matrix = Eigen::Matrix<float, 3, 3, Eigen::RowMajor>;
+    const Eigen::Matrix3d from = Eigen::Map<const Matrix>(stored.data()).cast<double>();
+    const Eigen::Matrix3d to = Eigen::Map<const Matrix>(estimated.data()).cast<double>();
+    // What moves points of the picture one way has turned the camera the other way.
+    const Eigen::Vector3d angles = vq::anglesFromRotation(from * to.transpose()) * vq::kDegreesPerRadian;
+    return {angles[0], angles[1], angles[2]};
+}
+
+}  // namespace
 
 WorkflowBridge::WorkflowBridge(GlobalManager& manager, MainThreadCalls& mainThread, QmlFunctions& functions,
                                ImageViews& views)
@@ -44,6 +60,10 @@ void WorkflowBridge::refining(State state) {
 
 void WorkflowBridge::solutionFound(ColourCamera camera, const CameraParameters& factory, const Rotation& estimated) {
     views_.setCalibration(camera, factory, estimated);
+    const CameraExtrinsics& stored =
+        camera == ColourCamera::OutOfModule ? factory.depthToOutOfModule : factory.depthToInModule;
+    const std::array<double, 3> turn = turnDeg(stored.rotation, estimated);
+    functions_.showFoundTurn({turn[0], turn[1], turn[2]});
 }
 
 void WorkflowBridge::singleCameraOnly() {
@@ -94,6 +114,14 @@ void WorkflowBridge::returnToWellLitArea(bool needed) {
 
 void WorkflowBridge::pairCaptured() {
     functions_.flashCalibrationImageViews();
+}
+
+void WorkflowBridge::pairPictures(const ImageFrame16& /*infrared*/, const ImageFrame32& colour) {
+    functions_.showCapturedPhoto(photos_.add(colour));
+}
+
+void WorkflowBridge::detailGathered(const std::vector<double>& areas) {
+    functions_.showDetailMap(QVariantList(areas.begin(), areas.end()));
 }
 
 void WorkflowBridge::offerHowToMove() {

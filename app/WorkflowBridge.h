@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/CapturedPhotos.h"
 #include "app/RenderPacer.h"
 #include "workflow/WorkflowListener.h"
 
@@ -25,6 +26,8 @@ public:
     void animateTutorial(bool on) { tutorialAnimation_ = on; }
     /// Until the module says otherwise, there is one.
     bool platformCameraPresent() const { return platformCamera_; }
+    /// For the interface's engine, which owns what it is given. Once.
+    QQuickImageProvider* makePhotoProvider() { return new PhotoProvider(photos_); }
 
     // The processing thread's.
     void stateChanged(State state) override;
@@ -43,6 +46,8 @@ public:
     void calibrationProgress(double progress) override;
     void returnToWellLitArea(bool needed) override;
     void pairCaptured() override;
+    void pairPictures(const ImageFrame16& infrared, const ImageFrame32& colour) override;
+    void detailGathered(const std::vector<double>& areas) override;
     void offerHowToMove() override;
 
 private:
@@ -53,6 +58,7 @@ private:
     QmlFunctions& functions_;
     ImageViews& views_;
     RenderPacer pacer_;
+    CapturedPhotos photos_;
     std::atomic<bool> tutorialAnimation_{false};
     std::atomic<bool> platformCamera_{true};
 };

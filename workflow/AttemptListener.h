@@ -1,5 +1,6 @@
 #pragma once
 
+#include "camera/ImageFrame.h"
 #include "engine/CalibratorResult.h"
 
 #include <string>
@@ -21,6 +22,8 @@ public:
     virtual void returnToWellLitArea(bool /*needed*/) {}
     /// A pair is being taken.
     virtual void pairCaptured() {}
+    /// Its pictures, told after `pairCaptured`. Valid during the call.
+    virtual void pairPictures(const ImageFrame16& /*infrared*/, const ImageFrame32& /*colour*/) {}
     /// A pair has been matched, and a calibration tried with it.
     virtual void pairProcessed(const vq::CalibratorResult&) {}
     virtual void offerHowToMove() {}

@@ -46,16 +46,17 @@ CalibrationAttempt::Outcome CalibrationAttempt::processFrame(const ImageFrame16&
             listener_.movementText("Pause to capture a calibration photo.");
             break;
         case vq::ProcessImagePair:
-            return addPair();
+            return addPair(infrared, colour);
         default:
             break;
     }
     return Outcome::Continues;
 }
 
-CalibrationAttempt::Outcome CalibrationAttempt::addPair() {
+CalibrationAttempt::Outcome CalibrationAttempt::addPair(const ImageFrame16& infrared, const ImageFrame32& colour) {
     qInfo("Adding new infrared color pair...");
     listener_.pairCaptured();
+    listener_.pairPictures(infrared, colour);
     const vq::CalibratorResult result = calibrator_.inputImageAndTryCalibration();
     ++photoCount_;
     listener_.calibrationProgress(progressAfterPairs(photoCount_));

@@ -37,7 +37,7 @@ public:
     std::int32_t photoCount() const { return photoCount_; }
 
 private:
-    Outcome addPair();
+    Outcome addPair(const ImageFrame16& infrared, const ImageFrame32& colour);
     Outcome judge(const vq::CalibratorResult& result) const;
 
     vq::ICalibrator& calibrator_;

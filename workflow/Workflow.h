@@ -99,6 +99,7 @@ private:
     void resetCalibration(const Snapshot& now);
     void startCalibration(const Snapshot& now);
     void processFrame(const Snapshot& now);
+    void tellDetail();
     void takeSolution(const Snapshot& now);
     bool advance(const Snapshot& from, State to);
     const ImageFrame32& colourFrame() const;

@@ -10,6 +10,8 @@
 
 #include <QString>
 
+#include <vector>
+
 namespace fieldcal {
 
 /// What the workflow tells whoever shows it. Called on the thread that runs the workflow, without any of its locks.
@@ -24,6 +26,9 @@ public:
     /// Every pass in which the user refines or is shown how to, after the pass's frames. May wait for the screen, but
     /// not longer than for the stop.
     virtual void refining(State) {}
+    /// After each pair: how much of the detail that is needed each area of the infrared picture has given so far, 0..1,
+    /// row by row, four areas across and three down.
+    virtual void detailGathered(const std::vector<double>& /*areas*/) {}
     /// A rotation was found: what the overlay needs to show it.
     virtual void solutionFound(ColourCamera, const CameraParameters& /*factory*/, const Rotation& /*estimated*/) {}
     /// The module has no platform camera that could be calibrated.

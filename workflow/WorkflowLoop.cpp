@@ -168,7 +168,10 @@ void Workflow::startCalibration(const Snapshot& now) {
 }
 
 void Workflow::processFrame(const Snapshot& now) {
-    switch (attempt_.processFrame(sensor_->frames().leftInfrared, colourFrame())) {
+    const std::int32_t photosBefore = attempt_.photoCount();
+    const CalibrationAttempt::Outcome outcome = attempt_.processFrame(sensor_->frames().leftInfrared, colourFrame());
+    if (attempt_.photoCount() > photosBefore) tellDetail();
+    switch (outcome) {
         case CalibrationAttempt::Outcome::Continues:
             break;
         case CalibrationAttempt::Outcome::Solved:
@@ -180,6 +183,14 @@ void Workflow::processFrame(const Snapshot& now) {
             listener_.stateChanged(State::WaitingToCalibrate);
             break;
     }
+}
+
+void Workflow::tellDetail() {
+    const vq::SensorCalibrator& calibrator = engine_.calibrator();
+    std::vector<double> areas;
+    for (const int count : calibrator.grid().cellCounts())
+        areas.push_back(std::min(1.0, static_cast<double>(count) / calibrator.parameters().cellMinimum));
+    listener_.detailGathered(areas);
 }
 
 void Workflow::takeSolution(const Snapshot& now) {

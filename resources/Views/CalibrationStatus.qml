@@ -33,7 +33,7 @@ QtObject {
     property int photoCount: 0
     property var photos: []     // of each photo the source of its small picture; may be fewer than were taken
     property var detail: []     // of each area of the picture 0..1, row by row; empty before the first photo
-    property var foundTurn: []  // degrees about X, Y, Z
+    property var foundTurn: []  // degrees: upwards, to the right, clockwise
     property bool foundRead: false
 
     // Its page comes between the capture and what the application shows next.

@@ -51,6 +51,9 @@ Window {
     function displayMissingPlatformCamera() { add("missingPlatformCamera", []) }
     function displayPlatformCameraIssue() { add("platformCameraIssue", []) }
     function showLastSaveFailed(text) { add("lastSaveFailed", [text]) }
+    function showCapturedPhoto(source) { add("photo", [source]) }
+    function showDetailMap(areas) { add("detail", areas.map(area => area.toFixed(1))) }
+    function showFoundTurn(anglesDeg) { add("foundTurn", anglesDeg.map(angle => angle.toFixed(1))) }
 
     Item {
         width: root.width; height: root.height

@@ -37,11 +37,12 @@ void fillViews(ViewsStage& stage, const QString& recording) {
     const ImageFrame32 colour = colourFrame(recording + "/000_third.png");
     for (const char* name : {"introImageView", "calibColorView"})
         stage.window()->findChild<ColorImageRendererItem*>(name)->setFrame(colour);
-    stage.window()->findChild<InfraredImageRendererItem*>("calibInfraredView")
+    stage.window()
+        ->findChild<InfraredImageRendererItem*>("calibInfraredView")
         ->setFrame(greyFrame(recording + "/000_infrared.png"));
     for (const char* name : {"refinementWalkthroughView", "refinementView"})
-        stage.window()->findChild<DepthColorOverlayRenderer*>(name)->setFrames(
-            colour, greyFrame(recording + "/000_depth.png"));
+        stage.window()->findChild<DepthColorOverlayRenderer*>(name)->setFrames(colour,
+                                                                               greyFrame(recording + "/000_depth.png"));
 }
 
 void showViews(ViewsStage& stage, const QString& page) {

@@ -4,8 +4,8 @@
 #include "render/DepthColorOverlayRenderer.h"
 #include "render/InfraredImageRendererItem.h"
 
-#include <QQmlEngine>
 #include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSignalSpy>

@@ -10,7 +10,8 @@ namespace {
 void takePhotos(ViewsStage& stage, int count) {
     for (int i = 0; i < count; ++i) {
         stage.tell("flashCalibrationImageViews");
-        const QString picture = qEnvironmentVariable("STORY_PICTURES") + QString("/%1_third.png").arg(i, 3, 10, QChar('0'));
+        const QString picture =
+            qEnvironmentVariable("STORY_PICTURES") + QString("/%1_third.png").arg(i, 3, 10, QChar('0'));
         stage.tell("showCapturedPhoto", QUrl::fromLocalFile(picture).toString());
         stage.tell("setCalibrationProgress", 0.2 * (i + 1));
     }
@@ -56,8 +57,7 @@ std::vector<Scene> story() {
              stage.press("lightingContinueButton");
              startAttempt(stage);
              takePhotos(stage, 3);
-             stage.tell("showMovementText",
-                        interfaceText("Move the device to capture a different calibration photo."));
+             stage.tell("showMovementText", interfaceText("Move the device to capture a different calibration photo."));
          }},
         {"light-lost", [](ViewsStage& stage) { stage.tell("showReturnToAWellLitAreaPopup"); }},
         {"leave-question",

@@ -27,6 +27,7 @@ Row {
                 anchors.margins: 2 * Theme.hairline
                 visible: parent.taken
                 source: row.sources[index] || ""
+                cache: false
                 fillMode: Image.PreserveAspectCrop
                 opacity: status === Image.Ready ? 1 : 0
                 Behavior on opacity { NumberAnimation { duration: Theme.calmly } }

@@ -96,19 +96,19 @@ Screen {
             Layout.fillHeight: true
             spacing: Theme.gap
             Part {
-                drawing: screen.turn[1] < 0 ? "arrowRight" : "arrowLeft"
+                drawing: screen.turn[1] > 0 ? "arrowRight" : "arrowLeft"
                 value: screen.degrees(screen.turn[1])
-                meaning: screen.turn[1] < 0 ? qsTr("to the right") : qsTr("to the left")
+                meaning: screen.turn[1] > 0 ? qsTr("to the right") : qsTr("to the left")
             }
             Part {
-                drawing: screen.turn[0] < 0 ? "arrowUp" : "arrowDown"
+                drawing: screen.turn[0] > 0 ? "arrowUp" : "arrowDown"
                 value: screen.degrees(screen.turn[0])
-                meaning: screen.turn[0] < 0 ? qsTr("upwards") : qsTr("downwards")
+                meaning: screen.turn[0] > 0 ? qsTr("upwards") : qsTr("downwards")
             }
             Part {
-                drawing: screen.turn[2] < 0 ? "clockwise" : "counterclockwise"
+                drawing: screen.turn[2] > 0 ? "clockwise" : "counterclockwise"
                 value: screen.degrees(screen.turn[2])
-                meaning: screen.turn[2] < 0 ? qsTr("tilted clockwise") : qsTr("tilted counterclockwise")
+                meaning: screen.turn[2] > 0 ? qsTr("tilted clockwise") : qsTr("tilted counterclockwise")
             }
         }
         Words {

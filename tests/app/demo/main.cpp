@@ -47,6 +47,13 @@ void drag(WalkThrough* user) {
     settle();
 }
 
+/// Its page comes before the next state's, which the log does not tell.
+void readWhatWasFound(WalkThrough* user, const char* name) {
+    settle();
+    user->look(name);
+    user->hand().pressReturn();
+}
+
 bool walk(WalkThrough* user) {
     const auto pressReturn = [user] { user->hand().pressReturn(); };
     const auto lookThenPress = [&](const char* name, const char* untilLine) {
@@ -59,9 +66,9 @@ bool walk(WalkThrough* user) {
         return false;
     }
     user->look("capture");
-    if (!user->waitFor("changing qml to state 9", kCaptureMs) || !lookThenPress("tutorial", "changing to state 10")) {
-        return false;
-    }
+    if (!user->waitFor("changing qml to state 9", kCaptureMs)) return false;
+    readWhatWasFound(user, "found");
+    if (!lookThenPress("tutorial", "changing to state 10")) return false;
     settle();
     user->look("refinement");
     drag(user);
@@ -69,10 +76,9 @@ bool walk(WalkThrough* user) {
         return false;
     }
     user->look("capture-second");
-    if (!user->waitFor("changing qml to state 10", kCaptureMs) ||
-        !lookThenPress("refinement-second", "slot_saveAndQuit - cleaning up")) {
-        return false;
-    }
+    if (!user->waitFor("changing qml to state 10", kCaptureMs)) return false;
+    readWhatWasFound(user, "found-second");
+    if (!lookThenPress("refinement-second", "slot_saveAndQuit - cleaning up")) return false;
     QThread::msleep(300);
     user->look("saved");
     return true;
