@@ -57,11 +57,20 @@ Item {
         DepthColorOverlayRenderer { id: refinementView; objectName: "refinementView"; anchors.fill: parent }
         MouseArea {
             objectName: "refinementTouchArea"
+            property int toldX: 0  // the signal for x comes for vertical movements, too
             anchors.fill: parent
             enabled: pictures.refining
-            onPressed: pictures.touchDown(mouse.x, mouse.y)
+            onPressed: {
+                toldX = mouse.x
+                pictures.touchDown(mouse.x, mouse.y)
+            }
             onReleased: pictures.touchUp(mouse.x, mouse.y)
-            onMouseXChanged: pictures.touchMove(mouseX, mouseY)
+            onMouseXChanged: {
+                const x = Math.round(mouseX)
+                if (!pressed || x === toldX) return
+                toldX = x
+                pictures.touchMove(x, mouseY)
+            }
         }
     }
 

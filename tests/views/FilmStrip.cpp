@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace fieldcal::testing {
@@ -58,28 +59,43 @@ void showViews(ViewsStage& stage, const QString& page) {
     show("refinementView", refinement);
 }
 
-int run(const QStringList& arguments) {
-    const QString recording = arguments[1], folder = arguments[2];
-    QDir().mkpath(folder);
-    qputenv("STORY_PICTURES", recording.toLocal8Bit());
+/// How it is to be looked at, and where the pictures go.
+struct Strip {
+    QString recording;
+    QString folder;
+    QSize size;
+    bool leftToRight = true;
+    int count = 0;
+};
+
+bool shoot(ViewsStage& stage, const Scene& scene, Strip* strip) {
+    scene.enter(stage);
+    showViews(stage, scene.name);
+    QTest::qWait(kSettleMs);
+    const QString number = QString::number(++strip->count).rightJustified(2, '0');
+    return stage.window()->grabWindow().save(QString("%1/%2-%3.png").arg(strip->folder, number, scene.name));
+}
+
+bool shootAll(const std::vector<Scene>& scenes, Strip* strip) {
     ViewsStage stage;
     if (stage.window() == nullptr) {
         std::fprintf(stderr, "film-strip: %s\n", qPrintable(stage.problem()));
-        return 1;
+        return false;
     }
+    stage.resize(strip->size);
+    stage.tell("setLeftToRightLanguage", strip->leftToRight);
+    fillViews(stage, strip->recording);
+    return std::all_of(scenes.begin(), scenes.end(), [&](const Scene& scene) { return shoot(stage, scene, strip); });
+}
+
+int run(const QStringList& arguments) {
     const QStringList size = arguments.value(3, "1280x800").split('x');
-    stage.resize({size[0].toInt(), size[1].toInt()});
-    stage.tell("setLeftToRightLanguage", !arguments.contains("rtl"));
-    fillViews(stage, recording);
-    int number = 0;
-    for (const Scene& scene : story()) {
-        scene.enter(stage);
-        showViews(stage, scene.name);
-        QTest::qWait(kSettleMs);
-        stage.window()->update();
-        const QString file = QString("%1/%2-%3.png").arg(folder).arg(++number, 2, 10, QChar('0')).arg(scene.name);
-        if (!stage.window()->grabWindow().save(file)) return 1;
-    }
+    Strip strip{arguments[1], arguments[2], {size.value(0).toInt(), size.value(1).toInt()}, !arguments.contains("rtl")};
+    QDir().mkpath(strip.folder);
+    qputenv("STORY_PICTURES", strip.recording.toLocal8Bit());
+    if (!shootAll(story(), &strip)) return 1;
+    for (const Scene& ending : endings())
+        if (!shootAll({ending}, &strip)) return 1;
     return 0;
 }
 

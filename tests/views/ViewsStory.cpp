@@ -2,17 +2,15 @@
 
 #include "app/InterfaceTexts.h"
 
-#include <QDir>
-
 namespace fieldcal::testing {
 namespace {
 
 void takePhotos(ViewsStage& stage, int count) {
     for (int i = 0; i < count; ++i) {
         stage.tell("flashCalibrationImageViews");
-        const QString picture =
-            qEnvironmentVariable("STORY_PICTURES") + QString("/%1_third.png").arg(i, 3, 10, QChar('0'));
-        stage.tell("showCapturedPhoto", QUrl::fromLocalFile(picture).toString());
+        const QString folder = qEnvironmentVariable("STORY_PICTURES");
+        const QString picture = QString("%1/%2_third.png").arg(folder).arg(i, 3, 10, QChar('0'));
+        if (!folder.isEmpty()) stage.tell("showCapturedPhoto", QUrl::fromLocalFile(picture).toString());
         stage.tell("setCalibrationProgress", 0.2 * (i + 1));
     }
     const QVariantList areas{1, 0.8, 0.1, 0, 1, 1, 1, 0.4, 1, 1, 1, 1};
@@ -109,6 +107,15 @@ std::vector<Scene> story() {
          }},
         {"saving", [](ViewsStage& stage) { stage.press("refinementContinueButton"); }},
         {"saved", [](ViewsStage& stage) { stage.tell("showSaveCalibrationText", interfaceText(texts::kSaved)); }},
+    };
+}
+
+std::vector<Scene> endings() {
+    return {
+        {"missing-device", [](ViewsStage& stage) { stage.tell("displayMissingQ550Device"); }},
+        {"missing-rear-camera", [](ViewsStage& stage) { stage.tell("displayMissingPlatformCamera"); }},
+        {"rear-camera-trouble", [](ViewsStage& stage) { stage.tell("displayPlatformCameraIssue"); }},
+        {"opening-for-long", [](ViewsStage& stage) { stage.find("openingPage")->setProperty("waitedS", 60); }},
     };
 }
 

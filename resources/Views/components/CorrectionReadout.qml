@@ -5,6 +5,7 @@ import "../theme"
 Item {
     id: readout
     property real correctionDeg: 0
+    implicitWidth: values.width
     readonly property bool none: Math.abs(correctionDeg) < 0.005
 
     component Arrow: Illustration {
@@ -13,6 +14,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
     }
     Row {
+        id: values
         anchors.centerIn: parent
         spacing: Theme.smallGap
         LayoutMirroring.enabled: false  // left is left

@@ -16,12 +16,11 @@ Item {
         text: statement.parted ? statement.text.slice(0, statement.breakAt) : statement.text
         font.pixelSize: statement.size
         font.weight: Font.DemiBold
-        lineHeight: 1
         verticalAlignment: statement.parted ? Text.AlignBottom : Text.AlignVCenter
     }
     Words {
         width: parent.width
-        y: parent.height * statement.share + Theme.smallGap / 2
+        y: parent.height * statement.share + Theme.smallGap
         height: parent.height - y
         visible: statement.parted
         text: statement.text.slice(statement.breakAt + 1)

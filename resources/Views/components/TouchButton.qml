@@ -42,7 +42,6 @@ T.Button {
             anchors.leftMargin: picture.visible ? picture.width + Theme.smallGap : 0
             text: button.text
             font: button.font
-            lineHeight: 1
             color: button.main ? Theme.textOnColour : Theme.text
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter

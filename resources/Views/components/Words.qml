@@ -9,7 +9,6 @@ Text {
     minimumPixelSize: Theme.smallestSize
     fontSizeMode: Text.Fit
     wrapMode: Text.WordWrap
-    lineHeight: Theme.lineHeight
     textFormat: Text.PlainText
     horizontalAlignment: Text.AlignLeft
 }

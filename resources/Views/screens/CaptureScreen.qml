@@ -22,6 +22,7 @@ PairPage {
         Illustration {
             Layout.preferredWidth: Theme.length(72)
             Layout.preferredHeight: Theme.length(72)
+            visible: confirmation.running || instruction.text !== ""
             drawing: confirmation.running ? "done" : screen.still ? "pause" : "move"
         }
         ColumnLayout {
@@ -45,7 +46,6 @@ PairPage {
                     font.pixelSize: Theme.instructionSize
                     font.weight: Font.DemiBold
                     verticalAlignment: Text.AlignVCenter
-                    lineHeight: 1
                 }
                 Words {
                     anchors.fill: parent

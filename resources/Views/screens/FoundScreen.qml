@@ -87,6 +87,7 @@ Screen {
             Layout.fillWidth: true
             Layout.preferredHeight: Theme.length(90)
             Layout.topMargin: Theme.gap
+            verticalAlignment: Text.AlignBottom
             font.pixelSize: Theme.headingSize
             text: qsTr("The color camera has turned by %1 since the stored calibration:").arg(screen.degrees(screen.total))
         }

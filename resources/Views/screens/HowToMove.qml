@@ -51,6 +51,7 @@ Rectangle {
         }
         SwipeView {
             id: view
+            objectName: "howToMoveView"
             Layout.fillWidth: true
             Layout.fillHeight: true
             clip: true

@@ -49,7 +49,7 @@ Screen {
         }
         Rectangle {
             Layout.fillWidth: true
-            Layout.preferredHeight: Theme.length(96)
+            Layout.preferredHeight: Theme.length(116)
             visible: lastSaveFailedText.text !== ""
             radius: Theme.radius
             color: Theme.panel

@@ -78,16 +78,17 @@ Screen {
             TouchButton {
                 id: storedButton
                 objectName: "storedButton"
-                Layout.fillWidth: true
-                Layout.maximumWidth: implicitWidth
+                Layout.minimumWidth: Theme.target
                 drawing: "eye"
                 text: qsTr("Hold to compare")
             }
+            Item { Layout.fillWidth: true }
             CorrectionReadout {
-                Layout.fillWidth: true
+                Layout.preferredWidth: implicitWidth
                 Layout.fillHeight: true
                 correctionDeg: screen.correction
             }
+            Item { Layout.fillWidth: true }
             TouchButton {
                 id: continueButton
                 objectName: "refinementContinueButton"

@@ -15,7 +15,7 @@ QtObject {
     readonly property color text: "#f4f6f7"
     readonly property color quietText: "#bcc6cd"
     readonly property color now: "#ffb030"
-    readonly property color nowPressed: "#d98f14"
+    readonly property color nowPressed: "#e39b20"
     readonly property color done: "#63d6a4"
     readonly property color textOnColour: "#12161a"
     readonly property color flash: "#ffffff"
@@ -27,7 +27,7 @@ QtObject {
     readonly property int bodySize: size(23, 14)
     readonly property int captionSize: size(19, 12)
     readonly property int smallestSize: 11  // to which long translations may shrink
-    readonly property real lineHeight: 1.15
+    readonly property real lineHeight: 1.25  // room for a line, in sizes of its letters
 
     readonly property real margin: length(24)
     readonly property real gap: length(16)

@@ -22,6 +22,7 @@ namespace fieldcal::testing {
 namespace {
 
 constexpr int kSettleMs = 700;
+constexpr int kFlashMs = 400;  // and the confirmation that comes with it stands longer
 constexpr int kCaptureMs = 240000;
 
 void settle() {
@@ -65,6 +66,7 @@ bool walk(WalkThrough* user) {
         !lookThenPress("sunlight", "changing to state 6") || !user->waitFor("Adding new infrared", 60000)) {
         return false;
     }
+    QThread::msleep(kFlashMs);
     user->look("capture");
     if (!user->waitFor("changing qml to state 9", kCaptureMs)) return false;
     readWhatWasFound(user, "found");
@@ -75,6 +77,7 @@ bool walk(WalkThrough* user) {
     if (!user->actUntil("changing to state 6", pressReturn) || !user->waitFor("Adding new infrared", 60000)) {
         return false;
     }
+    QThread::msleep(kFlashMs);
     user->look("capture-second");
     if (!user->waitFor("changing qml to state 10", kCaptureMs)) return false;
     readWhatWasFound(user, "found-second");

@@ -1,0 +1,142 @@
+#include "tests/views/ViewsStage.h"
+
+#include <gmock/gmock.h>
+
+namespace fieldcal::testing {
+namespace {
+
+class ActionsTest : public ::testing::Test {
+protected:
+    ActionsTest() {
+        stage.resize({1280, 800});
+        stage.window()->requestActivate();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(stage.window()));
+    }
+    void pressReturn() { QTest::keyClick(stage.window(), Qt::Key_Return); }
+    bool shown(const char* name) const { return stage.find(name)->isVisible(); }
+    void takePhoto() { stage.tell("flashCalibrationImageViews"); }
+
+    ViewsStage stage;
+    QSignalSpy states{stage.window(), SIGNAL(stateChanged(int))};
+    QSignalSpy exits{stage.window(), SIGNAL(userAskedToExit())};
+    QSignalSpy quits{stage.window(), SIGNAL(quit())};
+    QSignalSpy swings{stage.window(), SIGNAL(toggleTutorialAnimation(bool))};
+    QSignalSpy rearCamera{stage.window(), SIGNAL(switchToOOMColorSensor())};
+};
+
+TEST_F(ActionsTest, ContinueIsHiddenUntilItIsLit) {
+    stage.enter(2);
+    stage.tell("toggleLightingContinueButtonVisibility", false, "Continue");
+    pressReturn();
+    EXPECT_FALSE(shown("lightingContinueButton"));
+    EXPECT_EQ(states.size(), 0);
+    stage.tell("toggleLightingContinueButtonVisibility", true, "Continue");
+    EXPECT_TRUE(shown("lightingContinueButton"));
+    pressReturn();
+    ASSERT_EQ(states.size(), 1);
+    EXPECT_EQ(states[0][0], 6);
+    EXPECT_TRUE(shown("capturePage"));
+}
+
+TEST_F(ActionsTest, LeavingAsksOnlyWhenSomethingWouldBeLost) {
+    for (const int state : {0, 1, 2, 5, 7}) {
+        stage.enter(state);
+        stage.press("exitButton");
+        EXPECT_FALSE(shown("leaveQuestion")) << state;
+    }
+    EXPECT_EQ(exits.size(), 5);
+    takePhoto();
+    stage.press("exitButton");
+    EXPECT_TRUE(shown("leaveQuestion"));
+    pressReturn();  // stays
+    EXPECT_FALSE(shown("leaveQuestion"));
+    EXPECT_EQ(exits.size(), 5);
+    stage.press("exitButton");
+    stage.press("leaveButton");
+    EXPECT_EQ(exits.size(), 6);
+
+    stage.press("stayButton");
+    stage.press("captureRestartButton");  // gives the photos up
+    stage.press("exitButton");
+    EXPECT_EQ(exits.size(), 7);
+    stage.enter(9);
+    stage.press("exitButton");
+    EXPECT_TRUE(shown("leaveQuestion"));
+    EXPECT_EQ(exits.size(), 7);
+}
+
+TEST_F(ActionsTest, AWindowThatIsClosedAsksOnce) {
+    stage.enter(7);
+    takePhoto();
+    EXPECT_FALSE(stage.window()->close());
+    EXPECT_TRUE(shown("leaveQuestion"));
+    EXPECT_TRUE(stage.window()->close());
+}
+
+TEST_F(ActionsTest, WhatWasFoundComesBeforeTheTutorialAndTheRefinement) {
+    stage.tell("setCalibrationProgress", 0.0);
+    stage.enter(8);
+    stage.enter(9);
+    EXPECT_TRUE(shown("foundPage"));
+    EXPECT_TRUE(swings.isEmpty());
+    pressReturn();
+    EXPECT_TRUE(shown("tutorialPage"));
+    ASSERT_EQ(swings.size(), 1);
+    EXPECT_EQ(swings[0][0], true);
+    pressReturn();
+    EXPECT_TRUE(shown("refinementPage"));
+    ASSERT_EQ(swings.size(), 2);
+    EXPECT_EQ(swings[1][0], false);
+
+    pressReturn();  // accepts the first camera
+    EXPECT_EQ(rearCamera.size(), 1);
+    EXPECT_EQ(states.last()[0], 6);
+    stage.tell("setCalibrationProgress", 0.0);
+    stage.enter(10);
+    EXPECT_TRUE(shown("foundPage"));
+    pressReturn();
+    EXPECT_TRUE(shown("refinementPage"));
+    pressReturn();
+    EXPECT_TRUE(shown("savingPage"));
+    EXPECT_TRUE(quits.wait());
+    EXPECT_EQ(quits.size(), 1);
+}
+
+TEST_F(ActionsTest, WithOneCameraTheFirstRefinementIsTheLast) {
+    stage.tell("forceSingleCameraCalibration");
+    stage.enter(9);
+    pressReturn();
+    pressReturn();
+    pressReturn();
+    EXPECT_TRUE(quits.wait());
+    EXPECT_TRUE(rearCamera.isEmpty());
+}
+
+TEST_F(ActionsTest, TheFingerDragsWherePictureIsAndHoldsToCompare) {
+    QSignalSpy downs(stage.window(), SIGNAL(touchDown(int, int)));
+    QSignalSpy moves(stage.window(), SIGNAL(touchMove(int, int)));
+    stage.enter(10);
+    stage.press("foundContinueButton");
+    QCoreApplication::processEvents();
+    QTest::mousePress(stage.window(), Qt::LeftButton, {}, {400, 400});
+    QTest::mouseMove(stage.window(), {400, 300});  // up only
+    EXPECT_TRUE(moves.isEmpty());
+    QTest::mouseMove(stage.window(), {500, 300});
+    QTest::mouseRelease(stage.window(), Qt::LeftButton, {}, {500, 300});
+    ASSERT_EQ(downs.size(), 1);
+    EXPECT_EQ(downs[0][0], 400);
+    ASSERT_EQ(moves.size(), 1);
+    EXPECT_EQ(moves[0][0], 500);
+
+    const auto* overlay = stage.window()->findChild<DepthColorOverlayRenderer*>("refinementView");
+    const QQuickItem* button = stage.find("storedButton");
+    const QPoint middle = button->mapToScene({button->width() / 2, button->height() / 2}).toPoint();
+    QTest::mousePress(stage.window(), Qt::LeftButton, {}, middle);
+    EXPECT_TRUE(overlay->storedShown());
+    QTest::mouseRelease(stage.window(), Qt::LeftButton, {}, middle);
+    EXPECT_FALSE(overlay->storedShown());
+    EXPECT_EQ(downs.size(), 1);
+}
+
+}  // namespace
+}  // namespace fieldcal::testing

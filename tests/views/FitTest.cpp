@@ -1,0 +1,135 @@
+#include "tests/views/ViewsStory.h"
+
+#include <QGuiApplication>
+#include <QTranslator>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <ostream>
+
+namespace fieldcal::testing {
+namespace {
+
+constexpr int kSmallestTarget = 48;
+
+/// Every text longer by what languages need that need more than English.
+class LongWinded : public QTranslator {
+public:
+    QString translate(const char* /*context*/, const char* source, const char* /*comment*/, int /*n*/) const override {
+        const QString text = QString::fromUtf8(source);
+        return text + QStringLiteral(" and so on and so on and so on and so on").left(text.size() * 2 / 5);
+    }
+    bool isEmpty() const override { return false; }
+};
+
+struct Look {
+    QSize size;
+    bool leftToRight;
+};
+void PrintTo(const Look& look, std::ostream* out) {
+    *out << look.size.width() << 'x' << look.size.height() << (look.leftToRight ? "" : " right to left");
+}
+
+class FitTest : public ::testing::TestWithParam<Look> {
+protected:
+    FitTest() { QCoreApplication::installTranslator(&longWinded_); }
+
+    /// What a person sees of the page: no text and no button that is cut off, too small or under another.
+    static void check(ViewsStage& stage, const char* name) {
+        stage.window()->grabWindow();  // everything is in its place then
+        QQuickItem* instruction = stage.find("movementText");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return instruction->property("text") == instruction->property("wanted"); }));
+        const QQuickItem* slides = stage.find("howToMoveView");
+        ASSERT_TRUE(QTest::qWaitFor([&] {
+            const auto* slide = slides->property("currentItem").value<QQuickItem*>();
+            return !slides->isVisible() || seen(slides).adjusted(-1, -1, 1, 1).contains(seen(slide));
+        }));
+        SCOPED_TRACE(name);
+        std::vector<QQuickItem*> buttons;
+        checkBelow(stage, stage.window()->contentItem(), &buttons);
+        EXPECT_FALSE(buttons.empty() && !stage.find("savingPage")->isVisible());
+        for (const QQuickItem* one : buttons)
+            for (const QQuickItem* other : buttons)
+                EXPECT_TRUE(one == other || !seen(one).intersects(seen(other))) << nameOf(one) << ", " << nameOf(other);
+    }
+
+private:
+    static QRectF seen(const QQuickItem* item) { return item->mapRectToScene({0, 0, item->width(), item->height()}); }
+    static std::string nameOf(const QQuickItem* item) {
+        return (item->objectName() + " \"" + item->property("text").toString() + '"').toStdString();
+    }
+    static void checkBelow(ViewsStage& stage, QQuickItem* item, std::vector<QQuickItem*>* buttons) {
+        const QRectF window(QPointF(0, 0), stage.window()->size());
+        if (!item->isVisible()) return;
+        if (item->clip() && item->inherits("QQuickSwipeView")) {
+            return checkBelow(stage, item->property("currentItem").value<QQuickItem*>(), buttons);
+        }
+        if (item->inherits("QQuickText") && !item->property("text").toString().isEmpty()) checkText(item, window);
+        if (item->inherits("QQuickAbstractButton") && item->isEnabled()) {
+            EXPECT_GE(std::min(item->width(), item->height()), kSmallestTarget) << nameOf(item);
+            EXPECT_TRUE(window.contains(seen(item))) << nameOf(item);
+            buttons->push_back(item);
+        }
+        for (QQuickItem* child : item->childItems())
+            checkBelow(stage, child, buttons);
+    }
+    static void checkText(const QQuickItem* text, const QRectF& window) {
+        EXPECT_TRUE(window.adjusted(-1, -1, 1, 1).contains(seen(text))) << nameOf(text);
+        EXPECT_LE(text->property("contentWidth").toReal(), text->width() + 1) << nameOf(text);
+        EXPECT_LE(text->property("contentHeight").toReal(), text->height() + 1) << nameOf(text);
+    }
+
+    LongWinded longWinded_;
+};
+
+TEST_P(FitTest, NothingIsCutOffOnAnyPage) {
+    ViewsStage stage;
+    ASSERT_NE(stage.window(), nullptr) << stage.problem().toStdString();
+    stage.resize(GetParam().size);
+    stage.tell("setLeftToRightLanguage", GetParam().leftToRight);
+    for (const Scene& scene : story()) {
+        scene.enter(stage);
+        check(stage, scene.name);
+    }
+    for (const Scene& ending : endings()) {
+        ViewsStage last;
+        last.resize(GetParam().size);
+        last.tell("setLeftToRightLanguage", GetParam().leftToRight);
+        ending.enter(last);
+        check(last, ending.name);
+    }
+}
+
+// The third is what the largest screen has at two device pixels to one.
+INSTANTIATE_TEST_SUITE_P(Looks, FitTest,
+                         ::testing::Values(Look{{1024, 600}, true}, Look{{1024, 600}, false}, Look{{1368, 912}, true},
+                                           Look{{2736, 1824}, true}, Look{{2736, 1824}, false}));
+
+double luminance(const QColor& colour) {
+    const auto linear = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+TEST(ThemeTest, TextCanBeReadInTheSun) {
+    ViewsStage stage;
+    QQmlComponent probe(&stage.engine());
+    probe.setData("import QtQuick 2.15\nimport \"theme\"\nQtObject { property var theme: Theme }",
+                  QUrl::fromLocalFile(FIELDCAL_VIEWS "/Probe.qml"));
+    const std::unique_ptr<QObject> object(probe.create());
+    ASSERT_NE(object, nullptr) << probe.errorString().toStdString();
+    const auto* theme = object->property("theme").value<QObject*>();
+    const auto contrast = [theme](const char* text, const char* ground) {
+        const double a = luminance(theme->property(text).value<QColor>());
+        const double b = luminance(theme->property(ground).value<QColor>());
+        return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+    };
+    for (const char* text : {"text", "quietText", "now", "done"})
+        for (const char* ground : {"ground", "panel"})
+            EXPECT_GE(contrast(text, ground), 7) << text << " on " << ground;
+    for (const char* ground : {"now", "nowPressed"})
+        EXPECT_GE(contrast("textOnColour", ground), 7) << ground;
+    EXPECT_GE(contrast("text", "line"), 7) << "a quiet button that is pressed";
+}
+
+}  // namespace
+}  // namespace fieldcal::testing
