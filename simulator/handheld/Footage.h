@@ -12,9 +12,10 @@ namespace fieldcal::handheld {
 /// until views are rendered. While it rests, six frame sets come round and round. One thread.
 class Footage {
 public:
-    /// `world` is one of `world::worldNames()`. `rig` must carry the true rotations.
+    /// `world` is one of `world::worldNames()`. `rig` must carry the true rotations. `inTime`: frames are asked for in
+    /// their time, and views are to be ready by then; else somebody waits for every view.
     Footage(const std::string& world, std::uint64_t seed, const session::SessionDescription& rig,
-            const LightCourse& light);
+            const LightCourse& light, bool inTime);
 
     /// From the next frame on. With the emitter on its dots are seen, and the hand stays where it is, as a user does
     /// who studies the overlay.

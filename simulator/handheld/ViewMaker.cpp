@@ -16,8 +16,8 @@ void yieldToOthers() {
 
 }  // namespace
 
-ViewMaker::ViewMaker(std::string world, std::uint64_t seed, const session::SessionDescription& rig)
-    : world_(std::move(world)), seed_(seed), rig_(rig), thread_([this] { work(); }) {}
+ViewMaker::ViewMaker(std::string world, std::uint64_t seed, const session::SessionDescription& rig, bool ahead)
+    : world_(std::move(world)), seed_(seed), rig_(rig), ahead_(ahead), thread_([this] { work(); }) {}
 
 ViewMaker::~ViewMaker() {
     {
@@ -62,7 +62,7 @@ bool ViewMaker::nextOrder(Order* order) {
 }
 
 void ViewMaker::work() {
-    yieldToOthers();
+    if (ahead_) yieldToOthers();
     Studio studio(world_, seed_, rig_);
     Order order{};
     while (nextOrder(&order)) {

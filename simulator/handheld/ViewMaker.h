@@ -16,7 +16,8 @@ namespace fieldcal::handheld {
 /// called from one thread. Destruction stops the rendering.
 class ViewMaker {
 public:
-    ViewMaker(std::string world, std::uint64_t seed, const session::SessionDescription& rig);
+    /// `ahead`: views are made while others are shown, and whoever shows them comes first.
+    ViewMaker(std::string world, std::uint64_t seed, const session::SessionDescription& rig, bool ahead);
     ~ViewMaker();
     ViewMaker(const ViewMaker&) = delete;
     ViewMaker& operator=(const ViewMaker&) = delete;
@@ -38,6 +39,7 @@ private:
     const std::string world_;
     const std::uint64_t seed_;
     const session::SessionDescription rig_;
+    const bool ahead_;
 
     std::mutex mutex_;
     std::condition_variable changed_;

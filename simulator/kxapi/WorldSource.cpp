@@ -14,8 +14,9 @@ using fieldcal::handheld::Footage;
 using fieldcal::handheld::LightCourse;
 using fieldcal::session::SessionDescription;
 
-/// How long one grab waits for a view; after that it answers without a new frame.
-constexpr std::chrono::milliseconds kPatience{5000};
+/// How long one grab waits for a view; after that it answers without a new frame, before anybody takes the module for
+/// dead.
+constexpr std::chrono::milliseconds kPatience{8000};
 
 /// Its world is built, and rendering begins, with the first grab: who asks for texts and calibrations only does not
 /// pay.
@@ -25,7 +26,7 @@ public:
         : rig_(std::move(rig)),
           description_(rig_),
           waits_(settings.speed == 0),
-          open_([=] { return std::make_unique<Footage>(settings.world, settings.seed, rig_, light); }) {
+          open_([=] { return std::make_unique<Footage>(settings.world, settings.seed, rig_, light, !waits_); }) {
         if (settings.platform != PlatformChoice::calibrated) description_.platform.reset();
     }
 

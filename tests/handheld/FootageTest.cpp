@@ -46,7 +46,7 @@ double motion(const session::FramePictures& a, const session::FramePictures& b) 
 }
 
 TEST(Footage, EqualSeedsGiveEqualFramesWhichRestMoveAndRestAgain) {
-    Footage one("mountains", 3, rig(), light("sun")), other("mountains", 3, rig(), light("sun"));
+    Footage one("mountains", 3, rig(), light("sun"), false), other("mountains", 3, rig(), light("sun"), false);
     std::vector<session::FramePictures> last;
     int still = 0, moving = 0, restsAfterMoving = 0;
     for (int i = 0; i < 150; ++i) {
@@ -66,7 +66,7 @@ TEST(Footage, EqualSeedsGiveEqualFramesWhichRestMoveAndRestAgain) {
 }
 
 TEST(Footage, WithTheEmitterOnTheHandStays) {
-    Footage footage("mountains", 3, rig(), light("sun"));
+    Footage footage("mountains", 3, rig(), light("sun"), false);
     footage.setEmitter(true);
     std::vector<session::FramePictures> first;
     for (int i = 0; i < 200; ++i) {
@@ -77,7 +77,7 @@ TEST(Footage, WithTheEmitterOnTheHandStays) {
 }
 
 TEST(Footage, DotsAreSeenAsLongAsTheEmitterIsOnAndNotAFrameLonger) {
-    Footage plain("near", 3, rig(), light("indoors")), dotted("near", 3, rig(), light("indoors"));
+    Footage plain("near", 3, rig(), light("indoors"), false), dotted("near", 3, rig(), light("indoors"), false);
     dotted.setEmitter(true);
     const auto count = [](const Print& some, const Print& other) {
         int brighter = 0, deeper = 0;
@@ -105,7 +105,7 @@ TEST(Footage, DotsAreSeenAsLongAsTheEmitterIsOnAndNotAFrameLonger) {
 TEST(LightCourse, DarkensAndBrightensWhatIsSeen) {
     // Means of infrared, as the light gate takes them: lit above 130, lost again at 110.
     const auto mean = [](const std::string& name, int frames) {
-        Footage footage("mountains", 3, rig(), light(name));
+        Footage footage("mountains", 3, rig(), light(name), false);
         for (int i = 0; i < frames; ++i)
             EXPECT_TRUE(footage.advance(60s));
         const Print print(*footage.current());
