@@ -161,7 +161,7 @@ Item {
         TouchButton {
             id: exitButton
             objectName: "exitButton"
-            visible: !pages.status.saving
+            visible: pages.paged  // notices have their own
             anchors.right: parent.right
             anchors.top: parent.top
             anchors.margins: Theme.margin

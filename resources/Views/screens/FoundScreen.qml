@@ -36,7 +36,7 @@ Screen {
             anchors.bottom: parent.verticalCenter
             anchors.margins: Theme.gap
             anchors.bottomMargin: 0
-            font.pixelSize: Theme.headingSize
+            font.pixelSize: Theme.instructionSize
             font.weight: Font.DemiBold
         }
         Words {
@@ -93,7 +93,7 @@ Screen {
         }
         RowLayout {
             Layout.fillWidth: true
-            Layout.maximumHeight: Theme.length(150)
+            Layout.maximumHeight: Theme.length(190)
             Layout.fillHeight: true
             spacing: Theme.gap
             Part {
