@@ -8,13 +8,14 @@ Item {
     property PictureLayout layout
     property bool shown: false
     property Item mainButton: null
+    property bool softly: true
 
     anchors.fill: parent
     visible: shown
     opacity: 0
     onVisibleChanged: opacity = visible ? 1 : 0
     Behavior on opacity {
-        enabled: visible
+        enabled: visible && softly
         NumberAnimation { duration: Theme.briefly }
     }
     Component.onCompleted: opacity = visible ? 1 : 0

@@ -4,6 +4,7 @@ import "../theme"
 
 Screen {
     id: screen
+    softly: false  // the thread that would move it is busy storing
     readonly property bool saved: status.savedText !== ""
 
     Column {
