@@ -31,12 +31,10 @@ Map halved(const Map& places) {
 
 /// The smallest rectangle with every pixel that has no place well inside a picture of `size`.
 cv::Rect placeless(const Map& map, cv::Size size) {
-    const cv::Mat_<std::uint8_t> placed = [&] {
-        cv::Mat inside;
-        cv::inRange(map, cv::Scalar(1, 1), cv::Scalar(size.width - 2, size.height - 2), inside);
-        return inside;
-    }();
-    return cv::boundingRect(placed == 0);
+    cv::Mat placed, rest;
+    cv::inRange(map, cv::Scalar(1, 1), cv::Scalar(size.width - 2, size.height - 2), placed);
+    cv::bitwise_not(placed, rest);
+    return cv::boundingRect(rest);
 }
 
 /// Paints `to` with what `from` has at the places of `map`; not where it has nothing.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <embree3/rtcore.h>
+#include <mutex>
 
 namespace fieldcal::world {
 
@@ -37,6 +38,7 @@ struct Caster::Library {
     std::uint32_t stillTriangles;
 
     Library(const Mesh& still, const Sway& sway) : stillTriangles(static_cast<std::uint32_t>(still.triangles.size())) {
+        const std::lock_guard<std::mutex> lock(startAndEnd());
         // One thread builds the tree: it then comes out the same every time.
         device = rtcNewDevice("threads=1");
         if (device == nullptr) return;
@@ -52,11 +54,17 @@ struct Caster::Library {
     Library(const Library&) = delete;
     Library& operator=(const Library&) = delete;
     ~Library() {
+        const std::lock_guard<std::mutex> lock(startAndEnd());
         if (scene != nullptr) rtcReleaseScene(scene);
         if (device != nullptr) rtcReleaseDevice(device);
     }
 
 private:
+    /// Devices share what the library keeps of itself; nobody promises that two may start at once.
+    static std::mutex& startAndEnd() {
+        static std::mutex mutex;
+        return mutex;
+    }
     template <typename Position>
     void attach(const Mesh& mesh, unsigned id, int steps, const Position& positionAt) {
         RTCGeometry geometry = rtcNewGeometry(device, RTC_GEOMETRY_TYPE_TRIANGLE);

@@ -38,9 +38,12 @@ public:
           first_(middle_.total()) {}
 
     Picture take() {
-        picture_.light = cv::Mat_<cv::Vec4f>::zeros(middle_.size());
-        picture_.depth = cv::Mat_<float>::zeros(middle_.size());
-        picture_.reflected = cv::Mat_<std::uint8_t>::zeros(middle_.size());
+        picture_.light.create(middle_.size());
+        picture_.depth.create(middle_.size());
+        picture_.reflected.create(middle_.size());
+        picture_.light.setTo(0);
+        picture_.depth.setTo(0);
+        picture_.reflected.setTo(0);
         const auto everyRow = [this](void (Shooting::*look)(int)) {
             forEachRow(
                 middle_.rows, [&](int y) { (this->*look)(y); }, stop_);

@@ -50,7 +50,7 @@ public:
     /// Waits until `condition` holds; false after a time in which everything should have happened.
     bool waitUntil(const std::function<bool()>& condition) {
         std::unique_lock lock(mutex);
-        return changed.wait_for(lock, std::chrono::seconds(120), condition);
+        return changed.wait_for(lock, std::chrono::seconds(400), condition);
     }
     /// Waits for the next time that the workflow enters the state.
     bool waitFor(State state) {
