@@ -117,8 +117,8 @@ private:
 /// A workflow on its thread, over the simulated module with a flash file.
 class WorkflowTest : public ::testing::Test {
 protected:
-    WorkflowTest() {
-        set("KXSIM_SESSION", mountainRecording());
+    explicit WorkflowTest(const QString& recording = mountainRecording()) {
+        set("KXSIM_SESSION", recording);
         set("KXSIM_SPEED", "0");
         set("KXSIM_FLASH", folder.filePath("flash"));
     }

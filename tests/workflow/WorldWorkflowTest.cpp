@@ -15,8 +15,7 @@ using Matrix = Eigen::Matrix<double, 3, 3, Eigen::RowMajor>;
 /// The workflow over the rendered module: a hand that moves and trembles, and frames that come when they are ready.
 class WorldWorkflowTest : public WorkflowTest {
 protected:
-    WorldWorkflowTest() {
-        set("KXSIM_SESSION", {});
+    WorldWorkflowTest() : WorkflowTest(QString()) {
         set("KXSIM_WORLD", "mountains");
         set("KXSIM_SEED", "5");
         set("KXSIM_DRIFT", "2.5,-1,1.2");
