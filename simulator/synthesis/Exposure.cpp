@@ -77,7 +77,7 @@ public:
         }
     }
     std::uint8_t operator()(float linear) const {
-        return encoded_[static_cast<std::size_t>(std::clamp(linear, 0.0F, 1.0F) * (steps - 1) + 0.5F)];
+        return encoded_[static_cast<std::size_t>(cvRound(std::clamp(linear, 0.0F, 1.0F) * (steps - 1)))];
     }
 
 private:
