@@ -47,6 +47,7 @@ bool Footage::advance(std::chrono::milliseconds patience) {
 bool Footage::enter(std::chrono::milliseconds patience) {
     const bool complete = here_ && (!withPlatform_ || !here_->moments.front().view.platform.empty());
     if (complete) return true;
+    maker_.pause(false);
     auto view = maker_.view(rest_, withPlatform_, patience);
     if (view == nullptr) return false;
     here_ = std::move(view);
@@ -58,6 +59,7 @@ void Footage::step(std::chrono::milliseconds patience) {
         here_ = std::move(there_);
         ++rest_;
         turned_ = held_ = 0;
+        maker_.pause(false);
         maker_.request(rest_, withPlatform_);
     }
     if (turned_ > 0) return;
@@ -79,9 +81,11 @@ const session::FramePictures* Footage::resting() {
     const auto& seen = here_->moments[phase % here_->moments.size()];
     const auto trembled = [&](double frame) { return tremor(seed_, rest_, frame) * seen.pose.camera_world; };
     const double frame = static_cast<double>(phase), lag = colourLagSeconds * framesPerSecond;
-    world::View view = turner_.trembled(seen, {trembled(frame), trembled(frame + lag)}, withPlatform_);
+    const Attitude attitude{trembled(frame), trembled(frame + lag)};
+    const Seeing seeing{[&](world::View* view) { turner_.trembledInfrared(seen, attitude, view); },
+                        [&](world::View* view) { turner_.trembledColour(seen, attitude, withPlatform_, view); }};
     const std::uint64_t noise = synthesis::mixBits(seed_) + static_cast<std::uint64_t>(rest_) * tremorFrames + phase;
-    trembling_[phase] = expose(std::move(view), here_->settings, noise);
+    trembling_[phase] = expose(seeing, here_->settings, noise);
     isThere_[phase] = true;
     return &trembling_[phase];
 }
@@ -93,18 +97,20 @@ const session::FramePictures* Footage::turning() {
         return poseBetween(from.pose, to.pose, way).camera_world;
     };
     const bool firstHalf = 2 * turned_ < here_->rest.turnFrames;
+    const ViewTurner::Passage passage{firstHalf ? from : to,
+                                      firstHalf ? to : from,
+                                      {attitude(0), attitude(colourLagSeconds)},
+                                      motionDeg(attitude(0), attitude(exposureSeconds))};
     // The rear camera shows every other frame only.
     const bool platformShows = withPlatform_ && frame_ % 2 == 1;
-    world::View view = turner_.between(firstHalf ? from : to, firstHalf ? to : from,
-                                       {attitude(0), attitude(colourLagSeconds)}, platformShows);
-    turner_.smear(&view, motionDeg(attitude(0), attitude(exposureSeconds)));
-    moving_ =
-        expose(std::move(view), firstHalf ? here_->settings : there_->settings, synthesis::mixBits(seed_ ^ frame_));
+    const Seeing seeing{[&](world::View* view) { turner_.passingInfrared(passage, view); },
+                        [&](world::View* view) { turner_.passingColour(passage, platformShows, view); }};
+    moving_ = expose(seeing, firstHalf ? here_->settings : there_->settings, synthesis::mixBits(seed_ ^ frame_));
     return &moving_;
 }
 
-session::FramePictures Footage::expose(world::View view, const synthesis::StillSettings& settings,
-                                       std::uint64_t noise) const {
+session::FramePictures Footage::expose(const Seeing& seeing, const synthesis::StillSettings& settings,
+                                       std::uint64_t noise) {
     const double light = light_.at(frame_ / framesPerSecond);
     synthesis::StillSettings infrared = settings, colour = settings;
     infrared.darkness *= light;
@@ -113,16 +119,21 @@ session::FramePictures Footage::expose(world::View view, const synthesis::StillS
     stereo.emitter = emitter_;
     stereo.light = light * settings.darkness;
     stereo.darkness = infrared.darkness;
-    if (emitter_) addEmitterDots(stereo.light, &view);
+    world::View view;
     session::FramePictures pictures;
+    maker_.pause(true);
     // Two halves of about the same work.
     auto colourDone = std::async(std::launch::async, [&] {
+        seeing.colour(&view);
         pictures.third = thirdFrame(view, colour, noise);
         pictures.platform = platformFrame(view, colour, noise);
     });
+    seeing.infrared(&view);
+    if (emitter_) addEmitterDots(stereo.light, &view);
     pictures.infrared = infraredFrame(view, infrared, noise);
     pictures.depth = depthFrame(view, stereo, noise);
     colourDone.wait();
+    maker_.pause(turned_ > 0);
     return pictures;
 }
 

@@ -4,6 +4,7 @@
 #include "simulator/handheld/ViewMaker.h"
 
 #include <array>
+#include <functional>
 
 namespace fieldcal::handheld {
 
@@ -44,8 +45,11 @@ private:
     bool mayLeave(std::chrono::milliseconds patience);
     const session::FramePictures* resting();
     const session::FramePictures* turning();
-    session::FramePictures expose(world::View view, const synthesis::StillSettings& settings,
-                                  std::uint64_t noise) const;
+    /// How the two halves of a view, infrared with depth, and colour, come to be seen.
+    struct Seeing {
+        std::function<void(world::View*)> infrared, colour;
+    };
+    session::FramePictures expose(const Seeing& seeing, const synthesis::StillSettings& settings, std::uint64_t noise);
 
     std::uint64_t seed_;
     LightCourse light_;

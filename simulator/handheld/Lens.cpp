@@ -49,7 +49,7 @@ cv::Point2d Lens::pixel(cv::Point2d ray) const {
     return distortion_ ? synthesis::rawFromRectified(*distortion_, p) : p;
 }
 
-cv::Mat_<cv::Vec2f> pixelsBeforeTurning(const Lens& lens, const cv::Matx33d& before_after) {
+cv::Mat_<cv::Vec2f> pixelsBeforeTurning(const Lens& lens, const cv::Matx33d& before_after, int step) {
     // One cell more on every side, so that nothing is extrapolated.
     const cv::Size cells(lens.size().width / cell + 3, lens.size().height / cell + 3);
     cv::Mat_<cv::Vec2f> coarse(cells);
@@ -57,8 +57,8 @@ cv::Mat_<cv::Vec2f> pixelsBeforeTurning(const Lens& lens, const cv::Matx33d& bef
         for (int x = 0; x < cells.width; ++x)
             coarse(y, x) = pixelBefore(lens, before_after, {(x - 1 + 0.5) * cell - 0.5, (y - 1 + 0.5) * cell - 0.5});
     cv::Mat_<cv::Vec2f> fine;
-    cv::resize(coarse, fine, cells * cell, 0, 0, cv::INTER_LINEAR);
-    return fine(cv::Rect({cell, cell}, lens.size()));
+    cv::resize(coarse, fine, cells * (cell / step), 0, 0, cv::INTER_LINEAR);
+    return fine(cv::Rect({cell / step, cell / step}, lens.size() / step));
 }
 
 }  // namespace fieldcal::handheld

@@ -32,6 +32,7 @@ private:
 
 /// Where each pixel of a camera was, in its own picture, before the camera turned about its centre.
 /// `before_after` takes directions of the turned camera's frame into the one before. Far outside for what was behind.
-cv::Mat_<cv::Vec2f> pixelsBeforeTurning(const Lens& lens, const cv::Matx33d& before_after);
+/// `step` 2: for a picture of half the size, its pixels made of four.
+cv::Mat_<cv::Vec2f> pixelsBeforeTurning(const Lens& lens, const cv::Matx33d& before_after, int step = 1);
 
 }  // namespace fieldcal::handheld

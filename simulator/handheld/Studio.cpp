@@ -34,7 +34,7 @@ Studio::Studio(const std::string& world, std::uint64_t seed, const session::Sess
       cameras_(rig),
       hand_(seed, stage_->lowestPitchDeg, stage_->highestPitchDeg) {}
 
-std::shared_ptr<const RestingView> Studio::make(int number, bool withPlatform, const std::atomic<bool>* stop) {
+std::shared_ptr<const RestingView> Studio::make(int number, bool withPlatform, world::Interruption* interruption) {
     auto view = std::make_shared<RestingView>();
     view->rest = hand_.rest(number);
     view->settings = drawSettings(seed_, number, stage_->darkness);
@@ -42,7 +42,8 @@ std::shared_ptr<const RestingView> Studio::make(int number, bool withPlatform, c
     for (int i = 0; i < moments; ++i) {
         const double seconds = number * restSeconds + i * momentSeconds;
         const world::Moment infrared{view->rest.pose, seconds}, colour{view->rest.pose, seconds + colourLagSeconds};
-        view->moments.push_back({view->rest.pose, cameras_.see(*stage_->world, infrared, colour, withPlatform, stop)});
+        view->moments.push_back(
+            {view->rest.pose, cameras_.see(*stage_->world, infrared, colour, withPlatform, interruption)});
     }
     return view;
 }

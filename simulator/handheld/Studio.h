@@ -6,7 +6,6 @@
 #include "simulator/world/Cameras.h"
 #include "simulator/world/Worlds.h"
 
-#include <atomic>
 #include <memory>
 #include <string>
 
@@ -28,9 +27,9 @@ public:
     /// Builds the world, one of `world::worldNames()`; takes a second or so. `rig` must carry the true rotations.
     Studio(const std::string& world, std::uint64_t seed, const session::SessionDescription& rig);
 
-    /// Views are counted from 0. All processors work on one. Once `stop` (may be null) is true, it returns soon, and
-    /// the view is worth nothing.
-    std::shared_ptr<const RestingView> make(int number, bool withPlatform, const std::atomic<bool>* stop = nullptr);
+    /// Views are counted from 0. All processors work on one. Once `interruption` (may be null) has ended, it returns
+    /// soon, and the view is worth nothing.
+    std::shared_ptr<const RestingView> make(int number, bool withPlatform, world::Interruption* interruption = nullptr);
 
 private:
     std::uint64_t seed_;

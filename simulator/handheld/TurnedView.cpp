@@ -22,13 +22,6 @@ void smearPicture(cv::Mat picture, double acrossPx, double downPx) {
     if (size.area() > 1) cv::blur(picture, picture, size, {-1, -1}, cv::BORDER_REPLICATE);
 }
 
-/// Places of the pixels of a picture of half the size.
-Map halved(const Map& places) {
-    Map half;
-    cv::resize(places, half, places.size() / 2, 0, 0, cv::INTER_AREA);
-    return half;
-}
-
 /// The smallest rectangle with every pixel that has no place well inside a picture of `size`.
 cv::Rect placeless(const Map& map, cv::Size size) {
     cv::Mat placed, rest;
@@ -44,6 +37,11 @@ void paintOver(const cv::Mat& from, const Map& map, int interpolation, cv::Mat t
 
 void paintAll(const cv::Mat& from, const Map& map, int interpolation, cv::Mat to) {
     cv::remap(from, to, map, cv::noArray(), interpolation, cv::BORDER_REPLICATE);
+}
+
+void paintLike(const cv::Mat& from, const Map& map, int interpolation, cv::Mat* to) {
+    to->create(from.size(), from.type());
+    paintAll(from, map, interpolation, *to);
 }
 
 /// Depth is counted along the axis of the camera, which turns, too.
@@ -74,71 +72,71 @@ cv::Matx33d ViewTurner::Eye::turn(const cv::Matx33d& before, const cv::Matx33d& 
     return eye_infrared * before * now.t() * eye_infrared.t();
 }
 
-cv::Mat_<cv::Vec2f> ViewTurner::Eye::places(const SeenView& seen, const cv::Matx33d& now) const {
-    return pixelsBeforeTurning(lens, turn(seen.pose.camera_world, now));
+cv::Mat_<cv::Vec2f> ViewTurner::Eye::places(const SeenView& seen, const cv::Matx33d& now, int step) const {
+    return pixelsBeforeTurning(lens, turn(seen.pose.camera_world, now), step);
 }
 
-world::View ViewTurner::trembled(const SeenView& seen, const Attitude& now, bool withPlatform) const {
+void ViewTurner::trembledInfrared(const SeenView& seen, const Attitude& now, world::View* view) const {
     const world::View& from = seen.view;
-    world::View to = emptyLike(from, withPlatform);
-    paintAll(from.infrared, infrared_.places(seen, now.infrared), cv::INTER_CUBIC, to.infrared);
-    paintAll(from.third, third_.places(seen, now.colour), cv::INTER_CUBIC, to.third);
-    if (!to.platform.empty())
-        paintAll(from.platform, platform_->places(seen, now.colour), cv::INTER_CUBIC, to.platform);
-    const cv::Mat_<cv::Vec2f> depthPlaces = depth_.places(seen, now.infrared);
-    paintAll(from.depth, depthPlaces, cv::INTER_NEAREST, to.depth);
-    paintAll(from.unmatched, depthPlaces, cv::INTER_NEAREST, to.unmatched);
-    return to;
+    view->depthCamera = from.depthCamera;
+    paintLike(from.infrared, infrared_.places(seen, now.infrared), cv::INTER_CUBIC, &view->infrared);
+    const Map places = depth_.places(seen, now.infrared);
+    paintLike(from.depth, places, cv::INTER_NEAREST, &view->depth);
+    paintLike(from.unmatched, places, cv::INTER_NEAREST, &view->unmatched);
 }
 
-world::View ViewTurner::between(const SeenView& nearer, const SeenView& other, const Attitude& now,
-                                bool withPlatform) const {
-    world::View to = emptyLike(nearer.view, withPlatform);
-    // The motion blurs what half of the platform camera's many pixels would hold.
-    if (!to.platform.empty()) to.platform.create(nearer.view.platform.size() / 2);
-    const auto paint = [&](const Eye& eye, const cv::Matx33d& attitude, const cv::Mat& near, const cv::Mat& far,
-                           int interpolation, cv::Mat out) {
-        const auto placesIn = [&](const SeenView& seen) {
-            const Map places = eye.places(seen, attitude);
-            return out.size() == places.size() ? places : halved(places);
-        };
-        const Map places = placesIn(nearer);
-        const cv::Rect rest = placeless(places, near.size());
-        if (!rest.empty()) paintAll(far, placesIn(other)(rest), interpolation, out(rest));
-        paintOver(near, places, interpolation, out);
-    };
-    paint(infrared_, now.infrared, nearer.view.infrared, other.view.infrared, cv::INTER_LINEAR, to.infrared);
-    paint(third_, now.colour, nearer.view.third, other.view.third, cv::INTER_LINEAR, to.third);
-    if (!to.platform.empty())
-        paint(*platform_, now.colour, nearer.view.platform, other.view.platform, cv::INTER_LINEAR, to.platform);
+void ViewTurner::trembledColour(const SeenView& seen, const Attitude& now, bool withPlatform, world::View* view) const {
+    paintLike(seen.view.third, third_.places(seen, now.colour), cv::INTER_CUBIC, &view->third);
+    view->platform.release();
+    if (withPlatform && platform_)
+        paintLike(seen.view.platform, platform_->places(seen, now.colour), cv::INTER_CUBIC, &view->platform);
+}
+
+void ViewTurner::passingInfrared(const Passage& passage, world::View* view) const {
+    const world::View &near = passage.nearer.view, &far = passage.other.view;
+    view->depthCamera = near.depthCamera;
+    const cv::Matx33d& now = passage.now.infrared;
+    paintPassage(passage, infrared_, now, {{near.infrared, far.infrared, &view->infrared}}, cv::INTER_LINEAR);
+    smear(view->infrared, infrared_, passage.motionDeg);
     const auto turned = [&](const SeenView& seen) {
-        return alongTurnedAxis(seen.view.depth, depth_.lens, depth_.turn(seen.pose.camera_world, now.infrared));
+        return alongTurnedAxis(seen.view.depth, depth_.lens, depth_.turn(seen.pose.camera_world, now));
     };
-    paint(depth_, now.infrared, turned(nearer), turned(other), cv::INTER_NEAREST, to.depth);
-    paint(depth_, now.infrared, nearer.view.unmatched, other.view.unmatched, cv::INTER_NEAREST, to.unmatched);
-    return to;
+    paintPassage(passage, depth_, now,
+                 {{turned(passage.nearer), turned(passage.other), &view->depth},
+                  {near.unmatched, far.unmatched, &view->unmatched}},
+                 cv::INTER_NEAREST);
 }
 
-world::View ViewTurner::emptyLike(const world::View& view, bool withPlatform) const {
-    world::View out = view;
-    out.infrared.release(), out.third.release(), out.platform.release(), out.depth.release(), out.unmatched.release();
-    out.infrared.create(view.infrared.size());
-    out.third.create(view.third.size());
-    if (withPlatform && platform_) out.platform.create(view.platform.size());
-    out.depth.create(view.depth.size());
-    out.unmatched.create(view.unmatched.size());
-    return out;
+void ViewTurner::passingColour(const Passage& passage, bool withPlatform, world::View* view) const {
+    const world::View &near = passage.nearer.view, &far = passage.other.view;
+    const cv::Matx33d& now = passage.now.colour;
+    paintPassage(passage, third_, now, {{near.third, far.third, &view->third}}, cv::INTER_LINEAR);
+    smear(view->third, third_, passage.motionDeg);
+    view->platform.release();
+    if (!withPlatform || !platform_) return;
+    // The motion blurs what half of the platform camera's many pixels would hold.
+    paintPassage(passage, *platform_, now, {{near.platform, far.platform, &view->platform}}, cv::INTER_LINEAR, 2);
+    smear(view->platform, *platform_, passage.motionDeg);
 }
 
-void ViewTurner::smear(world::View* view, cv::Point2d motionDeg) const {
-    const auto smearBand = [&](const cv::Mat& picture, const Eye& eye) {
-        const double scale = static_cast<double>(picture.cols) / eye.lens.size().width;
-        const double perDegree = eye.lens.focalPx() * radiansPerDegree * scale;
-        smearPicture(picture, motionDeg.y * perDegree, motionDeg.x * perDegree);
-    };
-    smearBand(view->infrared, infrared_);
-    smearBand(view->third, third_);
-    if (!view->platform.empty()) smearBand(view->platform, *platform_);
+void ViewTurner::paintPassage(const Passage& passage, const Eye& eye, const cv::Matx33d& now,
+                              std::initializer_list<Layer> layers, int interpolation, int step) {
+    const cv::Size size = layers.begin()->near.size();
+    const auto placesIn = [&](const SeenView& seen) { return eye.places(seen, now, step); };
+    const Map places = placesIn(passage.nearer);
+    const cv::Rect rest = placeless(places, size);
+    const Map elsewhere = rest.empty() ? Map() : Map(placesIn(passage.other)(rest));
+    for (const Layer& layer : layers) {
+        layer.out->create(places.size(), layer.near.type());
+        if (!rest.empty()) paintAll(layer.far, elsewhere, interpolation, (*layer.out)(rest));
+        paintOver(layer.near, places, interpolation, *layer.out);
+    }
+}
+
+void ViewTurner::smear(cv::Mat picture, const Eye& eye, cv::Point2d motionDeg) {
+    const double scale = static_cast<double>(picture.cols) / eye.lens.size().width;
+    const double perDegree = eye.lens.focalPx() * radiansPerDegree * scale;
+    smearPicture(std::move(picture), motionDeg.y * perDegree, motionDeg.x * perDegree);
 }
 
 }  // namespace fieldcal::handheld

@@ -3,6 +3,7 @@
 #include "simulator/handheld/Lens.h"
 #include "simulator/world/View.h"
 
+#include <initializer_list>
 #include <optional>
 
 namespace fieldcal::handheld {
@@ -25,14 +26,22 @@ public:
     /// `rig` must carry the true rotations of its cameras.
     explicit ViewTurner(const session::SessionDescription& rig);
 
-    /// What `seen` shows from an attitude that differs by a tremor, as sharp as it was.
-    world::View trembled(const SeenView& seen, const Attitude& now, bool withPlatform) const;
-    /// What is seen between two views: from the nearer one, and from the other where that one does not reach. The
-    /// platform camera's picture comes in half its size.
-    world::View between(const SeenView& nearer, const SeenView& other, const Attitude& now, bool withPlatform) const;
+    // Infrared with depth, and colour, are seen apart: two threads may do it in the same view.
 
-    /// Blurs by a motion of so many degrees about x and y during the exposure.
-    void smear(world::View* view, cv::Point2d motionDeg) const;
+    /// What `seen` shows from an attitude that differs by a tremor, as sharp as it was.
+    void trembledInfrared(const SeenView& seen, const Attitude& now, world::View* view) const;
+    void trembledColour(const SeenView& seen, const Attitude& now, bool withPlatform, world::View* view) const;
+
+    /// On the way between two views: what is seen comes from the nearer one, and from the other where that one does
+    /// not reach, blurred by a motion of so many degrees about x and y during the exposure.
+    struct Passage {
+        const SeenView &nearer, &other;
+        Attitude now;
+        cv::Point2d motionDeg;
+    };
+    void passingInfrared(const Passage& passage, world::View* view) const;
+    /// The platform camera's picture comes in half its size.
+    void passingColour(const Passage& passage, bool withPlatform, world::View* view) const;
 
 private:
     struct Eye {
@@ -40,10 +49,16 @@ private:
         cv::Matx33d eye_infrared;  ///< rotation
         /// Takes directions in the eye's frame back into its frame before the infrared camera turned.
         cv::Matx33d turn(const cv::Matx33d& before, const cv::Matx33d& now) const;
-        /// Where the pixels were in a picture of `seen`.
-        cv::Mat_<cv::Vec2f> places(const SeenView& seen, const cv::Matx33d& now) const;
+        /// Where the pixels, or every `step` of them, were in a picture of `seen`.
+        cv::Mat_<cv::Vec2f> places(const SeenView& seen, const cv::Matx33d& now, int step = 1) const;
     };
-    world::View emptyLike(const world::View& view, bool withPlatform) const;
+    /// What one sensor sees from the nearer and from the other view, and where it is put together.
+    struct Layer {
+        cv::Mat near, far, *out;
+    };
+    static void paintPassage(const Passage& passage, const Eye& eye, const cv::Matx33d& now,
+                             std::initializer_list<Layer> layers, int interpolation, int step = 1);
+    static void smear(cv::Mat picture, const Eye& eye, cv::Point2d motionDeg);
 
     Eye infrared_, depth_, third_;
     std::optional<Eye> platform_;

@@ -25,6 +25,7 @@ ViewMaker::~ViewMaker() {
         stop_ = true;
     }
     changed_.notify_all();
+    interruption_.end();
     thread_.join();
 }
 
@@ -66,7 +67,7 @@ void ViewMaker::work() {
     Studio studio(world_, seed_, rig_);
     Order order{};
     while (nextOrder(&order)) {
-        auto view = studio.make(order.number, order.withPlatform, &stop_);
+        auto view = studio.make(order.number, order.withPlatform, &interruption_);
         const std::lock_guard<std::mutex> lock(mutex_);
         made_[order.number] = std::move(view);
         changed_.notify_all();

@@ -24,6 +24,8 @@ public:
 
     /// Asks for a view; the one after it is made next. Earlier ones may be forgotten.
     void request(int number, bool withPlatform);
+    /// Whether whoever shows views needs the processors for now.
+    void pause(bool paused) { interruption_.pause(paused); }
     /// Null while it is not there; `patience` is how long to wait for it at most.
     std::shared_ptr<const RestingView> view(int number, bool withPlatform, std::chrono::milliseconds patience);
 
@@ -43,7 +45,8 @@ private:
 
     std::mutex mutex_;
     std::condition_variable changed_;
-    std::atomic<bool> stop_{false};  ///< set under the lock
+    bool stop_ = false;
+    world::Interruption interruption_;
     Order wanted_{0, false};
     std::map<int, std::shared_ptr<const RestingView>> made_;
     std::thread thread_;  ///< last, so that it finds everything else in place

@@ -1,5 +1,7 @@
 #include "simulator/synthesis/Exposure.h"
 
+#include "simulator/synthesis/NormalTable.h"
+
 #include <opencv2/imgproc.hpp>
 
 #include <algorithm>
@@ -10,31 +12,6 @@
 namespace fieldcal::synthesis {
 
 namespace {
-
-/// Normal deviates from a table: a few thousand different ones are enough for noise nobody looks at twice.
-class NoiseTable {
-public:
-    explicit NoiseTable(Random& random) : random_(random) {
-        for (float& v : values_)
-            v = static_cast<float>(random.normal());
-    }
-    float next() {
-        if (left_ == 0) {
-            bits_ = random_.bits();
-            left_ = 4;
-        }
-        const std::uint64_t drawn = bits_;
-        bits_ >>= 16;
-        --left_;
-        return values_[drawn % values_.size()];
-    }
-
-private:
-    Random& random_;
-    std::array<float, 8192> values_{};
-    std::uint64_t bits_ = 0;  ///< four numbers are drawn at once
-    int left_ = 0;
-};
 
 /// Light left at a place after the lens, 1 in the middle.
 float throughLens(int x, int y, cv::Size size, double vignetting) {
@@ -108,7 +85,7 @@ cv::Mat_<cv::Vec3f> colourBands(const cv::Mat_<cv::Vec4f>& picture) {
 
 ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const InfraredSensor& sensor, double darkness,
                             Random& random) {
-    NoiseTable noise(random);
+    NormalTable noise(random);
     const float mean = meanLight(picture, [](float v) { return v; });
     const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);
     const auto perStep = static_cast<float>(1 / sensor.electronsPerStep);
@@ -128,7 +105,7 @@ ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const InfraredSensor
 
 ImageFrame32 exposeColour(const cv::Mat_<cv::Vec3f>& picture, const ColourSensor& sensor, double darkness,
                           Random& random) {
-    NoiseTable noise(random);
+    NormalTable noise(random);
     const float mean = meanLight(picture, [](const cv::Vec3f& p) { return p.dot({0.3F, 0.59F, 0.11F}); });
     static const Gamma displayed;
     const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);

@@ -35,12 +35,13 @@ Pose Cameras::platformPose(const Pose& depth) const {
 }
 
 View Cameras::see(const World& world, const Moment& infraredAndDepth, const Moment& colour, bool withPlatform,
-                  const std::atomic<bool>* stop) const {
+                  Interruption* interruption) const {
     const auto colourSeen = [&](const synthesis::RayGrid& grid, const Pose& pose, double lens) {
-        return synthesis::colourBands(takePicture(world, grid, {pose, secondsOf(colour), false, lens, stop}).light);
+        return synthesis::colourBands(
+            takePicture(world, grid, {pose, secondsOf(colour), false, lens, interruption}).light);
     };
     View view;
-    const Shot shot{infraredAndDepth.pose, secondsOf(infraredAndDepth), true, synthesis::infraredLens, stop};
+    const Shot shot{infraredAndDepth.pose, secondsOf(infraredAndDepth), true, synthesis::infraredLens, interruption};
     const Picture infrared = takePicture(world, infrared_, shot);
     view.infrared = synthesis::infraredBand(infrared.light);
     if (depth_.rays.empty())

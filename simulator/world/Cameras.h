@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/RecordedSession.h"
+#include "simulator/world/Interruption.h"
 #include "simulator/world/Sensors.h"
 
 namespace fieldcal::world {
@@ -18,11 +19,11 @@ public:
 
     /// What stands before the lenses. The infrared camera, which is the depth camera, has the pose of
     /// `infraredAndDepth` when infrared is exposed, and that of `colour` when the colour cameras are.
-    /// `withPlatform` means nothing on a rig without a platform camera. Once `stop` (may be null) is true, it returns
-    /// soon, and the view is worth nothing. Equal arguments, equal pictures on the same
+    /// `withPlatform` means nothing on a rig without a platform camera. Once `interruption` (may be null) has ended,
+    /// it returns soon, and the view is worth nothing. Equal arguments, equal pictures on the same
     /// kind of processor.
     View see(const World& world, const Moment& infraredAndDepth, const Moment& colour, bool withPlatform,
-             const std::atomic<bool>* stop = nullptr) const;
+             Interruption* interruption = nullptr) const;
 
     /// The pictures of all sensors at one moment: `see`, then the functions of `Sensors.h`.
     session::FramePictures take(const World& world, const Moment& moment, const synthesis::StillSettings& settings,

@@ -1,5 +1,7 @@
 #include "simulator/world/Depth.h"
 
+#include "simulator/synthesis/NormalTable.h"
+
 #include <opencv2/imgproc.hpp>
 
 #include <algorithm>
@@ -27,19 +29,30 @@ std::uint16_t measured(double depth, double focalPx, const StereoModel& model, d
 /// Texture along the rows around each pixel, as a multiple of what stereo needs against the infrared sensor's noise.
 cv::Mat_<float> textureOf(const View& view, double darkness) {
     constexpr double window = 5;   // pixels, of a Gaussian
+    constexpr int coarse = 4;      // pixels to a place at which it is calculated
     constexpr float gathered = 2;  // how far below the noise a whole window still tells shifts apart
     constexpr double exposed = 400, stepsPerElectron = 1.0 / 14, readNoise = 2.2;
     cv::Mat_<float> texture, level, slope;
-    cv::resize(view.infrared, level, view.depth.size());
+    if (view.infrared.size() == view.depth.size())
+        level = view.infrared.clone();
+    else
+        cv::resize(view.infrared, level, view.depth.size());
     level *= exposed * darkness / std::max(1e-6, cv::mean(level)[0]);
     cv::filter2D(level, slope, CV_32F, cv::Matx13f(-0.7071F, 0, 0.7071F));
-    cv::GaussianBlur(slope.mul(slope), texture, cv::Size(), window);
-    cv::GaussianBlur(level, level, cv::Size(), window);
+    const auto smoothed = [&](const cv::Mat_<float>& from) {
+        cv::Mat_<float> to;
+        cv::resize(from, to, from.size() / coarse, 0, 0, cv::INTER_AREA);
+        cv::GaussianBlur(to, to, cv::Size(), window / coarse);
+        return to;
+    };
+    texture = smoothed(slope.mul(slope));
+    level = smoothed(level);
     for (int y = 0; y < level.rows; ++y)
         for (int x = 0; x < level.cols; ++x) {
             const auto noise = static_cast<float>(level(y, x) * stepsPerElectron + readNoise * readNoise);
             texture(y, x) = gathered * std::sqrt(texture(y, x) / noise);
         }
+    cv::resize(texture, texture, view.depth.size(), 0, 0, cv::INTER_LINEAR);
     return texture;
 }
 
@@ -89,14 +102,15 @@ void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& sh
 ImageFrame16 measureDepth(const View& view, const StereoModel& model, synthesis::Random& random) {
     constexpr double plenty = 2;  // times the texture that is needed
     const cv::Mat_<float> texture = textureOf(view, model.darkness);
+    synthesis::NormalTable normal(random);
     ImageFrame16 frame;
     frame.resize(static_cast<std::uint32_t>(view.depth.cols), static_cast<std::uint32_t>(view.depth.rows));
     std::uint16_t* out = frame.pixels();
     for (int y = 0; y < view.depth.rows; ++y)
         for (int x = 0; x < view.depth.cols; ++x, ++out) {
-            const double noise = random.normal();  // drawn for every pixel, so that holes shift nothing
+            const double noise = normal.next();  // drawn for every pixel, so that holes shift nothing
             const double z = view.depth(y, x), dots = model.emitter && z > 0 ? 1 / (model.light * z * z) : 0;
-            const double seen = std::hypot(texture(y, x), dots);
+            const double seen = std::sqrt(double{texture(y, x)} * texture(y, x) + dots * dots);
             *out = 0;
             if (view.unmatched(y, x) != 0 || seen < 1) continue;
             const double noisePx = noise * model.noisePx * std::clamp(plenty / seen, 1.0, 3.0);

@@ -32,7 +32,7 @@ public:
           world_camera_(shot.pose.camera_world.t()),
           centre_(shot.pose.centre),
           seconds_(shot.seconds),
-          stop_(shot.stop),
+          interruption_(shot.interruption),
           bands_(shot.infrared ? cv::Vec4f(0, 0, 0, 1) : cv::Vec4f(0.3F, 0.59F, 0.11F, 0)),
           spread_(spacing()),
           first_(middle_.total()) {}
@@ -46,7 +46,7 @@ public:
         picture_.reflected.setTo(0);
         const auto everyRow = [this](void (Shooting::*look)(int)) {
             forEachRow(
-                middle_.rows, [&](int y) { (this->*look)(y); }, stop_);
+                middle_.rows, [&](int y) { (this->*look)(y); }, interruption_);
         };
         everyRow(&Shooting::glance);
         if (grid_.samplesPerPixel > 1) everyRow(&Shooting::lookCloser);
@@ -141,7 +141,7 @@ private:
     cv::Matx33f world_camera_;
     cv::Vec3f centre_;
     float seconds_;
-    const std::atomic<bool>* stop_;
+    Interruption* interruption_;
     cv::Vec4f bands_;
     float spread_;
     std::vector<First> first_;
@@ -163,10 +163,10 @@ cv::Vec2f middleRay(const synthesis::RayGrid& grid, int x, int y) {
     return (upper[low] + upper[high] + lower[low] + lower[high]) * 0.25F;
 }
 
-void forEachRow(int rows, const std::function<void(int)>& row, const std::atomic<bool>* stop) {
+void forEachRow(int rows, const std::function<void(int)>& row, Interruption* interruption) {
     std::atomic<int> next{0};
     const auto work = [&] {
-        for (int y = next++; y < rows && (stop == nullptr || !*stop); y = next++)
+        for (int y = next++; y < rows && (interruption == nullptr || interruption->goOn()); y = next++)
             row(y);
     };
     std::vector<std::future<void>> helpers;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "simulator/synthesis/Camera.h"
+#include "simulator/world/Interruption.h"
 #include "simulator/world/World.h"
 
-#include <atomic>
 #include <functional>
 
 namespace fieldcal::world {
@@ -20,10 +20,10 @@ Pose colourPose(const Pose& depth, const cv::Matx33d& rotation, const cv::Vec3d&
 /// When and whence a picture is taken, and by what kind of camera.
 struct Shot {
     Pose pose;
-    float seconds = 0;                        ///< time in a world that moves
-    bool infrared = false;                    ///< else colour: what it cannot see needs no care
-    double lensSigma = 0.5;                   ///< spread of the lens's Gaussian blur, pixels
-    const std::atomic<bool>* stop = nullptr;  ///< once it is true, the rest of the picture stays black
+    float seconds = 0;                     ///< time in a world that moves
+    bool infrared = false;                 ///< else colour: what it cannot see needs no care
+    double lensSigma = 0.5;                ///< spread of the lens's Gaussian blur, pixels
+    Interruption* interruption = nullptr;  ///< once it has ended, the rest of the picture stays black
 };
 
 struct Picture {
@@ -40,7 +40,7 @@ cv::Vec2f middleRay(const synthesis::RayGrid& grid, int x, int y);
 Picture takePicture(const World& world, const synthesis::RayGrid& grid, const Shot& shot);
 
 /// Calls `row` for 0 … rows − 1 on all processors, in no particular order, and returns when all are done; or sooner
-/// and incomplete when `stop`, which may be null, becomes true.
-void forEachRow(int rows, const std::function<void(int)>& row, const std::atomic<bool>* stop = nullptr);
+/// and incomplete when `interruption`, which may be null, ends it.
+void forEachRow(int rows, const std::function<void(int)>& row, Interruption* interruption = nullptr);
 
 }  // namespace fieldcal::world
