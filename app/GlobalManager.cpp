@@ -47,8 +47,7 @@ GlobalManager::GlobalManager(int& argc, char** argv, ApplicationEnvironment envi
 }
 
 GlobalManager::~GlobalManager() {
-    endProcessing(Stop::ToLeave);
-    workflow_.leave();
+    closeCamera();
 }
 
 void GlobalManager::loadUILanguage() {
@@ -78,6 +77,8 @@ void GlobalManager::connectSignals() {
     connect(this, &GlobalManager::signal_displayMovementText, this, &GlobalManager::slot_displayMovementText);
     connect(this, &GlobalManager::signal_startCalibrationText, this, &GlobalManager::slot_startCalibrationText);
     connect(this, &GlobalManager::signal_saveCalibrationText, this, &GlobalManager::slot_saveCalibrationText);
+    // At the end of a session the system kills the process right after it has told so, before any destructor.
+    connect(this, &QCoreApplication::aboutToQuit, this, &GlobalManager::closeCamera);
     DepthColorOverlayRenderer* overlay = views_.refinementView();
     connect(window_, SIGNAL(toggleTutorialAnimation(bool)), this, SLOT(slot_toggleTutorialAnimation(bool)));
     connect(window_, SIGNAL(switchToOOMColorSensor()), this, SLOT(slot_switchToOOMColorSensor()));

@@ -81,6 +81,8 @@ private:
     // GlobalManagerEnding.cpp
     bool beginEnding();
     void endProcessing(Stop stop);
+    /// Whatever ends the program; once it was closed, nothing.
+    void closeCamera();
     void finishEnding(const char* who, const LeaveReport& report);
 
     const ApplicationEnvironment environment_;

@@ -57,6 +57,12 @@ void GlobalManager::endProcessing(Stop stop) {
     thread_.reset();
 }
 
+void GlobalManager::closeCamera() {
+    beginEnding();
+    endProcessing(Stop::ToLeave);
+    workflow_.leave();
+}
+
 void GlobalManager::finishEnding(const char* who, const LeaveReport& report) {
     qInfo("%s - cleaning up resources", who);
     updates_.release();

@@ -141,6 +141,17 @@ TEST_F(EndingTest, EveryStateIsLeftWithinASecondAndWithoutAWrite) {
     start("openDevice:1:hang");
     QTest::qWait(100);
     EXPECT_LT(runUntilEnd([this] { press("userAskedToExit"); }), 1000);
+
+    // The session ends: all that the system gives the program is this signal.
+    for (const State state : statesToLeave()) {
+        start();
+        driveTo(state);
+        QElapsedTimer timer;
+        timer.start();
+        QMetaObject::invokeMethod(manager.get(), "aboutToQuit", Qt::DirectConnection);
+        EXPECT_LT(timer.elapsed(), 1000) << static_cast<int>(state);
+        EXPECT_EQ(control.startType, 2U) << "the camera is handed back";
+    }
     EXPECT_FALSE(QDir(dataFolder() + "/backups").exists());
 }
 
