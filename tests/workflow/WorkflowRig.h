@@ -74,8 +74,17 @@ public:
             darkReadings += lit ? 0 : 1;
         });
     }
+    void returnToWellLitArea(bool needed) override {
+        const char letter = needed ? 'D' : 'L';
+        if (events.find_last_of("DL") == std::string::npos || events[events.find_last_of("DL")] != letter)
+            note([&] { events += letter; });
+    }
     void pairCaptured() override {
+        note([&] { events += 'P'; });
         if (onPair) onPair();
+    }
+    void offerHowToMove() override {
+        note([&] { events += 'F'; });
     }
     void pairProcessed(const vq::CalibratorResult& result) override {
         note([&] { codes.push_back(result.code); });
@@ -89,6 +98,9 @@ public:
     void missingPlatformCamera() override {
         note([&] { errors.emplace_back("missing platform camera"); });
     }
+    void platformCameraIssue() override {
+        note([&] { ++rearCameraIssues; });
+    }
     void lastSaveFailed(const SaveNote& text) override {
         note([&] { lastSave = text; });
     }
@@ -99,6 +111,8 @@ public:
     std::size_t seen = 0;
     bool lit = false;
     int darkReadings = 0;
+    int rearCameraIssues = 0;
+    std::string events;      ///< of the captures: P photo, D too dark, L lit (again), F failed
     std::set<State> dotted;  ///< states in which frames came while the emitter was on
     std::vector<std::int32_t> codes;
     std::vector<std::string> errors;

@@ -1,0 +1,110 @@
+#include "tests/workflow/EditedRecording.h"
+#include "tests/workflow/WorkflowRig.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace fieldcal::testing {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ContainsRegex;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using Stills = std::vector<session::FramePictures>;
+
+/// The workflow over a recording that goes wrong in the middle.
+class CutRecordingTest : public WorkflowTest {
+protected:
+    void play(const std::function<std::vector<EditedFrame>(const Stills&)>& cut) {
+        const QString recording = folder.filePath("cut");
+        cutMountains(recording, cut);
+        set("KXSIM_SESSION", recording);
+        start();
+        ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
+    }
+    double errorDeg() const {
+        session::SessionDescription truth;
+        std::string why;
+        EXPECT_TRUE(session::readDescription(mountainRecording().toStdString(), &truth, &why));
+        const Rotation found = *workflow->records().estimated(ColourCamera::InModule);
+        double squares = 0;
+        for (std::size_t i = 0; i < found.size(); ++i)
+            squares += (found[i] - (*truth.truthThird)[i]) * (found[i] - (*truth.truthThird)[i]);
+        return std::sqrt(squares / 2) * 57.2957795;  // of a small angle
+    }
+};
+
+TEST_F(CutRecordingTest, LightThatIsLostIsAwaitedAndWhatWasTakenBeforeCounts) {
+    play([](const Stills& stills) {
+        std::vector<EditedFrame> frames;
+        for (std::size_t i = 0; i < stills.size(); ++i) {
+            frames.push_back({stills[i]});
+            if (i % 2 == 0) continue;
+            EditedFrame dark{stills[i]};
+            for (std::size_t k = 0; k < dark.pictures.infrared.byteCount() / 2; ++k)
+                dark.pictures.infrared.pixels()[k] /= 8;
+            frames.push_back(dark);
+        }
+        return frames;
+    });
+    workflow->requestState(State::DetectingLighting);
+    ASSERT_TRUE(user->waitUntil([&] { return user->lit; }));
+    solve();
+    EXPECT_THAT(user->events, ContainsRegex("PDL.*P")) << "three photos are needed, and never three come without dark";
+    EXPECT_THAT(user->states, Not(Contains(State::WaitingToCalibrate)));
+    EXPECT_LT(errorDeg(), 0.05);
+}
+
+TEST_F(CutRecordingTest, AnAttemptThatFailsIsFollowedByOneThatSucceeds) {
+    // Infrared and colour of different views, twelve times; then those that belong together.
+    play([](const Stills& stills) {
+        std::vector<EditedFrame> frames;
+        for (std::size_t i = 0; i < 18; ++i) {
+            frames.push_back({stills[i % 6]});
+            if (i < 12) frames.back().pictures.infrared = stills[(i + 3) % 6].infrared;
+        }
+        return frames;
+    });
+    const auto failures = [this] { return std::count(user->events.begin(), user->events.end(), 'F'); };
+    bool failed = false, solvedAfterwards = false;
+    for (int attempt = 0; attempt < 12 && !solvedAfterwards; ++attempt) {
+        const auto failuresBefore = failures();
+        workflow->requestState(State::StartingCalibration);
+        ASSERT_TRUE(user->waitUntil(
+            [&] { return failures() > failuresBefore || workflow->state() == State::RefiningTutorial; }));
+        const bool solved = failures() == failuresBefore;
+        solvedAfterwards = failed && solved;
+        failed = !solved;
+    }
+    EXPECT_LT(errorDeg(), 0.05);
+    EXPECT_TRUE(solvedAfterwards) << user->events;
+    EXPECT_THAT(user->events, ContainsRegex("PPPPPPP.?F")) << "eight photos, or seven that are too simple";
+}
+
+TEST_F(CutRecordingTest, ARearCameraThatDiesDuringItsCaptureIsToldOnceAndTheFlashIsKept) {
+    set("KXSIM_SPEED", "2");  // its silence is counted in seconds
+    play([](const Stills& stills) {
+        std::vector<EditedFrame> frames;
+        for (int i = 0; i < 12; ++i)
+            frames.push_back({stills[i % 6]});
+        frames.push_back({stills[0], 100000});
+        frames.back().pictures.platform.clear();
+        return frames;
+    });
+    const QByteArray before = flash();
+    workflow->switchCamera(ColourCamera::OutOfModule);
+    workflow->requestState(State::StartingCalibration);
+    ASSERT_TRUE(user->waitUntil([&] { return user->rearCameraIssues > 0; }));
+    EXPECT_THAT(user->events, ContainsRegex("P"));
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    thread->stop(Stop::ToLeave);
+    EXPECT_THAT(workflow->leave().errors, IsEmpty());
+    EXPECT_EQ(user->rearCameraIssues, 1);
+    EXPECT_THAT(user->errors, IsEmpty());
+    EXPECT_EQ(flash(), before);
+    EXPECT_EQ(control.startType, 2U);
+}
+
+}  // namespace
+}  // namespace fieldcal::testing
