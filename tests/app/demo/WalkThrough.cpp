@@ -1,11 +1,13 @@
 #include "tests/app/demo/WalkThrough.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPixmap>
-#include <QProcessEnvironment>
 #include <QScreen>
+#include <QThread>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace fieldcal::testing {
@@ -13,41 +15,66 @@ namespace {
 
 constexpr int kPatienceMs = 120000;
 constexpr int kActEveryMs = 3000;
+constexpr int kSettleMs = 700;
 
 }  // namespace
 
-bool WalkThrough::start(const QString& program, const QProcessEnvironment& environment) {
+bool WalkThrough::start(const QString& recording) {
     if (!log_.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) std::fprintf(stderr, "no log is kept\n");
-    program_.setProcessEnvironment(environment);
+    qputenv("KXSIM_SESSION", recording.toLocal8Bit());
+    qputenv("KXSIM_FLASH", (folder_ + "/flash").toLocal8Bit());
+    qputenv("XDG_DATA_HOME", (folder_ + "/data").toLocal8Bit());
+    // A session of its own: a copy that runs elsewhere is not in the way.
+    QDir().mkpath(folder_ + "/session");
+    QFile::setPermissions(folder_ + "/session", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv("XDG_RUNTIME_DIR", (folder_ + "/session").toLocal8Bit());
+    QFile::remove(folder_ + "/flash");
     program_.setProcessChannelMode(QProcess::MergedChannels);
-    program_.start(program, QStringList());
+    program_.start(QCoreApplication::applicationDirPath() + "/field-calibrator", QStringList());
     if (program_.waitForStarted() && hand_.connected()) return true;
     problem_ = hand_.connected() ? program_.errorString() : "there is no X display";
     return false;
 }
 
-bool WalkThrough::readLine(const QString& line) {
+void WalkThrough::readLog() {
     const QByteArray told = program_.readAll();
     log_.write(told);
     unread_ += QString::fromUtf8(told);
-    const int at = unread_.indexOf(line);
-    if (at < 0) return false;
-    unread_.remove(0, at + line.size());
-    return true;
 }
 
-bool WalkThrough::waitFor(const QString& line, int milliseconds) {
+int WalkThrough::waitForOne(const QStringList& lines, int milliseconds) {
     QElapsedTimer timer;
     timer.start();
-    while (!readLine(line)) {
+    while (true) {
+        readLog();
+        int first = -1, at = unread_.size();
+        for (int i = 0; i < lines.size(); ++i) {
+            const int found = unread_.indexOf(lines[i]);
+            if (found < 0 || found >= at) continue;
+            first = i;
+            at = found;
+        }
+        if (first >= 0) {
+            unread_.remove(0, at + lines[first].size());
+            return first;
+        }
         const bool ended = program_.state() == QProcess::NotRunning;
         if (ended || timer.elapsed() > milliseconds) {
-            problem_ = (ended ? "the program ended before \"" : "no \"") + line + '"';
-            return false;
+            problem_ = (ended ? "the program ended before \"" : "no \"") + lines.first() + '"';
+            return -1;
         }
         program_.waitForReadyRead(50);
     }
-    return true;
+}
+
+bool WalkThrough::hasCome(const QStringList& lines) {
+    readLog();
+    return std::any_of(lines.begin(), lines.end(), [this](const QString& line) { return unread_.contains(line); });
+}
+
+int WalkThrough::timesCome(const QByteArray& text) const {
+    QFile log(log_.fileName());
+    return log.open(QIODevice::ReadOnly) ? log.readAll().count(text) : 0;
 }
 
 bool WalkThrough::actUntil(const QString& line, const std::function<void()>& action) {
@@ -60,12 +87,31 @@ bool WalkThrough::actUntil(const QString& line, const std::function<void()>& act
     return false;
 }
 
-void WalkThrough::look(const QString& name) {
+void WalkThrough::settle() const {
+    QThread::msleep(kSettleMs);
+}
+
+QImage WalkThrough::look(const QString& name) {
     const QString file = QString("%1-%2.png").arg(pictures_.size() + 1, 2, 10, QChar('0')).arg(name);
-    QGuiApplication::primaryScreen()->grabWindow(0).save(folder_ + '/' + file);
+    const QImage picture = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+    picture.save(folder_ + '/' + file);
     pictures_.push_back(file);
     std::printf("   %s\n", qPrintable(file));
     std::fflush(stdout);
+    return picture;
+}
+
+double WalkThrough::reactionMs(const std::function<void()>& action) {
+    const auto corner = [] {
+        return QGuiApplication::primaryScreen()->grabWindow(0, 2, 2, 1, 1).toImage().pixel(0, 0);
+    };
+    const QRgb before = corner();
+    QElapsedTimer timer;
+    timer.start();
+    action();
+    while (corner() == before)
+        if (timer.elapsed() > kPatienceMs) return -1;
+    return static_cast<double>(timer.nsecsElapsed()) * 1e-6;
 }
 
 int WalkThrough::waitForEnd() {

@@ -5,12 +5,31 @@
 #include <X11/keysym.h>
 
 namespace fieldcal::testing {
+namespace {
+
+KeySym symbolOf(X11Hand::Key key) {
+    switch (key) {
+        case X11Hand::Key::Escape:
+            return XK_Escape;
+        case X11Hand::Key::Tab:
+            return XK_Tab;
+        case X11Hand::Key::Space:
+            return XK_space;
+        default:
+            return XK_Return;
+    }
+}
+
+}  // namespace
 
 struct X11Hand::Connection {
     Display* display = XOpenDisplay(nullptr);
 };
 
-X11Hand::X11Hand() : connection_(std::make_unique<Connection>()) {}
+X11Hand::X11Hand() : connection_(std::make_unique<Connection>()) {
+    // A key that is held would otherwise count as pressed again and again.
+    if (connected()) XAutoRepeatOff(connection_->display);
+}
 
 X11Hand::~X11Hand() {
     if (connected()) XCloseDisplay(connection_->display);
@@ -46,10 +65,22 @@ bool X11Hand::focusLargestWindow() {
     return true;
 }
 
-void X11Hand::pressReturn() {
-    const KeyCode key = XKeysymToKeycode(connection_->display, XK_Return);
-    XTestFakeKeyEvent(connection_->display, key, True, CurrentTime);
-    XTestFakeKeyEvent(connection_->display, key, False, CurrentTime);
+void X11Hand::press(Key key) {
+    hold(key);
+    release(key);
+}
+
+void X11Hand::hold(Key key) {
+    sendKey(key, true);
+}
+
+void X11Hand::release(Key key) {
+    sendKey(key, false);
+}
+
+void X11Hand::sendKey(Key key, bool down) {
+    const KeyCode code = XKeysymToKeycode(connection_->display, symbolOf(key));
+    XTestFakeKeyEvent(connection_->display, code, down ? True : False, CurrentTime);
     XSync(connection_->display, False);
 }
 

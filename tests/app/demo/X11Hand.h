@@ -13,12 +13,17 @@ public:
     bool connected() const;
     /// Gives the keyboard to the largest window; without a window manager nobody else does. False: there is none.
     bool focusLargestWindow();
-    void pressReturn();
+    enum class Key { Return, Escape, Tab, Space };
+    void press(Key key);
+    void hold(Key key);
+    void release(Key key);
     void moveTo(int x, int y);
     void buttonDown();
     void buttonUp();
 
 private:
+    void sendKey(Key key, bool down);
+
     struct Connection;
     std::unique_ptr<Connection> connection_;
 };

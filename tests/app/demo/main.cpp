@@ -1,7 +1,9 @@
-// Plays the whole workflow of the running program, two cameras from start to saved, by events from outside, and says
-// what the simulated module's flash holds afterwards.
+// Plays the whole workflow of the running program, from start to saved, by events from outside: with two cameras, or
+// with one when the recording has no more. Says what the simulated module's flash holds afterwards, how far the overlay
+// stood beside the picture, and how soon the interface answered while a photo was being worked on.
 //   walk-through RECORDING FOLDER        (on an X display; the program is the one beside it)
 #include "session/RecordedSession.h"
+#include "tests/app/demo/OverlayOffset.h"
 #include "tests/app/demo/WalkThrough.h"
 #include "tools/CalibrationReport.h"
 #include "tools/ConnectedModule.h"
@@ -12,22 +14,33 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcessEnvironment>
 #include <QScreen>
 #include <QThread>
+#include <opencv2/imgproc.hpp>
 
 #include <cstdio>
 
 namespace fieldcal::testing {
 namespace {
 
-constexpr int kSettleMs = 700;
+using Key = X11Hand::Key;
+
 constexpr int kFlashMs = 400;  // and the confirmation that comes with it stands longer
 constexpr int kCaptureMs = 240000;
+constexpr double kLeastCorrelation = 0.05;
+const QString kPairTaken = "Adding new infrared";
+const QStringList kPairDecided{"Continue processing", "Could not get a sample set", "Found a good solution"};
 
-void settle() {
-    QThread::msleep(kSettleMs);
-}
+/// What is played, and what came of it.
+struct Walk {
+    WalkThrough& user;
+    session::SessionDescription played;
+    QString recording;
+    QJsonObject* result;
+    QJsonArray busyReactionsMs, idleReactionsMs;  ///< while a photo was being worked on, and after
+
+    bool twoCameras() const { return played.platform.has_value(); }
+};
 
 void drag(WalkThrough* user) {
     const QSize screen = QGuiApplication::primaryScreen()->size();
@@ -41,49 +54,117 @@ void drag(WalkThrough* user) {
     user->hand().moveTo(middle, screen.height() / 2);
     user->hand().buttonDown();
     moveSlowly(middle, middle + screen.width() / 8);
-    settle();
+    user->settle();
     user->look("refinement-dragged");
     moveSlowly(middle + screen.width() / 8, middle);  // the finger's own correction is taken back
     user->hand().buttonUp();
-    settle();
+    user->settle();
 }
 
-/// Its page comes before the next state's, which the log does not tell.
-void readWhatWasFound(WalkThrough* user, const char* name) {
-    settle();
-    user->look(name);
-    user->hand().pressReturn();
+/// The module's own colour pictures.
+std::vector<cv::Mat> playedPictures(const Walk& walk) {
+    std::vector<cv::Mat> pictures;
+    session::FramePictures frame;
+    std::string why;
+    for (std::size_t i = 0; i < walk.played.frames.size(); ++i) {
+        if (!readPictures(walk.recording.toStdString(), walk.played, i, &frame, &why)) continue;
+        const cv::Mat picture(static_cast<int>(frame.third.height()), static_cast<int>(frame.third.width()), CV_8UC4,
+                              frame.third.bytes());
+        cv::cvtColor(picture, pictures.emplace_back(), cv::COLOR_BGRA2BGR);
+    }
+    return pictures;
 }
 
-bool walk(WalkThrough* user) {
-    const auto pressReturn = [user] { user->hand().pressReturn(); };
-    const auto lookThenPress = [&](const char* name, const char* untilLine) {
-        settle();
-        user->look(name);
-        return user->actUntil(untilLine, pressReturn);
+/// By how much the middle of the picture moves on the screen when the stored rotation takes the true one's place.
+QJsonArray expectedOffset(const session::SessionDescription& played, int screenWidth) {
+    const session::Matrix3& a = played.third.rotation;
+    const session::Matrix3& b = *played.truthThird;
+    std::array<double, 3> ray{};  // a · bᵀ · (0, 0, 1)
+    for (int row = 0; row < 3; ++row)
+        for (int k = 0; k < 3; ++k)
+            ray[row] += a[3 * row + k] * b[6 + k];
+    const double scale = static_cast<double>(screenWidth) / played.third.width;
+    return {played.third.fx * ray[0] / ray[2] * scale, played.third.fy * ray[1] / ray[2] * scale};
+}
+
+/// Null where hardly anything has depth.
+QJsonValue told(const OverlayOffset& offset) {
+    if (offset.correlation < kLeastCorrelation) return {};
+    return QJsonObject{{"px", QJsonArray{offset.pixels[0], offset.pixels[1]}}, {"correlation", offset.correlation}};
+}
+
+/// With the rotation that was found, and, as long as its button is held, with the stored one.
+void compareWithStored(Walk* walk) {
+    WalkThrough& user = walk->user;
+    const std::vector<cv::Mat> pictures = playedPictures(*walk);
+    const QImage found = user.look("refinement");
+    user.hand().press(Key::Tab);  // to "Restart"
+    user.hand().press(Key::Tab);
+    user.hand().hold(Key::Space);
+    user.settle();
+    const QImage stored = user.look("refinement-stored");
+    user.hand().release(Key::Space);
+    user.settle();
+    walk->result->insert("overlay", QJsonObject{{"found", told(measureOverlayOffset(found, pictures))},
+                                                {"stored", told(measureOverlayOffset(stored, pictures))},
+                                                {"driftPx", expectedOffset(walk->played, found.width())}});
+}
+
+/// Asks to leave, and changes its mind, while the photo that has just been taken is being worked on and after.
+void measureReactions(Walk* walk) {
+    const auto askToLeave = [walk](bool busy) {
+        for (int i = 0; i < 2; ++i) {
+            const double milliseconds = walk->user.reactionMs([walk] { walk->user.hand().press(Key::Escape); });
+            if (!busy && !walk->user.hasCome({kPairTaken})) walk->idleReactionsMs.append(milliseconds);
+            if (busy && !walk->user.hasCome(kPairDecided)) walk->busyReactionsMs.append(milliseconds);
+        }
     };
-    if (!user->waitFor("changing qml to state 1", 60000) || !lookThenPress("introduction", "changing to state 2") ||
-        !lookThenPress("sunlight", "changing to state 6") || !user->waitFor("Adding new infrared", 60000)) {
+    askToLeave(true);
+    if (walk->user.waitForOne(kPairDecided, kCaptureMs) < 2) askToLeave(false);
+}
+
+/// From the first photo to the page that tells what was found.
+bool capture(Walk* walk, const char* name, const char* foundLine) {
+    WalkThrough& user = walk->user;
+    if (!user.waitFor(kPairTaken, 60000)) return false;
+    QThread::msleep(kFlashMs);
+    user.look(name);
+    int line = 0;
+    while (line == 0) {
+        line = user.waitForOne({kPairTaken, foundLine}, kCaptureMs);
+        if (line == 0) measureReactions(walk);
+    }
+    if (line < 0) return false;
+    // Its page comes before the next state's, which the log does not tell.
+    user.settle();
+    user.look(QString("found-%1").arg(name));
+    user.hand().press(Key::Return);
+    return true;
+}
+
+bool play(Walk* walk) {
+    WalkThrough& user = walk->user;
+    const auto pressReturn = [&user] { user.hand().press(Key::Return); };
+    const auto lookThenPress = [&](const char* name, const char* untilLine) {
+        user.settle();
+        user.look(name);
+        return user.actUntil(untilLine, pressReturn);
+    };
+    if (!user.waitFor("changing qml to state 1", 60000) || !lookThenPress("introduction", "changing to state 2") ||
+        !lookThenPress("sunlight", "changing to state 6") || !capture(walk, "capture", "changing qml to state 9") ||
+        !lookThenPress("tutorial", "changing to state 10")) {
         return false;
     }
-    QThread::msleep(kFlashMs);
-    user->look("capture");
-    if (!user->waitFor("changing qml to state 9", kCaptureMs)) return false;
-    readWhatWasFound(user, "found");
-    if (!lookThenPress("tutorial", "changing to state 10")) return false;
-    settle();
-    user->look("refinement");
-    drag(user);
-    if (!user->actUntil("changing to state 6", pressReturn) || !user->waitFor("Adding new infrared", 60000)) {
+    user.settle();
+    compareWithStored(walk);
+    drag(&user);
+    if (walk->twoCameras() && (!user.actUntil("changing to state 6", pressReturn) ||
+                               !capture(walk, "capture-second", "changing qml to state 10"))) {
         return false;
     }
-    QThread::msleep(kFlashMs);
-    user->look("capture-second");
-    if (!user->waitFor("changing qml to state 10", kCaptureMs)) return false;
-    readWhatWasFound(user, "found-second");
-    if (!lookThenPress("refinement-second", "slot_saveAndQuit - cleaning up")) return false;
+    if (!lookThenPress("refinement-last", "slot_saveAndQuit - cleaning up")) return false;
     QThread::msleep(300);
-    user->look("saved");
+    user.look("saved");
     return true;
 }
 
@@ -93,49 +174,44 @@ QJsonObject judge(const Matrix3& before, const Matrix3& after, const Matrix3& tr
 }
 
 /// What the module's flash holds now, against the recording's truth.
-bool judgeFlash(const QString& recording, QJsonObject* result, QString* why) {
-    session::SessionDescription played;
+bool judgeFlash(const Walk& walk, QString* why) {
     session::SessionDescription stored;
-    std::string whyNot;
     ConnectedModule module;
-    if (!session::readDescription(recording.toStdString(), &played, &whyNot)) {
-        *why = QString::fromStdString(whyNot);
+    if (!module.open(walk.twoCameras(), why) || !module.describe(&stored, why) || !module.close(why)) return false;
+    walk.result->insert("third", judge(walk.played.third.rotation, stored.third.rotation, *walk.played.truthThird));
+    if (!walk.twoCameras()) return true;
+    if (!stored.platform) {
+        *why = "the module has lost the rear camera's calibration";
         return false;
     }
-    if (!module.open(true, why) || !module.describe(&stored, why) || !module.close(why)) return false;
-    if (!played.truthThird || !played.truthPlatform || !stored.platform) {
-        *why = "the recording has no truth for two cameras";
-        return false;
-    }
-    result->insert("third", judge(played.third.rotation, stored.third.rotation, *played.truthThird));
-    result->insert("platform", judge(played.platform->rotation, stored.platform->rotation, *played.truthPlatform));
+    walk.result->insert("platform",
+                        judge(walk.played.platform->rotation, stored.platform->rotation, *walk.played.truthPlatform));
     return true;
 }
 
 int run(const QString& recording, const QString& folder) {
-    qputenv("KXSIM_SESSION", recording.toLocal8Bit());
-    qputenv("KXSIM_FLASH", (folder + "/flash").toLocal8Bit());
-    qputenv("XDG_DATA_HOME", (folder + "/data").toLocal8Bit());
-    // A session of its own: a copy that runs elsewhere is not in the way.
-    QDir().mkpath(folder + "/session");
-    QFile::setPermissions(folder + "/session", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    qputenv("XDG_RUNTIME_DIR", (folder + "/session").toLocal8Bit());
-    QFile::remove(folder + "/flash");
     WalkThrough user(folder);
-    QString problem;
     QJsonObject result;
-    const bool walked = user.start(QCoreApplication::applicationDirPath() + "/field-calibrator",
-                                   QProcessEnvironment::systemEnvironment()) &&
-                        walk(&user);
-    if (!walked) {
+    Walk walk{user, {}, recording, &result, {}, {}};
+    std::string whyNot;
+    if (!readDescription(recording.toStdString(), &walk.played, &whyNot) || !walk.played.truthThird ||
+        (walk.twoCameras() && !walk.played.truthPlatform)) {
+        std::fprintf(stderr, "walk-through: no recording with truth: %s\n", whyNot.c_str());
+        return 2;
+    }
+    QString problem;
+    const bool played = user.start(recording) && play(&walk);
+    if (!played) {
         user.look("stuck");
         problem = user.problem();
     }
-    const int exitCode = walked ? user.waitForEnd() : -1;
-    const bool judged = exitCode == 0 && judgeFlash(recording, &result, &problem);
+    const int exitCode = played ? user.waitForEnd() : -1;
+    const bool judged = exitCode == 0 && judgeFlash(walk, &problem);
     result.insert("finished", judged);
     result.insert("exitCode", exitCode);
     result.insert("problem", judged ? QString() : problem);
+    result.insert("reactionsMs",
+                  QJsonObject{{"whilePhotoIsWorkedOn", walk.busyReactionsMs}, {"otherwise", walk.idleReactionsMs}});
     result.insert("screenshots", QJsonArray::fromStringList(user.pictures()));
     QFile file(folder + "/application.json");
     if (file.open(QIODevice::WriteOnly)) file.write(QJsonDocument(result).toJson());
