@@ -93,7 +93,7 @@ void WalkThrough::settle() const {
 
 QImage WalkThrough::look(const QString& name) {
     const QString file = QString("%1-%2.png").arg(pictures_.size() + 1, 2, 10, QChar('0')).arg(name);
-    const QImage picture = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+    QImage picture = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
     picture.save(folder_ + '/' + file);
     pictures_.push_back(file);
     std::printf("   %s\n", qPrintable(file));
