@@ -8,7 +8,7 @@ ApplicationEnvironment systemApplicationEnvironment() {
     ApplicationEnvironment environment;
     environment.workflow = systemWorkflowEnvironment();
     environment.language = systemLanguage();
-    environment.updateManifest = QUrl(QStringLiteral(FIELDCAL_UPDATE_MANIFEST));
+    environment.update = systemUpdateEnvironment(QUrl(QStringLiteral(FIELDCAL_UPDATE_MANIFEST)));
     environment.showCritical = [](const QString& title, const QString& text) {
         QMessageBox::critical(nullptr, title, text, QMessageBox::Ok);
     };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "i18n/SystemLanguage.h"
+#include "update/UpdateEnvironment.h"
 #include "workflow/Workflow.h"
 
 #include <QString>
@@ -17,7 +18,7 @@ struct ApplicationEnvironment {
     SystemLanguage language;
     QString translations = QStringLiteral(":/Files");
     QUrl rootDocument{QStringLiteral("qrc:/Views/main.qml")};
-    QUrl updateManifest;  ///< empty: no version is asked for
+    UpdateEnvironment update;
     /// Shows a message with its title and waits until the user has read it.
     std::function<void(const QString& title, const QString& text)> showCritical;
     /// How long the user sees that the calibration is stored, before the program ends.

@@ -34,7 +34,7 @@ GlobalManager::GlobalManager(int& argc, char** argv, ApplicationEnvironment envi
     : QApplication(argc, argv),
       environment_(std::move(environment)),
       workflow_(bridge_, environment_.workflow),
-      updates_(environment_.updateManifest) {
+      updates_(environment_.update, updateBridge_) {
     initResources();
     loadUILanguage();
     lockOrientation();
@@ -182,11 +182,12 @@ void GlobalManager::slot_timeoutNetworkReplyJson() {
     updates_.timedOut();
 }
 
-// No version is compared yet, so that none is ever offered.
 void GlobalManager::slot_downloadLatestUpdate() {
-    qInfo("No update was offered.");
+    if (!ending_) updates_.download();
 }
 
-void GlobalManager::slot_abortDownloadOfUpdate() {}
+void GlobalManager::slot_abortDownloadOfUpdate() {
+    updates_.abort();
+}
 
 }  // namespace fieldcal

@@ -3,8 +3,9 @@
 #include "app/ApplicationEnvironment.h"
 #include "app/ImageViews.h"
 #include "app/QmlFunctions.h"
-#include "app/UpdateCheck.h"
+#include "app/UpdateBridge.h"
 #include "app/WorkflowBridge.h"
+#include "update/SoftwareUpdate.h"
 #include "workflow/ProcessingThread.h"
 #include "workflow/Workflow.h"
 
@@ -93,7 +94,8 @@ private:
     ImageViews views_;
     WorkflowBridge bridge_{*this, mainThread_, functions_, views_};
     Workflow workflow_;
-    UpdateCheck updates_;
+    UpdateBridge updateBridge_{*this, functions_};
+    SoftwareUpdate updates_;
     QQmlApplicationEngine engine_;  ///< its views use the workflow's engine
     QQuickWindow* window_ = nullptr;
     QElapsedTimer lightingStopwatch_;

@@ -38,5 +38,18 @@ constexpr const char* kSaved = QT_TRANSLATE_NOOP("Interface", "The calibration i
 constexpr const char* kLastSaveFailed =
     QT_TRANSLATE_NOOP("Interface", "The last calibration was not stored in the camera.\nPlease calibrate again.");
 
+constexpr const char* kUpdateConnection =
+    QT_TRANSLATE_NOOP("Interface", "The connection broke off and could not be made again.");
+constexpr const char* kUpdateServer =
+    QT_TRANSLATE_NOOP("Interface", "The download server does not give what was expected of it.");
+constexpr const char* kUpdateDisk = QT_TRANSLATE_NOOP("Interface", "The download could not be kept on the disk.");
+constexpr const char* kUpdateDamaged = QT_TRANSLATE_NOOP("Interface", "The download was damaged and has been removed.");
+constexpr const char* kUpdateUnsigned =
+    QT_TRANSLATE_NOOP("Interface", "This is a development build without a signature. It starts no installer.");
+constexpr const char* kUpdateNotTrusted =
+    QT_TRANSLATE_NOOP("Interface", "The download is not signed by the maker of this program and has been removed.");
+constexpr const char* kUpdateNoInstallers = QT_TRANSLATE_NOOP("Interface", "There is no installer for this system.");
+constexpr const char* kUpdateNotStarted = QT_TRANSLATE_NOOP("Interface", "The installer could not be started.");
+
 }  // namespace texts
 }  // namespace fieldcal

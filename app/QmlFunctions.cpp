@@ -93,6 +93,26 @@ void QmlFunctions::showFoundTurn(const QVariantList& anglesDeg) {
     call("showFoundTurn", {QVariant(anglesDeg)});
 }
 
+void QmlFunctions::showUpdateOffer(const QString& version) {
+    call("showUpdateOffer", {version});
+}
+
+void QmlFunctions::showUpdateProgress(qint64 receivedBytes, qint64 totalBytes) {
+    call("showUpdateProgress", {static_cast<double>(receivedBytes), static_cast<double>(totalBytes)});
+}
+
+void QmlFunctions::showUpdateInterrupted() {
+    call("showUpdateInterrupted");
+}
+
+void QmlFunctions::showUpdateStarting() {
+    call("showUpdateStarting");
+}
+
+void QmlFunctions::showUpdateFailed(const QString& text, bool mayTryAgain) {
+    call("showUpdateFailed", {text, mayTryAgain});
+}
+
 // The root belongs to the main thread; another thread does not even look at it.
 void QmlFunctions::call(const char* function, const QVariantList& arguments) {
     mainThread_.call([this, function, arguments] { callNow(function, arguments); });

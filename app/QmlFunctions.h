@@ -42,6 +42,11 @@ public:
     void showDetailMap(const QVariantList& areas);
     /// Of the camera, upwards, to the right, and clockwise as seen from behind it.
     void showFoundTurn(const QVariantList& anglesDeg);
+    void showUpdateOffer(const QString& version);
+    void showUpdateProgress(qint64 receivedBytes, qint64 totalBytes);
+    void showUpdateInterrupted();
+    void showUpdateStarting();
+    void showUpdateFailed(const QString& text, bool mayTryAgain);
 
 private:
     void call(const char* function, const QVariantList& arguments = {});

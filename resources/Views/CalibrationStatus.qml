@@ -36,12 +36,44 @@ QtObject {
     property var foundTurn: []  // degrees: upwards, to the right, clockwise
     property bool foundRead: false
 
+    property string updatePhase: ""  // "offered", "fetching", "starting" or "failed"
+    property string updateVersion: ""
+    property real updateReceived: 0  // bytes
+    property real updateTotal: 0     // 0 as long as it is not known
+    property bool updateInterrupted: false
+    property string updateFailure: ""
+    property bool updateMayTryAgain: false
+
     // Its page comes between the capture and what the application shows next.
     readonly property bool foundShown: state === states.found
                                        || ((state === states.tutorial || state === states.refining) && !foundRead)
     readonly property bool somethingToLose: !saving && notice === ""
         && (secondCamera || state >= states.found || (state >= states.starting && photoCount > 0))
 
+    // Nobody who has begun is interrupted by an offer.
+    readonly property bool updateShown: !saving && (updatePhase === "offered" ? state <= states.introduction
+                                                                              : updatePhase !== "")
+
+    function offerUpdate(version) {
+        updateVersion = version
+        updatePhase = "offered"
+    }
+    function fetchUpdate() {
+        updateReceived = 0
+        updateTotal = 0
+        updateInterrupted = false
+        updatePhase = "fetching"
+    }
+    function updateProgressed(received, total) {
+        updateReceived = received
+        updateTotal = total
+        updateInterrupted = false
+    }
+    function failUpdate(message, mayTryAgain) {
+        updateFailure = message
+        updateMayTryAgain = mayTryAgain
+        updatePhase = "failed"
+    }
     function startAttempt() {
         photoCount = 0
         photos = []

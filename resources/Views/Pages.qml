@@ -13,13 +13,15 @@ Item {
     signal begun()
     signal accepted()
     signal left()
+    signal updateWanted()
+    signal updateGivenUp()
 
     readonly property var states: status.states
     readonly property int step: status.state
     readonly property bool paged: status.notice === "" && !status.saving
     readonly property var screens: [opening, introduction, lighting, start, capture, found, tutorial, refinement, saving,
                                     missingDevice, missingRearCamera, rearCameraTrouble]
-    readonly property bool covered: howToMove.visible || leaveQuestion.visible
+    readonly property bool covered: howToMove.visible || leaveQuestion.visible || updateNotice.visible
 
     function confirmPhoto() { capture.confirmPhoto() }
     function askToLeave() { leaveQuestion.visible = true }
@@ -28,12 +30,14 @@ Item {
         else left()
     }
     function pressMainButton() {
-        const page = leaveQuestion.visible ? leaveQuestion
+        const page = updateNotice.visible ? updateNotice
+                   : leaveQuestion.visible ? leaveQuestion
                    : howToMove.visible ? howToMove : screens.find(screen => screen.shown)
         if (page && page.mainButton && page.mainButton.visible) page.mainButton.clicked()
     }
     function goBack() {
-        if (leaveQuestion.visible) leaveQuestion.visible = false
+        if (updateNotice.visible) updateNotice.close()
+        else if (leaveQuestion.visible) leaveQuestion.visible = false
         else if (howToMove.visible) howToMove.visible = false
         else leave()
     }
@@ -171,4 +175,11 @@ Item {
     }
     HowToMove { id: howToMove; anchors.fill: parent }
     LeaveQuestion { id: leaveQuestion; anchors.fill: parent; onLeft: pages.left() }
+    UpdateNotice {
+        id: updateNotice
+        anchors.fill: parent
+        status: pages.status
+        onWanted: pages.updateWanted()
+        onGivenUp: pages.updateGivenUp()
+    }
 }

@@ -68,6 +68,12 @@ Window {
     function showDetailMap(areas) { status.detail = areas }
     function showFoundTurn(anglesDeg) { status.foundTurn = anglesDeg }
 
+    function showUpdateOffer(version) { status.offerUpdate(version) }
+    function showUpdateProgress(receivedBytes, totalBytes) { status.updateProgressed(receivedBytes, totalBytes) }
+    function showUpdateInterrupted() { status.updateInterrupted = true }
+    function showUpdateStarting() { status.updatePhase = "starting" }
+    function showUpdateFailed(message, mayTryAgain) { status.failUpdate(message, mayTryAgain) }
+
     property bool mirrored: false
     property bool askedBeforeClosing: false
     readonly property bool tutorialShown: status.state === _state_RefiningTutorial && !status.foundShown
@@ -131,5 +137,7 @@ Window {
         onBegun: { root.switchToIMColorSensor(); root.goTo(root._state_DetectingLighting) }
         onAccepted: root.acceptRefinement()
         onLeft: root.userAskedToExit()
+        onUpdateWanted: { status.fetchUpdate(); root.startDownloadingUpdate() }
+        onUpdateGivenUp: { status.updatePhase = ""; root.abortDownloadingUpdate() }
     }
 }

@@ -46,7 +46,7 @@ protected:
         ApplicationEnvironment environment = systemApplicationEnvironment();
         environment.workflow = {[this] { return std::make_unique<Sensor>(sensorEnvironment()); }, dataFolder()};
         environment.rootDocument = QUrl::fromLocalFile(FIELDCAL_APP_TESTS "/RecordingInterface.qml");
-        environment.updateManifest = QUrl();
+        environment.update.manifest = QUrl();
         environment.language = {QString("German"), QString("Germany")};
         environment.showCritical = [this](const QString& title, const QString& text) {
             boxes.push_back((title + ": " + text).toStdString());

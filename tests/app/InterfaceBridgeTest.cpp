@@ -1,8 +1,6 @@
 #include "render/ImageItem.h"
 #include "tests/app/ApplicationRig.h"
 
-#include <QTcpServer>
-
 #include <thread>
 
 namespace fieldcal::testing {
@@ -143,26 +141,6 @@ TEST_F(InterfaceBridgeTest, AnArabicInterfaceReadsFromTheRight) {
     EXPECT_TRUE(QGuiApplication::isRightToLeft());
 }
 
-TEST_F(InterfaceBridgeTest, AServerThatDoesNotAnswerIsGivenUpQuietly) {
-    start("openDevice:1:5");
-    const LogCapture log;
-    QTcpServer server;
-    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
-    UpdateCheck check(QUrl(QString("http://127.0.0.1:%1/Version.json").arg(server.serverPort())));
-    for (const bool release : {true, false}) {
-        check.start(manager.get());
-        ASSERT_TRUE(waitUntil([&] { return server.hasPendingConnections(); }));
-        server.nextPendingConnection();
-        if (release) {
-            check.release();
-        } else {
-            check.timedOut();
-        }
-        QCoreApplication::processEvents();
-        EXPECT_EQ(LogCapture::has("No version manifest: Operation canceled"), !release);
-    }
-}
-
 /// The product's own interface: what the application calls is there.
 TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
     const LogCapture log;
@@ -192,6 +170,11 @@ TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
     functions.displayMissingPlatformCamera();
     functions.displayPlatformCameraIssue();
     functions.showLastSaveFailed("a");
+    functions.showUpdateOffer("1.1");
+    functions.showUpdateProgress(1, 2);
+    functions.showUpdateInterrupted();
+    functions.showUpdateStarting();
+    functions.showUpdateFailed("a", true);
     end();
     const auto isOfTheInterface = [](const std::string& line) {
         return line.find("interface has no") != std::string::npos || line.find("No such") != std::string::npos ||

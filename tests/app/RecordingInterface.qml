@@ -55,6 +55,12 @@ Window {
     function showDetailMap(areas) { add("detail", areas.map(area => area.toFixed(1))) }
     function showFoundTurn(anglesDeg) { add("foundTurn", anglesDeg.map(angle => angle.toFixed(1))) }
 
+    function showUpdateOffer(version) { add("updateOffer", [version]) }
+    function showUpdateProgress(received, total) { note("updateProgress", [received, total]) }
+    function showUpdateInterrupted() { add("updateInterrupted", []) }
+    function showUpdateStarting() { add("updateStarting", []) }
+    function showUpdateFailed(text, again) { add("updateFailed", [text, again]) }
+
     Item {
         width: root.width; height: root.height
         ColorImageRendererItem { objectName: "introImageView" }

@@ -138,5 +138,43 @@ TEST_F(ActionsTest, TheFingerDragsWherePictureIsAndHoldsToCompare) {
     EXPECT_EQ(downs.size(), 1);
 }
 
+TEST_F(ActionsTest, AnUpdateIsFetchedGivenUpOrLeftForLater) {
+    QSignalSpy wanted(stage.window(), SIGNAL(startDownloadingUpdate()));
+    QSignalSpy givenUp(stage.window(), SIGNAL(abortDownloadingUpdate()));
+    const auto escape = [this] { QTest::keyClick(stage.window(), Qt::Key_Escape); };
+    stage.enter(1);
+    stage.tell("showUpdateOffer", "1.10");
+    EXPECT_TRUE(shown("updateNotice"));
+    escape();  // later
+    EXPECT_FALSE(shown("updateNotice"));
+    stage.tell("showUpdateOffer", "1.10");
+    pressReturn();
+    EXPECT_EQ(wanted.size(), 1);
+    stage.tell("showUpdateProgress", 20.0, 80.0);
+    EXPECT_EQ(stage.find("updateProgress")->property("value"), 0.25);
+    pressReturn();  // there is nothing to do but wait
+    EXPECT_EQ(states.size(), 0) << "the page below is out of reach";
+    escape();
+    EXPECT_EQ(givenUp.size(), 1);
+    EXPECT_FALSE(shown("updateNotice"));
+
+    stage.tell("showUpdateOffer", "1.10");
+    pressReturn();
+    stage.tell("showUpdateFailed", "Because.", true);
+    pressReturn();  // again
+    EXPECT_EQ(wanted.size(), 3);
+    stage.tell("showUpdateStarting");
+    escape();  // too late
+    EXPECT_TRUE(shown("updateNotice"));
+    EXPECT_EQ(givenUp.size(), 1);
+    EXPECT_EQ(exits.size(), 0);
+}
+
+TEST_F(ActionsTest, WhoHasBegunIsNotInterruptedByAnOffer) {
+    stage.enter(2);
+    stage.tell("showUpdateOffer", "1.10");
+    EXPECT_FALSE(shown("updateNotice"));
+}
+
 }  // namespace
 }  // namespace fieldcal::testing

@@ -51,10 +51,11 @@ void showViews(ViewsStage& stage, const QString& page) {
         auto* view = stage.window()->findChild<ImageItem*>(name);
         shown ? view->show() : view->hide();
     };
+    const bool introduction = page == "introduction" || page.startsWith("update");
     const bool walkthrough = page == "tutorial", refinement = page.startsWith("refinement");
-    show("introImageView", page == "introduction");
-    show("calibColorView", page != "introduction" && !walkthrough && !refinement);
-    show("calibInfraredView", page != "introduction" && !walkthrough && !refinement);
+    show("introImageView", introduction);
+    show("calibColorView", !introduction && !walkthrough && !refinement);
+    show("calibInfraredView", !introduction && !walkthrough && !refinement);
     show("refinementWalkthroughView", walkthrough);
     show("refinementView", refinement);
 }

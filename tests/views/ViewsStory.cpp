@@ -37,8 +37,18 @@ std::vector<Scene> story() {
              stage.tell("showLastSaveFailed", interfaceText(texts::kLastSaveFailed));
              stage.enter(1);
          }},
+        {"update-offered", [](ViewsStage& stage) { stage.tell("showUpdateOffer", "1.10"); }},
+        {"update-connecting", [](ViewsStage& stage) { stage.press("updateButton"); }},
+        {"update-fetching", [](ViewsStage& stage) { stage.tell("showUpdateProgress", 23.4e6, 61.8e6); }},
+        {"update-interrupted", [](ViewsStage& stage) { stage.tell("showUpdateInterrupted"); }},
+        {"update-starting", [](ViewsStage& stage) { stage.tell("showUpdateStarting"); }},
+        {"update-unsigned",
+         [](ViewsStage& stage) { stage.tell("showUpdateFailed", interfaceText(texts::kUpdateUnsigned), false); }},
+        {"update-failed",
+         [](ViewsStage& stage) { stage.tell("showUpdateFailed", interfaceText(texts::kUpdateNotTrusted), true); }},
         {"sunlight",
          [](ViewsStage& stage) {
+             stage.press("updateCloseButton");
              stage.press("introContinueButton");
              stage.tell("setColorCameraDescriptionText", interfaceText(texts::kFirstCamera));
              stage.tell("setLightingDialogText", interfaceText(texts::kDarkTitle), interfaceText(texts::kDark));

@@ -166,6 +166,12 @@ const drawings = {
         c.lineWidth *= 1.5
         line(c, [28, 66, 72, 14])
     },
+    update: (c, k) => {
+        line(c, [14, 62, 14, 86, 86, 86, 86, 62])
+        accented(c, k)
+        c.lineWidth *= 1.5
+        arrow(c, 50, 12, 50, 68, 16)
+    },
     chevronLeft: (c, k) => { accented(c, k); c.lineWidth *= 2.5; line(c, [62, 20, 34, 50, 62, 80]) },
     chevronRight: (c, k) => { accented(c, k); c.lineWidth *= 2.5; line(c, [38, 20, 66, 50, 38, 80]) },
     arrowRight: (c, k) => pointer(c, k, 0),

@@ -1,0 +1,126 @@
+#include "tests/app/ApplicationRig.h"
+#include "tests/update/DownloadServer.h"
+
+#include <QDir>
+#include <QSemaphore>
+#include <QThread>
+
+namespace fieldcal::testing {
+namespace {
+
+using ::testing::Contains;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+class AnyInstaller : public InstallerStarter {
+public:
+    std::optional<UpdateFailure> obstacle() override { return std::nullopt; }
+    std::optional<UpdateFailure> start(const QString& installer, const QString& /*arguments*/) override {
+        started = QFile::exists(installer);
+        return std::nullopt;
+    }
+    bool started = false;
+};
+
+/// A server outlives applications, and so needs an event loop that is none of theirs.
+class ServerThread : public QThread {
+public:
+    ServerThread() {
+        start();
+        ready_.acquire();
+    }
+    ~ServerThread() override {
+        quit();
+        wait();
+    }
+    QUrl url(const QString& path) const { return QUrl(base_ + path); }
+
+    // Before anything is asked for.
+    QByteArray manifest;
+    bool unending = false;
+
+private:
+    void run() override {
+        DownloadServer server;
+        server.answer = [this](const HttpRequest& request) {
+            if (request.path == "/Version.json") return HttpAnswer{"200 OK", "", manifest};
+            HttpAnswer answer{"200 OK", "", QByteArray(100000, 'x')};
+            answer.silent = unending;
+            answer.announced = unending ? 200000 : -1;
+            return answer;
+        };
+        base_ = server.url("").toString();
+        ready_.release();
+        exec();
+    }
+    QString base_;
+    QSemaphore ready_;
+};
+
+class UpdateTest : public ApplicationTest {
+protected:
+    UpdateTest() { server.manifest = R"({"version":"1.1","url":")" + server.url("/Setup.exe").toEncoded() + "\"}"; }
+    void startAsking() {
+        start({}, [this](ApplicationEnvironment& environment) {
+            environment.update.manifest = server.url("/Version.json");
+            environment.update.running = Version::parse("1.0");
+            environment.update.authorities = {DownloadServer::authority()};
+            environment.update.temporaryFolder = temporary.path();
+            environment.update.starter = starter;
+        });
+    }
+    QStringList onDisk() const { return QDir(temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+
+    ServerThread server;
+    QTemporaryDir temporary;
+    std::shared_ptr<AnyInstaller> starter = std::make_shared<AnyInstaller>();
+};
+
+TEST_F(UpdateTest, TheInstallerIsStartedAndTheProgramEnds) {
+    startAsking();
+    ASSERT_TRUE(waitFor("updateOffer|1.1"));
+    const LogCapture log;
+    runUntilEnd([this] { press("startDownloadingUpdate"); });
+    EXPECT_TRUE(starter->started);
+    EXPECT_THAT(calls(), Contains("updateProgress|100000|100000"));
+    EXPECT_TRUE(wasTold("updateStarting"));
+    EXPECT_TRUE(LogCapture::has("slot_userAskedToExit - cleaning up resources"));
+    EXPECT_EQ(manager->exitCode(), 0);
+    EXPECT_EQ(control.startType, 2U) << "the camera is handed back";
+    EXPECT_EQ(onDisk().size(), 1) << "the installer needs its file";
+}
+
+TEST_F(UpdateTest, LeavingOrGivingUpRemovesWhatThereIs) {
+    server.unending = true;
+    for (const char* way : {"userAskedToExit", "quit"}) {
+        startAsking();
+        ASSERT_TRUE(waitFor("updateOffer|1.1"));
+        for (const char* end : {"abortDownloadingUpdate", way}) {
+            forget();
+            press("startDownloadingUpdate");
+            ASSERT_TRUE(waitUntil([&] { return wasTold("updateProgress|100000|200000"); }));
+            EXPECT_EQ(onDisk().size(), 1);
+            manager->window()->setProperty("latest", QVariantMap());
+            if (end == way) {
+                EXPECT_LT(runUntilEnd([&] { press(end); }), 2000) << way;
+            } else {
+                press(end);
+            }
+            EXPECT_THAT(onDisk(), IsEmpty()) << end;
+        }
+    }
+}
+
+TEST_F(UpdateTest, WithoutAUsableManifestTheProgramGoesOnAsIfNothingHadHappened) {
+    server.manifest = "<html>Please sign in.</html>";
+    const LogCapture log;
+    startAsking();
+    ASSERT_TRUE(waitUntil([&] { return wasTold("state|1"); }));
+    ASSERT_TRUE(
+        waitUntil([&] { return LogCapture::has("No version manifest: the answer is no JSON: illegal value"); }));
+    EXPECT_THAT(calls(), Not(Contains(StartsWith("update"))));
+}
+
+}  // namespace
+}  // namespace fieldcal::testing

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "update/SoftwareUpdate.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace fieldcal::testing {
+
+/// Writes down what it is asked to start.
+class FakeStarter : public InstallerStarter {
+public:
+    std::optional<UpdateFailure> obstacle() override { return obstacleFound; }
+    std::optional<UpdateFailure> start(const QString& installer, const QString& arguments) override {
+        QFile file(installer);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        started = file.readAll();
+        command = QFileInfo(installer).fileName() + ' ' + arguments;
+        others = QFileInfo(QFileInfo(installer).path()).permissions() & (QFile::ReadGroup | QFile::ReadOther);
+        return startFailure;
+    }
+    std::optional<UpdateFailure> obstacleFound, startFailure;
+    QByteArray started;
+    QString command;
+    QFile::Permissions others;
+};
+
+/// The application and its user, who wants every update.
+class Owner : public QObject, public UpdateListener {
+    Q_OBJECT
+public:
+    void updateOffered(const QString& version) override {
+        add("offered " + version.toStdString());
+        update->download();
+    }
+    void updateProgressed(qint64 received, qint64 total) override {
+        share = static_cast<double>(received) / static_cast<double>(total);
+        if (told.back() != "progress") add("progress");
+    }
+    void updateInterrupted() override { add("interrupted"); }
+    void updateReceived() override { add("received"); }
+    void updateFailed(UpdateFailure failure) override {
+        add("failed " + std::to_string(static_cast<int>(failure)));
+        ended = true;
+    }
+    void installerStarted() override {
+        add("started");
+        ended = true;
+    }
+    SoftwareUpdate* update = nullptr;
+    std::vector<std::string> told;
+    double share = 0;
+    bool ended = false;
+
+public slots:
+    void slot_networkReplyLatestVersionJsonFinished(QNetworkReply* reply) { update->manifestReceived(reply); }
+    void slot_timeoutNetworkReplyJson() { update->timedOut(); }
+
+private:
+    void add(const std::string& line) { told.push_back(line); }
+};
+
+}  // namespace fieldcal::testing
