@@ -79,6 +79,8 @@ void GlobalManager::connectSignals() {
     connect(this, &GlobalManager::signal_saveCalibrationText, this, &GlobalManager::slot_saveCalibrationText);
     // At the end of a session the system kills the process right after it has told so, before any destructor.
     connect(this, &QCoreApplication::aboutToQuit, this, &GlobalManager::closeCamera);
+    // However the window was closed, the program is left as by its own button.
+    connect(this, &QGuiApplication::lastWindowClosed, this, &GlobalManager::slot_userAskedToExit);
     DepthColorOverlayRenderer* overlay = views_.refinementView();
     connect(window_, SIGNAL(toggleTutorialAnimation(bool)), this, SLOT(slot_toggleTutorialAnimation(bool)));
     connect(window_, SIGNAL(switchToOOMColorSensor()), this, SLOT(slot_switchToOOMColorSensor()));

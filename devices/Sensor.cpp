@@ -56,7 +56,6 @@ bool Sensor::grab(bool wait) {
 
 bool Sensor::fetchPlatformPicture() {
     if (platformCamera_ == nullptr) return false;
-    if (!std::exchange(firstPictureAwaited_, true)) platformCamera_->awaitFirstFrame(stop_);
     if (!platformCamera_->frameReady()) return false;
     if (!platformPictureWanted_ || platformCalibration_.rectificationTable.empty()) return true;
     platformPicture_.fetch(*platformCamera_, platformCalibration_, library_->rectifyBGRA8ToBGRA8, environment_.now());

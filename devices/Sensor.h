@@ -178,7 +178,6 @@ private:
     std::uint32_t serialNumber_ = 0;
     QString faultText_;
     bool platformPictureWanted_ = true;
-    bool firstPictureAwaited_ = false;
     bool openTried_ = false;
     bool opened_ = false;
     bool faulted_ = false;

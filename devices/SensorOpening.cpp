@@ -78,7 +78,9 @@ bool Sensor::openPlatformCamera() {
         return false;
     }
     platformCamera_ = std::move(rear->camera);
-    return true;
+    // Bounded. Silence is told later, once pictures are missed.
+    platformCamera_->awaitFirstFrame(stop_);
+    return !stopRequested();
 }
 
 bool Sensor::createDevice() {

@@ -98,7 +98,7 @@ bool RotationEstimator::estimateRotationByVoting(const MatchGrid& grid, int supp
     estimateFrom(0);
     odd.get();
     *anglesRad = unsetAngles();
-    if (stop_ != nullptr && stop_->load()) return false;
+    if (stopped()) return false;
     for (const Round& round : rounds)
         votes_.add(round.anglesRad, round.score, round.error, round.weight);
 

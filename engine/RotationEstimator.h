@@ -38,6 +38,7 @@ public:
     void setup(const RotationSearch& search);
     /// When the flag becomes true the estimation ends early, without a solution. May be null.
     void setStopFlag(const std::atomic<bool>* stop) { stop_ = stop; }
+    bool stopped() const { return stop_ != nullptr && *stop_; }
 
     /// True when the best cluster has at least `supportCount` votes. `anglesRad` are its angles, NaN without one.
     bool estimateRotationByVoting(const MatchGrid& grid, int supportCount, Eigen::Vector3d* anglesRad);

@@ -75,6 +75,7 @@ bool SensorCalibrator::prepare(const ImagePairRecord& infrared, const ImagePairR
         matcher_.statistics() = {};
         return false;
     }
+    if (estimator_.stopped()) return frameUsable_ = false;
     matcher_.prepare(asMatrix(infrared, CV_16UC1), asMatrix(colour, CV_8UC4), parameters_.infraredConversionMode);
     return true;
 }
@@ -85,10 +86,12 @@ void SensorCalibrator::generateMatches(bool keep, MatchLists* beforeVerification
     matches_.colour.clear();
     matches_.infrared.clear();
     grid_.beginPair();
+    frameUsable_ = frameUsable_ && !estimator_.stopped();
     if (frameUsable_) matcher_.findCrossModalMatches(&matches_.colour, &matches_.infrared);
     logMessage(kInfo, tag, "number of matches: rgb = %d, ir = %d", size(matches_.colour), size(matches_.infrared));
     if (keep && beforeVerification != nullptr) *beforeVerification = matches_;
 
+    if (estimator_.stopped()) matches_ = {};
     Stopwatch watch;
     verifyMatches(matcher_.grey(), matcher_.infrared(), &matches_.colour, &matches_.infrared);
     matcher_.statistics().verificationSeconds = watch.lap();

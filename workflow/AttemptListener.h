@@ -22,7 +22,7 @@ public:
     virtual void returnToWellLitArea(bool /*needed*/) {}
     /// A pair is being taken.
     virtual void pairCaptured() {}
-    /// Its pictures, told after `pairCaptured`. Valid during the call.
+    /// What is seen at that moment, told after `pairCaptured`. Valid during the call.
     virtual void pairPictures(const ImageFrame16& /*infrared*/, const ImageFrame32& /*colour*/) {}
     /// A pair has been matched, and a calibration tried with it.
     virtual void pairProcessed(const vq::CalibratorResult&) {}

@@ -158,6 +158,7 @@ void Workflow::detectLighting() {
 
 void Workflow::resetCalibration(const Snapshot& now) {
     engine_.resetState();
+    listener_.startText({});  // after whatever the attempt that was given up has told
     advance(now, State::WaitingToCalibrate);
 }
 

@@ -47,8 +47,12 @@ QtObject {
     // Its page comes between the capture and what the application shows next.
     readonly property bool foundShown: state === states.found
                                        || ((state === states.tutorial || state === states.refining) && !foundRead)
-    readonly property bool somethingToLose: !saving && notice === ""
-        && (secondCamera || state >= states.found || (state >= states.starting && photoCount > 0))
+    readonly property bool somethingToLose: firstCameraStorable || (!saving && notice === ""
+        && (secondCamera || state >= states.found || (state >= states.starting && photoCount > 0)))
+    // What was accepted for the first camera, while the second one is not finished. In the second one's refinement
+    // storing would accept that, too.
+    readonly property bool firstCameraStorable: secondCamera && !saving && state !== states.refining
+                                                && (notice === "" || notice === "platformCameraIssuePage")
 
     // Nobody who has begun is interrupted by an offer.
     readonly property bool updateShown: !saving && (updatePhase === "offered" ? state <= states.introduction

@@ -15,6 +15,8 @@ Item {
     signal left()
     signal updateWanted()
     signal updateGivenUp()
+    signal firstCameraAccepted()  // only what the first camera's refinement left is to be stored
+    signal stayed()
 
     readonly property var states: status.states
     readonly property int step: status.state
@@ -25,6 +27,13 @@ Item {
 
     function confirmPhoto() { capture.confirmPhoto() }
     function askToLeave() { leaveQuestion.visible = true }
+    Connections {
+        target: pages.status
+        function onNoticeChanged() {  // nothing may lie on top of it
+            howToMove.visible = false
+            leaveQuestion.visible = false
+        }
+    }
     function leave() {
         if (status.somethingToLose) askToLeave()
         else left()
@@ -43,11 +52,13 @@ Item {
     }
     Shortcut {
         sequences: ["Return", "Enter"]
+        autoRepeat: false  // one key that is held must not walk through the pages
         enabled: !pages.status.saving
         onActivated: pages.pressMainButton()
     }
     Shortcut {
         sequence: "Escape"
+        autoRepeat: false
         enabled: !pages.status.saving
         onActivated: pages.goBack()
     }
@@ -159,8 +170,13 @@ Item {
             title: qsTr("The rear camera delivers no picture.")
             steps: [qsTr("Close every other program that uses the rear camera."),
                     qsTr("Make sure that nothing covers the camera."),
-                    qsTr("Start the calibration again. What was found so far is not stored.")]
-            onLeft: pages.left()
+                    pages.status.firstCameraStorable
+                    ? qsTr("Start the calibration again. The first camera's calibration can be stored when you leave.")
+                    : qsTr("Start the calibration again. What was found so far is not stored.")]
+            onLeft: {
+                if (pages.status.firstCameraStorable) pages.askToLeave()
+                else pages.left()
+            }
         }
         TouchButton {
             id: exitButton
@@ -174,7 +190,17 @@ Item {
         }
     }
     HowToMove { id: howToMove; anchors.fill: parent }
-    LeaveQuestion { id: leaveQuestion; anchors.fill: parent; onLeft: pages.left() }
+    LeaveQuestion {
+        id: leaveQuestion
+        anchors.fill: parent
+        firstCameraStorable: pages.status.firstCameraStorable
+        onLeft: pages.left()
+        onFirstCameraAccepted: {
+            visible = false
+            pages.firstCameraAccepted()
+        }
+        onVisibleChanged: if (!visible) pages.stayed()
+    }
     UpdateNotice {
         id: updateNotice
         anchors.fill: parent

@@ -65,6 +65,7 @@ Item {
                 pictures.touchDown(mouse.x, mouse.y)
             }
             onReleased: pictures.touchUp(mouse.x, mouse.y)
+            onCanceled: pictures.touchUp(toldX, 0)  // by the system, or by a page that came meanwhile
             onMouseXChanged: {
                 const x = Math.round(mouseX)
                 if (!pressed || x === toldX) return

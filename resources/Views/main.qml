@@ -10,7 +10,8 @@ Window {
     width: Screen.width
     height: Screen.height
     visible: true
-    visibility: Window.Maximized
+    visibility: Window.FullScreen
+    property bool _q_has_border_in_fullscreen: true  // on Windows nothing else would be seen above, no message either
     color: Theme.ground
     title: "Field Calibrator"
 
@@ -90,11 +91,18 @@ Window {
             switchToOOMColorSensor()
             goTo(_state_StartingCalibration)
         } else {
-            status.saving = true
-            saveSoon.start()
+            store()
         }
     }
+    function store() {
+        status.saving = true
+        saveSoon.start()
+    }
     onClosing: {
+        if (saveSoon.running) {
+            saveSoon.stop()
+            root.quit()
+        }
         if (askedBeforeClosing || !status.somethingToLose) return
         askedBeforeClosing = true
         close.accepted = false
@@ -139,5 +147,7 @@ Window {
         onLeft: root.userAskedToExit()
         onUpdateWanted: { status.fetchUpdate(); root.startDownloadingUpdate() }
         onUpdateGivenUp: { status.updatePhase = ""; root.abortDownloadingUpdate() }
+        onFirstCameraAccepted: root.store()
+        onStayed: root.askedBeforeClosing = false
     }
 }

@@ -15,6 +15,7 @@ struct FakeRearCamera {
     std::vector<std::string> calls;
     RearCameraSink* sink = nullptr;
     std::int32_t firstPictureMs = 0;
+    std::function<void()> onAwaited = [] {};  ///< its first picture is being waited for
 
     bool call(const std::string& record) {
         calls.push_back(record);
@@ -45,7 +46,10 @@ public:
         return camera_.call(record);
     }
     void setSink(RearCameraSink* sink) override { camera_.sink = sink; }
-    std::int32_t firstPictureMs() const override { return camera_.firstPictureMs; }
+    std::int32_t firstPictureMs() const override {
+        camera_.onAwaited();
+        return camera_.firstPictureMs;
+    }
 
 private:
     FakeRearCamera& camera_;

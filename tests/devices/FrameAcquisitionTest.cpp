@@ -149,21 +149,25 @@ TEST_F(FrameAcquisitionTest, ASilentStartOfTheRearCameraIsReportedEveryTime) {
 
 TEST_F(FrameAcquisitionTest, ARearCameraThatTakesTimeToStartIsAwaitedOnce) {
     rearCamera.firstPictureMs = 60000;
+    std::thread camera;
+    rearCamera.onAwaited = [&] {
+        camera = std::thread([this] {
+            std::this_thread::sleep_for(milliseconds(30));
+            deliverRed();
+        });
+    };
     openAndRead(applicationSettings());
-    std::thread camera([this] {
-        std::this_thread::sleep_for(milliseconds(30));
-        deliverRed();
-    });
-    EXPECT_TRUE(sensor->grab(true));
+    ASSERT_TRUE(camera.joinable());
     camera.join();
+    EXPECT_TRUE(sensor->grab(true));
     EXPECT_FALSE(rearPixel().empty());
+    EXPECT_THAT(emitted, IsEmpty());
 
     renew();
     std::atomic<bool> stop{false};
     sensor->setStopFlag(&stop);
-    openAndRead(applicationSettings());
-    stop = true;
-    EXPECT_FALSE(sensor->grab(true)) << "leaving does not wait for the camera";
+    rearCamera.onAwaited = [&] { stop = true; };
+    EXPECT_FALSE(sensor->open(applicationSettings())) << "leaving does not wait for the camera";
     EXPECT_THAT(emitted, IsEmpty());
     sensor.reset();
 }

@@ -70,7 +70,29 @@ TEST_F(ActionsTest, AWindowThatIsClosedAsksOnce) {
     takePhoto();
     EXPECT_FALSE(stage.window()->close());
     EXPECT_TRUE(shown("leaveQuestion"));
+    pressReturn();  // stays, and is asked again the next time
+    EXPECT_FALSE(stage.window()->close());
+    EXPECT_TRUE(shown("leaveQuestion"));
     EXPECT_TRUE(stage.window()->close());
+}
+
+TEST_F(ActionsTest, TheFirstCamerasCalibrationCanBeStoredWithoutTheSecond) {
+    const auto enterSecond = [this] {
+        stage.enter(10);
+        stage.press("foundContinueButton");
+        stage.press("refinementContinueButton");
+    };
+    enterSecond();
+    stage.press("exitButton");
+    EXPECT_TRUE(shown("storeFirstCameraButton"));
+    stage.tell("displayPlatformCameraIssue");
+    EXPECT_FALSE(shown("leaveQuestion")) << "nothing lies on top of a notice";
+    QMetaObject::invokeMethod(stage.find("platformCameraIssuePage"), "left");
+    EXPECT_TRUE(exits.isEmpty());
+    stage.press("storeFirstCameraButton");
+    EXPECT_TRUE(shown("savingPage"));
+    EXPECT_TRUE(quits.wait());
+    EXPECT_TRUE(exits.isEmpty());
 }
 
 TEST_F(ActionsTest, WhatWasFoundComesBeforeTheTutorialAndTheRefinement) {

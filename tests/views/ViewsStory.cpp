@@ -108,8 +108,10 @@ std::vector<Scene> story() {
              takePhotos(stage, 5);
              stage.tell("showMovementText", interfaceText("Pause to capture a calibration photo."));
          }},
+        {"leave-question-second", [](ViewsStage& stage) { stage.press("exitButton"); }},
         {"refinement-second",
          [](ViewsStage& stage) {
+             stage.press("stayButton");
              stage.tell("showSaveCalibrationText", interfaceText(texts::kRefineSecond));
              found(stage);
              stage.enter(10);

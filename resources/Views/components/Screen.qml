@@ -13,6 +13,7 @@ Item {
     anchors.fill: parent
     visible: shown
     opacity: 0
+    enabled: opacity === 1  // a second tap still belongs to the page before
     onVisibleChanged: opacity = visible ? 1 : 0
     Behavior on opacity {
         enabled: visible && softly

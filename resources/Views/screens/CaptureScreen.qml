@@ -89,9 +89,9 @@ PairPage {
             Layout.fillHeight: true
             spacing: Theme.gap
             TouchButton {
-                objectName: "captureHowToMoveButton"
-                text: qsTr("How to move")
-                onClicked: screen.howToMoveWanted()
+                objectName: "captureRestartButton"
+                text: qsTr("Restart")
+                onClicked: screen.restarted()
             }
             PhotoRow {
                 Layout.fillWidth: true
@@ -100,9 +100,9 @@ PairPage {
                 sources: screen.status.photos
             }
             TouchButton {
-                objectName: "captureRestartButton"
-                text: qsTr("Restart")
-                onClicked: screen.restarted()
+                objectName: "captureHowToMoveButton"
+                text: qsTr("How to move")
+                onClicked: screen.howToMoveWanted()
             }
         }
     }

@@ -7,7 +7,9 @@ import "../theme"
 Rectangle {
     id: question
     property Item mainButton: stayButton
+    property bool firstCameraStorable: false
     signal left()
+    signal firstCameraAccepted()
 
     objectName: "leaveQuestion"
     visible: false
@@ -38,6 +40,15 @@ Rectangle {
                     Layout.preferredHeight: Theme.bigTarget
                     text: qsTr("Leave")
                     onClicked: question.left()
+                }
+                TouchButton {
+                    objectName: "storeFirstCameraButton"
+                    visible: question.firstCameraStorable
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    Layout.preferredHeight: Theme.bigTarget
+                    text: qsTr("Store first camera")
+                    onClicked: question.firstCameraAccepted()
                 }
                 TouchButton {
                     id: stayButton
