@@ -12,6 +12,8 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kStopCheck{20};
 constexpr std::chrono::milliseconds kGraceAfterStop{333};
+/// What one check may count at most: a tablet that slept in between has not waited.
+constexpr std::chrono::milliseconds kLongestCheck{500};
 
 }  // namespace
 
@@ -35,8 +37,8 @@ struct WatchedCalls::Worker {
         }
     }
 
-    bool returnedBy(Clock::time_point time, std::unique_lock<std::mutex>* lock) {
-        return changed.wait_until(*lock, time, [&] { return call == nullptr; });
+    bool returnedWithin(Clock::duration time, std::unique_lock<std::mutex>* lock) {
+        return changed.wait_for(*lock, time, [&] { return call == nullptr; });
     }
 };
 
@@ -63,14 +65,17 @@ WatchedCalls::Ending WatchedCalls::run(std::function<void()> call, std::chrono::
     worker_->call = std::move(call);
     worker_->changed.notify_all();
 
-    Clock::time_point end = Clock::now() + limit;
+    Clock::duration left = limit;
+    Clock::time_point last = Clock::now();
     bool stopped = false;
-    while (!worker_->returnedBy(std::min(end, Clock::now() + kStopCheck), &lock)) {
+    while (!worker_->returnedWithin(std::min<Clock::duration>(left, kStopCheck), &lock)) {
+        const Clock::time_point now = Clock::now();
+        left -= std::min<Clock::duration>(now - std::exchange(last, now), kLongestCheck);
         if (!stopped && stop != nullptr && *stop) {
             stopped = true;
-            end = std::min(end, Clock::now() + kGraceAfterStop);
+            left = std::min<Clock::duration>(left, kGraceAfterStop);
         }
-        if (Clock::now() < end) continue;
+        if (left > Clock::duration::zero()) continue;
         givenUp_ = true;
         worker_->leave = true;
         worker_->thread.detach();
