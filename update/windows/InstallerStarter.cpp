@@ -12,6 +12,8 @@
 namespace fieldcal {
 namespace {
 
+constexpr DWORD kElevationRequired = 740;  // MinGW's headers have no name for it
+
 /// A file that nobody can write, rename or remove while this lives.
 class HeldFile {
 public:
@@ -101,7 +103,7 @@ private:
     }
     static std::optional<UpdateFailure> run(const std::wstring& path, const std::wstring& arguments) {
         DWORD error = createProcess(path, arguments);
-        if (error == ERROR_ELEVATION_REQUIRED) error = createElevatedProcess(path, arguments);
+        if (error == kElevationRequired) error = createElevatedProcess(path, arguments);
         if (error == ERROR_SUCCESS) return std::nullopt;
         qInfo("The installer could not be started: %lu", error);
         return UpdateFailure::NotStarted;
