@@ -74,7 +74,7 @@ QUrl DownloadServer::url(const QString& path, const QString& scheme) const {
 void DownloadServer::incomingConnection(qintptr handle) {
     auto* socket = new QSslSocket(this);
     socket->setSocketDescriptor(handle);
-    socket->setLocalCertificate(QSslCertificate(contents("server.pem")));
+    socket->setLocalCertificateChain({QSslCertificate(contents("server.pem")), authority()});
     socket->setPrivateKey(QSslKey(contents("server-key.pem"), QSsl::Rsa));
     ++openConnections;
     connect(socket, &QSslSocket::disconnected, this, [this] { --openConnections; });

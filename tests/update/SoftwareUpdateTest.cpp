@@ -15,7 +15,6 @@
 namespace fieldcal::testing {
 namespace {
 
-using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
@@ -411,14 +410,6 @@ TEST_F(SoftwareUpdateTest, WithoutAnAddressNothingIsAskedAndNothingIsSaid) {
     EXPECT_THAT(LogCapture::lines(), ElementsAre("No update was offered."));
     EXPECT_TRUE(owner.findChildren<QObject*>().isEmpty());
     EXPECT_THAT(owner.told, IsEmpty());
-}
-
-TEST(InstallerStarterTest, AProgramWithoutASignatureStartsNothing) {
-    const auto starter = systemInstallerStarter();
-    const LogCapture log;
-    EXPECT_TRUE(starter->obstacle());
-    EXPECT_TRUE(starter->start(QString(), QString()));
-    EXPECT_GE(LogCapture::lines().size(), 2U);
 }
 
 }  // namespace

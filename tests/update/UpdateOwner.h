@@ -32,6 +32,10 @@ public:
 /// The application and its user, who wants every update.
 class Owner : public QObject, public UpdateListener {
     Q_OBJECT
+public slots:
+    void slot_networkReplyLatestVersionJsonFinished(QNetworkReply* reply) { update->manifestReceived(reply); }
+    void slot_timeoutNetworkReplyJson() { update->timedOut(); }
+
 public:
     void updateOffered(const QString& version) override {
         add("offered " + version.toStdString());
@@ -55,10 +59,6 @@ public:
     std::vector<std::string> told;
     double share = 0;
     bool ended = false;
-
-public slots:
-    void slot_networkReplyLatestVersionJsonFinished(QNetworkReply* reply) { update->manifestReceived(reply); }
-    void slot_timeoutNetworkReplyJson() { update->timedOut(); }
 
 private:
     void add(const std::string& line) { told.push_back(line); }
