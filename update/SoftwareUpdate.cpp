@@ -18,7 +18,10 @@ constexpr int kSeenMs = 100;  // lets it be seen that the installer starts, befo
 }  // namespace
 
 SoftwareUpdate::SoftwareUpdate(UpdateEnvironment environment, UpdateListener& listener)
-    : environment_(std::move(environment)), listener_(listener) {}
+    : environment_(std::move(environment)), listener_(listener) {
+    seen_.setSingleShot(true);
+    connect(&seen_, &QTimer::timeout, this, &SoftwareUpdate::startInstaller);
+}
 
 void SoftwareUpdate::start(QObject* owner) {
     if (environment_.manifest.isEmpty()) return;
@@ -103,6 +106,7 @@ void SoftwareUpdate::download() {
 
 void SoftwareUpdate::abort() {
     if (download_ != nullptr) qInfo("The update was given up by the user.");
+    seen_.stop();
     download_.reset();
 }
 
@@ -121,7 +125,7 @@ void SoftwareUpdate::downloadEnded(std::optional<UpdateFailure> failure) {
         return;
     }
     listener_.updateReceived();
-    QTimer::singleShot(kSeenMs, download_.get(), [this] { startInstaller(); });
+    seen_.start(kSeenMs);
 }
 
 void SoftwareUpdate::startInstaller() {
@@ -141,6 +145,7 @@ void SoftwareUpdate::release() {
     if (network_ != nullptr) network_->disconnect();
     delete network_;
     delete reply_;
+    seen_.stop();
     download_.reset();
     delete timeout_;
 }

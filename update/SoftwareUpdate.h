@@ -6,13 +6,13 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 
 #include <memory>
 #include <optional>
 
 class QNetworkAccessManager;
 class QNetworkReply;
-class QTimer;
 
 namespace fieldcal {
 
@@ -57,6 +57,7 @@ private:
     QPointer<QTimer> timeout_;
     std::optional<Manifest> offered_;
     std::unique_ptr<InstallerDownload> download_;
+    QTimer seen_;  ///< from the end of the download to the installer's start
 };
 
 }  // namespace fieldcal

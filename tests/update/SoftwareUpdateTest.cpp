@@ -133,7 +133,9 @@ protected:
             if (condition()) loop.quit();
         });
         poll.start(2);
-        QTimer::singleShot(20000, &loop, &QEventLoop::quit);
+        QTimer patience;
+        QObject::connect(&patience, &QTimer::timeout, &loop, &QEventLoop::quit);
+        patience.start(20000);
         loop.exec();
         return condition();
     }
