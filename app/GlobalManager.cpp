@@ -14,6 +14,7 @@
 // Resources in a static library are left out unless somebody asks for them; outside of any namespace.
 static void initResources() {
     Q_INIT_RESOURCE(Pictures);
+    Q_INIT_RESOURCE(Translations);
     Q_INIT_RESOURCE(Views);
 }
 

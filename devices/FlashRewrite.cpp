@@ -9,6 +9,9 @@ namespace {
 
 using Flash = WriteBackReport::Flash;
 
+constexpr const char* kNotKept =
+    QT_TRANSLATE_NOOP("Interface", "The camera said that it stored the calibration, but it did not");
+
 }  // namespace
 
 QString flashText(const WriteBackReport& report) {
@@ -97,8 +100,8 @@ void FlashRewrite::readQuietly() {
 /// All calls have succeeded; whether the block is there is another matter.
 bool FlashRewrite::keeps() {
     if (report_.flash == Flash::Written) return true;
-    report_.reason = "The camera said that it stored the calibration, but it did not";
-    sensor_.reportFault(report_.reason);
+    report_.reason = kNotKept;
+    sensor_.reportFault(kNotKept);
     return false;
 }
 

@@ -2,6 +2,8 @@
 
 #include "devices/StatusCheck.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace fieldcal {
@@ -103,7 +105,7 @@ bool Sensor::ask(std::function<bool()> call) {
     const auto succeeded = std::make_shared<bool>(false);
     const auto ending = watch([device = device_, call = std::move(call), succeeded] { *succeeded = call(); });
     if (ending == WatchedCalls::Ending::Returned) return checkStatus(*succeeded);
-    if (ending == WatchedCalls::Ending::Overdue) reportFault("The camera does not answer");
+    if (ending == WatchedCalls::Ending::Overdue) reportNoAnswer();
     return false;
 }
 
@@ -120,6 +122,14 @@ void Sensor::reportInvalidCalibration() {
 
 QString Sensor::statusString(std::int32_t status) const {
     return library_ != nullptr ? QString::fromUtf8(library_->statusString(status)) : QString();
+}
+
+void Sensor::reportNoAnswer() {
+    reportFault(QT_TRANSLATE_NOOP("Interface", "The camera does not answer"));
+}
+
+void Sensor::reportFault(const char* what) {
+    reportFault(KX_STATUS_OK, QCoreApplication::translate("Interface", what));
 }
 
 void Sensor::reportFault(std::int32_t status, const QString& libraryText) {

@@ -104,7 +104,8 @@ public:
     }
 
     /// Reports a fault that no status tells of: "what - An unknown error has occured."
-    void reportFault(const QString& what) { reportFault(KX_STATUS_OK, what); }
+    /// `what`: English, marked for translation in the context "Interface".
+    void reportFault(const char* what);
 
     /// Reports, once, that the module has no valid calibration.
     void reportInvalidCalibration();
@@ -148,6 +149,7 @@ private:
     bool switchEmitter(KXEmitterControl* emitter, bool on);
     bool fetchPlatformPicture();
     void reportFault(std::int32_t status, const QString& libraryText);
+    void reportNoAnswer();
     QString statusString(std::int32_t status) const;
     bool mayWrite();
     bool refuseToWrite(const QString& reason);

@@ -86,7 +86,7 @@ bool Sensor::openPlatformCamera() {
 bool Sensor::createDevice() {
     const auto created = std::make_shared<KXDevice*>(nullptr);
     const auto ending = watch([library = library_, created] { *created = library->create(0); });
-    if (ending == WatchedCalls::Ending::Overdue) reportFault("The camera does not answer");
+    if (ending == WatchedCalls::Ending::Overdue) reportNoAnswer();
     if (ending != WatchedCalls::Ending::Returned) return false;
     KXDevice* device = *created;
     if (device == nullptr) {

@@ -6,7 +6,7 @@
 
 namespace fieldcal {
 
-/// What the user is told about a failed call of the camera library.
+/// What the user is told, in the language of the interface, about a failed call of the camera library.
 struct StatusNotice {
     bool missingDevice = false;  ///< the missing-camera notice; `text` is empty then
     QString text;                ///< "library's text - message"

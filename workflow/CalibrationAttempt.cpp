@@ -5,9 +5,13 @@
 namespace fieldcal {
 namespace {
 
+constexpr const char* kMoveText =
+    QT_TRANSLATE_NOOP("Interface", "Move the device to capture a different calibration photo.");
+constexpr const char* kPauseText = QT_TRANSLATE_NOOP("Interface", "Pause to capture a calibration photo.");
 constexpr const char* kTooSimpleText =
-    "Calibration isn't working because the scenery in these photos is too simple.\n"
-    "Let's try again. Point at interesting scenery like buildings or trees.";
+    QT_TRANSLATE_NOOP("Interface",
+                      "Calibration isn't working because the scenery in these photos is too simple.\n"
+                      "Let's try again. Point at interesting scenery like buildings or trees.");
 
 }  // namespace
 
@@ -40,10 +44,10 @@ CalibrationAttempt::Outcome CalibrationAttempt::processFrame(const ImageFrame16&
     }
     switch (calibrator_.inputFramesAndCheckMovement(infrared, colour).code) {
         case vq::RotateDevice:
-            listener_.movementText("Move the device to capture a different calibration photo.");
+            listener_.movementText(kMoveText);
             break;
         case vq::RemainStill:
-            listener_.movementText("Pause to capture a calibration photo.");
+            listener_.movementText(kPauseText);
             break;
         case vq::ProcessImagePair:
             return addPair(infrared, colour);

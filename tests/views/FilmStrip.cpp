@@ -1,7 +1,9 @@
 // A picture of every page of the interface, with pictures of a recording in its views and nobody behind it.
-//   film-strip RECORDING FOLDER [WIDTHxHEIGHT] [rtl]        (on an X display)
+//   film-strip RECORDING FOLDER [WIDTHxHEIGHT] [rtl | LANGUAGE]     (on an X display)
+// LANGUAGE: a name of resources/Files, as Chinese_Taiwan; "rtl": English in the other direction.
 #include "render/FixedFunctionGl.h"
 #include "session/RecordedSession.h"
+#include "tests/views/InterfaceLanguages.h"
 #include "tests/views/ViewsStory.h"
 
 #include <QDir>
@@ -91,7 +93,10 @@ bool shootAll(const std::vector<Scene>& scenes, Strip* strip) {
 
 int run(const QStringList& arguments) {
     const QStringList size = arguments.value(3, "1280x800").split('x');
-    Strip strip{arguments[1], arguments[2], {size.value(0).toInt(), size.value(1).toInt()}, !arguments.contains("rtl")};
+    const QString language = arguments.value(4, "English");
+    QTranslator translator;
+    const bool leftToRight = language != "rtl" && speak(language, &translator);
+    Strip strip{arguments[1], arguments[2], {size.value(0).toInt(), size.value(1).toInt()}, leftToRight};
     QDir().mkpath(strip.folder);
     qputenv("STORY_PICTURES", strip.recording.toLocal8Bit());
     if (!shootAll(story(), &strip)) return 1;
@@ -108,7 +113,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     const QGuiApplication application(argc, argv);
     if (QCoreApplication::arguments().size() < 3) {
-        std::fprintf(stderr, "usage: film-strip RECORDING FOLDER [WIDTHxHEIGHT] [rtl]\n");
+        std::fprintf(stderr, "usage: film-strip RECORDING FOLDER [WIDTHxHEIGHT] [rtl | LANGUAGE]\n");
         return 2;
     }
     return fieldcal::testing::run(QCoreApplication::arguments());

@@ -1,3 +1,4 @@
+#include "tests/views/InterfaceLanguages.h"
 #include "tests/views/ViewsStory.h"
 
 #include <QGuiApplication>
@@ -25,14 +26,24 @@ public:
 struct Look {
     QSize size;
     bool leftToRight;
+    const char* language = nullptr;  ///< none: English, made longer
 };
 void PrintTo(const Look& look, std::ostream* out) {
     *out << look.size.width() << 'x' << look.size.height() << (look.leftToRight ? "" : " right to left");
+    if (look.language != nullptr) *out << ' ' << look.language;
 }
 
 class FitTest : public ::testing::TestWithParam<Look> {
 protected:
-    FitTest() { QCoreApplication::installTranslator(&longWinded_); }
+    FitTest() : leftToRight_(GetParam().leftToRight) {
+        if (GetParam().language == nullptr) {
+            QCoreApplication::installTranslator(&longWinded_);
+        } else {
+            leftToRight_ = speak(GetParam().language, &translator_);
+            EXPECT_TRUE(translator_.filePath().endsWith(GetParam().language + QString(".qm")));
+        }
+    }
+    ~FitTest() override { QLocale::setDefault(QLocale::c()); }
 
     /// What a person sees of the page: no text and no button that is cut off, too small or under another.
     static void check(ViewsStage& stage, const char* name) {
@@ -53,6 +64,8 @@ protected:
             for (const QQuickItem* other : buttons)
                 EXPECT_TRUE(one == other || !seen(one).intersects(seen(other))) << nameOf(one) << ", " << nameOf(other);
     }
+
+    bool leftToRight_;
 
 private:
     static QRectF seen(const QQuickItem* item) { return item->mapRectToScene({0, 0, item->width(), item->height()}); }
@@ -81,13 +94,14 @@ private:
     }
 
     LongWinded longWinded_;
+    QTranslator translator_;
 };
 
 TEST_P(FitTest, NothingIsCutOffOnAnyPage) {
     ViewsStage stage;
     ASSERT_NE(stage.window(), nullptr) << stage.problem().toStdString();
     stage.resize(GetParam().size);
-    stage.tell("setLeftToRightLanguage", GetParam().leftToRight);
+    stage.tell("setLeftToRightLanguage", leftToRight_);
     for (const Scene& scene : story()) {
         scene.enter(stage);
         check(stage, scene.name);
@@ -95,7 +109,7 @@ TEST_P(FitTest, NothingIsCutOffOnAnyPage) {
     for (const Scene& ending : endings()) {
         ViewsStage last;
         last.resize(GetParam().size);
-        last.tell("setLeftToRightLanguage", GetParam().leftToRight);
+        last.tell("setLeftToRightLanguage", leftToRight_);
         ending.enter(last);
         check(last, ending.name);
     }
@@ -105,6 +119,16 @@ TEST_P(FitTest, NothingIsCutOffOnAnyPage) {
 INSTANTIATE_TEST_SUITE_P(Looks, FitTest,
                          ::testing::Values(Look{{1024, 600}, true}, Look{{1024, 600}, false}, Look{{1368, 912}, true},
                                            Look{{2736, 1824}, true}, Look{{2736, 1824}, false}));
+
+std::vector<Look> inEveryLanguage() {
+    std::vector<Look> looks;
+    for (const char* language : kInterfaceLanguages)
+        looks.push_back({{1024, 600}, true, language});
+    for (const char* language : {"German", "Greek", "Japanese", "Thai", "Arabic"})
+        looks.push_back({{1280, 800}, true, language});
+    return looks;
+}
+INSTANTIATE_TEST_SUITE_P(Languages, FitTest, ::testing::ValuesIn(inEveryLanguage()));
 
 double luminance(const QColor& colour) {
     const auto linear = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };

@@ -21,7 +21,10 @@ QtObject {
     readonly property color flash: "#ffffff"
     readonly property real veil: 0.88  // of panels over a picture
 
-    readonly property string family: Qt.platform.os === "windows" ? "Segoe UI" : Qt.application.font.family
+    // What a language is written in on Windows is told by its translation; elsewhere the desktop knows the language.
+    //: The font that Windows uses for this language.
+    readonly property string windowsFamily: qsTr("Segoe UI")
+    readonly property string family: Qt.platform.os === "windows" ? windowsFamily : Qt.application.font.family
     readonly property int instructionSize: size(42, 20)
     readonly property int headingSize: size(34, 18)
     readonly property int bodySize: size(23, 14)

@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>第 %1 张照片已拍摄。</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>如何移动</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>重新开始</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>已得到新的校准结果。</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>与已存储的校准相比，彩色摄像头转动了 %1：</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>向右</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>向左</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>向上</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>向下</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>顺时针倾斜</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>逆时针倾斜</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>接下来请对照画面检查。只有在您接受后才会存储。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>如何移动</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>请对准远处的物体。
+建筑物和树木较为理想。草地、天空和光秃的墙面过于单调。画面中不应有近处的物体。</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>请转向另一个方向。
+将平板电脑稍微向侧面、向上或向下转动，使细节出现在画面的其他位置。</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>请停住，直到屏幕闪烁。
+保持平板电脑静止片刻。照片会自动拍摄。然后再次转动。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一步</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>请停住以拍摄校准照片。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>需要阳光</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>阳光不足。
+请移到室外阳光充足的明亮处。</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>阳光充足</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>此处足够明亮！
+请按“继续”。</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>彩色摄像头</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>第一个彩色摄像头</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>第二个彩色摄像头</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>请将彩色的深度图像与彩色图像对齐。
+按“继续”接受彩色摄像头的校准，或按“重新开始”从头再来。</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>请将彩色的深度图像与彩色图像对齐。
+按“继续”接受第一个彩色摄像头的校准，或按“重新开始”从头再来。</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>请将彩色的深度图像与彩色图像对齐。
+按“继续”接受第二个彩色摄像头的校准，或按“重新开始”从头再来。</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>校准已存储到摄像头中。</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>上次的校准未存储到摄像头中。
+请重新校准。</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>请移动设备以拍摄另一张校准照片。</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>由于照片中的景物过于单调，无法完成校准。
+请重试。请对准建筑物或树木等细节丰富的景物。</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>摄像头报告已存储校准，但实际并未存储</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>摄像头没有响应</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>KXAPI 调用失败。</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>设备尚未校准或校准数据无效。</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Tarnex Deepvane 摄像头发生严重问题。</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>继续之前，请关闭所有 Tarnex Deepvane 应用程序和网页浏览器。</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>您的 Tarnex Deepvane 摄像头需要更新固件后才能运行此应用程序。请更新固件，然后重新运行此应用程序。</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>发生未知错误。</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>摄像头校准</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>请到室外明亮的阳光下。</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>对准远处的建筑物或树木。移动、停住，最多会自动拍摄八张照片。</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>用一根手指检查结果，并将其存储到摄像头中。</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>大约需要三分钟。</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>两个摄像头大约需要五分钟。</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>不存储就离开吗？
+照片和目前的结果将会丢失。摄像头保留原有的校准。</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>离开</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>留下</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>请回到光线充足的地方。
+之后会自动继续。已拍摄的照片仍然有效。</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>光线</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>达到标记处即光线充足</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>退出</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>正在打开摄像头…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>平板电脑开机后，这可能需要半分钟。</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>摄像头尚未响应。请关闭使用它的其他程序，或按“退出”后重新启动。</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>未找到深度摄像头。</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>请关闭使用摄像头的所有其他程序。</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>请关闭平板电脑，然后重新打开。</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>请重新启动校准。如果仍找不到摄像头，则平板电脑需要维修。</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>未找到后置摄像头。</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>请在系统的隐私设置中检查是否允许程序使用摄像头。</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>请在设备管理器中检查后置摄像头是否已启用。</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>请重新启动校准。</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>后置摄像头没有图像。</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>请关闭使用后置摄像头的所有其他程序。</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>请确保没有物体遮挡摄像头。</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>请重新启动校准。目前的结果尚未存储。</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>退出</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>画面中的深度信息太少。请对准几米外的物体。</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>已存储的校准</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>重新开始</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>按住以比较</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>正在将校准存储到摄像头…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>程序将自动关闭。</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>请稍候，不要关闭平板电脑。</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>已准备好拍摄照片。
+请在明亮的阳光下对准远处的建筑物或树木。</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>如何移动</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Microsoft YaHei UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>示例</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>向左或向右拖动，直到颜色与画面吻合。</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>每种颜色代表一个距离。近处物体的边缘也必须是颜色的边缘。</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>通常无需更改。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+</context>
+</TS>

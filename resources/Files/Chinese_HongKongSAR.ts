@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_HK" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>已拍攝第 %1 張相片。</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>如何移動</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>重新開始</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>已找到新的校準結果。</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>與已儲存的校準相比，彩色鏡頭轉動了 %1：</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>向右</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>向左</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>向上</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>向下</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>順時針傾斜</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>逆時針傾斜</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>接着請對照畫面檢查。只有在您接受後才會儲存。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>繼續</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>如何移動</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>請對準遠處的物件。
+建築物和樹木較為理想。草地、天空和空白的牆壁過於單調。畫面中不應有近處的物件。</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>請轉向另一個方向。
+將平板電腦稍微向側面、向上或向下轉動，讓細節出現在畫面的其他位置。</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>請停住，直到畫面閃動。
+讓平板電腦靜止片刻。相片會自動拍攝。然後再次轉動。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一步</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>請停住以拍攝校準相片。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>繼續</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>需要陽光</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>陽光不足。
+請移到戶外陽光充足的光亮處。</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>陽光充足</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>這裏夠光亮了！
+請按「繼續」。</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>彩色鏡頭</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>第一個彩色鏡頭</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>第二個彩色鏡頭</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>請將彩色的深度影像與彩色影像對齊。
+按「繼續」接受彩色鏡頭的校準，或按「重新開始」從頭再來。</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>請將彩色的深度影像與彩色影像對齊。
+按「繼續」接受第一個彩色鏡頭的校準，或按「重新開始」從頭再來。</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>請將彩色的深度影像與彩色影像對齊。
+按「繼續」接受第二個彩色鏡頭的校準，或按「重新開始」從頭再來。</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>校準已儲存到鏡頭中。</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>上次的校準未儲存到鏡頭中。
+請重新校準。</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>請移動裝置以拍攝另一張校準相片。</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>由於相片中的景物過於單調，未能完成校準。
+請再試一次。請對準建築物或樹木等細節豐富的景物。</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>鏡頭回報已儲存校準，但實際上並未儲存</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>鏡頭沒有回應</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>KXAPI 呼叫失敗。</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>裝置尚未校準或校準資料無效。</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Tarnex Deepvane 鏡頭發生嚴重問題。</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>繼續之前，請關閉所有 Tarnex Deepvane 應用程式和網頁瀏覽器。</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>您的 Tarnex Deepvane 鏡頭需要更新韌體後才能執行此應用程式。請更新韌體，然後重新執行此應用程式。</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>發生未知的錯誤。</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>鏡頭校準</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>請到戶外明亮的陽光下。</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>對準遠處的建築物或樹木。移動、停住，最多會自動拍攝八張相片。</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>用一根手指檢查結果，並將其儲存到鏡頭中。</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>大約需要三分鐘。</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>兩個鏡頭大約需要五分鐘。</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>不儲存就離開嗎？
+相片和目前的結果將會遺失。鏡頭會保留原有的校準。</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>離開</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>留下</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>請返回光線充足的地方。
+之後會自動繼續。已拍攝的相片仍然有效。</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>光線</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>達到標記處即光線充足</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>結束</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>正在開啟鏡頭…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>平板電腦開機後，這可能需要半分鐘。</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>鏡頭尚未回應。請關閉使用它的其他程式，或按「結束」後重新啟動。</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>找不到深度鏡頭。</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>請關閉使用鏡頭的所有其他程式。</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>請將平板電腦關機，然後重新開機。</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>請重新啟動校準。如果仍找不到鏡頭，則平板電腦需要維修。</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>找不到後置鏡頭。</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>請在系統的私隱設定中檢查是否允許程式使用鏡頭。</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>請在裝置管理員中檢查後置鏡頭是否已啟用。</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>請重新啟動校準。</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>後置鏡頭沒有影像。</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>請關閉使用後置鏡頭的所有其他程式。</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>請確定沒有物件遮住鏡頭。</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>請重新啟動校準。目前的結果尚未儲存。</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>結束</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>畫面中的深度資料太少。請對準幾米外的物件。</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>已儲存的校準</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>重新開始</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>按住以比較</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>繼續</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>正在將校準儲存到鏡頭…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>程式會自動關閉。</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>請稍候，不要關閉平板電腦。</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>已準備好拍攝相片。
+請在明亮的陽光下對準遠處的建築物或樹木。</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>如何移動</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Microsoft JhengHei UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>例子</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>向左或向右拖曳，直到色彩與畫面吻合。</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>每種色彩代表一個距離。近處物件的邊緣也必須是色彩的邊緣。</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>通常不需要更改。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>繼續</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Foto %1 gemaakt.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Zo beweegt u</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Opnieuw</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>Er is een nieuwe kalibratie gevonden.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>De kleurencamera is sinds de opgeslagen kalibratie %1 gedraaid:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>naar rechts</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>naar links</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>omhoog</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>omlaag</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>met de klok mee gekanteld</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>tegen de klok in gekanteld</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Controleer de kalibratie nu aan de hand van het beeld. Ze wordt pas opgeslagen als u ze accepteert.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>Zo beweegt u</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Richt op iets ver weg.
+Gebouwen en bomen zijn geschikt. Gras, lucht en kale muren zijn te eenvoudig. Er mag niets dichtbij in beeld zijn.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Draai naar een andere richting.
+Draai de tablet een beetje opzij, omhoog of omlaag, zodat de details ergens anders in beeld komen.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Wacht tot het flitst.
+Houd de tablet even stil. De foto wordt vanzelf gemaakt. Draai daarna verder.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Gereed</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Volgende</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Houd stil om een kalibratiefoto te maken.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Zonlicht vereist</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>Er is niet genoeg zonlicht.
+Ga naar buiten, naar een lichte, zonnige plek.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Voldoende zonlicht</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>Hier is het licht genoeg!
+Druk op Doorgaan.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Kleurencamera</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Eerste kleurencamera</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>Tweede kleurencamera</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Lijn het gekleurde dieptebeeld uit met het kleurenbeeld.
+Druk op Doorgaan om de kalibratie van de kleurencamera te accepteren. Of druk op Opnieuw om van voren af aan te beginnen.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Lijn het gekleurde dieptebeeld uit met het kleurenbeeld.
+Druk op Doorgaan om de kalibratie van de eerste kleurencamera te accepteren. Of druk op Opnieuw om van voren af aan te beginnen.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Lijn het gekleurde dieptebeeld uit met het kleurenbeeld.
+Druk op Doorgaan om de kalibratie van de tweede kleurencamera te accepteren. Of druk op Opnieuw om van voren af aan te beginnen.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>De kalibratie is in de camera opgeslagen.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>De laatste kalibratie is niet in de camera opgeslagen.
+Kalibreer opnieuw.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Beweeg het apparaat om een andere kalibratiefoto te maken.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>De kalibratie lukt niet, omdat de omgeving op deze foto’s te eenvoudig is.
+Probeer het opnieuw. Richt op een gevarieerde omgeving, zoals gebouwen of bomen.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>De camera meldde dat de kalibratie was opgeslagen, maar dat is niet gebeurd</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>De camera antwoordt niet</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>Een KXAPI-aanroep is mislukt.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>Het apparaat is niet gekalibreerd of heeft ongeldige kalibratiegegevens.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Er is een ernstig probleem opgetreden met de Tarnex Deepvane-camera.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Sluit alle Tarnex Deepvane-toepassingen en alle webbrowsers voordat u doorgaat.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>De firmware van uw Tarnex Deepvane-camera moet worden bijgewerkt voordat deze toepassing kan werken. Werk de firmware bij en start de toepassing opnieuw.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>Er is een onbekende fout opgetreden.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Camerakalibratie</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Ga naar buiten, in fel zonlicht.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Richt op gebouwen of bomen in de verte. Beweeg, houd stil, en er worden vanzelf maximaal acht foto’s gemaakt.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Controleer het resultaat met één vinger en sla het op in de camera.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Duurt ongeveer drie minuten.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>Duurt voor beide camera’s ongeveer vijf minuten.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>Afsluiten zonder op te slaan?
+De foto’s en het resultaat tot nu toe gaan verloren. De camera behoudt de oude kalibratie.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Afsluiten</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Blijven</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>Ga terug naar een goed verlichte plek.
+Het gaat vanzelf verder. De foto’s tot nu toe tellen mee.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>Vanaf de streep genoeg licht</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Afsluiten</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>Camera wordt geopend…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>Dit kan na het inschakelen van de tablet een halve minuut duren.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>De camera antwoordt nog niet. Sluit andere programma’s die de camera gebruiken, of druk op Afsluiten en start opnieuw.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>De dieptecamera is niet gevonden.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Sluit alle andere programma’s die een camera gebruiken.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Schakel de tablet uit en weer in.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Start de kalibratie opnieuw. Als de camera nog steeds ontbreekt, heeft de tablet onderhoud nodig.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>De camera aan de achterkant is niet gevonden.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>Controleer in de privacyinstellingen van het systeem of programma’s de camera mogen gebruiken.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>Controleer in Apparaatbeheer of de camera aan de achterkant is ingeschakeld.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Start de kalibratie opnieuw.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>De camera aan de achterkant levert geen beeld.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Sluit alle andere programma’s die de camera aan de achterkant gebruiken.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Zorg dat niets de camera bedekt.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Start de kalibratie opnieuw. Het resultaat tot nu toe is niet opgeslagen.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Afsluiten</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>Te weinig diepte in beeld. Richt op iets op enkele meters afstand.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Opgeslagen kalibratie</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Vasthouden om te vergelijken</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>De kalibratie wordt in de camera opgeslagen…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>Het programma sluit vanzelf af.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Wacht even en schakel de tablet niet uit.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Klaar om foto’s te maken.
+Richt op gebouwen of bomen in de verte, in fel zonlicht.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Zo beweegt u</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Voorbeeld</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Sleep naar links of rechts tot de kleuren bij het beeld passen.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Elke kleur is een afstand. Waar iets dichtbij eindigt, moet ook de kleur eindigen.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>Vaak hoeft er niets te worden gewijzigd.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
+    </message>
+</context>
+</TS>

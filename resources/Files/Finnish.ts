@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fi" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Kuva %1 otettu.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Liikuttaminen</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Aloita alusta</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>Uusi kalibrointi löytyi.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>Värikamera on kääntynyt %1 tallennetun kalibroinnin jälkeen:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>oikealle</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>vasemmalle</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>ylöspäin</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>alaspäin</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>kallistunut myötäpäivään</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>kallistunut vastapäivään</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Tarkista se seuraavaksi kuvasta. Se tallennetaan vasta, kun hyväksyt sen.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Jatka</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>Liikuttaminen</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Suuntaa johonkin kaukana olevaan.
+Rakennukset ja puut ovat hyviä. Nurmi, taivas ja paljaat seinät ovat liian yksinkertaisia. Kuvassa ei saa olla mitään lähellä olevaa.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Käännä toiseen suuntaan.
+Käännä tablettia hieman sivulle, ylös tai alas, jotta yksityiskohdat siirtyvät toiseen kohtaan kuvassa.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Pysähdy, kunnes näyttö välähtää.
+Pidä tablettia hetki paikallaan. Kuva otetaan automaattisesti. Käännä sitten taas.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sulje</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Valmis</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Seuraava</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Ota kalibrointikuva pitämällä laite paikallaan.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Jatka</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Auringonvaloa tarvitaan</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>Auringonvaloa ei ole tarpeeksi.
+Siirry ulos valoisaan, aurinkoiseen paikkaan.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Auringonvalo riittää</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>Täällä on tarpeeksi valoisaa!
+Paina Jatka.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Värikamera</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Ensimmäinen värikamera</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>Toinen värikamera</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Kohdista värillinen syvyyskuva värikuvaan.
+Hyväksy värikameran kalibrointi painamalla Jatka. Tai palaa alkuun painamalla Aloita alusta.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Kohdista värillinen syvyyskuva värikuvaan.
+Hyväksy ensimmäisen värikameran kalibrointi painamalla Jatka. Tai palaa alkuun painamalla Aloita alusta.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Kohdista värillinen syvyyskuva värikuvaan.
+Hyväksy toisen värikameran kalibrointi painamalla Jatka. Tai palaa alkuun painamalla Aloita alusta.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>Kalibrointi on tallennettu kameraan.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>Viimeisintä kalibrointia ei tallennettu kameraan.
+Kalibroi uudelleen.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Ota toinen kalibrointikuva siirtämällä laitetta.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>Kalibrointi ei onnistu, koska kuvien maisema on liian yksinkertainen.
+Yritä uudelleen. Suuntaa vaihtelevaan maisemaan, kuten rakennuksiin tai puihin.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>Kamera ilmoitti tallentaneensa kalibroinnin, mutta ei tehnyt niin</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>Kamera ei vastaa</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>KXAPI-kutsu epäonnistui.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>Laitetta ei ole kalibroitu tai sen kalibrointitiedot ovat virheelliset.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Tarnex Deepvane -kamerassa on tapahtunut vakava virhe.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Sulje kaikki Tarnex Deepvane -sovellukset ja verkkoselaimet ennen jatkamista.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>Tarnex Deepvane -kameran laiteohjelmisto on päivitettävä ennen tämän sovelluksen käyttöä. Päivitä laiteohjelmisto ja käynnistä sovellus uudelleen.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>On tapahtunut tuntematon virhe.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Kameran kalibrointi</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Mene ulos kirkkaaseen auringonvaloon.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Suuntaa kaukana oleviin rakennuksiin tai puihin. Liikuta ja pysähdy, niin enintään kahdeksan kuvaa otetaan automaattisesti.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Tarkista tulos yhdellä sormella ja tallenna se kameraan.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Kestää noin kolme minuuttia.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>Kestää molemmille kameroille noin viisi minuuttia.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Aloita</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>Poistutaanko tallentamatta?
+Kuvat ja tähänastinen tulos menetetään. Kamera säilyttää vanhan kalibrointinsa.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Poistu</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Jää</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>Palaa hyvin valaistuun paikkaan.
+Toiminta jatkuu automaattisesti. Jo otetut kuvat lasketaan.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Valo</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>Valo riittää merkistä alkaen</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Poistu</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>Kameraa avataan…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>Tämä voi kestää puoli minuuttia tabletin käynnistämisen jälkeen.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>Kamera ei vielä vastaa. Sulje muut sitä käyttävät ohjelmat tai paina Poistu ja käynnistä uudelleen.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>Syvyyskameraa ei löytynyt.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Sulje kaikki muut kameraa käyttävät ohjelmat.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Sammuta tabletti ja käynnistä se uudelleen.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Käynnistä kalibrointi uudelleen. Jos kamera puuttuu edelleen, tabletti tarvitsee huoltoa.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>Takakameraa ei löytynyt.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>Tarkista järjestelmän tietosuoja-asetuksista, että ohjelmat saavat käyttää kameraa.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>Tarkista Laitehallinnasta, että takakamera on käytössä.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Käynnistä kalibrointi uudelleen.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>Takakamera ei tuota kuvaa.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Sulje kaikki muut takakameraa käyttävät ohjelmat.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Varmista, ettei mikään peitä kameraa.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Käynnistä kalibrointi uudelleen. Tähänastista tulosta ei ole tallennettu.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Poistu</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>Näkyvissä on liian vähän syvyyttä. Suuntaa johonkin muutaman metrin päähän.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Tallennettu kalibrointi</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Aloita alusta</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Vertaa pitämällä</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Jatka</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>Kalibrointia tallennetaan kameraan…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>Ohjelma sulkeutuu automaattisesti.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Odota äläkä sammuta tablettia.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Valmiina ottamaan kuvia.
+Suuntaa kaukana oleviin rakennuksiin tai puihin kirkkaassa auringonvalossa.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Liikuttaminen</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Aloita</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Esimerkki</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Vedä vasemmalle tai oikealle, kunnes värit sopivat kuvaan.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Jokainen väri on etäisyys. Missä lähellä oleva kohde päättyy, siinä myös värin on päätyttävä.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>Usein mitään ei tarvitse muuttaa.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Jatka</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Photo %1 prise.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Mouvements</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Recommencer</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>Un nouvel étalonnage a été trouvé.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>La caméra couleur a tourné de %1 depuis l’étalonnage enregistré :</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>vers la droite</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>vers la gauche</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>vers le haut</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>vers le bas</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>inclinée dans le sens horaire</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>inclinée dans le sens antihoraire</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Vérifiez-le maintenant sur l’image. Il n’est enregistré que si vous l’acceptez.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>Mouvements</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Visez quelque chose d’éloigné.
+Les bâtiments et les arbres conviennent bien. L’herbe, le ciel et les murs nus sont trop simples. Rien de proche ne doit figurer dans l’image.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Tournez dans une autre direction.
+Tournez un peu la tablette sur le côté, vers le haut ou vers le bas, afin que les détails se trouvent ailleurs dans l’image.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Arrêtez-vous jusqu’au flash.
+Tenez la tablette immobile un instant. La photo est prise automatiquement. Tournez ensuite à nouveau.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Ne bougez plus pour prendre une photo d’étalonnage.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Lumière du soleil requise</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>La lumière du soleil est insuffisante.
+Allez à l’extérieur, dans un endroit clair et ensoleillé.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Lumière suffisante</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>Il fait assez clair ici !
+Appuyez sur Continuer.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Caméra couleur</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Première caméra couleur</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>Deuxième caméra couleur</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Alignez l’image de profondeur colorée sur l’image couleur.
+Appuyez sur Continuer pour accepter l’étalonnage de la caméra couleur, ou sur Recommencer pour repartir du début.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Alignez l’image de profondeur colorée sur l’image couleur.
+Appuyez sur Continuer pour accepter l’étalonnage de la première caméra couleur, ou sur Recommencer pour repartir du début.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Alignez l’image de profondeur colorée sur l’image couleur.
+Appuyez sur Continuer pour accepter l’étalonnage de la deuxième caméra couleur, ou sur Recommencer pour repartir du début.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>L’étalonnage est enregistré dans la caméra.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>Le dernier étalonnage n’a pas été enregistré dans la caméra.
+Veuillez recommencer l’étalonnage.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Déplacez l’appareil pour prendre une autre photo d’étalonnage.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>L’étalonnage échoue car le paysage sur ces photos est trop simple.
+Réessayons. Visez un paysage varié, avec des bâtiments ou des arbres.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>La caméra a annoncé avoir enregistré l’étalonnage, mais elle ne l’a pas fait</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>La caméra ne répond pas</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>Un appel KXAPI a échoué.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>L’appareil n’a pas été étalonné ou ses données d’étalonnage ne sont pas valides.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Un problème grave est survenu avec la caméra Tarnex Deepvane.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Veuillez fermer toutes les applications Tarnex Deepvane et tous les navigateurs web avant de continuer.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>Le micrologiciel de votre caméra Tarnex Deepvane doit être mis à jour avant l’exécution de cette application. Veuillez le mettre à jour, puis relancer l’application.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>Une erreur inconnue est survenue.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Étalonnage de la caméra</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Allez à l’extérieur, en plein soleil.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Visez des bâtiments ou des arbres éloignés. Bougez, arrêtez-vous : jusqu’à huit photos sont prises automatiquement.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Vérifiez le résultat d’un doigt, puis enregistrez-le dans la caméra.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Dure environ trois minutes.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>Dure environ cinq minutes pour les deux caméras.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>Quitter sans enregistrer ?
+Les photos et le résultat obtenu seront perdus. La caméra conserve son ancien étalonnage.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Rester</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>Revenez dans un endroit bien éclairé.
+La suite est automatique. Les photos déjà prises comptent.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Lumière</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>Suffisante à partir du repère</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>Ouverture de la caméra…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>Cela peut durer une demi-minute après la mise sous tension de la tablette.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>La caméra ne répond pas encore. Fermez les autres programmes qui l’utilisent, ou appuyez sur Quitter et redémarrez.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>La caméra de profondeur est introuvable.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Fermez tous les autres programmes qui utilisent une caméra.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Éteignez puis rallumez la tablette.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Relancez l’étalonnage. Si la caméra reste introuvable, la tablette doit être réparée.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>La caméra arrière est introuvable.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>Vérifiez dans les paramètres de confidentialité du système que les programmes peuvent utiliser la caméra.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>Vérifiez dans le gestionnaire de périphériques que la caméra arrière est activée.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Relancez l’étalonnage.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>La caméra arrière ne fournit aucune image.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Fermez tous les autres programmes qui utilisent la caméra arrière.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Assurez-vous que rien ne masque la caméra.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Relancez l’étalonnage. Le résultat obtenu jusqu’ici n’est pas enregistré.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>Trop peu de profondeur visible. Visez quelque chose à quelques mètres.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Étalonnage enregistré</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Recommencer</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Maintenir pour comparer</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>Enregistrement de l’étalonnage dans la caméra…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>Le programme se ferme automatiquement.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Veuillez patienter et ne pas éteindre la tablette.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Prêt à prendre des photos.
+Visez des bâtiments ou des arbres éloignés, en plein soleil.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Mouvements</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Exemple</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Faites glisser vers la gauche ou la droite jusqu’à ce que les couleurs correspondent à l’image.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Chaque couleur est une distance. Là où s’arrête un objet proche, la couleur doit s’arrêter aussi.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>Souvent, il n’y a rien à modifier.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+</context>
+</TS>

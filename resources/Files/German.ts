@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Foto %1 aufgenommen.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>So bewegen</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Neu beginnen</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>Eine neue Kalibrierung wurde gefunden.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>Die Farbkamera hat sich seit der gespeicherten Kalibrierung um %1 gedreht:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>nach rechts</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>nach links</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>nach oben</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>nach unten</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>im Uhrzeigersinn geneigt</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>gegen den Uhrzeigersinn geneigt</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Prüfen Sie sie nun am Bild. Gespeichert wird sie erst, wenn Sie sie annehmen.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>So bewegen</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Richten Sie das Tablet auf etwas weit Entferntes.
+Gebäude und Bäume sind gut. Wiese, Himmel und kahle Wände sind zu einfach. Nichts Nahes sollte im Bild sein.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Drehen Sie in eine andere Richtung.
+Drehen Sie das Tablet ein wenig zur Seite, nach oben oder nach unten, sodass die Einzelheiten an anderer Stelle im Bild liegen.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Stillhalten, bis es blitzt.
+Halten Sie das Tablet einen Moment ruhig. Das Foto wird von selbst aufgenommen. Drehen Sie dann weiter.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Halten Sie still, um ein Kalibrierfoto aufzunehmen.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Sonnenlicht erforderlich</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>Das Sonnenlicht reicht nicht aus.
+Gehen Sie im Freien an einen hellen, sonnigen Ort.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Genügend Sonnenlicht</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>Hier ist es hell genug!
+Drücken Sie auf „Weiter“.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Farbkamera</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Erste Farbkamera</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>Zweite Farbkamera</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Bringen Sie das farbige Tiefenbild mit dem Farbbild zur Deckung.
+Drücken Sie auf „Weiter“, um die Kalibrierung der Farbkamera anzunehmen, oder auf „Neu beginnen“, um von vorn anzufangen.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Bringen Sie das farbige Tiefenbild mit dem Farbbild zur Deckung.
+Drücken Sie auf „Weiter“, um die Kalibrierung der ersten Farbkamera anzunehmen, oder auf „Neu beginnen“, um von vorn anzufangen.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Bringen Sie das farbige Tiefenbild mit dem Farbbild zur Deckung.
+Drücken Sie auf „Weiter“, um die Kalibrierung der zweiten Farbkamera anzunehmen, oder auf „Neu beginnen“, um von vorn anzufangen.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>Die Kalibrierung ist in der Kamera gespeichert.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>Die letzte Kalibrierung wurde nicht in der Kamera gespeichert.
+Bitte kalibrieren Sie erneut.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Bewegen Sie das Gerät, um ein anderes Kalibrierfoto aufzunehmen.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>Die Kalibrierung gelingt nicht, weil die Umgebung auf diesen Fotos zu einfach ist.
+Versuchen Sie es noch einmal. Richten Sie das Gerät auf eine abwechslungsreiche Umgebung wie Gebäude oder Bäume.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>Die Kamera hat das Speichern der Kalibrierung gemeldet, sie aber nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>Die Kamera antwortet nicht</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>Ein KXAPI-Aufruf ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>Das Gerät wurde nicht kalibriert oder hat ungültige Kalibrierdaten.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Bei der Tarnex-Deepvane-Kamera ist ein schwerer Fehler aufgetreten.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Bitte schließen Sie alle Tarnex-Deepvane-Anwendungen und alle Webbrowser, bevor Sie fortfahren.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>Die Firmware Ihrer Tarnex-Deepvane-Kamera muss aktualisiert werden, bevor diese Anwendung laufen kann. Bitte aktualisieren Sie die Firmware und starten Sie die Anwendung erneut.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>Ein unbekannter Fehler ist aufgetreten.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Kamerakalibrierung</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Gehen Sie ins Freie in helles Sonnenlicht.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Richten Sie das Tablet auf entfernte Gebäude oder Bäume. Bewegen, stillhalten: Bis zu acht Fotos werden von selbst aufgenommen.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Prüfen Sie das Ergebnis mit einem Finger und speichern Sie es in der Kamera.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Dauert etwa drei Minuten.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>Dauert für beide Kameras etwa fünf Minuten.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>Ohne Speichern beenden?
+Die Fotos und das bisherige Ergebnis gehen verloren. Die Kamera behält ihre alte Kalibrierung.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Bleiben</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>Gehen Sie zurück an einen hellen Ort.
+Es geht von selbst weiter. Die bisherigen Fotos zählen.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>Ab der Marke genügt das Licht</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>Kamera wird geöffnet…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>Nach dem Einschalten des Tablets kann das eine halbe Minute dauern.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>Die Kamera antwortet noch nicht. Schließen Sie andere Programme, die sie verwenden, oder drücken Sie auf „Beenden“ und starten Sie neu.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>Die Tiefenkamera wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Schließen Sie alle anderen Programme, die eine Kamera verwenden.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Schalten Sie das Tablet aus und wieder ein.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Starten Sie die Kalibrierung erneut. Fehlt die Kamera weiterhin, muss das Tablet zum Kundendienst.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>Die Rückkamera wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>Prüfen Sie in den Datenschutzeinstellungen des Systems, ob Programme die Kamera verwenden dürfen.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>Prüfen Sie im Geräte-Manager, ob die Rückkamera eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Starten Sie die Kalibrierung erneut.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>Die Rückkamera liefert kein Bild.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Schließen Sie alle anderen Programme, die die Rückkamera verwenden.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Achten Sie darauf, dass nichts die Kamera verdeckt.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Starten Sie die Kalibrierung erneut. Das bisherige Ergebnis ist nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>Zu wenig Tiefe im Bild. Richten Sie das Tablet auf etwas in einigen Metern Entfernung.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Gespeicherte Kalibrierung</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Neu beginnen</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Zum Vergleichen halten</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>Die Kalibrierung wird in der Kamera gespeichert…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>Das Programm schließt sich von selbst.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Bitte warten Sie und schalten Sie das Tablet nicht aus.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Bereit für die Fotos.
+Richten Sie das Tablet bei hellem Sonnenlicht auf entfernte Gebäude oder Bäume.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>So bewegen</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Beispiel</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Ziehen Sie nach links oder rechts, bis die Farben zum Bild passen.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Jede Farbe ist eine Entfernung. Wo etwas Nahes endet, muss auch die Farbe enden.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>Oft muss nichts geändert werden.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="el" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Λήφθηκε η φωτογραφία %1.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Πώς να κινείστε</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Από την αρχή</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>Βρέθηκε νέα βαθμονόμηση.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>Η έγχρωμη κάμερα έχει στραφεί κατά %1 από την αποθηκευμένη βαθμονόμηση:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>προς τα δεξιά</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>προς τα αριστερά</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>προς τα πάνω</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>προς τα κάτω</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>κλίση δεξιόστροφα</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>κλίση αριστερόστροφα</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Τώρα ελέγξτε την στην εικόνα. Αποθηκεύεται μόνο όταν την αποδεχτείτε.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Συνέχεια</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>Πώς να κινείστε</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Στρέψτε προς κάτι μακρινό.
+Τα κτίρια και τα δέντρα είναι κατάλληλα. Το γρασίδι, ο ουρανός και οι γυμνοί τοίχοι είναι πολύ απλά. Τίποτα κοντινό δεν πρέπει να φαίνεται στην εικόνα.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Στρέψτε σε άλλη κατεύθυνση.
+Στρέψτε λίγο το tablet στο πλάι, πάνω ή κάτω, ώστε οι λεπτομέρειες να βρεθούν αλλού στην εικόνα.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Σταματήστε μέχρι να αναβοσβήσει.
+Κρατήστε το tablet ακίνητο για λίγο. Η φωτογραφία λαμβάνεται αυτόματα. Έπειτα στρέψτε ξανά.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Κλείσιμο</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Τέλος</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Επόμενο</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Σταματήστε για να ληφθεί φωτογραφία βαθμονόμησης.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Συνέχεια</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Απαιτείται ηλιακό φως</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>Δεν υπάρχει αρκετό ηλιακό φως.
+Βγείτε έξω, σε φωτεινό και ηλιόλουστο χώρο.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Επαρκές ηλιακό φως</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>Εδώ έχει αρκετό φως!
+Πατήστε «Συνέχεια».</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Έγχρωμη κάμερα</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Πρώτη έγχρωμη κάμερα</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>Δεύτερη έγχρωμη κάμερα</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Ευθυγραμμίστε τη χρωματισμένη εικόνα βάθους με την έγχρωμη εικόνα.
+Πατήστε «Συνέχεια» για να αποδεχτείτε τη βαθμονόμηση της έγχρωμης κάμερας ή «Από την αρχή» για να ξεκινήσετε ξανά.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Ευθυγραμμίστε τη χρωματισμένη εικόνα βάθους με την έγχρωμη εικόνα.
+Πατήστε «Συνέχεια» για να αποδεχτείτε τη βαθμονόμηση της πρώτης έγχρωμης κάμερας ή «Από την αρχή» για να ξεκινήσετε ξανά.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Ευθυγραμμίστε τη χρωματισμένη εικόνα βάθους με την έγχρωμη εικόνα.
+Πατήστε «Συνέχεια» για να αποδεχτείτε τη βαθμονόμηση της δεύτερης έγχρωμης κάμερας ή «Από την αρχή» για να ξεκινήσετε ξανά.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>Η βαθμονόμηση έχει αποθηκευτεί στην κάμερα.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>Η τελευταία βαθμονόμηση δεν αποθηκεύτηκε στην κάμερα.
+Εκτελέστε ξανά τη βαθμονόμηση.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Μετακινήστε τη συσκευή για να ληφθεί άλλη φωτογραφία βαθμονόμησης.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>Η βαθμονόμηση δεν πετυχαίνει, επειδή το τοπίο σε αυτές τις φωτογραφίες είναι πολύ απλό.
+Δοκιμάστε ξανά. Στρέψτε προς ένα ποικίλο τοπίο, όπως κτίρια ή δέντρα.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>Η κάμερα ανέφερε ότι αποθήκευσε τη βαθμονόμηση, αλλά δεν το έκανε</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>Η κάμερα δεν αποκρίνεται</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>Μια κλήση KXAPI απέτυχε.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>Η συσκευή δεν έχει βαθμονομηθεί ή έχει μη έγκυρα δεδομένα βαθμονόμησης.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Παρουσιάστηκε σοβαρό πρόβλημα με την κάμερα Tarnex Deepvane.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Κλείστε όλες τις εφαρμογές Tarnex Deepvane και όλα τα προγράμματα περιήγησης πριν συνεχίσετε.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>Το υλικολογισμικό της κάμερας Tarnex Deepvane πρέπει να ενημερωθεί πριν εκτελεστεί αυτή η εφαρμογή. Ενημερώστε το υλικολογισμικό και εκτελέστε ξανά την εφαρμογή.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>Παρουσιάστηκε άγνωστο σφάλμα.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Βαθμονόμηση κάμερας</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Βγείτε έξω σε έντονο ηλιακό φως.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Στρέψτε προς μακρινά κτίρια ή δέντρα. Κινηθείτε, σταματήστε, και έως οκτώ φωτογραφίες λαμβάνονται αυτόματα.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Ελέγξτε το αποτέλεσμα με ένα δάχτυλο και αποθηκεύστε το στην κάμερα.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Διαρκεί περίπου τρία λεπτά.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>Διαρκεί περίπου πέντε λεπτά και για τις δύο κάμερες.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Έναρξη</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>Έξοδος χωρίς αποθήκευση;
+Οι φωτογραφίες και το αποτέλεσμα μέχρι τώρα θα χαθούν. Η κάμερα διατηρεί την παλιά βαθμονόμηση.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Έξοδος</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Παραμονή</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>Επιστρέψτε σε καλά φωτισμένο χώρο.
+Η διαδικασία συνεχίζεται αυτόματα. Οι φωτογραφίες που λήφθηκαν μετρούν.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Φως</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>Αρκετό φως από το σημάδι</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Έξοδος</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>Άνοιγμα της κάμερας…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>Μπορεί να διαρκέσει μισό λεπτό μετά την ενεργοποίηση του tablet.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>Η κάμερα δεν αποκρίνεται ακόμη. Κλείστε άλλα προγράμματα που τη χρησιμοποιούν ή πατήστε «Έξοδος» και ξεκινήστε ξανά.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>Η κάμερα βάθους δεν βρέθηκε.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Κλείστε όλα τα άλλα προγράμματα που χρησιμοποιούν κάμερα.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Απενεργοποιήστε το tablet και ενεργοποιήστε το ξανά.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Ξεκινήστε ξανά τη βαθμονόμηση. Αν η κάμερα εξακολουθεί να λείπει, το tablet χρειάζεται επισκευή.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>Η πίσω κάμερα δεν βρέθηκε.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>Ελέγξτε στις ρυθμίσεις απορρήτου του συστήματος ότι τα προγράμματα επιτρέπεται να χρησιμοποιούν την κάμερα.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>Ελέγξτε στη Διαχείριση Συσκευών ότι η πίσω κάμερα είναι ενεργοποιημένη.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Ξεκινήστε ξανά τη βαθμονόμηση.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>Η πίσω κάμερα δεν δίνει εικόνα.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Κλείστε όλα τα άλλα προγράμματα που χρησιμοποιούν την πίσω κάμερα.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Βεβαιωθείτε ότι τίποτα δεν καλύπτει την κάμερα.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Ξεκινήστε ξανά τη βαθμονόμηση. Το αποτέλεσμα μέχρι τώρα δεν έχει αποθηκευτεί.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Έξοδος</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>Πολύ λίγο βάθος στην εικόνα. Στρέψτε προς κάτι σε απόσταση λίγων μέτρων.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Αποθηκευμένη βαθμονόμηση</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Από την αρχή</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Κρατήστε για σύγκριση</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Συνέχεια</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>Η βαθμονόμηση αποθηκεύεται στην κάμερα…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>Το πρόγραμμα κλείνει αυτόματα.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Περιμένετε και μην απενεργοποιήσετε το tablet.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Έτοιμο για λήψη φωτογραφιών.
+Στρέψτε προς μακρινά κτίρια ή δέντρα, σε έντονο ηλιακό φως.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Πώς να κινείστε</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Έναρξη</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Παράδειγμα</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Σύρετε αριστερά ή δεξιά μέχρι τα χρώματα να ταιριάξουν με την εικόνα.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Κάθε χρώμα είναι μια απόσταση. Εκεί που τελειώνει κάτι κοντινό, πρέπει να τελειώνει και το χρώμα.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>Συχνά δεν χρειάζεται να αλλάξει τίποτα.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Συνέχεια</translation>
+    </message>
+</context>
+</TS>

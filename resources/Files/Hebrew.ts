@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="he" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>תמונה %1 צולמה.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>איך להזיז</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>התחלה מחדש</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>נמצא כיול חדש.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>מצלמת הצבע הסתובבה ב-%1 מאז הכיול השמור:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>ימינה</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>שמאלה</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>למעלה</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>למטה</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>נטויה עם כיוון השעון</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>נטויה נגד כיוון השעון</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>כעת יש לבדוק אותו מול התמונה. הוא נשמר רק לאחר אישורך.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>המשך</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>איך להזיז</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>יש לכוון אל משהו רחוק.
+בניינים ועצים מתאימים. דשא, שמיים וקירות חשופים פשוטים מדי. אין לכלול בתמונה דבר קרוב.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>יש לפנות לכיוון אחר.
+יש לסובב מעט את הטאבלט הצידה, למעלה או למטה, כך שהפרטים יופיעו במקום אחר בתמונה.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>יש לעצור עד להבזק.
+יש להחזיק את הטאבלט ללא תזוזה לרגע. התמונה מצולמת אוטומטית. לאחר מכן יש לסובב שוב.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>סגירה</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>סיום</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>הבא</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>יש לעצור כדי לצלם תמונת כיול.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>המשך</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>נדרש אור שמש</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>אין מספיק אור שמש.
+יש לצאת אל אזור בהיר ושטוף שמש.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>יש מספיק אור שמש</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>מספיק בהיר כאן!
+יש ללחוץ על „המשך”.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>מצלמת צבע</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>מצלמת צבע ראשונה</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>מצלמת צבע שנייה</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>יש ליישר את תמונת העומק הצבעונית עם תמונת הצבע.
+לאישור הכיול של מצלמת הצבע יש ללחוץ על „המשך”. כדי להתחיל מההתחלה יש ללחוץ על „התחלה מחדש”.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>יש ליישר את תמונת העומק הצבעונית עם תמונת הצבע.
+לאישור הכיול של מצלמת הצבע הראשונה יש ללחוץ על „המשך”. כדי להתחיל מההתחלה יש ללחוץ על „התחלה מחדש”.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>יש ליישר את תמונת העומק הצבעונית עם תמונת הצבע.
+לאישור הכיול של מצלמת הצבע השנייה יש ללחוץ על „המשך”. כדי להתחיל מההתחלה יש ללחוץ על „התחלה מחדש”.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>הכיול נשמר במצלמה.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>הכיול האחרון לא נשמר במצלמה.
+יש לכייל שוב.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>יש להזיז את המכשיר כדי לצלם תמונת כיול אחרת.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>הכיול אינו מצליח כי הנוף בתמונות אלה פשוט מדי.
+יש לנסות שוב. יש לכוון אל נוף מגוון, כמו בניינים או עצים.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>המצלמה דיווחה שהכיול נשמר, אך הוא לא נשמר</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>המצלמה אינה מגיבה</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>קריאת KXAPI נכשלה.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>המכשיר לא כויל או שנתוני הכיול שלו אינם חוקיים.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>אירעה תקלה חמורה במצלמת Tarnex Deepvane.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>יש לסגור את כל יישומי Tarnex Deepvane ואת כל דפדפני האינטרנט לפני שממשיכים.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>יש לעדכן את הקושחה של מצלמת Tarnex Deepvane לפני שניתן להפעיל יישום זה. יש לעדכן את הקושחה ולהפעיל שוב את היישום.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>אירעה שגיאה לא ידועה.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>כיול המצלמה</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>יש לצאת החוצה לאור שמש חזק.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>יש לכוון אל בניינים או עצים רחוקים, להזיז ולעצור. עד שמונה תמונות מצולמות אוטומטית.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>יש לבדוק את התוצאה באצבע אחת ולשמור אותה במצלמה.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>נמשך כשלוש דקות.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>נמשך כחמש דקות לשתי המצלמות.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>התחלה</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>לצאת בלי לשמור?
+התמונות ומה שנמצא עד כה יאבדו. הכיול הישן יישאר במצלמה.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>יציאה</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>הישארות</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>יש לחזור אל אזור מואר היטב.
+התהליך ימשיך אוטומטית. התמונות שצולמו עד כה נחשבות.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>אור</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>מספיק אור בסימון</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>יציאה</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>המצלמה נפתחת…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>זה עשוי להימשך חצי דקה לאחר הפעלת הטאבלט.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>המצלמה עדיין אינה מגיבה. יש לסגור תוכניות אחרות שמשתמשות בה, או ללחוץ על „יציאה” ולהתחיל מחדש.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>מצלמת העומק לא נמצאה.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>יש לסגור כל תוכנית אחרת שמשתמשת במצלמה.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>יש לכבות את הטאבלט ולהפעיל אותו שוב.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>יש להפעיל שוב את הכיול. אם המצלמה עדיין חסרה, הטאבלט זקוק לשירות.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>המצלמה האחורית לא נמצאה.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>יש לבדוק בהגדרות הפרטיות של המערכת שתוכניות רשאיות להשתמש במצלמה.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>יש לבדוק במנהל ההתקנים שהמצלמה האחורית מופעלת.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>יש להפעיל שוב את הכיול.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>המצלמה האחורית אינה מספקת תמונה.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>יש לסגור כל תוכנית אחרת שמשתמשת במצלמה האחורית.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>יש לוודא שדבר אינו מכסה את המצלמה.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>יש להפעיל שוב את הכיול. מה שנמצא עד כה אינו שמור.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>יציאה</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>מעט מדי עומק בתמונה. יש לכוון אל משהו במרחק מטרים ספורים.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>הכיול השמור</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>התחלה מחדש</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>החזקה להשוואה</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>המשך</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>הכיול נשמר במצלמה…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>התוכנית נסגרת אוטומטית.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>יש להמתין ולא לכבות את הטאבלט.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>מוכן לצילום.
+יש לכוון אל בניינים או עצים רחוקים, באור שמש חזק.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>איך להזיז</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>התחלה</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>דוגמה</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>יש לגרור שמאלה או ימינה עד שהצבעים מתאימים לתמונה.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>כל צבע הוא מרחק. במקום שבו נגמר דבר קרוב, גם הצבע צריך להיגמר.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>לעיתים קרובות אין צורך לשנות דבר.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>המשך</translation>
+    </message>
+</context>
+</TS>

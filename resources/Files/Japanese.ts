@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>写真 %1 を撮影しました。</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>動かし方</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>やり直す</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>新しいキャリブレーションが見つかりました。</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>保存済みのキャリブレーションから、カラーカメラは %1 回転しています:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>右へ</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>左へ</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>上へ</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>下へ</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>時計回りの傾き</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>反時計回りの傾き</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>次に、画像で確認してください。承認した場合にのみ保存されます。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>続行</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>動かし方</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>遠くのものに向けてください。
+建物や木が適しています。芝生、空、何もない壁は単純すぎます。近くのものが写らないようにしてください。</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>別の方向に向けてください。
+細部が画像の別の位置に来るように、タブレットを少し横、上、または下に回してください。</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>画面が光るまで静止してください。
+タブレットをしばらく動かさないでください。写真は自動的に撮影されます。その後、再び回してください。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>静止して、キャリブレーション用の写真を撮影してください。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>続行</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>日光が必要です</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>日光が足りません。
+屋外の明るく日の当たる場所へ移動してください。</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>日光は十分です</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>ここは十分な明るさです。
+「続行」を押してください。</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>カラーカメラ</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>1 台目のカラーカメラ</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>2 台目のカラーカメラ</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>色付きの深度画像をカラー画像に合わせてください。
+「続行」を押すとカラーカメラのキャリブレーションが承認されます。「やり直す」を押すと最初に戻ります。</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>色付きの深度画像をカラー画像に合わせてください。
+「続行」を押すと 1 台目のカラーカメラのキャリブレーションが承認されます。「やり直す」を押すと最初に戻ります。</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>色付きの深度画像をカラー画像に合わせてください。
+「続行」を押すと 2 台目のカラーカメラのキャリブレーションが承認されます。「やり直す」を押すと最初に戻ります。</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>キャリブレーションはカメラに保存されました。</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>前回のキャリブレーションはカメラに保存されませんでした。
+もう一度キャリブレーションを行ってください。</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>デバイスを動かして、別のキャリブレーション用の写真を撮影してください。</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>写真の風景が単純すぎるため、キャリブレーションできません。
+もう一度お試しください。建物や木など、変化に富んだ風景に向けてください。</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>カメラはキャリブレーションを保存したと報告しましたが、保存されていません</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>カメラが応答しません</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>KXAPI の呼び出しに失敗しました。</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>デバイスがキャリブレーションされていないか、キャリブレーション データが無効です。</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Tarnex Deepvane カメラに重大な問題が発生しました。</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>続行する前に、Tarnex Deepvane のアプリケーションと Web ブラウザーをすべて閉じてください。</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>このアプリケーションを実行するには、Tarnex Deepvane カメラのファームウェアの更新が必要です。ファームウェアを更新してから、アプリケーションを再度実行してください。</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>不明なエラーが発生しました。</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>カメラのキャリブレーション</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>屋外の明るい日光の下に出てください。</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>遠くの建物や木に向けてください。動かして静止すると、最大 8 枚の写真が自動的に撮影されます。</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>指 1 本で結果を確認し、カメラに保存してください。</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>所要時間は約 3 分です。</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>所要時間は 2 台のカメラで約 5 分です。</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>保存せずに終了しますか?
+写真とこれまでの結果は失われます。カメラには以前のキャリブレーションが残ります。</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>終了する</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>明るい場所に戻ってください。
+自動的に再開します。撮影済みの写真は有効です。</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>光量</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>目盛りに達すれば十分です</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>終了</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>カメラを開いています…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>タブレットの電源を入れた直後は 30 秒ほどかかることがあります。</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>カメラがまだ応答しません。カメラを使用している他のプログラムを閉じるか、「終了」を押して再度起動してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>深度カメラが見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>カメラを使用している他のプログラムをすべて閉じてください。</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>タブレットの電源を切り、入れ直してください。</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>キャリブレーションを再度起動してください。それでもカメラが見つからない場合は、タブレットの修理が必要です。</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>背面カメラが見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>システムのプライバシー設定で、プログラムによるカメラの使用が許可されていることを確認してください。</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>デバイス マネージャーで、背面カメラが有効になっていることを確認してください。</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>キャリブレーションを再度起動してください。</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>背面カメラから画像が届きません。</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>背面カメラを使用している他のプログラムをすべて閉じてください。</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>カメラを覆うものがないことを確認してください。</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>キャリブレーションを再度起動してください。これまでの結果は保存されていません。</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>終了</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>深度情報が少なすぎます。数メートル先のものに向けてください。</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>保存済みのキャリブレーション</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>長押しで比較</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>続行</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>キャリブレーションをカメラに保存しています…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>プログラムは自動的に終了します。</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>タブレットの電源を切らずにお待ちください。</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>撮影の準備ができました。
+明るい日光の下で、遠くの建物や木に向けてください。</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>動かし方</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Yu Gothic UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>例</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>色が画像に合うまで、左または右にドラッグしてください。</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>色は距離を表します。近くのものの端では、色も途切れていなければなりません。</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>多くの場合、変更は不要です。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>続行</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>사진 %1을(를) 촬영했습니다.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>움직이는 방법</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>다시 시작</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>새 보정값을 찾았습니다.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>저장된 보정값 이후 컬러 카메라가 %1 회전했습니다.</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>오른쪽으로</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>왼쪽으로</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>위로</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>아래로</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>시계 방향으로 기울어짐</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>시계 반대 방향으로 기울어짐</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>이제 화면에서 확인하십시오. 수락해야만 저장됩니다.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>계속</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>움직이는 방법</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>멀리 있는 것을 향하십시오.
+건물과 나무가 좋습니다. 잔디, 하늘, 빈 벽은 너무 단순합니다. 가까이 있는 것이 화면에 나오지 않아야 합니다.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>다른 방향으로 돌리십시오.
+세부 모습이 화면의 다른 위치에 오도록 태블릿을 옆, 위 또는 아래로 조금 돌리십시오.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>화면이 깜박일 때까지 멈추십시오.
+태블릿을 잠시 움직이지 마십시오. 사진이 자동으로 촬영됩니다. 그런 다음 다시 돌리십시오.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>다음</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>보정 사진을 촬영하려면 멈추십시오.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>계속</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>햇빛이 필요함</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>햇빛이 충분하지 않습니다.
+밝고 햇빛이 드는 야외로 이동하십시오.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>햇빛이 충분함</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>이곳은 충분히 밝습니다!
+[계속]을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>컬러 카메라</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>첫 번째 컬러 카메라</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>두 번째 컬러 카메라</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>색으로 표시된 깊이 이미지를 컬러 이미지에 맞추십시오.
+컬러 카메라의 보정을 수락하려면 [계속]을 누르고, 처음부터 다시 하려면 [다시 시작]을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>색으로 표시된 깊이 이미지를 컬러 이미지에 맞추십시오.
+첫 번째 컬러 카메라의 보정을 수락하려면 [계속]을 누르고, 처음부터 다시 하려면 [다시 시작]을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>색으로 표시된 깊이 이미지를 컬러 이미지에 맞추십시오.
+두 번째 컬러 카메라의 보정을 수락하려면 [계속]을 누르고, 처음부터 다시 하려면 [다시 시작]을 누르십시오.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>보정값이 카메라에 저장되었습니다.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>지난 보정값이 카메라에 저장되지 않았습니다.
+다시 보정하십시오.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>다른 보정 사진을 촬영하려면 장치를 움직이십시오.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>사진 속 풍경이 너무 단순하여 보정할 수 없습니다.
+다시 시도하십시오. 건물이나 나무처럼 다채로운 풍경을 향하십시오.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>카메라가 보정값을 저장했다고 알렸지만 저장되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>카메라가 응답하지 않습니다</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>KXAPI 호출에 실패했습니다.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>장치가 보정되지 않았거나 보정 데이터가 잘못되었습니다.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Tarnex Deepvane 카메라에 심각한 문제가 발생했습니다.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>계속하기 전에 Tarnex Deepvane 응용 프로그램과 웹 브라우저를 모두 닫으십시오.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>이 응용 프로그램을 실행하려면 Tarnex Deepvane 카메라의 펌웨어를 업데이트해야 합니다. 펌웨어를 업데이트하고 응용 프로그램을 다시 실행하십시오.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>알 수 없는 오류가 발생했습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>카메라 보정</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>밝은 햇빛이 있는 야외로 나가십시오.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>멀리 있는 건물이나 나무를 향하십시오. 움직이고 멈추면 최대 8장의 사진이 자동으로 촬영됩니다.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>한 손가락으로 결과를 확인하고 카메라에 저장하십시오.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>약 3분이 걸립니다.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>두 카메라에 약 5분이 걸립니다.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>저장하지 않고 나가시겠습니까?
+사진과 지금까지의 결과가 사라집니다. 카메라는 이전 보정값을 유지합니다.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>나가기</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>머무르기</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>밝은 곳으로 돌아가십시오.
+자동으로 계속됩니다. 지금까지 촬영한 사진은 유효합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>빛</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>표시에 닿으면 충분함</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>종료</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>카메라를 여는 중…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>태블릿을 켠 후 30초 정도 걸릴 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>카메라가 아직 응답하지 않습니다. 카메라를 사용하는 다른 프로그램을 닫거나 [종료]를 누르고 다시 시작하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>깊이 카메라를 찾을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>카메라를 사용하는 다른 프로그램을 모두 닫으십시오.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>태블릿을 껐다가 다시 켜십시오.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>보정을 다시 시작하십시오. 그래도 카메라가 없으면 태블릿의 수리가 필요합니다.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>후면 카메라를 찾을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>시스템의 개인 정보 설정에서 프로그램의 카메라 사용이 허용되는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>장치 관리자에서 후면 카메라가 켜져 있는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>보정을 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>후면 카메라에서 영상이 나오지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>후면 카메라를 사용하는 다른 프로그램을 모두 닫으십시오.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>카메라를 가리는 것이 없는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>보정을 다시 시작하십시오. 지금까지의 결과는 저장되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>종료</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>화면에 깊이 정보가 너무 적습니다. 몇 미터 떨어진 것을 향하십시오.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>저장된 보정값</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>다시 시작</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>길게 눌러 비교</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>계속</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>보정값을 카메라에 저장하는 중…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>프로그램이 자동으로 닫힙니다.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>잠시 기다리고 태블릿을 끄지 마십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>사진을 촬영할 준비가 되었습니다.
+밝은 햇빛에서 멀리 있는 건물이나 나무를 향하십시오.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>움직이는 방법</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Malgun Gothic</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>예</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>색이 화면에 맞을 때까지 왼쪽이나 오른쪽으로 끄십시오.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>색은 거리를 나타냅니다. 가까운 것이 끝나는 곳에서 색도 끝나야 합니다.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>바꿀 것이 없는 경우가 많습니다.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>계속</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nb" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Bilde %1 er tatt.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Bevegelse</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Start på nytt</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>En ny kalibrering ble funnet.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>Fargekameraet har dreid seg %1 siden den lagrede kalibreringen:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>mot høyre</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>mot venstre</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>oppover</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>nedover</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>vippet med klokken</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>vippet mot klokken</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Kontroller den nå mot bildet. Den lagres først når du godtar den.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsett</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>Bevegelse</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Rett mot noe langt borte.
+Bygninger og trær er bra. Gress, himmel og nakne vegger er for enkle. Ingenting nært bør være med i bildet.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Snu i en annen retning.
+Drei nettbrettet litt til siden, opp eller ned, slik at detaljene havner et annet sted i bildet.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Hold stille til det blinker.
+Hold nettbrettet i ro et øyeblikk. Bildet tas automatisk. Drei deretter videre.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Lukk</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Ferdig</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Neste</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Hold stille for å ta et kalibreringsbilde.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsett</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Sollys kreves</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>Det er ikke nok sollys.
+Gå ut til et lyst, solrikt sted.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Tilstrekkelig sollys</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>Her er det lyst nok!
+Trykk på Fortsett.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Fargekamera</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Første fargekamera</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>Andre fargekamera</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Juster det fargelagte dybdebildet etter fargebildet.
+Trykk på Fortsett for å godta kalibreringen av fargekameraet. Eller trykk på Start på nytt for å begynne igjen.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Juster det fargelagte dybdebildet etter fargebildet.
+Trykk på Fortsett for å godta kalibreringen av det første fargekameraet. Eller trykk på Start på nytt for å begynne igjen.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Juster det fargelagte dybdebildet etter fargebildet.
+Trykk på Fortsett for å godta kalibreringen av det andre fargekameraet. Eller trykk på Start på nytt for å begynne igjen.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>Kalibreringen er lagret i kameraet.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>Den siste kalibreringen ble ikke lagret i kameraet.
+Kalibrer på nytt.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Flytt enheten for å ta et annet kalibreringsbilde.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>Kalibreringen lykkes ikke fordi omgivelsene på disse bildene er for enkle.
+Prøv igjen. Rett mot varierte omgivelser som bygninger eller trær.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>Kameraet meldte at kalibreringen var lagret, men det er den ikke</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>Kameraet svarer ikke</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>Et KXAPI-kall mislyktes.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>Enheten er ikke kalibrert eller har ugyldige kalibreringsdata.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Det har oppstått et alvorlig problem med Tarnex Deepvane-kameraet.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Lukk alle Tarnex Deepvane-programmer og alle nettlesere før du fortsetter.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>Fastvaren i Tarnex Deepvane-kameraet må oppdateres før dette programmet kan kjøres. Oppdater fastvaren, og start programmet på nytt.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>Det har oppstått en ukjent feil.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Kamerakalibrering</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Gå ut i sterkt sollys.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Rett mot bygninger eller trær langt borte. Beveg, hold stille, og opptil åtte bilder tas automatisk.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Kontroller resultatet med én finger, og lagre det i kameraet.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Tar omtrent tre minutter.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>Tar omtrent fem minutter for begge kameraene.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>Vil du avslutte uten å lagre?
+Bildene og resultatet så langt går tapt. Kameraet beholder den gamle kalibreringen.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Avslutt</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Bli</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>Gå tilbake til et godt opplyst sted.
+Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Lys</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>Nok lys fra merket</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Avslutt</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>Åpner kameraet…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>Dette kan ta et halvt minutt etter at nettbrettet er slått på.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>Kameraet svarer ikke ennå. Lukk andre programmer som bruker det, eller trykk på Avslutt og start på nytt.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>Dybdekameraet ble ikke funnet.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Lukk alle andre programmer som bruker et kamera.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Slå nettbrettet av og på igjen.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Start kalibreringen på nytt. Hvis kameraet fortsatt mangler, må nettbrettet på service.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>Bakkameraet ble ikke funnet.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>Kontroller i systemets personverninnstillinger at programmer kan bruke kameraet.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>Kontroller i Enhetsbehandling at bakkameraet er slått på.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Start kalibreringen på nytt.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>Bakkameraet gir ikke noe bilde.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Lukk alle andre programmer som bruker bakkameraet.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Pass på at ingenting dekker kameraet.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Start kalibreringen på nytt. Resultatet så langt er ikke lagret.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Avslutt</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>For lite dybde i bildet. Rett mot noe noen få meter unna.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Lagret kalibrering</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Start på nytt</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Hold for å sammenligne</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsett</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>Lagrer kalibreringen i kameraet…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>Programmet lukkes automatisk.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Vent, og ikke slå av nettbrettet.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Klar til å ta bilder.
+Rett mot bygninger eller trær langt borte, i sterkt sollys.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Bevegelse</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Eksempel</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Dra mot venstre eller høyre til fargene passer med bildet.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Hver farge er en avstand. Der noe nært slutter, må fargen også slutte.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>Ofte trenger ingenting å endres.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsett</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_PT" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Fotografia %1 tirada.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Como mover</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Recomeçar</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>Foi encontrada uma nova calibração.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>A câmara de cor rodou %1 desde a calibração guardada:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>para a direita</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>para a esquerda</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>para cima</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>para baixo</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>inclinada no sentido horário</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>inclinada no sentido anti-horário</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Agora, verifique-a na imagem. Só é guardada quando a aceitar.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>Como mover</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Aponte para algo distante.
+Edifícios e árvores são adequados. Relva, céu e paredes lisas são demasiado simples. Nada próximo deve aparecer na imagem.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Rode para outra direção.
+Rode um pouco o tablet para o lado, para cima ou para baixo, para que os pormenores fiquem noutro ponto da imagem.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Pare até haver um flash.
+Mantenha o tablet imóvel por um momento. A fotografia é tirada automaticamente. Depois, rode novamente.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Concluído</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Seguinte</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Pare para tirar uma fotografia de calibração.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Luz solar necessária</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>Não há luz solar suficiente.
+Desloque-se para o exterior, para um local claro e soalheiro.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Luz solar suficiente</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>Aqui há luz suficiente!
+Prima Continuar.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Câmara de cor</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Primeira câmara de cor</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>Segunda câmara de cor</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Alinhe a imagem de profundidade colorida com a imagem a cores.
+Prima Continuar para aceitar a calibração da câmara de cor, ou prima Recomeçar para voltar ao início.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Alinhe a imagem de profundidade colorida com a imagem a cores.
+Prima Continuar para aceitar a calibração da primeira câmara de cor, ou prima Recomeçar para voltar ao início.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Alinhe a imagem de profundidade colorida com a imagem a cores.
+Prima Continuar para aceitar a calibração da segunda câmara de cor, ou prima Recomeçar para voltar ao início.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>A calibração está guardada na câmara.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>A última calibração não foi guardada na câmara.
+Calibre novamente.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Mova o dispositivo para tirar outra fotografia de calibração.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>A calibração não funciona porque o cenário destas fotografias é demasiado simples.
+Tente novamente. Aponte para um cenário variado, como edifícios ou árvores.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>A câmara indicou que guardou a calibração, mas não o fez</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>A câmara não responde</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>Uma chamada KXAPI falhou.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>O dispositivo não foi calibrado ou tem dados de calibração inválidos.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Ocorreu um problema grave com a câmara Tarnex Deepvane.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Feche todas as aplicações Tarnex Deepvane e todos os navegadores Web antes de continuar.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>O firmware da sua câmara Tarnex Deepvane tem de ser atualizado antes de executar esta aplicação. Atualize o firmware e execute novamente a aplicação.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>Ocorreu um erro desconhecido.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Calibração da câmara</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Vá para o exterior, sob luz solar intensa.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Aponte para edifícios ou árvores distantes. Mova, pare, e até oito fotografias são tiradas automaticamente.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Verifique o resultado com um dedo e guarde-o na câmara.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Demora cerca de três minutos.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>Demora cerca de cinco minutos para ambas as câmaras.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>Sair sem guardar?
+As fotografias e o resultado obtido até agora serão perdidos. A câmara mantém a calibração antiga.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Sair</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Ficar</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>Regresse a um local bem iluminado.
+Continua automaticamente. As fotografias já tiradas contam.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Luz</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>Suficiente a partir da marca</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Sair</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>A abrir a câmara…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>Pode demorar meio minuto depois de o tablet ser ligado.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>A câmara ainda não responde. Feche outros programas que a utilizem, ou prima Sair e inicie novamente.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>A câmara de profundidade não foi encontrada.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Feche todos os outros programas que utilizem uma câmara.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Desligue o tablet e volte a ligá-lo.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Inicie novamente a calibração. Se a câmara continuar em falta, o tablet necessita de assistência.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>A câmara traseira não foi encontrada.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>Verifique nas definições de privacidade do sistema se os programas podem utilizar a câmara.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>Verifique no gestor de dispositivos se a câmara traseira está ativada.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Inicie novamente a calibração.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>A câmara traseira não fornece imagem.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Feche todos os outros programas que utilizem a câmara traseira.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Certifique-se de que nada tapa a câmara.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Inicie novamente a calibração. O resultado obtido até agora não está guardado.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Sair</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>Pouca profundidade visível. Aponte para algo a alguns metros de distância.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Calibração guardada</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Recomeçar</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Manter para comparar</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>A guardar a calibração na câmara…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>O programa fecha automaticamente.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Aguarde e não desligue o tablet.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Pronto para tirar fotografias.
+Aponte para edifícios ou árvores distantes, sob luz solar intensa.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Como mover</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Exemplo</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Arraste para a esquerda ou para a direita até as cores coincidirem com a imagem.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Cada cor é uma distância. Onde termina algo próximo, a cor também deve terminar.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>Muitas vezes, não é necessário alterar nada.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+</TS>

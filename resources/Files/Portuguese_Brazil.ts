@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Foto %1 tirada.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Como mover</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Recomeçar</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>Uma nova calibração foi encontrada.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>A câmera colorida girou %1 desde a calibração armazenada:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>para a direita</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>para a esquerda</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>para cima</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>para baixo</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>inclinada no sentido horário</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>inclinada no sentido anti-horário</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Agora, confira-a na imagem. Ela só é armazenada quando você a aceita.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>Como mover</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Aponte para algo distante.
+Prédios e árvores são adequados. Grama, céu e paredes lisas são simples demais. Nada próximo deve aparecer na imagem.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Gire para outra direção.
+Gire um pouco o tablet para o lado, para cima ou para baixo, para que os detalhes fiquem em outro ponto da imagem.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Pare até haver um flash.
+Mantenha o tablet parado por um momento. A foto é tirada automaticamente. Depois, gire novamente.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Concluir</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Avançar</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Pare para tirar uma foto de calibração.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Luz solar necessária</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>Não há luz solar suficiente.
+Vá para um local externo claro e ensolarado.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Luz solar suficiente</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>Aqui há luz suficiente!
+Pressione Continuar.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Câmera colorida</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Primeira câmera colorida</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>Segunda câmera colorida</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Alinhe a imagem de profundidade colorida com a imagem em cores.
+Pressione Continuar para aceitar a calibração da câmera colorida, ou Recomeçar para voltar ao início.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Alinhe a imagem de profundidade colorida com a imagem em cores.
+Pressione Continuar para aceitar a calibração da primeira câmera colorida, ou Recomeçar para voltar ao início.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Alinhe a imagem de profundidade colorida com a imagem em cores.
+Pressione Continuar para aceitar a calibração da segunda câmera colorida, ou Recomeçar para voltar ao início.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>A calibração está armazenada na câmera.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>A última calibração não foi armazenada na câmera.
+Calibre novamente.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Mova o dispositivo para tirar outra foto de calibração.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>A calibração não está funcionando porque o cenário destas fotos é simples demais.
+Tente novamente. Aponte para um cenário variado, como prédios ou árvores.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>A câmera informou que armazenou a calibração, mas não o fez</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>A câmera não responde</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>Uma chamada KXAPI falhou.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>O dispositivo não foi calibrado ou tem dados de calibração inválidos.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Ocorreu um problema grave com a câmera Tarnex Deepvane.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Feche todos os aplicativos Tarnex Deepvane e todos os navegadores da Web antes de continuar.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>O firmware da sua câmera Tarnex Deepvane precisa ser atualizado antes que este aplicativo possa ser executado. Atualize o firmware e execute o aplicativo novamente.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>Ocorreu um erro desconhecido.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Calibração da câmera</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Vá para fora, sob luz solar intensa.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Aponte para prédios ou árvores distantes. Mova, pare, e até oito fotos são tiradas automaticamente.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Confira o resultado com um dedo e armazene-o na câmera.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Leva cerca de três minutos.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>Leva cerca de cinco minutos para as duas câmeras.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>Sair sem armazenar?
+As fotos e o resultado obtido até agora serão perdidos. A câmera mantém a calibração antiga.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Sair</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Ficar</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>Volte para um local bem iluminado.
+O processo continua automaticamente. As fotos já tiradas contam.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Luz</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>Suficiente a partir da marca</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Sair</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>Abrindo a câmera…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>Isso pode levar meio minuto depois que o tablet é ligado.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>A câmera ainda não responde. Feche outros programas que a utilizam, ou pressione Sair e inicie novamente.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>A câmera de profundidade não foi encontrada.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Feche todos os outros programas que usam uma câmera.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Desligue o tablet e ligue-o novamente.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Inicie a calibração novamente. Se a câmera continuar ausente, o tablet precisa de assistência técnica.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>A câmera traseira não foi encontrada.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>Verifique nas configurações de privacidade do sistema se os programas podem usar a câmera.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>Verifique no gerenciador de dispositivos se a câmera traseira está ativada.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Inicie a calibração novamente.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>A câmera traseira não fornece imagem.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Feche todos os outros programas que usam a câmera traseira.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Verifique se nada está cobrindo a câmera.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Inicie a calibração novamente. O resultado obtido até agora não foi armazenado.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Sair</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>Pouca profundidade visível. Aponte para algo a alguns metros de distância.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Calibração armazenada</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Recomeçar</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Segure para comparar</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>Armazenando a calibração na câmera…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>O programa fecha automaticamente.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Aguarde e não desligue o tablet.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Pronto para tirar fotos.
+Aponte para prédios ou árvores distantes, sob luz solar intensa.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Como mover</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Exemplo</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Arraste para a esquerda ou para a direita até as cores coincidirem com a imagem.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Cada cor é uma distância. Onde termina algo próximo, a cor também deve terminar.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>Muitas vezes, não é preciso alterar nada.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+</TS>

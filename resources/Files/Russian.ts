@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Снимок %1 сделан.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Как двигать</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Начать заново</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>Найдена новая калибровка.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>Цветная камера повернулась на %1 относительно сохранённой калибровки:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>вправо</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>влево</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>вверх</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>вниз</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>наклон по часовой стрелке</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>наклон против часовой стрелки</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Теперь проверьте её по изображению. Она сохраняется, только если вы её примете.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Продолжить</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>Как двигать</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Направьте на что-нибудь далёкое.
+Подходят здания и деревья. Трава, небо и голые стены слишком просты. В кадре не должно быть ничего близкого.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Поверните в другую сторону.
+Слегка поверните планшет вбок, вверх или вниз, чтобы детали оказались в другом месте кадра.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Замрите до вспышки.
+Подержите планшет неподвижно. Снимок делается автоматически. Затем снова поверните.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Готово</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Далее</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Замрите, чтобы сделать калибровочный снимок.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Продолжить</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Нужен солнечный свет</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>Недостаточно солнечного света.
+Выйдите на улицу, в яркое солнечное место.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Достаточно солнечного света</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>Здесь достаточно светло!
+Нажмите «Продолжить».</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Цветная камера</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Первая цветная камера</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>Вторая цветная камера</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Совместите цветное изображение глубины с цветным снимком.
+Нажмите «Продолжить», чтобы принять калибровку цветной камеры, или «Начать заново», чтобы вернуться к началу.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Совместите цветное изображение глубины с цветным снимком.
+Нажмите «Продолжить», чтобы принять калибровку первой цветной камеры, или «Начать заново», чтобы вернуться к началу.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Совместите цветное изображение глубины с цветным снимком.
+Нажмите «Продолжить», чтобы принять калибровку второй цветной камеры, или «Начать заново», чтобы вернуться к началу.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>Калибровка сохранена в камере.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>Последняя калибровка не была сохранена в камере.
+Выполните калибровку ещё раз.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Переместите устройство, чтобы сделать другой калибровочный снимок.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>Калибровка не удаётся, потому что местность на этих снимках слишком однообразна.
+Попробуйте ещё раз. Направьте на разнообразную местность: здания или деревья.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>Камера сообщила, что сохранила калибровку, но не сделала этого</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>Камера не отвечает</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>Сбой вызова KXAPI.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>Устройство не откалибровано или содержит недопустимые данные калибровки.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Произошла серьёзная ошибка камеры Tarnex Deepvane.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Прежде чем продолжить, закройте все приложения Tarnex Deepvane и веб-браузеры.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>Для работы этого приложения требуется обновить встроенное ПО камеры Tarnex Deepvane. Обновите его и запустите приложение снова.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>Произошла неизвестная ошибка.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Калибровка камеры</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Выйдите на улицу, на яркий солнечный свет.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Направьте на далёкие здания или деревья. Двигайте и замирайте: автоматически будет сделано до восьми снимков.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Проверьте результат одним пальцем и сохраните его в камере.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Займёт около трёх минут.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>Для обеих камер займёт около пяти минут.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Начать</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>Выйти без сохранения?
+Снимки и полученный результат будут потеряны. В камере останется прежняя калибровка.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Выйти</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Остаться</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>Вернитесь в хорошо освещённое место.
+Работа продолжится автоматически. Сделанные снимки учитываются.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Свет</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>От метки света достаточно</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Выход</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>Камера открывается…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>После включения планшета это может занять полминуты.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>Камера пока не отвечает. Закройте другие программы, которые её используют, или нажмите «Выход» и запустите снова.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>Камера глубины не найдена.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Закройте все другие программы, использующие камеру.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Выключите планшет и снова включите его.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Запустите калибровку снова. Если камера по-прежнему не найдена, планшету требуется обслуживание.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>Задняя камера не найдена.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>Проверьте в параметрах конфиденциальности системы, что программам разрешено использовать камеру.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>Проверьте в диспетчере устройств, что задняя камера включена.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Запустите калибровку снова.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>Задняя камера не даёт изображения.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Закройте все другие программы, использующие заднюю камеру.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Убедитесь, что камеру ничто не закрывает.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Запустите калибровку снова. Полученный результат не сохранён.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Выход</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>В кадре слишком мало глубины. Направьте на что-нибудь в нескольких метрах.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Сохранённая калибровка</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Начать заново</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Удерживать для сравнения</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Продолжить</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>Калибровка сохраняется в камере…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>Программа закроется автоматически.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Подождите и не выключайте планшет.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Всё готово к съёмке.
+Направьте на далёкие здания или деревья при ярком солнечном свете.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Как двигать</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Начать</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Пример</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Тяните влево или вправо, пока цвета не совпадут с изображением.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Каждый цвет — это расстояние. Где кончается близкий предмет, там должен кончаться и цвет.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>Часто ничего менять не нужно.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Продолжить</translation>
+    </message>
+</context>
+</TS>

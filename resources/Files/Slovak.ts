@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sk" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Snímka %1 zhotovená.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Ako sa pohybovať</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Začať znova</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>Našla sa nová kalibrácia.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>Farebná kamera sa od uloženej kalibrácie otočila o %1:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>doprava</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>doľava</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>nahor</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>nadol</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>naklonená v smere hodín</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>naklonená proti smeru hodín</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Teraz ju skontrolujte podľa obrazu. Uloží sa, až keď ju prijmete.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Pokračovať</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>Ako sa pohybovať</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Namierte na niečo vzdialené.
+Vhodné sú budovy a stromy. Tráva, obloha a holé steny sú príliš jednoduché. V obraze by nemalo byť nič blízke.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Otočte sa iným smerom.
+Pootočte tablet trochu nabok, nahor alebo nadol, aby sa detaily dostali na iné miesto v obraze.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Počkajte, kým sa zablysne.
+Chvíľu držte tablet v pokoji. Snímka sa zhotoví sama. Potom znova pootočte.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zavrieť</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hotovo</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Ďalej</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Zastavte sa, aby sa zhotovila kalibračná snímka.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Pokračovať</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Vyžaduje sa slnečné svetlo</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>Slnečného svetla nie je dosť.
+Prejdite von na svetlé, slnečné miesto.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Dostatok slnečného svetla</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>Tu je dosť svetla!
+Stlačte Pokračovať.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Farebná kamera</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Prvá farebná kamera</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>Druhá farebná kamera</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Zarovnajte farebný hĺbkový obraz s farebným obrazom.
+Stlačením Pokračovať prijmete kalibráciu farebnej kamery. Stlačením Začať znova sa vrátite na začiatok.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Zarovnajte farebný hĺbkový obraz s farebným obrazom.
+Stlačením Pokračovať prijmete kalibráciu prvej farebnej kamery. Stlačením Začať znova sa vrátite na začiatok.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Zarovnajte farebný hĺbkový obraz s farebným obrazom.
+Stlačením Pokračovať prijmete kalibráciu druhej farebnej kamery. Stlačením Začať znova sa vrátite na začiatok.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>Kalibrácia je uložená v kamere.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>Posledná kalibrácia sa neuložila do kamery.
+Vykonajte kalibráciu znova.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Pohnite zariadením, aby sa zhotovila iná kalibračná snímka.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>Kalibrácia sa nedarí, pretože scéna na týchto snímkach je príliš jednoduchá.
+Skúste to znova. Namierte na rozmanitú scénu, napríklad na budovy alebo stromy.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>Kamera ohlásila uloženie kalibrácie, ale neuložila ju</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>Kamera neodpovedá</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>Volanie KXAPI zlyhalo.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>Zariadenie nebolo kalibrované alebo má neplatné kalibračné údaje.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Pri kamere Tarnex Deepvane sa vyskytla závažná chyba.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Skôr než budete pokračovať, zavrite všetky aplikácie Tarnex Deepvane a všetky webové prehliadače.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>Pred spustením tejto aplikácie treba aktualizovať firmvér kamery Tarnex Deepvane. Aktualizujte firmvér a spustite aplikáciu znova.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>Vyskytla sa neznáma chyba.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Kalibrácia kamery</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Choďte von na jasné slnko.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Namierte na vzdialené budovy alebo stromy. Pohnite sa, zastavte sa a až osem snímok sa zhotoví samo.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Skontrolujte výsledok jedným prstom a uložte ho do kamery.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Trvá asi tri minúty.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>Trvá asi päť minút pre obe kamery.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Spustiť</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>Odísť bez uloženia?
+Snímky a doterajší výsledok sa stratia. Kamera si ponechá starú kalibráciu.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Odísť</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Zostať</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>Vráťte sa na dobre osvetlené miesto.
+Pokračuje sa automaticky. Doteraz zhotovené snímky sa počítajú.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Svetlo</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>Od značky je svetla dosť</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Ukončiť</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>Otvára sa kamera…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>Po zapnutí tabletu to môže trvať pol minúty.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>Kamera zatiaľ neodpovedá. Zavrite ostatné programy, ktoré ju používajú, alebo stlačte Ukončiť a spustite program znova.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>Hĺbková kamera sa nenašla.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Zavrite všetky ostatné programy, ktoré používajú kameru.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Vypnite tablet a znova ho zapnite.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Spustite kalibráciu znova. Ak kamera stále chýba, tablet potrebuje servis.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>Zadná kamera sa nenašla.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>V nastaveniach súkromia systému skontrolujte, či programy smú používať kameru.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>V Správcovi zariadení skontrolujte, či je zadná kamera zapnutá.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Spustite kalibráciu znova.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>Zadná kamera nedodáva obraz.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Zavrite všetky ostatné programy, ktoré používajú zadnú kameru.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Uistite sa, že kameru nič nezakrýva.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Spustite kalibráciu znova. Doterajší výsledok nie je uložený.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Ukončiť</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>V zábere je málo hĺbky. Namierte na niečo vzdialené niekoľko metrov.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Uložená kalibrácia</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Začať znova</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Podržaním porovnať</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Pokračovať</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>Kalibrácia sa ukladá do kamery…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>Program sa zavrie sám.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Počkajte, prosím, a nevypínajte tablet.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Všetko je pripravené.
+Namierte na vzdialené budovy alebo stromy za jasného slnka.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Ako sa pohybovať</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Spustiť</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Príklad</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Ťahajte doľava alebo doprava, kým farby nesúhlasia s obrazom.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Každá farba je vzdialenosť. Kde sa končí niečo blízke, musí sa končiť aj farba.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>Často netreba nič meniť.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Pokračovať</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Foto %1 tomada.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Cómo mover</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Reiniciar</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>Se ha encontrado una nueva calibración.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>La cámara de color ha girado %1 desde la calibración guardada:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>hacia la derecha</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>hacia la izquierda</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>hacia arriba</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>hacia abajo</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>inclinada en sentido horario</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>inclinada en sentido antihorario</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Ahora compruébela con la imagen. Solo se guarda cuando usted la acepta.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>Cómo mover</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Apunte a algo lejano.
+Los edificios y los árboles son adecuados. La hierba, el cielo y las paredes lisas son demasiado simples. No debe haber nada cercano en la imagen.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Gire hacia otra dirección.
+Gire un poco la tableta hacia un lado, hacia arriba o hacia abajo para que los detalles queden en otra parte de la imagen.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Deténgase hasta que destelle.
+Mantenga la tableta quieta un momento. La foto se toma automáticamente. Después, gire de nuevo.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Siguiente</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Deténgase para tomar una foto de calibración.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Se requiere luz solar</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>No hay suficiente luz solar.
+Salga a un lugar claro y soleado.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Luz solar suficiente</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>¡Aquí hay suficiente luz!
+Pulse Continuar.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Cámara de color</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Primera cámara de color</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>Segunda cámara de color</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Alinee la imagen de profundidad coloreada con la imagen en color.
+Pulse Continuar para aceptar la calibración de la cámara de color, o pulse Reiniciar para volver a empezar.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Alinee la imagen de profundidad coloreada con la imagen en color.
+Pulse Continuar para aceptar la calibración de la primera cámara de color, o pulse Reiniciar para volver a empezar.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Alinee la imagen de profundidad coloreada con la imagen en color.
+Pulse Continuar para aceptar la calibración de la segunda cámara de color, o pulse Reiniciar para volver a empezar.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>La calibración está guardada en la cámara.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>La última calibración no se guardó en la cámara.
+Calibre de nuevo.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Mueva el dispositivo para tomar otra foto de calibración.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>La calibración no funciona porque el entorno de estas fotos es demasiado simple.
+Inténtelo de nuevo. Apunte a un entorno variado, como edificios o árboles.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>La cámara indicó que había guardado la calibración, pero no lo hizo</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>La cámara no responde</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>Ha fallado una llamada de KXAPI.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>El dispositivo no se ha calibrado o tiene datos de calibración no válidos.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Se ha producido un problema grave con la cámara Tarnex Deepvane.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Cierre todas las aplicaciones de Tarnex Deepvane y todos los navegadores web antes de continuar.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>Es necesario actualizar el firmware de la cámara Tarnex Deepvane para ejecutar esta aplicación. Actualice el firmware y ejecute la aplicación de nuevo.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>Se ha producido un error desconocido.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Calibración de la cámara</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Salga al exterior, a plena luz del sol.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Apunte a edificios o árboles lejanos. Mueva, deténgase y se tomarán automáticamente hasta ocho fotos.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Compruebe el resultado con un dedo y guárdelo en la cámara.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Tarda unos tres minutos.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>Tarda unos cinco minutos para ambas cámaras.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>¿Salir sin guardar?
+Se perderán las fotos y lo encontrado hasta ahora. La cámara conserva su calibración anterior.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Quedarse</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>Vuelva a un lugar bien iluminado.
+Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Luz</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>Suficiente a partir de la marca</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>Abriendo la cámara…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>Puede tardar medio minuto después de encender la tableta.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>La cámara aún no responde. Cierre otros programas que la utilicen, o pulse Salir e inicie de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>No se encontró la cámara de profundidad.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Cierre todos los demás programas que utilicen una cámara.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Apague la tableta y vuelva a encenderla.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Inicie la calibración de nuevo. Si la cámara sigue sin aparecer, la tableta necesita servicio técnico.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>No se encontró la cámara trasera.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>Compruebe en la configuración de privacidad del sistema que los programas pueden usar la cámara.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>Compruebe en el administrador de dispositivos que la cámara trasera está activada.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Inicie la calibración de nuevo.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>La cámara trasera no proporciona imagen.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Cierre todos los demás programas que utilicen la cámara trasera.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Asegúrese de que nada cubra la cámara.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Inicie la calibración de nuevo. Lo encontrado hasta ahora no se ha guardado.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>Hay muy poca profundidad visible. Apunte a algo situado a unos metros.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Calibración guardada</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Reiniciar</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Mantener para comparar</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>Guardando la calibración en la cámara…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>El programa se cierra automáticamente.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Espere y no apague la tableta.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Listo para tomar fotos.
+Apunte a edificios o árboles lejanos, a plena luz del sol.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Cómo mover</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Ejemplo</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Arrastre hacia la izquierda o la derecha hasta que los colores coincidan con la imagen.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Cada color es una distancia. Donde termina algo cercano, también debe terminar el color.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>A menudo no es necesario cambiar nada.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+</TS>

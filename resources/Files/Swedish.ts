@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sv" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Foto %1 har tagits.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Så rör du dig</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Börja om</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>En ny kalibrering har hittats.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>Färgkameran har vridits %1 sedan den lagrade kalibreringen:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>åt höger</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>åt vänster</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>uppåt</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>nedåt</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>lutad medurs</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>lutad moturs</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Kontrollera den nu mot bilden. Den lagras först när du godkänner den.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsätt</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>Så rör du dig</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Rikta mot något långt bort.
+Byggnader och träd är bra. Gräs, himmel och kala väggar är för enkla. Inget nära bör finnas i bilden.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Vrid åt ett annat håll.
+Vrid surfplattan lite åt sidan, uppåt eller nedåt så att detaljerna hamnar någon annanstans i bilden.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Håll stilla tills det blinkar.
+Håll surfplattan stilla en stund. Fotot tas automatiskt. Vrid sedan igen.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Stäng</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Klart</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nästa</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Håll stilla för att ta ett kalibreringsfoto.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsätt</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Solljus krävs</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>Det finns inte tillräckligt med solljus.
+Gå ut till en ljus, solig plats.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Tillräckligt med solljus</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>Här är det ljust nog!
+Tryck på Fortsätt.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Färgkamera</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Första färgkameran</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>Andra färgkameran</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Passa in den färgade djupbilden mot färgbilden.
+Tryck på Fortsätt för att godkänna kalibreringen av färgkameran. Eller tryck på Börja om för att starta från början.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Passa in den färgade djupbilden mot färgbilden.
+Tryck på Fortsätt för att godkänna kalibreringen av den första färgkameran. Eller tryck på Börja om för att starta från början.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Passa in den färgade djupbilden mot färgbilden.
+Tryck på Fortsätt för att godkänna kalibreringen av den andra färgkameran. Eller tryck på Börja om för att starta från början.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>Kalibreringen är lagrad i kameran.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>Den senaste kalibreringen lagrades inte i kameran.
+Kalibrera igen.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Flytta enheten för att ta ett annat kalibreringsfoto.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>Kalibreringen lyckas inte eftersom omgivningen på dessa foton är för enkel.
+Försök igen. Rikta mot en omväxlande omgivning som byggnader eller träd.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>Kameran meddelade att kalibreringen lagrades, men det gjorde den inte</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>Kameran svarar inte</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>Ett KXAPI-anrop misslyckades.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>Enheten har inte kalibrerats eller har ogiltiga kalibreringsdata.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Ett allvarligt problem har uppstått med Tarnex Deepvane-kameran.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Stäng alla Tarnex Deepvane-program och alla webbläsare innan du fortsätter.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>Den fasta programvaran i din Tarnex Deepvane-kamera måste uppdateras innan det här programmet kan köras. Uppdatera den och starta programmet igen.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>Ett okänt fel har inträffat.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Kamerakalibrering</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Gå ut i starkt solljus.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Rikta mot byggnader eller träd långt bort. Rör, håll stilla, och upp till åtta foton tas automatiskt.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Kontrollera resultatet med ett finger och lagra det i kameran.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Tar ungefär tre minuter.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>Tar ungefär fem minuter för båda kamerorna.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starta</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>Vill du avsluta utan att lagra?
+Fotona och resultatet hittills går förlorade. Kameran behåller sin gamla kalibrering.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Avsluta</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Stanna kvar</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>Gå tillbaka till en väl upplyst plats.
+Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Ljus</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>Tillräckligt vid markeringen</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Avsluta</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>Öppnar kameran…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>Det kan ta en halv minut efter att surfplattan har slagits på.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>Kameran svarar inte ännu. Stäng andra program som använder den, eller tryck på Avsluta och starta igen.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>Djupkameran hittades inte.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Stäng alla andra program som använder en kamera.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Stäng av surfplattan och slå på den igen.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Starta kalibreringen igen. Om kameran fortfarande saknas behöver surfplattan service.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>Den bakre kameran hittades inte.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>Kontrollera i systemets sekretessinställningar att program får använda kameran.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>Kontrollera i Enhetshanteraren att den bakre kameran är påslagen.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Starta kalibreringen igen.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>Den bakre kameran ger ingen bild.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Stäng alla andra program som använder den bakre kameran.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Se till att inget täcker kameran.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Starta kalibreringen igen. Resultatet hittills är inte lagrat.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Avsluta</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>För lite djup i bilden. Rikta mot något några meter bort.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Lagrad kalibrering</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Börja om</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Håll för att jämföra</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsätt</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>Lagrar kalibreringen i kameran…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>Programmet stängs automatiskt.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Vänta, och stäng inte av surfplattan.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Klart att ta foton.
+Rikta mot byggnader eller träd långt bort, i starkt solljus.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Så rör du dig</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starta</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Exempel</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Dra åt vänster eller höger tills färgerna stämmer med bilden.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Varje färg är ett avstånd. Där något nära slutar måste också färgen sluta.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>Ofta behöver ingenting ändras.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsätt</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="th" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>ถ่ายภาพที่ %1 แล้ว</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>วิธี​เคลื่อนที่</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>เริ่มใหม่</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>พบค่า​การ​ปรับเทียบ​ใหม่แล้ว</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>กล้องสี​หมุนไป %1 นับจาก​การ​ปรับเทียบ​ที่บันทึกไว้:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>ไปทางขวา</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>ไปทางซ้าย</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>ขึ้นด้านบน</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>ลงด้านล่าง</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>เอียง​ตามเข็ม​นาฬิกา</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>เอียง​ทวนเข็ม​นาฬิกา</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>จากนั้น​ตรวจสอบ​กับภาพ ค่าจะถูก​บันทึก​เมื่อคุณ​ยอมรับ​เท่านั้น</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>ดำเนินการต่อ</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>วิธี​เคลื่อนที่</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>เล็งไปที่​สิ่งที่​อยู่ไกล
+อาคาร​และต้นไม้​เหมาะสม หญ้า ท้องฟ้า และผนัง​โล่ง​เรียบง่าย​เกินไป ไม่ควรมี​สิ่งที่​อยู่ใกล้​ในภาพ</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>หันไป​ทิศทางอื่น
+หมุน​แท็บเล็ต​เล็กน้อย​ไปด้านข้าง ขึ้น หรือลง เพื่อให้​รายละเอียด​ไปอยู่​ตำแหน่งอื่น​ในภาพ</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>หยุด​จนกว่า​หน้าจอ​จะกะพริบ
+ถือ​แท็บเล็ต​ให้นิ่ง​สักครู่ ระบบจะ​ถ่ายภาพ​โดยอัตโนมัติ จากนั้น​หมุน​อีกครั้ง</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>ปิด</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>เสร็จสิ้น</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>ถัดไป</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>หยุดนิ่ง​เพื่อ​ถ่ายภาพ​ปรับเทียบ</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>ดำเนินการต่อ</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>ต้องมี​แสงแดด</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>แสงแดด​ไม่เพียงพอ
+โปรด​ออกไป​ด้านนอก​ยังบริเวณ​ที่สว่าง​และมี​แสงแดด</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>แสงแดด​เพียงพอ</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>ที่นี่​สว่าง​เพียงพอแล้ว
+กด “ดำเนินการต่อ”</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>กล้องสี</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>กล้องสี​ตัวแรก</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>กล้องสี​ตัวที่สอง</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>จัด​ภาพ​ความลึก​ที่มีสี​ให้ตรง​กับภาพสี
+กด “ดำเนินการต่อ” เพื่อ​ยอมรับ​การ​ปรับเทียบ​กล้องสี หรือกด “เริ่มใหม่” เพื่อ​เริ่มต้น​อีกครั้ง</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>จัด​ภาพ​ความลึก​ที่มีสี​ให้ตรง​กับภาพสี
+กด “ดำเนินการต่อ” เพื่อ​ยอมรับ​การ​ปรับเทียบ​กล้องสี​ตัวแรก หรือกด “เริ่มใหม่” เพื่อ​เริ่มต้น​อีกครั้ง</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>จัด​ภาพ​ความลึก​ที่มีสี​ให้ตรง​กับภาพสี
+กด “ดำเนินการต่อ” เพื่อ​ยอมรับ​การ​ปรับเทียบ​กล้องสี​ตัวที่สอง หรือกด “เริ่มใหม่” เพื่อ​เริ่มต้น​อีกครั้ง</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>บันทึก​ค่า​การ​ปรับเทียบ​ในกล้องแล้ว</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>ค่า​การ​ปรับเทียบ​ครั้งล่าสุด​ไม่ได้​บันทึก​ในกล้อง
+โปรด​ปรับเทียบ​อีกครั้ง</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>เคลื่อน​อุปกรณ์​เพื่อ​ถ่ายภาพ​ปรับเทียบ​อีกภาพ</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>ปรับเทียบ​ไม่ได้ เนื่องจาก​ทิวทัศน์​ในภาพ​เหล่านี้​เรียบง่าย​เกินไป
+โปรดลอง​อีกครั้ง เล็งไปที่​ทิวทัศน์​ที่มี​รายละเอียด เช่น อาคาร​หรือต้นไม้</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>กล้อง​แจ้งว่า​บันทึก​ค่า​การ​ปรับเทียบแล้ว แต่ไม่ได้​บันทึก</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>กล้อง​ไม่ตอบสนอง</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>การเรียก KXAPI ล้มเหลว</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>อุปกรณ์​ยังไม่ได้​ปรับเทียบ​หรือมี​ข้อมูล​การ​ปรับเทียบ​ที่ไม่​ถูกต้อง</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>เกิดปัญหา​ร้ายแรง​กับกล้อง Tarnex Deepvane</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>โปรดปิด​แอปพลิเคชัน Tarnex Deepvane และเว็บ​เบราว์เซอร์​ทั้งหมด​ก่อน​ดำเนินการต่อ</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>ต้อง​อัปเดต​เฟิร์มแวร์​ของกล้อง Tarnex Deepvane ก่อนจึงจะ​ใช้​แอปพลิเคชัน​นี้ได้ โปรด​อัปเดต​เฟิร์มแวร์​แล้วเรียกใช้​แอปพลิเคชัน​อีกครั้ง</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>เกิด​ข้อผิดพลาด​ที่ไม่รู้จัก</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>การ​ปรับเทียบ​กล้อง</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>ออกไป​กลางแจ้ง​ในแสงแดด​จ้า</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>เล็งไปที่​อาคาร​หรือต้นไม้​ที่อยู่ไกล เคลื่อนที่ หยุดนิ่ง แล้วระบบ​จะถ่ายภาพ​โดยอัตโนมัติ​สูงสุด​แปดภาพ</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>ตรวจสอบ​ผลลัพธ์​ด้วย​นิ้วเดียว แล้ว​บันทึก​ลงในกล้อง</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>ใช้เวลา​ประมาณ​สามนาที</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>ใช้เวลา​ประมาณ​ห้านาที​สำหรับ​กล้อง​ทั้งสองตัว</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>เริ่ม</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>ออก​โดยไม่​บันทึกหรือไม่
+ภาพถ่าย​และผลลัพธ์​ที่พบ​จะหายไป กล้อง​จะเก็บ​ค่า​การ​ปรับเทียบ​เดิมไว้</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>ออก</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>อยู่ต่อ</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>กลับไป​ยังบริเวณ​ที่มี​แสงเพียงพอ
+ระบบ​จะดำเนินการ​ต่อ​โดยอัตโนมัติ ภาพ​ที่ถ่ายแล้ว​ยังใช้ได้</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>แสง</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>แสงพอ​เมื่อถึง​เครื่องหมาย</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>ออก</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>กำลัง​เปิดกล้อง…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>อาจใช้​เวลา​ครึ่งนาที​หลังจาก​เปิด​แท็บเล็ต</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>กล้อง​ยังไม่​ตอบสนอง โปรดปิด​โปรแกรมอื่น​ที่ใช้กล้อง หรือกด “ออก” แล้ว​เริ่ม​อีกครั้ง</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>ไม่พบ​กล้อง​วัดความลึก</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>ปิด​โปรแกรมอื่น​ทั้งหมด​ที่ใช้กล้อง</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>ปิด​แท็บเล็ต​แล้วเปิด​อีกครั้ง</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>เริ่ม​การ​ปรับเทียบ​อีกครั้ง หากยัง​ไม่พบ​กล้อง ต้องส่ง​แท็บเล็ต​เข้ารับ​บริการ</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>ไม่พบ​กล้องหลัง</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>ตรวจสอบ​ใน​การตั้งค่า​ความเป็น​ส่วนตัว​ของระบบ​ว่าโปรแกรม​ได้รับ​อนุญาต​ให้ใช้กล้อง</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>ตรวจสอบ​ในตัว​จัดการ​อุปกรณ์​ว่าเปิดใช้​กล้องหลัง​อยู่</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>เริ่ม​การ​ปรับเทียบ​อีกครั้ง</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>กล้องหลัง​ไม่ส่ง​ภาพ</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>ปิด​โปรแกรมอื่น​ทั้งหมด​ที่ใช้​กล้องหลัง</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>ตรวจสอบ​ว่าไม่มี​สิ่งใด​บังกล้อง</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>เริ่ม​การ​ปรับเทียบ​อีกครั้ง ผลลัพธ์​ที่พบ​จนถึง​ตอนนี้​ไม่ได้​บันทึก</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>ออก</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>มีข้อมูล​ความลึก​ในภาพ​น้อยเกินไป เล็งไปที่​สิ่งที่​อยู่ห่าง​ไม่กี่เมตร</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>การ​ปรับเทียบ​ที่บันทึกไว้</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>เริ่มใหม่</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>กดค้าง​เพื่อ​เปรียบเทียบ</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>ดำเนินการต่อ</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>กำลัง​บันทึก​ค่า​การ​ปรับเทียบ​ลงในกล้อง…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>โปรแกรม​จะปิด​โดยอัตโนมัติ</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>โปรดรอ และ​อย่าปิด​แท็บเล็ต</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>พร้อม​ถ่ายภาพ
+เล็งไปที่​อาคาร​หรือต้นไม้​ที่อยู่ไกล ในแสงแดด​จ้า</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>วิธี​เคลื่อนที่</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>เริ่ม</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Leelawadee UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>ตัวอย่าง</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>ลากไป​ทางซ้าย​หรือขวา​จนกว่าสี​จะตรง​กับภาพ</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>สี​แต่ละสี​คือ​ระยะทาง สีต้อง​สิ้นสุด​ตรงที่​สิ่งที่​อยู่ใกล้​สิ้นสุด</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>บ่อยครั้ง​ไม่จำเป็น​ต้องเปลี่ยน​อะไร</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>ดำเนินการต่อ</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr" sourcelanguage="en">
+<context>
+    <name>CaptureScreen</name>
+    <message>
+        <source>Photo %1 taken.</source>
+        <translation>Fotoğraf %1 çekildi.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Nasıl hareket edilir</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Baştan başla</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionReadout</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>FoundScreen</name>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>A new calibration was found.</source>
+        <translation>Yeni bir kalibrasyon bulundu.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned by %1 since the stored calibration:</source>
+        <translation>Renkli kamera, kayıtlı kalibrasyondan bu yana %1 döndü:</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>sağa</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>sola</translation>
+    </message>
+    <message>
+        <source>upwards</source>
+        <translation>yukarı</translation>
+    </message>
+    <message>
+        <source>downwards</source>
+        <translation>aşağı</translation>
+    </message>
+    <message>
+        <source>tilted clockwise</source>
+        <translation>saat yönünde eğik</translation>
+    </message>
+    <message>
+        <source>tilted counterclockwise</source>
+        <translation>saat yönünün tersine eğik</translation>
+    </message>
+    <message>
+        <source>Next, check it against the picture. It is stored only when you accept it.</source>
+        <translation>Şimdi görüntü üzerinde kontrol edin. Yalnızca siz kabul ettiğinizde kaydedilir.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Devam</translation>
+    </message>
+</context>
+<context>
+    <name>HowToMove</name>
+    <message>
+        <source>How to move</source>
+        <translation>Nasıl hareket edilir</translation>
+    </message>
+    <message>
+        <source>Point at something far away.
+Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
+        <translation>Uzaktaki bir şeye doğrultun.
+Binalar ve ağaçlar uygundur. Çimen, gökyüzü ve çıplak duvarlar fazla basittir. Görüntüde yakın hiçbir şey olmamalıdır.</translation>
+    </message>
+    <message>
+        <source>Turn to another direction.
+Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
+        <translation>Başka bir yöne çevirin.
+Ayrıntılar görüntünün başka bir yerine gelecek şekilde tableti biraz yana, yukarı veya aşağı çevirin.</translation>
+    </message>
+    <message>
+        <source>Pause until it flashes.
+Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
+        <translation>Yanıp sönene kadar durun.
+Tableti bir süre sabit tutun. Fotoğraf kendiliğinden çekilir. Sonra yeniden çevirin.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Bitti</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>İleri</translation>
+    </message>
+</context>
+<context>
+    <name>Interface</name>
+    <message>
+        <source>Pause to capture a calibration photo.</source>
+        <translation>Kalibrasyon fotoğrafı çekmek için durun.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Devam</translation>
+    </message>
+    <message>
+        <source>Sunlight Required</source>
+        <translation>Güneş ışığı gerekli</translation>
+    </message>
+    <message>
+        <source>There is not enough sunlight.
+Move outside to a bright, sunlit area.</source>
+        <translation>Yeterli güneş ışığı yok.
+Dışarıda aydınlık, güneşli bir yere gidin.</translation>
+    </message>
+    <message>
+        <source>Sufficient Sunlight</source>
+        <translation>Güneş ışığı yeterli</translation>
+    </message>
+    <message>
+        <source>It&apos;s bright enough here!
+Press continue.</source>
+        <translation>Burası yeterince aydınlık!
+Devam’a basın.</translation>
+    </message>
+    <message>
+        <source>Color Camera</source>
+        <translation>Renkli kamera</translation>
+    </message>
+    <message>
+        <source>First Color Camera</source>
+        <translation>Birinci renkli kamera</translation>
+    </message>
+    <message>
+        <source>Second Color Camera</source>
+        <translation>İkinci renkli kamera</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
+        <translation>Renklendirilmiş derinlik görüntüsünü renkli görüntüyle hizalayın.
+Renkli kameranın kalibrasyonunu kabul etmek için Devam’a basın. Yeniden başlamak için Baştan başla’ya basın.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
+        <translation>Renklendirilmiş derinlik görüntüsünü renkli görüntüyle hizalayın.
+Birinci renkli kameranın kalibrasyonunu kabul etmek için Devam’a basın. Yeniden başlamak için Baştan başla’ya basın.</translation>
+    </message>
+    <message>
+        <source>Align the colorful depth image with the color image.
+Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
+        <translation>Renklendirilmiş derinlik görüntüsünü renkli görüntüyle hizalayın.
+İkinci renkli kameranın kalibrasyonunu kabul etmek için Devam’a basın. Yeniden başlamak için Baştan başla’ya basın.</translation>
+    </message>
+    <message>
+        <source>The calibration is stored in the camera.</source>
+        <translation>Kalibrasyon kameraya kaydedildi.</translation>
+    </message>
+    <message>
+        <source>The last calibration was not stored in the camera.
+Please calibrate again.</source>
+        <translation>Son kalibrasyon kameraya kaydedilmedi.
+Lütfen yeniden kalibre edin.</translation>
+    </message>
+    <message>
+        <source>Move the device to capture a different calibration photo.</source>
+        <translation>Farklı bir kalibrasyon fotoğrafı çekmek için cihazı hareket ettirin.</translation>
+    </message>
+    <message>
+        <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
+Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
+        <translation>Bu fotoğraflardaki manzara fazla basit olduğu için kalibrasyon yapılamıyor.
+Yeniden deneyin. Binalar veya ağaçlar gibi ayrıntılı bir manzaraya doğrultun.</translation>
+    </message>
+    <message>
+        <source>The camera said that it stored the calibration, but it did not</source>
+        <translation>Kamera kalibrasyonu kaydettiğini bildirdi, ancak kaydetmedi</translation>
+    </message>
+    <message>
+        <source>The camera does not answer</source>
+        <translation>Kamera yanıt vermiyor</translation>
+    </message>
+    <message>
+        <source>A KXAPI call failed.</source>
+        <translation>Bir KXAPI çağrısı başarısız oldu.</translation>
+    </message>
+    <message>
+        <source>The device has not been calibrated or has invalid calibration data.</source>
+        <translation>Cihaz kalibre edilmemiş veya geçersiz kalibrasyon verileri içeriyor.</translation>
+    </message>
+    <message>
+        <source>Something bad has happened with the Tarnex Deepvane camera.</source>
+        <translation>Tarnex Deepvane kamerada ciddi bir sorun oluştu.</translation>
+    </message>
+    <message>
+        <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
+        <translation>Devam etmeden önce lütfen tüm Tarnex Deepvane uygulamalarını ve web tarayıcılarını kapatın.</translation>
+    </message>
+    <message>
+        <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
+        <translation>Bu uygulamanın çalışabilmesi için Tarnex Deepvane kameranızın üretici yazılımının güncelleştirilmesi gerekiyor. Lütfen üretici yazılımını güncelleştirin ve uygulamayı yeniden çalıştırın.</translation>
+    </message>
+    <message>
+        <source>An unknown error has occured.</source>
+        <translation>Bilinmeyen bir hata oluştu.</translation>
+    </message>
+</context>
+<context>
+    <name>IntroductionScreen</name>
+    <message>
+        <source>Camera calibration</source>
+        <translation>Kamera kalibrasyonu</translation>
+    </message>
+    <message>
+        <source>Go outside into bright sunlight.</source>
+        <translation>Dışarıya, parlak güneş ışığına çıkın.</translation>
+    </message>
+    <message>
+        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Uzaktaki binalara veya ağaçlara doğrultun. Hareket ettirin, durun; en fazla sekiz fotoğraf kendiliğinden çekilir.</translation>
+    </message>
+    <message>
+        <source>Check the result with one finger, and store it in the camera.</source>
+        <translation>Sonucu tek parmakla kontrol edin ve kameraya kaydedin.</translation>
+    </message>
+    <message>
+        <source>Takes about three minutes.</source>
+        <translation>Yaklaşık üç dakika sürer.</translation>
+    </message>
+    <message>
+        <source>Takes about five minutes for both cameras.</source>
+        <translation>İki kamera için yaklaşık beş dakika sürer.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Başlat</translation>
+    </message>
+</context>
+<context>
+    <name>LeaveQuestion</name>
+    <message>
+        <source>Leave without storing?
+The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
+        <translation>Kaydetmeden çıkılsın mı?
+Fotoğraflar ve şu ana kadar bulunan sonuç kaybolur. Kamera eski kalibrasyonunu korur.</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Çık</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Kal</translation>
+    </message>
+</context>
+<context>
+    <name>LightPopup</name>
+    <message>
+        <source>Return to a well lit area.
+It goes on by itself. The photos taken so far count.</source>
+        <translation>İyi aydınlatılmış bir yere dönün.
+İşlem kendiliğinden devam eder. Çekilen fotoğraflar geçerlidir.</translation>
+    </message>
+</context>
+<context>
+    <name>LightingScreen</name>
+    <message>
+        <source>Light</source>
+        <translation>Işık</translation>
+    </message>
+    <message>
+        <source>Enough light at the mark</source>
+        <translation>İşaretten sonra ışık yeterli</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeScreen</name>
+    <message>
+        <source>Exit</source>
+        <translation>Çıkış</translation>
+    </message>
+</context>
+<context>
+    <name>OpeningScreen</name>
+    <message>
+        <source>Opening the camera…</source>
+        <translation>Kamera açılıyor…</translation>
+    </message>
+    <message>
+        <source>This can take half a minute after the tablet was switched on.</source>
+        <translation>Tablet açıldıktan sonra bu yarım dakika sürebilir.</translation>
+    </message>
+    <message>
+        <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
+        <translation>Kamera henüz yanıt vermiyor. Kamerayı kullanan diğer programları kapatın veya Çıkış’a basıp yeniden başlatın.</translation>
+    </message>
+</context>
+<context>
+    <name>Pages</name>
+    <message>
+        <source>The depth camera was not found.</source>
+        <translation>Derinlik kamerası bulunamadı.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses a camera.</source>
+        <translation>Kamera kullanan diğer tüm programları kapatın.</translation>
+    </message>
+    <message>
+        <source>Switch the tablet off and on again.</source>
+        <translation>Tableti kapatıp yeniden açın.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
+        <translation>Kalibrasyonu yeniden başlatın. Kamera hâlâ bulunamıyorsa tabletin servise gitmesi gerekir.</translation>
+    </message>
+    <message>
+        <source>The rear camera was not found.</source>
+        <translation>Arka kamera bulunamadı.</translation>
+    </message>
+    <message>
+        <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
+        <translation>Sistemin gizlilik ayarlarından programların kamerayı kullanmasına izin verildiğini kontrol edin.</translation>
+    </message>
+    <message>
+        <source>Check in the device manager that the rear camera is switched on.</source>
+        <translation>Aygıt Yöneticisi’nde arka kameranın açık olduğunu kontrol edin.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again.</source>
+        <translation>Kalibrasyonu yeniden başlatın.</translation>
+    </message>
+    <message>
+        <source>The rear camera delivers no picture.</source>
+        <translation>Arka kamera görüntü vermiyor.</translation>
+    </message>
+    <message>
+        <source>Close every other program that uses the rear camera.</source>
+        <translation>Arka kamerayı kullanan diğer tüm programları kapatın.</translation>
+    </message>
+    <message>
+        <source>Make sure that nothing covers the camera.</source>
+        <translation>Kamerayı hiçbir şeyin kapatmadığından emin olun.</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. What was found so far is not stored.</source>
+        <translation>Kalibrasyonu yeniden başlatın. Şu ana kadar bulunan sonuç kaydedilmedi.</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Çıkış</translation>
+    </message>
+</context>
+<context>
+    <name>RefinementScreen</name>
+    <message>
+        <source>Too little depth in view. Point at something a few metres away.</source>
+        <translation>Görüntüde derinlik çok az. Birkaç metre uzaktaki bir şeye doğrultun.</translation>
+    </message>
+    <message>
+        <source>Stored calibration</source>
+        <translation>Kayıtlı kalibrasyon</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Baştan başla</translation>
+    </message>
+    <message>
+        <source>Hold to compare</source>
+        <translation>Karşılaştırmak için tutun</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Devam</translation>
+    </message>
+</context>
+<context>
+    <name>SavingScreen</name>
+    <message>
+        <source>Storing the calibration in the camera…</source>
+        <translation>Kalibrasyon kameraya kaydediliyor…</translation>
+    </message>
+    <message>
+        <source>The program closes by itself.</source>
+        <translation>Program kendiliğinden kapanır.</translation>
+    </message>
+    <message>
+        <source>Please wait, and do not switch the tablet off.</source>
+        <translation>Lütfen bekleyin ve tableti kapatmayın.</translation>
+    </message>
+</context>
+<context>
+    <name>StartScreen</name>
+    <message>
+        <source>Ready to take photos.
+Point at buildings or trees far away, in bright sunlight.</source>
+        <translation>Fotoğraf çekmeye hazır.
+Parlak güneş ışığında uzaktaki binalara veya ağaçlara doğrultun.</translation>
+    </message>
+    <message>
+        <source>How to move</source>
+        <translation>Nasıl hareket edilir</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Başlat</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Segoe UI</source>
+        <extracomment>The font that Windows uses for this language.</extracomment>
+        <translation>Segoe UI</translation>
+    </message>
+</context>
+<context>
+    <name>TutorialScreen</name>
+    <message>
+        <source>Example</source>
+        <translation>Örnek</translation>
+    </message>
+    <message>
+        <source>Drag left or right until the colors fit the picture.</source>
+        <translation>Renkler görüntüyle örtüşene kadar sola veya sağa sürükleyin.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
+        <translation>Her renk bir uzaklıktır. Yakın bir şeyin bittiği yerde renk de bitmelidir.</translation>
+    </message>
+    <message>
+        <source>Often nothing needs to be changed.</source>
+        <translation>Çoğu zaman hiçbir şeyi değiştirmek gerekmez.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Devam</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "i18n/InterfaceLanguage.h"
+
+#include <QLocale>
+
+// Outside of any namespace, as Qt wants it.
+inline void initTranslations() {
+    Q_INIT_RESOURCE(Translations);
+}
+
+namespace fieldcal::testing {
+
+/// The translations that are compiled into the program.
+constexpr const char* kInterfaceLanguages[] = {"Arabic",
+                                               "Chinese",
+                                               "Chinese_HongKongSAR",
+                                               "Chinese_Taiwan",
+                                               "Czech",
+                                               "Danish",
+                                               "Dutch",
+                                               "English",
+                                               "Finnish",
+                                               "French",
+                                               "German",
+                                               "Greek",
+                                               "Hebrew",
+                                               "Italian",
+                                               "Japanese",
+                                               "Korean",
+                                               "Norwegian",
+                                               "Polish",
+                                               "Portuguese",
+                                               "Portuguese_Brazil",
+                                               "Russian",
+                                               "Slovak",
+                                               "Spanish",
+                                               "Swedish",
+                                               "Thai",
+                                               "Turkish"};
+
+/// The interface speaks `language` from now on, and writes numbers as it does. False: from right to left.
+inline bool speak(const QString& language, QTranslator* translator) {
+    initTranslations();
+    const SystemLanguage user{language.section('_', 0, 0), language.section('_', 1)};
+    const bool leftToRight = loadInterfaceLanguage(user, ":/Files", translator);
+    QLocale::setDefault(QLocale(translator->language()));
+    return leftToRight;
+}
+
+}  // namespace fieldcal::testing
