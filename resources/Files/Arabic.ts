@@ -20,14 +20,14 @@
     <name>CorrectionReadout</name>
     <message>
         <source>%1°</source>
-        <translation>%1°</translation>
+        <translation>‏%1°</translation>
     </message>
 </context>
 <context>
     <name>FoundScreen</name>
     <message>
         <source>%1°</source>
-        <translation>%1°</translation>
+        <translation>‏%1°</translation>
     </message>
     <message>
         <source>A new calibration was found.</source>

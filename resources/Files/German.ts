@@ -153,19 +153,19 @@ Drücken Sie auf „Weiter“.</translation>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
         <translation>Bringen Sie das farbige Tiefenbild mit dem Farbbild zur Deckung.
-Drücken Sie auf „Weiter“, um die Kalibrierung der Farbkamera anzunehmen, oder auf „Neu beginnen“, um von vorn anzufangen.</translation>
+Mit „Weiter“ nehmen Sie die Kalibrierung der Farbkamera an. Mit „Neu beginnen“ fangen Sie von vorn an.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
         <translation>Bringen Sie das farbige Tiefenbild mit dem Farbbild zur Deckung.
-Drücken Sie auf „Weiter“, um die Kalibrierung der ersten Farbkamera anzunehmen, oder auf „Neu beginnen“, um von vorn anzufangen.</translation>
+Mit „Weiter“ nehmen Sie die Kalibrierung der ersten Farbkamera an. Mit „Neu beginnen“ fangen Sie von vorn an.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
         <translation>Bringen Sie das farbige Tiefenbild mit dem Farbbild zur Deckung.
-Drücken Sie auf „Weiter“, um die Kalibrierung der zweiten Farbkamera anzunehmen, oder auf „Neu beginnen“, um von vorn anzufangen.</translation>
+Mit „Weiter“ nehmen Sie die Kalibrierung der zweiten Farbkamera an. Mit „Neu beginnen“ fangen Sie von vorn an.</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>

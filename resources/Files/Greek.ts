@@ -153,19 +153,19 @@ Press continue.</source>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
         <translation>Ευθυγραμμίστε τη χρωματισμένη εικόνα βάθους με την έγχρωμη εικόνα.
-Πατήστε «Συνέχεια» για να αποδεχτείτε τη βαθμονόμηση της έγχρωμης κάμερας ή «Από την αρχή» για να ξεκινήσετε ξανά.</translation>
+Με «Συνέχεια» αποδέχεστε τη βαθμονόμηση της έγχρωμης κάμερας. Με «Από την αρχή» ξεκινάτε ξανά.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
         <translation>Ευθυγραμμίστε τη χρωματισμένη εικόνα βάθους με την έγχρωμη εικόνα.
-Πατήστε «Συνέχεια» για να αποδεχτείτε τη βαθμονόμηση της πρώτης έγχρωμης κάμερας ή «Από την αρχή» για να ξεκινήσετε ξανά.</translation>
+Με «Συνέχεια» αποδέχεστε τη βαθμονόμηση της πρώτης έγχρωμης κάμερας. Με «Από την αρχή» ξεκινάτε ξανά.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
         <translation>Ευθυγραμμίστε τη χρωματισμένη εικόνα βάθους με την έγχρωμη εικόνα.
-Πατήστε «Συνέχεια» για να αποδεχτείτε τη βαθμονόμηση της δεύτερης έγχρωμης κάμερας ή «Από την αρχή» για να ξεκινήσετε ξανά.</translation>
+Με «Συνέχεια» αποδέχεστε τη βαθμονόμηση της δεύτερης έγχρωμης κάμερας. Με «Από την αρχή» ξεκινάτε ξανά.</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>

@@ -99,10 +99,7 @@ int run(const QStringList& arguments) {
     Strip strip{arguments[1], arguments[2], {size.value(0).toInt(), size.value(1).toInt()}, leftToRight};
     QDir().mkpath(strip.folder);
     qputenv("STORY_PICTURES", strip.recording.toLocal8Bit());
-    if (!shootAll(story(), &strip)) return 1;
-    for (const Scene& ending : endings())
-        if (!shootAll({ending}, &strip)) return 1;
-    return 0;
+    return shootAll(story(), &strip) && shootAll(endings(), &strip) ? 0 : 1;
 }
 
 }  // namespace

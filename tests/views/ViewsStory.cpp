@@ -124,10 +124,10 @@ std::vector<Scene> story() {
 
 std::vector<Scene> endings() {
     return {
+        {"opening-for-long", [](ViewsStage& stage) { stage.find("openingPage")->setProperty("waitedS", 60); }},
         {"missing-device", [](ViewsStage& stage) { stage.tell("displayMissingQ550Device"); }},
         {"missing-rear-camera", [](ViewsStage& stage) { stage.tell("displayMissingPlatformCamera"); }},
         {"rear-camera-trouble", [](ViewsStage& stage) { stage.tell("displayPlatformCameraIssue"); }},
-        {"opening-for-long", [](ViewsStage& stage) { stage.find("openingPage")->setProperty("waitedS", 60); }},
     };
 }
 

@@ -15,7 +15,7 @@ struct Scene {
 
 /// Every page once, in the order of the workflow, each entered from the one before, as the application does it.
 std::vector<Scene> story();
-/// Pages after which there is no other; each needs a stage of its own.
+/// When something is wrong. No page follows these, so they need a stage of their own.
 std::vector<Scene> endings();
 
 }  // namespace fieldcal::testing

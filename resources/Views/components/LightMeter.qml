@@ -8,6 +8,7 @@ T.ProgressBar {
     property bool enough: false
     readonly property real mark: 122 / 130  // just before full, which means lit
 
+    locale: Qt.locale("en")  // the direction is the interface's alone
     implicitHeight: Math.max(20, Theme.length(36))
     background: Rectangle {
         radius: height / 2
