@@ -219,6 +219,38 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>An unknown error has occured.</source>
         <translation>حدث خطأ غير معروف.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>انقطع الاتصال ولم تتسنَّ إعادته.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>لا يقدّم خادم التنزيل ما هو متوقع منه.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>تعذّر حفظ التنزيل على القرص.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>كان التنزيل تالفًا وتمت إزالته.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>هذا إصدار تطوير بلا توقيع، ولا يشغّل أي برنامج تثبيت.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>التنزيل غير موقّع من الشركة المصنّعة لهذا البرنامج وتمت إزالته.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>لا يوجد برنامج تثبيت لهذا النظام.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>تعذّر تشغيل برنامج التثبيت.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Point at buildings or trees far away, in bright sunlight.</source>
     <message>
         <source>Continue</source>
         <translation>متابعة</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>الإصدار %1 متوفر.
+يتم تنزيله وتثبيته خلال بضع دقائق. ثم يُغلق البرنامج ويبدأ من جديد تلقائيًا.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>جارٍ تنزيل الإصدار %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>انقطع الاتصال. تجري المحاولة مرة أخرى…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 من %2 ميغابايت</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>جارٍ الاتصال…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>جارٍ بدء التثبيت…
+سيُغلق البرنامج الآن ويبدأ من جديد تلقائيًا.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>لم ينجح التحديث.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>يستمر هذا الإصدار في العمل كالسابق.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>لاحقًا</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>إعادة المحاولة</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>تحديث</translation>
     </message>
 </context>
 </TS>

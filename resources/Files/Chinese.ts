@@ -219,6 +219,38 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>An unknown error has occured.</source>
         <translation>发生未知错误。</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>连接已中断，且无法恢复。</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>下载服务器提供的内容与预期不符。</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>无法将下载的文件保存到磁盘。</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>下载的文件已损坏并已删除。</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>这是没有签名的开发版本，不会启动安装程序。</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>下载的文件未经本程序制造商签名，已删除。</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>没有适用于此系统的安装程序。</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>无法启动安装程序。</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Point at buildings or trees far away, in bright sunlight.</source>
     <message>
         <source>Continue</source>
         <translation>继续</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>版本 %1 可用。
+将在几分钟内下载并安装。之后程序会关闭并自动重新启动。</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>正在下载版本 %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>连接已丢失。正在重试…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 / %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>正在连接…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>正在启动安装…
+程序现在将关闭并自动重新启动。</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>更新未成功。</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>此版本可继续照常使用。</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>以后</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
     </message>
 </context>
 </TS>

@@ -219,6 +219,38 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>An unknown error has occured.</source>
         <translation>發生未知的錯誤。</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>連線中斷，且未能恢復。</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>下載伺服器提供的內容與預期不符。</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>未能將下載的檔案儲存到磁碟。</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>下載的檔案已損毀並已移除。</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>這是沒有簽署的開發版本，不會啟動安裝程式。</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>下載的檔案未經本程式製造商簽署，已移除。</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>沒有適用於此系統的安裝程式。</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>未能啟動安裝程式。</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Point at buildings or trees far away, in bright sunlight.</source>
     <message>
         <source>Continue</source>
         <translation>繼續</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>版本 %1 已可使用。
+將於幾分鐘內下載並安裝。之後程式會關閉並自動重新啟動。</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>正在下載版本 %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>連線已中斷。正在重試…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 / %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>正在連線…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>正在啟動安裝…
+程式現在將關閉並自動重新啟動。</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>更新未成功。</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>此版本可繼續照常使用。</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>稍後</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重試</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
     </message>
 </context>
 </TS>

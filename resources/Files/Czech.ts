@@ -219,6 +219,38 @@ Zkuste to znovu. Namiřte na rozmanitou scénu, například na budovy nebo strom
         <source>An unknown error has occured.</source>
         <translation>Došlo k neznámé chybě.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>Spojení bylo přerušeno a nepodařilo se je obnovit.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>Server pro stahování neposkytuje to, co se od něj očekávalo.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Stažený soubor se nepodařilo uložit na disk.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>Stažený soubor byl poškozen a byl odstraněn.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Toto je vývojová verze bez podpisu. Nespouští žádný instalační program.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>Stažený soubor není podepsán výrobcem tohoto programu a byl odstraněn.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Pro tento systém neexistuje instalační program.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Instalační program se nepodařilo spustit.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Namiřte na vzdálené budovy nebo stromy za jasného slunce.</translation>
     <message>
         <source>Continue</source>
         <translation>Pokračovat</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>Je k dispozici verze %1.
+Během několika minut se stáhne a nainstaluje. Program se poté zavře a sám se znovu spustí.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Stahuje se verze %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>Spojení bylo ztraceno. Zkouší se znovu…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 z %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Připojování…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Spouští se instalace…
+Program se nyní zavře a sám se znovu spustí.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>Aktualizace se nezdařila.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Tato verze funguje dál jako dosud.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Později</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zavřít</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Zkusit znovu</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizovat</translation>
     </message>
 </context>
 </TS>

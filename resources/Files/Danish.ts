@@ -219,6 +219,38 @@ Prøv igen. Ret mod varierede omgivelser som bygninger eller træer.</translatio
         <source>An unknown error has occured.</source>
         <translation>Der er opstået en ukendt fejl.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>Forbindelsen blev afbrudt og kunne ikke genoprettes.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>Downloadserveren leverer ikke det forventede.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Det hentede kunne ikke gemmes på disken.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>Det hentede var beskadiget og er blevet fjernet.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Dette er en udviklingsversion uden signatur. Den starter ikke noget installationsprogram.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>Det hentede er ikke signeret af programmets producent og er blevet fjernet.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Der findes intet installationsprogram til dette system.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Installationsprogrammet kunne ikke startes.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Ret mod bygninger eller træer langt væk i klart sollys.</translation>
     <message>
         <source>Continue</source>
         <translation>Fortsæt</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>Version %1 er tilgængelig.
+Den hentes og installeres på få minutter. Derefter lukker programmet og starter igen automatisk.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Henter version %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>Forbindelsen gik tabt. Der prøves igen…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 af %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Opretter forbindelse…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Starter installationen…
+Programmet lukker nu og starter igen automatisk.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>Opdateringen lykkedes ikke.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Denne version virker fortsat som før.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Senere</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuller</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Luk</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Prøv igen</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Opdater</translation>
     </message>
 </context>
 </TS>

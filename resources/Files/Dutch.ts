@@ -219,6 +219,38 @@ Probeer het opnieuw. Richt op een gevarieerde omgeving, zoals gebouwen of bomen.
         <source>An unknown error has occured.</source>
         <translation>Er is een onbekende fout opgetreden.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>De verbinding is verbroken en kon niet worden hersteld.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>De downloadserver levert niet wat werd verwacht.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>De download kon niet op de schijf worden opgeslagen.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>De download was beschadigd en is verwijderd.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Dit is een ontwikkelversie zonder handtekening. Er wordt geen installatieprogramma gestart.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>De download is niet ondertekend door de maker van dit programma en is verwijderd.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Er is geen installatieprogramma voor dit systeem.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Het installatieprogramma kon niet worden gestart.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Richt op gebouwen of bomen in de verte, in fel zonlicht.</translation>
     <message>
         <source>Continue</source>
         <translation>Doorgaan</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>Versie %1 is beschikbaar.
+Deze wordt in enkele minuten gedownload en geïnstalleerd. Daarna sluit het programma af en start het vanzelf opnieuw.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Versie %1 wordt gedownload…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>De verbinding is verbroken. Er wordt opnieuw geprobeerd…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 van %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Verbinding maken…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>De installatie wordt gestart…
+Het programma sluit nu af en start vanzelf opnieuw.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>De update is niet gelukt.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Deze versie blijft werken zoals voorheen.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Later</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Bijwerken</translation>
     </message>
 </context>
 </TS>

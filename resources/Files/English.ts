@@ -219,6 +219,38 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</tra
         <source>An unknown error has occured.</source>
         <translation>An unknown error has occured.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>The connection broke off and could not be made again.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>The download server does not give what was expected of it.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>The download could not be kept on the disk.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>The download was damaged and has been removed.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>This is a development build without a signature. It starts no installer.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>The download is not signed by the maker of this program and has been removed.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>There is no installer for this system.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>The installer could not be started.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Point at buildings or trees far away, in bright sunlight.</translation>
     <message>
         <source>Continue</source>
         <translation>Continue</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Downloading version %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>The connection was lost. It is tried again…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 of %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Connecting…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Starting the installation…
+The program closes now and starts again by itself.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>The update did not succeed.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>This version goes on working as before.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Later</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Update</translation>
     </message>
 </context>
 </TS>

@@ -219,6 +219,38 @@ Yritä uudelleen. Suuntaa vaihtelevaan maisemaan, kuten rakennuksiin tai puihin.
         <source>An unknown error has occured.</source>
         <translation>On tapahtunut tuntematon virhe.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>Yhteys katkesi, eikä sitä saatu palautettua.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>Latauspalvelin ei anna odotettua sisältöä.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Latausta ei voitu tallentaa levylle.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>Lataus oli vioittunut, ja se on poistettu.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Tämä on allekirjoittamaton kehitysversio. Se ei käynnistä asennusohjelmaa.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>Lataus ei ole tämän ohjelman valmistajan allekirjoittama, ja se on poistettu.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Tälle järjestelmälle ei ole asennusohjelmaa.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Asennusohjelmaa ei voitu käynnistää.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Suuntaa kaukana oleviin rakennuksiin tai puihin kirkkaassa auringonvalossa.</tra
     <message>
         <source>Continue</source>
         <translation>Jatka</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>Versio %1 on saatavilla.
+Se ladataan ja asennetaan muutamassa minuutissa. Sen jälkeen ohjelma sulkeutuu ja käynnistyy uudelleen automaattisesti.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Ladataan versiota %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>Yhteys katkesi. Yritetään uudelleen…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 / %2 Mt</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Yhdistetään…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Asennusta käynnistetään…
+Ohjelma sulkeutuu nyt ja käynnistyy uudelleen automaattisesti.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>Päivitys ei onnistunut.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Tämä versio toimii edelleen kuten ennenkin.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Myöhemmin</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Peruuta</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sulje</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Yritä uudelleen</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Päivitä</translation>
     </message>
 </context>
 </TS>

@@ -219,6 +219,38 @@ Réessayons. Visez un paysage varié, avec des bâtiments ou des arbres.</transl
         <source>An unknown error has occured.</source>
         <translation>Une erreur inconnue est survenue.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>La connexion a été interrompue et n’a pas pu être rétablie.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>Le serveur de téléchargement ne fournit pas ce qui est attendu.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Le téléchargement n’a pas pu être enregistré sur le disque.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>Le téléchargement était endommagé et a été supprimé.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Ceci est une version de développement sans signature. Elle ne lance aucun programme d’installation.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>Le téléchargement n’est pas signé par l’éditeur de ce programme et a été supprimé.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Il n’existe pas de programme d’installation pour ce système.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Le programme d’installation n’a pas pu être lancé.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Visez des bâtiments ou des arbres éloignés, en plein soleil.</translation>
     <message>
         <source>Continue</source>
         <translation>Continuer</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>La version %1 est disponible.
+Elle est téléchargée et installée en quelques minutes. Le programme se ferme ensuite et redémarre automatiquement.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Téléchargement de la version %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>La connexion a été perdue. Nouvelle tentative…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 sur %2 Mo</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Connexion…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Lancement de l’installation…
+Le programme se ferme maintenant et redémarre automatiquement.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>La mise à jour a échoué.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Cette version continue de fonctionner comme avant.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mettre à jour</translation>
     </message>
 </context>
 </TS>

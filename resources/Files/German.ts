@@ -219,6 +219,38 @@ Versuchen Sie es noch einmal. Richten Sie das Gerät auf eine abwechslungsreiche
         <source>An unknown error has occured.</source>
         <translation>Ein unbekannter Fehler ist aufgetreten.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>Die Verbindung ist abgebrochen und konnte nicht wiederhergestellt werden.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>Der Downloadserver liefert nicht das Erwartete.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Der Download konnte nicht auf dem Datenträger abgelegt werden.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>Der Download war beschädigt und wurde entfernt.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Dies ist eine Entwicklungsversion ohne Signatur. Sie startet kein Installationsprogramm.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>Der Download ist nicht vom Hersteller dieses Programms signiert und wurde entfernt.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Für dieses System gibt es kein Installationsprogramm.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Das Installationsprogramm konnte nicht gestartet werden.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Richten Sie das Tablet bei hellem Sonnenlicht auf entfernte Gebäude oder Bäume
     <message>
         <source>Continue</source>
         <translation>Weiter</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>Version %1 ist verfügbar.
+Sie wird in wenigen Minuten heruntergeladen und installiert. Das Programm schließt sich danach und startet von selbst neu.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Version %1 wird heruntergeladen…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>Die Verbindung ist abgebrochen. Es wird erneut versucht…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 von %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Verbindung wird hergestellt…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Die Installation wird gestartet…
+Das Programm schließt sich jetzt und startet von selbst neu.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>Die Aktualisierung ist nicht gelungen.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Diese Version arbeitet weiter wie bisher.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisieren</translation>
     </message>
 </context>
 </TS>

@@ -219,6 +219,38 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>An unknown error has occured.</source>
         <translation>Παρουσιάστηκε άγνωστο σφάλμα.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>Η σύνδεση διακόπηκε και δεν ήταν δυνατή η αποκατάστασή της.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>Ο διακομιστής λήψεων δεν παρέχει αυτό που αναμενόταν.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Δεν ήταν δυνατή η αποθήκευση της λήψης στον δίσκο.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>Το αρχείο λήψης ήταν κατεστραμμένο και διαγράφηκε.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Αυτή είναι έκδοση ανάπτυξης χωρίς υπογραφή. Δεν εκκινεί πρόγραμμα εγκατάστασης.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>Το αρχείο λήψης δεν είναι υπογεγραμμένο από τον κατασκευαστή αυτού του προγράμματος και διαγράφηκε.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Δεν υπάρχει πρόγραμμα εγκατάστασης για αυτό το σύστημα.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Δεν ήταν δυνατή η εκκίνηση του προγράμματος εγκατάστασης.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Point at buildings or trees far away, in bright sunlight.</source>
     <message>
         <source>Continue</source>
         <translation>Συνέχεια</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>Η έκδοση %1 είναι διαθέσιμη.
+Λαμβάνεται και εγκαθίσταται σε λίγα λεπτά. Έπειτα το πρόγραμμα κλείνει και ξεκινά ξανά αυτόματα.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Λήψη της έκδοσης %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>Η σύνδεση χάθηκε. Γίνεται νέα προσπάθεια…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 από %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Σύνδεση…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Έναρξη της εγκατάστασης…
+Το πρόγραμμα κλείνει τώρα και ξεκινά ξανά αυτόματα.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>Η ενημέρωση δεν ολοκληρώθηκε.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Αυτή η έκδοση συνεχίζει να λειτουργεί όπως πριν.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Αργότερα</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Ακύρωση</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Κλείσιμο</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Ξανά</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Ενημέρωση</translation>
     </message>
 </context>
 </TS>

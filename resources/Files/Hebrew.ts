@@ -219,6 +219,38 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>An unknown error has occured.</source>
         <translation>אירעה שגיאה לא ידועה.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>החיבור נותק ולא ניתן היה לחדש אותו.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>שרת ההורדות אינו מספק את מה שצפוי ממנו.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>לא ניתן היה לשמור את ההורדה בדיסק.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>ההורדה הייתה פגומה והוסרה.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>זוהי גרסת פיתוח ללא חתימה. היא אינה מפעילה תוכנית התקנה.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>ההורדה אינה חתומה בידי יצרן התוכנית והוסרה.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>אין תוכנית התקנה למערכת זו.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>לא ניתן היה להפעיל את תוכנית ההתקנה.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Point at buildings or trees far away, in bright sunlight.</source>
     <message>
         <source>Continue</source>
         <translation>המשך</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>גרסה %1 זמינה.
+היא תורד ותותקן בתוך דקות ספורות. לאחר מכן התוכנית תיסגר ותופעל מחדש אוטומטית.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>גרסה %1 יורדת…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>החיבור אבד. מתבצע ניסיון נוסף…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 מתוך %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>מתחבר…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>ההתקנה מתחילה…
+התוכנית נסגרת כעת ותופעל מחדש אוטומטית.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>העדכון לא הצליח.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>גרסה זו ממשיכה לפעול כמקודם.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>אחר כך</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ביטול</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>סגירה</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>ניסיון נוסף</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>עדכון</translation>
     </message>
 </context>
 </TS>

@@ -219,6 +219,38 @@ Riprovare. Inquadrare un paesaggio vario, con edifici o alberi.</translation>
         <source>An unknown error has occured.</source>
         <translation>Si è verificato un errore sconosciuto.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>La connessione si è interrotta e non è stato possibile ripristinarla.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>Il server di download non fornisce quanto previsto.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Non è stato possibile salvare il download sul disco.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>Il download era danneggiato ed è stato rimosso.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Questa è una versione di sviluppo senza firma. Non avvia alcun programma di installazione.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>Il download non è firmato dal produttore di questo programma ed è stato rimosso.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Non esiste un programma di installazione per questo sistema.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Non è stato possibile avviare il programma di installazione.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Inquadrare edifici o alberi lontani, in piena luce solare.</translation>
     <message>
         <source>Continue</source>
         <translation>Continua</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>La versione %1 è disponibile.
+Viene scaricata e installata in pochi minuti. Il programma poi si chiude e si riavvia automaticamente.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Download della versione %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>La connessione è stata persa. Nuovo tentativo…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 di %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Connessione…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Avvio dell’installazione…
+Il programma ora si chiude e si riavvia automaticamente.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>L’aggiornamento non è riuscito.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Questa versione continua a funzionare come prima.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Più tardi</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aggiorna</translation>
     </message>
 </context>
 </TS>

@@ -219,6 +219,38 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>An unknown error has occured.</source>
         <translation>不明なエラーが発生しました。</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>接続が切れ、再接続できませんでした。</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>ダウンロード サーバーから想定された内容が届きません。</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>ダウンロードをディスクに保存できませんでした。</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>ダウンロードしたファイルは破損していたため、削除されました。</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>これは署名のない開発版です。インストーラーは起動しません。</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>ダウンロードしたファイルはこのプログラムの製造元の署名がないため、削除されました。</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>このシステム用のインストーラーはありません。</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>インストーラーを起動できませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Point at buildings or trees far away, in bright sunlight.</source>
     <message>
         <source>Continue</source>
         <translation>続行</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>バージョン %1 を利用できます。
+数分でダウンロードおよびインストールされます。その後、プログラムは終了し、自動的に再起動します。</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>バージョン %1 をダウンロードしています…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>接続が切れました。再試行しています…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 / %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>接続しています…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>インストールを開始しています…
+プログラムは終了し、自動的に再起動します。</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>更新できませんでした。</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>このバージョンは引き続き使用できます。</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>後で</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
     </message>
 </context>
 </TS>

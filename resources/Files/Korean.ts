@@ -219,6 +219,38 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>An unknown error has occured.</source>
         <translation>알 수 없는 오류가 발생했습니다.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>연결이 끊어졌고 다시 연결할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>다운로드 서버가 예상한 내용을 제공하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>다운로드한 파일을 디스크에 저장할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>다운로드한 파일이 손상되어 삭제되었습니다.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>서명이 없는 개발 버전입니다. 설치 프로그램을 시작하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>다운로드한 파일에 이 프로그램 제조사의 서명이 없어 삭제되었습니다.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>이 시스템용 설치 프로그램이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>설치 프로그램을 시작할 수 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Point at buildings or trees far away, in bright sunlight.</source>
     <message>
         <source>Continue</source>
         <translation>계속</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>버전 %1을(를) 사용할 수 있습니다.
+몇 분 안에 다운로드되고 설치됩니다. 그런 다음 프로그램이 닫히고 자동으로 다시 시작됩니다.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>버전 %1 다운로드 중…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>연결이 끊어졌습니다. 다시 시도하는 중…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 / %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>연결 중…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>설치를 시작하는 중…
+이제 프로그램이 닫히고 자동으로 다시 시작됩니다.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>업데이트하지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>이 버전은 이전과 같이 계속 작동합니다.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>나중에</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>다시 시도</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>업데이트</translation>
     </message>
 </context>
 </TS>

@@ -219,6 +219,38 @@ Prøv igjen. Rett mot varierte omgivelser som bygninger eller trær.</translatio
         <source>An unknown error has occured.</source>
         <translation>Det har oppstått en ukjent feil.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>Forbindelsen ble brutt og kunne ikke gjenopprettes.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>Nedlastingsserveren leverer ikke det som var forventet.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Nedlastingen kunne ikke lagres på disken.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>Nedlastingen var skadet og er fjernet.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Dette er en utviklingsversjon uten signatur. Den starter ikke noe installasjonsprogram.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>Nedlastingen er ikke signert av programmets produsent og er fjernet.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Det finnes ikke noe installasjonsprogram for dette systemet.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Installasjonsprogrammet kunne ikke startes.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Rett mot bygninger eller trær langt borte, i sterkt sollys.</translation>
     <message>
         <source>Continue</source>
         <translation>Fortsett</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>Versjon %1 er tilgjengelig.
+Den lastes ned og installeres på noen minutter. Deretter lukkes programmet og starter igjen automatisk.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Laster ned versjon %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>Forbindelsen ble brutt. Prøver igjen…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 av %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Kobler til…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Starter installasjonen…
+Programmet lukkes nå og starter igjen automatisk.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>Oppdateringen mislyktes.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Denne versjonen fortsetter å virke som før.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Senere</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Lukk</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Prøv igjen</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Oppdater</translation>
     </message>
 </context>
 </TS>

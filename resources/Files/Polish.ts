@@ -219,6 +219,38 @@ Spróbuj ponownie. Skieruj na urozmaicone otoczenie, takie jak budynki lub drzew
         <source>An unknown error has occured.</source>
         <translation>Wystąpił nieznany błąd.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>Połączenie zostało przerwane i nie udało się go przywrócić.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>Serwer pobierania nie dostarcza tego, czego oczekiwano.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Nie udało się zapisać pobranego pliku na dysku.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>Pobrany plik był uszkodzony i został usunięty.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>To jest wersja deweloperska bez podpisu. Nie uruchamia instalatora.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>Pobrany plik nie jest podpisany przez producenta tego programu i został usunięty.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Nie ma instalatora dla tego systemu.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Nie udało się uruchomić instalatora.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Skieruj na odległe budynki lub drzewa w jasnym słońcu.</translation>
     <message>
         <source>Continue</source>
         <translation>Kontynuuj</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>Dostępna jest wersja %1.
+Zostanie pobrana i zainstalowana w ciągu kilku minut. Następnie program zamknie się i uruchomi ponownie automatycznie.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Pobieranie wersji %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>Utracono połączenie. Trwa ponowna próba…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 z %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Łączenie…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Uruchamianie instalacji…
+Program zamknie się teraz i uruchomi ponownie automatycznie.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>Aktualizacja nie powiodła się.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Ta wersja działa nadal tak jak dotąd.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Później</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Ponów</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizuj</translation>
     </message>
 </context>
 </TS>

@@ -219,6 +219,38 @@ Tente novamente. Aponte para um cenário variado, como edifícios ou árvores.</
         <source>An unknown error has occured.</source>
         <translation>Ocorreu um erro desconhecido.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>A ligação foi interrompida e não foi possível restabelecê-la.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>O servidor de transferências não fornece o que era esperado.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Não foi possível guardar a transferência no disco.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>A transferência estava danificada e foi removida.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Esta é uma versão de desenvolvimento sem assinatura. Não inicia nenhum instalador.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>A transferência não está assinada pelo fabricante deste programa e foi removida.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Não existe instalador para este sistema.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Não foi possível iniciar o instalador.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Aponte para edifícios ou árvores distantes, sob luz solar intensa.</translatio
     <message>
         <source>Continue</source>
         <translation>Continuar</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>A versão %1 está disponível.
+É transferida e instalada em poucos minutos. Depois, o programa fecha e reinicia automaticamente.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>A transferir a versão %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>A ligação perdeu-se. A tentar novamente…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 de %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>A ligar…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>A iniciar a instalação…
+O programa fecha agora e reinicia automaticamente.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>A atualização não foi concluída.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Esta versão continua a funcionar como antes.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Mais tarde</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Repetir</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Atualizar</translation>
     </message>
 </context>
 </TS>

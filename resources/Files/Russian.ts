@@ -219,6 +219,38 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>An unknown error has occured.</source>
         <translation>Произошла неизвестная ошибка.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>Соединение прервалось, и восстановить его не удалось.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>Сервер загрузки не выдаёт то, что ожидалось.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Не удалось сохранить загруженный файл на диске.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>Загруженный файл был повреждён и удалён.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Это сборка для разработки без подписи. Она не запускает установщик.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>Загруженный файл не подписан производителем этой программы и удалён.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Для этой системы нет установщика.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Не удалось запустить установщик.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Point at buildings or trees far away, in bright sunlight.</source>
     <message>
         <source>Continue</source>
         <translation>Продолжить</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>Доступна версия %1.
+Она будет загружена и установлена за несколько минут. Затем программа закроется и автоматически запустится снова.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Загружается версия %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>Соединение потеряно. Выполняется новая попытка…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 из %2 МБ</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Подключение…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Запускается установка…
+Программа сейчас закроется и автоматически запустится снова.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>Обновление не удалось.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Эта версия продолжает работать как прежде.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Позже</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Обновить</translation>
     </message>
 </context>
 </TS>

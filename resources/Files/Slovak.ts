@@ -219,6 +219,38 @@ Skúste to znova. Namierte na rozmanitú scénu, napríklad na budovy alebo stro
         <source>An unknown error has occured.</source>
         <translation>Vyskytla sa neznáma chyba.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>Spojenie sa prerušilo a nepodarilo sa ho obnoviť.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>Server na sťahovanie neposkytuje to, čo sa od neho očakávalo.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Stiahnutý súbor sa nepodarilo uložiť na disk.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>Stiahnutý súbor bol poškodený a bol odstránený.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Toto je vývojová verzia bez podpisu. Nespúšťa žiadny inštalačný program.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>Stiahnutý súbor nie je podpísaný výrobcom tohto programu a bol odstránený.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Pre tento systém neexistuje inštalačný program.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Inštalačný program sa nepodarilo spustiť.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Namierte na vzdialené budovy alebo stromy za jasného slnka.</translation>
     <message>
         <source>Continue</source>
         <translation>Pokračovať</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>K dispozícii je verzia %1.
+V priebehu niekoľkých minút sa stiahne a nainštaluje. Program sa potom zavrie a sám sa znova spustí.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Sťahuje sa verzia %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>Spojenie sa stratilo. Skúša sa znova…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 z %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Pripájanie…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Spúšťa sa inštalácia…
+Program sa teraz zavrie a sám sa znova spustí.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>Aktualizácia sa nepodarila.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Táto verzia funguje ďalej ako doteraz.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Neskôr</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušiť</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zavrieť</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Skúsiť znova</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizovať</translation>
     </message>
 </context>
 </TS>

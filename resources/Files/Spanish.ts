@@ -219,6 +219,38 @@ Inténtelo de nuevo. Apunte a un entorno variado, como edificios o árboles.</tr
         <source>An unknown error has occured.</source>
         <translation>Se ha producido un error desconocido.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>La conexión se interrumpió y no se pudo restablecer.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>El servidor de descargas no proporciona lo esperado.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>La descarga no se pudo guardar en el disco.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>La descarga estaba dañada y se ha eliminado.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Esta es una versión de desarrollo sin firma. No inicia ningún instalador.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>La descarga no está firmada por el fabricante de este programa y se ha eliminado.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>No hay instalador para este sistema.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>No se pudo iniciar el instalador.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Apunte a edificios o árboles lejanos, a plena luz del sol.</translation>
     <message>
         <source>Continue</source>
         <translation>Continuar</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>La versión %1 está disponible.
+Se descarga e instala en unos minutos. Después, el programa se cierra y vuelve a iniciarse automáticamente.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Descargando la versión %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>Se perdió la conexión. Se intenta de nuevo…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 de %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Conectando…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Iniciando la instalación…
+El programa se cierra ahora y vuelve a iniciarse automáticamente.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>La actualización no se ha realizado.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Esta versión sigue funcionando como antes.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualizar</translation>
     </message>
 </context>
 </TS>

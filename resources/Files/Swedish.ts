@@ -219,6 +219,38 @@ Försök igen. Rikta mot en omväxlande omgivning som byggnader eller träd.</tr
         <source>An unknown error has occured.</source>
         <translation>Ett okänt fel har inträffat.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>Anslutningen bröts och kunde inte återupprättas.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>Hämtningsservern ger inte det som förväntades.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>Hämtningen kunde inte sparas på disken.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>Hämtningen var skadad och har tagits bort.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Detta är en utvecklingsversion utan signatur. Den startar inget installationsprogram.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>Hämtningen är inte signerad av programmets tillverkare och har tagits bort.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Det finns inget installationsprogram för det här systemet.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Installationsprogrammet kunde inte startas.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Rikta mot byggnader eller träd långt bort, i starkt solljus.</translation>
     <message>
         <source>Continue</source>
         <translation>Fortsätt</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>Version %1 är tillgänglig.
+Den hämtas och installeras på några minuter. Därefter stängs programmet och startar igen automatiskt.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>Hämtar version %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>Anslutningen bröts. Nytt försök görs…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 av %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Ansluter…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Startar installationen…
+Programmet stängs nu och startar igen automatiskt.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>Uppdateringen lyckades inte.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Den här versionen fortsätter att fungera som förut.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Senare</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Avbryt</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Stäng</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Försök igen</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Uppdatera</translation>
     </message>
 </context>
 </TS>

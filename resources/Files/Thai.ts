@@ -219,6 +219,38 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>An unknown error has occured.</source>
         <translation>เกิด​ข้อผิดพลาด​ที่ไม่รู้จัก</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>การ​เชื่อมต่อ​ขาดหาย​และไม่​สามารถ​เชื่อมต่อ​ได้อีก</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>เซิร์ฟเวอร์​ดาวน์โหลด​ไม่ได้​ส่งสิ่งที่​คาดไว้</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>ไม่สามารถ​เก็บไฟล์​ที่ดาวน์โหลด​ลงในดิสก์</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>ไฟล์​ที่ดาวน์โหลด​เสียหาย​และถูก​ลบแล้ว</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>นี่คือ​รุ่น​สำหรับ​การพัฒนา​ที่ไม่มี​ลายเซ็น จะไม่​เริ่ม​โปรแกรม​ติดตั้ง</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>ไฟล์​ที่ดาวน์โหลด​ไม่มี​ลายเซ็น​ของผู้ผลิต​โปรแกรมนี้​และถูก​ลบแล้ว</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>ไม่มี​โปรแกรม​ติดตั้ง​สำหรับ​ระบบนี้</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>ไม่สามารถ​เริ่ม​โปรแกรม​ติดตั้ง</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Point at buildings or trees far away, in bright sunlight.</source>
     <message>
         <source>Continue</source>
         <translation>ดำเนินการต่อ</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>มีเวอร์ชัน %1 แล้ว
+จะดาวน์โหลด​และติดตั้ง​ภายใน​ไม่กี่นาที จากนั้น​โปรแกรม​จะปิด​และเริ่ม​ใหม่​โดยอัตโนมัติ</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>กำลัง​ดาวน์โหลด​เวอร์ชัน %1…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>การ​เชื่อมต่อ​ขาดหาย กำลัง​ลองใหม่…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 จาก %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>กำลัง​เชื่อมต่อ…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>กำลัง​เริ่ม​การติดตั้ง…
+โปรแกรม​จะปิด​ในขณะนี้​และเริ่ม​ใหม่​โดยอัตโนมัติ</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>การอัปเดต​ไม่สำเร็จ</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>เวอร์ชันนี้​ยังคง​ทำงาน​ได้​เหมือนเดิม</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>ภายหลัง</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>ยกเลิก</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>ปิด</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>ลองใหม่</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>อัปเดต</translation>
     </message>
 </context>
 </TS>

@@ -219,6 +219,38 @@ Yeniden deneyin. Binalar veya ağaçlar gibi ayrıntılı bir manzaraya doğrult
         <source>An unknown error has occured.</source>
         <translation>Bilinmeyen bir hata oluştu.</translation>
     </message>
+    <message>
+        <source>The connection broke off and could not be made again.</source>
+        <translation>Bağlantı kesildi ve yeniden kurulamadı.</translation>
+    </message>
+    <message>
+        <source>The download server does not give what was expected of it.</source>
+        <translation>İndirme sunucusu bekleneni sağlamıyor.</translation>
+    </message>
+    <message>
+        <source>The download could not be kept on the disk.</source>
+        <translation>İndirilen dosya diske kaydedilemedi.</translation>
+    </message>
+    <message>
+        <source>The download was damaged and has been removed.</source>
+        <translation>İndirilen dosya bozuktu ve kaldırıldı.</translation>
+    </message>
+    <message>
+        <source>This is a development build without a signature. It starts no installer.</source>
+        <translation>Bu, imzasız bir geliştirme sürümüdür. Hiçbir yükleyici başlatmaz.</translation>
+    </message>
+    <message>
+        <source>The download is not signed by the maker of this program and has been removed.</source>
+        <translation>İndirilen dosya bu programın üreticisi tarafından imzalanmamış ve kaldırıldı.</translation>
+    </message>
+    <message>
+        <source>There is no installer for this system.</source>
+        <translation>Bu sistem için yükleyici yok.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>Yükleyici başlatılamadı.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -449,6 +481,65 @@ Parlak güneş ışığında uzaktaki binalara veya ağaçlara doğrultun.</tran
     <message>
         <source>Continue</source>
         <translation>Devam</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>Version %1 is available.
+It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
+        <translation>%1 sürümü hazır.
+Birkaç dakika içinde indirilip yüklenir. Ardından program kapanır ve kendiliğinden yeniden başlar.</translation>
+    </message>
+    <message>
+        <source>Downloading version %1…</source>
+        <translation>%1 sürümü indiriliyor…</translation>
+    </message>
+    <message>
+        <source>The connection was lost. It is tried again…</source>
+        <translation>Bağlantı kesildi. Yeniden deneniyor…</translation>
+    </message>
+    <message>
+        <source>%1 of %2 MB</source>
+        <translation>%1 / %2 MB</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Bağlanılıyor…</translation>
+    </message>
+    <message>
+        <source>Starting the installation…
+The program closes now and starts again by itself.</source>
+        <translation>Yükleme başlatılıyor…
+Program şimdi kapanır ve kendiliğinden yeniden başlar.</translation>
+    </message>
+    <message>
+        <source>The update did not succeed.</source>
+        <translation>Güncelleştirme başarılı olmadı.</translation>
+    </message>
+    <message>
+        <source>This version goes on working as before.</source>
+        <translation>Bu sürüm eskisi gibi çalışmaya devam eder.</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Daha sonra</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Yeniden dene</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Güncelleştir</translation>
     </message>
 </context>
 </TS>
