@@ -47,7 +47,7 @@ protected:
         environment.workflow = {[this] { return std::make_unique<Sensor>(sensorEnvironment()); }, dataFolder()};
         environment.rootDocument = QUrl::fromLocalFile(FIELDCAL_APP_TESTS "/RecordingInterface.qml");
         environment.update.manifest = QUrl();
-        environment.language = {QString("German"), QString("Germany")};
+        environment.language = {QString("English"), QString("United States")};
         environment.showCritical = [this](const QString& title, const QString& text) {
             boxes.push_back((title + ": " + text).toStdString());
         };

@@ -133,12 +133,13 @@ TEST_F(InterfaceBridgeTest, WhatIsMissingIsShownAndLeftAsUsual) {
     }
 }
 
-TEST_F(InterfaceBridgeTest, AnArabicInterfaceReadsFromTheRight) {
+TEST_F(InterfaceBridgeTest, AnArabicInterfaceReadsFromTheRightAndSpeaksArabic) {
     start("openDevice:1:5", [](ApplicationEnvironment& environment) {
         environment.language = {QString("Arabic"), QString("Egypt")};
     });
     EXPECT_EQ(calls().front(), "leftToRight|false");
     EXPECT_TRUE(QGuiApplication::isRightToLeft());
+    EXPECT_EQ(QCoreApplication::translate("Interface", "Continue"), "متابعة");
 }
 
 /// The product's own interface: what the application calls is there.
