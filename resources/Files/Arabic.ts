@@ -299,6 +299,10 @@ The photos and what was found so far would be lost. The camera keeps its old cal
         <source>Stay</source>
         <translation>بقاء</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>تخزين الأولى</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Exit</source>
         <translation>خروج</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>ابدأ المعايرة من جديد. يمكن تخزين معايرة الكاميرا الأولى عند الخروج.</translation>
     </message>
 </context>
 <context>

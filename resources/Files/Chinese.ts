@@ -299,6 +299,10 @@ The photos and what was found so far would be lost. The camera keeps its old cal
         <source>Stay</source>
         <translation>留下</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>存储第一个</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Exit</source>
         <translation>退出</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>请重新启动校准。退出时可以存储第一个摄像头的校准。</translation>
     </message>
 </context>
 <context>

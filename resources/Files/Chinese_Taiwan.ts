@@ -299,6 +299,10 @@ The photos and what was found so far would be lost. The camera keeps its old cal
         <source>Stay</source>
         <translation>留下</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>儲存第一個</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Exit</source>
         <translation>結束</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>請重新啟動校正。結束時可以儲存第一個攝影機的校正。</translation>
     </message>
 </context>
 <context>

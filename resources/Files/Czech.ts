@@ -299,6 +299,10 @@ Snímky a dosavadní výsledek budou ztraceny. Kamera si ponechá starou kalibra
         <source>Stay</source>
         <translation>Zůstat</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Uložit první kameru</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ Pokračuje se automaticky. Dosud pořízené snímky se počítají.</translatio
     <message>
         <source>Exit</source>
         <translation>Ukončit</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Spusťte kalibraci znovu. Kalibraci první kamery lze uložit při ukončení.</translation>
     </message>
 </context>
 <context>

@@ -299,6 +299,10 @@ Fotoene og resultatet indtil nu går tabt. Kameraet beholder sin gamle kalibreri
         <source>Stay</source>
         <translation>Bliv</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Gem første kamera</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ Det fortsætter automatisk. De fotos, der er taget, tæller med.</translation>
     <message>
         <source>Exit</source>
         <translation>Afslut</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Start kalibreringen igen. Det første kameras kalibrering kan gemmes, når du afslutter.</translation>
     </message>
 </context>
 <context>

@@ -299,6 +299,10 @@ De foto’s en het resultaat tot nu toe gaan verloren. De camera behoudt de oude
         <source>Stay</source>
         <translation>Blijven</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Eerste camera opslaan</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ Het gaat vanzelf verder. De foto’s tot nu toe tellen mee.</translation>
     <message>
         <source>Exit</source>
         <translation>Afsluiten</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Start de kalibratie opnieuw. De kalibratie van de eerste camera kan bij het afsluiten worden opgeslagen.</translation>
     </message>
 </context>
 <context>

@@ -299,6 +299,10 @@ The photos and what was found so far would be lost. The camera keeps its old cal
         <source>Stay</source>
         <translation>Stay</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Store first camera</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ It goes on by itself. The photos taken so far count.</translation>
     <message>
         <source>Exit</source>
         <translation>Exit</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</translation>
     </message>
 </context>
 <context>

@@ -299,6 +299,10 @@ Kuvat ja tähänastinen tulos menetetään. Kamera säilyttää vanhan kalibroin
         <source>Stay</source>
         <translation>Jää</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Tallenna 1. kamera</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ Toiminta jatkuu automaattisesti. Jo otetut kuvat lasketaan.</translation>
     <message>
         <source>Exit</source>
         <translation>Poistu</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Käynnistä kalibrointi uudelleen. Ensimmäisen kameran kalibrointi voidaan tallentaa poistuttaessa.</translation>
     </message>
 </context>
 <context>

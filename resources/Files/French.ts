@@ -299,6 +299,10 @@ Les photos et le résultat obtenu seront perdus. La caméra conserve son ancien 
         <source>Stay</source>
         <translation>Rester</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Enregistrer la première</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ La suite est automatique. Les photos déjà prises comptent.</translation>
     <message>
         <source>Exit</source>
         <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Relancez l’étalonnage. L’étalonnage de la première caméra peut être enregistré en quittant.</translation>
     </message>
 </context>
 <context>

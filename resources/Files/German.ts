@@ -299,6 +299,10 @@ Die Fotos und das bisherige Ergebnis gehen verloren. Die Kamera behält ihre alt
         <source>Stay</source>
         <translation>Bleiben</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Erste Kamera speichern</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ Es geht von selbst weiter. Die bisherigen Fotos zählen.</translation>
     <message>
         <source>Exit</source>
         <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Starten Sie die Kalibrierung erneut. Die Kalibrierung der ersten Kamera kann beim Beenden gespeichert werden.</translation>
     </message>
 </context>
 <context>

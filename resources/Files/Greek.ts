@@ -299,6 +299,10 @@ The photos and what was found so far would be lost. The camera keeps its old cal
         <source>Stay</source>
         <translation>Παραμονή</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Αποθήκευση πρώτης</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Exit</source>
         <translation>Έξοδος</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Ξεκινήστε ξανά τη βαθμονόμηση. Η βαθμονόμηση της πρώτης κάμερας μπορεί να αποθηκευτεί κατά την έξοδο.</translation>
     </message>
 </context>
 <context>

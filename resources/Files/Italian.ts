@@ -299,6 +299,10 @@ Le foto e il risultato ottenuto finora andranno persi. La fotocamera mantiene la
         <source>Stay</source>
         <translation>Rimani</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Memorizza la prima</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ Si prosegue automaticamente. Le foto già scattate contano.</translation>
     <message>
         <source>Exit</source>
         <translation>Esci</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Avviare di nuovo la calibrazione. La calibrazione della prima fotocamera può essere memorizzata all’uscita.</translation>
     </message>
 </context>
 <context>

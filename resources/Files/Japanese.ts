@@ -299,6 +299,10 @@ The photos and what was found so far would be lost. The camera keeps its old cal
         <source>Stay</source>
         <translation>戻る</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>1 台目を保存</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Exit</source>
         <translation>終了</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>キャリブレーションを再度起動してください。1 台目のカメラのキャリブレーションは終了時に保存できます。</translation>
     </message>
 </context>
 <context>

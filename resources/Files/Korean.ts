@@ -299,6 +299,10 @@ The photos and what was found so far would be lost. The camera keeps its old cal
         <source>Stay</source>
         <translation>머무르기</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>첫 번째 저장</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Exit</source>
         <translation>종료</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>보정을 다시 시작하십시오. 첫 번째 카메라의 보정값은 종료할 때 저장할 수 있습니다.</translation>
     </message>
 </context>
 <context>

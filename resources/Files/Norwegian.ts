@@ -299,6 +299,10 @@ Bildene og resultatet så langt går tapt. Kameraet beholder den gamle kalibreri
         <source>Stay</source>
         <translation>Bli</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Lagre første kamera</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
     <message>
         <source>Exit</source>
         <translation>Avslutt</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Start kalibreringen på nytt. Kalibreringen av det første kameraet kan lagres når du avslutter.</translation>
     </message>
 </context>
 <context>

@@ -299,6 +299,10 @@ Zdjęcia i dotychczasowy wynik zostaną utracone. Kamera zachowa starą kalibrac
         <source>Stay</source>
         <translation>Zostań</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Zapisz pierwszą</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ Praca będzie kontynuowana automatycznie. Wykonane zdjęcia się liczą.</transl
     <message>
         <source>Exit</source>
         <translation>Wyjdź</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Uruchom kalibrację ponownie. Kalibrację pierwszej kamery można zapisać przy wyjściu.</translation>
     </message>
 </context>
 <context>

@@ -299,6 +299,10 @@ As fotografias e o resultado obtido até agora serão perdidos. A câmara manté
         <source>Stay</source>
         <translation>Ficar</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Guardar a primeira</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ Continua automaticamente. As fotografias já tiradas contam.</translation>
     <message>
         <source>Exit</source>
         <translation>Sair</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Inicie novamente a calibração. A calibração da primeira câmara pode ser guardada ao sair.</translation>
     </message>
 </context>
 <context>

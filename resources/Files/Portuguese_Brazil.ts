@@ -299,6 +299,10 @@ As fotos e o resultado obtido até agora serão perdidos. A câmera mantém a ca
         <source>Stay</source>
         <translation>Ficar</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Armazenar a primeira</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ O processo continua automaticamente. As fotos já tiradas contam.</translation>
     <message>
         <source>Exit</source>
         <translation>Sair</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Inicie a calibração novamente. A calibração da primeira câmera pode ser armazenada ao sair.</translation>
     </message>
 </context>
 <context>

@@ -299,6 +299,10 @@ Snímky a doterajší výsledok sa stratia. Kamera si ponechá starú kalibráci
         <source>Stay</source>
         <translation>Zostať</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Uložiť prvú kameru</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ Pokračuje sa automaticky. Doteraz zhotovené snímky sa počítajú.</translati
     <message>
         <source>Exit</source>
         <translation>Ukončiť</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Spustite kalibráciu znova. Kalibráciu prvej kamery možno uložiť pri ukončení.</translation>
     </message>
 </context>
 <context>

@@ -299,6 +299,10 @@ Se perderán las fotos y lo encontrado hasta ahora. La cámara conserva su calib
         <source>Stay</source>
         <translation>Quedarse</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Guardar la primera</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
     <message>
         <source>Exit</source>
         <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Inicie la calibración de nuevo. La calibración de la primera cámara se puede guardar al salir.</translation>
     </message>
 </context>
 <context>

@@ -299,6 +299,10 @@ Fotona och resultatet hittills går förlorade. Kameran behåller sin gamla kali
         <source>Stay</source>
         <translation>Stanna kvar</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>Lagra första kameran</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
     <message>
         <source>Exit</source>
         <translation>Avsluta</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Starta kalibreringen igen. Den första kamerans kalibrering kan lagras när du avslutar.</translation>
     </message>
 </context>
 <context>

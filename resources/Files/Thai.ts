@@ -299,6 +299,10 @@ The photos and what was found so far would be lost. The camera keeps its old cal
         <source>Stay</source>
         <translation>อยู่ต่อ</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>บันทึก​กล้อง​ตัวแรก</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Exit</source>
         <translation>ออก</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>เริ่ม​การ​ปรับเทียบ​อีกครั้ง สามารถ​บันทึก​ค่า​การ​ปรับเทียบ​ของ​กล้อง​ตัวแรก​ได้​เมื่อออก</translation>
     </message>
 </context>
 <context>

@@ -299,6 +299,10 @@ Fotoğraflar ve şu ana kadar bulunan sonuç kaybolur. Kamera eski kalibrasyonun
         <source>Stay</source>
         <translation>Kal</translation>
     </message>
+    <message>
+        <source>Store first camera</source>
+        <translation>İlk kamerayı kaydet</translation>
+    </message>
 </context>
 <context>
     <name>LightPopup</name>
@@ -395,6 +399,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Exit</source>
         <translation>Çıkış</translation>
+    </message>
+    <message>
+        <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
+        <translation>Kalibrasyonu yeniden başlatın. İlk kameranın kalibrasyonu çıkarken kaydedilebilir.</translation>
     </message>
 </context>
 <context>
