@@ -41,3 +41,7 @@ void* KXLibrary::symbol(const char* name) const {
 KXLibrary::~KXLibrary() {
     if (handle_ != nullptr) kxapi::closeSharedLibrary(handle_);
 }
+
+bool useSimulatedLibraries() {
+    return kxapi::restrictToSubfolder("simulated");
+}

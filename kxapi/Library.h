@@ -33,3 +33,8 @@ private:
 
     void* handle_ = nullptr;
 };
+
+/// From now on both libraries are looked for in the folder `simulated` beside the program and nowhere else, so that a
+/// demonstration never reaches a real camera. False, and nothing changes: there is no such folder. Before the first
+/// library is loaded.
+bool useSimulatedLibraries();

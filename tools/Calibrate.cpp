@@ -1,3 +1,4 @@
+#include "kxapi/Library.h"
 #include "tools/CommandLine.h"
 #include "tools/Console.h"
 #include "tools/RecordingCalibration.h"
@@ -34,6 +35,7 @@ int runCalibrate(const QStringList& arguments) {
     }
     if (options->platformCamera && !session.platform) return refuseUsage("the recording has no platform camera");
 
+    useSimulatedLibraries();  // no other one plays recordings
     std::srand(options->seed ? *options->seed : std::random_device{}());
     const bool toPeople = options->jsonFile != "-";
     RecordingCalibration calibration(folder, session, options->platformCamera, toPeople ? printLine : nullptr);

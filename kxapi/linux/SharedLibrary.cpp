@@ -15,19 +15,33 @@ std::string programFolder() {
     return full.substr(0, full.rfind('/') + 1);
 }
 
+/// Set once libraries come from nowhere else.
+std::string& onlyFolder() {
+    static std::string folder;
+    return folder;
+}
+
 }  // namespace
 
 void* openSharedLibrary(const char* name, std::string* why) {
     const std::string file = std::string("lib") + name + ".so";
-    const std::string own = programFolder() + file;
+    const bool restricted = !onlyFolder().empty();
+    const std::string own = (restricted ? onlyFolder() : programFolder()) + file;
     // A library that is there but broken must be reported as such, not hidden behind "not found".
-    const bool ownExists = access(own.c_str(), F_OK) == 0;
+    const bool ownExists = restricted || access(own.c_str(), F_OK) == 0;
     void* handle = dlopen(ownExists ? own.c_str() : file.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (handle == nullptr) {
         const char* text = dlerror();
         *why = text != nullptr ? text : "the library could not be loaded";
     }
     return handle;
+}
+
+bool restrictToSubfolder(const char* name) {
+    const std::string folder = programFolder() + name + '/';
+    if (access(folder.c_str(), X_OK) != 0) return false;
+    onlyFolder() = folder;
+    return true;
 }
 
 void closeSharedLibrary(void* handle) {

@@ -12,6 +12,16 @@ std::wstring programFolder() {
     return path.substr(0, path.find_last_of(L"\\/") + 1);
 }
 
+/// Set once libraries come from nowhere else.
+std::wstring& onlyFolder() {
+    static std::wstring folder;
+    return folder;
+}
+
+bool exists(const std::wstring& path) {
+    return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
 std::wstring widened(const char* ascii) {
     return {ascii, ascii + std::char_traits<char>::length(ascii)};
 }
@@ -20,14 +30,24 @@ std::wstring widened(const char* ascii) {
 
 void* openSharedLibrary(const char* name, std::string* why) {
     const std::wstring file = widened(name) + L".dll";
-    const std::wstring own = programFolder() + file;
-    const bool ownExists = GetFileAttributesW(own.c_str()) != INVALID_FILE_ATTRIBUTES;
-    HMODULE module =
-        ownExists ? LoadLibraryExW(own.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH) : LoadLibraryW(file.c_str());
+    const bool restricted = !onlyFolder().empty();
+    const std::wstring own = (restricted ? onlyFolder() : programFolder()) + file;
+    // Neither the current folder nor those of PATH, which others may write: this program has an administrator's rights.
+    const HMODULE module =
+        restricted || exists(own)
+            ? LoadLibraryExW(own.c_str(), nullptr, LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_DEFAULT_DIRS)
+            : LoadLibraryExW(file.c_str(), nullptr, LOAD_LIBRARY_SEARCH_DEFAULT_DIRS);
     if (module == nullptr) {
         *why = std::string(name) + ".dll could not be loaded (error " + std::to_string(GetLastError()) + ")";
     }
     return reinterpret_cast<void*>(module);
+}
+
+bool restrictToSubfolder(const char* name) {
+    const std::wstring folder = programFolder() + widened(name) + L'\\';
+    if (!exists(folder)) return false;
+    onlyFolder() = folder;
+    return true;
 }
 
 void closeSharedLibrary(void* handle) {

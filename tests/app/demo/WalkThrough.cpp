@@ -19,7 +19,7 @@ constexpr int kSettleMs = 700;
 
 }  // namespace
 
-bool WalkThrough::start(const QString& recording) {
+bool WalkThrough::start(const QString& recording, const QStringList& command) {
     if (!log_.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) std::fprintf(stderr, "no log is kept\n");
     qputenv("KXSIM_SESSION", recording.toLocal8Bit());
     qputenv("KXSIM_FLASH", (folder_ + "/flash").toLocal8Bit());
@@ -30,7 +30,11 @@ bool WalkThrough::start(const QString& recording) {
     qputenv("XDG_RUNTIME_DIR", (folder_ + "/session").toLocal8Bit());
     QFile::remove(folder_ + "/flash");
     program_.setProcessChannelMode(QProcess::MergedChannels);
-    program_.start(QCoreApplication::applicationDirPath() + "/field-calibrator", QStringList());
+    if (command.isEmpty()) {
+        program_.start(QCoreApplication::applicationDirPath() + "/field-calibrator", QStringList());
+    } else {
+        program_.start(command.first(), command.mid(1));
+    }
     if (program_.waitForStarted() && hand_.connected()) return true;
     problem_ = hand_.connected() ? program_.errorString() : "there is no X display";
     return false;

@@ -19,8 +19,10 @@ public:
     /// Pictures and the program's log go into `folder`.
     explicit WalkThrough(QString folder) : folder_(std::move(folder)), log_(folder_ + "/application.log") {}
 
-    /// Starts the program that lies beside this one, playing the recording on a module with a flash of its own.
-    bool start(const QString& recording);
+    /// Starts the program, playing the recording on a module with a flash of its own. Without a command it is the one
+    /// that lies beside this one; with one it may be another system's, as long as its window is on this display and its
+    /// log on standard error.
+    bool start(const QString& recording, const QStringList& command = {});
     /// Waits for a line of the log that contains `line` and came after the last one that was waited for. False: it did
     /// not come in time, or the program ended; `problem` says which.
     bool waitFor(const QString& line, int milliseconds) { return waitForOne({line}, milliseconds) == 0; }

@@ -1,7 +1,7 @@
 // Plays the whole workflow of the running program, from start to saved, by events from outside: with two cameras, or
 // with one when the recording has no more. Says what the simulated module's flash holds afterwards, how far the overlay
 // stood beside the picture, and how soon the interface answered while a photo was being worked on.
-//   walk-through RECORDING FOLDER        (on an X display; the program is the one beside it)
+//   walk-through RECORDING FOLDER [COMMAND...]        (on an X display; without a command the program beside it)
 #include "session/RecordedSession.h"
 #include "tests/app/demo/OverlayOffset.h"
 #include "tests/app/demo/WalkThrough.h"
@@ -189,7 +189,7 @@ bool judgeFlash(const Walk& walk, QString* why) {
     return true;
 }
 
-int run(const QString& recording, const QString& folder) {
+int run(const QString& recording, const QString& folder, const QStringList& command) {
     WalkThrough user(folder);
     QJsonObject result;
     Walk walk{user, {}, recording, &result, {}, {}};
@@ -200,7 +200,7 @@ int run(const QString& recording, const QString& folder) {
         return 2;
     }
     QString problem;
-    const bool played = user.start(recording) && play(&walk);
+    const bool played = user.start(recording, command) && play(&walk);
     if (!played) {
         user.look("stuck");
         problem = user.problem();
@@ -225,10 +225,11 @@ int run(const QString& recording, const QString& folder) {
 int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 3) {
-        std::fprintf(stderr, "usage: walk-through RECORDING FOLDER\n");
+    if (arguments.size() < 3) {
+        std::fprintf(stderr, "usage: walk-through RECORDING FOLDER [COMMAND...]\n");
         return 2;
     }
     QDir().mkpath(arguments[2]);
-    return fieldcal::testing::run(QDir(arguments[1]).absolutePath(), QDir(arguments[2]).absolutePath());
+    return fieldcal::testing::run(QDir(arguments[1]).absolutePath(), QDir(arguments[2]).absolutePath(),
+                                  arguments.mid(3));
 }
