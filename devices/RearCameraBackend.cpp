@@ -5,12 +5,20 @@
 namespace fieldcal {
 namespace {
 
+KXSimRearCameraFunction functionOf(const KXLibrary& library) {
+    return reinterpret_cast<KXSimRearCameraFunction>(library.symbol("KXSimRearCamera"));
+}
+
 RearCameraSource* sourceOf(const KXLibrary& library) {
-    const auto rearCamera = reinterpret_cast<KXSimRearCameraFunction>(library.symbol("KXSimRearCamera"));
+    const auto rearCamera = functionOf(library);
     return rearCamera != nullptr ? rearCamera() : nullptr;
 }
 
 }  // namespace
+
+bool RearCameraBackend::isIn(const KXLibrary& library) {
+    return functionOf(library) != nullptr;
+}
 
 RearCameraBackend::RearCameraBackend(std::shared_ptr<const KXLibrary> library) : library_(std::move(library)) {}
 

@@ -11,6 +11,9 @@ namespace fieldcal {
 /// a tablet without a rear camera: no device is found.
 class RearCameraBackend : public PlatformCameraBackend {
 public:
+    /// Whether the library has a say in the matter: a simulated one has, also for a tablet without a rear camera.
+    static bool isIn(const KXLibrary& library);
+
     explicit RearCameraBackend(std::shared_ptr<const KXLibrary> library);
 
     bool selectDevice(const std::string& friendlyName) override;

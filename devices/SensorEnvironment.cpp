@@ -1,12 +1,24 @@
 #include "devices/SensorEnvironment.h"
 
 #include "devices/RearCameraBackend.h"
+#include "devices/SystemRearCamera.h"
 
 #include <QStandardPaths>
 
 #include <utility>
 
 namespace fieldcal {
+
+namespace {
+
+/// A simulated module brings its own rear camera; beside a real one it is the tablet's.
+std::unique_ptr<PlatformCameraBackend> rearCameraBeside(std::shared_ptr<const KXLibrary> library) {
+    auto system = RearCameraBackend::isIn(*library) ? nullptr : systemRearCamera();
+    if (system != nullptr) return system;
+    return std::make_unique<RearCameraBackend>(std::move(library));
+}
+
+}  // namespace
 
 QString userDataFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/field-calibrator";
@@ -18,7 +30,7 @@ SensorEnvironment systemEnvironment() {
     environment.loadRotationUpdater = KXRotationUpdater::load;
     environment.services = &PXMServiceManager::instance();
     environment.createPlatformCamera = [](std::shared_ptr<const KXLibrary> library) {
-        return std::make_unique<CPlatformCameraControl>(std::make_unique<RearCameraBackend>(std::move(library)));
+        return std::make_unique<CPlatformCameraControl>(rearCameraBeside(std::move(library)));
     };
     environment.now = std::chrono::steady_clock::now;
     environment.dataFolder = userDataFolder();

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "devices/windows/ComObject.h"
+
+#include <condition_variable>
+#include <mfcaptureengine.h>
+#include <mutex>
+
+namespace fieldcal {
+
+/// Hears what becomes of the capture engine, on a thread of the engine's.
+class CaptureEngineEvents final : public ComObject<IMFCaptureEngineOnEventCallback> {
+public:
+    HRESULT STDMETHODCALLTYPE OnEvent(IMFMediaEvent* event) override;
+
+    /// Waits, without a limit, until the engine is initialised, has failed, or `giveUp` was called. True: initialised.
+    bool awaitInitialised();
+    void giveUp();
+
+private:
+    enum class Engine { Starting, Initialised, Failed };
+
+    void become(Engine what);
+
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    Engine engine_ = Engine::Starting;
+};
+
+}  // namespace fieldcal

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "devices/windows/CaptureFormat.h"
+#include "devices/windows/MFStreamingSampleCallback.h"
+
+#include <memory>
+
+namespace fieldcal {
+
+/// The streams of an initialised capture engine. Only the record stream is ever started: nobody looks at the preview
+/// or takes a photo, so their sinks are set up and rest. Where a camera has one stream for several purposes, the
+/// record stream's size is the one it gets.
+class CaptureStreams {
+public:
+    CaptureStreams(MediaSystem& system, IMFCaptureEngine& engine);
+
+    bool setUpPreview(const CaptureFormat& format);
+    /// Its pictures go to `outlet`.
+    bool setUpRecord(const CaptureFormat& format, std::shared_ptr<PictureOutlet> outlet);
+    bool setUpPhoto(const CaptureFormat& format);
+
+    bool start();
+    /// Nothing happens unless it was started.
+    void stop();
+
+private:
+    using SampleCallback = Microsoft::WRL::ComPtr<IMFCaptureEngineOnSampleCallback>;
+
+    template <typename Sink>
+    Microsoft::WRL::ComPtr<Sink> openSink(MF_CAPTURE_ENGINE_SINK_TYPE kind);
+    bool setDeviceType(DWORD stream, const CaptureFormat& format);
+    bool sharesRecordStream(DWORD stream);
+    bool addStream(IMFCaptureSink& sink, DWORD stream, const CaptureFormat& format, DWORD* sinkStream);
+    static SampleCallback callbackFor(const CaptureFormat& format, std::shared_ptr<PictureOutlet> outlet);
+
+    MediaSystem& system_;
+    Microsoft::WRL::ComPtr<IMFCaptureEngine> engine_;
+    Microsoft::WRL::ComPtr<IMFCaptureSource> source_;
+    bool started_ = false;
+};
+
+}  // namespace fieldcal

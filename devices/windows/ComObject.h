@@ -1,0 +1,43 @@
+#pragma once
+
+#include <atomic>
+#include <windows.h>
+
+namespace fieldcal {
+
+/// What every object that the system calls back needs: it counts its owners, begins with one, and ends with the last.
+template <typename Interface>
+class ComObject : public Interface {
+public:
+    ComObject(const ComObject&) = delete;
+    ComObject& operator=(const ComObject&) = delete;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID wanted, void** out) override {
+        if (out == nullptr) return E_POINTER;
+        *out = find(wanted);
+        if (*out == nullptr) return E_NOINTERFACE;
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++owners_; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --owners_;
+        if (left == 0) delete this;
+        return left;
+    }
+
+protected:
+    ComObject() = default;
+    virtual ~ComObject() = default;
+
+    /// Null: the object does not have that interface.
+    virtual void* find(REFIID wanted) {
+        const bool own = wanted == __uuidof(Interface) || wanted == __uuidof(IUnknown);
+        return own ? static_cast<Interface*>(this) : nullptr;
+    }
+
+private:
+    std::atomic<ULONG> owners_{1};
+};
+
+}  // namespace fieldcal

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "devices/PlatformCameraBackend.h"
+#include "devices/windows/ComThread.h"
+#include "devices/windows/MediaFoundationCamera.h"
+
+#include <functional>
+#include <memory>
+
+namespace fieldcal {
+
+/// The rear camera of this Windows. Any thread may call and end it: the camera itself lives on a COM thread of its own.
+class MediaFoundationBackend final : public PlatformCameraBackend {
+public:
+    /// `createSystem` is called on the COM thread.
+    explicit MediaFoundationBackend(const std::function<std::unique_ptr<MediaSystem>()>& createSystem);
+    ~MediaFoundationBackend() override;
+
+    bool selectDevice(const std::string& friendlyName) override;
+    bool openCamera() override;
+    bool setAutoFocus(bool on) override;
+    bool setFocus(std::int32_t value) override;
+    bool setupStream(Stream stream, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond,
+                     const std::string& subtype) override;
+    void setSink(RearCameraSink* sink) override;
+    std::int32_t firstPictureMs() const override;
+
+private:
+    bool run(const std::function<bool()>& call);
+
+    const std::shared_ptr<PictureOutlet> outlet_ = std::make_shared<PictureOutlet>();
+    std::unique_ptr<MediaFoundationCamera> camera_;  ///< made, used and ended on the COM thread
+    ComThread thread_;
+};
+
+}  // namespace fieldcal
