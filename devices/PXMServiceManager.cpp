@@ -43,7 +43,7 @@ private:
 
 PXMServiceManager& PXMServiceManager::instance() {
     static const std::unique_ptr<ServiceControl> control = systemServiceControl();
-    static PXMServiceManager manager(*control);
+    static PXMServiceManager manager(*control, serviceNoteFile());
     return manager;
 }
 
@@ -63,10 +63,11 @@ bool PXMServiceManager::shutdownPXMService() {
     _previousServiceStatus = readState();
     if (_previousServiceStatus == kFailed) return false;
     qInfo("PXMServiceManager::_previousServiceStatus = %i in shutdown", decimal(_previousServiceStatus));
+    if (!serviceMissing) rememberStartType();
     if (!changeStartType(kDisabled)) return false;
     if (!driveTo(kStopped)) {
         // Whoever leaves while we wait must not be left with a disabled service.
-        if (stopRequested()) changeStartType(_previousServiceStartType);
+        if (stopRequested()) restoreStartType();
         return false;
     }
     shutDown = !serviceMissing;
@@ -85,10 +86,25 @@ bool PXMServiceManager::restorePXMService() {
     qInfo("PXMServiceManager::_previousServiceStartType = %i in restore", decimal(_previousServiceStartType));
     qInfo("PXMServiceManager::_previousServiceStatus = %i in restore", decimal(_previousServiceStatus));
     if (!shutDown) return true;
-    if (!changeStartType(_previousServiceStartType)) return false;
+    if (!restoreStartType()) return false;
     qInfo("Changed the service start type.");
     restored = true;
     qInfo("PXMServiceManager::ServiceStartType restored to: %i", decimal(_previousServiceStartType));
+    return true;
+}
+
+void PXMServiceManager::rememberStartType() {
+    if (_previousServiceStartType != kDisabled) {
+        note_.keep(_previousServiceStartType);
+    } else if (const std::optional<std::uint32_t> kept = note_.kept()) {
+        qInfo("An earlier run left the service disabled; its start type was %i", decimal(*kept));
+        _previousServiceStartType = *kept;
+    }
+}
+
+bool PXMServiceManager::restoreStartType() {
+    if (!changeStartType(_previousServiceStartType)) return false;
+    note_.drop();
     return true;
 }
 

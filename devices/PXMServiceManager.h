@@ -1,23 +1,27 @@
 #pragma once
 
 #include "devices/ServiceControl.h"
+#include "devices/ServiceNote.h"
 
 #include <QString>
 
 #include <atomic>
 #include <cstdint>
+#include <utility>
 
 namespace fieldcal {
 
 /// Stops and disables the vendor's service that holds the depth camera while it runs, and puts its start type back
-/// afterwards. Restoring does not start the service again: it comes back at the next boot or start request.
-/// One thread at a time.
+/// afterwards. Restoring does not start the service again: it comes back at the next boot or start request. What a run
+/// that died left disabled, the next one puts back at its end. One thread at a time.
 class PXMServiceManager {
 public:
     /// The process's own manager, over this system's service control. For the composition root.
     static PXMServiceManager& instance();
 
-    explicit PXMServiceManager(ServiceControl& control) : control_(control) {}
+    /// `noteFile` keeps the start type while the service is disabled; without a name nothing is kept.
+    explicit PXMServiceManager(ServiceControl& control, QString noteFile = {})
+        : control_(control), note_(std::move(noteFile)) {}
     /// Restores the start type if nobody has.
     ~PXMServiceManager();
     PXMServiceManager(const PXMServiceManager&) = delete;
@@ -42,6 +46,8 @@ private:
 
     Opened openService(OpenedService* opened, std::uint32_t access, const char* nameInError);
     std::uint32_t readStartType();
+    void rememberStartType();
+    bool restoreStartType();
     std::uint32_t readState();
     bool changeStartType(std::uint32_t startType);
     bool queryState(const OpenedService& opened, std::uint32_t* state);
@@ -51,6 +57,7 @@ private:
     void setLastError(std::uint32_t error, const char* call);
 
     ServiceControl& control_;
+    const ServiceNote note_;
     const std::atomic<bool>* stop_ = nullptr;
     bool shutDown = false;
     bool restored = false;

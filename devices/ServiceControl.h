@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -38,5 +40,9 @@ public:
 
 /// This system's service control. Never null.
 std::unique_ptr<ServiceControl> systemServiceControl();
+
+/// Where a service's start type is kept for the next run, whoever starts it on this machine. Empty where a service is
+/// never disabled.
+QString serviceNoteFile();
 
 }  // namespace fieldcal

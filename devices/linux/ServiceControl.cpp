@@ -34,4 +34,8 @@ std::unique_ptr<ServiceControl> systemServiceControl() {
     return std::make_unique<NoServices>();
 }
 
+QString serviceNoteFile() {
+    return {};
+}
+
 }  // namespace fieldcal

@@ -85,9 +85,7 @@ bool CaptureStreams::addStream(IMFCaptureSink& sink, DWORD stream, const Capture
 CaptureStreams::SampleCallback CaptureStreams::callbackFor(const CaptureFormat& format,
                                                            std::shared_ptr<PictureOutlet> outlet) {
     if (outlet == nullptr) outlet = std::make_shared<PictureOutlet>();
-    SampleCallback callback;
-    callback.Attach(new MFStreamingSampleCallback(std::move(outlet), format.width, format.height));
-    return callback;
+    return makeCom<MFStreamingSampleCallback>(std::move(outlet), format.width, format.height);
 }
 
 bool CaptureStreams::start() {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <atomic>
+#include <utility>
 #include <windows.h>
+#include <wrl/client.h>
 
 namespace fieldcal {
 
@@ -39,5 +41,13 @@ protected:
 private:
     std::atomic<ULONG> owners_{1};
 };
+
+/// A new object with one owner. (`ComPtr::Attach` of this compiler's headers adds another one.)
+template <typename Object, typename... Arguments>
+Microsoft::WRL::ComPtr<Object> makeCom(Arguments&&... arguments) {
+    Microsoft::WRL::ComPtr<Object> made;
+    *made.GetAddressOf() = new Object(std::forward<Arguments>(arguments)...);
+    return made;
+}
 
 }  // namespace fieldcal

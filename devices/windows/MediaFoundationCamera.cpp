@@ -58,7 +58,7 @@ bool MediaFoundationCamera::openCamera() {
 
 bool MediaFoundationCamera::createEngine() {
     Microsoft::WRL::ComPtr<IMFAttributes> options;
-    events_.Attach(new CaptureEngineEvents);
+    events_ = makeCom<CaptureEngineEvents>();
     // Pictures in ordinary memory, and no microphone.
     return succeeded(system_->createCaptureEngine(engine_.ReleaseAndGetAddressOf()), "creating the capture engine") &&
            succeeded(system_->createAttributes(2, options.GetAddressOf()), "MFCreateAttributes") &&

@@ -2,6 +2,8 @@
 #include "tests/devices/FakeServiceControl.h"
 #include "tests/devices/LogCapture.h"
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -148,6 +150,49 @@ TEST_F(PXMServiceManagerTest, AStopEndsTheWaitAndUndoesTheDisabling) {
     EXPECT_EQ(sleeps, 3);
     EXPECT_EQ(control.startType, 2U);
     EXPECT_EQ(LogCapture::lines().back(), "new_state = 1, old_state = 4");
+}
+
+TEST_F(PXMServiceManagerTest, WhatADeadRunLeftDisabledIsPutBack) {
+    QTemporaryDir folder;
+    const QString note = folder.filePath("notes/start-type");
+    const auto write = [&](const QByteArray& text) {
+        QFile file(note);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    };
+    for (const std::uint32_t own : {2U, 3U}) {
+        control.startType = own;
+        PXMServiceManager dead(control, note);
+        ASSERT_TRUE(dead.shutdownPXMService());
+        control.fail("changeConfig", 1, 5);
+        EXPECT_FALSE(dead.restorePXMService());
+        ASSERT_EQ(control.startType, 4U);
+        EXPECT_TRUE(QFile::exists(note));
+
+        FakeServiceControl left;
+        left.startType = 4;
+        PXMServiceManager next(left, note);
+        ASSERT_TRUE(next.shutdownPXMService());
+        EXPECT_TRUE(next.restorePXMService());
+        EXPECT_EQ(left.startType, own);
+        EXPECT_FALSE(QFile::exists(note));
+        control = {};
+    }
+    for (const char* nonsense : {"4", "-1", "two", ""}) {
+        write(nonsense);
+        FakeServiceControl disabled;
+        disabled.startType = 4;
+        PXMServiceManager fresh(disabled, note);
+        ASSERT_TRUE(fresh.shutdownPXMService());
+        EXPECT_TRUE(fresh.restorePXMService());
+        EXPECT_EQ(disabled.startType, 4U) << "a service that somebody else disabled stays so";
+    }
+    write("3");
+    control = {};
+    manager = std::make_unique<PXMServiceManager>(control, note);
+    ASSERT_TRUE(manager->shutdownPXMService());
+    EXPECT_TRUE(manager->restorePXMService());
+    EXPECT_EQ(control.startType, 2U) << "an old note does not outweigh what the service says";
 }
 
 }  // namespace
