@@ -1,0 +1,18 @@
+// One `rand()` for every system, in place of the C library's own: the same recording and seed then give the same
+// angles wherever the program runs.
+#include <cstdlib>
+
+namespace {
+
+unsigned theState = 1;
+
+}  // namespace
+
+extern "C" void srand(unsigned seed) noexcept {
+    theState = seed;
+}
+
+extern "C" int rand() noexcept {
+    theState = theState * 1103515245U + 12345U;
+    return static_cast<int>(theState >> 16 & 0x7FFFU);
+}
