@@ -22,7 +22,7 @@ inline QString renderedRecording(const QString& name, const QStringList& wishes)
 
 /// Six stills of the mountains, where nothing is near, with the rear camera.
 inline QString mountainRecording() {
-    return renderedRecording("mountains", {"--world", "mountains", "--seed", "5", "--stills", "6", "--platform"});
+    return renderedRecording("mountains", {"--world", "mountains", "--seed", "10", "--stills", "6", "--platform"});
 }
 /// Two stills of the night.
 inline QString nightRecording() {
