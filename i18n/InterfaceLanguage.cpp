@@ -41,7 +41,10 @@ QString nameFor(const SystemLanguage& user) {
 }  // namespace
 
 QString translationName(const QString& language, const QString& country) {
-    return QString(cutVariant(language) + "_" + country).remove(' ');
+    QString name = QString(cutVariant(language) + "_" + country).remove(' ');
+    // "Hong Kong SAR China", as some systems say.
+    if (name.endsWith(QLatin1String("SARChina"))) name.chop(5);
+    return name;
 }
 
 bool loadInterfaceLanguage(const SystemLanguage& user, const QString& folder, QTranslator* translator) {

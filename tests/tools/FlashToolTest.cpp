@@ -62,7 +62,7 @@ TEST_F(FlashToolTest, ABackupBringsTheOldCalibrationBack) {
         changed("other", [](session::SessionDescription* s, const QString&) { s->module.serial = 9; });
     const Result refused = run({"restore", kept}, otherModule);
     EXPECT_EQ(refused.status, 1);
-    EXPECT_EQ(refused.error, "the backup is of module 700005, the connected one is 9\n");
+    EXPECT_EQ(refused.error, "the backup is of module 700010, the connected one is 9\n");
     const Result noBackup = run({"restore", flash}, knobs);
     EXPECT_EQ(noBackup.error, flash.toLocal8Bit() + ": it is no backup of a parameter block\n");
 }

@@ -142,7 +142,7 @@ TEST_F(WorkflowTest, AFailedSaveIsNotedAndToldAtTheNextStart) {
     EXPECT_EQ(user->lastSave->reason, report.errors[0]);
     EXPECT_EQ(user->lastSave->flash, "The camera's flash holds the previous calibration.");
     EXPECT_TRUE(QFile::exists(user->lastSave->backupFile));
-    EXPECT_EQ(user->lastSave->serial, 700005U);
+    EXPECT_EQ(user->lastSave->serial, 700010U);
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     EXPECT_FALSE(user->lastSave) << "told once";

@@ -76,11 +76,6 @@ bool WalkThrough::hasCome(const QStringList& lines) {
     return std::any_of(lines.begin(), lines.end(), [this](const QString& line) { return unread_.contains(line); });
 }
 
-int WalkThrough::timesCome(const QByteArray& text) const {
-    QFile log(log_.fileName());
-    return log.open(QIODevice::ReadOnly) ? log.readAll().count(text) : 0;
-}
-
 bool WalkThrough::actUntil(const QString& line, const std::function<void()>& action) {
     for (int waitedMs = 0; waitedMs < kPatienceMs; waitedMs += kActEveryMs) {
         hand_.focusLargestWindow();

@@ -37,8 +37,6 @@ public:
     double reactionMs(const std::function<void()>& action);
     /// Whether one of the lines has come since the last one that was waited for.
     bool hasCome(const QStringList& lines);
-    /// How often a text stands in the log so far.
-    int timesCome(const QByteArray& text) const;
     /// The program's exit code, once it has ended by itself; -1 when it does not.
     int waitForEnd();
 

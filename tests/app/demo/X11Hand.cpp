@@ -1,11 +1,17 @@
 #include "tests/app/demo/X11Hand.h"
 
+#include <QThread>
+
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
 #include <X11/keysym.h>
 
 namespace fieldcal::testing {
 namespace {
+
+/// No hand is faster, and a system that takes a key for held must see it up again.
+constexpr unsigned long kHeldMs = 60;
+constexpr unsigned long kFocusMs = 300;
 
 KeySym symbolOf(X11Hand::Key key) {
     switch (key) {
@@ -60,13 +66,19 @@ bool X11Hand::focusLargestWindow() {
     }
     XFree(windows);
     if (largest == 0) return false;
+    Window focused = 0;
+    int revertTo = 0;
+    XGetInputFocus(connection_->display, &focused, &revertTo);
+    if (focused == largest) return true;
     XSetInputFocus(connection_->display, largest, RevertToParent, CurrentTime);
     XSync(connection_->display, False);
+    QThread::msleep(kFocusMs);
     return true;
 }
 
 void X11Hand::press(Key key) {
     hold(key);
+    QThread::msleep(kHeldMs);
     release(key);
 }
 
