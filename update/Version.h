@@ -12,7 +12,7 @@ namespace fieldcal {
 struct Version {
     std::array<std::uint16_t, 4> parts{};
 
-    /// "1.2.10": digits and dots alone, each part 0..65535 without leading zeros. Anything else is none.
+    /// "1.2.10": numbers from 0 to 65535 without leading zeros, dots between them. Anything else is none.
     static std::optional<Version> parse(const QString& text);
     /// At least two parts, and no more than are needed.
     QString text() const;

@@ -3,7 +3,9 @@
 #include "session/RecordedSession.h"
 #include "simulator/kxapi/Settings.h"
 
+#include <algorithm>
 #include <cstring>
+#include <vector>
 
 namespace kxsim {
 namespace {
@@ -20,6 +22,13 @@ std::string nameIn(const std::string& session) {
     std::string why;
     if (session.empty() || !readDescription(session, &description, &why) || !description.platform) return kDefaultName;
     return description.platform->name;
+}
+
+std::vector<std::uint8_t> darkNv12() {
+    constexpr std::size_t pixels = std::size_t{kPlatformWidth} * kPlatformHeight;
+    std::vector<std::uint8_t> picture(pixels * 3 / 2, 128);
+    std::fill_n(picture.begin(), pixels, std::uint8_t{16});
+    return picture;
 }
 
 }  // namespace
@@ -102,6 +111,11 @@ bool RearCamera::streams() {
 void RearCamera::show(const std::uint8_t* nv12, double timeSeconds) {
     const std::lock_guard<std::mutex> lock(mutex_);
     if (streaming_ && sink_ != nullptr) sink_->onPicture(nv12, kPlatformWidth, kPlatformHeight, timeSeconds);
+}
+
+void RearCamera::showDark() {
+    static const std::vector<std::uint8_t> dark = darkNv12();
+    show(dark.data(), 0);
 }
 
 }  // namespace kxsim

@@ -31,6 +31,8 @@ public:
     bool streams();
     /// Hands a 1280 x 720 NV12 picture to the sink, when there is one and the record stream is set up.
     void show(const std::uint8_t* nv12, double timeSeconds);
+    /// The same with a black one: a camera that works delivers something before there is anything to see.
+    void showDark();
 
 private:
     template <typename Action>

@@ -5,25 +5,9 @@
 #include "simulator/kxapi/RearCamera.h"
 #include "simulator/kxapi/Sources.h"
 
-#include <algorithm>
 #include <utility>
-#include <vector>
 
 namespace kxsim {
-namespace {
-
-using fieldcal::session::kPlatformHeight;
-using fieldcal::session::kPlatformWidth;
-
-std::vector<std::uint8_t> darkNv12() {
-    constexpr std::size_t pixels = std::size_t{kPlatformWidth} * kPlatformHeight;
-    std::vector<std::uint8_t> picture(pixels * 3 / 2, 128);
-    std::fill_n(picture.begin(), pixels, std::uint8_t{16});
-    return picture;
-}
-
-}  // namespace
-
 SimulatedDevice::SimulatedDevice(Settings settings)
     : hardware_(&state_), third_(&state_), emitter_(&state_), platform_(&state_), private_(&state_) {
     state_.settings = std::move(settings);
@@ -184,11 +168,7 @@ bool SimulatedDevice::nextFrame(bool wait) {
 
 void SimulatedDevice::showToRearCamera() const {
     const FrameSource& source = *state_.source;
-    if (source.current() == nullptr && RearCamera::instance().streams()) {
-        // The world is not there yet; a camera that works would deliver something.
-        static const std::vector<std::uint8_t> dark = darkNv12();
-        RearCamera::instance().show(dark.data(), 0);
-    }
+    if (source.current() == nullptr) RearCamera::instance().showDark();
     if (source.current() == nullptr || !source.hasNewPlatformPicture()) return;
     const double seconds = static_cast<double>(source.grabs()) / source.grabsPerSecond();
     RearCamera::instance().show(source.current()->platform.data(), seconds);
