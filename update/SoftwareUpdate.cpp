@@ -120,6 +120,7 @@ void SoftwareUpdate::downloadInterrupted() {
 
 void SoftwareUpdate::downloadEnded(std::optional<UpdateFailure> failure) {
     if (failure) {
+        download_->setParent(this);  // should no event loop run any more, it goes with this
         download_.release()->deleteLater();
         listener_.updateFailed(*failure);
         return;
