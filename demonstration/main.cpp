@@ -2,9 +2,9 @@
 // with one when the recording has no more. Says what the simulated module's flash holds afterwards, how far the overlay
 // stood beside the picture, and how soon the interface answered while a photo was being worked on.
 //   walk-through RECORDING FOLDER [COMMAND...]        (on an X display; without a command the program beside it)
+#include "demonstration/OverlayOffset.h"
+#include "demonstration/WalkThrough.h"
 #include "session/RecordedSession.h"
-#include "tests/app/demo/OverlayOffset.h"
-#include "tests/app/demo/WalkThrough.h"
 #include "tools/CalibrationReport.h"
 #include "tools/ConnectedModule.h"
 
@@ -20,7 +20,7 @@
 
 #include <cstdio>
 
-namespace fieldcal::testing {
+namespace fieldcal::demonstration {
 namespace {
 
 using Key = X11Hand::Key;
@@ -220,7 +220,7 @@ int run(const QString& recording, const QString& folder, const QStringList& comm
 }
 
 }  // namespace
-}  // namespace fieldcal::testing
+}  // namespace fieldcal::demonstration
 
 int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
@@ -230,6 +230,6 @@ int main(int argc, char** argv) {
         return 2;
     }
     QDir().mkpath(arguments[2]);
-    return fieldcal::testing::run(QDir(arguments[1]).absolutePath(), QDir(arguments[2]).absolutePath(),
-                                  arguments.mid(3));
+    return fieldcal::demonstration::run(QDir(arguments[1]).absolutePath(), QDir(arguments[2]).absolutePath(),
+                                        arguments.mid(3));
 }

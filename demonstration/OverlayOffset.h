@@ -6,7 +6,7 @@
 #include <array>
 #include <vector>
 
-namespace fieldcal::testing {
+namespace fieldcal::demonstration {
 
 /// How far the coloured depth on a picture of the screen stands to the right of and below the edges it belongs to.
 struct OverlayOffset {
@@ -18,4 +18,4 @@ struct OverlayOffset {
 /// screen shows is found among them.
 OverlayOffset measureOverlayOffset(const QImage& screen, const std::vector<cv::Mat>& pictures);
 
-}  // namespace fieldcal::testing
+}  // namespace fieldcal::demonstration

@@ -1,4 +1,4 @@
-#include "tests/app/demo/WalkThrough.h"
+#include "demonstration/WalkThrough.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <cstdio>
 
-namespace fieldcal::testing {
+namespace fieldcal::demonstration {
 namespace {
 
 constexpr int kPatienceMs = 120000;
@@ -121,4 +121,4 @@ int WalkThrough::waitForEnd() {
     return -1;
 }
 
-}  // namespace fieldcal::testing
+}  // namespace fieldcal::demonstration

@@ -1,4 +1,4 @@
-#include "tests/app/demo/X11Hand.h"
+#include "demonstration/X11Hand.h"
 
 #include <QThread>
 
@@ -6,7 +6,7 @@
 #include <X11/extensions/XTest.h>
 #include <X11/keysym.h>
 
-namespace fieldcal::testing {
+namespace fieldcal::demonstration {
 namespace {
 
 /// No hand is faster, and a system that takes a key for held must see it up again.
@@ -111,4 +111,4 @@ void X11Hand::buttonUp() {
     XSync(connection_->display, False);
 }
 
-}  // namespace fieldcal::testing
+}  // namespace fieldcal::demonstration

@@ -12,8 +12,11 @@
 #include <algorithm>
 #include <cstdio>
 
-namespace fieldcal::testing {
+namespace fieldcal::demonstration {
 namespace {
+
+using testing::Scene;
+using testing::ViewsStage;
 
 constexpr int kSettleMs = 2200;  // longer than any text is held back or any confirmation lasts
 
@@ -95,15 +98,15 @@ int run(const QStringList& arguments) {
     const QStringList size = arguments.value(3, "1280x800").split('x');
     const QString language = arguments.value(4, "English");
     QTranslator translator;
-    const bool leftToRight = language != "rtl" && speak(language, &translator);
+    const bool leftToRight = language != "rtl" && testing::speak(language, &translator);
     Strip strip{arguments[1], arguments[2], {size.value(0).toInt(), size.value(1).toInt()}, leftToRight};
     QDir().mkpath(strip.folder);
     qputenv("STORY_PICTURES", strip.recording.toLocal8Bit());
-    return shootAll(story(), &strip) && shootAll(endings(), &strip) ? 0 : 1;
+    return shootAll(testing::story(), &strip) && shootAll(testing::endings(), &strip) ? 0 : 1;
 }
 
 }  // namespace
-}  // namespace fieldcal::testing
+}  // namespace fieldcal::demonstration
 
 int main(int argc, char** argv) {
     fieldcal::requestDesktopOpenGL();
@@ -113,5 +116,5 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: film-strip RECORDING FOLDER [WIDTHxHEIGHT] [rtl | LANGUAGE]\n");
         return 2;
     }
-    return fieldcal::testing::run(QCoreApplication::arguments());
+    return fieldcal::demonstration::run(QCoreApplication::arguments());
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/app/demo/X11Hand.h"
+#include "demonstration/X11Hand.h"
 
 #include <QFile>
 #include <QImage>
@@ -10,7 +10,7 @@
 
 #include <functional>
 
-namespace fieldcal::testing {
+namespace fieldcal::demonstration {
 
 /// A person at the running program, who reads its log to know where they are: looks (takes a picture of the screen),
 /// acts, and waits for what comes of it.
@@ -57,4 +57,4 @@ private:
     QStringList pictures_;
 };
 
-}  // namespace fieldcal::testing
+}  // namespace fieldcal::demonstration

@@ -1,7 +1,7 @@
 // Keeps the running program capturing and refining, over and over, and samples how much memory it holds.
 //   endurance RECORDING FOLDER MINUTES   (on an X display; the program is the one beside it)
 // MINUTES are the module's own: KXSIM_SPEED times those on the wall. A speed of 0, as fast as it can, has none.
-#include "tests/app/demo/WalkThrough.h"
+#include "demonstration/WalkThrough.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -12,7 +12,7 @@
 
 #include <cstdio>
 
-namespace fieldcal::testing {
+namespace fieldcal::demonstration {
 namespace {
 
 using Key = X11Hand::Key;
@@ -74,7 +74,7 @@ int run(const QString& recording, const QString& folder, int minutes) {
 }
 
 }  // namespace
-}  // namespace fieldcal::testing
+}  // namespace fieldcal::demonstration
 
 int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
@@ -84,6 +84,6 @@ int main(int argc, char** argv) {
         return 2;
     }
     QDir().mkpath(arguments[2]);
-    return fieldcal::testing::run(QDir(arguments[1]).absolutePath(), QDir(arguments[2]).absolutePath(),
-                                  arguments[3].toInt());
+    return fieldcal::demonstration::run(QDir(arguments[1]).absolutePath(), QDir(arguments[2]).absolutePath(),
+                                        arguments[3].toInt());
 }

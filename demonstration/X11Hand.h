@@ -2,7 +2,7 @@
 
 #include <memory>
 
-namespace fieldcal::testing {
+namespace fieldcal::demonstration {
 
 /// Presses keys and drags on the X display that DISPLAY names, as a person would; every other process sees real events.
 class X11Hand {
@@ -28,4 +28,4 @@ private:
     std::unique_ptr<Connection> connection_;
 };
 
-}  // namespace fieldcal::testing
+}  // namespace fieldcal::demonstration

@@ -1,10 +1,10 @@
-#include "tests/app/demo/OverlayOffset.h"
+#include "demonstration/OverlayOffset.h"
 
 #include <opencv2/imgproc.hpp>
 
 #include <algorithm>
 
-namespace fieldcal::testing {
+namespace fieldcal::demonstration {
 namespace {
 
 constexpr float kPictureShare = 0.4F;  ///< of what is seen where there is depth
@@ -114,4 +114,4 @@ OverlayOffset measureOverlayOffset(const QImage& screen, const std::vector<cv::M
     return offset;
 }
 
-}  // namespace fieldcal::testing
+}  // namespace fieldcal::demonstration
