@@ -78,7 +78,7 @@ bool WalkThrough::hasCome(const QStringList& lines) {
 
 bool WalkThrough::actUntil(const QString& line, const std::function<void()>& action) {
     for (int waitedMs = 0; waitedMs < kPatienceMs; waitedMs += kActEveryMs) {
-        hand_.focusLargestWindow();
+        hand_.focusWindow();
         action();
         if (waitFor(line, kActEveryMs)) return true;
         if (program_.state() == QProcess::NotRunning) return false;

@@ -45,15 +45,31 @@ bool X11Hand::connected() const {
     return connection_->display != nullptr;
 }
 
-bool X11Hand::focusLargestWindow() {
-    Window root = 0;
-    Window parent = 0;
+void X11Hand::focusWindow() {
+    if (someWindowHasFocus()) return;
+    const Window largest = largestWindow();
+    if (largest == None) return;
+    XSetInputFocus(connection_->display, largest, RevertToParent, CurrentTime);
+    XSync(connection_->display, False);
+    QThread::msleep(kFocusMs);
+}
+
+bool X11Hand::someWindowHasFocus() const {
+    Window focused = None;
+    int revertTo = 0;
+    XGetInputFocus(connection_->display, &focused, &revertTo);
+    return focused != None && focused != PointerRoot && focused != DefaultRootWindow(connection_->display);
+}
+
+unsigned long X11Hand::largestWindow() const {
+    Window root = None;
+    Window parent = None;
     Window* windows = nullptr;
     unsigned int count = 0;
     if (XQueryTree(connection_->display, DefaultRootWindow(connection_->display), &root, &parent, &windows, &count) ==
         0)
-        return false;
-    Window largest = 0;
+        return None;
+    Window largest = None;
     int largestArea = 0;
     for (unsigned int i = 0; i < count; ++i) {
         XWindowAttributes attributes;
@@ -65,15 +81,7 @@ bool X11Hand::focusLargestWindow() {
         largestArea = attributes.width * attributes.height;
     }
     XFree(windows);
-    if (largest == 0) return false;
-    Window focused = 0;
-    int revertTo = 0;
-    XGetInputFocus(connection_->display, &focused, &revertTo);
-    if (focused == largest) return true;
-    XSetInputFocus(connection_->display, largest, RevertToParent, CurrentTime);
-    XSync(connection_->display, False);
-    QThread::msleep(kFocusMs);
-    return true;
+    return largest;
 }
 
 void X11Hand::press(Key key) {

@@ -11,8 +11,9 @@ public:
     ~X11Hand();
 
     bool connected() const;
-    /// Gives the keyboard to the largest window; without a window manager nobody else does. False: there is none.
-    bool focusLargestWindow();
+    /// Gives the keyboard to the largest window if none has it; without a window manager nobody else does. A program
+    /// whose own focus is inside its window would take this for the loss of it.
+    void focusWindow();
     enum class Key { Return, Escape, Tab, Space };
     void press(Key key);
     void hold(Key key);
@@ -23,6 +24,8 @@ public:
 
 private:
     void sendKey(Key key, bool down);
+    bool someWindowHasFocus() const;
+    unsigned long largestWindow() const;
 
     struct Connection;
     std::unique_ptr<Connection> connection_;
