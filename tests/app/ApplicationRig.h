@@ -24,7 +24,9 @@ constexpr qint64 kPatienceMs = 120000;
 class ApplicationTest : public ::testing::Test {
 protected:
     ApplicationTest() {
+#ifndef Q_OS_WIN
         set("QT_QPA_PLATFORM", "offscreen");
+#endif
         set("QT_QUICK_BACKEND", "software");
         set("KXSIM_SESSION", mountainRecording());
         set("KXSIM_SPEED", "0");
