@@ -96,13 +96,12 @@ public:
     bool writeRectParameters(const KXCalibRectParameters* block, bool permanent) override {
         if (onWrite) onWrite();
         if (!call("writeRectParameters", permanent)) return false;
-        if (!ignoreWrites) written = *block;
+        written = *block;
         return true;
     }
     bool commitCalibration() override {
         if (!call("commitCalibration")) return false;
         flash = written;
-        if (garbleCommits-- > 0) flash.reserved1[50] ^= 4;
         return true;
     }
 
@@ -139,8 +138,6 @@ public:
     std::function<void()> onWrite;
     KXCalibRectParameters flash = unitBlock();
     KXCalibRectParameters written = flash;
-    bool ignoreWrites = false;
-    int garbleCommits = 0;  ///< that many commits store something else
 
     /// Recognisable bytes around three identities.
     static KXCalibRectParameters unitBlock() {

@@ -6,18 +6,12 @@
 namespace fieldcal::testing {
 namespace {
 
-Rotation rotationOf(double a0, double a1, double a2) {
-    const double c0 = std::cos(a0), s0 = std::sin(a0), c1 = std::cos(a1), s1 = std::sin(a1);
-    const double c2 = std::cos(a2), s2 = std::sin(a2);
-    const double r[9] = {c2 * c1,
-                         c2 * s1 * s0 - s2 * c0,
-                         c2 * s1 * c0 + s2 * s0,
-                         s2 * c1,
-                         s2 * s1 * s0 + c2 * c0,
-                         s2 * s1 * c0 - c2 * s0,
-                         -s1,
-                         c1 * s0,
-                         c1 * c0};
+/// Of the quaternion (1, x, y, z), brought to length 1.
+Rotation rotationOf(double x, double y, double z) {
+    const double s = 2 / (1 + x * x + y * y + z * z);
+    const double r[9] = {1 - s * (y * y + z * z), s * (x * y - z),         s * (x * z + y),
+                         s * (x * y + z),         1 - s * (x * x + z * z), s * (y * z - x),
+                         s * (x * z - y),         s * (y * z + x),         1 - s * (x * x + y * y)};
     Rotation out{};
     std::copy(r, r + 9, out.begin());
     return out;
@@ -38,11 +32,11 @@ protected:
 
 TEST_F(FlashRoundTripTest, WhatIsWrittenIsReadAgainByTheNextProgram) {
     std::mt19937 random(7);
-    std::uniform_real_distribution<double> angle(-0.07, 0.07);
+    std::uniform_real_distribution<double> component(-0.035, 0.035);
     for (int i = 0; i < 20; ++i) {
         reopen();
-        const Rotation newThird = rotationOf(angle(random), angle(random), angle(random));
-        const Rotation newPlatform = rotationOf(angle(random), angle(random), angle(random));
+        const Rotation newThird = rotationOf(component(random), component(random), component(random));
+        const Rotation newPlatform = rotationOf(component(random), component(random), component(random));
         ASSERT_TRUE(sensor->updateRotation(newThird, newPlatform)) << sensor->faultText().toStdString();
         reopen();
         EXPECT_LT(largestDifference(third(), newThird), 1e-6);

@@ -4,7 +4,9 @@
 #include "devices/ParameterBackup.h"
 #include "tests/devices/FakeServiceControl.h"
 #include "tests/devices/LogCapture.h"
+#include "tests/devices/SensorReports.h"
 #include "tests/session/TestSession.h"
+#include "tests/simulator/SimulatedModule.h"
 
 #include <gmock/gmock.h>
 
@@ -14,23 +16,17 @@
 
 namespace fieldcal::testing {
 
-/// The simulated module behind a real sensor: a tiny recording, a flash file, a scripted vendor's service. `reports`
-/// collects what the sensor emits: the error's text, or the signal's short name.
-class ModuleRig : public session::SessionFolder {
+/// The simulated module behind a real sensor: a tiny recording, a flash file, a scripted vendor's service.
+class ModuleRig : public session::SessionFolder, protected SimulatedModule {
 protected:
     ModuleRig() : flashFile(temporary.filePath("flash")) {
         const QString name =
             QString::fromStdString(session::kSessionText).replace("\"Rear\"", "\"HP Truevision 8MP Rear\"");
         session::writeFile(path("session.json"), name.toUtf8());
-        set("KXSIM_SESSION", QString::fromStdString(folder));
+        set("KXSIM_SESSION", folder);
         set("KXSIM_SPEED", "0");
         set("KXSIM_FLASH", flashFile);
     }
-    ~ModuleRig() override {
-        for (const char* variable : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_FLASH", "KXSIM_FAULTS"})
-            qunsetenv(variable);
-    }
-    static void set(const char* variable, const QString& value) { qputenv(variable, value.toLocal8Bit()); }
 
     /// From here on the recording has no platform camera, whose read-out takes long.
     void dropPlatform() {
@@ -56,12 +52,7 @@ protected:
         environment.dataFolder = temporary.filePath("data");
         environment.callLimit = callLimit;
         sensor = std::make_unique<Sensor>(environment);
-        const auto add = [this](const char* name) { return [this, name] { reports.emplace_back(name); }; };
-        QObject::connect(sensor.get(), &Sensor::signal_reportKXAPIError,
-                         [this](const QString& text) { reports.push_back(text.toStdString()); });
-        QObject::connect(sensor.get(), &Sensor::signal_reportMissingQ550Device, add("MissingQ550"));
-        QObject::connect(sensor.get(), &Sensor::signal_reportMissingPlatformCamera, add("MissingPlatform"));
-        QObject::connect(sensor.get(), &Sensor::signal_reportPlatformCameraIssue, add("PlatformIssue"));
+        collectReports(*sensor, &reports);
     }
     bool open() {
         return sensor->open(applicationSettings()) && readCameraParameters(*sensor, &parameters, [] {});

@@ -1,4 +1,5 @@
 #include "devices/ParameterBackup.h"
+#include "tests/devices/FakeDevice.h"
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -6,7 +7,6 @@
 #include <QtEndian>
 #include <gmock/gmock.h>
 
-#include <cstring>
 #include <limits>
 #include <random>
 
@@ -17,12 +17,7 @@ ParameterBackup sample() {
     ParameterBackup backup;
     backup.serial = 550101;
     backup.taken = QDateTime::fromMSecsSinceEpoch(1774000000123, Qt::UTC);
-    std::memset(&backup.block, 0xA7, sizeof(backup.block));
-    for (float* matrix :
-         {backup.block.rectificationInfrared, backup.block.rectificationThird, backup.block.rectificationPlatform}) {
-        for (int i = 0; i < 9; ++i)
-            matrix[i] = i % 4 == 0 ? 1.0F : 0.0F;
-    }
+    backup.block = testing::FakeKxDevice::unitBlock();
     return backup;
 }
 
@@ -30,7 +25,7 @@ bool same(const ParameterBackup& a, const ParameterBackup& b) {
     return a.serial == b.serial && a.taken == b.taken && sameBytes(a.block, b.block);
 }
 
-class ParameterBackupTest : public testing::Test {
+class ParameterBackupTest : public ::testing::Test {
 protected:
     QByteArray bytesOf(const QString& path) {
         QFile file(path);

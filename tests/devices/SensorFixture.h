@@ -1,10 +1,10 @@
 #pragma once
 
-#include "devices/Sensor.h"
 #include "tests/devices/FakeDevice.h"
 #include "tests/devices/FakePlatformBackend.h"
 #include "tests/devices/FakeServiceControl.h"
 #include "tests/devices/LogCapture.h"
+#include "tests/devices/SensorReports.h"
 
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
@@ -17,7 +17,7 @@
 
 namespace fieldcal::testing {
 
-/// A sensor over fakes. `emitted` collects what it emits: the error's text, or the signal's short name.
+/// A sensor over fakes. `emitted` is what it reports.
 class SensorTest : public ::testing::Test {
 protected:
     SensorTest() { renew(); }
@@ -29,12 +29,7 @@ protected:
         FakeLibrary::current = device.get();
         emitted.clear();
         sensor = std::make_unique<Sensor>(environment());
-        const auto add = [this](const char* name) { return [this, name] { emitted.emplace_back(name); }; };
-        QObject::connect(sensor.get(), &Sensor::signal_reportKXAPIError,
-                         [this](const QString& text) { emitted.push_back(text.toStdString()); });
-        QObject::connect(sensor.get(), &Sensor::signal_reportMissingQ550Device, add("MissingQ550"));
-        QObject::connect(sensor.get(), &Sensor::signal_reportMissingPlatformCamera, add("MissingPlatform"));
-        QObject::connect(sensor.get(), &Sensor::signal_reportPlatformCameraIssue, add("PlatformIssue"));
+        collectReports(*sensor, &emitted);
     }
 
     SensorEnvironment environment() {

@@ -48,22 +48,6 @@ TEST_F(SensorTest, ManualExposureFollowsTheStartGainFirst) {
     EXPECT_THAT(rearCamera.calls, IsEmpty());
 }
 
-TEST_F(SensorTest, EveryFailingCallEndsTheOpeningWithOneReport) {
-    for (const std::string& call : kOpeningCalls) {
-        const std::string operation = call.substr(0, call.find('('));
-        const bool isGetter = operation.find("Control") != std::string::npos || operation == "thirdCamera" ||
-                              operation.find("VersionText") != std::string::npos;
-        if (isGetter) continue;
-        SCOPED_TRACE(operation);
-        renew();
-        device->failCall(operation, 1, 7);
-        EXPECT_FALSE(sensor->open(withoutPlatform()));
-        EXPECT_FALSE(sensor->opened());
-        EXPECT_EQ(device->calls.back(), call);
-        EXPECT_EQ(emitted.size(), 1U);
-    }
-}
-
 TEST_F(SensorTest, WhatIsMissingWhileOpening) {
     using Strings = std::vector<std::string>;
     const auto expect = [this](bool opens, const Strings& reports) {
@@ -83,54 +67,6 @@ TEST_F(SensorTest, WhatIsMissingWhileOpening) {
     libraryMissing = true;
     expect(false, {"MissingQ550"});
     EXPECT_TRUE(LogCapture::has("CRITICAL no library"));
-}
-
-TEST_F(SensorTest, PlatformCameraFailuresNeverReachTheModule) {
-    struct Case {
-        const char* name;
-        const char* failing;
-        const char* signal;
-        const char* what;
-    };
-    const char* rear = "HP Truevision 8MP Rear";
-    const Case cases[] = {{"HP Truevision 8MP Rear 2", "", "MissingPlatform", "could not be found."},
-                          {rear, "openCamera", "MissingPlatform", "could not be opened."},
-                          {rear, "autoFocus off", "PlatformIssue", "focus setup failed."},
-                          {rear, "focus 1700", "PlatformIssue", "focus setup failed."},
-                          {rear, "stream 1: 1280x720@30 NV12", "PlatformIssue", "stream setup failed."},
-                          {rear, "stream 2: 3200x2400@0 NV12", "PlatformIssue", "stream setup failed."}};
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.failing);
-        rearCamera.name = c.name;
-        rearCamera.failing = c.failing;
-        renew();
-        LogCapture::lines().clear();
-        EXPECT_FALSE(sensor->open(applicationSettings()));
-        EXPECT_THAT(emitted, ElementsAre(c.signal));
-        EXPECT_TRUE(LogCapture::has(std::string("External platform camera ") + c.what));
-        EXPECT_THAT(device->calls, IsEmpty());
-    }
-}
-
-TEST_F(SensorTest, EveryStatusHasItsMessage) {
-    std::vector<std::string> messages(14, kUnknown);
-    messages[1] = "A KXAPI call failed.";
-    messages[4] = "The device has not been calibrated or has invalid calibration data.";
-    messages[6] = "Something bad has happened with the Tarnex Deepvane camera.";
-    messages[7] = "Please close all Tarnex Deepvane applications and any web browsers before proceeding.";
-    messages[11] =
-        "Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your "
-        "firmware and run the application again.";
-    for (std::int32_t status = 0; status <= 13; ++status) {
-        SCOPED_TRACE(status);
-        renew();
-        ASSERT_TRUE(sensor->open(withoutPlatform()));
-        EXPECT_TRUE(sensor->checkStatus(true));
-        device->status = status;
-        EXPECT_FALSE(sensor->checkStatus(false));
-        EXPECT_FALSE(sensor->checkStatus(false)) << "reported once";
-        EXPECT_THAT(emitted, ElementsAre(status == 5 ? "MissingQ550" : kText + messages[status]));
-    }
 }
 
 TEST_F(SensorTest, EmitterRequests) {
@@ -157,16 +93,6 @@ TEST_F(SensorTest, AFaultIsReportedOnceAndEndsTheGrabbing) {
     EXPECT_FALSE(sensor->setEmitter(true));
     EXPECT_EQ(std::count(device->calls.begin(), device->calls.end(), "grab(1)"), 2);
     EXPECT_EQ(emitted.size(), 1U);
-}
-
-TEST_F(SensorTest, ServiceFailuresBeforeAndAfterAreReported) {
-    control.fail("changeConfig", 2, 5);
-    ASSERT_TRUE(sensor->open(applicationSettings()));
-    const std::shared_ptr<KXDevice> share = sensor->device();
-    sensor.reset();
-    EXPECT_FALSE(device->destroyed) << "somebody still holds the device";
-    EXPECT_EQ(rearCamera.sink, nullptr);
-    EXPECT_THAT(emitted, ElementsAre("5: (ChangeServiceConfig) ==> text 5"));
 }
 
 TEST_F(SensorTest, AServiceThatDoesNotStopEndsTheOpening) {

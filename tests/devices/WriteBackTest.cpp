@@ -125,55 +125,6 @@ TEST_F(WriteBackTest, WithoutAPlatformCalibrationItsRotationDoesNotMatter) {
     EXPECT_TRUE(sensor->restoreParameters(backup.block)) << reason();
 }
 
-TEST_F(WriteBackTest, EveryFailingCallIsReportedOnceAndTheFlashIsReadAgain) {
-    const Flash expected[] = {Flash::Untouched, Flash::Untouched, Flash::Untouched, Flash::Previous,
-                              Flash::Previous,  Flash::Written,   Flash::Written,   Flash::Written};
-    int rectReads = 0;
-    for (std::size_t i = 0; i < kWritingCalls.size(); ++i) {
-        const std::string operation = kWritingCalls[i].substr(0, kWritingCalls[i].find('('));
-        SCOPED_TRACE(kWritingCalls[i] + " " + std::to_string(i));
-        renew();
-        open();
-        if (operation == "rectParameters") ++rectReads;
-        device->failCall(operation, operation == "rectParameters" ? rectReads : 1, 6);
-        EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
-        EXPECT_THAT(emitted,
-                    ElementsAre("STATUS %2 TEXT - Something bad has happened with the Tarnex Deepvane camera."));
-        EXPECT_EQ(reason(), emitted.front());
-        EXPECT_EQ(flash(), expected[i]);
-        EXPECT_TRUE(sensor->faulted());
-        device->calls.clear();
-        EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
-        EXPECT_THAT(device->calls, IsEmpty());
-        EXPECT_THAT(emitted, SizeIs(1));
-    }
-}
-
-TEST_F(WriteBackTest, WhatTheModuleSaysLastCounts) {
-    open();
-    const KXCalibRectParameters before = device->flash;
-    device->ignoreWrites = true;
-    EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
-    EXPECT_EQ(flash(), Flash::Previous);
-    EXPECT_THAT(emitted, ElementsAre("The camera said that it stored the calibration, but it did not - An unknown "
-                                     "error has occured."));
-    renew();
-    open();
-    device->garbleCommits = 1;
-    EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
-    EXPECT_EQ(flash(), Flash::Previous);
-    EXPECT_TRUE(flashIs(before)) << "a block that arrived wrong is replaced by the previous one";
-    EXPECT_THAT(emitted, SizeIs(1));
-
-    renew();
-    open();
-    device->garbleCommits = 2;
-    EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
-    EXPECT_EQ(flash(), Flash::Other);
-    EXPECT_THAT(emitted, SizeIs(1));
-    EXPECT_TRUE(QFile::exists(sensor->writeBack().backupFile));
-}
-
 TEST_F(WriteBackTest, NothingIsWrittenWhenThePreviousBlockCannotBeKept) {
     QFile inTheWay(data.filePath("backups"));
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
@@ -187,24 +138,6 @@ TEST_F(WriteBackTest, NothingIsWrittenWhenThePreviousBlockCannotBeKept) {
     EXPECT_TRUE(inTheWay.remove());
     EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
     EXPECT_EQ(reason(), "The present parameter block cannot be used: its infrared rectification is no rotation");
-}
-
-TEST_F(WriteBackTest, CallsThatNeverReturnAreGivenUp) {
-    std::promise<void> release;
-    const std::shared_future<void> released = release.get_future().share();
-    callLimit = std::chrono::milliseconds(50);
-    renew();
-    open();
-    device->onWrite = [released] { released.wait(); };
-    EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
-    EXPECT_THAT(emitted, ElementsAre("The camera does not answer - An unknown error has occured."));
-    EXPECT_EQ(flash(), Flash::Unknown);
-    sensor.reset();
-    EXPECT_EQ(control.startType, 2U);
-    EXPECT_FALSE(device->destroyed) << "the call that hangs still uses it";
-    release.set_value();
-    while (!device->destroyed)
-        std::this_thread::yield();
 }
 
 TEST_F(WriteBackTest, AStopEndsAGrabThatNeverReturnsWithoutAReport) {

@@ -3,24 +3,19 @@
 #include "devices/RearCameraSeam.h"
 #include "kxapi/Library.h"
 #include "tests/session/TestSession.h"
+#include "tests/simulator/SimulatedModule.h"
 
 #include <memory>
 #include <string>
 
-/// A session on disk and the library `KXAPI` as the application loads it; the environment is put back at the end.
-class ModuleTest : public fieldcal::session::SessionFolder {
+/// A session on disk and the library `KXAPI` as the application loads it.
+class ModuleTest : public fieldcal::session::SessionFolder, protected fieldcal::testing::SimulatedModule {
 protected:
     ModuleTest() : library(KXLibrary::load(&why)) {
-        clearEnvironment();
         set("KXSIM_SESSION", folder);
         set("KXSIM_SPEED", "0");
     }
-    ~ModuleTest() override { clearEnvironment(); }
     void SetUp() override { ASSERT_NE(library, nullptr) << why; }
-
-    static void set(const char* variable, const std::string& value) {
-        qputenv(variable, QByteArray::fromStdString(value));
-    }
 
     std::shared_ptr<KXDevice> create() const { return {library->create(0), library->destroy}; }
 
@@ -57,11 +52,4 @@ protected:
 
     std::string why;
     std::shared_ptr<const KXLibrary> library;
-
-private:
-    static void clearEnvironment() {
-        for (const char* name : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_PLATFORM", "KXSIM_FAULTS", "KXSIM_FLASH",
-                                 "KXSIM_WORLD", "KXSIM_SEED", "KXSIM_DRIFT", "KXSIM_PLATFORM_DRIFT"})
-            qunsetenv(name);
-    }
 };

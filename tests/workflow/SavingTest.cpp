@@ -38,7 +38,7 @@ TEST_F(SavingTest, ANoteStandsOnDiskWhileTheOutcomeIsOpen) {
     EXPECT_EQ(noteAtWrite->serial, 550101U);
     EXPECT_FALSE(readSaveNote(data.path()));
 
-    device->ignoreWrites = true;
+    device->failCall("commitCalibration", 2, 6);
     records.accept(ColourCamera::InModule, parameters.depthToInModule.rotation);
     EXPECT_FALSE(storeCalibration(*sensor, records, data.path()));
     EXPECT_EQ(readSaveNote(data.path())->reason, sensor->writeBack().reason);

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+
+namespace fieldcal::testing {
+
+/// What tells the simulated module about itself. While a test lives only what it sets is set, and nothing afterwards.
+class SimulatedModule {
+protected:
+    SimulatedModule() { forget(); }
+    ~SimulatedModule() { forget(); }
+
+    static void set(const char* variable, const QString& value) { qputenv(variable, value.toLocal8Bit()); }
+    static void set(const char* variable, const std::string& value) { set(variable, QString::fromStdString(value)); }
+    static void set(const char* variable, const char* value) { set(variable, QString(value)); }
+
+private:
+    static void forget() {
+        for (const char* variable : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_PLATFORM", "KXSIM_FAULTS", "KXSIM_FLASH",
+                                     "KXSIM_WORLD", "KXSIM_SEED", "KXSIM_LIGHT", "KXSIM_DRIFT", "KXSIM_PLATFORM_DRIFT"})
+            qunsetenv(variable);
+    }
+};
+
+}  // namespace fieldcal::testing
