@@ -63,14 +63,6 @@ protected:
         KXPrivate* memory = device->privateInterface();
         return memory != nullptr && memory->writeRectParameters(&block, true) && memory->commitCalibration();
     }
-    /// Opens a device; what that says on standard error, and the status (0: opened).
-    std::pair<std::string, int> opening() const {
-        const std::shared_ptr<KXDevice> device = create();
-        ::testing::internal::CaptureStderr();
-        const bool opened = device->openDevice(-1);
-        const std::string text = ::testing::internal::GetCapturedStderr();
-        return {text, opened ? 0 : device->lastStatus()};
-    }
 
     std::shared_ptr<const KXRotationUpdater> updater;
     std::string flash;

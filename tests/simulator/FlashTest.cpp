@@ -1,5 +1,7 @@
 #include "tests/simulator/FlashFixture.h"
 
+#include <Eigen/Geometry>
+
 #include <cmath>
 #include <random>
 
@@ -7,43 +9,24 @@ namespace {
 
 using fieldcal::session::Matrix3;
 using fieldcal::session::readFile;
+using fieldcal::session::writeFile;
 
-Matrix3 product(const Matrix3& a, const Matrix3& b) {
-    Matrix3 out{};
-    for (std::size_t i = 0; i < 27; ++i)
-        out[i / 9 * 3 + i % 3] += a[i / 9 * 3 + i / 3 % 3] * b[i / 3 % 3 * 3 + i % 3];
-    return out;
+using Matrix = Eigen::Matrix<double, 3, 3, Eigen::RowMajor>;
+
+Matrix widened(const float* values) {
+    return Eigen::Map<const Eigen::Matrix<float, 3, 3, Eigen::RowMajor>>(values).cast<double>();
 }
 
-Matrix3 transposed(const Matrix3& m) {
-    return {m[0], m[3], m[6], m[1], m[4], m[7], m[2], m[5], m[8]};
-}
-
-Matrix3 widened(const float* values) {
-    Matrix3 out{};
-    std::copy(values, values + 9, out.begin());
-    return out;
-}
-
-Matrix3 doublesAt(const QByteArray& block, int offset) {
-    Matrix3 out{};
-    std::memcpy(out.data(), block.constData() + offset, sizeof(out));
-    return out;
-}
-
-/// The rotation of the unit quaternion (w, x, y, z) / length.
+/// The rotation of the quaternion (w, x, y, z), brought to length 1.
 Matrix3 rotation(double w, double x, double y, double z) {
-    const double s = 2 / (w * w + x * x + y * y + z * z);
-    return {1 - s * (y * y + z * z), s * (x * y - z * w),     s * (x * z + y * w),
-            s * (x * y + z * w),     1 - s * (x * x + z * z), s * (y * z - x * w),
-            s * (x * z - y * w),     s * (y * z + x * w),     1 - s * (x * x + y * y)};
+    Matrix3 out{};
+    Eigen::Map<Matrix>(out.data()) = Eigen::Quaterniond(w, x, y, z).normalized().toRotationMatrix();
+    return out;
 }
 
-double difference(const Matrix3& a, const Matrix3& b) {
-    double out = 0;
-    for (std::size_t i = 0; i < 9; ++i)
-        out = std::max(out, std::abs(a[i] - b[i]));
-    return out;
+/// What a block says with its third camera turned like this.
+Matrix toldBy(const KXCalibRectParameters& block, const Matrix& third) {
+    return widened(block.rectificationThird) * third * widened(block.rectificationInfrared).transpose();
 }
 
 bool isNarrowed(const Matrix3& expected, const float* seen) {
@@ -88,10 +71,9 @@ TEST_F(Flash, ANewOneSaysBitForBitWhatTheRecordingSays) {
         ASSERT_TRUE(isNarrowed(session.platform->rotation, platform(device.get()).data())) << i;
         const KXCalibRectParameters block = blockOf(device.get());
         ASSERT_TRUE(isNarrowed(session.platform->rectification, block.rectificationPlatform)) << i;
-        const Matrix3 told =
-            product(product(widened(block.rectificationThird), doublesAt(bytesOf(block), kThirdRotation)),
-                    transposed(widened(block.rectificationInfrared)));
-        ASSERT_LT(difference(told, session.third.rotation), 3e-7) << "what the block itself says";
+        Matrix inBlock;
+        std::memcpy(inBlock.data(), bytesOf(block).constData() + kThirdRotation, sizeof(Matrix3));
+        ASSERT_TRUE(toldBy(block, inBlock).isApprox(Eigen::Map<Matrix>(session.third.rotation.data()), 1e-7)) << i;
     }
 }
 
@@ -125,10 +107,8 @@ TEST_F(Flash, TheCompanionChangesOneRotationAndNothingElse) {
     updater->updatePlatformCamera(&block, wanted.data(), &both);
     std::memcpy(expected.data() + kPlatformRotation, wanted.data(), 72);
     EXPECT_EQ(bytesOf(both), expected);
-    EXPECT_GT(difference(product(widened(block.rectificationThird), widened(block.rectificationInfrared)),
-                         product(widened(block.rectificationInfrared), widened(block.rectificationThird))),
-              1e-6)
-        << "the order of the matrices must matter";
+    const Matrix a = widened(block.rectificationThird), b = widened(block.rectificationInfrared);
+    EXPECT_FALSE((a * b).isApprox(b * a, 1e-6)) << "the order of the matrices must matter";
 }
 
 TEST_F(Flash, AWriteCountsAfterItsCommitAndWorksAfterTheRest) {
@@ -153,11 +133,8 @@ TEST_F(Flash, AWriteCountsAfterItsCommitAndWorksAfterTheRest) {
     EXPECT_EQ(third(device.get()), thirdBefore) << "not loaded yet";
     ASSERT_TRUE(device->resumeDevice() && device->grab(true));
     EXPECT_FALSE(device->resumeDevice()) << "capturing";
-    const Matrix3 expected =
-        product(product(widened(next.rectificationThird),
-                        {std::cos(0.25), -std::sin(0.25), 0, std::sin(0.25), std::cos(0.25), 0, 0, 0, 1}),
-                transposed(widened(next.rectificationInfrared)));
-    EXPECT_LT(difference(widened(third(device.get()).data()), expected), 3e-7);
+    const Matrix expected = toldBy(next, Eigen::AngleAxisd(0.25, Eigen::Vector3d::UnitZ()).toRotationMatrix());
+    EXPECT_TRUE(widened(third(device.get()).data()).isApprox(expected, 1e-7));
     const Extrinsics thirdAfter = third(device.get());
     EXPECT_TRUE(std::equal(thirdBefore.begin() + 9, thirdBefore.end(), thirdAfter.begin() + 9)) << "the translation";
     EXPECT_EQ(platform(device.get()), platformBefore);
@@ -219,6 +196,31 @@ TEST_F(Flash, NonsenseIsStoredButNeitherLoadedNorInTheWayOfABetterBlock) {
     EXPECT_FALSE(createReady()->calibrationValid());
     EXPECT_TRUE(write(device.get(), good) && device->resumeDevice() && device->grab(true));
     EXPECT_EQ(opening().second, 0);
+}
+
+TEST_F(Flash, APowerCutLeavesTheOldOrTheNewBlockAndAFlashThatCanBeWritten) {
+    const KXCalibRectParameters older = turned(blockOf(createReady().get()), 0.1), newer = turned(older, -0.2);
+    ASSERT_TRUE(write(createReady().get(), older));
+    const QByteArray image = readFile(flash);  // of two whole banks
+    const auto cut = [&](int step, int bytes) {
+        SCOPED_TRACE("flash:" + std::to_string(step) + ":powercut+" + std::to_string(bytes));
+        writeFile(flash, image);
+        set("KXSIM_FAULTS", "flash:" + std::to_string(step) + ":powercut+" + std::to_string(bytes));
+        const std::shared_ptr<KXDevice> device = createReady();
+        EXPECT_FALSE(write(device.get(), newer) || device->grab(true));
+        EXPECT_EQ(device->lastStatus(), 5) << "without power nothing works";
+        set("KXSIM_FAULTS", "");
+        const bool isLast = step == kLastStep, isWhole = isLast && bytes >= kHeader;
+        EXPECT_TRUE((stored() == bytesOf(older) && !isWhole) || (stored() == bytesOf(newer) && isLast));
+        const KXCalibRectParameters last = turned(older, 0.3);
+        EXPECT_TRUE(write(createReady().get(), last));
+        EXPECT_EQ(stored(), bytesOf(last));
+    };
+    for (int step = 1; step <= kLastStep; ++step) {
+        const int size = step == 1 ? 2064 : step == kLastStep ? kHeader : 64;
+        for (const int bytes : {0, size / 2, size})
+            cut(step, bytes);
+    }
 }
 
 }  // namespace

@@ -18,23 +18,16 @@ struct Call {
     std::function<bool(KXDevice&)> call;
 };
 
-template <typename Record>
-bool discard(bool (KXDevice::*query)(Record*), KXDevice& device) {
+template <typename Interface, typename Record>
+bool tells(Interface* asked, bool (Interface::*query)(Record*)) {
     Record record{};
-    return (device.*query)(&record);
+    return asked != nullptr && (asked->*query)(&record);
 }
 
 template <typename Record>
-bool discardThird(bool (KXThirdCamera::*query)(Record*), KXDevice& device) {
-    Record record{};
-    return (device.thirdCamera()->*query)(&record);
-}
-
-template <typename Record>
-bool discardPlatform(bool (KXPlatformCamera::*query)(Record*), std::int32_t mode, KXDevice& device) {
-    Record record{};
+bool tellsIn(std::int32_t mode, KXDevice& device, bool (KXPlatformCamera::*query)(Record*)) {
     device.platformCamera()->setPlatformMode(mode, 1280, 720);
-    return (device.platformCamera()->*query)(&record);
+    return tells(device.platformCamera(), query);
 }
 
 bool writeBlock(KXDevice& device, bool permanent) {
@@ -45,7 +38,7 @@ bool writeBlock(KXDevice& device, bool permanent) {
 const Call kCalls[] = {
     {"openDevice", Stage::created, false, [](auto& d) { return d.openDevice(-1); }},
     {"initDevice", Stage::opened, false, [](auto& d) { return d.initDevice(); }},
-    {"serialNumber", Stage::opened, true, [](auto& d) { return discard(&KXDevice::serialNumber, d); }},
+    {"serialNumber", Stage::opened, true, [](auto& d) { return tells(&d, &KXDevice::serialNumber); }},
     {"calibrationValid", Stage::opened, true, [](auto& d) { return d.calibrationValid(); }},
     {"thirdCamera", Stage::opened, true, [](auto& d) { return d.thirdCamera() != nullptr; }},
     {"hardwareControl", Stage::opened, true, [](auto& d) { return d.hardwareControl() != nullptr; }},
@@ -65,9 +58,9 @@ const Call kCalls[] = {
     {"setRightEnabled", Stage::ready, true, [](auto& d) { return d.setRightEnabled(true); }},
     {"setStreamOption", Stage::ready, true, [](auto& d) { return d.setStreamOption(true); }},
     {"setDepthStreamMode", Stage::ready, true, [](auto& d) { return d.setDepthStreamMode(true, 628, 468, 60, 1); }},
-    {"rectifiedLRIntrinsics", Stage::ready, true, [](auto& d) { return discard(&KXDevice::rectifiedLRIntrinsics, d); }},
-    {"zIntrinsics", Stage::ready, true, [](auto& d) { return discard(&KXDevice::zIntrinsics, d); }},
-    {"rectParameters", Stage::ready, true, [](auto& d) { return discard(&KXDevice::rectParameters, d); }},
+    {"rectifiedLRIntrinsics", Stage::ready, true, [](auto& d) { return tells(&d, &KXDevice::rectifiedLRIntrinsics); }},
+    {"zIntrinsics", Stage::ready, true, [](auto& d) { return tells(&d, &KXDevice::zIntrinsics); }},
+    {"rectParameters", Stage::ready, true, [](auto& d) { return tells(&d, &KXDevice::rectParameters); }},
     {"setAutoExposure", Stage::ready, true, [](auto& d) { return d.hardwareControl()->setAutoExposure(3, true); }},
     {"setGain", Stage::ready, true, [](auto& d) { return d.hardwareControl()->setGain(1, 3); }},
     {"setExposure", Stage::ready, true, [](auto& d) { return d.hardwareControl()->setExposure(16, 3); }},
@@ -77,18 +70,18 @@ const Call kCalls[] = {
     {"setThirdStreamMode", Stage::ready, true,
      [](auto& d) { return d.thirdCamera()->setThirdStreamMode(true, 640, 480, 30, 3); }},
     {"rectifiedThirdIntrinsics", Stage::ready, true,
-     [](auto& d) { return discardThird(&KXThirdCamera::rectifiedThirdIntrinsics, d); }},
+     [](auto& d) { return tells(d.thirdCamera(), &KXThirdCamera::rectifiedThirdIntrinsics); }},
     {"zToThirdExtrinsics", Stage::ready, true,
-     [](auto& d) { return discardThird(&KXThirdCamera::zToThirdExtrinsics, d); }},
+     [](auto& d) { return tells(d.thirdCamera(), &KXThirdCamera::zToThirdExtrinsics); }},
     {"setPlatformMode", Stage::ready, true, [](auto& d) { return d.platformCamera()->setPlatformMode(1, 1280, 720); }},
     {"nonRectifiedIntrinsics", Stage::ready, true,
-     [](auto& d) { return discardPlatform(&KXPlatformCamera::nonRectifiedIntrinsics, 0, d); }},
+     [](auto& d) { return tellsIn(0, d, &KXPlatformCamera::nonRectifiedIntrinsics); }},
     {"rectifiedIntrinsics", Stage::ready, true,
-     [](auto& d) { return discardPlatform(&KXPlatformCamera::rectifiedIntrinsics, 1, d); }},
+     [](auto& d) { return tellsIn(1, d, &KXPlatformCamera::rectifiedIntrinsics); }},
     {"rectificationRotation", Stage::ready, true,
      [](auto& d) { return d.platformCamera()->rectificationRotation() != nullptr; }},
     {"zToPlatformExtrinsics", Stage::ready, true,
-     [](auto& d) { return discardPlatform(&KXPlatformCamera::zToPlatformExtrinsics, 1, d); }},
+     [](auto& d) { return tellsIn(1, d, &KXPlatformCamera::zToPlatformExtrinsics); }},
     {"writeRectParameters", Stage::ready, true, [](auto& d) { return writeBlock(d, false); }},
     {"commitCalibration", Stage::ready, true,
      [](auto& d) { return writeBlock(d, true) && d.privateInterface()->commitCalibration(); }},
@@ -244,31 +237,13 @@ TEST_F(Faults, AHangingCallDoesNotReturnAndHoldsNothing) {
 }
 
 TEST_F(Faults, MalformedOrdersKeepTheDeviceShut) {
-    for (const char* text : {"grab",
-                             "grab:1",
-                             "grab:1:6:7",
-                             "grap:1:6",
-                             "grab:0:6",
-                             "grab:-1:6",
-                             "grab:x:6",
-                             "grab:1:-6",
-                             "grab:1:six",
-                             "grab:1:99999999999",
-                             "grab:1:6,,",
-                             "grab:1:6;x:1:2",
-                             ":",
-                             "grab:1:Gone",
-                             "grab:1:powercut",
-                             "zIntrinsics:1:lie",
-                             "depthEnabled:1:lie",
-                             "flash:1:6",
-                             "flash:1:lie",
-                             "flash:0:die",
-                             "flash:1:powercut+",
-                             "flash:1:powercut+-1",
-                             "flash:1:powercut+1x",
-                             "flash:1:powercuts",
-                             "grab\n:1:6"}) {
+    const QString malformed =
+        "grab grab:1 grab:1:6:7 grap:1:6 grab:0:6 grab:-1:6 grab:x:6 grab:1:-6 grab:1:six grab:1:99999999999 "
+        "grab:1:6,, grab:1:6;x:1:2 : grab:1:Gone grab:1:powercut zIntrinsics:1:lie depthEnabled:1:lie flash:1:6 "
+        "flash:1:lie flash:0:die flash:1:powercut+ flash:1:powercut+-1 flash:1:powercut+1x flash:1:powercuts "
+        "grab\n:1:6";
+    for (const QString& order : malformed.split(' ')) {
+        const std::string text = order.toStdString();
         set("KXSIM_FAULTS", text);
         const std::shared_ptr<KXDevice> device = create();
         ::testing::internal::CaptureStderr();

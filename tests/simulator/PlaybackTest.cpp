@@ -21,14 +21,6 @@ protected:
                holds(device->depthImage(), expected.depth) &&
                holds(device->thirdCamera()->thirdImage(), expected.third);
     }
-    /// What opening a device says on standard error, and its status.
-    std::pair<std::string, int> refusal() const {
-        ::testing::internal::CaptureStderr();
-        const std::shared_ptr<KXDevice> device = create();
-        const bool opened = device->openDevice(-1);
-        const std::string text = ::testing::internal::GetCapturedStderr();
-        return {text, opened ? 0 : device->lastStatus()};
-    }
 };
 
 TEST_F(Playback, IsBitExactWithRepeatsAndStartsAgain) {
@@ -51,45 +43,6 @@ TEST_F(Playback, IsBitExactWithRepeatsAndStartsAgain) {
     }
 }
 
-TEST_F(Playback, SaysWhatTheRecordingHolds) {
-    const std::shared_ptr<KXDevice> device = createReady();
-    std::uint32_t serial = 0;
-    EXPECT_TRUE(device->serialNumber(&serial));
-    EXPECT_EQ(serial, 550101U);
-    EXPECT_STREQ(device->firmwareVersionText(), "1.27.11");
-    EXPECT_STREQ(device->softwareVersionText(), "2.2.0");
-    EXPECT_EQ(device->lrWidth() * 1000 + device->lrHeight(), 6004);
-    EXPECT_EQ(device->depthWidth() * 1000 + device->depthHeight(), 5003);
-    EXPECT_EQ(device->thirdCamera()->thirdWidth() * 1000 + device->thirdCamera()->thirdHeight(), 8006);
-    KXCalibIntrinsicsRectified infrared{};
-    KXCalibIntrinsicsRectified third{};
-    KXCalibExtrinsics extrinsics{};
-    EXPECT_TRUE(device->rectifiedLRIntrinsics(&infrared) && device->thirdCamera()->rectifiedThirdIntrinsics(&third));
-    EXPECT_TRUE(device->thirdCamera()->zToThirdExtrinsics(&extrinsics));
-    EXPECT_EQ(infrared.fy, 580.5F);
-    EXPECT_EQ(infrared.w, 6);
-    EXPECT_EQ(third.cy, 3.2F);
-    EXPECT_THAT(extrinsics.rotation, ::testing::ElementsAre(1, 0, 0, 0, 0, -1, 0, 1, 0));
-    EXPECT_THAT(extrinsics.translation, ::testing::ElementsAre(25, 0.5F, -0.25F));
-}
-
-TEST_F(Playback, TheRectificationBlockHoldsRotations) {
-    KXCalibRectParameters block{};
-    ASSERT_TRUE(createReady()->rectParameters(&block));
-    for (const float* m : {block.rectificationInfrared, block.rectificationThird, block.rectificationPlatform}) {
-        for (int i = 0; i < 3; ++i) {
-            const float* a = m + std::ptrdiff_t{3} * i;
-            const float* b = m + std::ptrdiff_t{3} * ((i + 1) % 3);
-            const float* c = m + std::ptrdiff_t{3} * ((i + 2) % 3);
-            EXPECT_NEAR(a[0] * a[0] + a[1] * a[1] + a[2] * a[2], 1, 1e-6);
-            // Right-handed: each row is the cross product of the next two.
-            EXPECT_NEAR(b[1] * c[2] - b[2] * c[1], a[0], 1e-6);
-            EXPECT_NEAR(b[2] * c[0] - b[0] * c[2], a[1], 1e-6);
-            EXPECT_NEAR(b[0] * c[1] - b[1] * c[0], a[2], 1e-6);
-        }
-    }
-}
-
 TEST_F(Playback, ThePlatformCameraIsTheRecordings) {
     const std::shared_ptr<KXDevice> device = createReady();
     KXPlatformCamera* platform = device->platformCamera();
@@ -103,9 +56,6 @@ TEST_F(Playback, ThePlatformCameraIsTheRecordings) {
     EXPECT_FALSE(platform->rectifiedIntrinsics(&rectified)) << "raw mode";
     EXPECT_TRUE(platform->setPlatformMode(1, 1280, 720) && platform->rectifiedIntrinsics(&rectified));
     EXPECT_TRUE(platform->zToPlatformExtrinsics(&extrinsics));
-    EXPECT_EQ(raw.k3, 0.02F);
-    EXPECT_EQ(rectified.cx, 639);
-    EXPECT_EQ(extrinsics.translation[0], -60);
     EXPECT_EQ(platform->rectificationRotation()[1], -1);
     session.platform.reset();
     session.frames[0].platform.clear();
@@ -127,17 +77,17 @@ TEST_F(Playback, AnInvalidCalibrationTellsNothing) {
 TEST_F(Playback, BadSessionsAndSettingsAreRefusedInOneLine) {
     using fieldcal::session::writeFile;
     writeFile(path("b_third.png"), "no picture");
-    EXPECT_EQ(refusal(), std::make_pair("KXAPI: " + path("b_third.png") + ": frames[1].third: not a PNG picture\n", 6));
+    EXPECT_EQ(opening(), std::make_pair("KXAPI: " + path("b_third.png") + ": frames[1].third: not a PNG picture\n", 6));
     set("KXSIM_SESSION", folder + "/nowhere");
-    EXPECT_EQ(refusal().second, 6);
+    EXPECT_EQ(opening().second, 6);
     set("KXSIM_SESSION", "");
     set("KXSIM_WORLD", "moon");
-    EXPECT_NE(refusal().second, 0);
+    EXPECT_NE(opening().second, 0);
     set("KXSIM_SESSION", folder);
     for (const char* speed : {"-1", "fast", "1e9", "nan", "0.001"}) {
         set("KXSIM_SPEED", speed);
-        EXPECT_THAT(refusal().first, HasSubstr(speed));
-        EXPECT_EQ(refusal().second, 1);
+        EXPECT_THAT(opening().first, HasSubstr(speed));
+        EXPECT_EQ(opening().second, 1);
     }
     set("KXSIM_SPEED", "1");
     const std::pair<const char*, const char*> malformed[]{{"KXSIM_PLATFORM", "perhaps"},
@@ -146,8 +96,8 @@ TEST_F(Playback, BadSessionsAndSettingsAreRefusedInOneLine) {
                                                           {"KXSIM_PLATFORM_DRIFT", "1,2,nan"}};
     for (const auto& [variable, value] : malformed) {
         set(variable, value);
-        EXPECT_THAT(refusal().first, HasSubstr(variable));
-        EXPECT_EQ(refusal().second, 1);
+        EXPECT_THAT(opening().first, HasSubstr(variable));
+        EXPECT_EQ(opening().second, 1);
         set(variable, "");
     }
 }

@@ -19,6 +19,15 @@ protected:
 
     std::shared_ptr<KXDevice> create() const { return {library->create(0), library->destroy}; }
 
+    /// Opens a device; what that says on standard error, and the status (0: opened).
+    std::pair<std::string, int> opening() const {
+        const std::shared_ptr<KXDevice> device = create();
+        ::testing::internal::CaptureStderr();
+        const bool opened = device->openDevice(-1);
+        const std::string text = ::testing::internal::GetCapturedStderr();
+        return {text, opened ? 0 : device->lastStatus()};
+    }
+
     std::shared_ptr<KXDevice> createReady() const {
         std::shared_ptr<KXDevice> device = create();
         EXPECT_TRUE(device->openDevice(-1) && device->initDevice()) << device->lastStatus();
