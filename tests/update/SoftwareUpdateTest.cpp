@@ -30,6 +30,22 @@ QByteArray theInstaller() {
     return bytes;
 }
 
+HttpAnswer failure(const char* status) {
+    return {status, "", kHtml};
+}
+/// Zeros for ever; in chunks, unless a length is announced.
+HttpAnswer endless(qint64 announced = -1, const char* status = "200 OK") {
+    return {status, "", "", announced, -1, true};
+}
+HttpAnswer silence() {
+    HttpAnswer answer;
+    answer.none = true;
+    return answer;
+}
+HttpAnswer redirect(const QUrl& target) {
+    return {"302 Found", "Location: " + target.toEncoded() + "\r\n", ""};
+}
+
 /// What the server has, and the environment of the program that asks it.
 struct Course {
     DownloadServer server;
@@ -37,7 +53,8 @@ struct Course {
     UpdateEnvironment environment;
     const QByteArray installer = theInstaller();
     QByteArray version = "1.10", url, more, manifest;
-    std::function<HttpAnswer(const HttpRequest&)> manifestAnswer, installerAnswer;
+    std::optional<HttpAnswer> manifestAnswer;
+    std::function<HttpAnswer(const HttpRequest&)> installerAnswer = [this](const HttpRequest&) { return whole(); };
 
     Course() {
         environment.manifest = server.url("/Version.json");
@@ -48,67 +65,52 @@ struct Course {
         environment.retries = 2;
         url = server.url("/Setup.exe").toString().toLatin1();
         server.answer = [this](const HttpRequest& request) {
-            return request.path == "/Version.json" ? answerManifest(request) : answerInstaller(request);
+            return request.path == "/Version.json" ? answerManifest() : installerAnswer(request);
         };
     }
-    HttpAnswer answerManifest(const HttpRequest& request) const {
-        if (manifestAnswer) return manifestAnswer(request);
-        HttpAnswer answer;
-        answer.body = manifest;
-        if (manifest.isEmpty()) answer.body = R"({"version":")" + version + R"(","url":")" + url + '"' + more + '}';
-        return answer;
+    HttpAnswer answerManifest() const {
+        if (manifestAnswer) return *manifestAnswer;
+        const QByteArray written = R"({"version":")" + version + R"(","url":")" + url + '"' + more + '}';
+        return {"200 OK", "", manifest.isEmpty() ? written : manifest};
     }
-    HttpAnswer answerInstaller(const HttpRequest& request) const {
-        if (installerAnswer) return installerAnswer(request);
-        return whole();
-    }
-    HttpAnswer whole() const {
-        HttpAnswer answer;
-        answer.body = installer;
-        answer.headers = "ETag: \"one\"\r\n";
-        return answer;
-    }
-    HttpAnswer half() const {
-        HttpAnswer answer = whole();
-        answer.announced = installer.size();
-        answer.breakAfter = installer.size() / 2;
-        return answer;
-    }
+    HttpAnswer whole() const { return {"200 OK", "ETag: \"one\"\r\n", installer}; }
+    HttpAnswer half() const { return {"200 OK", whole().headers, installer, installer.size(), installer.size() / 2}; }
     HttpAnswer rest(qint64 from) const {
-        HttpAnswer answer = whole();
-        answer.status = "206 Partial Content";
-        answer.body = installer.mid(static_cast<int>(from));
-        answer.headers += QString("Content-Range: bytes %1-%2/%3\r\n")
-                              .arg(from)
-                              .arg(installer.size() - 1)
-                              .arg(installer.size())
-                              .toLatin1();
-        return answer;
+        const QString range = "Content-Range: bytes %1-%2/%3\r\n";
+        const QByteArray told = range.arg(from).arg(installer.size() - 1).arg(installer.size()).toLatin1();
+        return {"206 Partial Content", whole().headers + told, installer.mid(static_cast<int>(from))};
     }
-    static HttpAnswer redirect(const QUrl& target) {
-        HttpAnswer answer;
-        answer.status = "302 Found";
-        answer.headers = "Location: " + target.toEncoded() + "\r\n";
-        return answer;
-    }
-    static HttpAnswer tooLong(qint64 announced) {
-        HttpAnswer answer;
-        answer.announced = announced;
-        answer.endless = true;
-        return answer;
-    }
-    static HttpAnswer status(const char* text) {
-        HttpAnswer answer;
-        answer.status = text;
-        answer.body = kHtml;
-        return answer;
+    /// The first half, and whatever the program asks for after that.
+    HttpAnswer halfThenRest(const HttpRequest& request) const {
+        return request.rangeStart() > 0 ? rest(request.rangeStart()) : half();
     }
     bool isFirstForInstaller() const { return server.requests.size() == 2; }
 };
 
+using Arrange = std::function<void(Course&)>;
+
+Arrange version(const char* text) {
+    return [text](Course& c) { c.version = text; };
+}
+Arrange manifest(const char* text) {
+    return [text](Course& c) { c.manifest = text; };
+}
+Arrange manifest(const HttpAnswer& answer) {
+    return [answer](Course& c) { c.manifestAnswer = answer; };
+}
+Arrange digest(const QByteArray& hexadecimal) {
+    return [hexadecimal](Course& c) { c.more = R"(,"sha256":")" + hexadecimal + '"'; };
+}
+Arrange installer(HttpAnswer (*answer)(Course&, const HttpRequest&)) {
+    return [answer](Course& c) { c.installerAnswer = [&c, answer](const HttpRequest& r) { return answer(c, r); }; };
+}
+Arrange installer(const HttpAnswer& answer) {
+    return [answer](Course& c) { c.installerAnswer = [answer](const HttpRequest&) { return answer; }; };
+}
+
 struct Case {
     const char* name;
-    std::function<void(Course&)> arrange;
+    Arrange arrange;
     std::vector<std::string> told;
     const char* logged;  ///< in its last line, and before an offer there is no other
 };
@@ -175,195 +177,125 @@ TEST_P(UpdateTableTest, WhatTheUserIsToldAndWhatIsLeftOnTheDisk) {
     }
 }
 
-std::string failed(UpdateFailure failure) {
-    return "failed " + std::to_string(static_cast<int>(failure));
-}
-
 const std::vector<std::string> kNothing;
+const Case kNotOffered[] = {
+    {"same version", version("1.9.3.0"), kNothing, "1.9.3 is no newer than this one"},
+    {"downgrade", version("1.9.2"), kNothing, "1.9.2 is no newer"},
+    {"version with a suffix", version("2.0-beta"), kNothing, "no version"},
+    {"version is a number", manifest(R"({"version":2,"url":"https://a/b"})"), kNothing, "\"version\" is no version"},
+    {"installer by HTTP", [](Course& c) { c.url.replace("https:", "http:"); }, kNothing, "no HTTPS address"},
+    {"installer's address is a list", manifest(R"({"version":"2","url":["https://a"]})"), kNothing, "no HTTPS address"},
+    {"bad digest", digest("12"), kNothing, "no digest"},
+    {"HTML", manifest(kHtml), kNothing, "no JSON"},
+    {"a list", manifest("[]"), kNothing, "no JSON object"},
+    {"endless manifest", manifest(endless()), kNothing, "too long"},
+    {"manifest of 10 GB", manifest(endless(kTenGigabytes)), kNothing, "too long"},
+    {"not found", manifest(failure("404 Not Found")), kNothing, "Not Found"},
+    {"not found, endlessly", manifest(endless(-1, "404 Not Found")), kNothing, "too long"},
+    {"no answer",
+     [](Course& c) { c.manifestAnswer = silence(), c.environment.manifestTimeout = std::chrono::milliseconds(300); },
+     kNothing, "no answer in time"},
+    {"nobody listens", [](Course& c) { c.server.close(); }, kNothing, "refused"},
+    {"authority not trusted", [](Course& c) { c.environment.authorities.clear(); }, kNothing, "SSL handshake failed"},
+    {"certificate of another name", [](Course& c) { c.environment.manifest.setHost("127.0.0.1"); }, kNothing,
+     "SSL handshake failed"},
+    {"manifest by HTTP", [](Course& c) { c.environment.manifest.setScheme("http"); }, kNothing, "not HTTPS"},
+    {"manifest redirected to HTTP", [](Course& c) { c.manifestAnswer = redirect(c.server.url("/x", "http")); },
+     kNothing, "nsecure redirect"},
+    {"own version unknown", [](Course& c) { c.environment.running.reset(); }, kNothing, "own version"}};
+INSTANTIATE_TEST_SUITE_P(NotOffered, UpdateTableTest, ::testing::ValuesIn(kNotOffered));
+
 const std::vector<std::string> kDone{"offered 1.10", "progress", "received", "started"};
 const std::vector<std::string> kDoneAfterBreak{"offered 1.10", "progress", "interrupted",
                                                "progress",     "received", "started"};
-const std::vector<std::string> kRefusedAtOnce{"offered 1.10", failed(UpdateFailure::Server)};
+const std::vector<std::string> kDoneAfterTwo{"offered 1.10", "progress", "interrupted", "interrupted",
+                                             "progress",     "received", "started"};
+const Case kFetched[] = {
+    {"in one go", [](Course&) {}, kDone, "is offered"},
+    {"broken, with its digest",
+     [](Course& c) {
+         digest(QCryptographicHash::hash(c.installer, QCryptographicHash::Sha256).toHex().toUpper())(c);
+         c.installerAnswer = [&c](const HttpRequest& request) { return c.halfThenRest(request); };
+     },
+     kDoneAfterBreak, "is offered"},
+    {"redirected", installer([](Course& c, const HttpRequest& request) {
+         return request.path == "/Setup.exe" ? redirect(c.server.url("/moved")) : c.whole();
+     }),
+     kDone, "is offered"},
+    {"broken, then another file", installer([](Course& c, const HttpRequest& request) {
+         HttpAnswer other = c.half();
+         other.body.fill('x');
+         return request.rangeStart() > 0 ? c.whole() : other;
+     }),
+     kDoneAfterBreak, "is offered"},
+    {"broken, and nothing to know it again by", installer([](Course& c, const HttpRequest&) {
+         HttpAnswer answer = c.isFirstForInstaller() ? c.half() : c.whole();
+         answer.headers.clear();
+         return answer;
+     }),
+     kDoneAfterBreak, "is offered"},
+    {"broken, then another part than was asked for", installer([](Course& c, const HttpRequest& request) {
+         if (request.rangeStart() > 0) return c.rest(request.rangeStart() - 1);
+         return c.isFirstForInstaller() ? c.half() : c.whole();
+     }),
+     kDoneAfterTwo, "is offered"},
+    {"stalled",
+     [](Course& c) {
+         c.environment.stallTimeout = std::chrono::seconds(1);
+         c.installerAnswer = [&c](const HttpRequest& request) {
+             HttpAnswer answer = c.halfThenRest(request);
+             answer.silent = request.rangeStart() < 0;
+             return answer;
+         };
+     },
+     kDoneAfterBreak, "is offered"}};
+INSTANTIATE_TEST_SUITE_P(Fetched, UpdateTableTest, ::testing::ValuesIn(kFetched));
 
-INSTANTIATE_TEST_SUITE_P(
-    NotOffered, UpdateTableTest,
-    ::testing::Values(
-        Case{"same version", [](Course& c) { c.version = "1.9.3.0"; }, kNothing, "1.9.3 is no newer than this one"},
-        Case{"downgrade", [](Course& c) { c.version = "1.9.2"; }, kNothing, "1.9.2 is no newer"},
-        Case{"version with a suffix", [](Course& c) { c.version = "2.0-beta"; }, kNothing, "no version"},
-        Case{"version is a number", [](Course& c) { c.manifest = R"({"version":2,"url":"https://a/b"})"; }, kNothing,
-             "\"version\" is no version"},
-        Case{"installer by HTTP", [](Course& c) { c.url.replace("https:", "http:"); }, kNothing, "no HTTPS address"},
-        Case{"installer's address is a list",
-             [](Course& c) { c.manifest = R"({"version":"2.0","url":["https://a"]})"; }, kNothing, "no HTTPS address"},
-        Case{"bad digest", [](Course& c) { c.more = R"(,"sha256":"12")"; }, kNothing, "no digest"},
-        Case{"HTML", [](Course& c) { c.manifest = kHtml; }, kNothing, "no JSON"},
-        Case{"a list", [](Course& c) { c.manifest = "[]"; }, kNothing, "no JSON object"},
-        Case{"endless manifest",
-             [](Course& c) { c.manifestAnswer = [](const HttpRequest&) { return Course::tooLong(-1); }; }, kNothing,
-             "too long"},
-        Case{"manifest of 10 GB",
-             [](Course& c) { c.manifestAnswer = [](const HttpRequest&) { return Course::tooLong(kTenGigabytes); }; },
-             kNothing, "too long"},
-        Case{"not found",
-             [](Course& c) { c.manifestAnswer = [](const HttpRequest&) { return Course::status("404 Not Found"); }; },
-             kNothing, "Not Found"},
-        Case{"not found, endlessly",
-             [](Course& c) {
-                 c.manifestAnswer = [](const HttpRequest&) {
-                     HttpAnswer answer = Course::tooLong(-1);
-                     answer.status = "404 Not Found";
-                     return answer;
-                 };
-             },
-             kNothing, "too long"},
-        Case{"no answer",
-             [](Course& c) {
-                 c.environment.manifestTimeout = std::chrono::milliseconds(300);
-                 c.manifestAnswer = [](const HttpRequest&) {
-                     HttpAnswer answer;
-                     answer.none = true;
-                     return answer;
-                 };
-             },
-             kNothing, "no answer in time"},
-        Case{"nobody listens", [](Course& c) { c.server.close(); }, kNothing, "refused"},
-        Case{"authority not trusted", [](Course& c) { c.environment.authorities.clear(); }, kNothing,
-             "SSL handshake failed"},
-        Case{"certificate of another name", [](Course& c) { c.environment.manifest.setHost("127.0.0.1"); }, kNothing,
-             "SSL handshake failed"},
-        Case{"manifest by HTTP", [](Course& c) { c.environment.manifest.setScheme("http"); }, kNothing, "not HTTPS"},
-        Case{"manifest redirected to HTTP",
-             [](Course& c) {
-                 c.manifestAnswer = [&c](const HttpRequest&) { return Course::redirect(c.server.url("/x", "http")); };
-             },
-             kNothing, "nsecure redirect"},
-        Case{"own version unknown", [](Course& c) { c.environment.running.reset(); }, kNothing, "own version"}));
-
-INSTANTIATE_TEST_SUITE_P(
-    Fetched, UpdateTableTest,
-    ::testing::Values(Case{"in one go", [](Course&) {}, kDone, "is offered"},
-                      Case{"with its digest",
-                           [](Course& c) {
-                               const QByteArray digest =
-                                   QCryptographicHash::hash(c.installer, QCryptographicHash::Sha256).toHex();
-                               c.more = R"(,"sha256":")" + digest.toUpper() + '"';
-                               c.installerAnswer = [&c](const HttpRequest& request) {
-                                   return request.rangeStart() > 0 ? c.rest(request.rangeStart()) : c.half();
-                               };
-                           },
-                           kDoneAfterBreak, "is offered"},
-                      Case{"redirected",
-                           [](Course& c) {
-                               c.installerAnswer = [&c](const HttpRequest& request) {
-                                   return request.path == "/Setup.exe" ? Course::redirect(c.server.url("/moved"))
-                                                                       : c.whole();
-                               };
-                           },
-                           kDone, "is offered"},
-                      Case{"broken, then another file",
-                           [](Course& c) {
-                               c.installerAnswer = [&c](const HttpRequest& request) {
-                                   HttpAnswer other = c.half();
-                                   other.body.fill('x');
-                                   return request.rangeStart() > 0 ? c.whole() : other;
-                               };
-                           },
-                           kDoneAfterBreak, "is offered"},
-                      Case{"broken, and nothing to know it again by",
-                           [](Course& c) {
-                               c.installerAnswer = [&c](const HttpRequest&) {
-                                   HttpAnswer answer = c.isFirstForInstaller() ? c.half() : c.whole();
-                                   answer.headers.clear();
-                                   return answer;
-                               };
-                           },
-                           kDoneAfterBreak, "is offered"},
-                      Case{
-                          "broken, then another part than was asked for",
-                          [](Course& c) {
-                              c.installerAnswer = [&c](const HttpRequest& request) {
-                                  if (request.rangeStart() > 0) return c.rest(request.rangeStart() - 1);
-                                  return c.isFirstForInstaller() ? c.half() : c.whole();
-                              };
-                          },
-                          {"offered 1.10", "progress", "interrupted", "interrupted", "progress", "received", "started"},
-                          "is offered"},
-                      Case{"stalled",
-                           [](Course& c) {
-                               c.environment.stallTimeout = std::chrono::seconds(1);
-                               c.installerAnswer = [&c](const HttpRequest& request) {
-                                   HttpAnswer answer = c.half();
-                                   answer.silent = true;
-                                   return request.rangeStart() > 0 ? c.rest(request.rangeStart()) : answer;
-                               };
-                           },
-                           kDoneAfterBreak, "is offered"}));
-
-INSTANTIATE_TEST_SUITE_P(
-    NotFetched, UpdateTableTest,
-    ::testing::Values(
-        Case{"always broken",
-             [](Course& c) { c.installerAnswer = [&c](const HttpRequest&) { return c.half(); }; },
-             {"offered 1.10", "progress", "interrupted", "progress", "interrupted", "progress",
-              failed(UpdateFailure::Connection)},
-             "closed"},
-        Case{"wrong digest",
-             [](Course& c) { c.more = R"(,"sha256":")" + QByteArray(64, 'a') + '"'; },
-             {"offered 1.10", "progress", failed(UpdateFailure::Damaged)},
-             "another digest"},
-        Case{"10 GB",
-             [](Course& c) { c.installerAnswer = [](const HttpRequest&) { return Course::tooLong(kTenGigabytes); }; },
-             kRefusedAtOnce, "too large"},
-        Case{"endless", [](Course& c) { c.installerAnswer = [](const HttpRequest&) { return Course::tooLong(-1); }; },
-             kRefusedAtOnce, "size is not told"},
-        Case{"redirected to HTTP",
-             [](Course& c) {
-                 c.installerAnswer = [&c](const HttpRequest&) { return Course::redirect(c.server.url("/x", "http")); };
-             },
-             kRefusedAtOnce, "nsecure redirect"},
-        Case{"redirected in a circle",
-             [](Course& c) {
-                 c.installerAnswer = [&c](const HttpRequest&) { return Course::redirect(c.server.url("/Setup.exe")); };
-             },
-             kRefusedAtOnce, "redirect"},
-        Case{"gone",
-             [](Course& c) { c.installerAnswer = [](const HttpRequest&) { return Course::status("410 Gone"); }; },
-             kRefusedAtOnce, "status 410"},
-        Case{"server in trouble",
-             [](Course& c) { c.installerAnswer = [](const HttpRequest&) { return Course::status("503 Busy"); }; },
-             {"offered 1.10", "interrupted", "interrupted", failed(UpdateFailure::Connection)},
-             "status 503"},
-        Case{"no room on the disk",
-             [](Course& c) { c.environment.temporaryFolder += "/missing"; },
-             {"offered 1.10", failed(UpdateFailure::Disk)},
-             "no file"},
-        Case{"signed by somebody else",
-             [](Course& c) { c.starter->startFailure = UpdateFailure::NotTrusted; },
-             {"offered 1.10", "progress", "received", failed(UpdateFailure::NotTrusted)},
-             "is offered"},
-        Case{"unsigned program",
-             [](Course& c) {
-                 c.starter->obstacleFound = UpdateFailure::Unsigned;
-                 c.installerAnswer = [](const HttpRequest&) {
-                     ADD_FAILURE() << "asked for";
-                     return HttpAnswer();
-                 };
-             },
-             {"offered 1.10", failed(UpdateFailure::Unsigned)},
-             "is offered"}));
+std::vector<std::string> offered(std::vector<std::string> then, UpdateFailure failure) {
+    then.insert(then.begin(), "offered 1.10");
+    then.push_back("failed " + std::to_string(static_cast<int>(failure)));
+    return then;
+}
+const std::vector<std::string> kRefusedAtOnce = offered({}, UpdateFailure::Server);
+const Case kNotFetched[] = {
+    {"always broken", installer([](Course& c, const HttpRequest&) { return c.half(); }),
+     offered({"progress", "interrupted", "progress", "interrupted", "progress"}, UpdateFailure::Connection), "closed"},
+    {"wrong digest", digest(QByteArray(64, 'a')), offered({"progress"}, UpdateFailure::Damaged), "another digest"},
+    {"10 GB", installer(endless(kTenGigabytes)), kRefusedAtOnce, "too large"},
+    {"endless", installer(endless()), kRefusedAtOnce, "size is not told"},
+    {"redirected to HTTP",
+     installer([](Course& c, const HttpRequest&) { return redirect(c.server.url("/x", "http")); }), kRefusedAtOnce,
+     "nsecure redirect"},
+    {"redirected in a circle",
+     installer([](Course& c, const HttpRequest&) { return redirect(c.server.url("/Setup.exe")); }), kRefusedAtOnce,
+     "redirect"},
+    {"gone", installer(failure("410 Gone")), kRefusedAtOnce, "status 410"},
+    {"server in trouble", installer(failure("503 Busy")),
+     offered({"interrupted", "interrupted"}, UpdateFailure::Connection), "status 503"},
+    {"no room on the disk", [](Course& c) { c.environment.temporaryFolder += "/missing"; },
+     offered({}, UpdateFailure::Disk), "no file"},
+    {"signed by somebody else", [](Course& c) { c.starter->startFailure = UpdateFailure::NotTrusted; },
+     offered({"progress", "received"}, UpdateFailure::NotTrusted), "is offered"},
+    {"unsigned program",
+     [](Course& c) {
+         c.starter->obstacleFound = UpdateFailure::Unsigned;
+         c.installerAnswer = [](const HttpRequest&) {
+             ADD_FAILURE() << "asked for";
+             return HttpAnswer();
+         };
+     },
+     offered({}, UpdateFailure::Unsigned), "is offered"}};
+INSTANTIATE_TEST_SUITE_P(NotFetched, UpdateTableTest, ::testing::ValuesIn(kNotFetched));
 
 TEST_F(SoftwareUpdateTest, WhatIsGivenUpAtATenthIsGoneFromTheDiskAndTheLine) {
     const std::vector<std::function<void()>> waysOut{[this] { update->abort(); }, [this] { update->release(); },
                                                      [this] { update.reset(); }};
     for (const auto& leave : waysOut) {
         owner.told.clear();
-        course.installerAnswer = [this](const HttpRequest&) {
-            HttpAnswer answer = course.half();
-            answer.breakAfter = course.installer.size() / 10;
-            answer.silent = true;
-            return answer;
-        };
+        HttpAnswer tenth = course.half();
+        tenth.breakAfter = course.installer.size() / 10;
+        tenth.silent = true;
+        installer(tenth)(course);
         start();
         ASSERT_TRUE(waitUntil([&] { return owner.share >= 0.1; }));
         EXPECT_EQ(onDisk().size(), 1);
@@ -376,11 +308,7 @@ TEST_F(SoftwareUpdateTest, WhatIsGivenUpAtATenthIsGoneFromTheDiskAndTheLine) {
 }
 
 TEST_F(SoftwareUpdateTest, LeavingBeforeTheServerAnswersSaysNothing) {
-    course.manifestAnswer = [](const HttpRequest&) {
-        HttpAnswer answer;
-        answer.none = true;
-        return answer;
-    };
+    course.manifestAnswer = silence();
     const LogCapture log;
     start();
     ASSERT_TRUE(waitUntil([&] { return !course.server.requests.empty(); }));
@@ -390,10 +318,10 @@ TEST_F(SoftwareUpdateTest, LeavingBeforeTheServerAnswersSaysNothing) {
 }
 
 TEST_F(SoftwareUpdateTest, AfterAFailureItCanBeTriedAgain) {
-    course.installerAnswer = [](const HttpRequest&) { return Course::status("404 Not Found"); };
+    installer(failure("404 Not Found"))(course);
     start();
     ASSERT_TRUE(waitUntil([&] { return owner.ended; }));
-    course.installerAnswer = nullptr;
+    installer(course.whole())(course);
     owner.ended = false;
     update->download();
     update->download();  // is under way
