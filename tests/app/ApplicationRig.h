@@ -3,6 +3,7 @@
 #include "app/GlobalManager.h"
 #include "tests/devices/FakeServiceControl.h"
 #include "tests/devices/LogCapture.h"
+#include "tests/simulator/SimulatedModule.h"
 #include "tests/tools/RenderedRecording.h"
 
 #include <QElapsedTimer>
@@ -21,7 +22,7 @@ namespace fieldcal::testing {
 constexpr qint64 kPatienceMs = 120000;
 
 /// The application over the simulated module, with an interface that writes down what it is told.
-class ApplicationTest : public ::testing::Test {
+class ApplicationTest : public ::testing::Test, protected SimulatedModule {
 protected:
     ApplicationTest() {
 #ifndef Q_OS_WIN
@@ -32,12 +33,7 @@ protected:
         set("KXSIM_SPEED", "0");
         set("KXSIM_FLASH", folder.filePath("flash"));
     }
-    ~ApplicationTest() override {
-        end();
-        for (const char* variable : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_FLASH", "KXSIM_FAULTS"})
-            qunsetenv(variable);
-    }
-    static void set(const char* variable, const QString& value) { qputenv(variable, value.toLocal8Bit()); }
+    ~ApplicationTest() override { end(); }
 
     /// Starts the program anew. `change` may alter what it finds outside itself.
     void start(const QString& faults = {}, const std::function<void(ApplicationEnvironment&)>& change = nullptr) {

@@ -2,7 +2,6 @@
 #include "tests/workflow/WorkflowRig.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace fieldcal::testing {
 namespace {
@@ -24,14 +23,8 @@ protected:
         ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     }
     double errorDeg() const {
-        session::SessionDescription truth;
-        std::string why;
-        EXPECT_TRUE(session::readDescription(mountainRecording().toStdString(), &truth, &why));
-        const Rotation found = *workflow->records().estimated(ColourCamera::InModule);
-        double squares = 0;
-        for (std::size_t i = 0; i < found.size(); ++i)
-            squares += (found[i] - (*truth.truthThird)[i]) * (found[i] - (*truth.truthThird)[i]);
-        return std::sqrt(squares / 2) * 57.2957795;  // of a small angle
+        return degreesBetween(*workflow->records().estimated(ColourCamera::InModule),
+                              *describe(mountainRecording()).truthThird);
     }
 };
 

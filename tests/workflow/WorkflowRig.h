@@ -1,9 +1,13 @@
 #pragma once
 
+#include "engine/Rotation.h"
+#include "session/RecordedSession.h"
 #include "tests/devices/FakeServiceControl.h"
+#include "tests/simulator/SimulatedModule.h"
 #include "tests/tools/RenderedRecording.h"
 #include "workflow/ProcessingThread.h"
 
+#include <Eigen/Geometry>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
@@ -19,6 +23,26 @@
 #include <vector>
 
 namespace fieldcal::testing {
+
+using Matrix = Eigen::Matrix<double, 3, 3, Eigen::RowMajor>;
+
+inline Matrix matrixOf(const Rotation& rotation) {
+    return Eigen::Map<const Eigen::Matrix<float, 3, 3, Eigen::RowMajor>>(rotation.data()).cast<double>();
+}
+inline Matrix matrixOf(const session::Matrix3& rotation) {
+    return Eigen::Map<const Matrix>(rotation.data());
+}
+template <typename A, typename B>
+double degreesBetween(const A& a, const B& b) {
+    const Eigen::Matrix3d difference = matrixOf(a) * matrixOf(b).transpose();
+    return Eigen::AngleAxisd(difference).angle() * vq::kDegreesPerRadian;
+}
+inline session::SessionDescription describe(const QString& recording) {
+    session::SessionDescription description;
+    std::string why;
+    EXPECT_TRUE(session::readDescription(recording.toStdString(), &description, &why)) << why;
+    return description;
+}
 
 /// Whether the module's emitter is on, as the sensor's log has it.
 class EmitterWatch {
@@ -129,7 +153,7 @@ private:
 };
 
 /// A workflow on its thread, over the simulated module with a flash file.
-class WorkflowTest : public ::testing::Test {
+class WorkflowTest : public ::testing::Test, protected SimulatedModule {
 protected:
     explicit WorkflowTest(const QString& recording = mountainRecording()) {
         set("KXSIM_SESSION", recording);
@@ -139,10 +163,7 @@ protected:
     ~WorkflowTest() override {
         thread.reset();
         workflow.reset();
-        for (const char* variable : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_FLASH", "KXSIM_FAULTS"})
-            qunsetenv(variable);
     }
-    static void set(const char* variable, const QString& value) { qputenv(variable, value.toLocal8Bit()); }
 
     /// Starts the program anew. `user` is a new one, too.
     void start(const QString& faults = {}) {
