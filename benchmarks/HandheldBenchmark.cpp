@@ -1,5 +1,6 @@
 // The rendered module with the loop's work on every frame (grab, brightness, frame selection), as fast as it can: how
-// many frames a second while the hand moves and while it rests, and how long it waits for views.
+// many frames a second while the hand moves and while it rests, what a frame costs all processors together, and how
+// long it waits for views.
 //
 //   HandheldBenchmark [third|platform] [FRAMES]        (KXSIM_WORLD, KXSIM_SEED as usual)
 
@@ -14,6 +15,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <deque>
 #include <string_view>
 #include <vector>
@@ -31,14 +33,31 @@ double millisecondsSince(Clock::time_point start) {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-void print(const char* what, std::vector<double> ms) {
+/// Of all threads.
+double processorMilliseconds() {
+    return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+struct Cost {
+    std::vector<double> ms;
+    double processorMs = 0;
+    void add(double oneMs, double oneProcessorMs) {
+        ms.push_back(oneMs);
+        processorMs += oneProcessorMs;
+    }
+};
+
+void print(const char* what, Cost cost) {
+    std::vector<double>& ms = cost.ms;
     if (ms.empty()) return;
     std::sort(ms.begin(), ms.end());
     double sum = 0;
     for (double one : ms)
         sum += one;
-    std::printf("%-28s %5zu frames   median %7.2f ms   90 %% %7.2f ms   %6.1f frames a second\n", what, ms.size(),
-                ms[ms.size() / 2], ms[ms.size() * 9 / 10], 1000 * static_cast<double>(ms.size()) / sum);
+    const auto count = static_cast<double>(ms.size());
+    std::printf("%-22s %5zu frames  median %7.2f ms  90 %% %7.2f ms  processors %7.2f ms  %6.1f frames a second\n",
+                what, ms.size(), ms[ms.size() / 2], ms[ms.size() * 9 / 10], cost.processorMs / count,
+                1000 * count / sum);
 }
 
 /// Whether the picture is one of the last ones again.
@@ -77,11 +96,12 @@ int main(int argc, char** argv) {
     engine.setCameraParameters(platform);
     engine.setup();
 
-    std::vector<double> resting, moving, waiting;
+    Cost resting, moving, waiting;
     Memory memory;
     const FrameRecords& records = sensor.frames();
     for (int i = 0; i < frames; ++i) {
         const auto start = Clock::now();
+        const double processorsBefore = processorMilliseconds();
         if (!sensor.grab(true)) fatalFailure("grab failed", 1);
         const ImageFrame32& colour = platform ? records.outOfModuleColour : records.inModuleColour;
         if (records.leftInfrared.empty() || colour.empty()) continue;  // the very first view is not there yet
@@ -89,8 +109,9 @@ int main(int argc, char** argv) {
         engine.measureInfraredBrightness(records.leftInfrared, &brightness);
         engine.inputFramesAndCheckMovement(records.leftInfrared, colour);
         const double ms = millisecondsSince(start);
+        const double processorMs = processorMilliseconds() - processorsBefore;
         const bool known = memory.knows(records.leftInfrared);
-        (ms > waitMs ? waiting : known ? resting : moving).push_back(ms);
+        (ms > waitMs ? waiting : known ? resting : moving).add(ms, processorMs);
     }
     print("resting, from memory", resting);
     print("new pictures (moving)", moving);
