@@ -13,12 +13,37 @@ namespace fieldcal::synthesis {
 
 namespace {
 
-/// Light left at a place after the lens, 1 in the middle.
-float throughLens(int x, int y, cv::Size size, double vignetting) {
-    const auto dx = static_cast<float>(x) - static_cast<float>(size.width) * 0.5F;
-    const auto dy = static_cast<float>(y) - static_cast<float>(size.height) * 0.5F;
-    const auto corner = static_cast<float>(size.width * size.width + size.height * size.height) * 0.25F;
-    return 1 - static_cast<float>(vignetting) * (dx * dx + dy * dy) / corner;
+using Row = std::vector<float>;
+
+/// Light left at places after the lens, 1 in the middle.
+class Vignetting {
+public:
+    /// Every place of a row comes `samples` times.
+    Vignetting(cv::Size size, double lost, int samples)
+        : lost_(static_cast<float>(lost)),
+          middle_(static_cast<float>(size.height) * 0.5F),
+          corner_(static_cast<float>(size.width * size.width + size.height * size.height) * 0.25F) {
+        for (int x = 0; x < size.width; ++x) {
+            const auto dx = static_cast<float>(x) - static_cast<float>(size.width) * 0.5F;
+            acrossSquared_.insert(acrossSquared_.end(), static_cast<std::size_t>(samples), dx * dx);
+        }
+    }
+    void row(int y, Row& left) const {
+        const float dy = static_cast<float>(y) - middle_, downSquared = dy * dy, lost = lost_, corner = corner_;
+        left.resize(acrossSquared_.size());
+        for (std::size_t i = 0; i < left.size(); ++i)
+            left[i] = 1 - lost * (acrossSquared_[i] + downSquared) / corner;
+    }
+
+private:
+    float lost_, middle_, corner_;
+    Row acrossSquared_;
+};
+
+/// What a sensor reads where so much arrives: `levels` plus the noise of light and read-out, in the sensor's unit.
+void addNoise(float perUnit, float read, const Row& normal, Row& levels) {
+    for (std::size_t i = 0; i < levels.size(); ++i)
+        levels[i] = levels[i] + std::sqrt(levels[i] * perUnit + read) * normal[i];
 }
 
 /// Mean with the brightest 2 % cut off.
@@ -90,16 +115,22 @@ ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const InfraredSensor
     const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);
     const auto perStep = static_cast<float>(1 / sensor.electronsPerStep);
     const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);
+    const float own = 1 - veil, scattered = mean * veil;
+    const Vignetting lens(picture.size(), sensor.vignetting, 1);
     ImageFrame16 frame;
     frame.resize(static_cast<std::uint32_t>(picture.cols), static_cast<std::uint32_t>(picture.rows));
     std::uint16_t* out = frame.pixels();
-    for (int y = 0; y < picture.rows; ++y)
-        for (int x = 0; x < picture.cols; ++x) {
-            const float light = std::max(0.0F, picture(y, x)) * (1 - veil) + mean * veil;
-            const float level = light * gain * throughLens(x, y, picture.size(), sensor.vignetting);
-            const float seen = level + std::sqrt(level * perStep + read) * noise.next();
+    Row levels, normal(static_cast<std::size_t>(picture.cols));
+    for (int y = 0; y < picture.rows; ++y) {
+        const float* light = picture[y];
+        lens.row(y, levels);
+        for (std::size_t x = 0; x < levels.size(); ++x)
+            levels[x] = (std::max(0.0F, light[x]) * own + scattered) * gain * levels[x];
+        noise.next(normal);
+        addNoise(perStep, read, normal, levels);
+        for (const float seen : levels)
             *out++ = static_cast<std::uint16_t>(std::clamp(seen + 0.5F, 0.0F, 1023.0F));
-        }
+    }
     return frame;
 }
 
@@ -111,18 +142,27 @@ ImageFrame32 exposeColour(const cv::Mat_<cv::Vec3f>& picture, const ColourSensor
     const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);
     const auto perUnit = static_cast<float>(1 / sensor.electronsAtFull);
     const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);
+    const float own = 1 - veil, scattered = mean * veil;
+    const Vignetting lens(picture.size(), sensor.vignetting, 3);
     ImageFrame32 frame;
     frame.resize(static_cast<std::uint32_t>(picture.cols), static_cast<std::uint32_t>(picture.rows));
     std::uint8_t* out = frame.bytes();
-    for (int y = 0; y < picture.rows; ++y)
-        for (int x = 0; x < picture.cols; ++x, out += 4) {
-            const float lens = gain * throughLens(x, y, picture.size(), sensor.vignetting);
-            for (int band = 0; band < 3; ++band) {
-                const float level = (std::max(0.0F, picture(y, x)[2 - band]) * (1 - veil) + mean * veil) * lens;
-                out[band] = displayed(level + std::sqrt(level * perUnit + read) * noise.next());
-            }
+    Row levels, normal(static_cast<std::size_t>(picture.cols) * 3);
+    cv::Mat_<cv::Vec3f> bgr;
+    for (int y = 0; y < picture.rows; ++y) {
+        cv::cvtColor(picture.row(y), bgr, cv::COLOR_RGB2BGR);
+        const float* light = bgr[0]->val;
+        lens.row(y, levels);
+        for (std::size_t i = 0; i < levels.size(); ++i)
+            levels[i] = (std::max(0.0F, light[i]) * own + scattered) * (gain * levels[i]);
+        noise.next(normal);
+        addNoise(perUnit, read, normal, levels);
+        for (std::size_t i = 0; i < levels.size(); i += 3, out += 4) {
+            for (std::size_t band = 0; band < 3; ++band)
+                out[band] = displayed(levels[i + band]);
             out[3] = 255;
         }
+    }
     if (sensor.sharpening > 0) sharpen(frame, sensor.sharpening);
     return frame;
 }

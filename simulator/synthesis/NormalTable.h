@@ -3,6 +3,7 @@
 #include "simulator/synthesis/Random.h"
 
 #include <array>
+#include <vector>
 
 namespace fieldcal::synthesis {
 
@@ -22,6 +23,19 @@ public:
         bits_ >>= 16;
         --left_;
         return values_[drawn % values_.size()];
+    }
+    /// As many calls of the other one, in less time.
+    void next(std::vector<float>& out) {
+        std::size_t i = 0;
+        while (i < out.size() && left_ > 0)
+            out[i++] = next();
+        for (; i + 4 <= out.size(); i += 4) {
+            const std::uint64_t drawn = random_.bits();
+            for (std::size_t k = 0; k < 4; ++k)
+                out[i + k] = values_[(drawn >> (16 * k)) % values_.size()];
+        }
+        while (i < out.size())
+            out[i++] = next();
     }
 
 private:
