@@ -4,6 +4,8 @@
 
 #include <opencv2/imgproc.hpp>
 
+#include <utility>
+
 namespace fieldcal::handheld {
 
 namespace {
@@ -12,8 +14,7 @@ namespace {
 constexpr int cell = 16;
 constexpr double farOutside = -1e4;
 
-cv::Vec2f pixelBefore(const Lens& lens, const cv::Matx33d& before_after, cv::Point2d pixel) {
-    const cv::Point2d ray = lens.ray(pixel);
+cv::Vec2f pixelBefore(const Lens& lens, const cv::Matx33d& before_after, cv::Point2d ray) {
     const cv::Vec3d before = before_after * cv::Vec3d(ray.x, ray.y, 1);
     if (before[2] < 0.2) return {static_cast<float>(farOutside), static_cast<float>(farOutside)};
     const cv::Point2d p = lens.pixel({before[0] / before[2], before[1] / before[2]});
@@ -22,21 +23,31 @@ cv::Vec2f pixelBefore(const Lens& lens, const cv::Matx33d& before_after, cv::Poi
 
 }  // namespace
 
-Lens::Lens(const session::Intrinsics& camera, cv::Point2d principalPoint)
-    : size_(camera.width, camera.height), fx_(camera.fx), fy_(camera.fy), principalPoint_(principalPoint) {}
+Lens::Lens(const session::Intrinsics& camera, cv::Point2d principalPoint,
+           std::optional<session::PlatformCamera> distortion)
+    : size_(camera.width, camera.height),
+      fx_(camera.fx),
+      fy_(camera.fy),
+      principalPoint_(principalPoint),
+      distortion_(std::move(distortion)),
+      // One cell more on every side, so that nothing is extrapolated.
+      lattice_(size_.height / cell + 3, size_.width / cell + 3) {
+    for (int y = 0; y < lattice_.rows; ++y)
+        for (int x = 0; x < lattice_.cols; ++x)
+            lattice_(y, x) = ray({(x - 1 + 0.5) * cell - 0.5, (y - 1 + 0.5) * cell - 0.5});
+}
 
 Lens Lens::ofInfrared(const session::Intrinsics& infrared) {
-    return {infrared, {infrared.cx, infrared.cy}};
+    return {infrared, {infrared.cx, infrared.cy}, {}};
 }
 
 Lens Lens::ofThird(const session::SessionDescription& rig) {
-    return {rig.third, synthesis::ownPrincipalPoint(rig.third, rig.infrared)};
+    return {rig.third, synthesis::ownPrincipalPoint(rig.third, rig.infrared), {}};
 }
 
 Lens Lens::ofPlatform(const session::SessionDescription& rig) {
-    Lens lens(rig.platform->rectified, synthesis::ownPrincipalPoint(rig.platform->rectified, rig.infrared));
-    lens.distortion_ = rig.platform;
-    return lens;
+    const auto& rectified = rig.platform->rectified;
+    return {rectified, synthesis::ownPrincipalPoint(rectified, rig.infrared), rig.platform};
 }
 
 cv::Point2d Lens::ray(cv::Point2d pixel) const {
@@ -50,12 +61,11 @@ cv::Point2d Lens::pixel(cv::Point2d ray) const {
 }
 
 cv::Mat_<cv::Vec2f> pixelsBeforeTurning(const Lens& lens, const cv::Matx33d& before_after, int step) {
-    // One cell more on every side, so that nothing is extrapolated.
-    const cv::Size cells(lens.size().width / cell + 3, lens.size().height / cell + 3);
+    const cv::Size cells = lens.lattice_.size();
     cv::Mat_<cv::Vec2f> coarse(cells);
     for (int y = 0; y < cells.height; ++y)
         for (int x = 0; x < cells.width; ++x)
-            coarse(y, x) = pixelBefore(lens, before_after, {(x - 1 + 0.5) * cell - 0.5, (y - 1 + 0.5) * cell - 0.5});
+            coarse(y, x) = pixelBefore(lens, before_after, lens.lattice_(y, x));
     cv::Mat_<cv::Vec2f> fine;
     cv::resize(coarse, fine, cells * (cell / step), 0, 0, cv::INTER_LINEAR);
     return fine(cv::Rect({cell / step, cell / step}, lens.size() / step));

@@ -22,12 +22,15 @@ public:
     cv::Point2d pixel(cv::Point2d ray) const;
 
 private:
-    Lens(const session::Intrinsics& camera, cv::Point2d principalPoint);
+    Lens(const session::Intrinsics& camera, cv::Point2d principalPoint,
+         std::optional<session::PlatformCamera> distortion);
+    friend cv::Mat_<cv::Vec2f> pixelsBeforeTurning(const Lens& lens, const cv::Matx33d& before_after, int step);
 
     cv::Size size_;
     double fx_, fy_;
     cv::Point2d principalPoint_;
     std::optional<session::PlatformCamera> distortion_;
+    cv::Mat_<cv::Point2d> lattice_;  ///< rays of pixels here and there, which take long to find through a distortion
 };
 
 /// Where each pixel of a camera was, in its own picture, before the camera turned about its centre.
