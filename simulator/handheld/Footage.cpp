@@ -76,6 +76,8 @@ const session::FramePictures* Footage::resting() {
     const Circumstances now{rest_, emitter_, withPlatform_, light_.at(frame_ / framesPerSecond)};
     if (!(now == circumstances_)) isThere_.fill(false);
     circumstances_ = now;
+    // As the number of phases is even, a phase that comes round shows the rear camera's picture again, or again none.
+    static_assert(tremorFrames % 2 == 0);
     const auto phase = static_cast<std::size_t>(held_ % tremorFrames);
     if (isThere_[phase]) return &trembling_[phase];
     const auto& seen = here_->moments[phase % here_->moments.size()];
@@ -83,7 +85,8 @@ const session::FramePictures* Footage::resting() {
     const double frame = static_cast<double>(phase), lag = colourLagSeconds * framesPerSecond;
     const Attitude attitude{trembled(frame), trembled(frame + lag)};
     const Seeing seeing{[&](world::View* view) { turner_.trembledInfrared(seen, attitude, view); },
-                        [&](world::View* view) { turner_.trembledColour(seen, attitude, withPlatform_, view); }};
+                        [&](world::View* view) { turner_.trembledThird(seen, attitude, view); },
+                        [&](world::View* view) { turner_.trembledPlatform(seen, attitude, view); }};
     const std::uint64_t noise = synthesis::mixBits(seed_) + static_cast<std::uint64_t>(rest_) * tremorFrames + phase;
     trembling_[phase] = expose(seeing, here_->settings, noise);
     isThere_[phase] = true;
@@ -101,10 +104,9 @@ const session::FramePictures* Footage::turning() {
                                       firstHalf ? to : from,
                                       {attitude(0), attitude(colourLagSeconds)},
                                       motionDeg(attitude(0), attitude(exposureSeconds))};
-    // The rear camera shows every other frame only.
-    const bool platformShows = withPlatform_ && frame_ % 2 == 1;
     const Seeing seeing{[&](world::View* view) { turner_.passingInfrared(passage, view); },
-                        [&](world::View* view) { turner_.passingColour(passage, platformShows, view); }};
+                        [&](world::View* view) { turner_.passingThird(passage, view); },
+                        [&](world::View* view) { turner_.passingPlatform(passage, view); }};
     moving_ = expose(seeing, firstHalf ? here_->settings : there_->settings, synthesis::mixBits(seed_ ^ frame_));
     return &moving_;
 }
@@ -122,17 +124,22 @@ session::FramePictures Footage::expose(const Seeing& seeing, const synthesis::St
     world::View view;
     session::FramePictures pictures;
     maker_.pause(true);
-    // Two halves of about the same work.
-    auto colourDone = std::async(std::launch::async, [&] {
-        seeing.colour(&view);
+    std::future<void> platformDone;
+    if (platformShows())
+        platformDone = std::async(std::launch::async, [&] {
+            seeing.platform(&view);
+            pictures.platform = platformFrame(view, colour, noise);
+        });
+    auto thirdDone = std::async(std::launch::async, [&] {
+        seeing.third(&view);
         pictures.third = thirdFrame(view, colour, noise);
-        pictures.platform = platformFrame(view, colour, noise);
     });
     seeing.infrared(&view);
     if (emitter_) addEmitterDots(stereo.light, &view);
     pictures.infrared = infraredFrame(view, infrared, noise);
     pictures.depth = depthFrame(view, stereo, noise);
-    colourDone.wait();
+    thirdDone.get();
+    if (platformDone.valid()) platformDone.get();
     maker_.pause(turned_ > 0);
     return pictures;
 }

@@ -45,10 +45,12 @@ private:
     bool mayLeave(std::chrono::milliseconds patience);
     const session::FramePictures* resting();
     const session::FramePictures* turning();
-    /// How the two halves of a view, infrared with depth, and colour, come to be seen.
+    /// How the parts of a view come to be seen: infrared with depth, the third and the rear camera's.
     struct Seeing {
-        std::function<void(world::View*)> infrared, colour;
+        std::function<void(world::View*)> infrared, third, platform;
     };
+    /// The rear camera shows every other frame only.
+    bool platformShows() const { return withPlatform_ && frame_ % 2 == 1; }
     session::FramePictures expose(const Seeing& seeing, const synthesis::StillSettings& settings, std::uint64_t noise);
 
     std::uint64_t seed_;

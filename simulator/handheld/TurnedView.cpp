@@ -85,11 +85,13 @@ void ViewTurner::trembledInfrared(const SeenView& seen, const Attitude& now, wor
     paintLike(from.unmatched, places, cv::INTER_NEAREST, &view->unmatched);
 }
 
-void ViewTurner::trembledColour(const SeenView& seen, const Attitude& now, bool withPlatform, world::View* view) const {
+void ViewTurner::trembledThird(const SeenView& seen, const Attitude& now, world::View* view) const {
     paintLike(seen.view.third, third_.places(seen, now.colour), cv::INTER_CUBIC, &view->third);
-    view->platform.release();
-    if (withPlatform && platform_)
-        paintLike(seen.view.platform, platform_->places(seen, now.colour), cv::INTER_CUBIC, &view->platform);
+}
+
+void ViewTurner::trembledPlatform(const SeenView& seen, const Attitude& now, world::View* view) const {
+    if (seen.view.platform.empty()) return;
+    paintLike(seen.view.platform, platform_->places(seen, now.colour), cv::INTER_CUBIC, &view->platform);
 }
 
 void ViewTurner::passingInfrared(const Passage& passage, world::View* view) const {
@@ -107,15 +109,17 @@ void ViewTurner::passingInfrared(const Passage& passage, world::View* view) cons
                  cv::INTER_NEAREST);
 }
 
-void ViewTurner::passingColour(const Passage& passage, bool withPlatform, world::View* view) const {
-    const world::View &near = passage.nearer.view, &far = passage.other.view;
-    const cv::Matx33d& now = passage.now.colour;
-    paintPassage(passage, third_, now, {{near.third, far.third, &view->third}}, cv::INTER_LINEAR);
+void ViewTurner::passingThird(const Passage& passage, world::View* view) const {
+    const cv::Mat &near = passage.nearer.view.third, &far = passage.other.view.third;
+    paintPassage(passage, third_, passage.now.colour, {{near, far, &view->third}}, cv::INTER_LINEAR);
     smear(view->third, third_, passage.motionDeg);
-    view->platform.release();
-    if (!withPlatform || !platform_) return;
+}
+
+void ViewTurner::passingPlatform(const Passage& passage, world::View* view) const {
+    const cv::Mat &near = passage.nearer.view.platform, &far = passage.other.view.platform;
+    if (near.empty() || far.empty()) return;
     // The motion blurs what half of the platform camera's many pixels would hold.
-    paintPassage(passage, *platform_, now, {{near.platform, far.platform, &view->platform}}, cv::INTER_LINEAR, 2);
+    paintPassage(passage, *platform_, passage.now.colour, {{near, far, &view->platform}}, cv::INTER_LINEAR, 2);
     smear(view->platform, *platform_, passage.motionDeg);
 }
 

@@ -26,11 +26,13 @@ public:
     /// `rig` must carry the true rotations of its cameras.
     explicit ViewTurner(const session::SessionDescription& rig);
 
-    // Infrared with depth, and colour, are seen apart: two threads may do it in the same view.
+    // Infrared with depth, the third and the platform camera's picture are seen apart: three threads may do it in the
+    // same view. Where a view has no platform picture, none is made.
 
     /// What `seen` shows from an attitude that differs by a tremor, as sharp as it was.
     void trembledInfrared(const SeenView& seen, const Attitude& now, world::View* view) const;
-    void trembledColour(const SeenView& seen, const Attitude& now, bool withPlatform, world::View* view) const;
+    void trembledThird(const SeenView& seen, const Attitude& now, world::View* view) const;
+    void trembledPlatform(const SeenView& seen, const Attitude& now, world::View* view) const;
 
     /// On the way between two views: what is seen comes from the nearer one, and from the other where that one does
     /// not reach, blurred by a motion of so many degrees about x and y during the exposure.
@@ -40,8 +42,9 @@ public:
         cv::Point2d motionDeg;
     };
     void passingInfrared(const Passage& passage, world::View* view) const;
-    /// The platform camera's picture comes in half its size.
-    void passingColour(const Passage& passage, bool withPlatform, world::View* view) const;
+    void passingThird(const Passage& passage, world::View* view) const;
+    /// The picture comes in half its size.
+    void passingPlatform(const Passage& passage, world::View* view) const;
 
 private:
     struct Eye {

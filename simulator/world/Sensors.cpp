@@ -8,6 +8,21 @@ namespace fieldcal::world {
 
 using synthesis::Random;
 
+namespace {
+
+/// An NV12 picture in the platform camera's size.
+std::vector<std::uint8_t> enlarged(std::vector<std::uint8_t>& nv12, cv::Size size) {
+    const cv::Size whole(session::kPlatformWidth, session::kPlatformHeight);
+    std::vector<std::uint8_t> large(static_cast<std::size_t>(whole.area()) * 3 / 2);
+    const cv::Mat luma(size, CV_8UC1, nv12.data()), chroma(size / 2, CV_8UC2, nv12.data() + size.area());
+    cv::Mat largeLuma(whole, CV_8UC1, large.data()), largeChroma(whole / 2, CV_8UC2, large.data() + whole.area());
+    cv::resize(luma, largeLuma, whole, 0, 0, cv::INTER_LINEAR);
+    cv::resize(chroma, largeChroma, whole / 2, 0, 0, cv::INTER_LINEAR);
+    return large;
+}
+
+}  // namespace
+
 ImageFrame16 infraredFrame(const View& view, const synthesis::StillSettings& settings, std::uint64_t noiseSeed) {
     Random random(noiseSeed, "infrared noise");
     return exposeInfrared(view.infrared, settings.infrared, settings.darkness, random);
@@ -22,13 +37,11 @@ std::vector<std::uint8_t> platformFrame(const View& view, const synthesis::Still
                                         std::uint64_t noiseSeed) {
     if (view.platform.empty()) return {};
     Random random(noiseSeed, "platform noise");
-    ImageFrame32 seen = exposeColour(view.platform, settings.colour, settings.darkness, random);
-    const int width = session::kPlatformWidth, height = session::kPlatformHeight;
-    cv::Mat bgra(static_cast<int>(seen.height()), static_cast<int>(seen.width()), CV_8UC4, seen.bytes());
-    if (bgra.cols != width) cv::resize(bgra, bgra, {width, height}, 0, 0, cv::INTER_LINEAR);
-    std::vector<std::uint8_t> nv12(static_cast<std::size_t>(width) * height * 3 / 2);
-    session::nv12FromBgra(bgra.data, width, height, nv12.data());
-    return nv12;
+    const ImageFrame32 seen = exposeColour(view.platform, settings.colour, settings.darkness, random);
+    const cv::Size size = view.platform.size();
+    std::vector<std::uint8_t> nv12(static_cast<std::size_t>(size.area()) * 3 / 2);
+    session::nv12FromBgra(seen.bytes(), size.width, size.height, nv12.data());
+    return size.width == session::kPlatformWidth ? nv12 : enlarged(nv12, size);
 }
 
 ImageFrame16 depthFrame(const View& view, const StereoModel& model, std::uint64_t noiseSeed) {
