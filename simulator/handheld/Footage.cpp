@@ -3,6 +3,7 @@
 #include "simulator/world/Emitter.h"
 #include "simulator/world/Sensors.h"
 
+#include <algorithm>
 #include <cmath>
 #include <future>
 
@@ -68,6 +69,7 @@ void Footage::step(std::chrono::milliseconds patience) {
 
 bool Footage::mayLeave(std::chrono::milliseconds patience) {
     if (emitter_) return false;
+    maker_.pause(false);
     there_ = maker_.view(rest_ + 1, withPlatform_, patience);
     return there_ != nullptr;
 }
@@ -90,6 +92,7 @@ const session::FramePictures* Footage::resting() {
     const std::uint64_t noise = synthesis::mixBits(seed_) + static_cast<std::uint64_t>(rest_) * tremorFrames + phase;
     trembling_[phase] = expose(seeing, here_->settings, noise);
     isThere_[phase] = true;
+    maker_.pause(std::find(isThere_.begin(), isThere_.end(), false) != isThere_.end());
     return &trembling_[phase];
 }
 
@@ -140,7 +143,6 @@ session::FramePictures Footage::expose(const Seeing& seeing, const synthesis::St
     pictures.depth = depthFrame(view, stereo, noise);
     thirdDone.get();
     if (platformDone.valid()) platformDone.get();
-    maker_.pause(turned_ > 0);
     return pictures;
 }
 
