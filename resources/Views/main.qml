@@ -124,9 +124,11 @@ Window {
         mirrored: root.mirrored
         wideColour: status.secondCamera
     }
+    // Not the window's content item: with a border in full screen it is larger than the window.
     Pictures {
         id: pictures
-        anchors.fill: parent
+        width: root.width
+        height: root.height
         status: status
         layout: layout
         onTouchDown: root.touchDown(x, y)
@@ -135,7 +137,8 @@ Window {
     }
     Pages {
         id: pages
-        anchors.fill: parent
+        width: root.width
+        height: root.height
         status: status
         layout: layout
         overlay: pictures.refinementView
