@@ -33,7 +33,9 @@ protected:
         set("KXSIM_SPEED", "0");
         set("KXSIM_FLASH", folder.filePath("flash"));
     }
-    ~ApplicationTest() override { end(); }
+    ~ApplicationTest() override {
+        end();
+    }
 
     /// Starts the program anew. `change` may alter what it finds outside itself.
     void start(const QString& faults = {}, const std::function<void(ApplicationEnvironment&)>& change = nullptr) {
@@ -65,7 +67,9 @@ protected:
             texts.push_back(call.toString().toStdString());
         return texts;
     }
-    void forget() { manager->window()->setProperty("calls", QVariantList()); }
+    void forget() {
+        manager->window()->setProperty("calls", QVariantList());
+    }
     bool wasTold(const std::string& call) const {
         const std::vector<std::string> all = calls();
         return std::find(all.begin(), all.end(), call) != all.end();
@@ -88,7 +92,9 @@ protected:
     }
 
     // What the interface does when the user presses something.
-    void press(const char* signal) { QMetaObject::invokeMethod(manager->window(), signal); }
+    void press(const char* signal) {
+        QMetaObject::invokeMethod(manager->window(), signal);
+    }
     void goTo(State state) {
         QMetaObject::invokeMethod(manager->window(), "stateChanged", Q_ARG(int, static_cast<int>(state)));
     }
@@ -115,7 +121,9 @@ protected:
         return timer.elapsed();
     }
 
-    QString dataFolder() const { return folder.filePath("data"); }
+    QString dataFolder() const {
+        return folder.filePath("data");
+    }
     SensorEnvironment sensorEnvironment() const {
         SensorEnvironment environment = systemEnvironment();
         environment.services = services.get();
