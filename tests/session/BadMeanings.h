@@ -43,28 +43,21 @@ public:
     }
 
     ChangedMeaning next() {
-        switch (below(6)) {
-            case 0:
-                return otherType(anyOf([](const Node&) { return true; }));
-            case 1:
-                return otherNumber(anyOf([](const Node& node) { return node.value.isDouble(); }));
-            case 2:
-                return otherMatrix(anyOf([](const Node& node) { return node.value.toArray().size() == 9; }));
-            case 3:
-                return otherFile(
-                    anyOf([](const Node& node) { return node.key.startsWith("frames[") && node.value.isString(); }));
-            case 4:
-                return below(3) > 0 ? otherRepeat()
-                                    : twice(anyOf([](const Node& node) { return !node.key.endsWith("]"); }));
-            default:
-                return below(3) > 0 ? removed(anyOf([](const Node&) { return true; })) : swapped();
-        }
+        const int kind = below(6);
+        if (kind == 0) return otherType(any());
+        if (kind == 1) return otherNumber(anyOf([](const Node& node) { return node.value.isDouble(); }));
+        if (kind == 2) return otherMatrix(anyOf([](const Node& node) { return node.value.toArray().size() == 9; }));
+        if (kind == 3) return otherFile(anyOf([](const Node& n) { return n.isInFrame() && n.value.isString(); }));
+        if (kind == 4) return below(3) > 0 ? otherRepeat() : twice(anyOf([](const Node& n) { return !n.isElement(); }));
+        return below(3) > 0 ? removed(any()) : swapped();
     }
 
 private:
     struct Node {
         QString key;
         QJsonValue value;
+        bool isInFrame() const { return key.startsWith("frames["); }
+        bool isElement() const { return key.endsWith(']'); }
     };
     using Edit = std::function<QJsonValue(const QJsonValue&)>;
 
@@ -76,6 +69,10 @@ private:
             const Node& node = nodes_[random_() % nodes_.size()];
             if (fits(node)) return node;
         }
+    }
+
+    Node any() {
+        return anyOf([](const Node&) { return true; });
     }
 
     static QString member(const QString& path, const QString& name) {
@@ -119,93 +116,55 @@ private:
     }
 
     ChangedMeaning otherType(const Node& node) {
-        const QJsonValue values[] = {QJsonValue::Null,
-                                     "7",
-                                     7.5,
-                                     true,
-                                     QJsonArray(),
-                                     QJsonObject(),
-                                     QJsonArray{node.value},
-                                     QJsonObject{{"value", node.value}}};
-        for (;;) {
-            const QJsonValue& value = values[random_() % std::size(values)];
-            if (value.type() != node.value.type()) return changed(node.key, value, true);
-        }
+        const QJsonValue values[] = {
+            QJsonValue::Null, "7", 7.5, true, QJsonArray(), QJsonArray{node.value}, QJsonObject{{"value", node.value}}};
+        const QJsonValue& value = values[random_() % std::size(values)];
+        return value.type() == node.value.type() ? otherType(node) : changed(node.key, value, true);
     }
 
     ChangedMeaning otherNumber(const Node& node) {
         const double old = node.value.toDouble();
         const bool isSize = node.key.endsWith("width") || node.key.endsWith("height");
         const bool isPositive = isSize || node.key.endsWith("fx") || node.key.endsWith("fy");
-        switch (below(6)) {
-            case 0:
-                return changed(node.key, -old, isPositive);
-            case 1:
-                return changed(node.key, 0, isPositive || node.key == "version");
-            case 2:
-                return changed(node.key, old + 0.5, isSize || node.key == "version");
-            case 3:
-                return changed(node.key, below(2) == 0 ? 1e300 : -1e12, true);
-            case 4:
-                return changed(node.key, isSize ? old + 1 : 5e-324, isPositive);
-            default:
-                ChangedMeaning out = changed(node.key, "infinite", true);
-                out.text.replace("\"infinite\"", below(2) == 0 ? "1e999" : "-1e999");
-                return out;
-        }
+        const bool isVersion = node.key == "version";
+        const int kind = below(6);
+        if (kind == 0) return changed(node.key, -old, isPositive);
+        if (kind == 1) return changed(node.key, 0, isPositive || isVersion);
+        if (kind == 2) return changed(node.key, old + 0.5, isSize || isVersion);
+        if (kind == 3) return changed(node.key, below(2) == 0 ? 1e300 : -1e12, true);
+        if (kind == 4) return changed(node.key, isSize ? old + 1 : 5e-324, isPositive);
+        ChangedMeaning out = changed(node.key, "infinite", true);
+        out.text.replace("\"infinite\"", below(2) == 0 ? "1e999" : "-1e999");
+        return out;
     }
 
     ChangedMeaning otherMatrix(const Node& node) {
         QJsonArray matrix = node.value.toArray();
-        const int row = 3 * below(3);
+        const auto put = [&matrix](int at, double number) { matrix[at] = number; };
+        const auto scale = [&](int from, int to, double by) {
+            for (int i = from; i < to; ++i)
+                put(i, matrix[i].toDouble() * by);
+        };
+        const int kind = below(6), row = 3 * below(3), at = below(9);
         const double sign = below(2) == 0 ? 1 : -1;
-        switch (below(6)) {
-            case 0:  // a reflection
-                for (int i = row; i < row + 3; ++i)
-                    matrix[i] = -matrix[i].toDouble();
-                break;
-            case 1: {  // nearly a rotation
-                const int at = below(9);
-                matrix[at] = matrix[at].toDouble() + sign * (2e-4 + 1e-5 * below(1000));
-                break;
-            }
-            case 2:
-                for (int i = 0; i < 9; ++i)
-                    matrix[i] = matrix[i].toDouble() * (1 + sign * 0.001);
-                break;
-            case 3:
-                for (int i = 0; i < 3; ++i)
-                    matrix[row + i] = matrix[(row + 3 + i) % 9];
-                break;
-            case 4:
-                matrix.removeAt(below(9));
-                break;
-            default:
-                matrix.append(1.0);
-        }
+        if (kind == 0) scale(row, row + 3, -1);  // a reflection
+        if (kind == 1) put(at, matrix[at].toDouble() + sign * (2e-4 + 1e-5 * below(1000)));
+        if (kind == 2) scale(0, 9, 1 + sign * 0.001);
+        for (int i = 0; kind == 3 && i < 3; ++i)
+            matrix[row + i] = matrix[(row + 3 + i) % 9];
+        if (kind == 4) matrix.removeAt(at);
+        if (kind == 5) matrix.append(1.0);
         return changed(node.key, matrix, true);
     }
 
     ChangedMeaning otherFile(const Node& node) {
-        const char* const names[] = {"nowhere.png",
-                                     "/etc/passwd",
-                                     "../s/b_third.png",
-                                     "sub/../../s/b_third.png",
-                                     "C:\\b_third.png",
-                                     "",
-                                     ".",
-                                     "session.json",
-                                     "a\nb.png",
-                                     "a_infrared.png",
-                                     "b_third.png",
-                                     "a_depth.png",
-                                     "a_platform.nv12",
-                                     "grey8.png",
-                                     "colour16.png",
-                                     "large.png",
-                                     "clear.png",
-                                     "bright.png"};
-        const QString name = names[random_() % std::size(names)];
+        static const QStringList names =
+            QString(
+                "nowhere.png|/etc/passwd|../s/b_third.png|sub/../../s/"
+                "b_third.png|C:\\b_third.png||.|session.json|a\nb.png|a_infrared.png|b_third.png|a_depth.png|a_"
+                "platform.nv12|grey8.png|colour16.png|large.png|clear.png|bright.png")
+                .split('|');
+        const QString& name = names[below(names.size())];
         const QString role = node.key.mid(node.key.lastIndexOf('.') + 1);
         return changed(node.key, name, !name.contains('_' + role + '.') || name.contains('/') || name.contains('\\'));
     }
@@ -218,9 +177,9 @@ private:
 
     ChangedMeaning removed(const Node& node) {
         const QString parent = node.key.left(std::max(node.key.lastIndexOf('.'), 0));
-        const bool mayLack = node.key.startsWith("truth") || parent.startsWith("frames[") ||
-                             (node.key.startsWith("frames[") && parent.isEmpty());
-        const bool isElement = node.key.endsWith(']') && !node.key.startsWith("frames");
+        const bool mayLack =
+            node.key.startsWith("truth") || parent.startsWith("frames[") || (node.isInFrame() && parent.isEmpty());
+        const bool isElement = node.isElement() && !node.isInFrame();
         return changed(node.key, QJsonValue(QJsonValue::Undefined), isElement || !mayLack);
     }
 
@@ -239,7 +198,7 @@ private:
     }
 
     ChangedMeaning swapped() {
-        const Node a = anyOf([](const Node&) { return true; });
+        const Node a = any();
         const Node b = anyOf([&a](const Node& node) { return node.value.type() == a.value.type(); });
         ChangedMeaning out = changed(a.key, b.value, false);
         const QJsonObject half = QJsonDocument::fromJson(out.text).object();
