@@ -109,6 +109,7 @@ TEST_F(FrameAcquisitionTest, RefreshesTheModulesRecords) {
 
 TEST_F(FrameAcquisitionTest, StreamsThatAreOffOrOddAreSkipped) {
     openAndRead(withoutPlatform());
+    device->failCall("grab", 4, 6);
     ASSERT_TRUE(sensor->grab(true));
     device->depthOn = device->thirdOn = false;
     device->depth[0] = 1;
@@ -119,6 +120,9 @@ TEST_F(FrameAcquisitionTest, StreamsThatAreOffOrOddAreSkipped) {
     EXPECT_TRUE(sensor->grab(true));
     EXPECT_EQ(sensor->frames().depth.pixels()[0], 1502);
     EXPECT_EQ(sensor->frames().inModuleColour.bytes()[0], 77);
+    device->left.assign(device->left.size(), 9);
+    EXPECT_FALSE(sensor->grab(true));
+    EXPECT_EQ(sensor->frames().leftInfrared.pixels()[0], 500) << "a failed grab leaves the records";
 
     renew();
     ASSERT_TRUE(sensor->open(withoutPlatform()));

@@ -69,32 +69,6 @@ TEST_F(SensorTest, WhatIsMissingWhileOpening) {
     EXPECT_TRUE(LogCapture::has("CRITICAL no library"));
 }
 
-TEST_F(SensorTest, EmitterRequests) {
-    EXPECT_FALSE(sensor->setEmitter(true)) << "not open";
-    ASSERT_TRUE(sensor->open(withoutPlatform()));
-    EXPECT_TRUE(sensor->setEmitter(true));
-    EXPECT_EQ(LogCapture::lines().back(), "Emitter is enabled.");
-    const std::size_t lines = LogCapture::lines().size();
-    device->failCall("emitterControl", 3, 0);
-    EXPECT_FALSE(sensor->setEmitter(true));
-    EXPECT_EQ(LogCapture::lines().size(), lines);
-    EXPECT_THAT(emitted, IsEmpty());
-}
-
-TEST_F(SensorTest, AFaultIsReportedOnceAndEndsTheGrabbing) {
-    ASSERT_TRUE(sensor->open(withoutPlatform()));
-    device->failCall("grab", 2, 6);
-    EXPECT_TRUE(sensor->grab(true));
-    device->left.assign(device->left.size(), 9);
-    EXPECT_FALSE(sensor->grab(true));
-    EXPECT_EQ(sensor->frames().leftInfrared.pixels()[0], 500) << "a failed grab leaves the records";
-    EXPECT_TRUE(sensor->faulted());
-    EXPECT_FALSE(sensor->grab(true));
-    EXPECT_FALSE(sensor->setEmitter(true));
-    EXPECT_EQ(std::count(device->calls.begin(), device->calls.end(), "grab(1)"), 2);
-    EXPECT_EQ(emitted.size(), 1U);
-}
-
 TEST_F(SensorTest, AServiceThatDoesNotStopEndsTheOpening) {
     control.states = {4};
     std::atomic<bool> stop{false};

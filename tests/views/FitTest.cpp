@@ -27,21 +27,21 @@ public:
 struct Look {
     QSize size;
     bool leftToRight;
-    const char* language = nullptr;  ///< none: English, made longer
+    QString language = {};  ///< none: English, made longer
 };
 void PrintTo(const Look& look, std::ostream* out) {
     *out << look.size.width() << 'x' << look.size.height() << (look.leftToRight ? "" : " right to left");
-    if (look.language != nullptr) *out << ' ' << look.language;
+    *out << ' ' << look.language.toStdString();
 }
 
 class FitTest : public ::testing::TestWithParam<Look> {
 protected:
     FitTest() : leftToRight_(GetParam().leftToRight) {
-        if (GetParam().language == nullptr) {
+        if (GetParam().language.isEmpty()) {
             QCoreApplication::installTranslator(&longWinded_);
         } else {
             leftToRight_ = speak(GetParam().language, &translator_);
-            EXPECT_TRUE(translator_.filePath().endsWith(GetParam().language + QString(".qm")));
+            EXPECT_TRUE(translator_.filePath().endsWith(GetParam().language + ".qm"));
         }
     }
     ~FitTest() override { QLocale::setDefault(QLocale::c()); }
@@ -121,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(Looks, FitTest,
 
 std::vector<Look> inEveryLanguage() {
     std::vector<Look> looks;
-    for (const char* language : kInterfaceLanguages)
+    for (const QString& language : kInterfaceLanguages)
         looks.push_back({{1024, 600}, true, language});
     for (const char* language : {"German", "Greek", "Japanese", "Thai", "Arabic"})
         looks.push_back({{1280, 800}, true, language});

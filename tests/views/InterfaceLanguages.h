@@ -12,32 +12,12 @@ inline void initTranslations() {
 namespace fieldcal::testing {
 
 /// The translations that are compiled into the program.
-constexpr const char* kInterfaceLanguages[] = {"Arabic",
-                                               "Chinese",
-                                               "Chinese_HongKongSAR",
-                                               "Chinese_Taiwan",
-                                               "Czech",
-                                               "Danish",
-                                               "Dutch",
-                                               "English",
-                                               "Finnish",
-                                               "French",
-                                               "German",
-                                               "Greek",
-                                               "Hebrew",
-                                               "Italian",
-                                               "Japanese",
-                                               "Korean",
-                                               "Norwegian",
-                                               "Polish",
-                                               "Portuguese",
-                                               "Portuguese_Brazil",
-                                               "Russian",
-                                               "Slovak",
-                                               "Spanish",
-                                               "Swedish",
-                                               "Thai",
-                                               "Turkish"};
+inline const QStringList kInterfaceLanguages =
+    QString(
+        "Arabic Chinese Chinese_HongKongSAR Chinese_Taiwan Czech Danish Dutch English Finnish French German Greek "
+        "Hebrew Italian Japanese Korean Norwegian Polish Portuguese Portuguese_Brazil Russian Slovak Spanish Swedish "
+        "Thai Turkish")
+        .split(' ');
 
 /// The interface speaks `language` from now on, and writes numbers as it does. False: from right to left.
 inline bool speak(const QString& language, QTranslator* translator) {
