@@ -28,12 +28,15 @@ protected:
     CalibrationRecords& records() { return const_cast<CalibrationRecords&>(manager->workflow().records()); }
 
     void openCamera() { ASSERT_TRUE(waitFor("state|1")); }
-    /// Through the tutorial to the first camera's refinement.
-    void refineFirst() {
-        openCamera();
+    void findFirst() {
         press("switchToIMColorSensor");
         ASSERT_TRUE(solve("state|9"));
         QMetaObject::invokeMethod(manager->window(), "toggleTutorialAnimation", Q_ARG(bool, true));
+    }
+    /// Through the tutorial to the first camera's refinement.
+    void refineFirst() {
+        openCamera();
+        findFirst();
         goTo(State::RefiningCalibration);
     }
     void drag(int fromX, int toX, int toY) {
@@ -45,11 +48,7 @@ protected:
     void driveTo(State state) {
         if (state == State::FirstOpened) return;
         openCamera();
-        if (state == State::RefiningTutorial || state == State::RefiningCalibration) {
-            press("switchToIMColorSensor");
-            ASSERT_TRUE(solve("state|9"));
-            QMetaObject::invokeMethod(manager->window(), "toggleTutorialAnimation", Q_ARG(bool, true));
-        }
+        if (state == State::RefiningTutorial || state == State::RefiningCalibration) findFirst();
         if (state != State::RefiningTutorial && state != State::ShowingIntroduction) goTo(state);
         QTest::qWait(30);
     }
@@ -120,15 +119,8 @@ TEST_F(EndingTest, EveryStateIsLeftWithinASecondAndWithoutAWrite) {
         for (const State state : statesToLeave()) {
             start();
             driveTo(state);
-            EXPECT_LT(runUntilEnd([&] {
-                          if (closedBySystem) {
-                              manager->window()->close();
-                          } else {
-                              press("userAskedToExit");
-                          }
-                      }),
-                      1000)
-                << static_cast<int>(state);
+            const auto leave = [&] { closedBySystem ? (void)manager->window()->close() : press("userAskedToExit"); };
+            EXPECT_LT(runUntilEnd(leave), 1000) << static_cast<int>(state);
             EXPECT_EQ(manager->exitCode(), 0);
             QElapsedTimer timer;
             timer.start();

@@ -145,28 +145,6 @@ TEST_F(Rectification, ShiftsNothingOnAverage) {
     }
 }
 
-TEST_F(Rectification, NothingToDoChangesNothing) {
-    const KXCalibIntrinsicsNonRectified raw{900, 900, 63.5F, 31.5F, 128, 64, 0, 0, 0, 0, 0};
-    const KXCalibIntrinsicsRectified rect{900, 900, 63.5F, 31.5F, 128, 64};
-    std::mt19937 random(3);
-    Picture noise = smoothPicture(128, 64);
-    for (std::size_t i = 0; i < noise.bgra.size(); ++i) {
-        if (i % 4 != 3) noise.bgra[i] = static_cast<std::uint8_t>(random());
-    }
-    const Picture same = rectified(noise, raw, kIdentity, rect);
-    const Picture turned = rectified(noise, raw, rotation(0, 0, 180), rect);
-    for (int y = 1; y < 63; ++y) {
-        for (int x = 1; x < 127; ++x) {
-            for (int c = 0; c < 4; ++c) {
-                ASSERT_EQ(same.at(x, y, c), noise.at(x, y, c)) << x << " " << y;
-                ASSERT_EQ(turned.at(127 - x, 63 - y, c), noise.at(x, y, c)) << x << " " << y;
-            }
-        }
-    }
-    // The last column and row stay inside, a 32nd of a pixel off.
-    EXPECT_NEAR(same.at(127, 63, 1), noise.at(127, 63, 1), 255.0 / 16);
-}
-
 TEST_F(Rectification, TheRotationTakesRawToRectified) {
     // Two degrees about Y move what was in the middle of the raw picture to the right: X_rectified = R · X_raw.
     const KXCalibIntrinsicsNonRectified raw{400, 400, 64, 32, 128, 64, 0, 0, 0, 0, 0};

@@ -50,22 +50,18 @@ TEST_F(SessionToolTest, PlaysToTheEndWithoutAnAnswerWhenThereIsNone) {
 }
 
 TEST_F(SessionToolTest, DeviceFailuresEndWithOneLineAndStatusOne) {
-    const Result grab = run({"calibrate", recording(), "--seed", "1"}, {{"FAULTS", "grab:40:6"}});
-    EXPECT_EQ(grab.status, 1);
-    EXPECT_EQ(grab.errorLines(), 1) << grab.error.constData();
-    EXPECT_TRUE(grab.error.endsWith(" - Something bad has happened with the Tarnex Deepvane camera.\n"));
-
-    const Result missing = run({"calibrate", recording()}, {{"FAULTS", "openDevice:1:5"}});
-    EXPECT_EQ(missing.status, 1);
-    EXPECT_EQ(missing.errorLines(), 1) << missing.error.constData();
-
+    const auto expectLine = [](const QString& played, const QString& faults, const char* end) {
+        const Result failed = run({"calibrate", played, "--seed", "1"}, {{"FAULTS", faults}});
+        EXPECT_EQ(failed.status, 1);
+        EXPECT_EQ(failed.errorLines(), 1) << failed.error.constData();
+        EXPECT_TRUE(failed.error.endsWith(end)) << failed.error.constData();
+    };
     const QString invalid = changed("invalid", [](session::SessionDescription* session, const QString&) {
         session->module.calibrationValid = false;
     });
-    const Result uncalibrated = run({"calibrate", invalid});
-    EXPECT_EQ(uncalibrated.status, 1);
-    EXPECT_TRUE(
-        uncalibrated.error.endsWith(" - The device has not been calibrated or has invalid calibration data.\n"));
+    expectLine(recording(), "grab:40:6", " - Something bad has happened with the Tarnex Deepvane camera.\n");
+    expectLine(recording(), "openDevice:1:5", "The depth camera was not found.\n");
+    expectLine(invalid, "", " - The device has not been calibrated or has invalid calibration data.\n");
 }
 
 TEST_F(SessionToolTest, UnreadableRecordingsAreNamedWithFileAndReason) {

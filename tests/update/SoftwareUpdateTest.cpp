@@ -1,5 +1,6 @@
 #include "tests/devices/LogCapture.h"
 #include "tests/update/DownloadServer.h"
+#include "tests/update/FakeStarter.h"
 #include "tests/update/UpdateOwner.h"
 
 #include <QCoreApplication>

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "update/SoftwareUpdate.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <gtest/gtest.h>
+
+namespace fieldcal::testing {
+
+/// Writes down what it is asked to start.
+class FakeStarter : public InstallerStarter {
+public:
+    std::optional<UpdateFailure> obstacle() override { return obstacleFound; }
+    std::optional<UpdateFailure> start(const QString& installer, const QString& arguments) override {
+        QFile file(installer);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        started = file.readAll();
+        command = QFileInfo(installer).fileName() + ' ' + arguments;
+        others = QFileInfo(QFileInfo(installer).path()).permissions() & (QFile::ReadGroup | QFile::ReadOther);
+        return startFailure;
+    }
+    std::optional<UpdateFailure> obstacleFound, startFailure;
+    QByteArray started;
+    QString command;
+    QFile::Permissions others;
+};
+
+}  // namespace fieldcal::testing
