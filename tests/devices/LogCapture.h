@@ -2,16 +2,18 @@
 
 #include <QString>
 #include <QtGlobal>
+#include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <mutex>
 #include <string>
 #include <vector>
 
 namespace fieldcal::testing {
 
-/// Collects what is logged through Qt while it lives, instead of printing it. Critical lines start with "CRITICAL ".
-/// One at a time.
+/// Collects what is logged through Qt while it lives, and prints it only if the test has failed. Critical lines start
+/// with "CRITICAL ". One at a time.
 class LogCapture {
 public:
     LogCapture() {
@@ -19,7 +21,13 @@ public:
         lines().clear();
         previous_ = qInstallMessageHandler(&LogCapture::collect);
     }
-    ~LogCapture() { qInstallMessageHandler(previous_); }
+    ~LogCapture() {
+        qInstallMessageHandler(previous_);
+        if (!::testing::Test::HasFailure()) return;
+        const std::lock_guard lock(mutex());
+        for (const std::string& line : lines())
+            std::printf("%s\n", line.c_str());
+    }
     LogCapture(const LogCapture&) = delete;
     LogCapture& operator=(const LogCapture&) = delete;
 
@@ -30,6 +38,13 @@ public:
     static bool has(const std::string& line) {
         const std::lock_guard lock(mutex());
         return std::count(lines().begin(), lines().end(), line) > 0;
+    }
+    /// The last line that starts like this.
+    static std::string last(const std::string& start) {
+        const std::lock_guard lock(mutex());
+        const auto startsSo = [&](const std::string& line) { return line.compare(0, start.size(), start) == 0; };
+        const auto found = std::find_if(lines().rbegin(), lines().rend(), startsSo);
+        return found == lines().rend() ? "" : *found;
     }
 
 private:

@@ -3,6 +3,7 @@
 #include "engine/Rotation.h"
 #include "session/RecordedSession.h"
 #include "tests/devices/FakeServiceControl.h"
+#include "tests/devices/LogCapture.h"
 #include "tests/simulator/SimulatedModule.h"
 #include "tests/tools/RenderedRecording.h"
 #include "workflow/ProcessingThread.h"
@@ -12,7 +13,6 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
-#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <functional>
@@ -44,30 +44,6 @@ inline session::SessionDescription describe(const QString& recording) {
     return description;
 }
 
-/// Whether the module's emitter is on, as the sensor's log has it.
-class EmitterWatch {
-public:
-    EmitterWatch() { previous() = qInstallMessageHandler(&EmitterWatch::watch); }
-    ~EmitterWatch() { qInstallMessageHandler(previous()); }
-    EmitterWatch(const EmitterWatch&) = delete;
-    EmitterWatch& operator=(const EmitterWatch&) = delete;
-
-    static std::atomic<bool>& isOn() {
-        static std::atomic<bool> on{false};
-        return on;
-    }
-
-private:
-    static QtMessageHandler& previous() {
-        static QtMessageHandler handler = nullptr;
-        return handler;
-    }
-    static void watch(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-        if (text.startsWith("Emitter is ")) isOn() = text == "Emitter is enabled.";
-        previous()(type, context, text);
-    }
-};
-
 /// The person in front of the screen: sees what the workflow tells, and can wait for it.
 class User : public WorkflowListener {
 public:
@@ -86,48 +62,29 @@ public:
         return waitUntil([&] { return arrived() || !errors.empty(); }) && errors.empty();
     }
 
-    void stateChanged(State state) override {
-        note([&] { states.push_back(state); });
-    }
+    void stateChanged(State state) override { note(), states.push_back(state); }
     void framesReady(State state, ColourCamera, const FrameRecords&) override {
-        if (EmitterWatch::isOn()) note([&] { dotted.insert(state); });
+        if (LogCapture::last("Emitter is ") == "Emitter is enabled.") note(), dotted.insert(state);
     }
     void lightMeasured(const LightGate::Reading& reading) override {
-        note([&] {
-            lit = reading.lit;
-            darkReadings += lit ? 0 : 1;
-        });
+        note(), lit = reading.lit, darkReadings += lit ? 0 : 1;
     }
     void returnToWellLitArea(bool needed) override {
         const char letter = needed ? 'D' : 'L';
-        if (events.find_last_of("DL") == std::string::npos || events[events.find_last_of("DL")] != letter)
-            note([&] { events += letter; });
+        const std::size_t last = events.find_last_of("DL");
+        if (last == std::string::npos || events[last] != letter) note(), events += letter;
     }
     void pairCaptured() override {
-        note([&] { events += 'P'; });
+        note(), events += 'P';
         if (onPair) onPair();
     }
-    void offerHowToMove() override {
-        note([&] { events += 'F'; });
-    }
-    void pairProcessed(const vq::CalibratorResult& result) override {
-        note([&] { codes.push_back(result.code); });
-    }
-    void deviceError(const QString& text) override {
-        note([&] { errors.push_back(text.toStdString()); });
-    }
-    void missingModule() override {
-        note([&] { errors.emplace_back("missing module"); });
-    }
-    void missingPlatformCamera() override {
-        note([&] { errors.emplace_back("missing platform camera"); });
-    }
-    void platformCameraIssue() override {
-        note([&] { ++rearCameraIssues; });
-    }
-    void lastSaveFailed(const SaveNote& text) override {
-        note([&] { lastSave = text; });
-    }
+    void offerHowToMove() override { note(), events += 'F'; }
+    void pairProcessed(const vq::CalibratorResult& result) override { note(), codes.push_back(result.code); }
+    void deviceError(const QString& text) override { note(), errors.push_back(text.toStdString()); }
+    void missingModule() override { note(), errors.emplace_back("missing module"); }
+    void missingPlatformCamera() override { note(), errors.emplace_back("missing platform camera"); }
+    void platformCameraIssue() override { note(), ++rearCameraIssues; }
+    void lastSaveFailed(const SaveNote& text) override { note(), lastSave = text; }
 
     std::mutex mutex;
     std::condition_variable changed;
@@ -144,12 +101,16 @@ public:
     std::function<void()> onPair;
 
 private:
-    template <typename Change>
-    void note(Change change) {
-        const std::lock_guard lock(mutex);
-        change();
-        changed.notify_all();
-    }
+    /// Holds the lock for the expression in which it stands, and wakes who waits.
+    struct Note {
+        explicit Note(User& of) : user(of), lock(of.mutex) {}
+        ~Note() { user.changed.notify_all(); }
+        Note(const Note&) = delete;
+        Note& operator=(const Note&) = delete;
+        User& user;
+        std::lock_guard<std::mutex> lock;
+    };
+    Note note() { return Note(*this); }
 };
 
 /// A workflow on its thread, over the simulated module with a flash file.
@@ -207,7 +168,7 @@ protected:
     QTemporaryDir folder;
     FakeServiceControl control;
     std::unique_ptr<PXMServiceManager> services;
-    EmitterWatch emitter;
+    LogCapture log;
     std::unique_ptr<User> user;
     std::unique_ptr<Workflow> workflow;
     std::unique_ptr<ProcessingThread> thread;
