@@ -10,10 +10,6 @@ namespace fieldcal::testing {
 /// The application and its user, who wants every update.
 class Owner : public QObject, public UpdateListener {
     Q_OBJECT
-public slots:
-    void slot_networkReplyLatestVersionJsonFinished(QNetworkReply* reply) { update->manifestReceived(reply); }
-    void slot_timeoutNetworkReplyJson() { update->timedOut(); }
-
 public:
     void updateOffered(const QString& version) override {
         add("offered " + version.toStdString());
@@ -40,6 +36,10 @@ public:
 
 private:
     void add(const std::string& line) { told.push_back(line); }
+
+public slots:
+    void slot_networkReplyLatestVersionJsonFinished(QNetworkReply* reply) { update->manifestReceived(reply); }
+    void slot_timeoutNetworkReplyJson() { update->timedOut(); }
 };
 
 }  // namespace fieldcal::testing
