@@ -25,17 +25,13 @@ constexpr qint64 kPatienceMs = 120000;
 class ApplicationTest : public ::testing::Test, protected SimulatedModule {
 protected:
     ApplicationTest() {
-#ifndef Q_OS_WIN
-        set("QT_QPA_PLATFORM", "offscreen");
-#endif
+        if (QSysInfo::productType() != "windows") set("QT_QPA_PLATFORM", "offscreen");
         set("QT_QUICK_BACKEND", "software");
         set("KXSIM_SESSION", mountainRecording());
         set("KXSIM_SPEED", "0");
         set("KXSIM_FLASH", folder.filePath("flash"));
     }
-    ~ApplicationTest() override {
-        end();
-    }
+    ~ApplicationTest() override { end(); }
 
     /// Starts the program anew. `change` may alter what it finds outside itself.
     void start(const QString& faults = {}, const std::function<void(ApplicationEnvironment&)>& change = nullptr) {
@@ -67,9 +63,7 @@ protected:
             texts.push_back(call.toString().toStdString());
         return texts;
     }
-    void forget() {
-        manager->window()->setProperty("calls", QVariantList());
-    }
+    void forget() { manager->window()->setProperty("calls", QVariantList()); }
     bool wasTold(const std::string& call) const {
         const std::vector<std::string> all = calls();
         return std::find(all.begin(), all.end(), call) != all.end();
@@ -92,9 +86,7 @@ protected:
     }
 
     // What the interface does when the user presses something.
-    void press(const char* signal) {
-        QMetaObject::invokeMethod(manager->window(), signal);
-    }
+    void press(const char* signal) { QMetaObject::invokeMethod(manager->window(), signal); }
     void goTo(State state) {
         QMetaObject::invokeMethod(manager->window(), "stateChanged", Q_ARG(int, static_cast<int>(state)));
     }
@@ -121,9 +113,7 @@ protected:
         return timer.elapsed();
     }
 
-    QString dataFolder() const {
-        return folder.filePath("data");
-    }
+    QString dataFolder() const { return folder.filePath("data"); }
     SensorEnvironment sensorEnvironment() const {
         SensorEnvironment environment = systemEnvironment();
         environment.services = services.get();
