@@ -1,6 +1,6 @@
 // The rendered module with the loop's work on every frame (grab, brightness, frame selection), as fast as it can: how
-// many frames a second while the hand moves and while it rests, what a frame costs all processors together, and how
-// long it waits for views.
+// many frames a second while the hand moves, when it has just come to rest (its first frames are made then) and while
+// it rests, what a frame costs all processors together, and how long it waits for views.
 //
 //   HandheldBenchmark [third|platform] [FRAMES]        (KXSIM_WORLD, KXSIM_SEED as usual)
 
@@ -16,8 +16,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <deque>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace {
@@ -38,43 +38,51 @@ double processorMilliseconds() {
     return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
-struct Cost {
-    std::vector<double> ms;
-    double processorMs = 0;
-    void add(double oneMs, double oneProcessorMs) {
-        ms.push_back(oneMs);
-        processorMs += oneProcessorMs;
-    }
+struct Frame {
+    std::size_t infrared = 0;  ///< a hash of its picture
+    double ms = 0, processorMs = 0;
 };
 
-void print(const char* what, Cost cost) {
-    std::vector<double>& ms = cost.ms;
-    if (ms.empty()) return;
-    std::sort(ms.begin(), ms.end());
-    double sum = 0;
-    for (double one : ms)
-        sum += one;
-    const auto count = static_cast<double>(ms.size());
+void print(const char* what, std::vector<Frame> frames) {
+    if (frames.empty()) return;
+    std::sort(frames.begin(), frames.end(), [](const Frame& a, const Frame& b) { return a.ms < b.ms; });
+    double sum = 0, processorSum = 0;
+    for (const Frame& frame : frames) {
+        sum += frame.ms;
+        processorSum += frame.processorMs;
+    }
+    const auto count = static_cast<double>(frames.size());
     std::printf("%-22s %5zu frames  median %7.2f ms  90 %% %7.2f ms  processors %7.2f ms  %6.1f frames a second\n",
-                what, ms.size(), ms[ms.size() / 2], ms[ms.size() * 9 / 10], cost.processorMs / count,
-                1000 * count / sum);
+                what, frames.size(), frames[frames.size() / 2].ms, frames[frames.size() * 9 / 10].ms,
+                processorSum / count, 1000 * count / sum);
 }
 
-/// Whether the picture is one of the last ones again.
-class Memory {
-public:
-    bool knows(const ImageFrame16& frame) {
-        const auto bytes = std::string_view(reinterpret_cast<const char*>(frame.pixels()), frame.byteCount());
-        const std::size_t hash = std::hash<std::string_view>()(bytes);
-        const bool known = std::find(last_.begin(), last_.end(), hash) != last_.end();
-        last_.push_back(hash);
-        if (last_.size() > 12) last_.pop_front();
-        return known;
-    }
+std::size_t hashOf(const ImageFrame16& frame) {
+    return std::hash<std::string_view>()({reinterpret_cast<const char*>(frame.pixels()), frame.byteCount()});
+}
 
-private:
-    std::deque<std::size_t> last_;
-};
+/// By whether a frame waited for a view, and else by how often its picture was shown: noise makes every moving one
+/// unique, and those of a rest come again.
+void printByKind(const std::vector<Frame>& all) {
+    std::unordered_map<std::size_t, int> shown, shownBefore;
+    for (const Frame& frame : all)
+        ++shown[frame.infrared];
+    std::vector<Frame> moving, comingToRest, resting, waiting;
+    for (const Frame& frame : all) {
+        const bool first = shownBefore[frame.infrared]++ == 0;
+        if (frame.ms > waitMs) {
+            waiting.push_back(frame);
+        } else if (shown[frame.infrared] == 1) {
+            moving.push_back(frame);
+        } else {
+            (first ? comingToRest : resting).push_back(frame);
+        }
+    }
+    print("moving", moving);
+    print("coming to rest", comingToRest);
+    print("resting, from memory", resting);
+    print("waiting for a view", waiting);
+}
 
 }  // namespace
 
@@ -96,8 +104,7 @@ int main(int argc, char** argv) {
     engine.setCameraParameters(platform);
     engine.setup();
 
-    Cost resting, moving, waiting;
-    Memory memory;
+    std::vector<Frame> all;
     const FrameRecords& records = sensor.frames();
     for (int i = 0; i < frames; ++i) {
         const auto start = Clock::now();
@@ -110,11 +117,8 @@ int main(int argc, char** argv) {
         engine.inputFramesAndCheckMovement(records.leftInfrared, colour);
         const double ms = millisecondsSince(start);
         const double processorMs = processorMilliseconds() - processorsBefore;
-        const bool known = memory.knows(records.leftInfrared);
-        (ms > waitMs ? waiting : known ? resting : moving).add(ms, processorMs);
+        all.push_back({hashOf(records.leftInfrared), ms, processorMs});
     }
-    print("resting, from memory", resting);
-    print("new pictures (moving)", moving);
-    print("waiting for a view", waiting);
+    printByKind(all);
     return 0;
 }
