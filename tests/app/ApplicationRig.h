@@ -101,11 +101,13 @@ protected:
     /// Runs the event loop until the program ends by itself, after `action`. Milliseconds that it took.
     qint64 runUntilEnd(const std::function<void()>& action) {
         QElapsedTimer timer;
-        QTimer::singleShot(0, [&] {
+        QTimer once, watchdog;
+        once.setSingleShot(true);
+        QObject::connect(&once, &QTimer::timeout, [&] {
             timer.start();
             action();
         });
-        QTimer watchdog;
+        once.start();
         QObject::connect(&watchdog, &QTimer::timeout, [] { FAIL() << "the program does not end"; });
         QObject::connect(&watchdog, &QTimer::timeout, &QCoreApplication::quit);
         watchdog.start(kPatienceMs);
