@@ -1,0 +1,13 @@
+// Writes down beside itself with which arguments and in which folder it was started.
+#include <fstream>
+#include <string>
+#include <windows.h>
+
+int main() {
+    std::wstring path(MAX_PATH, L'\0'), folder(MAX_PATH, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
+    folder.resize(GetCurrentDirectoryW(MAX_PATH, folder.data()));
+    const std::wstring line = GetCommandLineW();
+    std::wofstream(std::string(path.begin(), path.end()) + ".txt")
+        << line.substr(line.find_last_of(L'"') + 1) << L" in " << folder << std::endl;
+}
