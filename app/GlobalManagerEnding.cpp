@@ -37,9 +37,9 @@ void GlobalManager::slot_getKXAPIErrorAndQuit(const QString& message) {
     if (!beginEnding()) return;
     exitCode_ = 1;
     endProcessing(Stop::ToLeave);
+    updates_.release();  // nothing may be installed while the message waits for its reader
     environment_.showCritical(kErrorTitle, message);
     workflow_.leave();
-    updates_.release();
     QCoreApplication::quit();
 }
 
@@ -61,6 +61,7 @@ void GlobalManager::closeCamera() {
     beginEnding();
     endProcessing(Stop::ToLeave);
     workflow_.leave();
+    updates_.release();
 }
 
 void GlobalManager::finishEnding(const char* who, const LeaveReport& report) {

@@ -1,6 +1,12 @@
-// The program on the simulated module alone, whatever else is installed, and without an administrator's rights.
+// The program on the simulated module alone, whatever else is installed, and without an administrator's rights. Without
+// KXSIM_SESSION it plays the recording that lies beside the simulated libraries. It is not updated: the installer would
+// start the other program.
 #include "app/EntryPoint.h"
 #include "kxapi/Library.h"
+#include "update/windows/ProgramFile.h"
+
+#include <QDir>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -9,5 +15,11 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "The folder with the simulated libraries is missing.\n");
         return 1;
     }
-    return fieldcal::runApplication(argc, argv);
+    const QString program = QString::fromStdWString(fieldcal::programFile());
+    const QString recording = QFileInfo(program).path() + "/simulated/recording";
+    if (!qEnvironmentVariableIsSet("KXSIM_SESSION") && QDir(recording).exists())
+        qputenv("KXSIM_SESSION", QDir::toNativeSeparators(recording).toLocal8Bit());
+    fieldcal::ApplicationEnvironment environment = fieldcal::systemApplicationEnvironment();
+    environment.update.manifest = QUrl();
+    return fieldcal::runApplication(argc, argv, environment);
 }

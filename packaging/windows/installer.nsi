@@ -62,29 +62,58 @@ Function .onInit
     SetShellVarContext all
 FunctionEnd
 
-; A program that started its own update is still ending.
-Function waitForProgram
-    StrCpy $1 0
-    ${While} $1 < 60
-        ${IfNot} ${FileExists} "${PROGRAM}"
-            Return
-        ${EndIf}
+!macro noteIfRunning FILE
+    ${If} ${FileExists} "$INSTDIR\${FILE}"
         ClearErrors
-        FileOpen $0 "${PROGRAM}" a
-        ${IfNot} ${Errors}
+        FileOpen $0 "$INSTDIR\${FILE}" a
+        ${If} ${Errors}
+            StrCpy $2 1
+        ${Else}
             FileClose $0
+        ${EndIf}
+    ${EndIf}
+!macroend
+
+; A program that started its own update is still ending.
+!macro waitForPrograms PREFIX
+Function ${PREFIX}waitForPrograms
+    ${For} $1 1 60
+        StrCpy $2 0
+        !insertmacro noteIfRunning "field-calibrator.exe"
+        !insertmacro noteIfRunning "field-calibrator-demo.exe"
+        !insertmacro noteIfRunning "fieldcal-session.exe"
+        ${If} $2 = 0
             Return
         ${EndIf}
         Sleep 500
-        IntOp $1 $1 + 1
-    ${EndWhile}
-    MessageBox MB_ICONSTOP "${NAME} is still running. Close it, and start the installation again." /SD IDOK
+    ${Next}
+    MessageBox MB_ICONSTOP "${NAME} is still running. Close it, and start again." /SD IDOK
     SetErrorLevel 2
     Quit
 FunctionEnd
+!macroend
+!insertmacro waitForPrograms ""
+!insertmacro waitForPrograms "un."
+
+; A run that died has left the camera's service disabled, and the note of how it was is of no use to anybody else.
+!macro restoreService
+    !define NOTE "$APPDATA\field-calibrator\service-start-type"
+    ${If} ${FileExists} "${NOTE}"
+        FileOpen $0 "${NOTE}" r
+        FileRead $0 $1 1
+        FileClose $0
+        ${If} $1 == 2
+            nsExec::Exec 'sc config DeepvanePXMQ550 start= auto'
+        ${ElseIf} $1 == 3
+            nsExec::Exec 'sc config DeepvanePXMQ550 start= demand'
+        ${EndIf}
+        Delete "${NOTE}"
+    ${EndIf}
+    RMDir "$APPDATA\field-calibrator"
+!macroend
 
 Section
-    Call waitForProgram
+    Call waitForPrograms
     ; What an older version had and this one has not must go.
     ${If} ${FileExists} "$INSTDIR\uninstall.exe"
         ExecWait '"$INSTDIR\uninstall.exe" /S _?=$INSTDIR'
@@ -118,6 +147,8 @@ Function un.onInit
 FunctionEnd
 
 Section Uninstall
+    Call un.waitForPrograms
+    !insertmacro restoreService
     !include "${OWNED}"
     Delete "$INSTDIR\uninstall.exe"
     SetOutPath "$TEMP"
