@@ -63,8 +63,12 @@ bool PXMServiceManager::shutdownPXMService() {
     _previousServiceStatus = readState();
     if (_previousServiceStatus == kFailed) return false;
     qInfo("PXMServiceManager::_previousServiceStatus = %i in shutdown", decimal(_previousServiceStatus));
-    if (!serviceMissing) rememberStartType();
-    if (!changeStartType(kDisabled)) return false;
+    const bool noted = !serviceMissing && rememberStartType();
+    if (!changeStartType(kDisabled)) {
+        // Nothing was disabled. A later run must not take the note for what somebody else disabled meanwhile.
+        if (noted) note_.drop();
+        return false;
+    }
     if (!driveTo(kStopped)) {
         // Whoever leaves while we wait must not be left with a disabled service.
         if (stopRequested()) restoreStartType();
@@ -93,13 +97,16 @@ bool PXMServiceManager::restorePXMService() {
     return true;
 }
 
-void PXMServiceManager::rememberStartType() {
+bool PXMServiceManager::rememberStartType() {
     if (_previousServiceStartType != kDisabled) {
         note_.keep(_previousServiceStartType);
-    } else if (const std::optional<std::uint32_t> kept = note_.kept()) {
+        return true;
+    }
+    if (const std::optional<std::uint32_t> kept = note_.kept()) {
         qInfo("An earlier run left the service disabled; its start type was %i", decimal(*kept));
         _previousServiceStartType = *kept;
     }
+    return false;
 }
 
 bool PXMServiceManager::restoreStartType() {

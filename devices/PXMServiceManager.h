@@ -46,7 +46,8 @@ private:
 
     Opened openService(OpenedService* opened, std::uint32_t access, const char* nameInError);
     std::uint32_t readStartType();
-    void rememberStartType();
+    /// Whether the note is this call's own.
+    bool rememberStartType();
     bool restoreStartType();
     std::uint32_t readState();
     bool changeStartType(std::uint32_t startType);

@@ -195,5 +195,20 @@ TEST_F(PXMServiceManagerTest, WhatADeadRunLeftDisabledIsPutBack) {
     EXPECT_EQ(control.startType, 2U) << "an old note does not outweigh what the service says";
 }
 
+TEST_F(PXMServiceManagerTest, ANoteStaysOnlyWhenTheServiceIsDisabled) {
+    QTemporaryDir folder;
+    const QString note = folder.filePath("start-type");
+    control.fail("changeConfig", 1, 5);
+    EXPECT_FALSE(PXMServiceManager(control, note).shutdownPXMService());
+    EXPECT_FALSE(QFile::exists(note)) << "nothing was disabled";
+
+    FakeServiceControl left;
+    PXMServiceManager dead(left, note);
+    ASSERT_TRUE(dead.shutdownPXMService());
+    left.fail("changeConfig", 1, 5);
+    EXPECT_FALSE(PXMServiceManager(left, note).shutdownPXMService());
+    EXPECT_TRUE(QFile::exists(note)) << "an earlier run's, and the service is still disabled";
+}
+
 }  // namespace
 }  // namespace fieldcal::testing
