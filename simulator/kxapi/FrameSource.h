@@ -18,6 +18,8 @@ public:
 
     /// The module and its cameras. `truthThird` and `truthPlatform` are nobody's business behind the library.
     virtual const fieldcal::session::SessionDescription& description() const = 0;
+    /// The same as the factory measured it, with what `description` hides. A new flash begins with its numbers.
+    virtual const fieldcal::session::SessionDescription& factory() const { return description(); }
     virtual double grabsPerSecond() const = 0;
 
     /// Goes to the next grab. On failure false and `why`; the current frame stays. A source that has nothing new yet

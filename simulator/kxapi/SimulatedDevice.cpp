@@ -37,7 +37,7 @@ bool SimulatedDevice::plugIn() {
     const fieldcal::session::SessionDescription& description = source->description();
     auto flash = std::make_unique<FlashMemory>(flashFile(state_.settings, description.module.serial),
                                                description.module.serial, &state_.settings.faults);
-    const FlashResult loaded = flash->open(factoryBlock(description), &state_.activeBlock);
+    const FlashResult loaded = flash->open(factoryBlock(source->factory()), &state_.activeBlock);
     state_.blockMakesSense = loaded.ok();
     // A block that makes no sense is a calibration that is not valid; the module itself works, and can be written.
     if (!state_.succeeds(loaded) && !flash->read(&state_.activeBlock).ok()) return false;

@@ -26,11 +26,13 @@ public:
         : rig_(std::move(rig)),
           description_(rig_),
           waits_(settings.speed == 0),
+          hasRearCamera_(settings.platform != PlatformChoice::absent),
           open_([=] { return std::make_unique<Footage>(settings.world, settings.seed, rig_, light, !waits_); }) {
         if (settings.platform != PlatformChoice::calibrated) description_.platform.reset();
     }
 
     const SessionDescription& description() const override { return description_; }
+    const SessionDescription& factory() const override { return rig_; }
     double grabsPerSecond() const override { return fieldcal::handheld::framesPerSecond; }
     bool advance(std::string*) override {
         if (footage_ == nullptr) footage_ = open_();
@@ -46,11 +48,11 @@ public:
     bool hasNewPlatformPicture() const override { return isNew_ && grabs_ % 2 == 1 && !current()->platform.empty(); }
     std::uint64_t grabs() const override { return grabs_; }
     void setEmitter(bool on) override { emitter_ = on; }
-    void setPlatformWanted(bool wanted) override { platformWanted_ = wanted && rig_.platform; }
+    void setPlatformWanted(bool wanted) override { platformWanted_ = wanted && hasRearCamera_; }
 
 private:
     SessionDescription rig_, description_;
-    bool waits_;
+    bool waits_, hasRearCamera_;
     std::function<std::unique_ptr<Footage>()> open_;
     std::unique_ptr<Footage> footage_;
     bool emitter_ = false, platformWanted_ = false;
@@ -77,9 +79,8 @@ std::unique_ptr<FrameSource> openWorld(const Settings& settings, std::string* wh
         isOneOf(LightCourse::names(), "KXSIM_LIGHT", settings.light, why);
         return nullptr;
     }
-    const bool platform = settings.platform != PlatformChoice::absent;
     const SessionDescription rig =
-        fieldcal::synthesis::drawRig(settings.seed, {platform, settings.drift, settings.platformDrift});
+        fieldcal::synthesis::drawRig(settings.seed, {true, settings.drift, settings.platformDrift});
     return std::make_unique<WorldSource>(settings, rig, light);
 }
 
