@@ -4,6 +4,8 @@
 
 namespace {
 
+bool simulatedOnly = false;
+
 template <typename Function>
 bool take(void* handle, const char* name, Function* out, std::string* why) {
     *out = reinterpret_cast<Function>(kxapi::findSymbol(handle, name));
@@ -43,5 +45,10 @@ KXLibrary::~KXLibrary() {
 }
 
 bool useSimulatedLibraries() {
-    return kxapi::restrictToSubfolder("simulated");
+    simulatedOnly = kxapi::restrictToSimulated("simulated");
+    return simulatedOnly;
+}
+
+bool usesSimulatedLibraries() {
+    return simulatedOnly;
 }

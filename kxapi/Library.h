@@ -35,6 +35,9 @@ private:
 };
 
 /// From now on both libraries are looked for in the folder `simulated` beside the program and nowhere else, so that a
-/// demonstration never reaches a real camera. False, and nothing changes: there is no such folder. Before the first
-/// library is loaded.
+/// demonstration never reaches a real camera. False, and nothing changes: there is no such folder, and on this system
+/// there must be one. Natively the simulated libraries lie beside the program itself, too. Before the first library is
+/// loaded.
 bool useSimulatedLibraries();
+/// Whether that was asked for, with success.
+bool usesSimulatedLibraries();

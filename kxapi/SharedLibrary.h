@@ -8,8 +8,8 @@ namespace kxapi {
 /// Opens the library `name` ("KXAPI") in the program's own folder, else by the system's search. Null and `why` on
 /// failure.
 void* openSharedLibrary(const char* name, std::string* why);
-/// See `useSimulatedLibraries` in `Library.h`.
-bool restrictToSubfolder(const char* name);
+/// See `useSimulatedLibraries` in `Library.h`; `folder` is beside the program.
+bool restrictToSimulated(const char* folder);
 void closeSharedLibrary(void* handle);
 void* findSymbol(void* handle, const char* name);
 

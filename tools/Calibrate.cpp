@@ -35,7 +35,8 @@ int runCalibrate(const QStringList& arguments) {
     }
     if (options->platformCamera && !session.platform) return refuseUsage("the recording has no platform camera");
 
-    useSimulatedLibraries();  // no other one plays recordings
+    // No other one plays recordings: a real camera's pictures would pass for them.
+    if (!useSimulatedLibraries()) return fail("The folder with the simulated libraries is missing.");
     std::srand(options->seed ? *options->seed : std::random_device{}());
     const bool toPeople = options->jsonFile != "-";
     RecordingCalibration calibration(folder, session, options->platformCamera, toPeople ? printLine : nullptr);

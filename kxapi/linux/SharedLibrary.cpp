@@ -37,10 +37,10 @@ void* openSharedLibrary(const char* name, std::string* why) {
     return handle;
 }
 
-bool restrictToSubfolder(const char* name) {
-    const std::string folder = programFolder() + name + '/';
-    if (access(folder.c_str(), X_OK) != 0) return false;
-    onlyFolder() = folder;
+bool restrictToSimulated(const char* folder) {
+    const std::string path = programFolder() + folder + '/';
+    // Elsewhere than on a tablet the libraries beside the program are the simulated ones.
+    if (access(path.c_str(), X_OK) == 0) onlyFolder() = path;
     return true;
 }
 

@@ -43,10 +43,10 @@ void* openSharedLibrary(const char* name, std::string* why) {
     return reinterpret_cast<void*>(module);
 }
 
-bool restrictToSubfolder(const char* name) {
-    const std::wstring folder = programFolder() + widened(name) + L'\\';
-    if (!exists(folder)) return false;
-    onlyFolder() = folder;
+bool restrictToSimulated(const char* folder) {
+    const std::wstring path = programFolder() + widened(folder) + L'\\';
+    if (!exists(path)) return false;
+    onlyFolder() = path;
     return true;
 }
 
