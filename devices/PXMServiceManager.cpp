@@ -1,5 +1,7 @@
 #include "devices/PXMServiceManager.h"
 
+#include "kxapi/Library.h"
+
 #include <QtGlobal>
 
 namespace fieldcal {
@@ -42,8 +44,9 @@ private:
 };
 
 PXMServiceManager& PXMServiceManager::instance() {
-    static const std::unique_ptr<ServiceControl> control = systemServiceControl();
-    static PXMServiceManager manager(*control, serviceNoteFile());
+    static const bool simulated = usesSimulatedLibraries();
+    static const std::unique_ptr<ServiceControl> control = simulated ? emptyServiceControl() : systemServiceControl();
+    static PXMServiceManager manager(*control, simulated ? QString() : serviceNoteFile());
     return manager;
 }
 

@@ -16,7 +16,8 @@ namespace fieldcal {
 /// that died left disabled, the next one puts back at its end. One thread at a time.
 class PXMServiceManager {
 public:
-    /// The process's own manager, over this system's service control. For the composition root.
+    /// The process's own manager, over this system's service control; over an empty one, without a note, in a program
+    /// that uses the simulated libraries. For the composition root, once that is decided.
     static PXMServiceManager& instance();
 
     /// `noteFile` keeps the start type while the service is disabled; without a name nothing is kept.

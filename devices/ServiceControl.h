@@ -41,6 +41,9 @@ public:
 /// This system's service control. Never null.
 std::unique_ptr<ServiceControl> systemServiceControl();
 
+/// A service control in which no service is installed.
+std::unique_ptr<ServiceControl> emptyServiceControl();
+
 /// Where a service's start type is kept for the next run, whoever starts it on this machine. Empty where a service is
 /// never disabled.
 QString serviceNoteFile();

@@ -1,8 +1,10 @@
 // The service manager on the system's own service control, with a service of the vendor's name that is installed for
 // the test. Needs the right to install one, and refuses to touch one that is there already.
 #include "devices/PXMServiceManager.h"
+#include "kxapi/Library.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -85,7 +87,8 @@ private:
     bool installed_ = false;
 };
 
-/// One run of a program that uses the manager: how the service is while it runs. `ending`: "end", "error" or "die".
+/// One run of a program that uses the manager: how the service is while it runs. `ending`: "end", "error" or "die";
+/// "play" ends like "end", with the simulated libraries.
 std::string during(const QString& ending, const QString& data) {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -127,6 +130,18 @@ TEST(ServiceLifeTest, TheStartTypeComesBackHoweverARunEnds) {
     EXPECT_EQ(serviceNow(), "missing");
 }
 
+TEST(ServiceLifeTest, AProgramOnTheSimulatedLibrariesLeavesItAlone) {
+    for (const bool running : {true, false}) {
+        const QTemporaryDir data;
+        const InstalledService service(2, running);
+        ASSERT_TRUE(service.installed()) << GetLastError();
+        const std::string before = serviceNow();
+        EXPECT_EQ(during("play", data.path()), before);
+        EXPECT_EQ(serviceNow(), before);
+        EXPECT_TRUE(QDir(data.path()).isEmpty()) << "nor is there a note";
+    }
+}
+
 TEST(ServiceLifeTest, ARightThatIsMissingIsNamed) {
     const InstalledService service(3, false);
     ASSERT_TRUE(service.installed()) << GetLastError();
@@ -142,6 +157,7 @@ TEST(ServiceLifeTest, ARightThatIsMissingIsNamed) {
 }
 
 int run(const std::string& ending) {
+    if (ending == "play" && !useSimulatedLibraries()) return 4;
     PXMServiceManager& manager = PXMServiceManager::instance();
     if (!manager.shutdownPXMService()) return 2;
     std::printf("%s\n", serviceNow().c_str());
