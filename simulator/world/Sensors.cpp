@@ -41,7 +41,8 @@ std::vector<std::uint8_t> platformFrame(const View& view, const synthesis::Still
     const cv::Size size = view.platform.size();
     std::vector<std::uint8_t> nv12(static_cast<std::size_t>(size.area()) * 3 / 2);
     session::nv12FromBgra(seen.bytes(), size.width, size.height, nv12.data());
-    return size.width == session::kPlatformWidth ? nv12 : enlarged(nv12, size);
+    if (size.width == session::kPlatformWidth) return nv12;
+    return enlarged(nv12, size);
 }
 
 ImageFrame16 depthFrame(const View& view, const StereoModel& model, std::uint64_t noiseSeed) {
