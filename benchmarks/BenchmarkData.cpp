@@ -1,9 +1,11 @@
 #include "benchmarks/BenchmarkData.h"
 
+#include "devices/ColourConversion.h"
+#include "devices/InfraredGeometry.h"
 #include "diagnostics/Assertions.h"
+#include "simulator/kxapi/Calibration.h"
 
 #include <Eigen/Geometry>
-#include <opencv2/imgproc.hpp>
 
 #include <cmath>
 #include <cstdlib>
@@ -12,60 +14,53 @@
 namespace fieldcal {
 namespace {
 
-Eigen::Matrix3d matrixOf(const session::Matrix3& rows) {
-    return Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(rows.data());
-}
-
-CameraModel modelOf(const session::Intrinsics& camera) {
-    return {camera.width,
-            camera.height,
-            static_cast<float>(camera.fx),
-            static_cast<float>(camera.fy),
-            static_cast<float>(camera.cx),
-            static_cast<float>(camera.cy)};
-}
-
-/// Brings the colour model into the infrared geometry, as the camera's calibration is read.
-void scaleToInfrared(const session::SessionDescription& session, vq::CameraPair* cameras) {
-    const double sx = session.infrared.fx / session.third.fx, sy = session.infrared.fy / session.third.fy;
-    CameraModel& colour = cameras->colour;
-    colour = modelOf(session.third);
-    colour.width = static_cast<int>(std::lround(session.third.width * sx));
-    colour.height = static_cast<int>(std::lround(session.third.height * sx));
-    colour.fx = cameras->infrared.fx;
-    colour.fy = cameras->infrared.fy;
-    colour.cx = static_cast<float>(session.third.cx * sx);
-    colour.cy = static_cast<float>(session.third.cy * sy);
-    cameras->colourScaling = {static_cast<float>(sx * session.third.width / colour.width),
-                              static_cast<float>(sy * session.third.height / colour.height)};
-}
-
 vq::ImagePairRecord scaledColour(const session::FramePictures& pictures, const CameraModel& model) {
-    const cv::Mat raw(static_cast<int>(pictures.third.height()), static_cast<int>(pictures.third.width()), CV_8UC4,
-                      const_cast<std::uint8_t*>(pictures.third.bytes()));
-    cv::Mat scaled;
-    cv::resize(raw, scaled, {model.width, model.height});
-    cv::cvtColor(scaled, scaled, cv::COLOR_BGRA2RGBA);
+    ImageFrame32 scaled;
+    scaleThird(pictures, model, &scaled);
     vq::ImagePairRecord record;
-    record.assign(static_cast<std::uint32_t>(scaled.cols), static_cast<std::uint32_t>(scaled.rows), scaled.data, 4);
+    record.assign(scaled.width(), scaled.height(), scaled.bytes(), 4);
     return record;
 }
 
 }  // namespace
 
+Eigen::Matrix3d matrixOf(const session::Matrix3& rows) {
+    return Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(rows.data());
+}
+
+CameraParameters parametersOf(const session::SessionDescription& session) {
+    CameraParameters parameters;
+    parameters.infrared = modelOf(kxsim::rectifiedIntrinsics(session.infrared));
+    parameters.depth = modelOf(kxsim::rectifiedIntrinsics(session.depth));
+    const auto scaledModel = [&](const session::Intrinsics& camera, ColourScaling* scaling) {
+        CameraModel model = modelOf(kxsim::rectifiedIntrinsics(camera));
+        if (!bringIntoInfraredGeometry(factorsToInfrared(model, parameters.infrared), &model, scaling))
+            fatalFailure("the scale of a colour camera cannot be used", 1);
+        return model;
+    };
+    parameters.inModuleColour = scaledModel(session.third, &parameters.inModuleScaling);
+    parameters.depthToInModule = extrinsicsOf(kxsim::extrinsics(session.third.rotation, session.third.translation));
+    if (!session.platform) return parameters;
+    const auto& platform = *session.platform;
+    parameters.outOfModuleColour = scaledModel(platform.rectified, &parameters.outOfModuleScaling);
+    parameters.depthToOutOfModule = extrinsicsOf(kxsim::extrinsics(platform.rotation, platform.translation));
+    return parameters;
+}
+
 BenchmarkData camerasOf(const session::SessionDescription& session) {
     BenchmarkData data;
-    data.cameras.infrared = modelOf(session.infrared);
-    scaleToInfrared(session, &data.cameras);
+    data.parameters = parametersOf(session);
+    data.cameras = {data.parameters.infrared, data.parameters.inModuleColour, data.parameters.inModuleScaling};
     data.factory = matrixOf(session.third.rotation);
     data.truth = session.truthThird ? matrixOf(*session.truthThird) : data.factory;
-    data.parameters.infrared = data.parameters.depth = data.cameras.infrared;
-    data.parameters.inModuleColour = data.cameras.colour;
-    data.parameters.inModuleScaling = data.cameras.colourScaling;
-    for (std::size_t i = 0; i < 9; ++i) {
-        data.parameters.depthToInModule.rotation[i] = static_cast<float>(session.third.rotation[i]);
-    }
     return data;
+}
+
+void scaleThird(const session::FramePictures& pictures, const CameraModel& model, ImageFrame32* out) {
+    const cv::Mat raw(static_cast<int>(pictures.third.height()), static_cast<int>(pictures.third.width()), CV_8UC4,
+                      const_cast<std::uint8_t*>(pictures.third.bytes()));
+    cv::Mat scaled;
+    scaleIntoRecord(raw, model.width, model.height, &scaled, out);
 }
 
 void addPair(const session::FramePictures& pictures, BenchmarkData* data) {

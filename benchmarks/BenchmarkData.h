@@ -17,12 +17,20 @@ namespace fieldcal {
 struct BenchmarkData {
     std::string folder;
     vq::CameraPair cameras;
-    CameraParameters parameters;
+    CameraParameters parameters;  ///< of the platform camera, too, where the session has one
     Eigen::Matrix3d factory;
     Eigen::Matrix3d truth;  ///< the factory rotation when the recording has none
     std::vector<vq::ImagePairRecord> infrared;
     std::vector<vq::ImagePairRecord> colour;
 };
+
+Eigen::Matrix3d matrixOf(const session::Matrix3& rows);
+
+/// All cameras of a session as the program reads them from the module.
+CameraParameters parametersOf(const session::SessionDescription& session);
+
+/// The third camera's picture as the program gets it: in the size of `model`.
+void scaleThird(const session::FramePictures& pictures, const CameraModel& model, ImageFrame32* out);
 
 /// The cameras of a session, without pictures; and one more pair of pictures of its third camera.
 BenchmarkData camerasOf(const session::SessionDescription& session);

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "benchmarks/BenchmarkData.h"
+#include "devices/FrameAcquisition.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace fieldcal {
+
+/// One of a module's colour cameras, and the rotation that its calibration has to find.
+struct ColourCamera {
+    bool platform = false;
+    vq::CameraPair cameras;
+    Eigen::Matrix3d factory;
+    Eigen::Matrix3d truth;
+
+    const char* name() const { return platform ? "platform" : "third"; }
+    const ImageFrame32& colourOf(const FrameRecords& still) const {
+        return platform ? still.outOfModuleColour : still.inModuleColour;
+    }
+};
+
+/// The third camera, then the platform camera, as far as the session has them and tells their truth.
+std::vector<ColourCamera> judgedCameras(const session::SessionDescription& session, const CameraParameters& parameters);
+
+/// A recording as the program gets it: what the sensor reads from the module, and its records for each frame.
+struct ModuleStills {
+    session::SessionDescription session;
+    CameraParameters parameters;
+    std::vector<FrameRecords> stills;
+};
+
+/// Plays the recording on the simulated camera library. Ends the program with a message when it cannot be played.
+ModuleStills playStills(const std::string& folder);
+
+/// Brings pictures that lie in no recording into the sensor's records, by the same steps.
+class StillConverter {
+public:
+    explicit StillConverter(const session::SessionDescription& session);
+
+    const CameraParameters& parameters() const { return parameters_; }
+    /// The platform camera's record stays empty where there is no picture. The right infrared picture is the left one
+    /// again, as in the simulated library.
+    FrameRecords convert(const session::FramePictures& pictures) const;
+
+private:
+    CameraParameters parameters_;
+    std::vector<std::uint32_t> rectificationTable_;  ///< empty without a platform camera
+};
+
+}  // namespace fieldcal

@@ -1,0 +1,27 @@
+#include "benchmarks/StillAttempt.h"
+
+namespace fieldcal {
+namespace {
+
+/// The selection takes the ninth frame at the earliest, and needs as many of each still to see that the hand moved.
+constexpr int kGrabsPerStill = 20;
+
+}  // namespace
+
+StillAttempt::StillAttempt(const CameraParameters& parameters, const ColourCamera& camera, int pairLimit)
+    : camera_(camera), engine_(context_, parameters), attempt_(engine_, watch_, light_, pairLimit) {}
+
+StillAttempt::Outcome StillAttempt::show(const FrameRecords& still) {
+    auto outcome = Outcome::Continues;
+    for (int i = 0; i < kGrabsPerStill && outcome == Outcome::Continues; ++i)
+        outcome = attempt_.processFrame(still.leftInfrared, camera_.colourOf(still));
+    return outcome;
+}
+
+double StillAttempt::errorDeg() {
+    Eigen::Matrix<float, 3, 3, Eigen::RowMajor> rotation;
+    engine_.getRotationMatrix(rotation.data());
+    return differenceDeg(rotation.cast<double>(), camera_.truth);
+}
+
+}  // namespace fieldcal
