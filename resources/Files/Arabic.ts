@@ -77,10 +77,10 @@
         <translation>كيفية التحريك</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>وجّه الجهاز إلى شيء بعيد.
-المباني والأشجار مناسبة. العشب والسماء والجدران الخالية بسيطة للغاية. يجب ألا يظهر في الصورة أي شيء قريب.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>وجّه الجهاز إلى مشهد غني بالتفاصيل.
+المباني والأشجار مناسبة، قريبة كانت أم بعيدة. العشب والسماء والجدران الخالية بسيطة للغاية. ابقَ على بُعد خطوتين على الأقل.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>اخرج إلى ضوء الشمس الساطع.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>وجّه الجهاز إلى مبانٍ أو أشجار بعيدة. حرّكه ثم توقف، وستُلتقط حتى ثماني صور تلقائيًا.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>وجّه الجهاز إلى مبانٍ أو أشجار، قريبة أو بعيدة. حرّكه ثم توقف، وستُلتقط حتى ثماني صور تلقائيًا.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ It goes on by itself. The photos taken so far count.</source>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>جاهز لالتقاط الصور.
-وجّه الجهاز إلى مبانٍ أو أشجار بعيدة في ضوء الشمس الساطع.</translation>
+وجّه الجهاز إلى مبانٍ أو أشجار في ضوء الشمس الساطع.</translation>
     </message>
     <message>
         <source>How to move</source>

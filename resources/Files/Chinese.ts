@@ -77,10 +77,10 @@
         <translation>如何移动</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>请对准远处的物体。
-建筑物和树木较为理想。草地、天空和光秃的墙面过于单调。画面中不应有近处的物体。</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>请对准细节丰富的景物。
+建筑物和树木较为理想，远近均可。草地、天空和光秃的墙面过于单调。请至少保持两步的距离。</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>请到室外明亮的阳光下。</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>对准远处的建筑物或树木。移动、停住，最多会自动拍摄八张照片。</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>对准建筑物或树木，远近均可。移动、停住，最多会自动拍摄八张照片。</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ It goes on by itself. The photos taken so far count.</source>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>已准备好拍摄照片。
-请在明亮的阳光下对准远处的建筑物或树木。</translation>
+请在明亮的阳光下对准建筑物或树木。</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -77,10 +77,10 @@
         <translation>如何移動</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>請對準遠處的物體。
-建築物和樹木較為理想。草地、天空和空白的牆面過於單調。畫面中不應有近處的物體。</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>請對準細節豐富的景物。
+建築物和樹木較為理想，遠近皆可。草地、天空和空白的牆面過於單調。請至少保持兩步的距離。</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>請到戶外明亮的陽光下。</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>對準遠處的建築物或樹木。移動、停住，最多會自動拍攝八張相片。</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>對準建築物或樹木，遠近皆可。移動、停住，最多會自動拍攝八張相片。</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ It goes on by itself. The photos taken so far count.</source>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>已準備好拍攝相片。
-請在明亮的陽光下對準遠處的建築物或樹木。</translation>
+請在明亮的陽光下對準建築物或樹木。</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -77,10 +77,10 @@
         <translation>Jak se pohybovat</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Namiřte na něco vzdáleného.
-Vhodné jsou budovy a stromy. Tráva, obloha a holé stěny jsou příliš jednoduché. V obraze by nemělo být nic blízkého.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Namiřte na scénu bohatou na detaily.
+Vhodné jsou budovy a stromy, blízké i vzdálené. Tráva, obloha a holé stěny jsou příliš jednoduché. Zachovejte odstup alespoň dvou kroků.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Zkuste to znovu. Namiřte na rozmanitou scénu, například na budovy nebo strom
         <translation>Jděte ven na jasné slunce.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Namiřte na vzdálené budovy nebo stromy. Pohněte se, zastavte se a až osm snímků se pořídí samo.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Namiřte na budovy nebo stromy, blízké i vzdálené. Pohněte se, zastavte se a až osm snímků se pořídí samo.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ Pokračuje se automaticky. Dosud pořízené snímky se počítají.</translatio
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Vše je připraveno.
-Namiřte na vzdálené budovy nebo stromy za jasného slunce.</translation>
+Namiřte na budovy nebo stromy za jasného slunce.</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -77,10 +77,10 @@
         <translation>Bevægelse</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Ret mod noget langt væk.
-Bygninger og træer er gode. Græs, himmel og bare vægge er for enkle. Der må ikke være noget tæt på i billedet.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Ret mod omgivelser med mange detaljer.
+Bygninger og træer er gode, både tæt på og langt væk. Græs, himmel og bare vægge er for enkle. Hold mindst to skridts afstand.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Prøv igen. Ret mod varierede omgivelser som bygninger eller træer.</translatio
         <translation>Gå udenfor i klart sollys.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Ret mod bygninger eller træer langt væk. Bevæg, hold stille, og op til otte fotos tages automatisk.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Ret mod bygninger eller træer, tæt på eller langt væk. Bevæg, hold stille, og op til otte fotos tages automatisk.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ Det fortsætter automatisk. De fotos, der er taget, tæller med.</translation>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Klar til at tage fotos.
-Ret mod bygninger eller træer langt væk i klart sollys.</translation>
+Ret mod bygninger eller træer i klart sollys.</translation>
     </message>
     <message>
         <source>How to move</source>

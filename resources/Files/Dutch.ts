@@ -77,10 +77,10 @@
         <translation>Zo beweegt u</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Richt op iets ver weg.
-Gebouwen en bomen zijn geschikt. Gras, lucht en kale muren zijn te eenvoudig. Er mag niets dichtbij in beeld zijn.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Richt op een omgeving met veel details.
+Gebouwen en bomen zijn geschikt, dichtbij of ver weg. Gras, lucht en kale muren zijn te eenvoudig. Houd minstens twee stappen afstand.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Probeer het opnieuw. Richt op een gevarieerde omgeving, zoals gebouwen of bomen.
         <translation>Ga naar buiten, in fel zonlicht.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Richt op gebouwen of bomen in de verte. Beweeg, houd stil, en er worden vanzelf maximaal acht foto’s gemaakt.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Richt op gebouwen of bomen, dichtbij of ver weg. Beweeg, houd stil, en er worden vanzelf maximaal acht foto’s gemaakt.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ Het gaat vanzelf verder. De foto’s tot nu toe tellen mee.</translation>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Klaar om foto’s te maken.
-Richt op gebouwen of bomen in de verte, in fel zonlicht.</translation>
+Richt op gebouwen of bomen, in fel zonlicht.</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -77,10 +77,10 @@
         <translation>How to move</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</tra
         <translation>Go outside into bright sunlight.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ It goes on by itself. The photos taken so far count.</translation>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</translation>
+Point at buildings or trees in bright sunlight.</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -77,10 +77,10 @@
         <translation>Liikuttaminen</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Suuntaa johonkin kaukana olevaan.
-Rakennukset ja puut ovat hyviä. Nurmi, taivas ja paljaat seinät ovat liian yksinkertaisia. Kuvassa ei saa olla mitään lähellä olevaa.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Suuntaa maisemaan, jossa on yksityiskohtia.
+Rakennukset ja puut ovat hyviä sekä läheltä että kaukaa. Nurmi, taivas ja paljaat seinät ovat liian yksinkertaisia. Pysy vähintään kahden askeleen päässä.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Yritä uudelleen. Suuntaa vaihtelevaan maisemaan, kuten rakennuksiin tai puihin.
         <translation>Mene ulos kirkkaaseen auringonvaloon.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Suuntaa kaukana oleviin rakennuksiin tai puihin. Liikuta ja pysähdy, niin enintään kahdeksan kuvaa otetaan automaattisesti.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Suuntaa rakennuksiin tai puihin, lähellä tai kaukana. Liikuta ja pysähdy, niin enintään kahdeksan kuvaa otetaan automaattisesti.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ Toiminta jatkuu automaattisesti. Jo otetut kuvat lasketaan.</translation>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Valmiina ottamaan kuvia.
-Suuntaa kaukana oleviin rakennuksiin tai puihin kirkkaassa auringonvalossa.</translation>
+Suuntaa rakennuksiin tai puihin kirkkaassa auringonvalossa.</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -77,10 +77,10 @@
         <translation>Mouvements</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Visez quelque chose d’éloigné.
-Les bâtiments et les arbres conviennent bien. L’herbe, le ciel et les murs nus sont trop simples. Rien de proche ne doit figurer dans l’image.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Visez un paysage riche en détails.
+Les bâtiments et les arbres conviennent bien, proches ou éloignés. L’herbe, le ciel et les murs nus sont trop simples. Gardez une distance d’au moins deux pas.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Réessayons. Visez un paysage varié, avec des bâtiments ou des arbres.</transl
         <translation>Allez à l’extérieur, en plein soleil.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Visez des bâtiments ou des arbres éloignés. Bougez, arrêtez-vous : jusqu’à huit photos sont prises automatiquement.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Visez des bâtiments ou des arbres, proches ou éloignés. Bougez, arrêtez-vous&#xa0;: jusqu’à huit photos sont prises automatiquement.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ La suite est automatique. Les photos déjà prises comptent.</translation>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Prêt à prendre des photos.
-Visez des bâtiments ou des arbres éloignés, en plein soleil.</translation>
+Visez des bâtiments ou des arbres, en plein soleil.</translation>
     </message>
     <message>
         <source>How to move</source>

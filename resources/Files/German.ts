@@ -77,10 +77,10 @@
         <translation>So bewegen</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Richten Sie das Tablet auf etwas weit Entferntes.
-Gebäude und Bäume sind gut. Wiese, Himmel und kahle Wände sind zu einfach. Nichts Nahes sollte im Bild sein.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Richten Sie das Tablet auf eine detailreiche Umgebung.
+Gebäude und Bäume sind gut, ob nah oder fern. Wiese, Himmel und kahle Wände sind zu einfach. Halten Sie mindestens zwei Schritte Abstand.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Versuchen Sie es noch einmal. Richten Sie das Gerät auf eine abwechslungsreiche
         <translation>Gehen Sie ins Freie in helles Sonnenlicht.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Richten Sie das Tablet auf entfernte Gebäude oder Bäume. Bewegen, stillhalten: Bis zu acht Fotos werden von selbst aufgenommen.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Richten Sie das Tablet auf Gebäude oder Bäume, nah oder fern. Bewegen, stillhalten: Bis zu acht Fotos werden von selbst aufgenommen.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ Es geht von selbst weiter. Die bisherigen Fotos zählen.</translation>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Bereit für die Fotos.
-Richten Sie das Tablet bei hellem Sonnenlicht auf entfernte Gebäude oder Bäume.</translation>
+Richten Sie das Tablet bei hellem Sonnenlicht auf Gebäude oder Bäume.</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -77,10 +77,10 @@
         <translation>Πώς να κινείστε</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Στρέψτε προς κάτι μακρινό.
-Τα κτίρια και τα δέντρα είναι κατάλληλα. Το γρασίδι, ο ουρανός και οι γυμνοί τοίχοι είναι πολύ απλά. Τίποτα κοντινό δεν πρέπει να φαίνεται στην εικόνα.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Στρέψτε προς ένα τοπίο με λεπτομέρειες.
+Τα κτίρια και τα δέντρα είναι κατάλληλα, κοντινά ή μακρινά. Το γρασίδι, ο ουρανός και οι γυμνοί τοίχοι είναι πολύ απλά. Κρατήστε απόσταση τουλάχιστον δύο βημάτων.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>Βγείτε έξω σε έντονο ηλιακό φως.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Στρέψτε προς μακρινά κτίρια ή δέντρα. Κινηθείτε, σταματήστε, και έως οκτώ φωτογραφίες λαμβάνονται αυτόματα.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Στρέψτε προς κτίρια ή δέντρα, κοντινά ή μακρινά. Κινηθείτε, σταματήστε, και έως οκτώ φωτογραφίες λαμβάνονται αυτόματα.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ It goes on by itself. The photos taken so far count.</source>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Έτοιμο για λήψη φωτογραφιών.
-Στρέψτε προς μακρινά κτίρια ή δέντρα, σε έντονο ηλιακό φως.</translation>
+Στρέψτε προς κτίρια ή δέντρα, σε έντονο ηλιακό φως.</translation>
     </message>
     <message>
         <source>How to move</source>

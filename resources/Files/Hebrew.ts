@@ -77,10 +77,10 @@
         <translation>איך להזיז</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>יש לכוון אל משהו רחוק.
-בניינים ועצים מתאימים. דשא, שמיים וקירות חשופים פשוטים מדי. אין לכלול בתמונה דבר קרוב.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>יש לכוון אל נוף עשיר בפרטים.
+בניינים ועצים מתאימים, קרובים או רחוקים. דשא, שמיים וקירות חשופים פשוטים מדי. יש לשמור מרחק של שני צעדים לפחות.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>יש לצאת החוצה לאור שמש חזק.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>יש לכוון אל בניינים או עצים רחוקים, להזיז ולעצור. עד שמונה תמונות מצולמות אוטומטית.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>יש לכוון אל בניינים או עצים, קרובים או רחוקים, להזיז ולעצור. עד שמונה תמונות מצולמות אוטומטית.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ It goes on by itself. The photos taken so far count.</source>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>מוכן לצילום.
-יש לכוון אל בניינים או עצים רחוקים, באור שמש חזק.</translation>
+יש לכוון אל בניינים או עצים, באור שמש חזק.</translation>
     </message>
     <message>
         <source>How to move</source>

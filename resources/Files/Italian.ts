@@ -77,10 +77,10 @@
         <translation>Come muovere</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Inquadrare qualcosa di lontano.
-Gli edifici e gli alberi sono adatti. Erba, cielo e pareti spoglie sono troppo semplici. Nell’immagine non deve esserci nulla di vicino.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Inquadrare un paesaggio ricco di dettagli.
+Gli edifici e gli alberi, vicini o lontani, sono adatti. Erba, cielo e pareti spoglie sono troppo semplici. Mantenere almeno due passi di distanza.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Riprovare. Inquadrare un paesaggio vario, con edifici o alberi.</translation>
         <translation>Uscire all’aperto in piena luce solare.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Inquadrare edifici o alberi lontani. Muovere, fermarsi: fino a otto foto vengono scattate automaticamente.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Inquadrare edifici o alberi, vicini o lontani. Muovere, fermarsi: fino a otto foto vengono scattate automaticamente.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ Si prosegue automaticamente. Le foto già scattate contano.</translation>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Pronto per le foto.
-Inquadrare edifici o alberi lontani, in piena luce solare.</translation>
+Inquadrare edifici o alberi in piena luce solare.</translation>
     </message>
     <message>
         <source>How to move</source>

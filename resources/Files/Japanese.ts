@@ -77,10 +77,10 @@
         <translation>動かし方</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>遠くのものに向けてください。
-建物や木が適しています。芝生、空、何もない壁は単純すぎます。近くのものが写らないようにしてください。</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>細部の多い風景に向けてください。
+遠近を問わず、建物や木が適しています。芝生、空、何もない壁は単純すぎます。2 歩以上離れてください。</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>屋外の明るい日光の下に出てください。</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>遠くの建物や木に向けてください。動かして静止すると、最大 8 枚の写真が自動的に撮影されます。</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>遠近を問わず、建物や木に向けてください。動かして静止すると、最大 8 枚の写真が自動的に撮影されます。</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ It goes on by itself. The photos taken so far count.</source>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>撮影の準備ができました。
-明るい日光の下で、遠くの建物や木に向けてください。</translation>
+明るい日光の下で、建物や木に向けてください。</translation>
     </message>
     <message>
         <source>How to move</source>

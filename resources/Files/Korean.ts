@@ -77,10 +77,10 @@
         <translation>움직이는 방법</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>멀리 있는 것을 향하십시오.
-건물과 나무가 좋습니다. 잔디, 하늘, 빈 벽은 너무 단순합니다. 가까이 있는 것이 화면에 나오지 않아야 합니다.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>세부 모습이 많은 풍경을 향하십시오.
+건물과 나무는 가깝든 멀든 좋습니다. 잔디, 하늘, 빈 벽은 너무 단순합니다. 두 걸음 이상 거리를 두십시오.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>밝은 햇빛이 있는 야외로 나가십시오.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>멀리 있는 건물이나 나무를 향하십시오. 움직이고 멈추면 최대 8장의 사진이 자동으로 촬영됩니다.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>거리에 상관없이 건물이나 나무를 향하십시오. 움직이고 멈추면 최대 8장의 사진이 자동으로 촬영됩니다.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ It goes on by itself. The photos taken so far count.</source>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>사진을 촬영할 준비가 되었습니다.
-밝은 햇빛에서 멀리 있는 건물이나 나무를 향하십시오.</translation>
+밝은 햇빛에서 건물이나 나무를 향하십시오.</translation>
     </message>
     <message>
         <source>How to move</source>

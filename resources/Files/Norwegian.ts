@@ -77,10 +77,10 @@
         <translation>Bevegelse</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Rett mot noe langt borte.
-Bygninger og trær er bra. Gress, himmel og nakne vegger er for enkle. Ingenting nært bør være med i bildet.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Rett mot omgivelser med mange detaljer.
+Bygninger og trær er bra, på nært hold eller langt borte. Gress, himmel og nakne vegger er for enkle. Hold minst to skritts avstand.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Prøv igjen. Rett mot varierte omgivelser som bygninger eller trær.</translatio
         <translation>Gå ut i sterkt sollys.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Rett mot bygninger eller trær langt borte. Beveg, hold stille, og opptil åtte bilder tas automatisk.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Rett mot bygninger eller trær, på nært hold eller langt borte. Beveg, hold stille, og opptil åtte bilder tas automatisk.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Klar til å ta bilder.
-Rett mot bygninger eller trær langt borte, i sterkt sollys.</translation>
+Rett mot bygninger eller trær i sterkt sollys.</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -77,10 +77,10 @@
         <translation>Jak poruszać</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Skieruj na coś odległego.
-Budynki i drzewa są odpowiednie. Trawa, niebo i gołe ściany są zbyt proste. W obrazie nie powinno być niczego bliskiego.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Skieruj na otoczenie bogate w szczegóły.
+Budynki i drzewa, bliskie lub odległe, są odpowiednie. Trawa, niebo i gołe ściany są zbyt proste. Zachowaj odstęp co najmniej dwóch kroków.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Spróbuj ponownie. Skieruj na urozmaicone otoczenie, takie jak budynki lub drzew
         <translation>Wyjdź na zewnątrz, w jasne słońce.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Skieruj na odległe budynki lub drzewa. Porusz, zatrzymaj się, a do ośmiu zdjęć zostanie wykonanych automatycznie.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Skieruj na budynki lub drzewa, bliskie albo odległe. Porusz, zatrzymaj się, a do ośmiu zdjęć zostanie wykonanych automatycznie.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ Praca będzie kontynuowana automatycznie. Wykonane zdjęcia się liczą.</transl
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Wszystko gotowe do zdjęć.
-Skieruj na odległe budynki lub drzewa w jasnym słońcu.</translation>
+Skieruj na budynki lub drzewa w jasnym słońcu.</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -77,10 +77,10 @@
         <translation>Como mover</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Aponte para algo distante.
-Prédios e árvores são adequados. Grama, céu e paredes lisas são simples demais. Nada próximo deve aparecer na imagem.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Aponte para um cenário rico em detalhes.
+Prédios e árvores são adequados, próximos ou distantes. Grama, céu e paredes lisas são simples demais. Mantenha pelo menos dois passos de distância.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Tente novamente. Aponte para um cenário variado, como prédios ou árvores.</tr
         <translation>Vá para fora, sob luz solar intensa.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Aponte para prédios ou árvores distantes. Mova, pare, e até oito fotos são tiradas automaticamente.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Aponte para prédios ou árvores, próximos ou distantes. Mova, pare, e até oito fotos são tiradas automaticamente.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ O processo continua automaticamente. As fotos já tiradas contam.</translation>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Pronto para tirar fotos.
-Aponte para prédios ou árvores distantes, sob luz solar intensa.</translation>
+Aponte para prédios ou árvores, sob luz solar intensa.</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -77,10 +77,10 @@
         <translation>Как двигать</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Направьте на что-нибудь далёкое.
-Подходят здания и деревья. Трава, небо и голые стены слишком просты. В кадре не должно быть ничего близкого.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Направьте на местность, богатую деталями.
+Подходят здания и деревья, близкие и далёкие. Трава, небо и голые стены слишком просты. Держитесь на расстоянии не менее двух шагов.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>Выйдите на улицу, на яркий солнечный свет.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Направьте на далёкие здания или деревья. Двигайте и замирайте: автоматически будет сделано до восьми снимков.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Направьте на здания или деревья, близкие или далёкие. Двигайте и замирайте: автоматически будет сделано до восьми снимков.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ It goes on by itself. The photos taken so far count.</source>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Всё готово к съёмке.
-Направьте на далёкие здания или деревья при ярком солнечном свете.</translation>
+Направьте на здания или деревья при ярком солнечном свете.</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -77,10 +77,10 @@
         <translation>Ako sa pohybovať</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Namierte na niečo vzdialené.
-Vhodné sú budovy a stromy. Tráva, obloha a holé steny sú príliš jednoduché. V obraze by nemalo byť nič blízke.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Namierte na scénu bohatú na detaily.
+Vhodné sú budovy a stromy, blízke aj vzdialené. Tráva, obloha a holé steny sú príliš jednoduché. Zachovajte odstup aspoň dvoch krokov.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Skúste to znova. Namierte na rozmanitú scénu, napríklad na budovy alebo stro
         <translation>Choďte von na jasné slnko.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Namierte na vzdialené budovy alebo stromy. Pohnite sa, zastavte sa a až osem snímok sa zhotoví samo.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Namierte na budovy alebo stromy, blízke aj vzdialené. Pohnite sa, zastavte sa a až osem snímok sa zhotoví samo.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ Pokračuje sa automaticky. Doteraz zhotovené snímky sa počítajú.</translati
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Všetko je pripravené.
-Namierte na vzdialené budovy alebo stromy za jasného slnka.</translation>
+Namierte na budovy alebo stromy za jasného slnka.</translation>
     </message>
     <message>
         <source>How to move</source>

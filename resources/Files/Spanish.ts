@@ -77,10 +77,10 @@
         <translation>Cómo mover</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Apunte a algo lejano.
-Los edificios y los árboles son adecuados. La hierba, el cielo y las paredes lisas son demasiado simples. No debe haber nada cercano en la imagen.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Apunte a un entorno con muchos detalles.
+Los edificios y los árboles son adecuados, estén cerca o lejos. La hierba, el cielo y las paredes lisas son demasiado simples. Mantenga al menos dos pasos de distancia.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Inténtelo de nuevo. Apunte a un entorno variado, como edificios o árboles.</tr
         <translation>Salga al exterior, a plena luz del sol.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Apunte a edificios o árboles lejanos. Mueva, deténgase y se tomarán automáticamente hasta ocho fotos.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Apunte a edificios o árboles, cercanos o lejanos. Mueva, deténgase y se tomarán automáticamente hasta ocho fotos.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Listo para tomar fotos.
-Apunte a edificios o árboles lejanos, a plena luz del sol.</translation>
+Apunte a edificios o árboles, a plena luz del sol.</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -77,10 +77,10 @@
         <translation>Så rör du dig</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Rikta mot något långt bort.
-Byggnader och träd är bra. Gräs, himmel och kala väggar är för enkla. Inget nära bör finnas i bilden.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Rikta mot en omgivning med många detaljer.
+Byggnader och träd är bra, både nära och långt bort. Gräs, himmel och kala väggar är för enkla. Håll minst två stegs avstånd.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Försök igen. Rikta mot en omväxlande omgivning som byggnader eller träd.</tr
         <translation>Gå ut i starkt solljus.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Rikta mot byggnader eller träd långt bort. Rör, håll stilla, och upp till åtta foton tas automatiskt.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Rikta mot byggnader eller träd, nära eller långt bort. Rör, håll stilla, och upp till åtta foton tas automatiskt.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Klart att ta foton.
-Rikta mot byggnader eller träd långt bort, i starkt solljus.</translation>
+Rikta mot byggnader eller träd i starkt solljus.</translation>
     </message>
     <message>
         <source>How to move</source>

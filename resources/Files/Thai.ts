@@ -77,10 +77,10 @@
         <translation>วิธี​เคลื่อนที่</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>เล็งไปที่​สิ่งที่​อยู่ไกล
-อาคาร​และต้นไม้​เหมาะสม หญ้า ท้องฟ้า และผนัง​โล่ง​เรียบง่าย​เกินไป ไม่ควรมี​สิ่งที่​อยู่ใกล้​ในภาพ</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>เล็งไปที่​ทิวทัศน์​ที่มี​รายละเอียด
+อาคาร​และต้นไม้​เหมาะสม ไม่ว่าจะ​ใกล้​หรือไกล หญ้า ท้องฟ้า และผนัง​โล่ง​เรียบง่าย​เกินไป เว้น​ระยะห่าง​อย่างน้อย​สองก้าว</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>ออกไป​กลางแจ้ง​ในแสงแดด​จ้า</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>เล็งไปที่​อาคาร​หรือต้นไม้​ที่อยู่ไกล เคลื่อนที่ หยุดนิ่ง แล้วระบบ​จะถ่ายภาพ​โดยอัตโนมัติ​สูงสุด​แปดภาพ</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>เล็งไปที่​อาคาร​หรือต้นไม้ ใกล้​หรือไกล​ก็ได้ เคลื่อนที่ หยุดนิ่ง แล้วระบบ​จะถ่ายภาพ​โดยอัตโนมัติ​สูงสุด​แปดภาพ</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ It goes on by itself. The photos taken so far count.</source>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>พร้อม​ถ่ายภาพ
-เล็งไปที่​อาคาร​หรือต้นไม้​ที่อยู่ไกล ในแสงแดด​จ้า</translation>
+เล็งไปที่​อาคาร​หรือต้นไม้​ในแสงแดด​จ้า</translation>
     </message>
     <message>
         <source>How to move</source>

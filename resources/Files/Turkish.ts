@@ -77,10 +77,10 @@
         <translation>Nasıl hareket edilir</translation>
     </message>
     <message>
-        <source>Point at something far away.
-Buildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.</source>
-        <translation>Uzaktaki bir şeye doğrultun.
-Binalar ve ağaçlar uygundur. Çimen, gökyüzü ve çıplak duvarlar fazla basittir. Görüntüde yakın hiçbir şey olmamalıdır.</translation>
+        <source>Point at scenery with detail.
+Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
+        <translation>Ayrıntılı bir manzaraya doğrultun.
+Yakın veya uzak olsun, binalar ve ağaçlar uygundur. Çimen, gökyüzü ve çıplak duvarlar fazla basittir. En az iki adım uzakta durun.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -263,8 +263,8 @@ Yeniden deneyin. Binalar veya ağaçlar gibi ayrıntılı bir manzaraya doğrult
         <translation>Dışarıya, parlak güneş ışığına çıkın.</translation>
     </message>
     <message>
-        <source>Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Uzaktaki binalara veya ağaçlara doğrultun. Hareket ettirin, durun; en fazla sekiz fotoğraf kendiliğinden çekilir.</translation>
+        <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
+        <translation>Yakındaki veya uzaktaki binalara ya da ağaçlara doğrultun. Hareket ettirin, durun; en fazla sekiz fotoğraf kendiliğinden çekilir.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -447,9 +447,9 @@ It goes on by itself. The photos taken so far count.</source>
     <name>StartScreen</name>
     <message>
         <source>Ready to take photos.
-Point at buildings or trees far away, in bright sunlight.</source>
+Point at buildings or trees in bright sunlight.</source>
         <translation>Fotoğraf çekmeye hazır.
-Parlak güneş ışığında uzaktaki binalara veya ağaçlara doğrultun.</translation>
+Parlak güneş ışığında binalara veya ağaçlara doğrultun.</translation>
     </message>
     <message>
         <source>How to move</source>

@@ -56,7 +56,7 @@ Rectangle {
             Layout.fillHeight: true
             clip: true
             Slide {
-                text: qsTr("Point at something far away.\nBuildings and trees are good. Grass, sky and bare walls are too simple. Nothing near should be in the picture.")
+                text: qsTr("Point at scenery with detail.\nBuildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.")
                 Illustration { anchors.fill: parent; drawing: "scenery" }
             }
             Slide {

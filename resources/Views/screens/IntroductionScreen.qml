@@ -68,7 +68,7 @@ Screen {
         Step { drawing: "sun"; text: qsTr("Go outside into bright sunlight.") }
         Step {
             drawing: "photos"
-            text: qsTr("Point at buildings or trees far away. Move, pause, and up to eight photos are taken by themselves.")
+            text: qsTr("Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.")
         }
         Step { drawing: "align"; text: qsTr("Check the result with one finger, and store it in the camera.") }
         Item { Layout.fillHeight: true }

@@ -24,7 +24,7 @@ PairPage {
             Layout.fillHeight: true
             size: Theme.bodySize * 1.2
             text: screen.status.startText !== "" ? screen.status.startText
-                  : qsTr("Ready to take photos.\nPoint at buildings or trees far away, in bright sunlight.")
+                  : qsTr("Ready to take photos.\nPoint at buildings or trees in bright sunlight.")
         }
     }
     RowLayout {
