@@ -35,7 +35,7 @@
     </message>
     <message>
         <source>The color camera has turned by %1 since the stored calibration:</source>
-        <translation>La caméra couleur a tourné de %1 depuis l’étalonnage enregistré :</translation>
+        <translation>La caméra couleur a tourné de %1 depuis l’étalonnage enregistré&#xa0;:</translation>
     </message>
     <message>
         <source>to the right</source>
@@ -134,7 +134,7 @@ Allez à l’extérieur, dans un endroit clair et ensoleillé.</translation>
     <message>
         <source>It&apos;s bright enough here!
 Press continue.</source>
-        <translation>Il fait assez clair ici !
+        <translation>Il fait assez clair ici&#xa0;!
 Appuyez sur Continuer.</translation>
     </message>
     <message>
@@ -288,7 +288,7 @@ Réessayons. Visez un paysage varié, avec des bâtiments ou des arbres.</transl
     <message>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
-        <translation>Quitter sans enregistrer ?
+        <translation>Quitter sans enregistrer&#xa0;?
 Les photos et le résultat obtenu seront perdus. La caméra conserve son ancien étalonnage.</translation>
     </message>
     <message>
