@@ -111,6 +111,7 @@ FrameEntry frameEntry(const JsonKey& key, bool hasPlatform) {
     out.third = fileName(key["third"]);
     if (key.has("depth")) out.depth = fileName(key["depth"]);
     if (key.has("platform")) out.platform = fileName(key["platform"]);
+    if (key.has("right")) out.right = fileName(key["right"]);
     if (key.has("repeat")) out.repeat = static_cast<int>(key["repeat"].integer(1, kLargestRepeat));
     if (!out.platform.empty() && !hasPlatform) key["platform"].refuse("the session has no platform camera");
     return out;

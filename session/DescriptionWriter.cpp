@@ -64,6 +64,7 @@ QJsonObject frameEntry(const FrameEntry& frame) {
     QJsonObject out{{"infrared", text(frame.infrared)}, {"third", text(frame.third)}, {"repeat", frame.repeat}};
     if (!frame.depth.empty()) out.insert("depth", text(frame.depth));
     if (!frame.platform.empty()) out.insert("platform", text(frame.platform));
+    if (!frame.right.empty()) out.insert("right", text(frame.right));
     return out;
 }
 

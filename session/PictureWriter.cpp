@@ -39,6 +39,7 @@ bool writePictures(const std::string& folder, const FrameEntry& entry, const Fra
     if (!writeGreyPng(prefix + entry.infrared, pictures.infrared, why)) return false;
     if (!writeColourPng(prefix + entry.third, pictures.third, why)) return false;
     if (!entry.depth.empty() && !writeGreyPng(prefix + entry.depth, pictures.depth, why)) return false;
+    if (!entry.right.empty() && !writeGreyPng(prefix + entry.right, pictures.right, why)) return false;
     return entry.platform.empty() || writePlatform(prefix + entry.platform, pictures.platform, why);
 }
 

@@ -21,6 +21,7 @@ struct FrameFiles {
     PngExpectation infrared;
     PngExpectation third;
     std::optional<PngExpectation> depth;
+    std::optional<PngExpectation> right;
     std::optional<PngExpectation> platform;
     bool platformIsRaw;
 };
@@ -32,9 +33,13 @@ FrameFiles frameFiles(const std::string& folder, const SessionDescription& sessi
     };
     const FrameEntry& frame = session.frames[index];
     FrameFiles out{expect(frame.infrared, "infrared", PngKind::Grey16, session.infrared),
-                   expect(frame.third, "third", PngKind::Colour8, session.third), std::nullopt, std::nullopt,
+                   expect(frame.third, "third", PngKind::Colour8, session.third),
+                   std::nullopt,
+                   std::nullopt,
+                   std::nullopt,
                    isRaw(frame.platform)};
     if (!frame.depth.empty()) out.depth = expect(frame.depth, "depth", PngKind::Grey16, session.depth);
+    if (!frame.right.empty()) out.right = expect(frame.right, "right", PngKind::Grey16, session.infrared);
     if (!frame.platform.empty()) {
         const Intrinsics size{kPlatformWidth, kPlatformHeight};
         out.platform = expect(frame.platform, "platform", PngKind::Colour8, size);
@@ -90,6 +95,7 @@ bool readPlatform(const FrameFiles& files, std::vector<std::uint8_t>* out, std::
 bool checkFrame(const FrameFiles& files, std::string* why) {
     if (!checkPng(files.infrared, why) || !checkPng(files.third, why)) return false;
     if (files.depth && !checkPng(*files.depth, why)) return false;
+    if (files.right && !checkPng(*files.right, why)) return false;
     if (!files.platform) return true;
     return files.platformIsRaw ? checkRaw(*files.platform, why) : checkPng(*files.platform, why);
 }
@@ -105,6 +111,7 @@ bool readPictures(const std::string& folder, const SessionDescription& session, 
         return false;
     }
     if (files.depth && !readGreyPng(*files.depth, &read.depth, why)) return false;
+    if (files.right && !readInfrared(*files.right, &read.right, why)) return false;
     if (files.platform && !readPlatform(files, &read.platform, why)) return false;
     *out = std::move(read);
     return true;

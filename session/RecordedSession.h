@@ -51,13 +51,14 @@ struct PlatformCamera {
     Vector3 translation{};    ///< millimetres
 };
 
-/// File names relative to the session's folder. `depth` and `platform` are empty when the frame has none.
+/// File names relative to the session's folder. `depth`, `platform` and `right` are empty when the frame has none.
 struct FrameEntry {
     std::string infrared;
     std::string third;
     std::string depth;
     std::string platform;
-    int repeat = 1;  ///< grabs that deliver this frame, 1 to 1,000,000
+    int repeat = 1;          ///< grabs that deliver this frame, 1 to 1,000,000
+    std::string right = {};  ///< the second infrared imager's picture, of the size of `infrared`
 };
 
 /// The contents of session.json, version 1.
@@ -81,6 +82,7 @@ struct FramePictures {
     ImageFrame16 depth;                  ///< empty when the frame has none
     ImageFrame32 third;                  ///< raw module picture, *BGRA* in storage order, alpha 255
     std::vector<std::uint8_t> platform;  ///< NV12, 1280 x 720, unrectified; empty when the frame has none
+    ImageFrame16 right;                  ///< the second infrared imager's; empty when the frame has none
 };
 
 /// Reads and checks session.json, not the pictures.

@@ -8,7 +8,8 @@ namespace {
 constexpr std::size_t kMostBytes = std::size_t{256} << 20;
 
 std::size_t byteCount(const fieldcal::session::FramePictures& frame) {
-    return frame.infrared.byteCount() + frame.depth.byteCount() + frame.third.byteCount() + frame.platform.size();
+    return frame.infrared.byteCount() + frame.right.byteCount() + frame.depth.byteCount() + frame.third.byteCount() +
+           frame.platform.size();
 }
 
 }  // namespace

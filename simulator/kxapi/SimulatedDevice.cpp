@@ -179,17 +179,14 @@ const std::uint16_t* SimulatedDevice::depthImage() {
     return state_.frame()->depth.empty() ? noDepth_.data() : state_.frame()->depth.pixels();
 }
 
-const std::uint16_t* SimulatedDevice::infraredImage(const char* operation, bool enabled) {
-    if (!state_.enter(operation, Stage::opened) || !enabled || state_.frame() == nullptr) return nullptr;
+const std::uint16_t* SimulatedDevice::leftImage() {
+    if (!state_.enter("leftImage", Stage::opened) || !state_.leftEnabled || state_.frame() == nullptr) return nullptr;
     return state_.frame()->infrared.pixels();
 }
 
-const std::uint16_t* SimulatedDevice::leftImage() {
-    return infraredImage("leftImage", state_.leftEnabled);
-}
-
 const std::uint16_t* SimulatedDevice::rightImage() {
-    return infraredImage("rightImage", state_.rightEnabled);
+    if (!state_.enter("rightImage", Stage::opened) || !state_.rightEnabled || state_.frame() == nullptr) return nullptr;
+    return state_.frame()->right.empty() ? nullptr : state_.frame()->right.pixels();
 }
 
 std::int32_t SimulatedDevice::depthWidth() {

@@ -9,7 +9,7 @@
 namespace kxsim {
 
 /// The simulated module. Strict about order: open, init, modes and streams, capture, grab; anything out of turn fails
-/// with status 1. The right infrared picture is the left one again, and depth is 0 where the recording has none.
+/// with status 1. Where a recording has no right infrared picture there is none, and where it has no depth that is 0.
 /// Whatever size the depth stream is asked for, the recording's own sizes are served.
 class SimulatedDevice final : public KXDevice {
 public:
@@ -56,7 +56,6 @@ private:
     bool beginCapture();
     bool nextFrame(bool wait);
     bool setEnabled(const char* operation, bool* stream, bool on);
-    const std::uint16_t* infraredImage(const char* operation, bool enabled);
     void showToRearCamera() const;
 
     ModuleState state_;

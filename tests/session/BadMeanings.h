@@ -162,11 +162,14 @@ private:
             QString(
                 "nowhere.png|/etc/passwd|../s/b_third.png|sub/../../s/"
                 "b_third.png|C:\\b_third.png||.|session.json|a\nb.png|a_infrared.png|b_third.png|a_depth.png|a_"
-                "platform.nv12|grey8.png|colour16.png|large.png|clear.png|bright.png")
+                "platform.nv12|a_right.png|grey8.png|colour16.png|large.png|clear.png|bright.png")
                 .split('|');
         const QString& name = names[below(names.size())];
         const QString role = node.key.mid(node.key.lastIndexOf('.') + 1);
-        return changed(node.key, name, !name.contains('_' + role + '.') || name.contains('/') || name.contains('\\'));
+        const bool bothInfrared =
+            (role == "infrared" || role == "right") && (name == "a_infrared.png" || name == "a_right.png");
+        const bool fits = bothInfrared || name.contains('_' + role + '.');
+        return changed(node.key, name, !fits || name.contains('/') || name.contains('\\'));
     }
 
     ChangedMeaning otherRepeat() {

@@ -59,6 +59,8 @@ const BadText kBadTexts[] = {
     {"\"b_third.png\"", "\"..\\\\x.png\"", "frames[1].third", "not relative"},
     {"\"b_third.png\"", "\"a/../../x.png\"", "frames[1].third", "leaves the folder"},
     {"\"b_third.png\"", "\"..\"", "frames[1].third", "leaves the folder"},
+    {"\"a_right.png\"", "\"../a_right.png\"", "frames[0].right", "leaves the folder"},
+    {"\"a_right.png\"", "null", "frames[0].right", "a text expected"},
     {"\"repeat\": 26", "\"repeat\": 0", "frames[0].repeat", "0 is not within 1 to 1000000"},
     {"\"repeat\": 26", "\"repeat\": 1000001", "frames[0].repeat", "is not within"},
     {"\"platform\": {", "\"other\": {", "frames[0].platform", "the session has no platform camera"},
@@ -138,6 +140,10 @@ const BadPicture kBadPictures[] = {
     {"a_infrared.png", "frames[0].infrared", "value 1024 above 1023 at x 5, y 3", grey(6, 4, 1024)},
     {"a_infrared.png", "frames[0].infrared", "not a 16-bit grey picture", colour(6, 4, QImage::Format_Grayscale8)},
     {"a_infrared.png", "frames[0].infrared", "not a 16-bit grey picture", colour(6, 4, QImage::Format_RGB32)},
+    {"a_right.png", "frames[0].right", "the picture is 5 x 3, not 6 x 4", grey(5, 3, 0)},
+    {"a_right.png", "frames[0].right", "value 1024 above 1023 at x 5, y 3", grey(6, 4, 1024)},
+    {"a_right.png", "frames[0].right", "not a 16-bit grey picture", colour(6, 4, QImage::Format_Grayscale8)},
+    {"a_right.png", "frames[0].right", "truncated picture", {}, [](auto* bytes) { bytes->chop(1); }},
     {"a_depth.png", "frames[0].depth", "the picture is 6 x 4, not 5 x 3", grey(6, 4, 0)},
     {"b_third.png", "frames[1].third", "not an 8-bit RGB picture", colour(8, 6, QImage::Format_RGBX64)},
     {"b_third.png", "frames[1].third", "not an 8-bit RGB picture", colour(8, 6, QImage::Format_Indexed8)},
@@ -168,7 +174,7 @@ TEST_F(Refusal, BadPicturesAreNamedByFileKeyAndReason) {
 }
 
 TEST_F(Refusal, OnlyRegularFilesAreOpened) {
-    for (const char* file : {"session.json", "a_platform.nv12", "b_third.png", "a_infrared.png"}) {
+    for (const char* file : {"session.json", "a_platform.nv12", "b_third.png", "a_infrared.png", "a_right.png"}) {
         SCOPED_TRACE(file);
         const QByteArray whole = readFile(path(file));
         const QString name = QString::fromStdString(path(file));

@@ -33,6 +33,8 @@ TEST_F(RoundTrip, EveryKeyLandsInItsField) {
     EXPECT_THAT(session.platform->rectification, ElementsAre(0, -1, 0, 1, 0, 0, 0, 0, 1));
     EXPECT_EQ(session.frames[0].repeat, 26);
     EXPECT_EQ(session.frames[1].repeat, 1);
+    EXPECT_EQ(session.frames[0].right, "a_right.png");
+    EXPECT_EQ(session.frames[1].right, "");
     EXPECT_EQ(session.frames[1].depth, "");
     EXPECT_EQ(session.grabCount(), 27);
     EXPECT_TRUE(session.truthThird && !session.truthPlatform);
@@ -59,6 +61,7 @@ TEST_F(RoundTrip, NumbersKeepTheirLastBit) {
     EXPECT_EQ(read.truthPlatform, session.truthPlatform);
     EXPECT_EQ(read.truthThird, session.truthThird);
     EXPECT_EQ(read.frames[0].platform, "a_platform.nv12");
+    EXPECT_EQ(read.frames[0].right, "a_right.png");
     EXPECT_EQ(read.frames[0].repeat, 26);
 }
 
@@ -71,6 +74,7 @@ TEST_F(RoundTrip, PicturesAreBitExact) {
         EXPECT_EQ(bytesOf(read.infrared), bytesOf(written.infrared));
         EXPECT_EQ(bytesOf(read.third), bytesOf(written.third));
         EXPECT_EQ(bytesOf(read.depth), bytesOf(written.depth));
+        EXPECT_EQ(bytesOf(read.right), bytesOf(written.right));
         EXPECT_EQ(read.platform, written.platform);
     }
 }

@@ -25,7 +25,7 @@ inline const std::string kSessionText = R"({ "version": 1,
    "rectification": [0, -1, 0, 1, 0, 0, 0, 0, 1],
    "rotation": [1, 0, 0, 0, 1, 0, 0, 0, 1], "translation": [-60, 0.1, 0.9]},
  "frames": [{"infrared": "a_infrared.png", "third": "a_third.png", "depth": "a_depth.png",
-             "platform": "a_platform.nv12", "repeat": 26},
+             "platform": "a_platform.nv12", "right": "a_right.png", "repeat": 26},
             {"infrared": "b_infrared.png", "third": "b_third.png"}],
  "truth": {"third": [1, 0, 0, 0, 0, -1, 0, 1, 0]} })";
 
@@ -41,8 +41,9 @@ inline QByteArray readFile(const std::string& path) {
     return file.readAll();
 }
 
-/// Pictures that fit `session`, every pixel different from its neighbours.
-inline FramePictures testPictures(const SessionDescription& session, bool depthAndPlatform) {
+/// Pictures that fit `session`, every pixel different from its neighbours. `complete`: with depth, the right infrared
+/// and the platform camera's picture.
+inline FramePictures testPictures(const SessionDescription& session, bool complete) {
     FramePictures out;
     const auto size = [](ImageFrame* frame, const Intrinsics& camera) {
         frame->resize(static_cast<std::uint32_t>(camera.width), static_cast<std::uint32_t>(camera.height));
@@ -53,7 +54,10 @@ inline FramePictures testPictures(const SessionDescription& session, bool depthA
     size(&out.third, session.third);
     for (std::size_t i = 0; i < out.third.byteCount(); ++i)
         out.third.bytes()[i] = i % 4 == 3 ? 255 : (i * 53) & 255;
-    if (!depthAndPlatform) return out;
+    if (!complete) return out;
+    size(&out.right, session.infrared);
+    for (std::size_t i = 0; i < out.right.byteCount() / 2; ++i)
+        out.right.pixels()[i] = (1000 - 41 * i) & 1023;
     size(&out.depth, session.depth);
     for (std::size_t i = 0; i < out.depth.byteCount() / 2; ++i)
         out.depth.pixels()[i] = 65535 - 4001 * i;

@@ -46,6 +46,8 @@ private:
         for (int i = 0; i < kGrabs; ++i) {
             if (!device.grab(true)) return false;
             EXPECT_LE(device.leftImage()[device.lrWidth() * device.lrHeight() - 1], 1023);
+            const std::uint16_t* right = device.rightImage();
+            EXPECT_TRUE(right == nullptr || right[device.lrWidth() * device.lrHeight() - 1] <= 1023);
             const std::uint16_t depth = device.depthImage()[device.depthWidth() * device.depthHeight() - 1];
             EXPECT_TRUE(depth == 0 || depth == 9521) << depth;
             EXPECT_EQ(third.thirdImage()[third.thirdWidth() * third.thirdHeight() * 4 - 1], 255);

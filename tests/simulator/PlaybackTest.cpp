@@ -14,10 +14,11 @@ using ::testing::HasSubstr;
 class Playback : public ModuleTest {
 protected:
     static bool holds(const void* delivered, const fieldcal::ImageFrame& expected) {
-        return delivered != nullptr && std::memcmp(delivered, expected.bytes(), expected.byteCount()) == 0;
+        if (delivered == nullptr || expected.empty()) return delivered == nullptr && expected.empty();
+        return std::memcmp(delivered, expected.bytes(), expected.byteCount()) == 0;
     }
     static bool delivers(KXDevice* device, const FramePictures& expected) {
-        return holds(device->leftImage(), expected.infrared) && holds(device->rightImage(), expected.infrared) &&
+        return holds(device->leftImage(), expected.infrared) && holds(device->rightImage(), expected.right) &&
                holds(device->depthImage(), expected.depth) &&
                holds(device->thirdCamera()->thirdImage(), expected.third);
     }
@@ -40,6 +41,8 @@ TEST_F(Playback, IsBitExactWithRepeatsAndStartsAgain) {
         }
         ASSERT_TRUE(device->grab(false));
         ASSERT_TRUE(delivers(device.get(), second)) << round;
+        EXPECT_TRUE(device->rightEnabled()) << "there is a stream, only without a picture of this frame";
+        EXPECT_EQ(device->lastStatus(), 0);
     }
 }
 
