@@ -31,12 +31,12 @@ session::Intrinsics pinhole(const CameraModel& model) {
 }
 
 /// The tutorial's cameras as a rig; a colour camera's principal point is told as it is once the picture is scaled.
-session::SessionDescription tutorialRig() {
+synthesis::Rig tutorialRig() {
     TutorialPictures sizes;
     sizes.depth.resize(628, 468);
     sizes.colour.resize(640, 480);
     const OverlayCalibration cameras = tutorialCalibration(sizes);
-    session::SessionDescription rig;
+    synthesis::Rig rig;
     rig.infrared = rig.depth = pinhole(cameras.depth);
     static_cast<session::Intrinsics&>(rig.third) = pinhole(cameras.colour);
     rig.third.cx += 0.5 - 0.5 * rig.third.fx / rig.infrared.fx;

@@ -27,8 +27,8 @@ double colourLight(double light) {
 
 }  // namespace
 
-Footage::Footage(const std::string& world, std::uint64_t seed, const session::SessionDescription& rig,
-                 const LightCourse& light, bool inTime)
+Footage::Footage(const std::string& world, std::uint64_t seed, const synthesis::Rig& rig, const LightCourse& light,
+                 bool inTime)
     : seed_(seed), light_(light), turner_(rig), maker_(world, seed, rig, inTime) {}
 
 bool Footage::Circumstances::operator==(const Circumstances& other) const {
@@ -87,6 +87,7 @@ const session::FramePictures* Footage::resting() {
     const double frame = static_cast<double>(phase), lag = colourLagSeconds * framesPerSecond;
     const Attitude attitude{trembled(frame), trembled(frame + lag)};
     const Seeing seeing{[&](world::View* view) { turner_.trembledInfrared(seen, attitude, view); },
+                        [&](world::View* view) { turner_.trembledRight(seen, attitude, view); },
                         [&](world::View* view) { turner_.trembledThird(seen, attitude, view); },
                         [&](world::View* view) { turner_.trembledPlatform(seen, attitude, view); }};
     const std::uint64_t noise = synthesis::mixBits(seed_) + static_cast<std::uint64_t>(rest_) * tremorFrames + phase;
@@ -108,6 +109,7 @@ const session::FramePictures* Footage::turning() {
                                       {attitude(0), attitude(colourLagSeconds)},
                                       motionDeg(attitude(0), attitude(exposureSeconds))};
     const Seeing seeing{[&](world::View* view) { turner_.passingInfrared(passage, view); },
+                        [&](world::View* view) { turner_.passingRight(passage, view); },
                         [&](world::View* view) { turner_.passingThird(passage, view); },
                         [&](world::View* view) { turner_.passingPlatform(passage, view); }};
     moving_ = expose(seeing, firstHalf ? here_->settings : there_->settings, synthesis::mixBits(seed_ ^ frame_));
@@ -137,10 +139,15 @@ session::FramePictures Footage::expose(const Seeing& seeing, const synthesis::St
         seeing.third(&view);
         pictures.third = thirdFrame(view, colour, noise);
     });
+    auto rightSeen = std::async(std::launch::async, [&] { seeing.right(&view); });
     seeing.infrared(&view);
+    rightSeen.get();
     if (emitter_) addEmitterDots(stereo.light, &view);
+    auto rightDone =
+        std::async(std::launch::async, [&] { pictures.right = rightInfraredFrame(view, infrared, noise); });
     pictures.infrared = infraredFrame(view, infrared, noise);
     pictures.depth = depthFrame(view, stereo, noise);
+    rightDone.get();
     thirdDone.get();
     if (platformDone.valid()) platformDone.get();
     return pictures;

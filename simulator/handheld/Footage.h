@@ -15,8 +15,8 @@ class Footage {
 public:
     /// `world` is one of `world::worldNames()`. `rig` must carry the true rotations. `inTime`: frames are asked for in
     /// their time, and views are to be ready by then; else somebody waits for every view.
-    Footage(const std::string& world, std::uint64_t seed, const session::SessionDescription& rig,
-            const LightCourse& light, bool inTime);
+    Footage(const std::string& world, std::uint64_t seed, const synthesis::Rig& rig, const LightCourse& light,
+            bool inTime);
 
     /// From the next frame on. With the emitter on its dots are seen, and the hand stays where it is, as a user does
     /// who studies the overlay.
@@ -45,9 +45,10 @@ private:
     bool mayLeave(std::chrono::milliseconds patience);
     const session::FramePictures* resting();
     const session::FramePictures* turning();
-    /// How the parts of a view come to be seen: infrared with depth, the third and the rear camera's.
+    /// How the parts of a view come to be seen: infrared with depth, the right imager's, the third and the rear
+    /// camera's.
     struct Seeing {
-        std::function<void(world::View*)> infrared, third, platform;
+        std::function<void(world::View*)> infrared, right, third, platform;
     };
     /// The rear camera shows every other frame only.
     bool platformShows() const { return withPlatform_ && frame_ % 2 == 1; }

@@ -24,14 +24,12 @@ session::FramePictures takeStill(const RestingView& seen, std::uint64_t noise) {
     const world::View& view = seen.moments.front().view;
     world::StereoModel stereo;
     stereo.darkness = seen.settings.darkness;
-    return {infraredFrame(view, seen.settings, noise),
-            depthFrame(view, stereo, noise),
-            thirdFrame(view, seen.settings, noise),
-            platformFrame(view, seen.settings, noise),
-            {}};
+    return {infraredFrame(view, seen.settings, noise), depthFrame(view, stereo, noise),
+            thirdFrame(view, seen.settings, noise), platformFrame(view, seen.settings, noise),
+            rightInfraredFrame(view, seen.settings, noise)};
 }
 
-Studio::Studio(const std::string& world, std::uint64_t seed, const session::SessionDescription& rig)
+Studio::Studio(const std::string& world, std::uint64_t seed, const synthesis::Rig& rig)
     : seed_(seed),
       stage_(world::buildWorld(world, seed)),
       cameras_(rig),

@@ -25,7 +25,7 @@ session::FramePictures takeStill(const RestingView& seen, std::uint64_t noise);
 class Studio {
 public:
     /// Builds the world, one of `world::worldNames()`; takes a second or so. `rig` must carry the true rotations.
-    Studio(const std::string& world, std::uint64_t seed, const session::SessionDescription& rig);
+    Studio(const std::string& world, std::uint64_t seed, const synthesis::Rig& rig);
 
     /// Views are counted from 0. All processors work on one. Once `interruption` (may be null) has ended, it returns
     /// soon, and the view is worth nothing.

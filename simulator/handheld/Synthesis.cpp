@@ -49,6 +49,7 @@ session::FrameEntry frameEntry(int number, const SynthesisOptions& options) {
     entry.infrared = std::string(prefix) + "infrared.png";
     entry.third = std::string(prefix) + "third.png";
     entry.depth = std::string(prefix) + "depth.png";
+    entry.right = std::string(prefix) + "right.png";
     if (options.platform) entry.platform = std::string(prefix) + "platform.png";
     entry.repeat = options.repeat;
     return entry;

@@ -61,8 +61,9 @@ cv::Mat_<float> alongTurnedAxis(const cv::Mat_<float>& depth, const Lens& lens, 
 
 }  // namespace
 
-ViewTurner::ViewTurner(const session::SessionDescription& rig)
+ViewTurner::ViewTurner(const synthesis::Rig& rig)
     : infrared_{Lens::ofInfrared(rig.infrared), cv::Matx33d::eye()},
+      right_{Lens::ofInfrared(synthesis::rightIntrinsics(rig.infrared, rig.right)), cv::Matx33d::eye()},
       depth_{Lens::ofInfrared(rig.depth), cv::Matx33d::eye()},
       third_{Lens::ofThird(rig), rotationOf(rig.truthThird)} {
     if (rig.platform) platform_ = Eye{Lens::ofPlatform(rig), rotationOf(rig.truthPlatform)};
@@ -79,10 +80,17 @@ cv::Mat_<cv::Vec2f> ViewTurner::Eye::places(const SeenView& seen, const cv::Matx
 void ViewTurner::trembledInfrared(const SeenView& seen, const Attitude& now, world::View* view) const {
     const world::View& from = seen.view;
     view->depthCamera = from.depthCamera;
+    view->rightImager = from.rightImager;
     paintLike(from.infrared, infrared_.places(seen, now.infrared), cv::INTER_CUBIC, &view->infrared);
     const Map places = depth_.places(seen, now.infrared);
     paintLike(from.depth, places, cv::INTER_NEAREST, &view->depth);
     paintLike(from.unmatched, places, cv::INTER_NEAREST, &view->unmatched);
+}
+
+void ViewTurner::trembledRight(const SeenView& seen, const Attitude& now, world::View* view) const {
+    const Map places = right_.places(seen, now.infrared);
+    paintLike(seen.view.right, places, cv::INTER_CUBIC, &view->right);
+    paintLike(seen.view.rightDepth, places, cv::INTER_NEAREST, &view->rightDepth);
 }
 
 void ViewTurner::trembledThird(const SeenView& seen, const Attitude& now, world::View* view) const {
@@ -97,6 +105,7 @@ void ViewTurner::trembledPlatform(const SeenView& seen, const Attitude& now, wor
 void ViewTurner::passingInfrared(const Passage& passage, world::View* view) const {
     const world::View &near = passage.nearer.view, &far = passage.other.view;
     view->depthCamera = near.depthCamera;
+    view->rightImager = near.rightImager;
     const cv::Matx33d& now = passage.now.infrared;
     paintPassage(passage, infrared_, now, {{near.infrared, far.infrared, &view->infrared}}, cv::INTER_LINEAR);
     smear(view->infrared, infrared_, passage.motionDeg);
@@ -107,6 +116,14 @@ void ViewTurner::passingInfrared(const Passage& passage, world::View* view) cons
                  {{turned(passage.nearer), turned(passage.other), &view->depth},
                   {near.unmatched, far.unmatched, &view->unmatched}},
                  cv::INTER_NEAREST);
+}
+
+void ViewTurner::passingRight(const Passage& passage, world::View* view) const {
+    const world::View &near = passage.nearer.view, &far = passage.other.view;
+    const cv::Matx33d& now = passage.now.infrared;
+    paintPassage(passage, right_, now, {{near.right, far.right, &view->right}}, cv::INTER_LINEAR);
+    smear(view->right, right_, passage.motionDeg);
+    paintPassage(passage, right_, now, {{near.rightDepth, far.rightDepth, &view->rightDepth}}, cv::INTER_NEAREST);
 }
 
 void ViewTurner::passingThird(const Passage& passage, world::View* view) const {

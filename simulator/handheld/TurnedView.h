@@ -24,13 +24,14 @@ struct Attitude {
 class ViewTurner {
 public:
     /// `rig` must carry the true rotations of its cameras.
-    explicit ViewTurner(const session::SessionDescription& rig);
+    explicit ViewTurner(const synthesis::Rig& rig);
 
-    // Infrared with depth, the third and the platform camera's picture are seen apart: three threads may do it in the
-    // same view. Where a view has no platform picture, none is made.
+    // Infrared with depth, the right imager's, the third and the platform camera's picture are seen apart: four threads
+    // may do it in the same view. Where a view has no platform picture, none is made.
 
     /// What `seen` shows from an attitude that differs by a tremor, as sharp as it was.
     void trembledInfrared(const SeenView& seen, const Attitude& now, world::View* view) const;
+    void trembledRight(const SeenView& seen, const Attitude& now, world::View* view) const;
     void trembledThird(const SeenView& seen, const Attitude& now, world::View* view) const;
     void trembledPlatform(const SeenView& seen, const Attitude& now, world::View* view) const;
 
@@ -42,6 +43,7 @@ public:
         cv::Point2d motionDeg;
     };
     void passingInfrared(const Passage& passage, world::View* view) const;
+    void passingRight(const Passage& passage, world::View* view) const;
     void passingThird(const Passage& passage, world::View* view) const;
     /// The picture comes in half its size.
     void passingPlatform(const Passage& passage, world::View* view) const;
@@ -63,7 +65,7 @@ private:
                              std::initializer_list<Layer> layers, int interpolation, int step = 1);
     static void smear(cv::Mat picture, const Eye& eye, cv::Point2d motionDeg);
 
-    Eye infrared_, depth_, third_;
+    Eye infrared_, right_, depth_, third_;
     std::optional<Eye> platform_;
 };
 

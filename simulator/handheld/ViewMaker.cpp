@@ -16,7 +16,7 @@ void yieldToOthers() {
 
 }  // namespace
 
-ViewMaker::ViewMaker(std::string world, std::uint64_t seed, const session::SessionDescription& rig, bool ahead)
+ViewMaker::ViewMaker(std::string world, std::uint64_t seed, const synthesis::Rig& rig, bool ahead)
     : world_(std::move(world)), seed_(seed), rig_(rig), ahead_(ahead), thread_([this] { work(); }) {}
 
 ViewMaker::~ViewMaker() {

@@ -17,7 +17,7 @@ namespace fieldcal::handheld {
 class ViewMaker {
 public:
     /// `ahead`: views are made while others are shown, and whoever shows them comes first.
-    ViewMaker(std::string world, std::uint64_t seed, const session::SessionDescription& rig, bool ahead);
+    ViewMaker(std::string world, std::uint64_t seed, const synthesis::Rig& rig, bool ahead);
     ~ViewMaker();
     ViewMaker(const ViewMaker&) = delete;
     ViewMaker& operator=(const ViewMaker&) = delete;
@@ -40,7 +40,7 @@ private:
 
     const std::string world_;
     const std::uint64_t seed_;
-    const session::SessionDescription rig_;
+    const synthesis::Rig rig_;
     const bool ahead_;
 
     std::mutex mutex_;

@@ -22,7 +22,7 @@ constexpr std::chrono::milliseconds kPatience{8000};
 /// pay.
 class WorldSource final : public FrameSource {
 public:
-    WorldSource(const Settings& settings, SessionDescription rig, const LightCourse& light)
+    WorldSource(const Settings& settings, fieldcal::synthesis::Rig rig, const LightCourse& light)
         : rig_(std::move(rig)),
           description_(rig_),
           waits_(settings.speed == 0),
@@ -51,7 +51,8 @@ public:
     void setPlatformWanted(bool wanted) override { platformWanted_ = wanted && hasRearCamera_; }
 
 private:
-    SessionDescription rig_, description_;
+    fieldcal::synthesis::Rig rig_;
+    SessionDescription description_;
     bool waits_, hasRearCamera_;
     std::function<std::unique_ptr<Footage>()> open_;
     std::unique_ptr<Footage> footage_;
@@ -79,8 +80,7 @@ std::unique_ptr<FrameSource> openWorld(const Settings& settings, std::string* wh
         isOneOf(LightCourse::names(), "KXSIM_LIGHT", settings.light, why);
         return nullptr;
     }
-    const SessionDescription rig =
-        fieldcal::synthesis::drawRig(settings.seed, {true, settings.drift, settings.platformDrift});
+    const auto rig = fieldcal::synthesis::drawRig(settings.seed, {true, settings.drift, settings.platformDrift});
     return std::make_unique<WorldSource>(settings, rig, light);
 }
 

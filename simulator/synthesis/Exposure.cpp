@@ -110,8 +110,13 @@ cv::Mat_<cv::Vec3f> colourBands(const cv::Mat_<cv::Vec4f>& picture) {
 
 ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const InfraredSensor& sensor, double darkness,
                             Random& random) {
+    return exposeInfrared(picture, picture, sensor, darkness, random);
+}
+
+ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const cv::Mat_<float>& metered,
+                            const InfraredSensor& sensor, double darkness, Random& random) {
     NormalTable noise(random);
-    const float mean = meanLight(picture, [](float v) { return v; });
+    const float mean = meanLight(metered, [](float v) { return v; });
     const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);
     const auto perStep = static_cast<float>(1 / sensor.electronsPerStep);
     const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);

@@ -33,6 +33,10 @@ cv::Mat_<cv::Vec3f> colourBands(const cv::Mat_<cv::Vec4f>& picture);
 ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const InfraredSensor& sensor, double darkness,
                             Random& random);
 
+/// The same for a sensor whose exposure follows the light of another picture, `metered`.
+ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const cv::Mat_<float>& metered,
+                            const InfraredSensor& sensor, double darkness, Random& random);
+
 /// Eight bits with gamma, BGRA in storage order, alpha 255. `picture`: linear red, green and blue.
 ImageFrame32 exposeColour(const cv::Mat_<cv::Vec3f>& picture, const ColourSensor& sensor, double darkness,
                           Random& random);

@@ -62,7 +62,7 @@ session::PlatformCamera drawPlatform(Random& random) {
     return camera;
 }
 
-void addPlatform(std::uint64_t seed, const RigWishes& wishes, session::SessionDescription& rig) {
+void addPlatform(std::uint64_t seed, const RigWishes& wishes, Rig& rig) {
     Random random(seed, "platform camera");
     auto camera = drawPlatform(random);
     const Angles factory = drawFactoryAngles(random);
@@ -73,9 +73,30 @@ void addPlatform(std::uint64_t seed, const RigWishes& wishes, session::SessionDe
 
 }  // namespace
 
-session::SessionDescription drawRig(std::uint64_t seed, const RigWishes& wishes) {
+RightImager drawRightImager(std::uint64_t seed, const RigWishes& wishes) {
+    Random random(seed, "right imager");
+    RightImager imager;
+    imager.gain = random.uniform(0.95, 1.05);
+    imager.rowOffsetPx = random.uniform(-0.2, 0.2);
+    imager.columnOffsetPx = random.uniform(-0.05, 0.05);
+    imager.isApart = wishes.baselines;
+    if (!wishes.misalignmentPx) return imager;
+    imager.columnOffsetPx = -*wishes.misalignmentPx;
+    imager.deceivesDepth = true;
+    return imager;
+}
+
+session::Intrinsics rightIntrinsics(const session::Intrinsics& left, const RightImager& right) {
+    session::Intrinsics k = left;
+    k.cx += right.columnOffsetPx;
+    k.cy += right.rowOffsetPx;
+    return k;
+}
+
+Rig drawRig(std::uint64_t seed, const RigWishes& wishes) {
     Random random(seed, "cameras");
-    session::SessionDescription rig;
+    Rig rig;
+    rig.right = drawRightImager(seed, wishes);
     rig.module.serial = 700000U + static_cast<std::uint32_t>(seed % 100000U);
     rig.module.firmware = "1.27.11";
     rig.module.software = "2.2.0";

@@ -18,12 +18,17 @@ bool isSame(const session::Intrinsics& a, const session::Intrinsics& b) {
 
 }  // namespace
 
-Cameras::Cameras(const session::SessionDescription& rig, const Sampling& sampling)
+Cameras::Cameras(const synthesis::Rig& rig, const Sampling& sampling)
     : rig_(rig),
       infrared_(synthesis::infraredRays(rig.infrared, sampling.infrared)),
+      right_(synthesis::infraredRays(synthesis::rightIntrinsics(rig.infrared, rig.right), sampling.infrared)),
       third_(synthesis::colourRays(rig.third, rig.infrared, sampling.third)) {
     if (!isSame(rig.depth, rig.infrared)) depth_ = synthesis::infraredRays(rig.depth, 1);
     if (rig.platform) platform_ = synthesis::platformRays(*rig.platform, rig.infrared, sampling.platform);
+}
+
+Pose Cameras::rightPose(const Pose& depth) const {
+    return colourPose(depth, cv::Matx33d::eye(), {rig_.right.isApart ? -stereoBaseline : 0, 0, 0});
 }
 
 Pose Cameras::thirdPose(const Pose& depth) const {
@@ -48,6 +53,12 @@ View Cameras::see(const World& world, const Moment& infraredAndDepth, const Mome
         seeDepth(world, infrared_, shot, infrared, rig_.infrared, &view);
     else
         seeDepth(world, depth_, shot, takePicture(world, depth_, shot), rig_.depth, &view);
+    Shot rightShot = shot;
+    rightShot.pose = rightPose(shot.pose);
+    const Picture right = takePicture(world, right_, rightShot);
+    view.right = synthesis::infraredBand(right.light);
+    view.rightDepth = right.depth;
+    view.rightImager = rig_.right;
     view.third = colourSeen(third_, thirdPose(colour.pose), synthesis::thirdLens);
     if (withPlatform && rig_.platform)
         view.platform = colourSeen(platform_, platformPose(colour.pose), synthesis::platformLens);
@@ -59,6 +70,7 @@ session::FramePictures Cameras::take(const World& world, const Moment& moment, c
     const View view = see(world, moment, moment, true);
     session::FramePictures pictures;
     pictures.infrared = infraredFrame(view, settings, noiseSeed);
+    pictures.right = rightInfraredFrame(view, settings, noiseSeed);
     pictures.third = thirdFrame(view, settings, noiseSeed);
     pictures.platform = platformFrame(view, settings, noiseSeed);
     StereoModel depth = stereo;

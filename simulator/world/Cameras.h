@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/RecordedSession.h"
+#include "simulator/synthesis/Rig.h"
 #include "simulator/world/Interruption.h"
 #include "simulator/world/Sensors.h"
 
@@ -15,10 +15,10 @@ struct Sampling {
 class Cameras {
 public:
     /// `rig` must carry the true rotations of its cameras.
-    explicit Cameras(const session::SessionDescription& rig, const Sampling& sampling = {});
+    explicit Cameras(const synthesis::Rig& rig, const Sampling& sampling = {});
 
-    /// What stands before the lenses. The infrared camera, which is the depth camera, has the pose of
-    /// `infraredAndDepth` when infrared is exposed, and that of `colour` when the colour cameras are.
+    /// What stands before the lenses. The left infrared camera, which is the depth camera, has the pose of
+    /// `infraredAndDepth` when infrared is exposed on both imagers, and that of `colour` when the colour cameras are.
     /// `withPlatform` means nothing on a rig without a platform camera. Once `interruption` (may be null) has ended,
     /// it returns soon, and the view is worth nothing. Equal arguments, equal pictures on the same
     /// kind of processor.
@@ -29,13 +29,14 @@ public:
     session::FramePictures take(const World& world, const Moment& moment, const synthesis::StillSettings& settings,
                                 const StereoModel& stereo, std::uint64_t noiseSeed) const;
 
+    Pose rightPose(const Pose& depth) const;
     Pose thirdPose(const Pose& depth) const;
     /// Only with a platform camera.
     Pose platformPose(const Pose& depth) const;
 
 private:
-    session::SessionDescription rig_;
-    synthesis::RayGrid infrared_, third_, platform_;
+    synthesis::Rig rig_;
+    synthesis::RayGrid infrared_, right_, third_, platform_;
     synthesis::RayGrid depth_;  // empty when depth has the pixels of infrared
 };
 

@@ -16,9 +16,10 @@ constexpr double slantLimit = 0.12;
 /// Metres beyond which nobody asks for depth; a little more than the module delivers, since noise brings some back.
 constexpr float farthestOfUse = 20;
 
-/// What the stereo of the module makes of an exact depth in metres; millimetres, 0 when nothing is left.
-std::uint16_t measured(double depth, double focalPx, const StereoModel& model, double noisePx) {
-    const double disparity = focalPx * stereoBaseline / depth + noisePx;
+/// What the stereo of the module makes of an exact depth in metres; millimetres, 0 when nothing is left. `errorPx`: of
+/// the disparity.
+std::uint16_t measured(double depth, double focalPx, const StereoModel& model, double errorPx) {
+    const double disparity = focalPx * stereoBaseline / depth + errorPx;
     const double stepped = std::round(disparity / model.stepPx) * model.stepPx;
     if (stepped <= 0) return 0;
     const double found = focalPx * stereoBaseline / stepped;
@@ -102,6 +103,7 @@ void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& sh
 ImageFrame16 measureDepth(const View& view, const StereoModel& model, synthesis::Random& random) {
     constexpr double plenty = 2;  // times the texture that is needed
     const cv::Mat_<float> texture = textureOf(view, model.darkness);
+    const double shiftPx = view.rightImager.deceivesDepth ? -view.rightImager.columnOffsetPx : 0;
     synthesis::NormalTable normal(random);
     ImageFrame16 frame;
     frame.resize(static_cast<std::uint32_t>(view.depth.cols), static_cast<std::uint32_t>(view.depth.rows));
@@ -114,7 +116,7 @@ ImageFrame16 measureDepth(const View& view, const StereoModel& model, synthesis:
             *out = 0;
             if (view.unmatched(y, x) != 0 || seen < 1) continue;
             const double noisePx = noise * model.noisePx * std::clamp(plenty / seen, 1.0, 3.0);
-            *out = measured(z, view.depthCamera.fx, model, noisePx);
+            *out = measured(z, view.depthCamera.fx, model, noisePx + shiftPx);
         }
     return frame;
 }

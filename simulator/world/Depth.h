@@ -24,7 +24,8 @@ struct StereoModel {
 void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& shot, const Picture& picture,
               const session::Intrinsics& camera, View* view);
 
-/// Depth in millimetres as the module delivers it, 0 for none.
+/// Depth in millimetres as the module delivers it, 0 for none. The module calculates it from both infrared pictures: a
+/// right imager that deceives it moves every disparity.
 ImageFrame16 measureDepth(const View& view, const StereoModel& model, synthesis::Random& random);
 
 }  // namespace fieldcal::world

@@ -1,6 +1,7 @@
 #include "simulator/world/Emitter.h"
 
 #include "simulator/synthesis/Noise.h"
+#include "simulator/world/Depth.h"
 
 #include <opencv2/imgproc.hpp>
 
@@ -10,7 +11,7 @@ namespace fieldcal::world {
 
 namespace {
 
-constexpr float projectorX = 0.028F;            // metres to the right of the infrared camera
+constexpr float projectorX = 0.028F;            // metres to the right of the left imager
 constexpr float pitch = 0.014F, dot = 0.0017F;  // radians about: between dots, and a dot's spread
 constexpr float power = 0.12F;                  // of a dot on white at 1 m, sunlit white being 1
 constexpr float farthest = 8;
@@ -29,23 +30,31 @@ float pattern(float u, float v) {
     return light;
 }
 
+/// An imager with intrinsics `k`, the projector so far to its right.
+void addDots(double light, const session::Intrinsics& k, float projector, const cv::Mat_<float>& depth,
+             cv::Mat_<float>& picture) {
+    if (picture.empty() || picture.size() != depth.size()) return;
+    cv::Mat_<float> around;  // how bright a surface is tells roughly how much it throws back
+    cv::blur(picture, around, {15, 15});
+    forEachRow(depth.rows, [&](int y) {
+        for (int x = 0; x < depth.cols; ++x) {
+            const float z = depth(y, x);
+            if (z <= 0 || z > farthest) continue;
+            const float u = static_cast<float>((x - k.cx) / k.fx) - projector / z;
+            const float reflectance = std::min(0.9F, 0.2F + 0.7F * around(y, x));
+            picture(y, x) += pattern(u, static_cast<float>((y - k.cy) / k.fy)) * reflectance * power /
+                             (z * z * static_cast<float>(light));
+        }
+    });
+}
+
 }  // namespace
 
 void addEmitterDots(double light, View* view) {
-    if (view->infrared.size() != view->depth.size()) return;
-    const auto& k = view->depthCamera;
-    cv::Mat_<float> around;  // how bright a surface is tells roughly how much it throws back
-    cv::blur(view->infrared, around, {15, 15});
-    forEachRow(view->depth.rows, [&](int y) {
-        for (int x = 0; x < view->depth.cols; ++x) {
-            const float z = view->depth(y, x);
-            if (z <= 0 || z > farthest) continue;
-            const float u = static_cast<float>((x - k.cx) / k.fx) - projectorX / z;
-            const float reflectance = std::min(0.9F, 0.2F + 0.7F * around(y, x));
-            view->infrared(y, x) += pattern(u, static_cast<float>((y - k.cy) / k.fy)) * reflectance * power /
-                                    (z * z * static_cast<float>(light));
-        }
-    });
+    addDots(light, view->depthCamera, projectorX, view->depth, view->infrared);
+    const auto apart = static_cast<float>(view->rightImager.isApart ? stereoBaseline : 0);
+    addDots(light, synthesis::rightIntrinsics(view->depthCamera, view->rightImager), projectorX - apart,
+            view->rightDepth, view->right);
 }
 
 }  // namespace fieldcal::world

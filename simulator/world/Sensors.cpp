@@ -28,6 +28,13 @@ ImageFrame16 infraredFrame(const View& view, const synthesis::StillSettings& set
     return exposeInfrared(view.infrared, settings.infrared, settings.darkness, random);
 }
 
+ImageFrame16 rightInfraredFrame(const View& view, const synthesis::StillSettings& settings, std::uint64_t noiseSeed) {
+    Random random(noiseSeed, "right infrared noise");
+    synthesis::InfraredSensor sensor = settings.infrared;
+    sensor.meanLevel *= view.rightImager.gain;
+    return exposeInfrared(view.right, view.infrared, sensor, settings.darkness, random);
+}
+
 ImageFrame32 thirdFrame(const View& view, const synthesis::StillSettings& settings, std::uint64_t noiseSeed) {
     Random random(noiseSeed, "third noise");
     return exposeColour(view.third, settings.colour, settings.darkness, random);

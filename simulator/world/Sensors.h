@@ -9,6 +9,9 @@ namespace fieldcal::world {
 /// Ten bits a pixel.
 ImageFrame16 infraredFrame(const View& view, const synthesis::StillSettings& settings, std::uint64_t noiseSeed);
 
+/// The right imager's, at the exposure of the left one.
+ImageFrame16 rightInfraredFrame(const View& view, const synthesis::StillSettings& settings, std::uint64_t noiseSeed);
+
 /// BGRA, alpha 255.
 ImageFrame32 thirdFrame(const View& view, const synthesis::StillSettings& settings, std::uint64_t noiseSeed);
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/RecordedSession.h"
+#include "simulator/synthesis/Rig.h"
 #include "simulator/world/Picture.h"
 
 namespace fieldcal::world {
@@ -20,6 +20,9 @@ struct View {
     /// 255 where stereo finds nothing in any light: hidden from the second infrared camera, too slanted, or a mirror.
     cv::Mat_<std::uint8_t> unmatched;
     session::Intrinsics depthCamera;
+    cv::Mat_<float> right;       ///< as `infrared`, seen by the right imager
+    cv::Mat_<float> rightDepth;  ///< as `depth`, in the pixels of `right`
+    synthesis::RightImager rightImager;
 };
 
 }  // namespace fieldcal::world

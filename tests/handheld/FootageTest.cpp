@@ -17,7 +17,7 @@ LightCourse light(const std::string& name) {
     return course;
 }
 
-session::SessionDescription rig() {
+synthesis::Rig rig() {
     return synthesis::drawRig(3, {});
 }
 
