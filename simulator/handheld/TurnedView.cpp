@@ -88,9 +88,7 @@ void ViewTurner::trembledInfrared(const SeenView& seen, const Attitude& now, wor
 }
 
 void ViewTurner::trembledRight(const SeenView& seen, const Attitude& now, world::View* view) const {
-    const Map places = right_.places(seen, now.infrared);
-    paintLike(seen.view.right, places, cv::INTER_CUBIC, &view->right);
-    paintLike(seen.view.rightDepth, places, cv::INTER_NEAREST, &view->rightDepth);
+    paintLike(seen.view.right, right_.places(seen, now.infrared), cv::INTER_CUBIC, &view->right);
 }
 
 void ViewTurner::trembledThird(const SeenView& seen, const Attitude& now, world::View* view) const {
@@ -119,11 +117,9 @@ void ViewTurner::passingInfrared(const Passage& passage, world::View* view) cons
 }
 
 void ViewTurner::passingRight(const Passage& passage, world::View* view) const {
-    const world::View &near = passage.nearer.view, &far = passage.other.view;
-    const cv::Matx33d& now = passage.now.infrared;
-    paintPassage(passage, right_, now, {{near.right, far.right, &view->right}}, cv::INTER_LINEAR);
+    const cv::Mat &near = passage.nearer.view.right, &far = passage.other.view.right;
+    paintPassage(passage, right_, passage.now.infrared, {{near, far, &view->right}}, cv::INTER_LINEAR);
     smear(view->right, right_, passage.motionDeg);
-    paintPassage(passage, right_, now, {{near.rightDepth, far.rightDepth, &view->rightDepth}}, cv::INTER_NEAREST);
 }
 
 void ViewTurner::passingThird(const Passage& passage, world::View* view) const {

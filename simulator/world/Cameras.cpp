@@ -21,7 +21,6 @@ bool isSame(const session::Intrinsics& a, const session::Intrinsics& b) {
 Cameras::Cameras(const synthesis::Rig& rig, const Sampling& sampling)
     : rig_(rig),
       infrared_(synthesis::infraredRays(rig.infrared, sampling.infrared)),
-      right_(synthesis::infraredRays(synthesis::rightIntrinsics(rig.infrared, rig.right), sampling.infrared)),
       third_(synthesis::colourRays(rig.third, rig.infrared, sampling.third)) {
     if (!isSame(rig.depth, rig.infrared)) depth_ = synthesis::infraredRays(rig.depth, 1);
     if (rig.platform) platform_ = synthesis::platformRays(*rig.platform, rig.infrared, sampling.platform);
@@ -39,6 +38,14 @@ Pose Cameras::platformPose(const Pose& depth) const {
     return colourPose(depth, cv::Matx33d(rig_.truthPlatform->data()), metres(rig_.platform->translation));
 }
 
+cv::Mat_<float> Cameras::seeRight(const World& world, const Shot& left) const {
+    Shot shot = left;
+    shot.pose = rightPose(left.pose);
+    shot.offset = {static_cast<float>(-rig_.right.columnOffsetPx / rig_.infrared.fx),
+                   static_cast<float>(-rig_.right.rowOffsetPx / rig_.infrared.fy)};
+    return synthesis::infraredBand(takePicture(world, infrared_, shot).light);
+}
+
 View Cameras::see(const World& world, const Moment& infraredAndDepth, const Moment& colour, bool withPlatform,
                   Interruption* interruption) const {
     const auto colourSeen = [&](const synthesis::RayGrid& grid, const Pose& pose, double lens) {
@@ -46,19 +53,17 @@ View Cameras::see(const World& world, const Moment& infraredAndDepth, const Mome
             takePicture(world, grid, {pose, secondsOf(colour), false, lens, interruption}).light);
     };
     View view;
-    const Shot shot{infraredAndDepth.pose, secondsOf(infraredAndDepth), true, synthesis::infraredLens, interruption};
-    const Picture infrared = takePicture(world, infrared_, shot);
-    view.infrared = synthesis::infraredBand(infrared.light);
-    if (depth_.rays.empty())
-        seeDepth(world, infrared_, shot, infrared, rig_.infrared, &view);
-    else
-        seeDepth(world, depth_, shot, takePicture(world, depth_, shot), rig_.depth, &view);
-    Shot rightShot = shot;
-    rightShot.pose = rightPose(shot.pose);
-    const Picture right = takePicture(world, right_, rightShot);
-    view.right = synthesis::infraredBand(right.light);
-    view.rightDepth = right.depth;
     view.rightImager = rig_.right;
+    const Shot shot{infraredAndDepth.pose, secondsOf(infraredAndDepth), true, synthesis::infraredLens, interruption};
+    {
+        const Picture infrared = takePicture(world, infrared_, shot);
+        view.infrared = synthesis::infraredBand(infrared.light);
+        if (depth_.rays.empty())
+            seeDepth(world, infrared_, shot, infrared, rig_.infrared, &view);
+        else
+            seeDepth(world, depth_, shot, takePicture(world, depth_, shot), rig_.depth, &view);
+    }
+    view.right = seeRight(world, shot);
     view.third = colourSeen(third_, thirdPose(colour.pose), synthesis::thirdLens);
     if (withPlatform && rig_.platform)
         view.platform = colourSeen(platform_, platformPose(colour.pose), synthesis::platformLens);

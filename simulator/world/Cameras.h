@@ -35,8 +35,10 @@ public:
     Pose platformPose(const Pose& depth) const;
 
 private:
+    cv::Mat_<float> seeRight(const World& world, const Shot& left) const;
+
     synthesis::Rig rig_;
-    synthesis::RayGrid infrared_, right_, third_, platform_;
+    synthesis::RayGrid infrared_, third_, platform_;
     synthesis::RayGrid depth_;  // empty when depth has the pixels of infrared
 };
 

@@ -33,7 +33,7 @@ float pattern(float u, float v) {
 /// An imager with intrinsics `k`, the projector so far to its right.
 void addDots(double light, const session::Intrinsics& k, float projector, const cv::Mat_<float>& depth,
              cv::Mat_<float>& picture) {
-    if (picture.empty() || picture.size() != depth.size()) return;
+    if (picture.size() != depth.size()) return;
     cv::Mat_<float> around;  // how bright a surface is tells roughly how much it throws back
     cv::blur(picture, around, {15, 15});
     forEachRow(depth.rows, [&](int y) {
@@ -48,13 +48,33 @@ void addDots(double light, const session::Intrinsics& k, float projector, const 
     });
 }
 
+/// The depth of what the right imager sees, put together from what the left one sees; 0 where that is hidden from the
+/// left one. Only as far as dots are seen.
+cv::Mat_<float> rightDepth(const View& view, double apart) {
+    const auto f = static_cast<float>(view.depthCamera.fx * apart);
+    const auto offset = static_cast<float>(view.rightImager.columnOffsetPx);
+    cv::Mat_<float> depth(view.depth.size(), 0.0F);
+    forEachRow(depth.rows, [&](int y) {
+        for (int x = 0; x < depth.cols; ++x) {
+            const float z = view.depth(y, x);
+            const int column = z > 0 && z <= farthest ? cvRound(static_cast<float>(x) - f / z + offset) : -1;
+            if (column < 0 || column >= depth.cols) continue;
+            if (depth(y, column) == 0 || z < depth(y, column)) depth(y, column) = z;
+        }
+        // A slanted surface is wider in the right picture: its pixels leave gaps.
+        for (int x = 1; x + 1 < depth.cols; ++x)
+            if (depth(y, x) == 0 && depth(y, x + 1) > 0) depth(y, x) = depth(y, x - 1);
+    });
+    return depth;
+}
+
 }  // namespace
 
 void addEmitterDots(double light, View* view) {
     addDots(light, view->depthCamera, projectorX, view->depth, view->infrared);
-    const auto apart = static_cast<float>(view->rightImager.isApart ? stereoBaseline : 0);
-    addDots(light, synthesis::rightIntrinsics(view->depthCamera, view->rightImager), projectorX - apart,
-            view->rightDepth, view->right);
+    const double apart = view->rightImager.isApart ? stereoBaseline : 0;
+    addDots(light, synthesis::rightIntrinsics(view->depthCamera, view->rightImager),
+            projectorX - static_cast<float>(apart), rightDepth(*view, apart), view->right);
 }
 
 }  // namespace fieldcal::world

@@ -15,11 +15,11 @@ namespace {
 /// the noise of the sensors. Materials that fade their own details need care only at their shadows and outlines.
 constexpr float plainLimit = 0.04F, smoothLimit = 0.4F;
 
-cv::Mat_<cv::Vec2f> middleRays(const synthesis::RayGrid& grid) {
+cv::Mat_<cv::Vec2f> middleRays(const synthesis::RayGrid& grid, const cv::Vec2f& offset) {
     cv::Mat_<cv::Vec2f> middle(grid.rays.rows / grid.samplesPerPixel, grid.rays.cols / grid.samplesPerPixel);
     for (int y = 0; y < middle.rows; ++y)
         for (int x = 0; x < middle.cols; ++x)
-            middle(y, x) = middleRay(grid, x, y);
+            middle(y, x) = middleRay(grid, x, y) + offset;
     return middle;
 }
 
@@ -28,7 +28,8 @@ public:
     Shooting(const World& world, const synthesis::RayGrid& grid, const Shot& shot)
         : world_(world),
           grid_(grid),
-          middle_(middleRays(grid)),
+          offset_(shot.offset),
+          middle_(middleRays(grid, shot.offset)),
           world_camera_(shot.pose.camera_world.t()),
           centre_(shot.pose.centre),
           seconds_(shot.seconds),
@@ -128,7 +129,7 @@ private:
             for (int k = 0; k < n * n; ++k) {
                 if (k == middle) continue;
                 owner[rays.count] = x;
-                rays.add(centre_, towards(grid_.rays(y * n + k / n, x * n + k % n)));
+                rays.add(centre_, towards(grid_.rays(y * n + k / n, x * n + k % n) + offset_));
                 if (rays.count == Rays::most) flush();
             }
         }
@@ -137,6 +138,7 @@ private:
 
     const World& world_;
     const synthesis::RayGrid& grid_;
+    cv::Vec2f offset_;
     cv::Mat_<cv::Vec2f> middle_;
     cv::Matx33f world_camera_;
     cv::Vec3f centre_;

@@ -24,6 +24,7 @@ struct Shot {
     bool infrared = false;                 ///< else colour: what it cannot see needs no care
     double lensSigma = 0.5;                ///< spread of the lens's Gaussian blur, pixels
     Interruption* interruption = nullptr;  ///< once it has ended, the rest of the picture stays black
+    cv::Vec2f offset{0, 0};                ///< of all rays (x/z, y/z) from those of the grid
 };
 
 struct Picture {

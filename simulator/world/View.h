@@ -20,8 +20,7 @@ struct View {
     /// 255 where stereo finds nothing in any light: hidden from the second infrared camera, too slanted, or a mirror.
     cv::Mat_<std::uint8_t> unmatched;
     session::Intrinsics depthCamera;
-    cv::Mat_<float> right;       ///< as `infrared`, seen by the right imager
-    cv::Mat_<float> rightDepth;  ///< as `depth`, in the pixels of `right`
+    cv::Mat_<float> right;  ///< as `infrared`, seen by the right imager
     synthesis::RightImager rightImager;
 };
 
