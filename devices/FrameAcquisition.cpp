@@ -18,6 +18,12 @@ void copy(ImageFrame16* record, std::int32_t width, std::int32_t height, const s
     record->assign(static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height), pixels);
 }
 
+/// Without pixels the record becomes empty.
+void copyOrEmpty(ImageFrame16* record, std::int32_t width, std::int32_t height, const std::uint16_t* pixels) {
+    if (pixels == nullptr || !isPlausiblePictureSize(width, height)) record->resize(0, 0);
+    copy(record, width, height, pixels);
+}
+
 bool hasSize(const ImageFrame32& record, const SensorSettings& settings) {
     return record.width() == static_cast<std::uint32_t>(settings.thirdScaledWidth) &&
            record.height() == static_cast<std::uint32_t>(settings.thirdScaledHeight);
@@ -40,7 +46,9 @@ void FrameAcquisition::refresh(KXDevice& device, KXThirdCamera* third, const Sen
         copy(&records.leftInfrared, device.lrWidth(), device.lrHeight(), device.leftImage());
     }
     if (settings.rightEnabled && device.rightEnabled()) {
-        copy(&records.rightInfrared, device.lrWidth(), device.lrHeight(), device.rightImage());
+        copyOrEmpty(&records.rightInfrared, device.lrWidth(), device.lrHeight(), device.rightImage());
+    } else {
+        records.rightInfrared.resize(0, 0);
     }
     if (settings.thirdEnabled && third != nullptr && third->thirdEnabled()) refreshThird(*third, settings);
 }

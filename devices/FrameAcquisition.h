@@ -12,7 +12,7 @@ namespace fieldcal {
 /// the sizes of the infrared geometry. Empty until first filled.
 struct FrameRecords {
     ImageFrame16 leftInfrared;
-    ImageFrame16 rightInfrared;
+    ImageFrame16 rightInfrared;  ///< of the same grab as the others; empty when that brought none
     ImageFrame16 depth;
     ImageFrame32 inModuleColour;
     ImageFrame32 outOfModuleColour;
@@ -25,7 +25,8 @@ public:
     bool sizeRecords(KXDevice& device, KXThirdCamera& third);
 
     /// Skips streams that the settings or the device report as off, or that have no picture; the in-module colour
-    /// also until its scaled size is known.
+    /// also until its scaled size is known. The right infrared record is emptied instead: whoever compares the two
+    /// infrared pictures must not take an old one for a new one.
     void refresh(KXDevice& device, KXThirdCamera* third, const SensorSettings& settings);
 
     FrameRecords records;

@@ -140,6 +140,8 @@ public:
     virtual bool stopCapture() = 0;
     /// With `wait` set, returns when the next frame set is there.
     virtual bool grab(bool wait) = 0;
+    /// Pictures of the grabbed frame set, both infrared ones of the same moment and size. Null when the stream is off
+    /// or this frame set has no such picture.
     virtual const std::uint16_t* depthImage() = 0;
     virtual const std::uint16_t* leftImage() = 0;
     virtual const std::uint16_t* rightImage() = 0;

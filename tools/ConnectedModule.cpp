@@ -159,6 +159,7 @@ bool ConnectedModule::grab(session::FramePictures* out, QString* why) {
     KXDevice& device = *sensor_->device();
     KXThirdCamera& third = *sensor_->thirdCamera();
     takeBytes(device.leftImage(), device.lrWidth(), device.lrHeight(), &out->infrared);
+    takeBytes(device.rightImage(), device.lrWidth(), device.lrHeight(), &out->right);
     takeBytes(device.depthImage(), device.depthWidth(), device.depthHeight(), &out->depth);
     takeBytes(third.thirdImage(), third.thirdWidth(), third.thirdHeight(), &out->third);
     if (out->infrared.empty() || out->third.empty()) return failed(why, kNothing);

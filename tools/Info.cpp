@@ -6,6 +6,7 @@
 #include "tools/Console.h"
 #include "tools/Verbs.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
@@ -40,6 +41,12 @@ void printTruth(const char* name, const std::optional<Matrix3>& truth, const Mat
         std::printf("%-12s %.4f degrees off the factory rotation\n", name, rotationDifferenceDeg(*truth, factory));
 }
 
+void printRight(const std::vector<session::FrameEntry>& frames) {
+    const auto count =
+        std::count_if(frames.begin(), frames.end(), [](const auto& frame) { return !frame.right.empty(); });
+    if (count > 0) std::printf("%-12s pictures of %td frames\n", "right", count);
+}
+
 int describeRecording(const std::string& folder) {
     session::SessionDescription session;
     std::string why;
@@ -48,6 +55,7 @@ int describeRecording(const std::string& folder) {
     }
     printModule(session.module);
     printIntrinsics("infrared", session.infrared);
+    printRight(session.frames);
     printIntrinsics("depth", session.depth);
     printIntrinsics("third", session.third);
     if (session.platform) {

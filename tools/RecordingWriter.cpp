@@ -14,7 +14,8 @@ namespace {
 constexpr std::uint16_t kLargestInfrared = 1023;
 
 bool same(const ImageFrame& a, const ImageFrame& b) {
-    return a.width() == b.width() && a.height() == b.height() && std::memcmp(a.bytes(), b.bytes(), a.byteCount()) == 0;
+    return a.width() == b.width() && a.height() == b.height() &&
+           (a.empty() || std::memcmp(a.bytes(), b.bytes(), a.byteCount()) == 0);
 }
 
 std::string sizeText(long long width, long long height) {
@@ -31,12 +32,22 @@ bool fits(const ImageFrame& picture, const session::Intrinsics& camera, const ch
     return false;
 }
 
+bool hasTenBits(const ImageFrame16& picture, const char* name, std::string* why) {
+    const std::uint16_t* end = picture.pixels() + picture.byteCount() / 2;
+    const std::uint16_t* largest = std::max_element(picture.pixels(), end);
+    if (largest == end || *largest <= kLargestInfrared) return true;
+    *why = std::string("The ") + name + " picture has the value " + std::to_string(*largest) + ", above " +
+           std::to_string(kLargestInfrared) + ".";
+    return false;
+}
+
 session::FrameEntry entryFor(std::size_t index, const session::FramePictures& pictures) {
     char prefix[24];
     std::snprintf(prefix, sizeof prefix, "%03zu_", index);
     session::FrameEntry entry;
     entry.infrared = std::string(prefix) + "infrared.png";
     entry.third = std::string(prefix) + "third.png";
+    if (!pictures.right.empty()) entry.right = std::string(prefix) + "right.png";
     if (!pictures.depth.empty()) entry.depth = std::string(prefix) + "depth.png";
     if (!pictures.platform.empty()) entry.platform = std::string(prefix) + "platform.nv12";
     return entry;
@@ -53,7 +64,7 @@ RecordingWriter::~RecordingWriter() {
     if (finished_) return;
     const QString folder = QString::fromStdString(folder_) + '/';
     for (const session::FrameEntry& entry : description_.frames) {
-        for (const std::string& name : {entry.infrared, entry.third, entry.depth, entry.platform}) {
+        for (const std::string& name : {entry.infrared, entry.right, entry.third, entry.depth, entry.platform}) {
             if (!name.empty()) QFile::remove(folder + QString::fromStdString(name));
         }
     }
@@ -87,22 +98,18 @@ bool RecordingWriter::add(session::FramePictures pictures, std::string* why) {
 /// While a frame repeats, its rear picture may or may not be brought again; the same one makes no difference.
 bool RecordingWriter::repeatsLast(const session::FramePictures& pictures) const {
     return !description_.frames.empty() && same(pictures.infrared, last_.infrared) &&
-           same(pictures.third, last_.third) && same(pictures.depth, last_.depth) &&
-           (pictures.platform.empty() || pictures.platform == last_.platform);
+           same(pictures.right, last_.right) && same(pictures.third, last_.third) &&
+           same(pictures.depth, last_.depth) && (pictures.platform.empty() || pictures.platform == last_.platform);
 }
 
 bool RecordingWriter::canBePlayed(const session::FramePictures& pictures, std::string* why) const {
     if (!fits(pictures.infrared, description_.infrared, "infrared", why) ||
         !fits(pictures.third, description_.third, "colour", why) ||
+        (!pictures.right.empty() && !fits(pictures.right, description_.infrared, "right infrared", why)) ||
         (!pictures.depth.empty() && !fits(pictures.depth, description_.depth, "depth", why))) {
         return false;
     }
-    const std::uint16_t* pixels = pictures.infrared.pixels();
-    const std::uint16_t largest = *std::max_element(pixels, pixels + pictures.infrared.byteCount() / 2);
-    if (largest <= kLargestInfrared) return true;
-    *why = "The infrared picture has the value " + std::to_string(largest) + ", above " +
-           std::to_string(kLargestInfrared) + ".";
-    return false;
+    return hasTenBits(pictures.infrared, "infrared", why) && hasTenBits(pictures.right, "right infrared", why);
 }
 
 bool RecordingWriter::finish(std::string* why) {

@@ -24,13 +24,18 @@ void readSpeed(Settings* out) {
     out->problem = "KXSIM_SPEED: \"" + text.toStdString() + "\": 0 or a number from 0.01 to 1000 expected";
 }
 
-void readPlatform(Settings* out) {
-    const QString text = qEnvironmentVariable("KXSIM_PLATFORM", "calibrated");
-    const QStringList choices{"absent", "uncalibrated", "calibrated"};
+/// `choices`: the names of the values of `Choice`, in their order.
+template <typename Choice>
+void readChoice(const char* variable, const QStringList& choices, Choice* out, std::string* problem) {
+    const QString text = qEnvironmentVariable(variable);
+    if (text.isEmpty()) return;
     const auto choice = static_cast<int>(choices.indexOf(text));
-    if (choice >= 0) out->platform = static_cast<PlatformChoice>(choice);
-    if (choice >= 0 || text.isEmpty()) return;
-    out->problem = "KXSIM_PLATFORM: \"" + text.toStdString() + "\": absent, uncalibrated or calibrated expected";
+    if (choice >= 0) {
+        *out = static_cast<Choice>(choice);
+        return;
+    }
+    const QString names = QStringList(choices.mid(0, choices.size() - 1)).join(", ") + " or " + choices.last();
+    *problem = std::string(variable) + ": \"" + text.toStdString() + "\": " + names.toStdString() + " expected";
 }
 
 void readSeed(Settings* out) {
@@ -73,7 +78,8 @@ Settings readSettings() {
     readSeed(&out);
     readDrift("KXSIM_DRIFT", &out.drift, &out.problem);
     readDrift("KXSIM_PLATFORM_DRIFT", &out.platformDrift, &out.problem);
-    readPlatform(&out);
+    readChoice("KXSIM_PLATFORM", {"absent", "uncalibrated", "calibrated"}, &out.platform, &out.problem);
+    readChoice("KXSIM_RIGHT", {"real", "missing", "blank", "frozen", "left", "late"}, &out.right, &out.problem);
     out.faults.parse(qEnvironmentVariable("KXSIM_FAULTS").toStdString(), &out.problem);
     return out;
 }

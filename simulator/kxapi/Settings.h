@@ -11,6 +11,10 @@ namespace kxsim {
 
 enum class PlatformChoice { absent, uncalibrated, calibrated };
 
+/// What the right infrared imager delivers: its own picture, none, one value, its first picture for ever, the left
+/// picture, or its own of 100 ms before.
+enum class RightChoice { real, missing, blank, frozen, left, late };
+
 /// The environment variables KXSIM_*, as they stand when a device is created.
 struct Settings {
     std::string session;           ///< folder of the recording to play, UTF-8; empty: a world is rendered
@@ -19,6 +23,7 @@ struct Settings {
     std::uint64_t seed = 1;                                     ///< of the world, its cameras and the hand
     std::optional<std::array<double, 3>> drift, platformDrift;  ///< degrees; without: from the seed
     PlatformChoice platform = PlatformChoice::calibrated;       ///< a recording decides by itself
+    RightChoice right = RightChoice::real;
     std::string flash;  ///< file of the module's flash, UTF-8; empty: see `flashFile`
     double speed = 1;   ///< 1: the source's own rate; 0: as fast as it can
     Faults faults;

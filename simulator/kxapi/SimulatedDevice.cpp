@@ -43,6 +43,7 @@ bool SimulatedDevice::plugIn() {
     if (!state_.succeeds(loaded) && !flash->read(&state_.activeBlock).ok()) return false;
     const auto& depth = description.depth;
     noDepth_.assign(static_cast<std::size_t>(depth.width) * static_cast<std::size_t>(depth.height), 0);
+    right_.emplace(state_.settings.right, source->grabsPerSecond());
     state_.source = std::move(source);
     state_.flash = std::move(flash);
     state_.stage = Stage::opened;
@@ -156,12 +157,14 @@ bool SimulatedDevice::grab(bool wait) {
 bool SimulatedDevice::nextFrame(bool wait) {
     if (!pace_.frameDue(wait)) return true;
     std::string why;
+    const std::uint64_t before = state_.source->grabs();
     state_.source->setEmitter(emitter_.isOn());
     state_.source->setPlatformWanted(RearCamera::instance().streams());
     if (!state_.source->advance(&why)) {
         report(why);
         return state_.fail(KX_STATUS_DEVICE_ERROR);
     }
+    if (state_.source->grabs() > before) right_->follow(*state_.source->current());
     showToRearCamera();
     return true;
 }
@@ -186,7 +189,7 @@ const std::uint16_t* SimulatedDevice::leftImage() {
 
 const std::uint16_t* SimulatedDevice::rightImage() {
     if (!state_.enter("rightImage", Stage::opened) || !state_.rightEnabled || state_.frame() == nullptr) return nullptr;
-    return state_.frame()->right.empty() ? nullptr : state_.frame()->right.pixels();
+    return right_->picture(*state_.frame());
 }
 
 std::int32_t SimulatedDevice::depthWidth() {

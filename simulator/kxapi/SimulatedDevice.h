@@ -4,6 +4,7 @@
 #include "simulator/kxapi/Pace.h"
 #include "simulator/kxapi/PlatformInterface.h"
 #include "simulator/kxapi/PrivateInterface.h"
+#include "simulator/kxapi/RightImages.h"
 #include "simulator/kxapi/ThirdInterface.h"
 
 namespace kxsim {
@@ -65,6 +66,7 @@ private:
     PlatformInterface platform_;
     PrivateInterface private_;
     Pace pace_;
+    std::optional<RightImages> right_;    ///< from `opened` on
     std::vector<std::uint16_t> noDepth_;  ///< all 0, for frames without depth
 };
 

@@ -109,7 +109,7 @@ TEST_F(FrameAcquisitionTest, RefreshesTheModulesRecords) {
 
 TEST_F(FrameAcquisitionTest, StreamsThatAreOffOrOddAreSkipped) {
     openAndRead(withoutPlatform());
-    device->failCall("grab", 4, 6);
+    device->failCall("grab", 6, 6);
     ASSERT_TRUE(sensor->grab(true));
     device->depthOn = device->thirdOn = false;
     device->depth[0] = 1;
@@ -120,6 +120,14 @@ TEST_F(FrameAcquisitionTest, StreamsThatAreOffOrOddAreSkipped) {
     EXPECT_TRUE(sensor->grab(true));
     EXPECT_EQ(sensor->frames().depth.pixels()[0], 1502);
     EXPECT_EQ(sensor->frames().inModuleColour.bytes()[0], 77);
+    EXPECT_EQ(sensor->frames().rightInfrared.pixels()[5], 501);
+    std::vector<std::uint16_t> right;
+    std::swap(device->right, right);
+    EXPECT_TRUE(sensor->grab(true));
+    EXPECT_TRUE(sensor->frames().rightInfrared.empty()) << "an old picture is not left for a new one";
+    std::swap(device->right, right);
+    EXPECT_TRUE(sensor->grab(true));
+    EXPECT_EQ(sensor->frames().rightInfrared.byteCount(), std::size_t{628} * 468 * 2);
     device->left.assign(device->left.size(), 9);
     EXPECT_FALSE(sensor->grab(true));
     EXPECT_EQ(sensor->frames().leftInfrared.pixels()[0], 500) << "a failed grab leaves the records";

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstring>
+#include <functional>
 
 namespace {
 
@@ -44,6 +45,55 @@ TEST_F(Playback, IsBitExactWithRepeatsAndStartsAgain) {
         EXPECT_TRUE(device->rightEnabled()) << "there is a stream, only without a picture of this frame";
         EXPECT_EQ(device->lastStatus(), 0);
     }
+}
+
+TEST_F(Playback, TheRightImagerDeliversWhatItIsToldTo) {
+    // Right pictures that differ, and none in the last frame.
+    session.frames = {session.frames[0], session.frames[0], session.frames[1]};
+    session.frames[0].repeat = 4;
+    session.frames[1].right = "other.png";
+    session.frames[1].repeat = 5;
+    FramePictures shown[]{testPictures(session, true), testPictures(session, true), testPictures(session, false)};
+    shown[1].right.pixels()[7] = 5;
+    ASSERT_TRUE(writeDescription(folder, session, &why) && writePictures(folder, session.frames[1], shown[1], &why));
+    const auto frameOf = [](int grab) { return grab % 10 < 4 ? 0 : grab % 10 < 9 ? 1 : 2; };
+    const fieldcal::ImageFrame16 none;
+    fieldcal::ImageFrame16 blank = shown[0].right;
+    std::fill_n(blank.pixels(), blank.byteCount() / 2, std::uint16_t{400});
+    using Expected = std::function<const fieldcal::ImageFrame16&(int)>;
+    const std::pair<const char*, Expected> kinds[]{{"real", [&](int grab) -> auto& {return shown[frameOf(grab)].right;
+}
+}  // namespace
+, {"missing", [&](int) -> auto& {return none;
+}
+}
+, {"blank", [&](int) -> auto& {return blank;
+}
+}
+, {"frozen", [&](int) -> auto& {return shown[0].right;
+}
+}
+, {"left", [&](int) -> auto& {return shown[0].infrared;
+}
+}
+, {
+    "late", [&](int grab) -> auto& {
+        return grab < 6 ? none : shown[frameOf(grab - 6)].right;
+    }
+}
+}
+;
+for (const auto& [kind, expected] : kinds) {
+    set("KXSIM_RIGHT", kind);
+    const std::shared_ptr<KXDevice> device = createCapturing();
+    EXPECT_EQ(device->rightImage(), nullptr);
+    for (int grab = 0; grab < 22; ++grab) {
+        ASSERT_TRUE(device->grab(true));
+        ASSERT_TRUE(holds(device->rightImage(), expected(grab))) << kind << ' ' << grab;
+        ASSERT_TRUE(holds(device->leftImage(), shown[0].infrared) && device->rightEnabled());
+    }
+    EXPECT_EQ(device->lastStatus(), 0);
+}
 }
 
 TEST_F(Playback, ThePlatformCameraIsTheRecordings) {
@@ -94,6 +144,7 @@ TEST_F(Playback, BadSessionsAndSettingsAreRefusedInOneLine) {
     }
     set("KXSIM_SPEED", "1");
     const std::pair<const char*, const char*> malformed[]{{"KXSIM_PLATFORM", "perhaps"},
+                                                          {"KXSIM_RIGHT", "upside down"},
                                                           {"KXSIM_SEED", "-1"},
                                                           {"KXSIM_DRIFT", "1,2"},
                                                           {"KXSIM_PLATFORM_DRIFT", "1,2,nan"}};

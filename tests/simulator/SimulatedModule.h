@@ -16,8 +16,9 @@ protected:
 
 private:
     static void forget() {
-        for (const char* variable : {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_PLATFORM", "KXSIM_FAULTS", "KXSIM_FLASH",
-                                     "KXSIM_WORLD", "KXSIM_SEED", "KXSIM_LIGHT", "KXSIM_DRIFT", "KXSIM_PLATFORM_DRIFT"})
+        for (const char* variable :
+             {"KXSIM_SESSION", "KXSIM_SPEED", "KXSIM_PLATFORM", "KXSIM_RIGHT", "KXSIM_FAULTS", "KXSIM_FLASH",
+              "KXSIM_WORLD", "KXSIM_SEED", "KXSIM_LIGHT", "KXSIM_DRIFT", "KXSIM_PLATFORM_DRIFT"})
             qunsetenv(variable);
     }
 };

@@ -12,9 +12,10 @@ std::vector<std::uint8_t> bytesOf(const ImageFrame& frame) {
 
 /// What one grab brings; `platform` is the newest picture by then.
 struct Delivered {
-    std::vector<std::uint8_t> infrared, depth, third, platform;
+    std::vector<std::uint8_t> infrared, right, depth, third, platform;
     bool operator==(const Delivered& other) const {
-        return infrared == other.infrared && depth == other.depth && third == other.third && platform == other.platform;
+        return infrared == other.infrared && right == other.right && depth == other.depth && third == other.third &&
+               platform == other.platform;
     }
 };
 
@@ -30,6 +31,7 @@ std::vector<Delivered> play(const QString& folder, int grabs) {
         session::FramePictures pictures;
         EXPECT_TRUE(session::readPictures(folder.toStdString(), session, index, &pictures, &why)) << why;
         now.infrared = bytesOf(pictures.infrared);
+        now.right = bytesOf(pictures.right);
         now.third = bytesOf(pictures.third);
         now.depth = bytesOf(pictures.depth);
         // No depth picture is one without depth.
@@ -61,14 +63,16 @@ protected:
 };
 
 TEST_F(RecordTest, EveryGrabIsPlayedBackAsItWasDelivered) {
-    // Frame 1 lacks the rear picture, frame 2 depth, and frame 3 is frame 2 again.
+    // Frame 1 lacks the rear picture, frame 2 depth, frame 3 is frame 2 again, and frame 4 the same without the right
+    // one.
     const QString source = changed("varied", [](session::SessionDescription* session, const QString&) {
-        const int repeats[] = {3, 1, 2, 4, 1};
-        for (std::size_t i = 0; i < 5; ++i)
-            session->frames[i].repeat = repeats[i];
+        const int repeats[] = {3, 1, 2, 2, 1};
         session->frames[1].platform.clear();
         session->frames[2].depth.clear();
-        session->frames[3] = session->frames[2];
+        session->frames[3] = session->frames[4] = session->frames[2];
+        session->frames[4].right.clear();
+        for (std::size_t i = 0; i < 5; ++i)
+            session->frames[i].repeat = repeats[i];
     });
     const QString copy = target();
     const int grabs = 3 + 1 + 2 + 2 + 1 + 2;  // on into the second round
@@ -143,7 +147,7 @@ TEST_F(RecordTest, ATabletWithoutRearCameraOrCalibrationOfItIsRecordedWithout) {
         const Result made = record(source, copy, 2, faults);
         ASSERT_EQ(made.status, 0) << made.error.constData();
         EXPECT_FALSE(described(copy).platform);
-        EXPECT_EQ(QDir(copy).entryList(QDir::Files).size(), 4) << "description, infrared, third, depth";
+        EXPECT_EQ(QDir(copy).entryList(QDir::Files).size(), 5) << "description, infrared, right, third, depth";
     }
 }
 
