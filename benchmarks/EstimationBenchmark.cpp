@@ -36,7 +36,7 @@ const Round& round() {
         calibrator.setup();
         std::srand(1);
         for (std::size_t i = 3; i < 6; ++i) {
-            calibrator.prepare(data.infrared[i], data.colour[i]);
+            calibrator.prepare({data.infrared[i], data.colour[i], {}, {}});
             calibrator.generateMatches();
         }
         Round result;

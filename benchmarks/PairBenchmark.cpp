@@ -73,7 +73,7 @@ void pairToAnswer(benchmark::State& state) {
         calibrator.reset();
         calibrator.setup();
         for (std::size_t i = 0; i < data().infrared.size(); ++i) {
-            calibrator.prepare(data().infrared[i], data().colour[i]);
+            calibrator.prepare({data().infrared[i], data().colour[i], {}, {}});
             calibrator.generateMatches();
             calibrator.tryDetermineStableSolution();
             const vq::PairStatistics& s = calibrator.statistics();

@@ -14,7 +14,8 @@ StillAttempt::StillAttempt(const CameraParameters& parameters, const ColourCamer
 StillAttempt::Outcome StillAttempt::show(const FrameRecords& still) {
     auto outcome = Outcome::Continues;
     for (int i = 0; i < kGrabsPerStill && outcome == Outcome::Continues; ++i)
-        outcome = attempt_.processFrame(still.leftInfrared, camera_.colourOf(still));
+        outcome = attempt_.processFrame(
+            {still.leftInfrared, camera_.colourOf(still), still.rightInfrared, still.depth});
     return outcome;
 }
 

@@ -31,8 +31,12 @@ std::int32_t CalibratorInterface::setup() {
 
 CalibratorResult CalibratorInterface::inputFramesAndCheckMovement(const fieldcal::ImageFrame16& infrared,
                                                                   const fieldcal::ImageFrame32& colour) {
-    frameSelector_.push(infrared, colour);
-    if (frameSelector_.shouldUseThisFrame(&selectedInfrared_, &selectedColour_)) {
+    const fieldcal::ImageFrame16 none;
+    frameSelector_.push(infrared, colour, right_ != nullptr ? *right_ : none, depth_ != nullptr ? *depth_ : none);
+    right_ = depth_ = nullptr;
+    if (frameSelector_.shouldUseThisFrame(&selected_.infrared, &selected_.colour)) {
+        selected_.right = frameSelector_.selectedRight();
+        selected_.depth = frameSelector_.selectedDepth();
         return {ProcessImagePair, "Proceeding with Calibration to process Image Pair"};
     }
     if (frameSelector_.state() == FrameSelector::WaitingToMove) {
@@ -43,7 +47,7 @@ CalibratorResult CalibratorInterface::inputFramesAndCheckMovement(const fieldcal
 
 CalibratorResult CalibratorInterface::inputImageAndTryCalibration() {
     constexpr const char* tag = "CalibratorInterface::inputImageAndTryCalibration";
-    calibrator_.prepare(selectedInfrared_, selectedColour_);
+    calibrator_.prepare(selected_);
     logMessage(kInfo, tag, "Generating matches...");
     calibrator_.generateMatches();
     const auto colourCount = static_cast<int>(calibrator_.matches().colour.size());
@@ -139,6 +143,16 @@ void CalibratorInterface::drag(std::int32_t x, std::int32_t /*y*/) {
 void CalibratorInterface::endDrag() {
     const std::lock_guard guard(context_.lock);
     context_.state->endDrag();
+}
+
+void CalibratorInterface::inputDistanceFrames(const fieldcal::ImageFrame16& right,
+                                              const fieldcal::ImageFrame16& depth) {
+    right_ = &right;
+    depth_ = &depth;
+}
+
+void CalibratorInterface::setRememberedBaseline(double metres) {
+    calibrator_.setRememberedBaseline(metres);
 }
 
 }  // namespace vq

@@ -32,6 +32,9 @@ public:
     void beginDrag(std::int32_t x, std::int32_t y) override;
     void drag(std::int32_t x, std::int32_t y) override;
     void endDrag() override;
+    void inputDistanceFrames(const fieldcal::ImageFrame16& right, const fieldcal::ImageFrame16& depth) override;
+    void setRememberedBaseline(double metres) override;
+    ParallaxReport parallax() const override { return calibrator_.parallax(); }
 
     /// When the flag becomes true, a running estimation ends early without a solution. May be null.
     void setStopFlag(const std::atomic<bool>* stop) { calibrator_.setStopFlag(stop); }
@@ -42,8 +45,9 @@ private:
 
     SensorCalibrator calibrator_;
     FrameSelector frameSelector_;
-    ImagePairRecord selectedInfrared_;
-    ImagePairRecord selectedColour_;
+    SelectedImages selected_;
+    const fieldcal::ImageFrame16* right_ = nullptr;  ///< of the grab that is about to be fed
+    const fieldcal::ImageFrame16* depth_ = nullptr;  ///< likewise
     std::int32_t attempts_ = 0;
     std::int32_t featureTotal_ = 0;
     bool firstPass_ = false;

@@ -33,6 +33,12 @@ cv::Rect2f searchArea(const PositionTable::Quadrilateral& predicted, const cv::S
             cv::Point2f(clampX(right + kSearchMarginPx), clampY(bottom + kSearchMarginPx))};
 }
 
+/// The area of a place that parallax moves: the perimeter of the table's rectangle, drawn out to both ends.
+PositionTable::Quadrilateral shifted(const PositionTable::Quadrilateral& area, const ParallaxShift& shift) {
+    return {area[0] + shift.low, area[1] + cv::Point2f(shift.high.x, shift.low.y), area[2] + shift.high,
+            area[3] + cv::Point2f(shift.low.x, shift.high.y)};
+}
+
 bool liesInside(const PositionTable::Quadrilateral& predicted, const cv::Point2f& point) {
     const cv::Mat polygon(static_cast<int>(predicted.size()), 1, CV_32FC2, const_cast<cv::Point2f*>(predicted.data()));
     return cv::pointPolygonTest(polygon, point, true) >= -kOutsidePx;
@@ -60,25 +66,30 @@ void CrossModalMatcher::prepare(const cv::Mat& infrared16, const cv::Mat& colour
 }
 
 void CrossModalMatcher::findCrossModalMatches(std::vector<cv::Point2f>* colourPoints,
-                                              std::vector<cv::Point2f>* infraredPoints) {
+                                              std::vector<cv::Point2f>* infraredPoints, const ShiftFinder& shifts) {
     logMessage(kInfo, kTag, "rgb [%d x %d] IR [%d x %d]", grey_.cols, grey_.rows, infrared8_.cols, infrared8_.rows);
     const bool queryIsInfrared = table_.queryIsInfrared();
     const cv::Mat& queryImage = queryIsInfrared ? infrared8_ : grey_;
     const cv::Mat& targetImage = queryIsInfrared ? grey_ : infrared8_;
     auto pendingTargets = std::async(std::launch::async, findCorners, targetImage, kTargetCorners);
     const CornerSet queries = findCorners(queryImage, kQueryCorners);
+    Stopwatch watch;
+    std::vector<ParallaxShift> parallax(queries.points.size());
+    if (shifts && queryIsInfrared) parallax = shifts(queries.points);
+    statistics_.distanceSeconds = watch.lap();
     const CornerSet targets = pendingTargets.get();
 
-    Stopwatch watch;
+    watch.lap();
     std::vector<cv::Point2f>* queryPoints = queryIsInfrared ? infraredPoints : colourPoints;
     std::vector<cv::Point2f>* targetPoints = queryIsInfrared ? colourPoints : infraredPoints;
     const CandidateSearch search(targets, targetImage.size());
     for (std::size_t k = 0; k < queries.points.size(); ++k) {
-        const auto* predicted = table_.find(queries.points[k]);
-        if (predicted == nullptr) continue;
-        const int nearest = search.nearest(searchArea(*predicted, targetImage.size()),
+        const auto* atInfinity = table_.find(queries.points[k]);
+        if (atInfinity == nullptr) continue;
+        const PositionTable::Quadrilateral predicted = shifted(*atInfinity, parallax[k]);
+        const int nearest = search.nearest(searchArea(predicted, targetImage.size()),
                                            queries.descriptors.ptr<std::uint8_t>(static_cast<int>(k)));
-        if (nearest < 0 || !liesInside(*predicted, targets.points[static_cast<std::size_t>(nearest)])) continue;
+        if (nearest < 0 || !liesInside(predicted, targets.points[static_cast<std::size_t>(nearest)])) continue;
         queryPoints->push_back(queries.points[k]);
         targetPoints->push_back(targets.points[static_cast<std::size_t>(nearest)]);
     }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "engine/ParallaxAreas.h"
 #include "engine/PositionTable.h"
 
 #include <opencv2/core.hpp>
 
+#include <functional>
 #include <vector>
 
 namespace vq {
@@ -17,6 +19,7 @@ struct PairStatistics {
     double conversionSeconds = 0;
     double detectionSeconds = 0;  ///< detection and sub-pixel refinement, both pictures, wall time
     double descriptionSeconds = 0;
+    double distanceSeconds = 0;  ///< disparities of corners, matches and textured places
     double matchingSeconds = 0;  ///< search among the described corners
     double verificationSeconds = 0;
     double estimationSeconds = 0;
@@ -36,8 +39,12 @@ public:
 
     /// Converts the pair to 8 bits. `infrared16`: CV_16UC1; `colour`: CV_8UC4.
     void prepare(const cv::Mat& infrared16, const cv::Mat& colour, int infraredConversionMode);
-    /// Element i of one list matches element i of the other. Pixels of the delivered pictures.
-    void findCrossModalMatches(std::vector<cv::Point2f>* colourPoints, std::vector<cv::Point2f>* infraredPoints);
+    /// For infrared corners, how far parallax can move each of them in the colour image.
+    using ShiftFinder = std::function<std::vector<ParallaxShift>(const std::vector<cv::Point2f>&)>;
+    /// Element i of one list matches element i of the other. Pixels of the delivered pictures. With `shifts`, and the
+    /// infrared image as the query, each corner's search area follows its parallax.
+    void findCrossModalMatches(std::vector<cv::Point2f>* colourPoints, std::vector<cv::Point2f>* infraredPoints,
+                               const ShiftFinder& shifts = nullptr);
 
     const cv::Mat& infrared() const { return infrared8_; }
     const cv::Mat& grey() const { return grey_; }

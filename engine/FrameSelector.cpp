@@ -30,10 +30,35 @@ void copyInto(cv::Mat& matrix, const fieldcal::ImageFrame& frame, int type) {
     view.copyTo(matrix);
 }
 
+/// Appends a copy of a 16-bit image, or an empty image where there is none or none is wanted.
+void appendCopy(std::deque<cv::Mat>& queue, std::size_t limit, const fieldcal::ImageFrame16& frame, bool wanted) {
+    cv::Mat copy = takeOldest(queue, limit);
+    if (wanted && !frame.empty()) {
+        copyInto(copy, frame, CV_16UC1);
+    } else {
+        copy.release();
+    }
+    queue.push_back(std::move(copy));
+}
+
+void assign(const cv::Mat& image, int bytesPerPixel, ImagePairRecord* record) {
+    record->assign(static_cast<std::uint32_t>(image.cols), static_cast<std::uint32_t>(image.rows), image.data,
+                   static_cast<std::uint32_t>(bytesPerPixel));
+}
+
 }  // namespace
 
 void FrameSelector::push(const fieldcal::ImageFrame16& infrared, const fieldcal::ImageFrame32& colour) {
+    push(infrared, colour, {}, {});
+}
+
+void FrameSelector::push(const fieldcal::ImageFrame16& infrared, const fieldcal::ImageFrame32& colour,
+                         const fieldcal::ImageFrame16& right, const fieldcal::ImageFrame16& depth) {
     const std::size_t limit = 2 * step_ + 1;
+    // A pair is only ever selected from frames that came after the movement.
+    const bool mayBeSelected = state_ != WaitingToMove;
+    appendCopy(rightQueue_, limit, right, mayBeSelected);
+    appendCopy(depthQueue_, limit, depth, mayBeSelected);
     cv::Mat colourCopy = takeOldest(colourQueue_, limit);
     cv::Mat infraredCopy = takeOldest(infraredQueue_, limit);
     cv::Mat motion = takeOldest(motionQueue_, limit);
@@ -83,17 +108,17 @@ void FrameSelector::enter(State state) {
     state_ = state;
 }
 
-void FrameSelector::copySelectedPair(ImagePairRecord* infrared, ImagePairRecord* colour) const {
+void FrameSelector::copySelectedPair(ImagePairRecord* infrared, ImagePairRecord* colour) {
     logMessage(kInfo, kTag, "Before getting the images from the deques: %d %d", static_cast<int>(infraredQueue_.size()),
                static_cast<int>(colourQueue_.size()));
     const cv::Mat& infraredImage = infraredQueue_.at(counter_ - step_);
     const cv::Mat& colourImage = colourQueue_.at(counter_ - step_);
     logMessage(kInfo, kTag, "After");
-    infrared->assign(static_cast<std::uint32_t>(infraredImage.cols), static_cast<std::uint32_t>(infraredImage.rows),
-                     infraredImage.data, 2);
+    assign(infraredImage, 2, infrared);
     logMessage(kInfo, kTag, "infrared memcpy is finished");
-    colour->assign(static_cast<std::uint32_t>(colourImage.cols), static_cast<std::uint32_t>(colourImage.rows),
-                   colourImage.data, 4);
+    assign(colourImage, 4, colour);
+    assign(rightQueue_.at(counter_ - step_), 2, &selectedRight_);
+    assign(depthQueue_.at(counter_ - step_), 2, &selectedDepth_);
     logMessage(kInfo, kTag, "Found good image pairs!");
 }
 
@@ -102,6 +127,8 @@ void FrameSelector::reset() {
     colourQueue_.clear();
     infraredQueue_.clear();
     motionQueue_.clear();
+    rightQueue_.clear();
+    depthQueue_.clear();
 }
 
 }  // namespace vq

@@ -21,9 +21,15 @@ public:
 
     /// Copies the pair into the queues. Frames must not be empty.
     void push(const fieldcal::ImageFrame16& infrared, const fieldcal::ImageFrame32& colour);
+    /// The same with the right infrared image and the depth of the same grab, either of which may be empty.
+    void push(const fieldcal::ImageFrame16& infrared, const fieldcal::ImageFrame32& colour,
+              const fieldcal::ImageFrame16& right, const fieldcal::ImageFrame16& depth);
 
     /// True when a pair has just been selected and written into the two records.
     bool shouldUseThisFrame(ImagePairRecord* infrared, ImagePairRecord* colour);
+    /// The right infrared image and the depth of the pair that was just selected; empty where there were none.
+    const ImagePairRecord& selectedRight() const { return selectedRight_; }
+    const ImagePairRecord& selectedDepth() const { return selectedDepth_; }
 
     void reset();
     State state() const { return state_; }
@@ -34,7 +40,7 @@ private:
     /// show.
     float motionSince(std::size_t index) const;
     void enter(State state);
-    void copySelectedPair(ImagePairRecord* infrared, ImagePairRecord* colour) const;
+    void copySelectedPair(ImagePairRecord* infrared, ImagePairRecord* colour);
 
     const float moveThreshold_ = 8500.0F;
     const float stillThreshold_ = 4000.0F;
@@ -43,6 +49,9 @@ private:
     std::deque<cv::Mat> colourQueue_;
     std::deque<cv::Mat> infraredQueue_;
     std::deque<cv::Mat> motionQueue_;
+    std::deque<cv::Mat> rightQueue_;  ///< empty images while no pair can be selected from them
+    std::deque<cv::Mat> depthQueue_;  ///< likewise
+    ImagePairRecord selectedRight_, selectedDepth_;
     std::uint32_t counter_ = 0;
 };
 

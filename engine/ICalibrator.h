@@ -2,6 +2,7 @@
 
 #include "camera/ImageFrame.h"
 #include "engine/CalibratorResult.h"
+#include "engine/ParallaxReport.h"
 
 #include <cstdint>
 
@@ -12,8 +13,9 @@ namespace vq {
 /// Order of calls: `setCameraParameters` once the camera's calibration is read, then `setup`; during the lighting
 /// check `measureInfraredBrightness` per frame; during capture `inputFramesAndCheckMovement` per frame and, each time
 /// it answers 3, `inputImageAndTryCalibration` once; `resetState` whenever capture starts over.
-/// Threads: slots 0 to 5 belong to the processing thread. Slots 6 to 12 may be called from the interface's thread once
-/// `setCameraParameters` has run; they never wait for an estimation.
+/// `inputDistanceFrames` comes before each `inputFramesAndCheckMovement` where the module delivers such images.
+/// Threads: slots 0 to 5 and 13 to 15 belong to the processing thread. Slots 6 to 12 may be called from the interface's
+/// thread once `setCameraParameters` has run; they never wait for an estimation.
 class ICalibrator {
 public:
     virtual ~ICalibrator() = default;
@@ -42,6 +44,14 @@ public:
     /// Only x moves the rotation, about the vertical axis.
     virtual void drag(std::int32_t x, std::int32_t y) = 0;
     virtual void endDrag() = 0;
+    /// The right infrared image and the depth (millimetres) of the grab that the next call of
+    /// `inputFramesAndCheckMovement` feeds. Either may be empty: the module has none.
+    virtual void inputDistanceFrames(const fieldcal::ImageFrame16& right, const fieldcal::ImageFrame16& depth) = 0;
+    /// The stereo baseline that an earlier calibration of this module found, metres; 0 for none. Takes effect with the
+    /// next `setup`.
+    virtual void setRememberedBaseline(double metres) = 0;
+    /// What the attempt knows about distances so far.
+    virtual ParallaxReport parallax() const = 0;
 };
 
 }  // namespace vq

@@ -1,5 +1,6 @@
 #include "engine/MatchVerification.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
@@ -13,11 +14,14 @@ constexpr int kPatchArea = kPatch * kPatch;
 constexpr int kReach = 7;
 constexpr int kSearch = 2 * kReach + 1;
 constexpr int kWindow = kPatch + 2 * kReach;
-constexpr int kWorstCost = 162;
 constexpr double kFlat = 0.00001;
 constexpr float kMaxShiftPx = 2.0F;
 
-using CostTable = std::array<std::int32_t, kSearch * kSearch>;
+/// What one search gives: the costs, and the correlations that they are the whole numbers of.
+struct SearchResult {
+    std::array<std::int32_t, kSearch * kSearch> costs{};
+    std::array<double, kSearch * kSearch> correlations{};
+};
 
 cv::Point patchOrigin(const cv::Point2f& point) {
     return {static_cast<int>(point.x - 0.5F - 4.0F), static_cast<int>(point.y - 0.5F - 4.0F)};
@@ -78,7 +82,7 @@ public:
         }
     }
 
-    void fill(CostTable* costs) const {
+    void fill(SearchResult* result) const {
         std::int32_t patchSum = 0, patchSquare = 0;
         for (const std::int32_t value : patch_) {
             patchSum += value;
@@ -93,7 +97,8 @@ public:
                 const double covariance = kPatchArea * static_cast<double>(products[static_cast<std::size_t>(dx)]) -
                                           static_cast<double>(patchSum) * sums.sum[i];
                 const double variance = kPatchArea * static_cast<double>(sums.square[i]) - square(sums.sum[i]);
-                (*costs)[i] = cost(covariance, patchVariance * variance);
+                result->correlations[i] = correlation(covariance, patchVariance * variance);
+                result->costs[i] = cost(result->correlations[i]);
             }
         }
     }
@@ -102,10 +107,13 @@ private:
     static double square(std::int32_t value) { return static_cast<double>(value) * value; }
 
     /// Covariance and variances come multiplied by the 81 pixels; the quotient is the same.
-    static std::int32_t cost(double covariance, double varianceProduct) {
+    static double correlation(double covariance, double varianceProduct) {
         const double denominator = std::sqrt(varianceProduct);
-        if (!(denominator > kFlat * kPatchArea)) return kWorstCost;
-        const double value = (1.0 - covariance / denominator) * 9.0 * 9.0;
+        return denominator > kFlat * kPatchArea ? covariance / denominator : -1.0;
+    }
+
+    static std::int32_t cost(double correlation) {
+        const double value = (1.0 - correlation) * 9.0 * 9.0;
         return value > 0.0 ? static_cast<std::int32_t>(value) : 0;
     }
 
@@ -133,75 +141,113 @@ struct Offset {
     int dy = 0;
 };
 
+std::size_t indexOf(const Offset& offset, int row, int column) {
+    return static_cast<std::size_t>((offset.dy + kReach + row) * kSearch + offset.dx + kReach + column);
+}
+
 /// The first of the smallest costs in scan order.
-Offset bestOffset(const CostTable& costs) {
-    std::size_t best = 0;
-    for (std::size_t i = 1; i < costs.size(); ++i) {
-        if (costs[i] < costs[best]) best = i;
-    }
-    return {static_cast<int>(best) % kSearch - kReach, static_cast<int>(best) / kSearch - kReach};
+Offset bestOffset(const SearchResult& result) {
+    const auto& costs = result.costs;
+    const auto best = static_cast<int>(std::min_element(costs.begin(), costs.end()) - costs.begin());
+    return {best % kSearch - kReach, best / kSearch - kReach};
+}
+
+/// Where the slope of the parabola through the 3 x 3 values about an offset vanishes: one Newton step, in the value's
+/// own precision but for the reciprocal.
+template <typename Value, typename Values>
+cv::Point_<Value> newtonStep(const Values& c) {
+    const Value gx = (c(0, 1) - c(0, -1)) * Value(0.5);
+    const Value gy = (c(1, 0) - c(-1, 0)) * Value(0.5);
+    const Value dxx = c(0, 1) + c(0, -1) - Value(2) * c(0, 0);
+    const Value dyy = c(1, 0) + c(-1, 0) - Value(2) * c(0, 0);
+    const Value dxy = (c(1, 1) + c(-1, -1) - c(-1, 1) - c(1, -1)) * Value(0.25);
+    const double reciprocal = 1.0 / static_cast<double>(dxx * dyy - dxy * dxy);
+    return {static_cast<Value>(-static_cast<double>(dyy * gx - dxy * gy) * reciprocal),
+            static_cast<Value>(-static_cast<double>(dxx * gy - dxy * gx) * reciprocal)};
+}
+
+template <typename Value>
+bool isShort(const cv::Point_<Value>& step) {
+    return std::abs(step.x) <= 1 && std::abs(step.y) <= 1;
 }
 
 /// One Newton step on the 3 x 3 block of costs about the minimum; false when it leads nowhere near.
-bool subPixelOffset(const CostTable& costs, const Offset& offset, cv::Point2f* fraction) {
-    const auto c = [&](int row, int column) {
-        const int index = (offset.dy + kReach + row - 1) * kSearch + offset.dx + kReach + column - 1;
-        return static_cast<float>(costs[static_cast<std::size_t>(index)]);
-    };
-    const float gx = (c(1, 2) - c(1, 0)) * 0.5F;
-    const float gy = (c(2, 1) - c(0, 1)) * 0.5F;
-    const float dxx = c(1, 2) + c(1, 0) - 2.0F * c(1, 1);
-    const float dyy = c(2, 1) + c(0, 1) - 2.0F * c(1, 1);
-    const float dxy = (c(2, 2) + c(0, 0) - c(0, 2) - c(2, 0)) * 0.25F;
-    const double reciprocal = 1.0 / static_cast<double>(dxx * dyy - dxy * dxy);
-    fraction->x = static_cast<float>(-static_cast<double>(dyy * gx - dxy * gy) * reciprocal);
-    fraction->y = static_cast<float>(-static_cast<double>(dxx * gy - dxy * gx) * reciprocal);
-    return std::abs(fraction->x) <= 1.0F && std::abs(fraction->y) <= 1.0F;
+bool subPixelOffset(const SearchResult& result, const Offset& offset, cv::Point2f* fraction) {
+    *fraction = newtonStep<float>(
+        [&](int row, int column) { return static_cast<float>(result.costs[indexOf(offset, row, column)]); });
+    return isShort(*fraction);
 }
 
-/// Moves the infrared point of a good pair; false drops the pair.
-bool verifyPair(const cv::Mat& colour, const cv::Mat& infrared, const cv::Point2f& colourPoint,
-                cv::Point2f* infraredPoint, CostTable* costs) {
-    const cv::Point colourOrigin = patchOrigin(colourPoint);
-    const cv::Point infraredOrigin = patchOrigin(*infraredPoint);
-    if (!searchFits(colourOrigin, colour.size()) || !searchFits(infraredOrigin, infrared.size())) return false;
-    PatchSearch(colour, colourOrigin, infrared, infraredOrigin).fill(costs);
-    const Offset offset = bestOffset(*costs);
-    if (std::abs(offset.dx) >= kReach || std::abs(offset.dy) >= kReach) return false;
-    cv::Point2f fraction;
-    if (!subPixelOffset(*costs, offset, &fraction)) return false;
-    const cv::Point2f shift(static_cast<float>(offset.dx) + fraction.x, static_cast<float>(offset.dy) + fraction.y);
-    if (std::sqrt(shift.x * shift.x + shift.y * shift.y) > kMaxShiftPx) return false;
-    *infraredPoint += shift;
-    return true;
-}
-
-/// Verifies every pair from `first` on by steps of two; `kept` gets one flag a pair.
-void verifyEveryOther(const cv::Mat& colour, const cv::Mat& infrared, const std::vector<cv::Point2f>& colourPoints,
-                      std::size_t first, std::vector<cv::Point2f>* infraredPoints, std::vector<char>* kept) {
-    CostTable costs{};
-    for (std::size_t i = first; i < colourPoints.size(); i += 2) {
-        (*kept)[i] = verifyPair(colour, infrared, colourPoints[i], &(*infraredPoints)[i], &costs) ? 1 : 0;
+/// The offset at which the correlation itself is largest: near the one of the smallest cost, whose whole numbers many
+/// neighbours can share. Falls back on `rounded` where the correlation has no such place.
+cv::Point2d exactOffset(const SearchResult& result, const Offset& smallest, const cv::Point2f& rounded) {
+    Offset peak = smallest;
+    for (int row = -1; row <= 1; ++row) {
+        for (int column = -1; column <= 1; ++column) {
+            const double correlation = result.correlations[indexOf(smallest, row, column)];
+            if (correlation > result.correlations[indexOf(peak, 0, 0)])
+                peak = {smallest.dx + column, smallest.dy + row};
+        }
     }
+    if (std::abs(peak.dx) >= kReach || std::abs(peak.dy) >= kReach) return rounded;
+    const auto step = newtonStep<double>(
+        [&](int row, int column) { return result.correlations[indexOf(peak, row, column)]; });
+    return isShort(step) ? cv::Point2d(peak.dx, peak.dy) + step : cv::Point2d(rounded);
 }
+
+/// The images of a pair, and room for one search.
+struct Verifier {
+    const cv::Mat& colour;
+    const cv::Mat& infrared;
+    SearchResult result;
+
+    /// Moves the infrared point of a good match, and tells where it lies exactly; false drops the match.
+    ///
+    /// The offset found is the one between the patches' centres, which are whole pixels. The matched place therefore
+    /// lies as far from the infrared patch's centre as the colour corner does from its own.
+    bool verify(const cv::Point2f& colourPoint, cv::Point2f* infraredPoint, cv::Point2f* exactInfraredPoint) {
+        const cv::Point colourOrigin = patchOrigin(colourPoint);
+        const cv::Point infraredOrigin = patchOrigin(*infraredPoint);
+        if (!searchFits(colourOrigin, colour.size()) || !searchFits(infraredOrigin, infrared.size())) return false;
+        PatchSearch(colour, colourOrigin, infrared, infraredOrigin).fill(&result);
+        const Offset offset = bestOffset(result);
+        if (std::abs(offset.dx) >= kReach || std::abs(offset.dy) >= kReach) return false;
+        cv::Point2f fraction;
+        if (!subPixelOffset(result, offset, &fraction)) return false;
+        const cv::Point2f shift(static_cast<float>(offset.dx) + fraction.x, static_cast<float>(offset.dy) + fraction.y);
+        if (std::sqrt(shift.x * shift.x + shift.y * shift.y) > kMaxShiftPx) return false;
+        *infraredPoint += shift;
+        *exactInfraredPoint = cv::Point2d(infraredOrigin) + exactOffset(result, offset, shift) +
+                              cv::Point2d(colourPoint) - cv::Point2d(colourOrigin);
+        return true;
+    }
+};
 
 }  // namespace
 
 void verifyMatches(const cv::Mat& colour, const cv::Mat& infrared, std::vector<cv::Point2f>* colourPoints,
-                   std::vector<cv::Point2f>* infraredPoints) {
+                   std::vector<cv::Point2f>* infraredPoints, std::vector<cv::Point2f>* exactInfraredPoints) {
     std::vector<char> kept(colourPoints->size());
-    auto odd = std::async(std::launch::async,
-                          [&] { verifyEveryOther(colour, infrared, *colourPoints, 1, infraredPoints, &kept); });
-    verifyEveryOther(colour, infrared, *colourPoints, 0, infraredPoints, &kept);
+    std::vector<cv::Point2f> exact(colourPoints->size());
+    const auto verifyEveryOther = [&](std::size_t first) {
+        Verifier verifier{colour, infrared, {}};
+        for (std::size_t i = first; i < kept.size(); i += 2)
+            kept[i] = verifier.verify((*colourPoints)[i], &(*infraredPoints)[i], &exact[i]) ? 1 : 0;
+    };
+    auto odd = std::async(std::launch::async, verifyEveryOther, 1);
+    verifyEveryOther(0);
     odd.get();
     std::size_t count = 0;
     for (std::size_t i = 0; i < kept.size(); ++i) {
         if (kept[i] == 0) continue;
         (*colourPoints)[count] = (*colourPoints)[i];
-        (*infraredPoints)[count++] = (*infraredPoints)[i];
+        (*infraredPoints)[count] = (*infraredPoints)[i];
+        exact[count++] = exact[i];
     }
     colourPoints->resize(count);
     infraredPoints->resize(count);
+    exact.resize(count);
+    if (exactInfraredPoints != nullptr) *exactInfraredPoints = std::move(exact);
 }
 
 }  // namespace vq

@@ -12,7 +12,10 @@ namespace vq {
 ///
 /// Both images CV_8UC1; both lists equally long, replaced by the kept pairs in their order. Any thread; uses a
 /// second one while it works.
+///
+/// The moved infrared points carry what whole-pixel patches and whole-number costs leave over: 0.4 px in each axis.
+/// `exactInfraredPoints` (may be null) gets, for each kept pair, the infrared place without it.
 void verifyMatches(const cv::Mat& colour, const cv::Mat& infrared, std::vector<cv::Point2f>* colourPoints,
-                   std::vector<cv::Point2f>* infraredPoints);
+                   std::vector<cv::Point2f>* infraredPoints, std::vector<cv::Point2f>* exactInfraredPoints = nullptr);
 
 }  // namespace vq

@@ -1,25 +1,51 @@
 #pragma once
 
 #include "engine/CameraPair.h"
+#include "engine/MeasuredMatch.h"
+#include "engine/StereoScale.h"
 
 #include <Eigen/Core>
-#include <opencv2/core.hpp>
 
+#include <optional>
 #include <vector>
 
 namespace vq {
 
-/// A rotation fitted to every verified match of an attempt.
-struct PolishedRotation {
-    Eigen::Vector3d anglesRad;
-    Eigen::Vector3d deviationRad;  ///< one standard deviation of each angle, from the residuals' spread
+/// Where an infrared place at a known distance appears in the colour image. Pixels of the infrared and of the colour
+/// model; `translationM`: depth to colour, in the colour camera's frame.
+struct Projection {
+    CameraPair cameras;
+    Eigen::Vector3d translationM = Eigen::Vector3d::Zero();
+
+    /// K_colour · (R · K_infrared⁻¹ · p + t / depth), divided by its third coordinate.
+    Eigen::Vector2d colourPoint(const Eigen::Matrix3d& rotation, const cv::Point2f& infrared,
+                                double inverseDepth) const;
+    /// The infrared place at which something at infinity would be seen where the colour camera sees this: the place
+    /// freed of its parallax.
+    cv::Point2f withoutParallax(const Eigen::Matrix3d& rotation, const cv::Point2f& infrared,
+                                double inverseDepth) const;
 };
 
-/// Starting at the vote's winner, one robust fit over all matches of the attempt: the rounds see 84 of them at a time,
-/// and what they leave unused halves the error (docs/estimation.md). Colour points in pixels of the colour model.
-/// False when the fit fails, when too few matches support it, or when it leaves the winner by more than its rounds
-/// scatter; the winner then stands. Any thread.
-bool polishRotation(const std::vector<cv::Point2f>& infraredPoints, const std::vector<cv::Point2f>& colourPoints,
-                    const CameraPair& cameras, const Eigen::Vector3d& winnerRad, PolishedRotation* out);
+/// Inverse depth of a place, 1/m: from its disparity where there is a scale, else from the depth image. NaN: unknown.
+double inverseDepthOf(const MeasuredPlace& place, const StereoScale* scale);
+
+/// How matches are fitted.
+struct FitOptions {
+    double cauchy = 0.3;            ///< where the Cauchy loss bends, in deviations of a match
+    bool estimateScale = false;     ///< also the disparities' scale, from its value in `scale`
+    const StereoScale* scale = nullptr;
+};
+
+struct FittedRotation {
+    Eigen::Matrix3d rotation;
+    Eigen::Vector3d deviationRad;      ///< one standard deviation about each axis, from the residuals' spread
+    double pixelMetres = 0;            ///< with `estimateScale`
+    double pixelMetresDeviation = 0;
+};
+
+/// Robust fit of the rotation, with the exact geometry of each match's distance: iteratively reweighted Gauss-Newton
+/// on the Cauchy loss. Matches of unknown distance count as infinitely far. None when it does not converge. Any thread.
+std::optional<FittedRotation> fitRotation(const std::vector<MeasuredMatch>& matches, const Projection& projection,
+                                          const Eigen::Matrix3d& start, const FitOptions& options);
 
 }  // namespace vq

@@ -3,6 +3,7 @@
 #include "diagnostics/Assertions.h"
 #include "diagnostics/Logger.h"
 #include "engine/MatchVerification.h"
+#include "engine/PatchAlignment.h"
 #include "engine/Rotation.h"
 #include "engine/Stopwatch.h"
 
@@ -45,37 +46,47 @@ SensorCalibrator::SensorCalibrator(RegistrationContext& context, const SensorCal
       parameters_(checked(parameters)),
       grid_(parameters.gridColumns, parameters.gridRows, parameters.cellMinimum) {}
 
-CameraPair SensorCalibrator::cameraPair() const {
+Projection SensorCalibrator::projection() const {
     const std::lock_guard guard(context_.lock);
-    return {context_.infraredModel, context_.colourModel, context_.colourScaling};
+    return {{context_.infraredModel, context_.colourModel, context_.colourScaling},
+            context_.defaultExtrinsics.topRightCorner<3, 1>().cast<double>()};
 }
 
 void SensorCalibrator::setup() {
+    projection_ = projection();
     RotationSearch search;
-    search.cameras = cameras_ = cameraPair();
+    search.cameras = projection_.cameras;
     search.stepDeg = parameters_.angleSearchStep;
     search.workingCount = parameters_.workingCount;
+    fieldcal::CameraModel depthModel;
     {
         const std::lock_guard guard(context_.lock);
         const auto valuesDeg = context_.state->values();
         search.initialAnglesRad = Eigen::Vector3f(valuesDeg[0], valuesDeg[1], valuesDeg[2]) / kDegreesPerRadian;
+        depthModel = context_.depthModel;
     }
-    matcher_.setup(cameras_, search.initialAnglesRad.cast<double>(), search.range, kMatcherMarginDeg);
+    initialRotation_ = rotationFromAngles(search.initialAnglesRad.cast<double>());
+    matcher_.setup(search.cameras, search.initialAnglesRad.cast<double>(), search.range, kMatcherMarginDeg);
     estimator_.setup(search);
+    meter_.setup(search.cameras.infrared, depthModel, rememberedBaselineM_);
+    record_.setup(projection_);
     frameUsable_ = false;
 }
 
-bool SensorCalibrator::prepare(const ImagePairRecord& infrared, const ImagePairRecord& colour) {
-    frameUsable_ = hasSize(infrared, cameras_.infrared) && hasSize(colour, cameras_.colour);
+bool SensorCalibrator::prepare(const SelectedImages& images) {
+    const ImagePairRecord &infrared = images.infrared, &colour = images.colour;
+    const CameraPair& cameras = projection_.cameras;
+    frameUsable_ = hasSize(infrared, cameras.infrared) && hasSize(colour, cameras.colour);
     if (!frameUsable_) {
         logMessage(kError, "SensorCalibrator::prepare",
                    "The pair [%u x %u] and [%u x %u] does not belong to cameras of [%d x %d] and [%d x %d]",
-                   infrared.width, infrared.height, colour.width, colour.height, cameras_.infrared.width,
-                   cameras_.infrared.height, cameras_.colour.width, cameras_.colour.height);
+                   infrared.width, infrared.height, colour.width, colour.height, cameras.infrared.width,
+                   cameras.infrared.height, cameras.colour.width, cameras.colour.height);
         matcher_.statistics() = {};
         return false;
     }
     if (estimator_.stopped()) return frameUsable_ = false;
+    meter_.beginPair(asMatrix(infrared, CV_16UC1), asMatrix(images.right, CV_16UC1), asMatrix(images.depth, CV_16UC1));
     matcher_.prepare(asMatrix(infrared, CV_16UC1), asMatrix(colour, CV_8UC4), parameters_.infraredConversionMode);
     return true;
 }
@@ -83,17 +94,20 @@ bool SensorCalibrator::prepare(const ImagePairRecord& infrared, const ImagePairR
 void SensorCalibrator::generateMatches(bool keep, MatchLists* beforeVerification, MatchLists* afterVerification) {
     constexpr const char* tag = "SensorCalibrator::generateMatches";
     const auto size = [](const std::vector<cv::Point2f>& points) { return static_cast<int>(points.size()); };
-    matches_.colour.clear();
-    matches_.infrared.clear();
+    matches_ = {};
     grid_.beginPair();
     frameUsable_ = frameUsable_ && !estimator_.stopped();
-    if (frameUsable_) matcher_.findCrossModalMatches(&matches_.colour, &matches_.infrared);
+    if (frameUsable_) {
+        matcher_.findCrossModalMatches(&matches_.colour, &matches_.infrared,
+                                       [this](const auto& corners) { return possibleShifts(corners); });
+    }
     logMessage(kInfo, tag, "number of matches: rgb = %d, ir = %d", size(matches_.colour), size(matches_.infrared));
     if (keep && beforeVerification != nullptr) *beforeVerification = matches_;
 
     if (estimator_.stopped()) matches_ = {};
     Stopwatch watch;
-    verifyMatches(matcher_.grey(), matcher_.infrared(), &matches_.colour, &matches_.infrared);
+    verifyMatches(matcher_.grey(), matcher_.infrared(), &matches_.colour, &matches_.infrared,
+                  &matches_.exactInfrared);
     matcher_.statistics().verificationSeconds = watch.lap();
     matcher_.statistics().verified = size(matches_.infrared);
     logMessage(kInfo, tag, "number of matches after ZNCC: rgb = %d, ir = %d", size(matches_.colour),
@@ -104,14 +118,62 @@ void SensorCalibrator::generateMatches(bool keep, MatchLists* beforeVerification
     if (!hasEnoughFilledCells()) frameUsable_ = false;
 }
 
+std::vector<ParallaxShift> SensorCalibrator::possibleShifts(const std::vector<cv::Point2f>& infraredCorners) const {
+    const StereoScale assumed = meter_.assumedScale();
+    const StereoScale* scale = meter_.scale() != nullptr ? meter_.scale() : &assumed;
+    std::vector<ParallaxShift> shifts;
+    shifts.reserve(infraredCorners.size());
+    for (const MeasuredPlace& place : meter_.lookUp(infraredCorners))
+        shifts.push_back(possibleShift(projection_, initialRotation_, place, scale, meter_.seesDisparities()));
+    return shifts;
+}
+
+/// Distances of the verified matches at their exact places, and of whatever else may be aligned.
+void SensorCalibrator::measureDistances(std::vector<MeasuredPlace>* matches,
+                                        std::vector<MeasuredPlace>* texturedPlaces) {
+    Stopwatch watch;
+    std::vector<cv::Point2f> points = matches_.exactInfrared;
+    const std::vector<cv::Point2f> textured = vq::texturedPlaces(matcher_.infrared());
+    points.insert(points.end(), textured.begin(), textured.end());
+    std::vector<MeasuredPlace> places = meter_.lookUp(points);
+    meter_.refine(&places);
+    meter_.learnFrom(places);
+    const auto end = places.begin() + static_cast<std::ptrdiff_t>(matches_.exactInfrared.size());
+    matches->assign(places.begin(), end);
+    texturedPlaces->assign(end, places.end());
+    matcher_.statistics().distanceSeconds += watch.lap();
+}
+
 void SensorCalibrator::appendToAttempt() {
-    std::vector<cv::Point2f> colourModelPoints;
-    colourModelPoints.reserve(matches_.colour.size());
-    for (const cv::Point2f& point : matches_.colour)
-        colourModelPoints.push_back(cameras_.colourModelPoint(point));
-    grid_.add(colourModelPoints, matches_.infrared, cameras_.infrared.width, cameras_.infrared.height);
-    attemptMatches_.colour.insert(attemptMatches_.colour.end(), colourModelPoints.begin(), colourModelPoints.end());
-    attemptMatches_.infrared.insert(attemptMatches_.infrared.end(), matches_.infrared.begin(), matches_.infrared.end());
+    std::vector<MeasuredPlace> places, textured;
+    if (frameUsable_) measureDistances(&places, &textured);
+    places.resize(matches_.colour.size());
+    const StereoScale assumed = meter_.assumedScale();
+    const StereoScale* scale = meter_.scale() != nullptr ? meter_.scale() : &assumed;
+    std::vector<MeasuredMatch> measured;
+    std::vector<cv::Point2f> colourPoints, infraredPoints;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const cv::Point2f colour = projection_.cameras.colourModelPoint(matches_.colour[i]);
+        measured.push_back({places[i], colour});
+        const double inverseDepth = inverseDepthOf(places[i], scale);
+        if (std::isnan(inverseDepth) && !isFarAway(places[i])) continue;
+        colourPoints.push_back(colour);
+        infraredPoints.push_back(std::isnan(inverseDepth)
+                                     ? matches_.infrared[i]
+                                     : projection_.withoutParallax(initialRotation_, matches_.infrared[i], inverseDepth));
+    }
+    const fieldcal::CameraModel& infrared = projection_.cameras.infrared;
+    grid_.add(colourPoints, infraredPoints, infrared.width, infrared.height);
+    if (frameUsable_) {
+        record_.addPair(matcher_.infrared(), matcher_.grey(), std::move(measured), std::move(textured),
+                        meter_.seesDisparities());
+    }
+}
+
+/// Whether a match without a distance may count as infinitely far: when nothing could have told its distance, or when
+/// the depth image shows that nothing within its reach is there.
+bool SensorCalibrator::isFarAway(const MeasuredPlace& place) const {
+    return !meter_.seesDisparities() || meter_.isBeyondDepth(place.infrared);
 }
 
 bool SensorCalibrator::hasEnoughFilledCells() const {
@@ -154,7 +216,7 @@ bool SensorCalibrator::isAcceptable(const Eigen::Vector3d& anglesRad) const {
 void SensorCalibrator::countFailure() {
     if (++failureStreak_ <= kToleratedFailures) return;
     grid_.clear();
-    attemptMatches_ = {};
+    record_.clear();
     failureStreak_ = 0;
 }
 
@@ -165,11 +227,10 @@ void SensorCalibrator::recordSolution() {
     const RotationVoteStore::Record* best = estimator_.lastBest();
     if (best == nullptr || std::isnan(best->anglesRad[0])) return;
     Eigen::Vector3d anglesRad = best->anglesRad;
-    PolishedRotation polished;
-    if (polishRotation(attemptMatches_.infrared, attemptMatches_.colour, cameras_, anglesRad, &polished) &&
-        isAcceptable(polished.anglesRad)) {
-        anglesRad = polished.anglesRad;
-        deviationDeg_ = degrees(polished.deviationRad);
+    const auto polished = record_.polish(anglesRad);
+    if (polished && isAcceptable(polished->anglesRad)) {
+        anglesRad = polished->anglesRad;
+        deviationDeg_ = degrees(polished->deviationRad);
     }
     const Eigen::Vector3f anglesDeg = (anglesRad * kDegreesPerRadian).cast<float>();
     {
@@ -184,7 +245,8 @@ void SensorCalibrator::recordSolution() {
 void SensorCalibrator::reset() {
     const std::lock_guard guard(lock_);
     grid_.clear();
-    attemptMatches_ = {};
+    record_.clear();
+    meter_.reset();
     estimator_.forgetResults();
     attemptCount_ = 0;
     failureStreak_ = 0;

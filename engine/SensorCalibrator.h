@@ -1,11 +1,12 @@
 #pragma once
 
+#include "engine/AttemptRecord.h"
 #include "engine/CrossModalMatcher.h"
+#include "engine/DistanceMeter.h"
 #include "engine/ImagePairRecord.h"
 #include "engine/MatchGrid.h"
 #include "engine/RegistrationContext.h"
 #include "engine/RotationEstimator.h"
-#include "engine/RotationPolish.h"
 #include "engine/SensorCalibratorParameters.h"
 
 #include <opencv2/core.hpp>
@@ -22,6 +23,13 @@ namespace vq {
 struct MatchLists {
     std::vector<cv::Point2f> colour;
     std::vector<cv::Point2f> infrared;
+    std::vector<cv::Point2f> exactInfrared;  ///< after verification: without what whole-pixel patches leave over
+};
+
+/// The images of a selected pair. Infrared, right infrared and depth: 2 bytes a pixel; colour: 4 bytes. The last two
+/// are empty where the module has none.
+struct SelectedImages {
+    ImagePairRecord infrared, colour, right, depth;
 };
 
 /// The core of the engine: turns prepared pairs into correspondences and decides when the rotation they give is stable.
@@ -34,8 +42,11 @@ public:
 
     /// Search areas and estimation about the registration's current angles. The grid stays.
     void setup();
-    /// Converts the selected pair. False when its sizes are not those of the cameras.
-    bool prepare(const ImagePairRecord& infrared, const ImagePairRecord& colour);
+    /// The stereo baseline that an earlier calibration of the module found, metres; 0 for none. Takes effect with the
+    /// next `setup`.
+    void setRememberedBaseline(double metres) { rememberedBaselineM_ = metres; }
+    /// Converts the selected pair. False when the sizes of infrared or colour are not those of the cameras.
+    bool prepare(const SelectedImages& images);
     /// Matches and verifies the prepared pair and adds it to the grid. The lists of the pair are replaced; with `keep`
     /// set, the lists before and after verification are copied where wanted.
     void generateMatches(bool keep = false, MatchLists* beforeVerification = nullptr,
@@ -59,9 +70,13 @@ public:
     int attemptCount() const { return attemptCount_; }
     /// One standard deviation of each angle of the recorded solution, degrees; none without a polished solution.
     std::optional<std::array<double, 3>> deviationDeg() const { return deviationDeg_; }
+    ParallaxReport parallax() const { return record_.report(); }
 
 private:
-    CameraPair cameraPair() const;
+    Projection projection() const;
+    std::vector<ParallaxShift> possibleShifts(const std::vector<cv::Point2f>& infraredCorners) const;
+    void measureDistances(std::vector<MeasuredPlace>* matches, std::vector<MeasuredPlace>* texturedPlaces);
+    bool isFarAway(const MeasuredPlace& place) const;
     void appendToAttempt();
     void decide();
     bool isAcceptable(const Eigen::Vector3d& anglesRad) const;
@@ -73,9 +88,12 @@ private:
     CrossModalMatcher matcher_;
     MatchGrid grid_;
     RotationEstimator estimator_;
-    CameraPair cameras_;
+    Projection projection_;
+    Eigen::Matrix3d initialRotation_ = Eigen::Matrix3d::Identity();  ///< that the attempt started from
+    double rememberedBaselineM_ = 0;
+    DistanceMeter meter_;
+    AttemptRecord record_{meter_};
     MatchLists matches_;
-    MatchLists attemptMatches_;  ///< every verified match since the grid was last emptied; colour in model pixels
     bool frameUsable_ = false;
 
     std::mutex lock_;

@@ -73,8 +73,9 @@ bool RecordingCalibration::play(Sensor& sensor, CalibrationAttempt& attempt, boo
         frameWatch.lap();
         if (!sensor.grab(true) || !reports_.first().isEmpty()) return false;
         ++report_.framesUsed;
-        const auto outcome =
-            attempt.processFrame(sensor.frames().leftInfrared, colourOf(sensor.frames(), platformCamera_));
+        const FrameRecords& frames = sensor.frames();
+        const auto outcome = attempt.processFrame(
+            {frames.leftInfrared, colourOf(frames, platformCamera_), frames.rightInfrared, frames.depth});
         report_.frameSeconds += frameWatch.lap();
         *solved = outcome == CalibrationAttempt::Outcome::Solved;
         if (outcome == CalibrationAttempt::Outcome::Failed) {

@@ -31,18 +31,19 @@ void CalibrationAttempt::start(bool secondCamera) {
     running_ = true;
 }
 
-CalibrationAttempt::Outcome CalibrationAttempt::processFrame(const ImageFrame16& infrared, const ImageFrame32& colour) {
-    if (!running_ || infrared.empty() || colour.empty()) return Outcome::Continues;
+CalibrationAttempt::Outcome CalibrationAttempt::processFrame(const CaptureFrames& frames) {
+    if (!running_ || frames.infrared.empty() || frames.colour.empty()) return Outcome::Continues;
     qInfo("Checking the lighting condition...");
     std::uint16_t brightness = 0;
-    calibrator_.measureInfraredBrightness(infrared, &brightness);
+    calibrator_.measureInfraredBrightness(frames.infrared, &brightness);
     const bool lit = light_.isLitForCapture(brightness);
     listener_.returnToWellLitArea(!lit);
     if (!lit) {
         listener_.movementText("");
         return Outcome::Continues;
     }
-    switch (calibrator_.inputFramesAndCheckMovement(infrared, colour).code) {
+    calibrator_.inputDistanceFrames(frames.right, frames.depth);
+    switch (calibrator_.inputFramesAndCheckMovement(frames.infrared, frames.colour).code) {
         case vq::RotateDevice:
             listener_.movementText(kMoveText);
             break;
@@ -50,17 +51,17 @@ CalibrationAttempt::Outcome CalibrationAttempt::processFrame(const ImageFrame16&
             listener_.movementText(kPauseText);
             break;
         case vq::ProcessImagePair:
-            return addPair(infrared, colour);
+            return addPair(frames);
         default:
             break;
     }
     return Outcome::Continues;
 }
 
-CalibrationAttempt::Outcome CalibrationAttempt::addPair(const ImageFrame16& infrared, const ImageFrame32& colour) {
+CalibrationAttempt::Outcome CalibrationAttempt::addPair(const CaptureFrames& frames) {
     qInfo("Adding new infrared color pair...");
     listener_.pairCaptured();
-    listener_.pairPictures(infrared, colour);
+    listener_.pairPictures(frames.infrared, frames.colour);
     const vq::CalibratorResult result = calibrator_.inputImageAndTryCalibration();
     ++photoCount_;
     listener_.calibrationProgress(progressAfterPairs(photoCount_));

@@ -9,6 +9,14 @@
 
 namespace fieldcal {
 
+/// What an attempt takes of one grab. The right infrared image and the depth may be empty: the module has none.
+struct CaptureFrames {
+    const ImageFrame16& infrared;
+    const ImageFrame32& colour;
+    const ImageFrame16& right;
+    const ImageFrame16& depth;
+};
+
 /// One calibration attempt of one colour camera: light gate, automatic capture, the engine's answers, the limit of
 /// photo pairs. The references must outlive it. One thread.
 class CalibrationAttempt {
@@ -27,7 +35,7 @@ public:
     };
     /// Takes one frame set, which must be fresh: it may have been grabbed only once and must not be empty (empty ones
     /// are ignored). After another outcome than `Continues` nothing happens until an attempt is started.
-    Outcome processFrame(const ImageFrame16& infrared, const ImageFrame32& colour);
+    Outcome processFrame(const CaptureFrames& frames);
     /// Takes no more frames until an attempt is started.
     void cancel() { running_ = false; }
     /// Ends a failed attempt: resets the engine and tells the user what to try.
@@ -37,7 +45,7 @@ public:
     std::int32_t photoCount() const { return photoCount_; }
 
 private:
-    Outcome addPair(const ImageFrame16& infrared, const ImageFrame32& colour);
+    Outcome addPair(const CaptureFrames& frames);
     Outcome judge(const vq::CalibratorResult& result) const;
 
     vq::ICalibrator& calibrator_;

@@ -170,7 +170,9 @@ void Workflow::startCalibration(const Snapshot& now) {
 
 void Workflow::processFrame(const Snapshot& now) {
     const std::int32_t photosBefore = attempt_.photoCount();
-    const CalibrationAttempt::Outcome outcome = attempt_.processFrame(sensor_->frames().leftInfrared, colourFrame());
+    const FrameRecords& frames = sensor_->frames();
+    const CalibrationAttempt::Outcome outcome =
+        attempt_.processFrame({frames.leftInfrared, colourFrame(), frames.rightInfrared, frames.depth});
     if (attempt_.photoCount() > photosBefore) tellDetail();
     switch (outcome) {
         case CalibrationAttempt::Outcome::Continues:

@@ -1,7 +1,6 @@
 #include "engine/MatchGrid.h"
 #include "engine/RotationEstimator.h"
 #include "engine/RotationFit.h"
-#include "engine/RotationPolish.h"
 #include "tests/engine/Matchers.h"
 #include "tests/engine/Scenes.h"
 
@@ -73,9 +72,6 @@ TEST_F(Estimation, SolvesThroughOutliersAndNoise) {
         Eigen::Vector3d anglesRad;
         ASSERT_TRUE(vote(pairs, seed, &anglesRad));
         EXPECT_THAT(anglesRad, NearAngles(truthRad, 0.1 * kDeg));
-        PolishedRotation polished;
-        ASSERT_TRUE(polishRotation(pairs.infrared, pairs.colour, kCameras, anglesRad, &polished));
-        EXPECT_THAT(polished.anglesRad, NearAngles(truthRad, 0.05 * kDeg));
     }
 }
 

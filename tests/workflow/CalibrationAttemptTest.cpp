@@ -40,6 +40,9 @@ public:
     void beginDrag(std::int32_t, std::int32_t) override {}
     void drag(std::int32_t, std::int32_t) override {}
     void endDrag() override {}
+    void inputDistanceFrames(const ImageFrame16&, const ImageFrame16&) override {}
+    void setRememberedBaseline(double) override {}
+    vq::ParallaxReport parallax() const override { return {}; }
 
 private:
     std::int32_t note(const char* call, std::int32_t result) {
@@ -80,12 +83,13 @@ protected:
     Outcome feed(int frames) {
         Outcome outcome = Outcome::Continues;
         for (int i = 0; i < frames; ++i)
-            outcome = attempt.processFrame(infrared, colour);
+            outcome = attempt.processFrame({infrared, colour, none, none});
         if (outcome == Outcome::Failed) attempt.fail();
         return outcome;
     }
 
     ImageFrame16 infrared;
+    const ImageFrame16 none;
     ImageFrame32 colour;
     ScriptedCalibrator calibrator;
     Notes notes;
@@ -146,8 +150,8 @@ TEST_F(CalibrationAttemptTest, DarkAndEmptyFramesNeverReachTheEngine) {
     EXPECT_THAT(notes.movement, ElementsAre("", ""));
 
     calibrator.brightness = 130;  // exactly at the threshold is lit during capture
-    attempt.processFrame(infrared, ImageFrame32());
-    attempt.processFrame(ImageFrame16(), colour);
+    attempt.processFrame({infrared, ImageFrame32(), none, none});
+    attempt.processFrame({none, colour, none, none});
     EXPECT_EQ(calibrator.calls, "");
     feed(1);
     EXPECT_EQ(notes.darkness.back(), false);

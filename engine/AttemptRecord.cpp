@@ -1,0 +1,233 @@
+#include "engine/AttemptRecord.h"
+
+#include "engine/PatchAlignment.h"
+#include "engine/Rotation.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace vq {
+namespace {
+
+constexpr double kMatchCauchyPx = 0.3;
+constexpr double kPatchCauchy = 1.5;  ///< deviations
+constexpr double kNearPx = 12.0;
+constexpr double kMaxDepartureRad = 0.25 / kDegreesPerRadian;
+constexpr double kMaxAlignmentRad = 0.1 / kDegreesPerRadian;
+constexpr std::size_t kMinimumMatches = 30;
+constexpr std::size_t kMinimumPatches = 150;
+constexpr int kAreaColumns = 4;
+constexpr int kAreaRows = 3;
+constexpr std::size_t kMostPerArea = 60;
+
+/// What the fit has to show before it may tell the baseline.
+constexpr std::size_t kMinimumForScale = 100;
+constexpr double kLargestScaleDeviation = 0.03;
+constexpr double kSmallestBaselineM = 0.015, kLargestBaselineM = 0.2;
+/// Patches are aligned anew when the scale has moved by this share.
+constexpr double kScaleChange = 0.03;
+
+/// Without any distances, scenes are taken to lie 20 m away, give or take: one deviation of the inverse depth.
+constexpr double kUnseenInverseDepth = 0.05;
+/// What imagers may be misaligned against each other without anybody knowing, in pixels of disparity.
+constexpr double kUnknownOffsetPx = 0.03;
+constexpr double kFarInverseDepth = 0.01;
+
+std::size_t areaOf(const cv::Point2f& point, const fieldcal::CameraModel& infrared) {
+    const auto share = [](float position, int size, int count) {
+        return std::clamp(static_cast<int>(position * static_cast<float>(count) / static_cast<float>(size)), 0,
+                          count - 1);
+    };
+    return static_cast<std::size_t>(share(point.y, infrared.height, kAreaRows) * kAreaColumns +
+                                    share(point.x, infrared.width, kAreaColumns));
+}
+
+/// At most so many of the matches in each area of the infrared image, spread evenly over what it has: a foreground full
+/// of detail must not outvote the rest of the scene.
+std::vector<MeasuredMatch> balanced(const std::vector<MeasuredMatch>& matches, const fieldcal::CameraModel& infrared) {
+    std::array<std::vector<const MeasuredMatch*>, kAreaColumns * kAreaRows> areas;
+    for (const MeasuredMatch& match : matches)
+        areas[areaOf(match.place.infrared, infrared)].push_back(&match);
+    std::vector<MeasuredMatch> kept;
+    for (const auto& area : areas) {
+        const std::size_t count = std::min(area.size(), kMostPerArea);
+        for (std::size_t i = 0; i < count; ++i)
+            kept.push_back(*area[i * area.size() / count]);
+    }
+    return kept;
+}
+
+double medianOf(std::vector<double> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+double turnBetweenRad(const Eigen::Matrix3d& a, const Eigen::Matrix3d& b) {
+    return (anglesFromRotation(a) - anglesFromRotation(b)).cwiseAbs().maxCoeff();
+}
+
+}  // namespace
+
+void AttemptRecord::setup(const Projection& projection) {
+    projection_ = projection;
+    clear();
+}
+
+void AttemptRecord::clear() {
+    pairs_.clear();
+}
+
+void AttemptRecord::addPair(const cv::Mat& infrared8, const cv::Mat& grey, std::vector<MeasuredMatch> matches,
+                            std::vector<MeasuredPlace> places, bool seesDisparities) {
+    pairs_.push_back(
+        {infrared8.clone(), grey.clone(), std::move(matches), std::move(places), seesDisparities, {}, -1});
+}
+
+std::optional<StereoScale> AttemptRecord::workingScale() const {
+    if (meter_.scale() != nullptr) return *meter_.scale();
+    const bool disparities =
+        std::any_of(pairs_.begin(), pairs_.end(), [](const Pair& pair) { return pair.seesDisparities; });
+    if (disparities) return meter_.assumedScale();
+    return std::nullopt;
+}
+
+/// The matches that the rotation explains or nearly explains; the others only add noise to the fit.
+std::vector<MeasuredMatch> AttemptRecord::matchesNear(const Eigen::Matrix3d& rotation,
+                                                      const StereoScale* scale) const {
+    std::vector<MeasuredMatch> near;
+    for (const Pair& pair : pairs_) {
+        for (const MeasuredMatch& match : pair.matches) {
+            const double inverseDepth = inverseDepthOf(match.place, scale);
+            if (std::isnan(inverseDepth) && pair.seesDisparities) continue;
+            const Eigen::Vector2d predicted = projection_.colourPoint(rotation, match.place.infrared,
+                                                                      std::isnan(inverseDepth) ? 0 : inverseDepth);
+            const Eigen::Vector2d difference = predicted - Eigen::Vector2d(match.colour.x, match.colour.y);
+            if (difference.norm() <= kNearPx) near.push_back(match);
+        }
+    }
+    return near;
+}
+
+std::optional<Eigen::Matrix3d> AttemptRecord::fitMatches(const Eigen::Matrix3d& winner) {
+    const auto scale = workingScale();
+    const auto matches = balanced(matchesNear(winner, scale ? &*scale : nullptr), projection_.cameras.infrared);
+    if (matches.size() < kMinimumMatches) return std::nullopt;
+    FitOptions options;
+    options.cauchy = kMatchCauchyPx;
+    options.scale = scale ? &*scale : nullptr;
+    const auto fitted = fitRotation(matches, projection_, winner, options);
+    if (!fitted || turnBetweenRad(fitted->rotation, winner) > kMaxDepartureRad) return std::nullopt;
+    return fitted->rotation;
+}
+
+/// Where depth does not tell the scale, distances that vary do.
+void AttemptRecord::learnScale(const std::vector<MeasuredMatch>& matches, const Eigen::Matrix3d& rotation,
+                               double cauchy) {
+    const auto scale = workingScale();
+    if (!scale || meter_.source() == BaselineSource::Depth) return;
+    std::vector<MeasuredMatch> measured;
+    std::copy_if(matches.begin(), matches.end(), std::back_inserter(measured),
+                 [](const MeasuredMatch& match) { return !std::isnan(match.place.disparityPx); });
+    if (measured.size() < kMinimumForScale) return;
+    FitOptions options;
+    options.cauchy = cauchy;
+    options.scale = &*scale;
+    options.estimateScale = true;
+    const auto fitted = fitRotation(measured, projection_, rotation, options);
+    if (!fitted) return;
+    const double focalPx = projection_.cameras.infrared.fx;
+    const double baselineM = fitted->pixelMetres / focalPx;
+    const double deviation = fitted->pixelMetresDeviation / fitted->pixelMetres;
+    const bool plausible = baselineM > kSmallestBaselineM && baselineM < kLargestBaselineM;
+    if (plausible && deviation < kLargestScaleDeviation) meter_.setFittedScale({fitted->pixelMetres, 0, deviation});
+}
+
+std::vector<MeasuredMatch> AttemptRecord::alignedPatches(const Eigen::Matrix3d& rotation, const StereoScale* scale) {
+    const double pixelMetres = scale != nullptr ? scale->pixelMetres : 0;
+    std::vector<MeasuredMatch> all;
+    for (Pair& pair : pairs_) {
+        const bool current = pair.alignedPixelMetres >= 0 &&
+                             std::abs(pair.alignedPixelMetres - pixelMetres) <= kScaleChange * pixelMetres;
+        if (!current) {
+            pair.aligned = alignPatches(pair.infrared8, pair.grey, pair.places, projection_, rotation, scale,
+                                        pair.seesDisparities);
+            pair.alignedPixelMetres = pixelMetres;
+        }
+        all.insert(all.end(), pair.aligned.begin(), pair.aligned.end());
+    }
+    return all;
+}
+
+std::optional<PolishedRotation> AttemptRecord::polish(const Eigen::Vector3d& winnerRad) {
+    const Eigen::Matrix3d winner = rotationFromAngles(winnerRad);
+    auto start = fitMatches(winner);
+    if (!start) return std::nullopt;
+    const auto assumed = workingScale();
+    learnScale(matchesNear(*start, assumed ? &*assumed : nullptr), *start, kMatchCauchyPx);
+    start = fitMatches(winner);
+    if (!start) return std::nullopt;
+
+    auto scale = workingScale();
+    const std::vector<MeasuredMatch> patches = alignedPatches(*start, scale ? &*scale : nullptr);
+    FitOptions options;
+    options.cauchy = kPatchCauchy;
+    if (patches.size() >= kMinimumPatches) learnScale(patches, *start, kPatchCauchy);
+    scale = workingScale();
+    options.scale = scale ? &*scale : nullptr;
+    auto fitted = fitRotation(patches, projection_, *start, options);
+    const bool stands = patches.size() >= kMinimumPatches && fitted &&
+                        turnBetweenRad(fitted->rotation, *start) <= kMaxAlignmentRad;
+    if (!stands) {
+        options.cauchy = kMatchCauchyPx;
+        fitted = fitRotation(balanced(matchesNear(*start, options.scale), projection_.cameras.infrared), projection_,
+                             *start, options);
+        if (!fitted) return std::nullopt;
+    }
+    const Eigen::Vector3d deviation =
+        (fitted->deviationRad.cwiseAbs2() + distanceDeviationsRad().cwiseAbs2()).cwiseSqrt();
+    return PolishedRotation{anglesFromRotation(fitted->rotation), deviation};
+}
+
+/// What is not known about distances turns into an error of the angles that all matches have in common: a shift across
+/// the colour image, along the translation between the cameras.
+Eigen::Vector3d AttemptRecord::distanceDeviationsRad() const {
+    const Eigen::Vector3d& t = projection_.translationM;
+    std::vector<double> inverseDepths;
+    const auto scale = workingScale();
+    bool unseen = pairs_.empty();
+    for (const Pair& pair : pairs_) {
+        unseen = unseen || !pair.seesDisparities;
+        for (const MeasuredMatch& match : pair.matches) {
+            const double inverseDepth = inverseDepthOf(match.place, scale ? &*scale : nullptr);
+            if (!std::isnan(inverseDepth)) inverseDepths.push_back(std::abs(inverseDepth));
+        }
+    }
+    double deviation = unseen ? kUnseenInverseDepth : 0;
+    if (scale && !inverseDepths.empty()) {
+        const double ofScale = medianOf(inverseDepths) * scale->relativeDeviation;
+        deviation = std::hypot(deviation, std::hypot(ofScale, kUnknownOffsetPx / scale->pixelMetres));
+    }
+    return {std::abs(t.y()) * deviation, std::abs(t.x()) * deviation, 0.0};
+}
+
+ParallaxReport AttemptRecord::report() const {
+    ParallaxReport report;
+    report.baselineM = meter_.baselineM();
+    report.baselineFrom = meter_.source();
+    std::vector<double> inverseDepths;
+    for (const Pair& pair : pairs_) {
+        for (const MeasuredMatch& match : pair.matches) {
+            const double inverseDepth = inverseDepthOf(match.place, meter_.scale());
+            if (!std::isnan(inverseDepth)) inverseDepths.push_back(inverseDepth);
+        }
+    }
+    report.withDistance = static_cast<int>(inverseDepths.size());
+    if (inverseDepths.empty()) return report;
+    const double median = medianOf(inverseDepths);
+    if (median > kFarInverseDepth) report.medianDistanceM = 1 / median;
+    return report;
+}
+
+}  // namespace vq

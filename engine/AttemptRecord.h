@@ -1,0 +1,68 @@
+#pragma once
+
+#include "engine/DistanceMeter.h"
+#include "engine/ParallaxReport.h"
+#include "engine/RotationPolish.h"
+
+#include <Eigen/Core>
+#include <opencv2/core.hpp>
+
+#include <optional>
+#include <vector>
+
+namespace vq {
+
+/// A rotation fitted to everything that an attempt has seen.
+struct PolishedRotation {
+    Eigen::Vector3d anglesRad;
+    /// One standard deviation of each angle: the residuals' spread, and what is not known about distances.
+    Eigen::Vector3d deviationRad;
+};
+
+/// What an attempt keeps of its pairs, and the last fit over all of it.
+///
+/// The rounds of the vote see 84 matches at a time. Started at their winner, the last fit first takes the verified
+/// matches at their exact positions with each one's own distance, then aligns patches of the images directly, wherever
+/// both have texture (docs/estimation.md, docs/distances.md). One thread at a time; uses a second one while it works.
+class AttemptRecord {
+public:
+    explicit AttemptRecord(DistanceMeter& meter) : meter_(meter) {}
+
+    void setup(const Projection& projection);
+    void clear();
+
+    /// Adds a pair: its two 8-bit images, its verified matches, and the textured places that may be aligned.
+    /// `seesDisparities`: whether a match without a distance is an exception.
+    void addPair(const cv::Mat& infrared8, const cv::Mat& grey, std::vector<MeasuredMatch> matches,
+                 std::vector<MeasuredPlace> places, bool seesDisparities);
+
+    /// The last fit. None when it fails, when too few matches support it, or when it leaves the winner by more than
+    /// the rounds scatter; the winner then stands.
+    std::optional<PolishedRotation> polish(const Eigen::Vector3d& winnerRad);
+
+    ParallaxReport report() const;
+
+private:
+    struct Pair {
+        cv::Mat infrared8, grey;
+        std::vector<MeasuredMatch> matches;
+        std::vector<MeasuredPlace> places;
+        bool seesDisparities = false;
+        std::vector<MeasuredMatch> aligned;
+        double alignedPixelMetres = -1;  ///< the scale they were aligned with; negative before
+    };
+
+    /// The scale that distances are computed with: a known one, else an assumed one where disparities are seen.
+    std::optional<StereoScale> workingScale() const;
+    std::vector<MeasuredMatch> matchesNear(const Eigen::Matrix3d& rotation, const StereoScale* scale) const;
+    std::optional<Eigen::Matrix3d> fitMatches(const Eigen::Matrix3d& winner);
+    void learnScale(const std::vector<MeasuredMatch>& matches, const Eigen::Matrix3d& rotation, double cauchy);
+    std::vector<MeasuredMatch> alignedPatches(const Eigen::Matrix3d& rotation, const StereoScale* scale);
+    Eigen::Vector3d distanceDeviationsRad() const;
+
+    DistanceMeter& meter_;
+    Projection projection_;
+    std::vector<Pair> pairs_;
+};
+
+}  // namespace vq
