@@ -1,8 +1,9 @@
 #include "engine/PatchAlignment.h"
 
+#include "engine/PatchMath.h"
+
 #include <Eigen/LU>
 
-#include <array>
 #include <cmath>
 #include <future>
 
@@ -18,37 +19,30 @@ constexpr float kMinimumDeviation = 2.0F;  ///< grey levels of 256
 constexpr float kMinimumCorrelation = 0.65F;
 constexpr float kMinimumGain = 0.02F;
 constexpr double kLargestMovePx = 3.0;
-constexpr double kConvergedPx = 0.01;
+constexpr double kConvergedPx = 0.03;
 /// What the gradients of one patch cannot tell: differences between the two kinds of light, in pixels of deviation.
 constexpr double kModelDeviationPx = 0.05;
 /// Variance that a patch keeps however well it fits: the rounding of both images to whole grey levels.
 constexpr float kLeastVariance = 0.5F;
 
-using Patch = std::array<float, kArea>;
-
-float dot(const Patch& a, const Patch& b) {
-    float sum = 0;
-    for (std::size_t i = 0; i < kArea; ++i)
-        sum += a[i] * b[i];
-    return sum;
-}
-
-/// Takes the mean away and gives the sum of squares back.
-float centre(Patch* patch) {
-    float sum = 0, squares = 0;
-    for (const float value : *patch)
-        sum += value;
-    const float mean = sum / kArea;
-    for (float& value : *patch) {
-        value -= mean;
-        squares += value * value;
-    }
-    return squares;
-}
+using Window = Patch<kSize>;
 
 bool fits(const cv::Mat& image, const cv::Point& middle, int margin) {
     return middle.x >= margin && middle.y >= margin && middle.x + margin < image.cols &&
            middle.y + margin < image.rows;
+}
+
+float variance(const cv::Mat& infrared8, const cv::Point& middle) {
+    int sum = 0, squares = 0;
+    for (int y = middle.y - kReach; y <= middle.y + kReach; ++y) {
+        const auto* row = infrared8.ptr<std::uint8_t>(y) + middle.x - kReach;
+        for (int x = 0; x < kSize; ++x) {
+            sum += row[x];
+            squares += row[x] * row[x];
+        }
+    }
+    const float mean = static_cast<float>(sum) / kArea;
+    return static_cast<float>(squares) / kArea - mean * mean;
 }
 
 /// The infrared patch with its gradients, which stay the same in every step.
@@ -65,28 +59,25 @@ public:
                 down_[i] = 0.5F * static_cast<float>(below[x] - above[x]);
             }
         }
-        squares_ = centre(&value_);
+        squares_ = value_.centre();
         if (!hasTexture()) return;
-        centre(&across_);
-        centre(&down_);
-        // Gain is estimated as well: what the gradients share with the patch itself moves the gain, not the patch.
-        for (Patch* gradient : {&across_, &down_}) {
-            const float share = dot(*gradient, value_) / squares_;
-            for (i = 0; i < kArea; ++i)
-                (*gradient)[i] -= share * value_[i];
+        for (Window* gradient : {&across_, &down_}) {
+            gradient->centre();
+            // Gain is estimated as well: what the gradients share with the patch itself moves the gain, not the patch.
+            gradient->subtract(value_, gradient->dot(value_) / squares_);
         }
-        hessian_ << dot(across_, across_), dot(across_, down_), 0, dot(down_, down_);
+        hessian_ << across_.dot(across_), across_.dot(down_), 0, down_.dot(down_);
         hessian_(1, 0) = hessian_(0, 1);
     }
 
     bool hasTexture() const { return squares_ > kMinimumDeviation * kMinimumDeviation * kArea; }
-    const Patch& value() const { return value_; }
+    const Window& value() const { return value_; }
     float squares() const { return squares_; }
     const Eigen::Matrix2f& hessian() const { return hessian_; }
-    Eigen::Vector2f gradientProduct(const Patch& other) const { return {dot(across_, other), dot(down_, other)}; }
+    Eigen::Vector2f gradientProduct(const Window& other) const { return {across_.dot(other), down_.dot(other)}; }
 
 private:
-    Patch value_{}, across_{}, down_{};
+    Window value_, across_, down_;
     float squares_ = 0;
     Eigen::Matrix2f hessian_;
 };
@@ -112,12 +103,12 @@ public:
         const Eigen::Vector2d predicted = placement.middle;
         const Eigen::Matrix2f inverseHessian = patch.hessian().inverse();
         if (!inverseHessian.allFinite()) return false;
-        Patch seen;
+        Window seen;
         float gain = 0, squares = 0;
         for (int i = 0; i < kIterations; ++i) {
             if (!sample(placement, &seen)) return false;
-            squares = centre(&seen);
-            gain = dot(patch.value(), seen) / patch.squares();
+            squares = seen.centre();
+            gain = patch.value().dot(seen) / patch.squares();
             if (!(gain > kMinimumGain)) return false;
             // In pixels of the infrared patch; the colour patch moves the other way.
             const Eigen::Vector2f moved = inverseHessian * patch.gradientProduct(seen) / gain;
@@ -157,7 +148,7 @@ private:
     }
 
     /// The colour image at the patch's places, bilinear. False where the patch leaves the image.
-    bool sample(const Placement& placement, Patch* out) const {
+    bool sample(const Placement& placement, Window* out) const {
         const Eigen::Vector2f across = placement.axes.col(0).cast<float>(), down = placement.axes.col(1).cast<float>();
         const Eigen::Vector2f corner = placement.middle.cast<float>() - kReach * (across + down);
         constexpr float margin = kReach + 3;
@@ -212,7 +203,7 @@ std::vector<cv::Point2f> texturedPlaces(const cv::Mat& infrared8) {
     for (int y = kLatticePx; y < infrared8.rows; y += kLatticePx) {
         for (int x = kLatticePx; x < infrared8.cols; x += kLatticePx) {
             if (!fits(infrared8, {x, y}, kReach + 1)) continue;
-            if (Template(infrared8, {x, y}).hasTexture())
+            if (variance(infrared8, {x, y}) > kMinimumDeviation * kMinimumDeviation)
                 places.emplace_back(static_cast<float>(x), static_cast<float>(y));
         }
     }

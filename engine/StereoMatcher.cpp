@@ -1,5 +1,7 @@
 #include "engine/StereoMatcher.h"
 
+#include "engine/PatchMath.h"
+
 #include <opencv2/imgproc.hpp>
 
 #include <algorithm>
@@ -31,10 +33,13 @@ constexpr int kPadding = kCandidates + kHalfReach + 1;
 constexpr int kReach = 6;
 constexpr int kWindow = 2 * kReach + 1;
 constexpr int kWindowArea = kWindow * kWindow;
-constexpr int kFineSearchPx = 3;
+using Window = Patch<kWindow>;
+/// A coarse disparity is right within about a pixel.
+constexpr float kLargestWayPx = 2.5F;
+constexpr float kConvergedPx = 0.02F;
 constexpr float kMinimumFineCorrelation = 0.75F;
 constexpr float kLargestRowOffsetPx = 1.0F;
-constexpr int kIterations = 6;
+constexpr int kIterations = 8;
 
 using Correlations = std::array<float, kCandidates>;
 
@@ -114,17 +119,15 @@ public:
                 down_[i] = 0.5F * (below[x] - above[x]);
             }
         }
-        squares_ = centred(&value_);
-        centred(&across_);
-        centred(&down_);
-        // The gain is solved for as well: what the gradients have in common with the window's own values is its.
-        removeShare(&across_);
-        removeShare(&down_);
-        for (i = 0; i < kWindowArea; ++i) {
-            xx_ += across_[i] * across_[i];
-            xy_ += across_[i] * down_[i];
-            yy_ += down_[i] * down_[i];
+        squares_ = value_.centre();
+        for (Window* gradient : {&across_, &down_}) {
+            gradient->centre();
+            // The gain is solved for as well: what the gradients share with the window itself moves the gain.
+            gradient->subtract(value_, gradient->dot(value_) / std::max(squares_, 1.0F));
         }
+        xx_ = across_.dot(across_);
+        xy_ = across_.dot(down_);
+        yy_ = down_.dot(down_);
     }
 
     bool hasTexture() const {
@@ -132,28 +135,24 @@ public:
         return squares_ > kMinimumDeviation * kMinimumDeviation * kWindowArea && determinant > 1e-3F * xx_ * xx_;
     }
 
-    float correlation(const cv::Mat& right, const cv::Point2f& centre) const {
-        std::array<float, kWindowArea> other{};
-        sample(right, centre, &other);
-        const float squares = centred(&other);
-        return squares > 1.0F ? product(value_, other) / std::sqrt(squares_ * squares) : -1.0F;
-    }
-
+    struct Step {
+        cv::Point2f move;
+        float correlation;  ///< before the step
+    };
     /// The step that brings the window at `centre` of the right image nearer; none where the two have nothing in common.
-    std::optional<cv::Point2f> step(const cv::Mat& right, const cv::Point2f& centre) const {
-        std::array<float, kWindowArea> other{};
+    std::optional<Step> step(const cv::Mat& right, const cv::Point2f& centre) const {
+        Window other;
         sample(right, centre, &other);
-        centred(&other);
-        const float gain = product(value_, other) / squares_;
+        const float squares = other.centre(), covariance = value_.dot(other);
+        const float gain = covariance / squares_;
         if (!(gain > 0.1F)) return std::nullopt;
-        const float gx = product(across_, other) / gain, gy = product(down_, other) / gain;
+        const float gx = across_.dot(other) / gain, gy = down_.dot(other) / gain;
         const float determinant = xx_ * yy_ - xy_ * xy_;
-        return cv::Point2f(-(yy_ * gx - xy_ * gy) / determinant, -(xx_ * gy - xy_ * gx) / determinant);
+        return Step{{-(yy_ * gx - xy_ * gy) / determinant, -(xx_ * gy - xy_ * gx) / determinant},
+                    covariance / std::sqrt(squares_ * squares)};
     }
 
 private:
-    using Window = std::array<float, kWindowArea>;
-
     static void sample(const cv::Mat& right, const cv::Point2f& centre, Window* out) {
         const int column = static_cast<int>(std::floor(centre.x)) - kReach;
         const int row = static_cast<int>(std::floor(centre.y)) - kReach;
@@ -170,35 +169,15 @@ private:
         }
     }
 
-    static float product(const Window& a, const Window& b) {
-        float sum = 0;
-        for (std::size_t i = 0; i < kWindowArea; ++i)
-            sum += a[i] * b[i];
-        return sum;
-    }
-
-    /// Takes the mean away and gives the sum of squares back.
-    static float centred(Window* window) {
-        float sum = 0, squares = 0;
-        for (const float value : *window)
-            sum += value;
-        const float mean = sum / kWindowArea;
-        for (float& value : *window) {
-            value -= mean;
-            squares += value * value;
-        }
-        return squares;
-    }
-
-    void removeShare(Window* gradient) const {
-        const float share = product(*gradient, value_) / std::max(squares_, 1.0F);
-        for (std::size_t i = 0; i < kWindowArea; ++i)
-            (*gradient)[i] -= share * value_[i];
-    }
-
-    Window value_{}, across_{}, down_{};
+    Window value_, across_, down_;
     float squares_ = 0, xx_ = 0, xy_ = 0, yy_ = 0;
 };
+
+/// Long steps overshoot.
+cv::Point2f shortened(const cv::Point2f& step) {
+    const auto length = static_cast<float>(cv::norm(step));
+    return length > 1.0F ? step / length : step;
+}
 
 bool windowFits(const cv::Mat& image, const cv::Point2f& centre) {
     constexpr float margin = kReach + 2;
@@ -244,7 +223,11 @@ float StereoMatcher::findCoarseAt(const cv::Point2f& leftPoint) const {
     if (!correlate(rightHalf_, match, leftHalf_, match.x + kSmallestHalf, &back)) return kNone;
     const int again = match.x + kSmallestHalf + static_cast<int>(bestOf(back));
     if (std::abs(again - centre.x) > 1) return kNone;
-    return 2.0F * static_cast<float>(centre.x - match.x);
+    // The parabola through the three best correlations tells where between the candidates the best one lies.
+    const float before = there[best - 1], after = there[best + 1];
+    const float bend = before + after - 2 * there[best];
+    const float fraction = bend < 0 ? 0.5F * (before - after) / bend : 0;
+    return 2.0F * (static_cast<float>(centre.x - match.x) - fraction);
 }
 
 std::vector<float> StereoMatcher::refine(const std::vector<cv::Point2f>& leftPoints,
@@ -264,33 +247,25 @@ std::vector<float> StereoMatcher::refine(const std::vector<cv::Point2f>& leftPoi
 float StereoMatcher::refineAt(const cv::Point2f& leftPoint, float coarsePx) const {
     const cv::Point centre(cvRound(leftPoint.x), cvRound(leftPoint.y));
     const cv::Point2f start(static_cast<float>(centre.x) - coarsePx, static_cast<float>(centre.y));
-    constexpr float reach = kFineSearchPx;
+    constexpr float reach = kLargestWayPx;
     if (!windowFits(left_, centre) || !windowFits(right_, start - cv::Point2f(reach, 0)) ||
         !windowFits(right_, start + cv::Point2f(reach, 0))) {
         return kNone;
     }
     const WindowAlignment window(left_, centre);
     if (!window.hasTexture()) return kNone;
-    cv::Point2f best = start;
-    float bestCorrelation = -1.0F;
-    for (int dx = -kFineSearchPx; dx <= kFineSearchPx; ++dx) {
-        const cv::Point2f candidate = start + cv::Point2f(static_cast<float>(dx), 0);
-        const float correlation = window.correlation(right_, candidate);
-        if (correlation <= bestCorrelation) continue;
-        bestCorrelation = correlation;
-        best = candidate;
-    }
-    cv::Point2f place = best;
+    cv::Point2f place = start;
+    float correlation = -1.0F;
     for (int i = 0; i < kIterations; ++i) {
         const auto step = window.step(right_, place);
         if (!step) return kNone;
-        place += *step;
-        const cv::Point2f way = place - best;
-        if (!(std::abs(way.x) < 1.5F && std::abs(way.y) < kLargestRowOffsetPx) || !windowFits(right_, place))
-            return kNone;
-        if (std::abs(step->x) < 0.005F && std::abs(step->y) < 0.01F) break;
+        correlation = step->correlation;
+        place += shortened(step->move);
+        const cv::Point2f way = place - start;
+        if (!(std::abs(way.x) < kLargestWayPx && std::abs(way.y) < kLargestRowOffsetPx)) return kNone;
+        if (std::abs(step->move.x) < kConvergedPx && std::abs(step->move.y) < kConvergedPx) break;
     }
-    if (window.correlation(right_, place) < kMinimumFineCorrelation) return kNone;
+    if (correlation < kMinimumFineCorrelation) return kNone;
     return static_cast<float>(centre.x) - place.x;
 }
 

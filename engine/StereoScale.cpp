@@ -14,10 +14,11 @@ constexpr double kLargestRelativeDeviation = 0.02;
 constexpr int kIterations = 20;
 /// Where the Cauchy loss bends, pixels of disparity.
 constexpr double kCauchyPx = 0.25;
-/// What is expected of imagers before anything was measured, pixels of disparity. It counts as much as that many places:
-/// neighbouring windows and depths are not independent, so the places themselves count for less than their number.
-constexpr double kExpectedOffsetPx = 0.1;
+/// Neighbouring windows and depths are not independent: so many places count as one.
 constexpr double kPlacesPerIndependentOne = 10;
+/// The offset counts when the depths vary enough to show it, and when it is one that imagers can have.
+constexpr double kLargestOffsetDeviationPx = 0.03;
+constexpr double kLargestOffsetPx = 1.0;
 /// Depths near the end of the depth image's reach are drawn towards it, since what noise takes beyond is missing: only
 /// depths within this share of the farthest one count.
 constexpr double kReachShare = 0.93;
@@ -36,42 +37,52 @@ std::vector<Eigen::Vector2d> samplesWithinReach(const std::vector<MeasuredPlace>
     return samples;
 }
 
-}  // namespace
+struct Line {
+    Eigen::Vector2d solution;  ///< pixels times metres, offset
+    Eigen::Vector2d deviation;
+};
 
-std::optional<StereoScale> scaleFromDepth(const std::vector<MeasuredPlace>& places) {
-    const std::vector<Eigen::Vector2d> samples = samplesWithinReach(places);
-    if (samples.size() < kMinimumPlaces) return std::nullopt;
-    // Started at the median of disparity times depth, which no share of wrong samples below a half can move far.
+/// Robust line through the samples, started at the median of disparity times depth, which no share of wrong samples
+/// below a half can move far.
+Line fitLine(const std::vector<Eigen::Vector2d>& samples, bool withOffset) {
     std::vector<double> products;
     for (const Eigen::Vector2d& sample : samples)
         products.push_back(sample[1] / sample[0]);
     const auto middle = products.begin() + static_cast<std::ptrdiff_t>(products.size() / 2);
     std::nth_element(products.begin(), middle, products.end());
-    Eigen::Vector2d solution(*middle, 0);
-    Eigen::Matrix2d normal;
-    double variance = kCauchyPx * kCauchyPx;
+    Line line{{*middle, 0}, {0, 0}};
     for (int i = 0; i < kIterations; ++i) {
-        normal << 0, 0, 0, kPlacesPerIndependentOne * variance / (kExpectedOffsetPx * kExpectedOffsetPx);
+        Eigen::Matrix2d normal = Eigen::Matrix2d::Zero();
         Eigen::Vector2d right = Eigen::Vector2d::Zero();
         double squares = 0, weights = 0;
         for (const Eigen::Vector2d& sample : samples) {
-            const Eigen::Vector2d row(sample[0], 1);
-            const double residual = sample[1] - row.dot(solution);
+            const Eigen::Vector2d row(sample[0], withOffset ? 1 : 0);
+            const double residual = sample[1] - row.dot(line.solution);
             const double weight = 1 / (1 + residual * residual / (kCauchyPx * kCauchyPx));
             normal += weight * row * row.transpose();
             right += weight * sample[1] * row;
             squares += weight * residual * residual;
             weights += weight;
         }
-        solution = normal.inverse() * right;
-        variance = squares / weights;
+        if (!withOffset) normal(1, 1) = 1;
+        const Eigen::Matrix2d covariance = normal.inverse() * (kPlacesPerIndependentOne * squares / weights);
+        line = {normal.inverse() * right, covariance.diagonal().cwiseSqrt()};
     }
-    if (!(solution[0] > 0)) return std::nullopt;
-    StereoScale scale{solution[0], solution[1], 0};
-    scale.relativeDeviation =
-        std::sqrt(kPlacesPerIndependentOne * variance * normal.inverse()(0, 0)) / scale.pixelMetres;
-    if (!(scale.relativeDeviation <= kLargestRelativeDeviation)) return std::nullopt;
-    return scale;
+    return line;
+}
+
+}  // namespace
+
+std::optional<StereoScale> scaleFromDepth(const std::vector<MeasuredPlace>& places) {
+    const std::vector<Eigen::Vector2d> samples = samplesWithinReach(places);
+    if (samples.size() < kMinimumPlaces) return std::nullopt;
+    Line line = fitLine(samples, true);
+    const bool offsetIsSeen =
+        line.deviation[1] < kLargestOffsetDeviationPx && std::abs(line.solution[1]) < kLargestOffsetPx;
+    if (!offsetIsSeen) line = fitLine(samples, false);
+    const double relativeDeviation = line.deviation[0] / line.solution[0];
+    if (!(line.solution[0] > 0 && relativeDeviation <= kLargestRelativeDeviation)) return std::nullopt;
+    return StereoScale{line.solution[0], offsetIsSeen ? line.solution[1] : 0, relativeDeviation};
 }
 
 }  // namespace vq
