@@ -44,7 +44,7 @@ void printTruth(const char* name, const std::optional<Matrix3>& truth, const Mat
 void printRight(const std::vector<session::FrameEntry>& frames) {
     const auto count =
         std::count_if(frames.begin(), frames.end(), [](const auto& frame) { return !frame.right.empty(); });
-    if (count > 0) std::printf("%-12s pictures of %td frames\n", "right", count);
+    if (count > 0) std::printf("%-12s pictures of %zu frames\n", "right", static_cast<std::size_t>(count));
 }
 
 int describeRecording(const std::string& folder) {

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace fieldcal::synthesis {
@@ -46,6 +48,25 @@ TEST(Rig, AWishedDriftIsTakenAsItStandsAndThePlatformChangesNothingElse) {
     EXPECT_EQ(plain.infrared.fx, wished.infrared.fx);
     EXPECT_FALSE(plain.platform.has_value());
     EXPECT_FALSE(plain.truthPlatform.has_value());
+}
+
+TEST(Rig, TheRightImagerIsDrawnApartWithinItsLimits) {
+    double gain = 0, row = 0, column = 0;
+    for (unsigned seed = 0; seed < 300; ++seed) {
+        const RightImager right = drawRig(seed, {}).right;
+        EXPECT_TRUE(right.isApart && !right.deceivesDepth);
+        gain = std::max(gain, std::abs(right.gain - 1));
+        row = std::max(row, std::abs(right.rowOffsetPx));
+        column = std::max(column, std::abs(right.columnOffsetPx));
+    }
+    EXPECT_THAT((std::array<double, 3>{gain / 0.05, row / 0.2, column / 0.05}),
+                testing::Each(testing::AllOf(testing::Gt(0.9), testing::Le(1 + 1e-9))));
+    RigWishes wishes;
+    wishes.misalignmentPx = 0.4;
+    const Rig bent = drawRig(5, wishes), plain = drawRig(5, {});
+    EXPECT_EQ(bent.right.columnOffsetPx, -0.4);
+    EXPECT_EQ(bent.right.gain, plain.right.gain);
+    EXPECT_EQ(bent.truthThird, plain.truthThird);
 }
 
 }  // namespace

@@ -50,12 +50,14 @@ TEST(Synthesis, EqualOptionsGiveEqualFilesAndThePlatformChangesNoOtherPicture) {
     o.platform = true;
     EXPECT_TRUE(synthesize(first.path(), o, {}, &why) && synthesize(second.path(), o, {}, &why)) << why;
     for (const char* file :
-         {"session.json", "000_infrared.png", "000_third.png", "000_depth.png", "000_platform.png"}) {
+         {"session.json", "000_infrared.png", "000_right.png", "000_third.png", "000_depth.png", "000_platform.png"}) {
         EXPECT_GT(first.bytes(file).size(), 500U) << file;
         EXPECT_EQ(first.bytes(file), second.bytes(file)) << file;
     }
     EXPECT_EQ(first.bytes("000_infrared.png"), plain.bytes("000_infrared.png"));
     EXPECT_EQ(first.bytes("000_third.png"), plain.bytes("000_third.png"));
+    EXPECT_EQ(first.bytes("000_right.png"), plain.bytes("000_right.png"));
+    EXPECT_NE(first.bytes("000_right.png"), first.bytes("000_infrared.png"));
     EXPECT_TRUE(session::verify(first.path(), &why)) << why;
 }
 

@@ -122,10 +122,10 @@ cv::Point2d colourPixel(const session::Intrinsics& k, const session::Intrinsics&
             (infrared.fy * p[1] / p[2] + sy * k.cy + 0.5) / sy - 0.5};
 }
 
-cv::Mat_<float> infraredOf(const session::FramePictures& pictures, const SessionDescription& rig) {
+cv::Mat_<float> infraredOf(const ImageFrame16& frame) {
     cv::Mat_<float> out;
-    cv::Mat_<std::uint16_t>(rig.infrared.height, rig.infrared.width,
-                            const_cast<std::uint16_t*>(pictures.infrared.pixels()))
+    cv::Mat_<std::uint16_t>(static_cast<int>(frame.height()), static_cast<int>(frame.width()),
+                            const_cast<std::uint16_t*>(frame.pixels()))
         .convertTo(out, CV_32F);
     return out;
 }
@@ -170,7 +170,7 @@ TEST(WorldCameras, MarkedPointsLieWhereModelsAndPosePutThemInAllCameras) {
         const auto pictures = Cameras(rig, {2, 2, 1}).take(*dots.world, {dots.pose}, noiseless(), {}, seed);
 
         const auto& k = rig.infrared;
-        expectDots(dots, infraredOf(pictures, rig), [&](const cv::Vec3d& p) {
+        expectDots(dots, infraredOf(pictures.infrared), [&](const cv::Vec3d& p) {
             return cv::Point2d(k.fx * p[0] / p[2] + k.cx, k.fy * p[1] / p[2] + k.cy);
         });
         expectDots(dots, greenOf(pictures.third), [&](const cv::Vec3d& p) {
@@ -185,6 +185,45 @@ TEST(WorldCameras, MarkedPointsLieWhereModelsAndPosePutThemInAllCameras) {
             return colourPixel(rig.platform->rectified, k, there);
         });
     }
+}
+
+TEST(WorldCameras, MarkedPointsLieADisparityFurtherLeftInTheRightPicture) {
+    for (std::uint64_t seed = 1; seed <= 10; ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        synthesis::RigWishes wishes;
+        wishes.baselines = seed != 3;
+        if (seed > 5) wishes.misalignmentPx = 0.1 * static_cast<double>(seed) - 1;
+        const auto rig = synthesis::drawRig(seed, wishes);
+        const Dots dots(seed);
+        const auto pictures = Cameras(rig, {2, 1, 1}).take(*dots.world, {dots.pose}, noiseless(), {}, seed);
+        const auto left = infraredOf(pictures.infrared), right = infraredOf(pictures.right);
+
+        const auto& k = rig.infrared;
+        const double apart = wishes.baselines ? 0.055 : 0;
+        const double offset = wishes.misalignmentPx ? -*wishes.misalignmentPx : rig.right.columnOffsetPx;
+        expectDots(dots, right, [&](const cv::Vec3d& p) {
+            const cv::Point2d inLeft(k.fx * p[0] / p[2] + k.cx, k.fy * p[1] / p[2] + k.cy);
+            return inLeft + cv::Point2d(offset - k.fx * apart / p[2], rig.right.rowOffsetPx);
+        });
+        EXPECT_NEAR(cv::mean(right)[0] / cv::mean(left)[0], rig.right.gain, 0.005);
+    }
+}
+
+TEST(WorldCameras, EachInfraredImagerHasItsOwnNoiseAtOneExposure) {
+    TestScene scene;
+    addBall(scene.mesh, {0, 0, 0}, {60, 60, 60}, 24, scene.material<Glow>(0.1F));
+    const World world = scene.finish();
+    auto rig = synthesis::drawRig(1, {});
+    rig.right = {};
+    rig.right.gain = 0.8;
+    const auto pictures = Cameras(rig, {1, 1, 1}).take(world, {}, {}, {}, 1);
+    const auto left = infraredOf(pictures.infrared), right = infraredOf(pictures.right);
+    cv::Scalar mean, apart, same;
+    cv::meanStdDev(right * (1 / 0.8) - left, mean, apart);
+    EXPECT_NEAR(mean[0], 0, 0.5);
+    // The light's noise is about 5.3 steps in either, a little more in the one that gets less.
+    EXPECT_GT(apart[0], 6.5);
+    EXPECT_LT(apart[0], 9.5);
 }
 
 TEST(WorldCameras, DepthBroughtIntoColourLandsOnTheSameSurface) {
@@ -226,11 +265,12 @@ struct SlantedPlane {
     double depth(const cv::Vec2f& ray) const { return point.dot(normal) / normal.dot({ray[0], ray[1], 1}); }
 };
 
-View depthView(const World& world, const SessionDescription& rig) {
+View depthView(const World& world, const synthesis::Rig& rig) {
     const auto rays = synthesis::infraredRays(rig.depth, 2);
     View view;
     const Picture picture = takePicture(world, rays, {});
     view.infrared = synthesis::infraredBand(picture.light);
+    view.rightImager = rig.right;
     seeDepth(world, rays, {}, picture, rig.depth, &view);
     return view;
 }
@@ -270,6 +310,29 @@ TEST(WorldCameras, DepthIsAlongTheAxisOfTheInfraredCameraAndHoldsTheRangeOfTheMo
         }
     EXPECT_GT(near, 500);
     EXPECT_GT(far, 300);
+}
+
+TEST(WorldCameras, AMisalignedPairMovesTheModulesOwnDepth) {
+    const SlantedPlane plane;
+    for (const double shiftPx : {0.5, -0.4}) {
+        synthesis::RigWishes wishes;
+        wishes.misalignmentPx = shiftPx;
+        const auto rig = synthesis::drawRig(4, wishes);
+        const View view = depthView(plane.world, rig);
+        const auto frame = depthFrame(view, inADimRoom(), 1);
+        const double scale = rig.depth.fx * stereoBaseline;
+        double errorPx = 0;
+        int count = 0;
+        for (int y = 0; y < view.depth.rows; y += 3)
+            for (int x = 0; x < view.depth.cols; x += 3) {
+                const int measured = frame.pixels()[y * view.depth.cols + x];
+                if (measured == 0) continue;
+                errorPx += scale / (measured / 1000.0) - scale / view.depth(y, x) - shiftPx;
+                ++count;
+            }
+        ASSERT_GT(count, 3000);
+        EXPECT_NEAR(errorPx / count, 0, 0.01);
+    }
 }
 
 TEST(WorldCameras, TheSecondInfraredCameraMissesAStripBesideNearThings) {
@@ -319,6 +382,26 @@ TEST(WorldCameras, PlainSurfacesHaveNoDepthUntilDotsFallOnThem) {
     cv::meanStdDev(view.infrared, mean, dotted);
     EXPECT_LT(sunny[0] - plain[0], 0.02 * mean[0]);
     EXPECT_GT(dotted[0], 0.15 * mean[0]);
+}
+
+TEST(WorldCameras, TheDotsFallOnTheSamePlacesForBothImagers) {
+    auto rig = synthesis::drawRig(5, {});
+    rig.right = {};
+    constexpr int disparity = 16;
+    const auto z = static_cast<float>(rig.infrared.fx * stereoBaseline / disparity);
+    TestScene scene;
+    addQuad(scene.mesh, {{-20, -20, z}, {40, 0, 0}, {0, 40, 0}}, scene.even({0.5F, 0.5F, 0.5F, 0.5F}));
+    const World world = scene.finish();
+    View view = Cameras(rig, {1, 1, 1}).see(world, {}, {}, false);
+    const cv::Mat plainLeft = view.infrared.clone(), plainRight = view.right.clone();
+    addEmitterDots(1.0 / 16, &view);
+    const cv::Rect inLeft(disparity, 0, view.right.cols - disparity, view.right.rows);
+    const cv::Mat left = cv::Mat(view.infrared - plainLeft)(inLeft);
+    const cv::Mat right = cv::Mat(view.right - plainRight)(inLeft - cv::Point(disparity, 0));
+    cv::Scalar mean, contrast;
+    cv::meanStdDev(left, mean, contrast);
+    ASSERT_GT(contrast[0], 0.02);
+    EXPECT_LT(cv::norm(left - right), 0.05 * cv::norm(left));
 }
 
 }  // namespace
