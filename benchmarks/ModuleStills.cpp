@@ -71,7 +71,7 @@ StillConverter::StillConverter(const session::SessionDescription& session) : par
 FrameRecords StillConverter::convert(const session::FramePictures& pictures) const {
     FrameRecords records;
     records.leftInfrared = pictures.infrared;
-    records.rightInfrared = pictures.infrared;
+    records.rightInfrared = pictures.right;
     records.depth = pictures.depth;
     scaleThird(pictures, parameters_.inModuleColour, &records.inModuleColour);
     if (!rectificationTable_.empty() && !pictures.platform.empty()) {

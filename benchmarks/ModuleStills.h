@@ -41,8 +41,7 @@ public:
     explicit StillConverter(const session::SessionDescription& session);
 
     const CameraParameters& parameters() const { return parameters_; }
-    /// The platform camera's record stays empty where there is no picture. The right infrared picture is the left one
-    /// again, as in the simulated library.
+    /// The records of the platform camera and of the right infrared imager stay empty where there is no picture.
     FrameRecords convert(const session::FramePictures& pictures) const;
 
 private:

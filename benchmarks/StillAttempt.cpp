@@ -19,10 +19,14 @@ StillAttempt::Outcome StillAttempt::show(const FrameRecords& still) {
     return outcome;
 }
 
-double StillAttempt::errorDeg() {
+Eigen::Matrix3d StillAttempt::rotation() {
     Eigen::Matrix<float, 3, 3, Eigen::RowMajor> rotation;
     engine_.getRotationMatrix(rotation.data());
-    return differenceDeg(rotation.cast<double>(), camera_.truth);
+    return rotation.cast<double>();
+}
+
+double StillAttempt::errorDeg() {
+    return differenceDeg(rotation(), camera_.truth);
 }
 
 }  // namespace fieldcal

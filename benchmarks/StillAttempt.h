@@ -21,6 +21,8 @@ public:
     Outcome show(const FrameRecords& still);
     /// What was found, once an attempt has been solved.
     double errorDeg();
+    Eigen::Matrix3d rotation();
+    vq::ParallaxReport parallax() const { return engine_.parallax(); }
 
     int pairs() const { return watch_.pairs; }
     /// Of all pairs so far, each from its pictures to the engine's answer.

@@ -1,15 +1,21 @@
 // Calibrates both colour cameras in worlds nobody has seen: how often it solves, how wrong it is, and how much of that
 // is parallax.
-//   world-trials [--no-zero-baseline] FIRST_SEED SEEDS WORLD...
+//   world-trials [--no-zero-baseline] [--misaligned] [--no-right] [--no-depth] FIRST_SEED SEEDS WORLD...
 // Each run takes the stills where the hand rests, at most 8 to an attempt and two attempts, as a user would; then again
 // with all cameras at one place, which leaves no parallax, unless that is unwanted: it takes as long again.
+// Registration: pixels between where a surface's own depth puts it in the colour picture and where it is seen, at 1, 2, 5
+// and 20 m. With --misaligned, the infrared imagers of each rig are misaligned by up to half a pixel of disparity, and the
+// module's depth with them: then registration judges, not the angle.
 
 #include "benchmarks/ModuleStills.h"
 #include "benchmarks/StillAttempt.h"
 #include "diagnostics/Assertions.h"
 #include "diagnostics/Logger.h"
+#include "engine/RegistrationError.h"
 #include "simulator/handheld/Studio.h"
+#include "simulator/synthesis/Random.h"
 #include "simulator/synthesis/Rig.h"
+#include "simulator/world/Depth.h"
 
 #include <QtGlobal>
 
@@ -29,10 +35,19 @@ constexpr std::size_t kCameras = 2;
 
 void discard(QtMsgType, const QMessageLogContext&, const QString&) {}
 
+constexpr std::array<int, 4> kDistancesM{1, 2, 5, 20};
+constexpr double kLargestMisalignmentPx = 0.5;
+
+struct Options {
+    bool zeroBaseline = true, misaligned = false, right = true, depth = true;
+};
+
 struct Trial {
     bool solved = false;
     int stills = 0;
     double errorDeg = 0;
+    std::array<double, kDistancesM.size()> registrationPx{};
+    vq::ParallaxReport parallax;
 };
 
 using Trials = std::array<Trial, kCameras>;  ///< of the third and of the platform camera
@@ -40,25 +55,34 @@ using Trials = std::array<Trial, kCameras>;  ///< of the third and of the platfo
 /// What the hand shows to both cameras; each still is rendered once.
 class StillShow {
 public:
-    StillShow(const std::string& world, unsigned seed, const session::SessionDescription& rig)
-        : seed_(seed), studio_(world, seed, rig), converter_(rig) {}
+    StillShow(const std::string& world, unsigned seed, const synthesis::Rig& rig, const Options& options)
+        : seed_(seed), options_(options), studio_(world, seed, rig), converter_(rig) {}
 
     const CameraParameters& parameters() const { return converter_.parameters(); }
     /// Stills are counted from 0.
     const FrameRecords& still(int number) {
-        for (int next = static_cast<int>(made_.size()); next <= number; ++next)
+        for (int next = static_cast<int>(made_.size()); next <= number; ++next) {
             made_.push_back(converter_.convert(takeStill(*studio_.make(next, true), seed_ + 1000U * next)));
+            if (!options_.right) made_.back().rightInfrared = {};
+            if (!options_.depth) made_.back().depth = {};
+        }
         return made_[static_cast<std::size_t>(number)];
     }
 
 private:
     unsigned seed_;
+    Options options_;
     handheld::Studio studio_;
     StillConverter converter_;
     std::vector<FrameRecords> made_;
 };
 
-Trial tryCamera(const ColourCamera& camera, unsigned seed, StillShow* show) {
+/// What a module takes for the inverse depth of a surface, if its imagers are misaligned.
+double ownInverseDepth(double inverseDepth, double misalignmentPx, double focalPx) {
+    return inverseDepth + misalignmentPx / (focalPx * world::stereoBaseline);
+}
+
+Trial tryCamera(const ColourCamera& camera, unsigned seed, double misalignmentPx, StillShow* show) {
     StillAttempt attempt(show->parameters(), camera, kPairLimit);
     std::srand(seed);
     Trial trial;
@@ -69,27 +93,52 @@ Trial tryCamera(const ColourCamera& camera, unsigned seed, StillShow* show) {
             outcome = attempt.show(show->still(trial.stills++));
         trial.solved = outcome == StillAttempt::Outcome::Solved;
     }
-    if (trial.solved) trial.errorDeg = attempt.errorDeg();
+    trial.parallax = attempt.parallax();
+    if (!trial.solved) return trial;
+    trial.errorDeg = attempt.errorDeg();
+    const auto& extrinsics =
+        camera.platform ? show->parameters().depthToOutOfModule : show->parameters().depthToInModule;
+    const vq::Projection projection{
+        camera.cameras, Eigen::Map<const Eigen::Vector3f>(extrinsics.translation.data()).cast<double>()};
+    for (std::size_t i = 0; i < kDistancesM.size(); ++i) {
+        const double inverseDepth = 1.0 / kDistancesM[i];
+        trial.registrationPx[i] = vq::registrationErrorPx(
+            projection, attempt.rotation(), camera.truth,
+            ownInverseDepth(inverseDepth, misalignmentPx, static_cast<double>(camera.cameras.infrared.fx)), inverseDepth);
+    }
     return trial;
 }
 
-Trials tryWorld(const std::string& world, unsigned seed, bool baselines) {
+Trials tryWorld(const std::string& world, unsigned seed, bool baselines, const Options& options) {
     synthesis::RigWishes wishes;
     wishes.platform = true;
     wishes.baselines = baselines;
+    double misalignmentPx = 0;
+    if (options.misaligned) {
+        synthesis::Random random(seed, "misalignment");
+        misalignmentPx = random.uniform(-kLargestMisalignmentPx, kLargestMisalignmentPx);
+        wishes.misalignmentPx = misalignmentPx;
+    }
     const auto rig = synthesis::drawRig(seed, wishes);
-    StillShow show(world, seed, rig);
+    StillShow show(world, seed, rig, options);
     const auto cameras = judgedCameras(rig, show.parameters());
     Trials trials;
     for (std::size_t i = 0; i < kCameras; ++i)
-        trials[i] = tryCamera(cameras.at(i), seed, &show);
+        trials[i] = tryCamera(cameras.at(i), seed, misalignmentPx, &show);
     return trials;
 }
 
 std::string told(const Trial& trial) {
-    char text[64];
-    std::snprintf(text, sizeof text, trial.solved ? "%2d stills %8.4f deg" : "%2d stills not solved", trial.stills,
-                  trial.errorDeg);
+    char text[160];
+    if (!trial.solved) {
+        std::snprintf(text, sizeof text, "%2d stills not solved", trial.stills);
+        return text;
+    }
+    constexpr std::array<const char*, 4> sources{"none", "depth", "fit", "remembered"};
+    std::snprintf(text, sizeof text, "%2d stills %8.4f deg, %5.2f %5.2f %5.2f %5.2f px, baseline %5.1f mm (%s)",
+                  trial.stills, trial.errorDeg, trial.registrationPx[0], trial.registrationPx[1],
+                  trial.registrationPx[2], trial.registrationPx[3], trial.parallax.baselineM.value_or(0) * 1e3,
+                  sources[static_cast<std::size_t>(trial.parallax.baselineFrom)]);
     return text;
 }
 
@@ -101,20 +150,28 @@ void summarize(const std::string& what, std::vector<Trial> trials) {
     if (!trials.empty())
         std::printf(", error median %.4f, 90 %% %.4f, worst %.4f degrees", trials[trials.size() / 2].errorDeg,
                     trials[trials.size() * 9 / 10].errorDeg, trials.back().errorDeg);
+    for (std::size_t i = 0; i < kDistancesM.size() && !trials.empty(); ++i) {
+        std::vector<double> registration;
+        for (const Trial& trial : trials)
+            registration.push_back(trial.registrationPx[i]);
+        std::sort(registration.begin(), registration.end());
+        std::printf("%s%d m %.2f (%.2f)", i == 0 ? "; registration median (worst) px: " : ", ", kDistancesM[i],
+                    registration[registration.size() / 2], registration.back());
+    }
     std::printf("\n");
 }
 
-void tryWorlds(const std::string& world, unsigned first, unsigned count, bool zeroBaseline) {
+void tryWorlds(const std::string& world, unsigned first, unsigned count, const Options& options) {
     constexpr std::array<const char*, kCameras> names{"third", "platform"};
     std::array<std::vector<Trial>, kCameras> real, without;
     for (unsigned seed = first; seed < first + count; ++seed) {
-        const Trials seen = tryWorld(world, seed, true);
-        const Trials unshifted = zeroBaseline ? tryWorld(world, seed, false) : Trials{};
+        const Trials seen = tryWorld(world, seed, true, options);
+        const Trials unshifted = options.zeroBaseline ? tryWorld(world, seed, false, options) : Trials{};
         for (std::size_t i = 0; i < kCameras; ++i) {
             real[i].push_back(seen[i]);
             without[i].push_back(unshifted[i]);
             std::printf("%-11s seed %4u  %-8s   %s", world.c_str(), seed, names[i], told(seen[i]).c_str());
-            if (zeroBaseline) std::printf("   without baselines %s", told(unshifted[i]).c_str());
+            if (options.zeroBaseline) std::printf("   without baselines %s", told(unshifted[i]).c_str());
             std::printf("\n");
         }
         std::fflush(stdout);
@@ -122,7 +179,7 @@ void tryWorlds(const std::string& world, unsigned first, unsigned count, bool ze
     for (std::size_t i = 0; i < kCameras; ++i) {
         const std::string what = world + ", " + names[i];
         summarize(what, real[i]);
-        if (zeroBaseline) summarize(what + ", no baselines", without[i]);
+        if (options.zeroBaseline) summarize(what + ", no baselines", without[i]);
     }
 }
 
@@ -130,14 +187,23 @@ void tryWorlds(const std::string& world, unsigned first, unsigned count, bool ze
 
 int main(int argc, char** argv) {
     std::vector<std::string> arguments(argv + 1, argv + argc);
-    const bool zeroBaseline = arguments.empty() || arguments.front() != "--no-zero-baseline";
-    if (!zeroBaseline) arguments.erase(arguments.begin());
-    if (arguments.size() < 3) fatalFailure("usage: world-trials [--no-zero-baseline] FIRST_SEED SEEDS WORLD...", 2);
+    Options options;
+    const std::array<std::pair<const char*, bool Options::*>, 4> switches{{{"--no-zero-baseline", &Options::zeroBaseline},
+                                                                           {"--misaligned", &Options::misaligned},
+                                                                           {"--no-right", &Options::right},
+                                                                           {"--no-depth", &Options::depth}}};
+    for (const auto& [name, member] : switches) {
+        const auto found = std::find(arguments.begin(), arguments.end(), name);
+        if (found == arguments.end()) continue;
+        options.*member = !(options.*member);
+        arguments.erase(found);
+    }
+    if (arguments.size() < 3) fatalFailure("usage: world-trials [OPTION...] FIRST_SEED SEEDS WORLD...", 2);
     setLogLevel(-1);
     qInstallMessageHandler(discard);
     const auto first = static_cast<unsigned>(std::atoi(arguments[0].c_str()));
     const auto count = static_cast<unsigned>(std::atoi(arguments[1].c_str()));
     for (std::size_t i = 2; i < arguments.size(); ++i)
-        tryWorlds(arguments[i], first, count, zeroBaseline);
+        tryWorlds(arguments[i], first, count, options);
     return 0;
 }
