@@ -3,8 +3,18 @@
 namespace fieldcal {
 namespace {
 
-/// The selection takes the ninth frame at the earliest, and needs as many of each still to see that the hand moved.
+/// The selection takes the ninth frame at the earliest.
 constexpr int kGrabsPerStill = 20;
+/// Frames of a movement: too few to be taken for a rest.
+constexpr int kMovingGrabs = 5;
+
+/// Looks like nothing that the hand could rest at.
+ImageFrame32 inverted(const ImageFrame32& colour) {
+    ImageFrame32 frame = colour;
+    for (std::size_t i = 0; i < frame.byteCount(); ++i)
+        frame.bytes()[i] = static_cast<std::uint8_t>(255 - frame.bytes()[i]);
+    return frame;
+}
 
 }  // namespace
 
@@ -13,6 +23,10 @@ StillAttempt::StillAttempt(const CameraParameters& parameters, const ColourCamer
 
 StillAttempt::Outcome StillAttempt::show(const FrameRecords& still) {
     auto outcome = Outcome::Continues;
+    // A hand moves between two rests, however alike the two views are.
+    const ImageFrame32 moving = inverted(camera_.colourOf(still));
+    for (int i = 0; i < kMovingGrabs; ++i)
+        attempt_.processFrame({still.leftInfrared, moving, still.rightInfrared, still.depth});
     for (int i = 0; i < kGrabsPerStill && outcome == Outcome::Continues; ++i)
         outcome = attempt_.processFrame(
             {still.leftInfrared, camera_.colourOf(still), still.rightInfrared, still.depth});

@@ -17,10 +17,12 @@
 #include "simulator/synthesis/Rig.h"
 #include "simulator/world/Depth.h"
 
+#include <Eigen/Geometry>
 #include <QtGlobal>
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -46,6 +48,7 @@ struct Trial {
     bool solved = false;
     int stills = 0;
     double errorDeg = 0;
+    Eigen::Vector3d turnDeg = Eigen::Vector3d::Zero();  ///< the error about each axis of the colour camera
     std::array<double, kDistancesM.size()> registrationPx{};
     vq::ParallaxReport parallax;
 };
@@ -96,6 +99,8 @@ Trial tryCamera(const ColourCamera& camera, unsigned seed, double misalignmentPx
     trial.parallax = attempt.parallax();
     if (!trial.solved) return trial;
     trial.errorDeg = attempt.errorDeg();
+    const Eigen::AngleAxisd turn(attempt.rotation() * camera.truth.transpose());
+    trial.turnDeg = turn.axis() * turn.angle() * 180 / CV_PI;
     const auto& extrinsics =
         camera.platform ? show->parameters().depthToOutOfModule : show->parameters().depthToInModule;
     const vq::Projection projection{
@@ -150,6 +155,14 @@ void summarize(const std::string& what, std::vector<Trial> trials) {
     if (!trials.empty())
         std::printf(", error median %.4f, 90 %% %.4f, worst %.4f degrees", trials[trials.size() / 2].errorDeg,
                     trials[trials.size() * 9 / 10].errorDeg, trials.back().errorDeg);
+    for (int axis = 0; axis < 3 && trials.size() > 1; ++axis) {
+        double sum = 0, squares = 0;
+        const auto count = static_cast<double>(trials.size());
+        for (const Trial& trial : trials)
+            sum += trial.turnDeg[axis], squares += trial.turnDeg[axis] * trial.turnDeg[axis];
+        const double mean = sum / count, deviation = std::sqrt(std::max(squares / count - mean * mean, 0.0) / (count - 1));
+        std::printf("%s%+.4f ± %.4f", axis == 0 ? "; mean about X, Y, Z " : ", ", mean, deviation);
+    }
     for (std::size_t i = 0; i < kDistancesM.size() && !trials.empty(); ++i) {
         std::vector<double> registration;
         for (const Trial& trial : trials)
