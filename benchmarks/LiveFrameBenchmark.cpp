@@ -41,6 +41,7 @@ void liveFrame(benchmark::State& state, std::size_t recording, bool platformCame
     for (auto _ : state) {
         live.sensor.grab(true);
         live.engine.measureInfraredBrightness(frames.leftInfrared, &brightness);
+        live.engine.inputDistanceFrames(frames.rightInfrared, frames.depth);
         live.engine.inputFramesAndCheckMovement(frames.leftInfrared,
                                                 platformCamera ? frames.outOfModuleColour : frames.inModuleColour);
     }

@@ -1,7 +1,9 @@
-// One accepted pair, picture to answer, beside the OpenCV corner calls that it cannot do without.
+// One accepted pair, picture to answer, beside the OpenCV corner calls that it cannot do without. The first recording of
+// FIELDCAL_RECORDINGS; distances are measured where it has right infrared images.
 
-#include "benchmarks/BenchmarkData.h"
+#include "benchmarks/ModuleStills.h"
 #include "diagnostics/Logger.h"
+#include "engine/CalibratorInterface.h"
 #include "engine/GreyConversion.h"
 #include "engine/InfraredConversion.h"
 #include "engine/RegistrationContext.h"
@@ -17,16 +19,28 @@ namespace {
 
 using namespace fieldcal;
 
-const BenchmarkData& data() {
-    static const BenchmarkData loaded = loadRecording(recordingFolders().front());
+const ModuleStills& data() {
+    static const ModuleStills loaded = playStills(recordingFolders().front());
     return loaded;
 }
 
-void prepareContext(vq::RegistrationContext* context) {
-    context->infraredModel = data().cameras.infrared;
-    context->colourModel = data().cameras.colour;
-    context->colourScaling = data().cameras.colourScaling;
-    context->state->setExtrinsics(vq::poseFromExtrinsics(data().parameters.depthToInModule));
+const ColourCamera& camera() {
+    static const ColourCamera first = judgedCameras(data().session, data().parameters).front();
+    return first;
+}
+
+vq::ImagePairRecord recordOf(const ImageFrame& frame) {
+    vq::ImagePairRecord record;
+    record.assign(frame.width(), frame.height(), frame.bytes(), frame.bytesPerPixel());
+    return record;
+}
+
+std::vector<vq::SelectedImages> pairsOfRecording() {
+    std::vector<vq::SelectedImages> pairs;
+    for (const FrameRecords& still : data().stills)
+        pairs.push_back({recordOf(still.leftInfrared), recordOf(camera().colourOf(still)), recordOf(still.rightInfrared),
+                         recordOf(still.depth)});
+    return pairs;
 }
 
 void corners(const cv::Mat& image, int maximumCount) {
@@ -41,16 +55,14 @@ void corners(const cv::Mat& image, int maximumCount) {
 /// The peer: corners of both pictures, one after the other, as OpenCV gives them. All stills of the recording.
 void cornerCalls(benchmark::State& state) {
     std::vector<cv::Mat> infrared, grey;
-    for (std::size_t i = 0; i < data().infrared.size(); ++i) {
-        const auto& ir = data().infrared[i];
-        const auto& colour = data().colour[i];
+    for (const vq::SelectedImages& pair : pairsOfRecording()) {
         cv::Mat converted;
-        vq::convertInfrared(cv::Mat(static_cast<int>(ir.height), static_cast<int>(ir.width), CV_16UC1,
-                                    const_cast<std::uint8_t*>(ir.pixels.data())),
+        vq::convertInfrared(cv::Mat(static_cast<int>(pair.infrared.height), static_cast<int>(pair.infrared.width),
+                                    CV_16UC1, const_cast<std::uint8_t*>(pair.infrared.pixels.data())),
                             1, &converted);
         infrared.push_back(converted.clone());
-        vq::convertToGrey(cv::Mat(static_cast<int>(colour.height), static_cast<int>(colour.width), CV_8UC4,
-                                  const_cast<std::uint8_t*>(colour.pixels.data())),
+        vq::convertToGrey(cv::Mat(static_cast<int>(pair.colour.height), static_cast<int>(pair.colour.width), CV_8UC4,
+                                  const_cast<std::uint8_t*>(pair.colour.pixels.data())),
                           &converted);
         grey.push_back(converted.clone());
     }
@@ -65,33 +77,38 @@ void cornerCalls(benchmark::State& state) {
 /// Conversion, corners, descriptors, matching, verification, grid and a stability decision for every still.
 void pairToAnswer(benchmark::State& state) {
     vq::RegistrationContext context;
-    prepareContext(&context);
+    vq::CalibratorInterface engine(context, data().parameters);
+    engine.setCameraParameters(camera().platform);
     vq::SensorCalibrator calibrator(context, {});
+    const std::vector<vq::SelectedImages> pairs = pairsOfRecording();
     vq::PairStatistics sum;
     for (auto _ : state) {
         std::srand(1);
         calibrator.reset();
+        engine.setCameraParameters(camera().platform);
         calibrator.setup();
-        for (std::size_t i = 0; i < data().infrared.size(); ++i) {
-            calibrator.prepare({data().infrared[i], data().colour[i], {}, {}});
+        for (const vq::SelectedImages& pair : pairs) {
+            calibrator.prepare(pair);
             calibrator.generateMatches();
             calibrator.tryDetermineStableSolution();
             const vq::PairStatistics& s = calibrator.statistics();
             sum.conversionSeconds += s.conversionSeconds;
             sum.detectionSeconds += s.detectionSeconds;
             sum.descriptionSeconds += s.descriptionSeconds;
+            sum.distanceSeconds += s.distanceSeconds;
             sum.matchingSeconds += s.matchingSeconds;
             sum.verificationSeconds += s.verificationSeconds;
             sum.estimationSeconds += s.estimationSeconds;
         }
     }
-    const double toMilliseconds = 1e3 / static_cast<double>(data().infrared.size());
+    const double toMilliseconds = 1e3 / static_cast<double>(pairs.size());
     const auto perPair = [&](double seconds) {
         return benchmark::Counter(seconds * toMilliseconds, benchmark::Counter::kAvgIterations);
     };
     state.counters["conversion_ms"] = perPair(sum.conversionSeconds);
     state.counters["detection_ms"] = perPair(sum.detectionSeconds);
     state.counters["description_ms"] = perPair(sum.descriptionSeconds);
+    state.counters["distance_ms"] = perPair(sum.distanceSeconds);
     state.counters["matching_ms"] = perPair(sum.matchingSeconds);
     state.counters["verification_ms"] = perPair(sum.verificationSeconds);
     state.counters["estimation_ms"] = perPair(sum.estimationSeconds);

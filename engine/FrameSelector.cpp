@@ -15,30 +15,18 @@ using fieldcal::logMessage;
 
 constexpr const char* kTag = "FrameSelector::shouldUseThisFrame";
 
-/// The matrix that is about to leave the queue, to be filled anew: saves an allocation of two megabytes a frame.
-/// Empty when somebody else still holds its pixels.
-cv::Mat takeOldest(std::deque<cv::Mat>& queue, std::size_t limit) {
-    if (queue.size() < limit) return {};
-    cv::Mat oldest = std::move(queue.front());
-    queue.pop_front();
-    return oldest.u != nullptr && oldest.u->refcount == 1 ? oldest : cv::Mat();
+cv::Mat viewOf(const fieldcal::ImageFrame& frame, int type) {
+    return {static_cast<int>(frame.height()), static_cast<int>(frame.width()), type,
+            const_cast<std::uint8_t*>(frame.bytes())};
 }
 
-void copyInto(cv::Mat& matrix, const fieldcal::ImageFrame& frame, int type) {
-    const cv::Mat view(static_cast<int>(frame.height()), static_cast<int>(frame.width()), type,
-                       const_cast<std::uint8_t*>(frame.bytes()));
-    view.copyTo(matrix);
-}
-
-/// Appends a copy of a 16-bit image, or an empty image where there is none or none is wanted.
-void appendCopy(std::deque<cv::Mat>& queue, std::size_t limit, const fieldcal::ImageFrame16& frame, bool wanted) {
-    cv::Mat copy = takeOldest(queue, limit);
+/// Copies the frame, or empties the image where there is none or none is wanted.
+void copyIf(bool wanted, const fieldcal::ImageFrame& frame, int type, cv::Mat* image) {
     if (wanted && !frame.empty()) {
-        copyInto(copy, frame, CV_16UC1);
+        viewOf(frame, type).copyTo(*image);
     } else {
-        copy.release();
+        image->release();
     }
-    queue.push_back(std::move(copy));
 }
 
 void assign(const cv::Mat& image, int bytesPerPixel, ImagePairRecord* record) {
@@ -54,23 +42,28 @@ void FrameSelector::push(const fieldcal::ImageFrame16& infrared, const fieldcal:
 
 void FrameSelector::push(const fieldcal::ImageFrame16& infrared, const fieldcal::ImageFrame32& colour,
                          const fieldcal::ImageFrame16& right, const fieldcal::ImageFrame16& depth) {
-    const std::size_t limit = 2 * step_ + 1;
+    Moment moment = takeOldest();
     // A pair is only ever selected from frames that came after the movement.
     const bool mayBeSelected = state_ != WaitingToMove;
-    appendCopy(rightQueue_, limit, right, mayBeSelected);
-    appendCopy(depthQueue_, limit, depth, mayBeSelected);
-    cv::Mat colourCopy = takeOldest(colourQueue_, limit);
-    cv::Mat infraredCopy = takeOldest(infraredQueue_, limit);
-    cv::Mat motion = takeOldest(motionQueue_, limit);
-    copyInto(infraredCopy, infrared, CV_16UC1);
-    copyInto(colourCopy, colour, CV_8UC4);
+    copyIf(mayBeSelected, infrared, CV_16UC1, &moment.infrared);
+    copyIf(mayBeSelected, colour, CV_8UC4, &moment.colour);
+    copyIf(mayBeSelected, right, CV_16UC1, &moment.right);
+    copyIf(mayBeSelected, depth, CV_16UC1, &moment.depth);
+    const cv::Mat colourView = viewOf(colour, CV_8UC4);
+    moment.colourSize = colourView.size();
+    moment.infraredSize = viewOf(infrared, CV_16UC1).size();
     cv::Mat half;
-    cv::pyrDown(colourCopy, half);
-    cv::pyrDown(half, motion);
-    colourQueue_.push_back(std::move(colourCopy));
-    infraredQueue_.push_back(std::move(infraredCopy));
-    motionQueue_.push_back(std::move(motion));
+    cv::pyrDown(colourView, half);
+    cv::pyrDown(half, moment.motion);
+    moments_.push_back(std::move(moment));
     if (state_ == Initial) state_ = WaitingForStill;
+}
+
+FrameSelector::Moment FrameSelector::takeOldest() {
+    if (moments_.size() < 2 * step_ + 1) return {};
+    Moment oldest = std::move(moments_.front());
+    moments_.pop_front();
+    return oldest;
 }
 
 bool FrameSelector::shouldUseThisFrame(ImagePairRecord* infrared, ImagePairRecord* colour) {
@@ -97,10 +90,11 @@ float FrameSelector::motionMeasure() const {
 }
 
 float FrameSelector::motionSince(std::size_t index) const {
-    const bool sizeChanged = infraredQueue_.at(index).size() != infraredQueue_.at(counter_).size() ||
-                             colourQueue_.at(index).size() != colourQueue_.at(counter_).size();
+    const Moment &earlier = moments_.at(index), &newest = moments_.at(counter_);
+    const bool sizeChanged =
+        earlier.infraredSize != newest.infraredSize || earlier.colourSize != newest.colourSize;
     if (sizeChanged) return std::numeric_limits<float>::max();
-    return static_cast<float>(cv::norm(motionQueue_.at(counter_), motionQueue_.at(index), cv::NORM_L2));
+    return static_cast<float>(cv::norm(newest.motion, earlier.motion, cv::NORM_L2));
 }
 
 void FrameSelector::enter(State state) {
@@ -109,26 +103,21 @@ void FrameSelector::enter(State state) {
 }
 
 void FrameSelector::copySelectedPair(ImagePairRecord* infrared, ImagePairRecord* colour) {
-    logMessage(kInfo, kTag, "Before getting the images from the deques: %d %d", static_cast<int>(infraredQueue_.size()),
-               static_cast<int>(colourQueue_.size()));
-    const cv::Mat& infraredImage = infraredQueue_.at(counter_ - step_);
-    const cv::Mat& colourImage = colourQueue_.at(counter_ - step_);
+    const auto kept = static_cast<int>(moments_.size());
+    logMessage(kInfo, kTag, "Before getting the images from the deques: %d %d", kept, kept);
+    const Moment& selected = moments_.at(counter_ - step_);
     logMessage(kInfo, kTag, "After");
-    assign(infraredImage, 2, infrared);
+    assign(selected.infrared, 2, infrared);
     logMessage(kInfo, kTag, "infrared memcpy is finished");
-    assign(colourImage, 4, colour);
-    assign(rightQueue_.at(counter_ - step_), 2, &selectedRight_);
-    assign(depthQueue_.at(counter_ - step_), 2, &selectedDepth_);
+    assign(selected.colour, 4, colour);
+    assign(selected.right, 2, &selectedRight_);
+    assign(selected.depth, 2, &selectedDepth_);
     logMessage(kInfo, kTag, "Found good image pairs!");
 }
 
 void FrameSelector::reset() {
     enter(Initial);
-    colourQueue_.clear();
-    infraredQueue_.clear();
-    motionQueue_.clear();
-    rightQueue_.clear();
-    depthQueue_.clear();
+    moments_.clear();
 }
 
 }  // namespace vq

@@ -35,8 +35,18 @@ public:
     State state() const { return state_; }
 
 private:
+    /// What is kept of one frame set.
+    struct Moment {
+        cv::Mat motion;                           ///< the colour image, reduced to a quarter
+        cv::Mat infrared, colour, right, depth;   ///< empty while no pair can be selected from them
+        cv::Size infraredSize, colourSize;
+    };
+
+    /// The oldest moment with its images, to be filled anew, once the queue is full: that saves allocations of several
+    /// megabytes a frame.
+    Moment takeOldest();
     float motionMeasure() const;
-    /// Of the newest frame against an earlier one. A change of a frame size counts as movement, whatever the pictures
+    /// Of the newest frame against an earlier one. A change of a frame size counts as movement, whatever the images
     /// show.
     float motionSince(std::size_t index) const;
     void enter(State state);
@@ -46,11 +56,7 @@ private:
     const float stillThreshold_ = 4000.0F;
     const std::uint32_t step_ = 4;
     State state_ = Initial;
-    std::deque<cv::Mat> colourQueue_;
-    std::deque<cv::Mat> infraredQueue_;
-    std::deque<cv::Mat> motionQueue_;
-    std::deque<cv::Mat> rightQueue_;  ///< empty images while no pair can be selected from them
-    std::deque<cv::Mat> depthQueue_;  ///< likewise
+    std::deque<Moment> moments_;  ///< the oldest first, at most 2 · step + 1
     ImagePairRecord selectedRight_, selectedDepth_;
     std::uint32_t counter_ = 0;
 };
