@@ -23,9 +23,15 @@ CalibrationAttempt::CalibrationAttempt(vq::ICalibrator& calibrator, AttemptListe
                                        std::int32_t pairLimit)
     : calibrator_(calibrator), listener_(listener), light_(light), pairLimit_(pairLimit) {}
 
+void CalibrationAttempt::useMemory(const BaselineMemory& memory, std::uint32_t serial) {
+    memory_ = memory;
+    serial_ = serial;
+}
+
 void CalibrationAttempt::start(bool secondCamera) {
     calibrator_.resetState();
     calibrator_.setCameraParameters(secondCamera);
+    if (memory_) calibrator_.setRememberedBaseline(memory_->find(serial_).value_or(0));
     calibrator_.setup();
     photoCount_ = 0;
     running_ = true;
@@ -67,6 +73,7 @@ CalibrationAttempt::Outcome CalibrationAttempt::addPair(const CaptureFrames& fra
     listener_.calibrationProgress(progressAfterPairs(photoCount_));
     listener_.pairProcessed(result);
     const Outcome outcome = judge(result);
+    if (outcome == Outcome::Solved) rememberBaseline();
     running_ = outcome == Outcome::Continues;
     return outcome;
 }
@@ -81,6 +88,14 @@ CalibrationAttempt::Outcome CalibrationAttempt::judge(const vq::CalibratorResult
     if (result.code == vq::AddingFramesForConvergence) qInfo("Continue processing");
     const bool failed = result.code == vq::SceneTooSimple || photoCount_ >= pairLimit_;
     return failed ? Outcome::Failed : Outcome::Continues;
+}
+
+/// Unless it came from memory, which then knows it already.
+void CalibrationAttempt::rememberBaseline() const {
+    const vq::ParallaxReport parallax = calibrator_.parallax();
+    const bool measured =
+        parallax.baselineFrom == vq::BaselineSource::Depth || parallax.baselineFrom == vq::BaselineSource::Fit;
+    if (memory_ && measured && parallax.baselineM) memory_->remember(serial_, *parallax.baselineM);
 }
 
 void CalibrationAttempt::fail() {

@@ -3,9 +3,11 @@
 #include "camera/ImageFrame.h"
 #include "engine/ICalibrator.h"
 #include "workflow/AttemptListener.h"
+#include "workflow/BaselineMemory.h"
 #include "workflow/LightGate.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace fieldcal {
 
@@ -24,6 +26,10 @@ public:
     /// `pairLimit`: pairs after which an attempt without a solution ends.
     CalibrationAttempt(vq::ICalibrator& calibrator, AttemptListener& listener, const LightGate& light,
                        std::int32_t pairLimit);
+
+    /// From the next `start` on, what is known about the stereo baseline of the module with this serial number is used,
+    /// and what a solved attempt has measured is remembered. Without this call nothing is.
+    void useMemory(const BaselineMemory& memory, std::uint32_t serial);
 
     /// Forgets what was collected before, of whichever camera, and starts from the factory rotation of the chosen one.
     void start(bool secondCamera);
@@ -47,11 +53,14 @@ public:
 private:
     Outcome addPair(const CaptureFrames& frames);
     Outcome judge(const vq::CalibratorResult& result) const;
+    void rememberBaseline() const;
 
     vq::ICalibrator& calibrator_;
     AttemptListener& listener_;
     const LightGate& light_;
     const std::int32_t pairLimit_;
+    std::optional<BaselineMemory> memory_;
+    std::uint32_t serial_ = 0;
     std::int32_t photoCount_ = 0;
     bool running_ = false;
 };

@@ -26,7 +26,7 @@ namespace fieldcal {
 /// What a workflow finds outside itself.
 struct WorkflowEnvironment {
     std::function<std::unique_ptr<Sensor>()> makeSensor;
-    QString dataFolder;  ///< where it is noted that a calibration was not stored
+    QString dataFolder;  ///< where it is noted that a calibration was not stored, and what is known about modules
 };
 WorkflowEnvironment systemWorkflowEnvironment();
 

@@ -114,6 +114,7 @@ void Workflow::openCamera(const Snapshot& now) {
     sensor_->setPlatformPictureWanted(false);
     records_.setFactory(factory_.depthToInModule.rotation, factory_.depthToOutOfModule.rotation);
     engine_.setCameraParameters(false);
+    attempt_.useMemory(BaselineMemory(environment_.dataFolder), sensor_->serialNumber());
     sensorReady_ = true;
     tellOfLastSave();
     advance(now, State::ShowingIntroduction);

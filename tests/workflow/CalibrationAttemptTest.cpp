@@ -1,7 +1,10 @@
 #include "workflow/CalibrationAttempt.h"
 
+#include <QDir>
+#include <QTemporaryDir>
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <deque>
 #include <string>
 #include <vector>
@@ -21,7 +24,8 @@ public:
     std::uint16_t brightness = 500;
     std::deque<std::int32_t> movementCodes;  ///< empty: every frame is a pair
     std::deque<std::int32_t> pairCodes;      ///< empty: code 2
-    std::string calls;
+    vq::ParallaxReport report;
+    std::string calls;  ///< a remembered baseline in tenths of a millimetre
 
     std::int32_t setup() override { return note("setup ", 0); }
     vq::CalibratorResult inputFramesAndCheckMovement(const ImageFrame16&, const ImageFrame32&) override {
@@ -41,11 +45,11 @@ public:
     void drag(std::int32_t, std::int32_t) override {}
     void endDrag() override {}
     void inputDistanceFrames(const ImageFrame16&, const ImageFrame16&) override {}
-    void setRememberedBaseline(double) override {}
-    vq::ParallaxReport parallax() const override { return {}; }
+    void setRememberedBaseline(double metres) override { note(std::to_string(std::lround(metres * 1e4)) + ' ', 0); }
+    vq::ParallaxReport parallax() const override { return report; }
 
 private:
-    std::int32_t note(const char* call, std::int32_t result) {
+    std::int32_t note(const std::string& call, std::int32_t result) {
         calls += call;
         return result;
     }
@@ -128,6 +132,35 @@ TEST_F(CalibrationAttemptTest, ATooSimpleSceneEndsTheAttemptAtOnce) {
     calibrator.pairCodes = {0, vq::SceneTooSimple};
     EXPECT_EQ(feed(2), Outcome::Failed);
     EXPECT_EQ(notes.howToMove, 1);
+}
+
+TEST_F(CalibrationAttemptTest, ABaselineThatASolutionMeasuredIsKnownToTheModulesNextAttempts) {
+    using Source = vq::BaselineSource;
+    const QTemporaryDir data;
+    const BaselineMemory memory(data.path());
+    const auto solveWith = [&](Source source, double baselineM, std::int32_t code) {
+        calibrator.calls.clear();
+        calibrator.report.baselineFrom = source;
+        calibrator.report.baselineM = baselineM;
+        calibrator.pairCodes = {code};
+        attempt.start(false);
+        feed(1);
+        return calibrator.calls;
+    };
+    solveWith(Source::Depth, 0.05, vq::GoodSolution);
+    EXPECT_TRUE(QDir(data.path()).isEmpty()) << "only who asks for it has a memory";
+
+    attempt.useMemory(memory, 7);
+    solveWith(Source::Depth, 0.05, vq::AddingFramesForConvergence);
+    solveWith(Source::Depth, 0.05, vq::SceneTooSimple);
+    EXPECT_EQ(solveWith(Source::Fit, 0.0551, vq::GoodSolution), "reset third 0 setup check pair ");
+    EXPECT_EQ(solveWith(Source::Remembered, 0.06, vq::GoodSolution), "reset third 551 setup check pair ");
+    solveWith(Source::None, 0.06, vq::GoodSolution);
+    EXPECT_EQ(solveWith(Source::Depth, 0.0553, vq::GoodSolution), "reset third 551 setup check pair ");
+    attempt.useMemory(memory, 8);
+    EXPECT_EQ(solveWith(Source::Fit, 0.07, vq::GoodSolution), "reset third 0 setup check pair ");
+    EXPECT_NEAR(*memory.find(7), 0.0553, 1e-9);
+    EXPECT_NEAR(*memory.find(8), 0.07, 1e-9);
 }
 
 TEST_F(CalibrationAttemptTest, InstructionsNeverCountAsPhotos) {

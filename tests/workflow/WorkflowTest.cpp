@@ -19,6 +19,7 @@ double angleAboutYDeg(const Rotation& rotation) {
 
 TEST_F(WorkflowTest, TwoCamerasFromTheFirstScreenToTheFlash) {
     const session::SessionDescription truth = describe(mountainRecording());
+    BaselineMemory(folder.filePath("data")).remember(truth.module.serial, 0.055);
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     const QByteArray before = flash();
@@ -27,6 +28,7 @@ TEST_F(WorkflowTest, TwoCamerasFromTheFirstScreenToTheFlash) {
     solve();
     const Rotation firstEstimate = *workflow->records().estimated(kFirst);
     EXPECT_LT(degreesBetween(firstEstimate, *truth.truthThird), 0.05);
+    EXPECT_NEAR(workflow->engine().parallax().baselineM.value_or(0), 0.055, 1e-6) << "far mountains do not tell it";
     workflow->requestState(State::RefiningCalibration);
     ASSERT_TRUE(user->waitUntil([&] { return !user->dotted.empty(); })) << "depth is to reach further";
     dragBy(1.0F);
