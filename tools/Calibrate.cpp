@@ -41,6 +41,7 @@ int runCalibrate(const QStringList& arguments) {
     const bool toPeople = options->jsonFile != "-";
     RecordingCalibration calibration(folder, session, options->platformCamera, toPeople ? printLine : nullptr);
     calibration.setWriting(options->write);
+    calibration.useMemory(BaselineMemory(userDataFolder()));
     if (!calibration.run(&why)) return fail(why);
     if (!options->stateFile.isEmpty() && !calibration.engineState().writeToFile(options->stateFile.toStdString())) {
         return fail(options->stateFile + ": cannot be written");

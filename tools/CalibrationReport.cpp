@@ -3,6 +3,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QStringList>
 
 #include <cmath>
 
@@ -38,6 +39,52 @@ QJsonObject jsonSeconds(const CalibrationReport& report) {
             {"matching", matchingSeconds(report)},
             {"verification", report.stageSeconds(&vq::PairStatistics::verificationSeconds)},
             {"estimation", report.stageSeconds(&vq::PairStatistics::estimationSeconds)}};
+}
+
+QString nameOf(vq::BaselineSource source) {
+    switch (source) {
+        case vq::BaselineSource::Depth:
+            return "depth";
+        case vq::BaselineSource::Fit:
+            return "fit";
+        case vq::BaselineSource::Remembered:
+            return "remembered";
+        case vq::BaselineSource::None:
+            break;
+    }
+    return "none";
+}
+
+QJsonObject jsonParallax(const vq::ParallaxReport& parallax) {
+    return {{"withDistance", parallax.withDistance},
+            {"baselineMm", parallax.baselineM ? QJsonValue(*parallax.baselineM * 1e3) : QJsonValue()},
+            {"baselineFrom", nameOf(parallax.baselineFrom)},
+            {"medianDistanceM", parallax.medianDistanceM ? QJsonValue(*parallax.medianDistanceM) : QJsonValue()}};
+}
+
+QJsonObject jsonRegistration(const std::map<int, double>& registrationPx) {
+    QJsonObject object;
+    for (const auto& [metres, px] : registrationPx)
+        object.insert(QString::number(metres), px);
+    return object;
+}
+
+QString distancesText(const vq::ParallaxReport& parallax) {
+    if (parallax.withDistance == 0) return "no distances were measured\n";
+    const QString median = parallax.medianDistanceM ? QString("median %1 m").arg(*parallax.medianDistanceM, 0, 'g', 2)
+                                                    : QString("most too far to tell");
+    const QString baseline = parallax.baselineM ? QString("stereo baseline %1 mm (%2)")
+                                                      .arg(*parallax.baselineM * 1e3, 0, 'f', 1)
+                                                      .arg(nameOf(parallax.baselineFrom))
+                                                : QString("stereo baseline unknown");
+    return QString("distances: %1 matches, %2; %3\n").arg(parallax.withDistance).arg(median, baseline);
+}
+
+QString registrationText(const std::map<int, double>& registrationPx) {
+    QStringList parts;
+    for (const auto& [metres, px] : registrationPx)
+        parts.append(QString("%1 px at %2 m").arg(px, 0, 'f', 2).arg(metres));
+    return parts.isEmpty() ? QString() : "colour off its surface by " + parts.join(", ") + "\n";
 }
 
 }  // namespace
@@ -77,8 +124,10 @@ QByteArray reportJson(const CalibrationReport& report) {
         {"factoryRotation", jsonNumbers(report.factoryRotation)},
         {"errorDeg", report.errorDeg ? QJsonValue(*report.errorDeg) : QJsonValue()},
         {"uncertaintyDeg", report.uncertaintyDeg ? QJsonValue(jsonNumbers(*report.uncertaintyDeg)) : QJsonValue()},
+        {"parallax", jsonParallax(report.parallax)},
         {"perPair", perPair},
         {"seconds", jsonSeconds(report)}};
+    if (!report.registrationPx.empty()) object.insert("registrationPx", jsonRegistration(report.registrationPx));
     if (report.written) object.insert("written", *report.written);
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
@@ -88,7 +137,7 @@ QString reportText(const CalibrationReport& report) {
                              .arg(report.pairs.size())
                              .arg(report.framesUsed)
                              .arg(report.totalSeconds, 0, 'f', 2);
-    if (!report.solved) return "not solved: " + took + "\n";
+    if (!report.solved) return "not solved: " + took + "\n" + distancesText(report.parallax);
     QString text = QString("solved: %1\n").arg(took);
     text += QString("angles about X, Y, Z: %1 %2 %3 degrees\n")
                 .arg(report.anglesDeg[0], 0, 'f', 4)
@@ -102,8 +151,9 @@ QString reportText(const CalibrationReport& report) {
     }
     text += QString("changed from the factory rotation by %1 degrees\n")
                 .arg(rotationDifferenceDeg(report.rotation, report.factoryRotation), 0, 'f', 4);
+    text += distancesText(report.parallax);
     if (report.errorDeg) text += QString("off the truth by %1 degrees\n").arg(*report.errorDeg, 0, 'f', 4);
-    return text;
+    return text + registrationText(report.registrationPx);
 }
 
 }  // namespace fieldcal

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "engine/CrossModalMatcher.h"
+#include "engine/ParallaxReport.h"
 
 #include <QString>
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -29,8 +31,12 @@ struct CalibrationReport {
     Matrix3 factoryRotation{};
     std::optional<double> errorDeg;                       ///< only when solved and when the recording holds the truth
     std::optional<std::array<double, 3>> uncertaintyDeg;  ///< one standard deviation of each angle
-    std::vector<PairReport> pairs;                        ///< of all attempts
-    std::optional<bool> written;  ///< only when asked for: whether the module's flash holds the rotation
+    /// How many pixels the colour of a surface is off, by its distance in metres; only with `errorDeg`, and when the
+    /// recording has depth.
+    std::map<int, double> registrationPx;
+    vq::ParallaxReport parallax;    ///< of the attempt that took the last pair
+    std::vector<PairReport> pairs;  ///< of all attempts
+    std::optional<bool> written;    ///< only when asked for: whether the module's flash holds the rotation
     double totalSeconds = 0;
     double frameSeconds = 0;  ///< grabbing, brightness and frame selection of all frames
 

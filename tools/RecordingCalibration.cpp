@@ -1,12 +1,16 @@
 #include "tools/RecordingCalibration.h"
 
 #include "devices/CameraParameterReader.h"
+#include "engine/RegistrationError.h"
 #include "engine/Rotation.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace fieldcal {
 namespace {
+
+constexpr int kRegistrationDistancesM[] = {1, 2, 5, 20};
 
 const ImageFrame32& colourOf(const FrameRecords& frames, bool platformCamera) {
     return platformCamera ? frames.outOfModuleColour : frames.inModuleColour;
@@ -17,6 +21,10 @@ Matrix3 widened(const std::array<float, 9>& matrix) {
     for (std::size_t i = 0; i < wide.size(); ++i)
         wide[i] = static_cast<double>(matrix[i]);
     return wide;
+}
+
+Eigen::Matrix3d eigen(const Matrix3& matrix) {
+    return Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(matrix.data());
 }
 
 }  // namespace
@@ -39,6 +47,7 @@ bool RecordingCalibration::run(QString* why) {
         Sensor sensor;
         if (open(sensor, why)) {
             CalibrationAttempt attempt(engine_, *this, light_, sensor.settings().attemptLimit);
+            if (memory_) attempt.useMemory(*memory_, sensor.serialNumber());
             bool solved = false;
             played = play(sensor, attempt, &solved);
             finish(solved);
@@ -98,13 +107,33 @@ void RecordingCalibration::finish(bool solved) {
         report_.rotation = widened(rotation);
         report_.uncertaintyDeg = engine_.calibrator().deviationDeg();
         const auto& truth = platformCamera_ ? session_.truthPlatform : session_.truthThird;
-        if (truth) report_.errorDeg = rotationDifferenceDeg(report_.rotation, *truth);
+        if (truth) {
+            report_.errorDeg = rotationDifferenceDeg(report_.rotation, *truth);
+            report_.registrationPx = registrationErrors(*truth);
+        }
     }
-    const Eigen::Vector3d anglesRad =
-        vq::anglesFromRotation(Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(report_.rotation.data()));
+    const Eigen::Vector3d anglesRad = vq::anglesFromRotation(eigen(report_.rotation));
     for (std::size_t axis = 0; axis < 3; ++axis) {
         report_.anglesDeg[axis] = anglesRad[static_cast<Eigen::Index>(axis)] * vq::kDegreesPerRadian;
     }
+}
+
+/// None for a recording without depth, where no program could look up the colour of a surface.
+std::map<int, double> RecordingCalibration::registrationErrors(const Matrix3& truth) const {
+    const auto hasDepth = [](const session::FrameEntry& frame) { return !frame.depth.empty(); };
+    if (std::none_of(session_.frames.begin(), session_.frames.end(), hasDepth)) return {};
+    const vq::CameraPair cameras{parameters_.infrared,
+                                 platformCamera_ ? parameters_.outOfModuleColour : parameters_.inModuleColour,
+                                 platformCamera_ ? parameters_.outOfModuleScaling : parameters_.inModuleScaling};
+    const auto& factory = platformCamera_ ? parameters_.depthToOutOfModule : parameters_.depthToInModule;
+    const vq::Projection projection{cameras,
+                                    Eigen::Map<const Eigen::Vector3f>(factory.translation.data()).cast<double>()};
+    std::map<int, double> errorsPx;
+    for (const int metres : kRegistrationDistancesM) {
+        errorsPx[metres] =
+            vq::registrationErrorPx(projection, eigen(report_.rotation), eigen(truth), 1.0 / metres, 1.0 / metres);
+    }
+    return errorsPx;
 }
 
 bool RecordingCalibration::write(Sensor& sensor, QString* why) {
@@ -124,8 +153,7 @@ bool RecordingCalibration::write(Sensor& sensor, QString* why) {
 
 vq::CalibrationState RecordingCalibration::engineState() const {
     vq::Pose pose = context_.defaultExtrinsics;
-    pose.topLeftCorner<3, 3>() =
-        Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(report_.rotation.data()).cast<float>();
+    pose.topLeftCorner<3, 3>() = eigen(report_.rotation).cast<float>();
     return vq::calibrationState(context_.infraredModel, parameters_.inModuleColour, context_.colourModel, pose,
                                 platformCamera_ ? 1 : 0);
 }
@@ -137,6 +165,7 @@ void RecordingCalibration::pairCaptured() {
 void RecordingCalibration::pairProcessed(const vq::CalibratorResult& result) {
     PairReport pair{engine_.calibrator().statistics(), result.code, pairWatch_.lap()};
     report_.pairs.push_back(pair);
+    report_.parallax = engine_.parallax();
     if (!say_) return;
     say_(QString("pair %1: %2 infrared and %3 colour corners, %4 matched, %5 verified; answer %6, %7 ms")
              .arg(report_.pairs.size())

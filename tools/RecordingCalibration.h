@@ -13,6 +13,8 @@
 #include <QString>
 
 #include <functional>
+#include <map>
+#include <optional>
 #include <string>
 
 namespace fieldcal {
@@ -27,6 +29,8 @@ public:
 
     /// Also writes a solution into the module's flash.
     void setWriting(bool on) { writing_ = on; }
+    /// Also begins with the stereo baseline that is remembered for the module, and remembers what a solution measured.
+    void useMemory(const BaselineMemory& memory) { memory_ = memory; }
     /// False when the device fails, and `why` then says how in one line.
     bool run(QString* why);
     /// Of the engine after `run`: cameras and rotation as it last had them.
@@ -37,6 +41,7 @@ private:
     bool open(Sensor& sensor, QString* why);
     bool play(Sensor& sensor, CalibrationAttempt& attempt, bool* solved);
     void finish(bool solved);
+    std::map<int, double> registrationErrors(const Matrix3& truth) const;
     bool write(Sensor& sensor, QString* why);
     void pairProcessed(const vq::CalibratorResult& result) override;
     void pairCaptured() override;
@@ -56,6 +61,7 @@ private:
     vq::Stopwatch pairWatch_;
     bool dark_ = false;
     bool writing_ = false;
+    std::optional<BaselineMemory> memory_;
 };
 
 }  // namespace fieldcal

@@ -7,11 +7,9 @@ namespace {
 class FlashToolTest : public SessionToolTest {
 protected:
     FlashToolTest() {
-        qputenv("XDG_DATA_HOME", path("data").toLocal8Bit());
         QFile::remove(flash);
         knobs = {{"SESSION", recording()}, {"SPEED", "0"}, {"FLASH", flash}};
     }
-    ~FlashToolTest() override { qunsetenv("XDG_DATA_HOME"); }
 
     Result calibrateAndWrite(const QString& camera, const QString& faults = {}) {
         auto withFaults = knobs;

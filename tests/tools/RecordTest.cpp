@@ -54,12 +54,6 @@ protected:
         return run({"record", to, "--frames", QString::number(frames)},
                    {{"SESSION", from}, {"SPEED", "0"}, {"FAULTS", faults}});
     }
-    static session::SessionDescription described(const QString& folder) {
-        session::SessionDescription session;
-        std::string why;
-        EXPECT_TRUE(session::readDescription(folder.toStdString(), &session, &why)) << why;
-        return session;
-    }
 };
 
 TEST_F(RecordTest, EveryGrabIsPlayedBackAsItWasDelivered) {

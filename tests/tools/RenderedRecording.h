@@ -24,6 +24,10 @@ inline QString renderedRecording(const QString& name, const QStringList& wishes)
 inline QString mountainRecording() {
     return renderedRecording("mountains", {"--world", "mountains", "--seed", "10", "--stills", "6", "--platform"});
 }
+/// Three stills of the square by the same module, whose depth reaches what stands there.
+inline QString squareRecording() {
+    return renderedRecording("square", {"--world", "square", "--seed", "10", "--stills", "3"});
+}
 /// Two stills of the night.
 inline QString nightRecording() {
     return renderedRecording("night", {"--world", "night", "--stills", "2"});

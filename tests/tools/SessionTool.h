@@ -38,15 +38,24 @@ inline Result run(const QStringList& arguments, const std::map<QString, QString>
             process.readAllStandardError().replace("\r\n", "\n")};
 }
 
-/// One recording for all tests.
+/// One recording for all tests, and a data folder for each.
 class SessionToolTest : public ::testing::Test {
 protected:
+    SessionToolTest() { qputenv("XDG_DATA_HOME", data.path().toLocal8Bit()); }
+    ~SessionToolTest() override { qunsetenv("XDG_DATA_HOME"); }
+
     /// A path in a folder that goes when the program ends.
     static QString path(const QString& name) {
         static const QTemporaryDir folder;
         return folder.filePath(name);
     }
     static QString recording() { return mountainRecording(); }
+    static session::SessionDescription described(const QString& folder) {
+        session::SessionDescription session;
+        std::string why;
+        EXPECT_TRUE(session::readDescription(folder.toStdString(), &session, &why)) << why;
+        return session;
+    }
 
     /// A copy of the recording whose description has been changed.
     template <typename Change>
@@ -56,13 +65,14 @@ protected:
         for (const QString& file : QDir(recording()).entryList(QDir::Files)) {
             QFile::copy(recording() + '/' + file, target + '/' + file);
         }
-        session::SessionDescription session;
-        std::string why;
-        EXPECT_TRUE(session::readDescription(target.toStdString(), &session, &why)) << why;
+        session::SessionDescription session = described(target);
         change(&session, target);
+        std::string why;
         EXPECT_TRUE(session::writeDescription(target.toStdString(), session, &why)) << why;
         return target;
     }
+
+    const QTemporaryDir data;
 };
 
 }  // namespace fieldcal::testing

@@ -1,7 +1,11 @@
 #include "tests/tools/SessionTool.h"
 
+#include <cmath>
+
 namespace fieldcal::testing {
 namespace {
+
+constexpr double kDegree = 3.14159265358979 / 180;
 
 TEST_F(SessionToolTest, SolvesARenderedRecordingForBothCameras) {
     for (const QString camera : {"third", "platform"}) {
@@ -18,6 +22,57 @@ TEST_F(SessionToolTest, SolvesARenderedRecordingForBothCameras) {
         EXPECT_GT(json["seconds"].toObject()["total"].toDouble(), 0.0);
         EXPECT_EQ(run(arguments).json()["rotation"], json["rotation"]) << "the same seed gives the same answer";
     }
+}
+
+/// What turns the truth by a degree about the upright axis.
+void turnTruth(session::SessionDescription* session, const QString&) {
+    session::Matrix3& truth = *session->truthThird;
+    const double c = std::cos(kDegree), s = std::sin(kDegree);
+    for (std::size_t row = 0; row < 9; row += 3) {
+        const double x = truth[row], z = truth[row + 2];
+        truth[row] = c * x - s * z;
+        truth[row + 2] = s * x + c * z;
+    }
+}
+
+TEST_F(SessionToolTest, TellsDistancesAndRemembersTheBaselineForTheModule) {
+    const auto calibrate = [](const QString& folder) {
+        const Result result = run({"calibrate", folder, "--seed", "1", "--json", "-"});
+        EXPECT_EQ(result.status, 0) << result.error.constData();
+        return result.json();
+    };
+    const QString turned = changed("turned-truth", turnTruth);
+    const QJsonObject unknown = calibrate(turned)["parallax"].toObject();
+    EXPECT_EQ(unknown["baselineFrom"].toString(), "none") << "the mountains are too far to tell";
+    EXPECT_TRUE(unknown["baselineMm"].isNull());
+
+    const QJsonObject square = calibrate(squareRecording());
+    const QJsonObject measured = square["parallax"].toObject();
+    EXPECT_EQ(measured["baselineFrom"].toString(), "depth");
+    EXPECT_NEAR(measured["baselineMm"].toDouble(), 55, 1);
+    EXPECT_GT(measured["withDistance"].toInt(), 200);
+    EXPECT_NEAR(measured["medianDistanceM"].toDouble(), 9, 5);
+
+    const QJsonObject mountains = calibrate(turned);
+    const QJsonObject remembered = mountains["parallax"].toObject();
+    EXPECT_EQ(remembered["baselineFrom"].toString(), "remembered");
+    EXPECT_NEAR(remembered["baselineMm"].toDouble(), measured["baselineMm"].toDouble(), 1e-3);
+    EXPECT_GT(remembered["withDistance"].toInt(), 200);
+    EXPECT_TRUE(remembered["medianDistanceM"].isNull());
+    const QByteArray text = run({"calibrate", turned, "--seed", "1"}).out;
+    EXPECT_TRUE(text.contains(" mm (remembered)\n") && text.contains(" px at 20 m\n")) << text.constData();
+
+    const double focalPx = described(turned).infrared.fx;
+    for (const char* metres : {"1", "2", "5", "20"}) {
+        EXPECT_LT(square["registrationPx"].toObject()[metres].toDouble(9), 0.1);
+        const double px = mountains["registrationPx"].toObject()[metres].toDouble();
+        EXPECT_NEAR(px / (focalPx * kDegree), 1.05, 0.06) << "a little more towards the sides";
+    }
+    const QString flat = changed("no-depth", [](session::SessionDescription* session, const QString&) {
+        for (session::FrameEntry& frame : session->frames)
+            frame.depth.clear();
+    });
+    EXPECT_FALSE(calibrate(flat).contains("registrationPx"));
 }
 
 TEST_F(SessionToolTest, FramesMayLackTheRearCamerasPicture) {
@@ -45,6 +100,7 @@ TEST_F(SessionToolTest, PlaysToTheEndWithoutAnAnswerWhenThereIsNone) {
 
     const Result night = run({"calibrate", nightRecording(), "--json", "-"});
     EXPECT_EQ(night.status, 3);
+    EXPECT_EQ(night.json()["parallax"].toObject()["withDistance"].toInt(-1), 0);
     EXPECT_EQ(night.json()["pairs"].toInt(-1), 0) << "a dark frame must not be taken";
     EXPECT_EQ(night.json()["framesUsed"].toInt(), 52);
 }
