@@ -17,6 +17,14 @@ constexpr double kMaxDepartureRad = 0.25 / kDegreesPerRadian;
 constexpr double kMaxAlignmentRad = 0.1 / kDegreesPerRadian;
 constexpr std::size_t kMinimumMatches = 30;
 constexpr std::size_t kMinimumPatches = 150;
+constexpr std::size_t kMinimumPatchesOfPair = 50;
+constexpr std::size_t kMinimumPairsToCompare = 3;
+/// How far one pair's rotation about X or Y may lie from the median of all pairs. Photographs scatter by 0.015°.
+constexpr double kPairDepartureRad = 0.03 / kDegreesPerRadian;
+/// Motion of the infrared image from one frame to the next that a still hand shows, and how much more than the stillest
+/// pair another one may have. Colour is exposed some milliseconds later than infrared, which turns motion into rotation.
+constexpr float kStillPx = 0.5F;
+constexpr float kStillShare = 1.5F;
 constexpr int kAreaColumns = 4;
 constexpr int kAreaRows = 3;
 constexpr std::size_t kMostPerArea = 60;
@@ -79,10 +87,17 @@ void AttemptRecord::clear() {
     pairs_.clear();
 }
 
-void AttemptRecord::addPair(const cv::Mat& infrared8, const cv::Mat& grey, std::vector<MeasuredMatch> matches,
-                            std::vector<MeasuredPlace> places, bool seesDisparities) {
-    pairs_.push_back(
-        {infrared8.clone(), grey.clone(), std::move(matches), std::move(places), seesDisparities, {}, -1});
+void AttemptRecord::addPair(Pair pair) {
+    pair.infrared8 = pair.infrared8.clone();
+    pair.grey = pair.grey.clone();
+    pairs_.push_back({std::move(pair), {}, -1});
+}
+
+bool AttemptRecord::isStill(const Pair& pair) const {
+    const auto stillest = std::min_element(pairs_.begin(), pairs_.end(), [](const Pair& a, const Pair& b) {
+        return a.motionPx < b.motionPx;
+    });
+    return pair.motionPx <= std::max(kStillPx, kStillShare * stillest->motionPx);
 }
 
 std::optional<StereoScale> AttemptRecord::workingScale() const {
@@ -98,6 +113,7 @@ std::vector<MeasuredMatch> AttemptRecord::matchesNear(const Eigen::Matrix3d& rot
                                                       const StereoScale* scale) const {
     std::vector<MeasuredMatch> near;
     for (const Pair& pair : pairs_) {
+        if (!isStill(pair)) continue;
         for (const MeasuredMatch& match : pair.matches) {
             const double inverseDepth = inverseDepthOf(match.place, scale);
             if (std::isnan(inverseDepth) && pair.seesDisparities) continue;
@@ -147,7 +163,7 @@ void AttemptRecord::learnScale(const std::vector<MeasuredMatch>& matches, const 
 std::vector<MeasuredMatch> AttemptRecord::alignedPatches(const Eigen::Matrix3d& rotation, const StereoScale* scale) {
     const double pixelMetres = scale != nullptr ? scale->pixelMetres : 0;
     std::vector<MeasuredMatch> all;
-    for (Pair& pair : pairs_) {
+    for (KeptPair& pair : pairs_) {
         const bool current = pair.alignedPixelMetres >= 0 &&
                              std::abs(pair.alignedPixelMetres - pixelMetres) <= kScaleChange * pixelMetres;
         if (!current) {
@@ -155,9 +171,39 @@ std::vector<MeasuredMatch> AttemptRecord::alignedPatches(const Eigen::Matrix3d& 
                                         pair.seesDisparities);
             pair.alignedPixelMetres = pixelMetres;
         }
-        all.insert(all.end(), pair.aligned.begin(), pair.aligned.end());
+    }
+    const std::vector<char> agrees = pairsThatAgree(rotation, scale);
+    for (std::size_t i = 0; i < pairs_.size(); ++i) {
+        if (agrees[i] != 0 && isStill(pairs_[i])) all.insert(all.end(), pairs_[i].aligned.begin(), pairs_[i].aligned.end());
     }
     return all;
+}
+
+/// One flag a pair: whether its own patches want about the rotation that the pairs want in the median. A pair that was
+/// taken while the hand still moved shows the colour camera turned by what it moved between the two exposures.
+std::vector<char> AttemptRecord::pairsThatAgree(const Eigen::Matrix3d& rotation, const StereoScale* scale) const {
+    FitOptions options;
+    options.cauchy = kPatchCauchy;
+    options.scale = scale;
+    const Eigen::Vector3d startRad = anglesFromRotation(rotation);
+    std::vector<Eigen::Vector3d> turns(pairs_.size(), Eigen::Vector3d::Constant(std::nan("")));
+    std::array<std::vector<double>, 2> acrossAxes;
+    for (std::size_t i = 0; i < pairs_.size(); ++i) {
+        if (pairs_[i].aligned.size() < kMinimumPatchesOfPair || !isStill(pairs_[i])) continue;
+        const auto fitted = fitRotation(pairs_[i].aligned, projection_, rotation, options);
+        if (!fitted) continue;
+        turns[i] = anglesFromRotation(fitted->rotation) - startRad;
+        for (std::size_t axis = 0; axis < acrossAxes.size(); ++axis)
+            acrossAxes[axis].push_back(turns[i][static_cast<Eigen::Index>(axis)]);
+    }
+    std::vector<char> agrees(pairs_.size(), 1);
+    if (acrossAxes[0].size() < kMinimumPairsToCompare) return agrees;
+    const Eigen::Vector2d middle(medianOf(acrossAxes[0]), medianOf(acrossAxes[1]));
+    for (std::size_t i = 0; i < pairs_.size(); ++i) {
+        const double departureRad = (turns[i].head<2>() - middle).cwiseAbs().maxCoeff();
+        agrees[i] = departureRad > kPairDepartureRad ? 0 : 1;
+    }
+    return agrees;
 }
 
 std::optional<PolishedRotation> AttemptRecord::polish(const Eigen::Vector3d& winnerRad) {

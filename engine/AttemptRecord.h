@@ -26,15 +26,22 @@ struct PolishedRotation {
 /// both have texture (docs/estimation.md, docs/distances.md). One thread at a time; uses a second one while it works.
 class AttemptRecord {
 public:
+    /// One pair: its two 8-bit images, its verified matches, and the textured places that may be aligned.
+    struct Pair {
+        cv::Mat infrared8, grey;
+        std::vector<MeasuredMatch> matches;
+        std::vector<MeasuredPlace> places;
+        bool seesDisparities = false;  ///< whether a match without a distance is an exception
+        float motionPx = 0;            ///< how far the infrared image moved to the next frame
+    };
+
     explicit AttemptRecord(DistanceMeter& meter) : meter_(meter) {}
 
     void setup(const Projection& projection);
     void clear();
 
-    /// Adds a pair: its two 8-bit images, its verified matches, and the textured places that may be aligned.
-    /// `seesDisparities`: whether a match without a distance is an exception.
-    void addPair(const cv::Mat& infrared8, const cv::Mat& grey, std::vector<MeasuredMatch> matches,
-                 std::vector<MeasuredPlace> places, bool seesDisparities);
+    /// The images are copied.
+    void addPair(Pair pair);
 
     /// The last fit. None when it fails, when too few matches support it, or when it leaves the winner by more than
     /// the rounds scatter; the winner then stands.
@@ -43,26 +50,25 @@ public:
     ParallaxReport report() const;
 
 private:
-    struct Pair {
-        cv::Mat infrared8, grey;
-        std::vector<MeasuredMatch> matches;
-        std::vector<MeasuredPlace> places;
-        bool seesDisparities = false;
+    struct KeptPair : Pair {
         std::vector<MeasuredMatch> aligned;
         double alignedPixelMetres = -1;  ///< the scale they were aligned with; negative before
     };
 
+    /// Whether the hand was still, as far as that can be had: a pair of a moving hand counts when there is no other.
+    bool isStill(const Pair& pair) const;
     /// The scale that distances are computed with: a known one, else an assumed one where disparities are seen.
     std::optional<StereoScale> workingScale() const;
     std::vector<MeasuredMatch> matchesNear(const Eigen::Matrix3d& rotation, const StereoScale* scale) const;
     std::optional<Eigen::Matrix3d> fitMatches(const Eigen::Matrix3d& winner);
     void learnScale(const std::vector<MeasuredMatch>& matches, const Eigen::Matrix3d& rotation, double cauchy);
     std::vector<MeasuredMatch> alignedPatches(const Eigen::Matrix3d& rotation, const StereoScale* scale);
+    std::vector<char> pairsThatAgree(const Eigen::Matrix3d& rotation, const StereoScale* scale) const;
     Eigen::Vector3d distanceDeviationsRad() const;
 
     DistanceMeter& meter_;
     Projection projection_;
-    std::vector<Pair> pairs_;
+    std::vector<KeptPair> pairs_;
 };
 
 }  // namespace vq

@@ -37,6 +37,7 @@ CalibratorResult CalibratorInterface::inputFramesAndCheckMovement(const fieldcal
     if (frameSelector_.shouldUseThisFrame(&selected_.infrared, &selected_.colour)) {
         selected_.right = frameSelector_.selectedRight();
         selected_.depth = frameSelector_.selectedDepth();
+        selected_.motionPx = frameSelector_.selectedMotionPx();
         return {ProcessImagePair, "Proceeding with Calibration to process Image Pair"};
     }
     if (frameSelector_.state() == FrameSelector::WaitingToMove) {

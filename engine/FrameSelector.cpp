@@ -5,6 +5,7 @@
 #include <opencv2/imgproc.hpp>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace vq {
@@ -14,6 +15,9 @@ using fieldcal::kInfo;
 using fieldcal::logMessage;
 
 constexpr const char* kTag = "FrameSelector::shouldUseThisFrame";
+constexpr int kMotionWindowPx = 256, kSmallestMotionWindowPx = 32;
+/// Below it phase correlation has found no common shift.
+constexpr double kLeastResponse = 0.1;
 
 cv::Mat viewOf(const fieldcal::ImageFrame& frame, int type) {
     return {static_cast<int>(frame.height()), static_cast<int>(frame.width()), type,
@@ -32,6 +36,20 @@ void copyIf(bool wanted, const fieldcal::ImageFrame& frame, int type, cv::Mat* i
 void assign(const cv::Mat& image, int bytesPerPixel, ImagePairRecord* record) {
     record->assign(static_cast<std::uint32_t>(image.cols), static_cast<std::uint32_t>(image.rows), image.data,
                    static_cast<std::uint32_t>(bytesPerPixel));
+}
+
+/// Pixels by which the middle of the image moved, by phase correlation (Kuglin and Hines, 1975).
+float motionBetween(const cv::Mat& earlier, const cv::Mat& later) {
+    const int side = std::min({kMotionWindowPx, earlier.cols, earlier.rows});
+    if (earlier.size() != later.size() || side < kSmallestMotionWindowPx) return 0;
+    const cv::Rect middle((earlier.cols - side) / 2, (earlier.rows - side) / 2, side, side);
+    cv::Mat a, b, window;
+    earlier(middle).convertTo(a, CV_32F);
+    later(middle).convertTo(b, CV_32F);
+    cv::createHanningWindow(window, middle.size(), CV_32F);
+    double response = 0;
+    const cv::Point2d shift = cv::phaseCorrelate(a, b, window, &response);
+    return response > kLeastResponse ? static_cast<float>(std::hypot(shift.x, shift.y)) : 0;
 }
 
 }  // namespace
@@ -112,6 +130,7 @@ void FrameSelector::copySelectedPair(ImagePairRecord* infrared, ImagePairRecord*
     assign(selected.colour, 4, colour);
     assign(selected.right, 2, &selectedRight_);
     assign(selected.depth, 2, &selectedDepth_);
+    selectedMotionPx_ = motionBetween(selected.infrared, moments_.at(counter_ - step_ + 1).infrared);
     logMessage(kInfo, kTag, "Found good image pairs!");
 }
 

@@ -30,6 +30,9 @@ public:
     /// The right infrared image and the depth of the pair that was just selected; empty where there were none.
     const ImagePairRecord& selectedRight() const { return selectedRight_; }
     const ImagePairRecord& selectedDepth() const { return selectedDepth_; }
+    /// How far the infrared image moved from the selected frame to the next one, pixels: what is left of a turn that the
+    /// colour frames, of a scene with little contrast, do not show. 0 where it cannot be told.
+    float selectedMotionPx() const { return selectedMotionPx_; }
 
     void reset();
     State state() const { return state_; }
@@ -58,6 +61,7 @@ private:
     State state_ = Initial;
     std::deque<Moment> moments_;  ///< the oldest first, at most 2 · step + 1
     ImagePairRecord selectedRight_, selectedDepth_;
+    float selectedMotionPx_ = 0;
     std::uint32_t counter_ = 0;
 };
 

@@ -76,6 +76,7 @@ void SensorCalibrator::setup() {
 bool SensorCalibrator::prepare(const SelectedImages& images) {
     const ImagePairRecord &infrared = images.infrared, &colour = images.colour;
     const CameraPair& cameras = projection_.cameras;
+    motionPx_ = images.motionPx;
     frameUsable_ = hasSize(infrared, cameras.infrared) && hasSize(colour, cameras.colour);
     if (!frameUsable_) {
         logMessage(kError, "SensorCalibrator::prepare",
@@ -165,8 +166,9 @@ void SensorCalibrator::appendToAttempt() {
     const fieldcal::CameraModel& infrared = projection_.cameras.infrared;
     grid_.add(colourPoints, infraredPoints, infrared.width, infrared.height);
     if (frameUsable_) {
-        record_.addPair(matcher_.infrared(), matcher_.grey(), std::move(measured), std::move(textured),
-                        meter_.seesDisparities());
+        record_.addPair(
+            {matcher_.infrared(), matcher_.grey(), std::move(measured), std::move(textured), meter_.seesDisparities(),
+             motionPx_});
     }
 }
 

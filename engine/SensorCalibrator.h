@@ -30,6 +30,7 @@ struct MatchLists {
 /// are empty where the module has none.
 struct SelectedImages {
     ImagePairRecord infrared, colour, right, depth;
+    float motionPx = 0;  ///< how far the infrared image moved to the next frame
 };
 
 /// The core of the engine: turns prepared pairs into correspondences and decides when the rotation they give is stable.
@@ -93,6 +94,7 @@ private:
     double rememberedBaselineM_ = 0;
     DistanceMeter meter_;
     AttemptRecord record_{meter_};
+    float motionPx_ = 0;  ///< of the prepared pair
     MatchLists matches_;
     bool frameUsable_ = false;
 
