@@ -9,7 +9,7 @@ namespace vq {
 namespace {
 
 constexpr int kMostIterations = 50;
-constexpr double kConvergedRad = 1e-9;
+constexpr double kConvergedRad = 1e-7;
 constexpr std::size_t kMinimumMatches = 6;
 /// Noise of one measured disparity, from things at infinity in rendered worlds.
 constexpr double kDisparityDeviationPx = 0.08;

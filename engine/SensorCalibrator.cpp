@@ -229,7 +229,10 @@ void SensorCalibrator::recordSolution() {
     const RotationVoteStore::Record* best = estimator_.lastBest();
     if (best == nullptr || std::isnan(best->anglesRad[0])) return;
     Eigen::Vector3d anglesRad = best->anglesRad;
-    const auto polished = record_.polish(anglesRad);
+    const float support = static_cast<float>(best->votes) / static_cast<float>(parameters_.supportCount);
+    const bool isGood = support >= 1.0F && attemptCount_ >= parameters_.minimumAttempts;
+    // Before that, more pairs come, and the last fit would be thrown away.
+    const auto polished = isGood ? record_.polish(anglesRad) : std::nullopt;
     if (polished && isAcceptable(polished->anglesRad)) {
         anglesRad = polished->anglesRad;
         deviationDeg_ = degrees(polished->deviationRad);
@@ -240,8 +243,7 @@ void SensorCalibrator::recordSolution() {
         context_.state->setValues(anglesDeg[0], anglesDeg[1], anglesDeg[2]);
         context_.currentAnglesDeg = context_.state->values();
     }
-    const float support = static_cast<float>(best->votes) / static_cast<float>(parameters_.supportCount);
-    if (support >= 1.0F && attemptCount_ >= parameters_.minimumAttempts) goodSolution_ = true;
+    if (isGood) goodSolution_ = true;
 }
 
 void SensorCalibrator::reset() {
