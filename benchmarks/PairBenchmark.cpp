@@ -1,5 +1,5 @@
-// One accepted pair, picture to answer, beside the OpenCV corner calls that it cannot do without. The first recording of
-// FIELDCAL_RECORDINGS; distances are measured where it has right infrared images.
+// One accepted pair, picture to answer, beside the OpenCV corner calls that it cannot do without. The first recording
+// of FIELDCAL_RECORDINGS; distances are measured where it has right infrared images.
 
 #include "benchmarks/ModuleStills.h"
 #include "diagnostics/Logger.h"
@@ -38,8 +38,8 @@ vq::ImagePairRecord recordOf(const ImageFrame& frame) {
 std::vector<vq::SelectedImages> pairsOfRecording() {
     std::vector<vq::SelectedImages> pairs;
     for (const FrameRecords& still : data().stills)
-        pairs.push_back({recordOf(still.leftInfrared), recordOf(camera().colourOf(still)), recordOf(still.rightInfrared),
-                         recordOf(still.depth)});
+        pairs.push_back({recordOf(still.leftInfrared), recordOf(camera().colourOf(still)),
+                         recordOf(still.rightInfrared), recordOf(still.depth)});
     return pairs;
 }
 

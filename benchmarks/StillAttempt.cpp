@@ -28,8 +28,8 @@ StillAttempt::Outcome StillAttempt::show(const FrameRecords& still) {
     for (int i = 0; i < kMovingGrabs; ++i)
         attempt_.processFrame({still.leftInfrared, moving, still.rightInfrared, still.depth});
     for (int i = 0; i < kGrabsPerStill && outcome == Outcome::Continues; ++i)
-        outcome = attempt_.processFrame(
-            {still.leftInfrared, camera_.colourOf(still), still.rightInfrared, still.depth});
+        outcome =
+            attempt_.processFrame({still.leftInfrared, camera_.colourOf(still), still.rightInfrared, still.depth});
     return outcome;
 }
 

@@ -3,9 +3,9 @@
 //   world-trials [--no-zero-baseline] [--misaligned] [--no-right] [--no-depth] FIRST_SEED SEEDS WORLD...
 // Each run takes the stills where the hand rests, at most 8 to an attempt and two attempts, as a user would; then again
 // with all cameras at one place, which leaves no parallax, unless that is unwanted: it takes as long again.
-// Registration: pixels between where a surface's own depth puts it in the colour picture and where it is seen, at 1, 2, 5
-// and 20 m. With --misaligned, the infrared imagers of each rig are misaligned by up to half a pixel of disparity, and the
-// module's depth with them: then registration judges, not the angle.
+// Registration: pixels between where a surface's own depth puts it in the colour picture and where it is seen, at 1, 2,
+// 5 and 20 m. With --misaligned, the infrared imagers of each rig are misaligned by up to half a pixel of disparity,
+// and the module's depth with them: then registration judges, not the angle.
 
 #include "benchmarks/ModuleStills.h"
 #include "benchmarks/StillAttempt.h"
@@ -103,13 +103,14 @@ Trial tryCamera(const ColourCamera& camera, unsigned seed, double misalignmentPx
     trial.turnDeg = turn.axis() * turn.angle() * 180 / CV_PI;
     const auto& extrinsics =
         camera.platform ? show->parameters().depthToOutOfModule : show->parameters().depthToInModule;
-    const vq::Projection projection{
-        camera.cameras, Eigen::Map<const Eigen::Vector3f>(extrinsics.translation.data()).cast<double>()};
+    const vq::Projection projection{camera.cameras,
+                                    Eigen::Map<const Eigen::Vector3f>(extrinsics.translation.data()).cast<double>()};
     for (std::size_t i = 0; i < kDistancesM.size(); ++i) {
         const double inverseDepth = 1.0 / kDistancesM[i];
         trial.registrationPx[i] = vq::registrationErrorPx(
             projection, attempt.rotation(), camera.truth,
-            ownInverseDepth(inverseDepth, misalignmentPx, static_cast<double>(camera.cameras.infrared.fx)), inverseDepth);
+            ownInverseDepth(inverseDepth, misalignmentPx, static_cast<double>(camera.cameras.infrared.fx)),
+            inverseDepth);
     }
     return trial;
 }
@@ -160,7 +161,8 @@ void summarize(const std::string& what, std::vector<Trial> trials) {
         const auto count = static_cast<double>(trials.size());
         for (const Trial& trial : trials)
             sum += trial.turnDeg[axis], squares += trial.turnDeg[axis] * trial.turnDeg[axis];
-        const double mean = sum / count, deviation = std::sqrt(std::max(squares / count - mean * mean, 0.0) / (count - 1));
+        const double mean = sum / count,
+                     deviation = std::sqrt(std::max(squares / count - mean * mean, 0.0) / (count - 1));
         std::printf("%s%+.4f ± %.4f", axis == 0 ? "; mean about X, Y, Z " : ", ", mean, deviation);
     }
     for (std::size_t i = 0; i < kDistancesM.size() && !trials.empty(); ++i) {
@@ -201,10 +203,11 @@ void tryWorlds(const std::string& world, unsigned first, unsigned count, const O
 int main(int argc, char** argv) {
     std::vector<std::string> arguments(argv + 1, argv + argc);
     Options options;
-    const std::array<std::pair<const char*, bool Options::*>, 4> switches{{{"--no-zero-baseline", &Options::zeroBaseline},
-                                                                           {"--misaligned", &Options::misaligned},
-                                                                           {"--no-right", &Options::right},
-                                                                           {"--no-depth", &Options::depth}}};
+    const std::array<std::pair<const char*, bool Options::*>, 4> switches{
+        {{"--no-zero-baseline", &Options::zeroBaseline},
+         {"--misaligned", &Options::misaligned},
+         {"--no-right", &Options::right},
+         {"--no-depth", &Options::depth}}};
     for (const auto& [name, member] : switches) {
         const auto found = std::find(arguments.begin(), arguments.end(), name);
         if (found == arguments.end()) continue;

@@ -22,7 +22,8 @@ constexpr std::size_t kMinimumPairsToCompare = 3;
 /// How far one pair's rotation about X or Y may lie from the median of all pairs. Photographs scatter by 0.015°.
 constexpr double kPairDepartureRad = 0.03 / kDegreesPerRadian;
 /// Motion of the infrared image from one frame to the next that a still hand shows, and how much more than the stillest
-/// pair another one may have. Colour is exposed some milliseconds later than infrared, which turns motion into rotation.
+/// pair another one may have. Colour is exposed some milliseconds later than infrared, which turns motion into
+/// rotation.
 constexpr float kStillPx = 0.5F;
 constexpr float kStillShare = 1.5F;
 constexpr int kAreaColumns = 4;
@@ -94,9 +95,8 @@ void AttemptRecord::addPair(Pair pair) {
 }
 
 bool AttemptRecord::isStill(const Pair& pair) const {
-    const auto stillest = std::min_element(pairs_.begin(), pairs_.end(), [](const Pair& a, const Pair& b) {
-        return a.motionPx < b.motionPx;
-    });
+    const auto stillest = std::min_element(pairs_.begin(), pairs_.end(),
+                                           [](const Pair& a, const Pair& b) { return a.motionPx < b.motionPx; });
     return pair.motionPx <= std::max(kStillPx, kStillShare * stillest->motionPx);
 }
 
@@ -109,16 +109,15 @@ std::optional<StereoScale> AttemptRecord::workingScale() const {
 }
 
 /// The matches that the rotation explains or nearly explains; the others only add noise to the fit.
-std::vector<MeasuredMatch> AttemptRecord::matchesNear(const Eigen::Matrix3d& rotation,
-                                                      const StereoScale* scale) const {
+std::vector<MeasuredMatch> AttemptRecord::matchesNear(const Eigen::Matrix3d& rotation, const StereoScale* scale) const {
     std::vector<MeasuredMatch> near;
     for (const Pair& pair : pairs_) {
         if (!isStill(pair)) continue;
         for (const MeasuredMatch& match : pair.matches) {
             const double inverseDepth = inverseDepthOf(match.place, scale);
             if (std::isnan(inverseDepth) && pair.seesDisparities) continue;
-            const Eigen::Vector2d predicted = projection_.colourPoint(rotation, match.place.infrared,
-                                                                      std::isnan(inverseDepth) ? 0 : inverseDepth);
+            const Eigen::Vector2d predicted =
+                projection_.colourPoint(rotation, match.place.infrared, std::isnan(inverseDepth) ? 0 : inverseDepth);
             const Eigen::Vector2d difference = predicted - Eigen::Vector2d(match.colour.x, match.colour.y);
             if (difference.norm() <= kNearPx) near.push_back(match);
         }
@@ -174,7 +173,8 @@ std::vector<MeasuredMatch> AttemptRecord::alignedPatches(const Eigen::Matrix3d& 
     }
     const std::vector<char> agrees = pairsThatAgree(rotation, scale);
     for (std::size_t i = 0; i < pairs_.size(); ++i) {
-        if (agrees[i] != 0 && isStill(pairs_[i])) all.insert(all.end(), pairs_[i].aligned.begin(), pairs_[i].aligned.end());
+        if (agrees[i] != 0 && isStill(pairs_[i]))
+            all.insert(all.end(), pairs_[i].aligned.begin(), pairs_[i].aligned.end());
     }
     return all;
 }
@@ -223,8 +223,8 @@ std::optional<PolishedRotation> AttemptRecord::polish(const Eigen::Vector3d& win
     scale = workingScale();
     options.scale = scale ? &*scale : nullptr;
     auto fitted = fitRotation(patches, projection_, *start, options);
-    const bool stands = patches.size() >= kMinimumPatches && fitted &&
-                        turnBetweenRad(fitted->rotation, *start) <= kMaxAlignmentRad;
+    const bool stands =
+        patches.size() >= kMinimumPatches && fitted && turnBetweenRad(fitted->rotation, *start) <= kMaxAlignmentRad;
     if (!stands) {
         options.cauchy = kMatchCauchyPx;
         fitted = fitRotation(balanced(matchesNear(*start, options.scale), projection_.cameras.infrared), projection_,

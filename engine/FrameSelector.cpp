@@ -109,8 +109,7 @@ float FrameSelector::motionMeasure() const {
 
 float FrameSelector::motionSince(std::size_t index) const {
     const Moment &earlier = moments_.at(index), &newest = moments_.at(counter_);
-    const bool sizeChanged =
-        earlier.infraredSize != newest.infraredSize || earlier.colourSize != newest.colourSize;
+    const bool sizeChanged = earlier.infraredSize != newest.infraredSize || earlier.colourSize != newest.colourSize;
     if (sizeChanged) return std::numeric_limits<float>::max();
     return static_cast<float>(cv::norm(newest.motion, earlier.motion, cv::NORM_L2));
 }

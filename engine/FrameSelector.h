@@ -30,8 +30,8 @@ public:
     /// The right infrared image and the depth of the pair that was just selected; empty where there were none.
     const ImagePairRecord& selectedRight() const { return selectedRight_; }
     const ImagePairRecord& selectedDepth() const { return selectedDepth_; }
-    /// How far the infrared image moved from the selected frame to the next one, pixels: what is left of a turn that the
-    /// colour frames, of a scene with little contrast, do not show. 0 where it cannot be told.
+    /// How far the infrared image moved from the selected frame to the next one, pixels: what is left of a turn that
+    /// the colour frames, of a scene with little contrast, do not show. 0 where it cannot be told.
     float selectedMotionPx() const { return selectedMotionPx_; }
 
     void reset();
@@ -40,8 +40,8 @@ public:
 private:
     /// What is kept of one frame set.
     struct Moment {
-        cv::Mat motion;                           ///< the colour image, reduced to a quarter
-        cv::Mat infrared, colour, right, depth;   ///< empty while no pair can be selected from them
+        cv::Mat motion;                          ///< the colour image, reduced to a quarter
+        cv::Mat infrared, colour, right, depth;  ///< empty while no pair can be selected from them
         cv::Size infraredSize, colourSize;
     };
 

@@ -190,8 +190,8 @@ cv::Point2d exactOffset(const SearchResult& result, const Offset& smallest, cons
         }
     }
     if (std::abs(peak.dx) >= kReach || std::abs(peak.dy) >= kReach) return rounded;
-    const auto step = newtonStep<double>(
-        [&](int row, int column) { return result.correlations[indexOf(peak, row, column)]; });
+    const auto step =
+        newtonStep<double>([&](int row, int column) { return result.correlations[indexOf(peak, row, column)]; });
     return isShort(step) ? cv::Point2d(peak.dx, peak.dy) + step : cv::Point2d(rounded);
 }
 

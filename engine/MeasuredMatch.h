@@ -15,8 +15,8 @@ constexpr float kUnknownDistance = std::numeric_limits<float>::quiet_NaN();
 /// A place of the left infrared image whose distance was looked for. Pixels; NaN where nothing was found.
 struct MeasuredPlace {
     cv::Point2f infrared;
-    float disparityPx = kUnknownDistance;     ///< between the two infrared images
-    float inverseDepth = kUnknownDistance;    ///< 1/m, read from the depth image
+    float disparityPx = kUnknownDistance;   ///< between the two infrared images
+    float inverseDepth = kUnknownDistance;  ///< 1/m, read from the depth image
 };
 
 /// A correspondence as the last fit uses it.

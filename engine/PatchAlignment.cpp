@@ -28,8 +28,7 @@ constexpr float kLeastVariance = 0.5F;
 using Window = Patch<kSize>;
 
 bool fits(const cv::Mat& image, const cv::Point& middle, int margin) {
-    return middle.x >= margin && middle.y >= margin && middle.x + margin < image.cols &&
-           middle.y + margin < image.rows;
+    return middle.x >= margin && middle.y >= margin && middle.x + margin < image.cols && middle.y + margin < image.rows;
 }
 
 float variance(const cv::Mat& infrared8, const cv::Point& middle) {

@@ -79,8 +79,8 @@ private:
         normal_ += weight * jacobian.transpose() * term.information * jacobian;
         gradient_ += weight * jacobian.transpose() * term.information * residual;
         if (options_.estimateScale) {
-            // A disparity that carries noise of its own draws the slope over it towards zero (regression dilution). What
-            // that noise is expected to contribute is taken out of the normal equations.
+            // A disparity that carries noise of its own draws the slope over it towards zero (regression dilution).
+            // What that noise is expected to contribute is taken out of the normal equations.
             const Eigen::Vector2d perDisparity = toPixels * projection_.translationM;
             const double noise = weight * kDisparityDeviationPx * kDisparityDeviationPx *
                                  perDisparity.dot(term.information * perDisparity);
@@ -125,8 +125,7 @@ Eigen::Vector2d Projection::colourPoint(const Eigen::Matrix3d& rotation, const c
 
 cv::Point2f Projection::withoutParallax(const Eigen::Matrix3d& rotation, const cv::Point2f& infrared,
                                         double inverseDepth) const {
-    const Eigen::Vector3d p =
-        rayOf(cameras.infrared, infrared) + rotation.transpose() * translationM * inverseDepth;
+    const Eigen::Vector3d p = rayOf(cameras.infrared, infrared) + rotation.transpose() * translationM * inverseDepth;
     return {static_cast<float>(cameras.infrared.fx * p.x() / p.z() + cameras.infrared.cx),
             static_cast<float>(cameras.infrared.fy * p.y() / p.z() + cameras.infrared.cy)};
 }

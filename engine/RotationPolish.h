@@ -31,15 +31,15 @@ double inverseDepthOf(const MeasuredPlace& place, const StereoScale* scale);
 
 /// How matches are fitted.
 struct FitOptions {
-    double cauchy = 0.3;            ///< where the Cauchy loss bends, in deviations of a match
-    bool estimateScale = false;     ///< also the disparities' scale, from its value in `scale`
+    double cauchy = 0.3;         ///< where the Cauchy loss bends, in deviations of a match
+    bool estimateScale = false;  ///< also the disparities' scale, from its value in `scale`
     const StereoScale* scale = nullptr;
 };
 
 struct FittedRotation {
     Eigen::Matrix3d rotation;
-    Eigen::Vector3d deviationRad;      ///< one standard deviation about each axis, from the residuals' spread
-    double pixelMetres = 0;            ///< with `estimateScale`
+    Eigen::Vector3d deviationRad;  ///< one standard deviation about each axis, from the residuals' spread
+    double pixelMetres = 0;        ///< with `estimateScale`
     double pixelMetresDeviation = 0;
 };
 

@@ -107,8 +107,7 @@ void SensorCalibrator::generateMatches(bool keep, MatchLists* beforeVerification
 
     if (estimator_.stopped()) matches_ = {};
     Stopwatch watch;
-    verifyMatches(matcher_.grey(), matcher_.infrared(), &matches_.colour, &matches_.infrared,
-                  &matches_.exactInfrared);
+    verifyMatches(matcher_.grey(), matcher_.infrared(), &matches_.colour, &matches_.infrared, &matches_.exactInfrared);
     matcher_.statistics().verificationSeconds = watch.lap();
     matcher_.statistics().verified = size(matches_.infrared);
     logMessage(kInfo, tag, "number of matches after ZNCC: rgb = %d, ir = %d", size(matches_.colour),
@@ -159,16 +158,15 @@ void SensorCalibrator::appendToAttempt() {
         const double inverseDepth = inverseDepthOf(places[i], scale);
         if (std::isnan(inverseDepth) && !isFarAway(places[i])) continue;
         colourPoints.push_back(colour);
-        infraredPoints.push_back(std::isnan(inverseDepth)
-                                     ? matches_.infrared[i]
-                                     : projection_.withoutParallax(initialRotation_, matches_.infrared[i], inverseDepth));
+        infraredPoints.push_back(std::isnan(inverseDepth) ? matches_.infrared[i]
+                                                          : projection_.withoutParallax(
+                                                                initialRotation_, matches_.infrared[i], inverseDepth));
     }
     const fieldcal::CameraModel& infrared = projection_.cameras.infrared;
     grid_.add(colourPoints, infraredPoints, infrared.width, infrared.height);
     if (frameUsable_) {
-        record_.addPair(
-            {matcher_.infrared(), matcher_.grey(), std::move(measured), std::move(textured), meter_.seesDisparities(),
-             motionPx_});
+        record_.addPair({matcher_.infrared(), matcher_.grey(), std::move(measured), std::move(textured),
+                         meter_.seesDisparities(), motionPx_});
     }
 }
 

@@ -139,7 +139,8 @@ public:
         cv::Point2f move;
         float correlation;  ///< before the step
     };
-    /// The step that brings the window at `centre` of the right image nearer; none where the two have nothing in common.
+    /// The step that brings the window at `centre` of the right image nearer; none where the two have nothing in
+    /// common.
     std::optional<Step> step(const cv::Mat& right, const cv::Point2f& centre) const {
         Window other;
         sample(right, centre, &other);

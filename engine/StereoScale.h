@@ -18,8 +18,8 @@ struct StereoScale {
 };
 
 /// The scale under which the disparities agree with the module's own depth image: robust linear regression of
-/// disparity over inverse depth. The offset stays zero unless the depths vary enough to show it. None when fewer than 40
-/// places have both or when they leave the scale uncertain by more than 2 %.
+/// disparity over inverse depth. The offset stays zero unless the depths vary enough to show it. None when fewer than
+/// 40 places have both or when they leave the scale uncertain by more than 2 %.
 std::optional<StereoScale> scaleFromDepth(const std::vector<MeasuredPlace>& places);
 
 }  // namespace vq

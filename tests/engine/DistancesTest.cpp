@@ -166,10 +166,10 @@ TEST(RotationPolish, FitsRotationAndBaselineWithTheExactGeometry) {
     // Freed of its parallax, a place lies where the same thing at infinity would.
     const cv::Point2f place(200, 150);
     const cv::Point2f freed = scene.projection.withoutParallax(scene.truth, place, 0.4);
-    EXPECT_LT((scene.projection.colourPoint(scene.truth, freed, 0) -
-               scene.projection.colourPoint(scene.truth, place, 0.4))
-                  .norm(),
-              1e-3);
+    EXPECT_LT(
+        (scene.projection.colourPoint(scene.truth, freed, 0) - scene.projection.colourPoint(scene.truth, place, 0.4))
+            .norm(),
+        1e-3);
 }
 
 /// One texture in two kinds of light, the colour image of a camera that is turned.
