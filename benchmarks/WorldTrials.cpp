@@ -167,6 +167,7 @@ void summarize(const std::string& what, std::vector<Trial> trials) {
     }
     for (std::size_t i = 0; i < kDistancesM.size() && !trials.empty(); ++i) {
         std::vector<double> registration;
+        registration.reserve(trials.size());
         for (const Trial& trial : trials)
             registration.push_back(trial.registrationPx[i]);
         std::sort(registration.begin(), registration.end());

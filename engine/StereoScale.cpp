@@ -46,6 +46,7 @@ struct Line {
 /// below a half can move far.
 Line fitLine(const std::vector<Eigen::Vector2d>& samples, bool withOffset) {
     std::vector<double> products;
+    products.reserve(samples.size());
     for (const Eigen::Vector2d& sample : samples)
         products.push_back(sample[1] / sample[0]);
     const auto middle = products.begin() + static_cast<std::ptrdiff_t>(products.size() / 2);

@@ -200,6 +200,7 @@ TEST(PatchAlignment, FindsPatchesToAFewHundredthsOfAPixel) {
     const auto aligned = alignPatches(scene.infrared8, scene.grey, places, projection, start, nullptr, false);
     EXPECT_GT(aligned.size(), places.size() / 2);
     std::vector<double> errors;
+    errors.reserve(aligned.size());
     for (const MeasuredMatch& match : aligned)
         errors.push_back(scene.errorPx(match.place.infrared, match.colour));
     EXPECT_LT(median(errors), 0.06);
