@@ -1,0 +1,254 @@
+// Tries what a calibration has to refuse, and how far beyond the searched ranges its answers stay right.
+//   refusal-trials [pairings] [shifted] [half-wrong] [drift]       (recordings: see README.md; default: all four)
+// pairings: the infrared images of each still with the colour image of each other one, eight times in a row.
+// shifted: all stills of an attempt, the infrared images of each with the colour image of the still before.
+// half-wrong: all stills in random orders, half of them with the infrared images of another still.
+// drift: all stills in random orders, the drift about one axis in steps of 0.1 degrees across each edge of the range.
+// The stills of a recording must show different scenes: two that overlap may be explained by a rotation.
+
+#include "benchmarks/ModuleStills.h"
+#include "benchmarks/StillAttempt.h"
+#include "diagnostics/Assertions.h"
+#include "diagnostics/Logger.h"
+#include "engine/Rotation.h"
+#include "engine/SearchRange.h"
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <functional>
+#include <numeric>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using namespace fieldcal;
+
+constexpr int kPairLimit = 8;
+constexpr double kWrongDeg = 0.1;
+constexpr unsigned kShiftedSeeds = 10, kHalfWrongOrders = 60;
+/// Tenths of a degree beyond an edge of the range, and where the bands of the table end.
+constexpr int kFirstTenth = -5, kLastTenth = 14;
+constexpr std::array<int, 4> kBandEnds{0, 5, 10, kLastTenth};
+
+void discard(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+/// Whose infrared images are shown with whose colour image.
+struct Showing {
+    std::size_t infrared, colour;
+};
+
+/// One camera of a recording, or the same with another factory rotation.
+struct Subject {
+    const ModuleStills& module;
+    CameraParameters parameters;
+    ColourCamera camera;
+};
+
+struct Tally {
+    int attempts = 0, pairs = 0, solved = 0, wrong = 0;
+    std::vector<double> errorsDeg;
+
+    void add(const Tally& other) {
+        attempts += other.attempts;
+        pairs += other.pairs;
+        solved += other.solved;
+        wrong += other.wrong;
+        errorsDeg.insert(errorsDeg.end(), other.errorsDeg.begin(), other.errorsDeg.end());
+    }
+};
+
+FrameRecords recordsOf(const ModuleStills& module, const Showing& showing) {
+    FrameRecords records = module.stills[showing.infrared];
+    records.inModuleColour = module.stills[showing.colour].inModuleColour;
+    records.outOfModuleColour = module.stills[showing.colour].outOfModuleColour;
+    return records;
+}
+
+Tally attempt(const Subject& subject, const std::vector<Showing>& showings, unsigned seed) {
+    StillAttempt attempt(subject.parameters, subject.camera, kPairLimit);
+    std::srand(seed);
+    attempt.start();
+    auto outcome = StillAttempt::Outcome::Continues;
+    for (std::size_t i = 0; i < showings.size() && outcome == StillAttempt::Outcome::Continues; ++i)
+        outcome = attempt.show(recordsOf(subject.module, showings[i]));
+    Tally tally;
+    tally.attempts = 1;
+    tally.pairs = attempt.pairs();
+    if (outcome != StillAttempt::Outcome::Solved) return tally;
+    tally.solved = 1;
+    tally.errorsDeg = {attempt.errorDeg()};
+    tally.wrong = tally.errorsDeg.front() > kWrongDeg ? 1 : 0;
+    return tally;
+}
+
+/// Rows of the table, of one camera or of all of them.
+using Rows = std::vector<std::pair<std::string, Tally>>;
+
+std::vector<std::size_t> shuffledStills(std::size_t count, std::mt19937* random) {
+    std::vector<std::size_t> order(count);
+    std::iota(order.begin(), order.end(), 0U);
+    for (std::size_t i = count; i > 1; --i)
+        std::swap(order[i - 1], order[(*random)() % i]);
+    return order;
+}
+
+Rows tryPairings(const Subject& subject) {
+    Tally tally;
+    const std::size_t stills = subject.module.stills.size();
+    for (std::size_t infrared = 0; infrared < stills; ++infrared) {
+        for (std::size_t colour = 0; colour < stills; ++colour) {
+            if (infrared == colour) continue;
+            const std::vector<Showing> showings(kPairLimit, {infrared, colour});
+            tally.add(attempt(subject, showings, static_cast<unsigned>(infrared * stills + colour)));
+        }
+    }
+    return {{"wrong pairing, eight times", tally}};
+}
+
+Rows tryShifted(const Subject& subject) {
+    Tally tally;
+    const std::size_t stills = subject.module.stills.size();
+    std::vector<Showing> showings;
+    for (std::size_t colour = 0; colour < stills; ++colour)
+        showings.push_back({(colour + 1) % stills, colour});
+    for (unsigned seed = 1; seed <= kShiftedSeeds; ++seed)
+        tally.add(attempt(subject, showings, seed));
+    return {{"infrared of the next still", tally}};
+}
+
+Rows tryHalfWrong(const Subject& subject) {
+    Tally tally;
+    const std::size_t stills = subject.module.stills.size();
+    for (unsigned seed = 1; seed <= kHalfWrongOrders; ++seed) {
+        std::mt19937 random(seed);
+        std::vector<Showing> showings;
+        for (const std::size_t colour : shuffledStills(stills, &random))
+            showings.push_back({colour, colour});
+        const auto positions = shuffledStills(stills, &random);
+        for (std::size_t i = 0; i < stills / 2; ++i) {
+            Showing& wrong = showings[positions[i]];
+            wrong.infrared = (wrong.colour + 1 + random() % (stills - 1)) % stills;
+        }
+        tally.add(attempt(subject, showings, seed));
+    }
+    return {{"half of the stills wrong", tally}};
+}
+
+/// The same camera with a factory rotation from which the truth has drifted by the given angles.
+Subject drifted(const Subject& subject, const Eigen::Vector3d& driftDeg) {
+    Subject moved = subject;
+    const Eigen::Vector3d anglesRad = vq::anglesFromRotation(subject.camera.truth) - driftDeg / vq::kDegreesPerRadian;
+    moved.camera.factory = vq::rotationFromAngles(anglesRad);
+    auto& extrinsics = subject.camera.platform ? moved.parameters.depthToOutOfModule : moved.parameters.depthToInModule;
+    Eigen::Map<Eigen::Matrix<float, 3, 3, Eigen::RowMajor>> stored(extrinsics.rotation.data());
+    stored = moved.camera.factory.cast<float>();
+    return moved;
+}
+
+double within(double low, double high, std::mt19937* random) {
+    return low + (high - low) * static_cast<double>((*random)()) / static_cast<double>(std::mt19937::max());
+}
+
+Rows tryDrift(const Subject& subject) {
+    Rows rows{{"drift 0.5 ... 0.0 inside the range", {}},
+              {"drift 0.1 ... 0.5 beyond", {}},
+              {"drift 0.6 ... 1.0 beyond", {}},
+              {"drift 1.1 ... 1.4 beyond", {}}};
+    const vq::SearchRange range;
+    unsigned seed = 0;
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        for (const bool upper : {false, true}) {
+            for (int tenth = kFirstTenth; tenth <= kLastTenth; ++tenth) {
+                std::mt19937 random(++seed);
+                Eigen::Vector3d driftDeg;
+                for (std::size_t i = 0; i < 3; ++i)
+                    driftDeg[static_cast<Eigen::Index>(i)] = within(range.minDeg[i], range.maxDeg[i], &random);
+                driftDeg[static_cast<Eigen::Index>(axis)] =
+                    upper ? range.maxDeg[axis] + 0.1 * tenth : range.minDeg[axis] - 0.1 * tenth;
+                std::vector<Showing> showings;
+                for (const std::size_t still : shuffledStills(subject.module.stills.size(), &random))
+                    showings.push_back({still, still});
+                const auto band = std::lower_bound(kBandEnds.begin(), kBandEnds.end(), tenth) - kBandEnds.begin();
+                rows[static_cast<std::size_t>(band)].second.add(attempt(drifted(subject, driftDeg), showings, seed));
+            }
+        }
+    }
+    return rows;
+}
+
+using Case = std::pair<const char*, std::function<Rows(const Subject&)>>;
+
+const std::array<Case, 4>& allCases() {
+    static const std::array<Case, 4> cases{
+        {{"pairings", tryPairings}, {"shifted", tryShifted}, {"half-wrong", tryHalfWrong}, {"drift", tryDrift}}};
+    return cases;
+}
+
+void printRow(const std::string& recording, const std::string& camera, const std::string& what, const Tally& tally) {
+    std::printf("%-35s %-12s %-9s %8d %6d %7d %6d", what.c_str(), recording.c_str(), camera.c_str(), tally.attempts,
+                tally.pairs, tally.solved, tally.wrong);
+    std::vector<double> errors = tally.errorsDeg;
+    std::sort(errors.begin(), errors.end());
+    if (errors.empty()) {
+        std::printf(" %8s %8s\n", "-", "-");
+    } else {
+        std::printf(" %8.4f %8.4f\n", errors[errors.size() / 2], errors.back());
+    }
+    std::fflush(stdout);
+}
+
+void tryCase(const std::vector<ModuleStills>& modules, const Case& tried) {
+    const auto folders = recordingFolders();
+    Rows all;
+    int cameras = 0;
+    for (std::size_t i = 0; i < modules.size(); ++i) {
+        const std::string name = folders[i].substr(0, folders[i].find_last_not_of('/') + 1);
+        for (const ColourCamera& camera : judgedCameras(modules[i].session, modules[i].parameters)) {
+            const Rows rows = tried.second({modules[i], modules[i].parameters, camera});
+            if (all.empty()) all.resize(rows.size());
+            for (std::size_t row = 0; row < rows.size(); ++row) {
+                printRow(name.substr(name.find_last_of('/') + 1), camera.name(), rows[row].first, rows[row].second);
+                all[row].first = rows[row].first;
+                all[row].second.add(rows[row].second);
+            }
+            ++cameras;
+        }
+    }
+    for (const auto& [what, tally] : all)
+        if (cameras > 1) printRow("all", "all", what, tally);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> wanted(argv + 1, argv + argc);
+    for (const std::string& name : wanted) {
+        const auto isNamed = [&](const Case& known) { return name == known.first; };
+        if (std::none_of(allCases().begin(), allCases().end(), isNamed))
+            fatalFailure("usage: refusal-trials [pairings] [shifted] [half-wrong] [drift]", 2);
+    }
+    setLogLevel(-1);
+    qInstallMessageHandler(discard);
+    std::vector<ModuleStills> modules;
+    for (const std::string& folder : recordingFolders()) {
+        modules.push_back(playStills(folder));
+        if (modules.back().stills.size() < 2) fatalFailure((folder + ": fewer than two stills").c_str(), 1);
+    }
+    std::printf("Wrong: solved, and more than %.1f degrees from the truth. Errors of what was solved, degrees.\n\n",
+                kWrongDeg);
+    std::printf("%-35s %-12s %-9s %8s %6s %7s %6s %8s %8s\n", "case", "recording", "camera", "attempts", "pairs",
+                "solved", "wrong", "median", "worst");
+    for (const Case& known : allCases())
+        if (wanted.empty() || std::find(wanted.begin(), wanted.end(), known.first) != wanted.end())
+            tryCase(modules, known);
+    std::printf("\nProcessor time: %.0f s\n", static_cast<double>(std::clock()) / CLOCKS_PER_SEC);
+    return 0;
+}
