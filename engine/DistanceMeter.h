@@ -30,6 +30,8 @@ public:
     /// False without a usable right image: then distances come from the depth image alone.
     bool seesDisparities() const { return stereo_ != nullptr; }
 
+    bool seesDepth() const { return !depth16_.empty(); }
+
     /// The disparity to about a pixel, and the depth image's inverse depth, of each place.
     std::vector<MeasuredPlace> lookUp(const std::vector<cv::Point2f>& infraredPoints) const;
     /// Replaces the coarse disparities by sub-pixel ones, where both agree.

@@ -7,6 +7,7 @@
 #include "engine/Rotation.h"
 #include "engine/Stopwatch.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace vq {
@@ -154,13 +155,22 @@ void SensorCalibrator::appendToAttempt() {
     std::vector<cv::Point2f> colourPoints, infraredPoints;
     for (std::size_t i = 0; i < places.size(); ++i) {
         const cv::Point2f colour = projection_.cameras.colourModelPoint(matches_.colour[i]);
-        measured.push_back({places[i], colour});
         const double inverseDepth = inverseDepthOf(places[i], scale);
-        if (std::isnan(inverseDepth) && !isFarAway(places[i])) continue;
+        const bool isPlaced = !std::isnan(inverseDepth) || isFarAway(places[i]);
+        if (isPlaced || meter_.seesDisparities()) measured.push_back({places[i], colour});
+        if (!isPlaced) continue;
         colourPoints.push_back(colour);
         infraredPoints.push_back(std::isnan(inverseDepth) ? matches_.infrared[i]
                                                           : projection_.withoutParallax(
                                                                 initialRotation_, matches_.infrared[i], inverseDepth));
+    }
+    if (!meter_.seesDisparities()) {
+        // Without disparities a place of unknown distance counts as infinitely far, which it must then be.
+        textured.erase(std::remove_if(textured.begin(), textured.end(),
+                                      [&](const MeasuredPlace& place) {
+                                          return std::isnan(inverseDepthOf(place, scale)) && !isFarAway(place);
+                                      }),
+                       textured.end());
     }
     const fieldcal::CameraModel& infrared = projection_.cameras.infrared;
     grid_.add(colourPoints, infraredPoints, infrared.width, infrared.height);
@@ -173,7 +183,7 @@ void SensorCalibrator::appendToAttempt() {
 /// Whether a match without a distance may count as infinitely far: when nothing could have told its distance, or when
 /// the depth image shows that nothing within its reach is there.
 bool SensorCalibrator::isFarAway(const MeasuredPlace& place) const {
-    return !meter_.seesDisparities() || meter_.isBeyondDepth(place.infrared);
+    return meter_.seesDepth() ? meter_.isBeyondDepth(place.infrared) : !meter_.seesDisparities();
 }
 
 bool SensorCalibrator::hasEnoughFilledCells() const {
