@@ -1,10 +1,16 @@
 #include "engine/RotationConsensus.h"
 
 #include "engine/RandomIndices.h"
+#include "engine/Rotation.h"
 #include "engine/RotationFit.h"
+
+#include <Eigen/LU>
+#include <Eigen/SVD>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <optional>
 
 namespace vq {
 namespace {
@@ -27,15 +33,16 @@ bool isDegenerate(const std::vector<cv::Point2f>& points, const Sample& sample) 
 /// Unit vectors of a round's matches in both cameras.
 ///
 /// A rotation keeps the distance between two directions. Matches between which it differs by more than two inlier
-/// bounds are therefore never inliers together, and a sample without four that go together is not worth its fit. That
-/// spares most fits; the refined angles do not depend on it (docs/estimation.md).
+/// bounds are therefore never inliers together, and a sample without four that go together is not worth its fit. For
+/// the others the directions alone already give the rotation that the fit will find, to within a few pixels.
 class DirectionPairs {
 public:
     explicit DirectionPairs(const RotationCost& cost) : tolerance_(2.0 * kInlierPx / cost.focalLengthPx()) {
         cost.directions(&infrared_, &colour_);
     }
 
-    bool hasFourCompatible(const Sample& sample) const {
+    /// Rotation between the directions of a sample's matches that go together (Kabsch, 1976). None without four.
+    std::optional<Eigen::Vector3d> anglesOf(const Sample& sample) const {
         std::array<int, kSampleSize> conflicts{};
         int total = 0;
         for (std::size_t i = 0; i < sample.size(); ++i) {
@@ -47,7 +54,15 @@ public:
             }
         }
         // Leaving out one match must leave no conflict.
-        return std::any_of(conflicts.begin(), conflicts.end(), [total](int own) { return own == total; });
+        const auto outlier = std::find(conflicts.begin(), conflicts.end(), total);
+        if (outlier == conflicts.end()) return std::nullopt;
+        Eigen::Matrix3d correlation = Eigen::Matrix3d::Zero();
+        for (std::size_t i = 0; i < sample.size(); ++i) {
+            if (total > 0 && i == static_cast<std::size_t>(outlier - conflicts.begin())) continue;
+            const auto match = static_cast<std::size_t>(sample[i]);
+            correlation += colour_[match] * infrared_[match].transpose();
+        }
+        return anglesFromRotation(nearestRotation(correlation));
     }
 
 private:
@@ -56,35 +71,49 @@ private:
         return std::abs((infrared_[i] - infrared_[j]).norm() - (colour_[i] - colour_[j]).norm()) <= tolerance_;
     }
 
+    static Eigen::Matrix3d nearestRotation(const Eigen::Matrix3d& correlation) {
+        const Eigen::JacobiSVD<Eigen::Matrix3d> svd(correlation, Eigen::ComputeFullU | Eigen::ComputeFullV);
+        const double sign = (svd.matrixU() * svd.matrixV().transpose()).determinant() < 0 ? -1.0 : 1.0;
+        return svd.matrixU() * Eigen::Vector3d(1, 1, sign).asDiagonal() * svd.matrixV().transpose();
+    }
+
     double tolerance_;
     std::vector<Eigen::Vector3d> infrared_, colour_;
 };
 
 struct Candidate {
     Eigen::Vector3d anglesRad;
-    int inlierCount;
+    int inlierCount = 0;
+    double error = 0;  ///< as in `Consensus`; infinite when there are fewer inliers than asked for
 };
 
-/// Judges a rotation on all pairs and keeps it in `best` if it wins.
-int judge(const RotationCost& cost, const Eigen::Vector3d& anglesRad, std::vector<double>* residuals, Consensus* best) {
-    cost.residuals(anglesRad, residuals);
-    int inlierCount = 0;
-    double error = 0;
-    for (const double residual : *residuals) {
-        error += residual * residual;
-        if (residual <= kInlierResidual) ++inlierCount;
-    }
-    const bool wins =
-        !best->found || inlierCount > best->inlierCount || (inlierCount == best->inlierCount && error < best->error);
-    if (!wins) return inlierCount;
+/// Counts a rotation's inliers among all pairs. The error, which costs more, only of rotations with at least
+/// `soughtInliers` of them. `distancesPx` is room to work in.
+Candidate judge(const RotationCost& cost, const Eigen::Vector3d& anglesRad, int soughtInliers,
+                std::vector<double>* distancesPx) {
+    Candidate candidate{anglesRad, 0, std::numeric_limits<double>::infinity()};
+    cost.distancesPx(anglesRad, distancesPx);
+    candidate.inlierCount = static_cast<int>(
+        std::count_if(distancesPx->begin(), distancesPx->end(), [](double distance) { return distance <= kInlierPx; }));
+    if (candidate.inlierCount >= soughtInliers) candidate.error = cost.squaredError(anglesRad);
+    return candidate;
+}
+
+bool isBetter(const Candidate& candidate, const Consensus& best) {
+    if (!best.found || candidate.inlierCount > best.inlierCount) return true;
+    return candidate.inlierCount == best.inlierCount && candidate.error < best.error;
+}
+
+void keep(const RotationCost& cost, const Candidate& winner, Consensus* best) {
+    std::vector<double> distancesPx;
+    cost.distancesPx(winner.anglesRad, &distancesPx);
     best->found = true;
-    best->anglesRad = anglesRad;
-    best->inlierCount = inlierCount;
-    best->error = error;
-    best->inliers.resize(residuals->size());
-    std::transform(residuals->begin(), residuals->end(), best->inliers.begin(),
-                   [](double residual) { return residual <= kInlierResidual; });
-    return inlierCount;
+    best->anglesRad = winner.anglesRad;
+    best->inlierCount = winner.inlierCount;
+    best->error = winner.error;
+    best->inliers.resize(distancesPx.size());
+    std::transform(distancesPx.begin(), distancesPx.end(), best->inliers.begin(),
+                   [](double distance) { return distance <= kInlierPx; });
 }
 
 /// Counts pairs that a candidate explains and that lie far from the winner's prediction.
@@ -122,14 +151,19 @@ Consensus findConsensus(const RotationCost& cost, const std::vector<cv::Point2f>
     Consensus best;
     const DirectionPairs directions(cost);
     std::vector<Candidate> candidates;
-    std::vector<double> residuals;
+    std::vector<double> distancesPx;
     for (const Sample& sample : samples) {
         if (stop != nullptr && stop->load(std::memory_order_relaxed)) break;
-        if (isDegenerate(infraredPoints, sample) || !directions.hasFourCompatible(sample)) continue;
+        if (isDegenerate(infraredPoints, sample)) continue;
+        const std::optional<Eigen::Vector3d> foreseenRad = directions.anglesOf(sample);
+        if (!foreseenRad) continue;
+        candidates.push_back(judge(cost, *foreseenRad, best.inlierCount, &distancesPx));
+        if (!isBetter(candidates.back(), best)) continue;
         const RotationCost sampleCost(cost, {sample.begin(), sample.end()});
-        Eigen::Vector3d anglesRad;
-        if (!fitRotationLM(sampleCost, initialAnglesRad, &anglesRad)) continue;
-        candidates.push_back({anglesRad, judge(cost, anglesRad, &residuals, &best)});
+        Eigen::Vector3d fittedRad;
+        if (!fitRotationLM(sampleCost, initialAnglesRad, &fittedRad)) continue;
+        candidates.back() = judge(cost, fittedRad, best.inlierCount, &distancesPx);
+        if (isBetter(candidates.back(), best)) keep(cost, candidates.back(), &best);
     }
     if (best.found) best.rivalInlierCount = strongestRival(cost, candidates, best);
     return best;

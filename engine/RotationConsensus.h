@@ -30,11 +30,11 @@ struct Consensus {
     int rivalInlierCount = 0;
 };
 
-/// Random sample consensus (Fischler and Bolles, 1981) over the given samples: each is fitted from the initial angles
-/// and judged on all pairs. Samples with two infrared points closer than 10 pixels are left out, and those of which no
-/// rotation can explain four. More inliers win; of
-/// equals the smaller error, then the earlier sample. Ends early, with what it has, when `stop` (may be null) is set.
-/// Any thread.
+/// Random sample consensus (Fischler and Bolles, 1981) over the given samples. Samples with two infrared points closer
+/// than 10 pixels are left out, and those of which no rotation can explain four. The directions of the others foretell
+/// their rotation; a sample that would win by it is fitted from the initial angles, and judged on all pairs. More
+/// inliers win; of equals the smaller error, then the earlier sample. Ends early, with what it has, when `stop` (may be
+/// null) is set. Any thread.
 Consensus findConsensus(const RotationCost& cost, const std::vector<cv::Point2f>& infraredPoints,
                         const std::vector<Sample>& samples, const Eigen::Vector3d& initialAnglesRad,
                         const std::atomic<bool>* stop = nullptr);

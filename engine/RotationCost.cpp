@@ -129,6 +129,16 @@ void RotationCost::residuals(const Eigen::Vector3d& anglesRad, std::vector<doubl
     });
 }
 
+double RotationCost::squaredError(const Eigen::Vector3d& anglesRad) const {
+    double sum = 0;
+    visitDifferences(anglesRad, [&](std::size_t, double u, double v) {
+        const double squaredPx = u * u + v * v;
+        const double factor = termFactor(squaredPx);
+        sum += squaredPx * factor * factor;
+    });
+    return sum;
+}
+
 void RotationCost::directions(std::vector<Eigen::Vector3d>* infrared, std::vector<Eigen::Vector3d>* colour) const {
     infrared->clear();
     colour->clear();

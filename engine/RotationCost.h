@@ -57,6 +57,8 @@ public:
 
     /// Residual of each pair: the length of its two terms.
     void residuals(const Eigen::Vector3d& anglesRad, std::vector<double>* out) const;
+    /// Sum of the squared residuals of all pairs.
+    double squaredError(const Eigen::Vector3d& anglesRad) const;
     /// Unit vectors of each pair's points, each in its own camera.
     void directions(std::vector<Eigen::Vector3d>* infrared, std::vector<Eigen::Vector3d>* colour) const;
     double focalLengthPx() const { return fx_; }

@@ -79,6 +79,7 @@ TEST_F(CutRecordingTest, ARearCameraThatDiesDuringItsCaptureIsToldOnceAndTheFlas
     set("KXSIM_SPEED", "2");  // its silence is counted in seconds
     play([](const Stills& stills) {
         std::vector<EditedFrame> frames;
+        frames.reserve(13);
         for (int i = 0; i < 12; ++i)
             frames.push_back({stills[i % 6]});
         frames.push_back({stills[0], 100000});

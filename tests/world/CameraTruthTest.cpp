@@ -13,8 +13,6 @@
 namespace fieldcal::world {
 namespace {
 
-using session::SessionDescription;
-
 synthesis::StillSettings noiseless() {
     synthesis::StillSettings s;
     s.infrared = {150, 1e12, 0, 0, 0};
