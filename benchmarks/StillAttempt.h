@@ -23,6 +23,9 @@ public:
     double errorDeg();
     Eigen::Matrix3d rotation();
     vq::ParallaxReport parallax() const { return engine_.parallax(); }
+    std::optional<vq::SolutionQuality> quality() const { return engine_.quality(); }
+    /// No more stills will come.
+    Outcome finish() { return attempt_.finish(); }
 
     int pairs() const { return watch_.pairs; }
     /// Of all pairs so far, each from its pictures to the engine's answer.

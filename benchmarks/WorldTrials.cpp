@@ -25,6 +25,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -51,6 +52,7 @@ struct Trial {
     Eigen::Vector3d turnDeg = Eigen::Vector3d::Zero();  ///< the error about each axis of the colour camera
     std::array<double, kDistancesM.size()> registrationPx{};
     vq::ParallaxReport parallax;
+    std::optional<vq::SolutionQuality> quality;
 };
 
 using Trials = std::array<Trial, kCameras>;  ///< of the third and of the platform camera
@@ -99,6 +101,7 @@ Trial tryCamera(const ColourCamera& camera, unsigned seed, double misalignmentPx
     trial.parallax = attempt.parallax();
     if (!trial.solved) return trial;
     trial.errorDeg = attempt.errorDeg();
+    trial.quality = attempt.quality();
     const Eigen::AngleAxisd turn(attempt.rotation() * camera.truth.transpose());
     trial.turnDeg = turn.axis() * turn.angle() * 180 / CV_PI;
     const auto& extrinsics =
@@ -134,6 +137,25 @@ Trials tryWorld(const std::string& world, unsigned seed, bool baselines, const O
     return trials;
 }
 
+/// Error and stated deviation about each axis, thousandths of a degree; proof and model check.
+std::string qualityText(const Trial& trial) {
+    if (!trial.quality) return "";
+    const vq::SolutionQuality& quality = *trial.quality;
+    char text[240];
+    std::snprintf(text, sizeof text, "; about X %+.1f (%.1f), Y %+.1f (%.1f), Z %+.1f (%.1f) mdeg",
+                  trial.turnDeg[0] * 1e3, quality.deviationDeg[0] * 1e3, trial.turnDeg[1] * 1e3,
+                  quality.deviationDeg[1] * 1e3, trial.turnDeg[2] * 1e3, quality.deviationDeg[2] * 1e3);
+    std::string line = text;
+    if (quality.proof) {
+        std::snprintf(text, sizeof text, "; proof %.2f -> %.2f px", quality.proof->storedPx, quality.proof->newPx);
+        line += text;
+    }
+    const auto departure = static_cast<std::size_t>(quality.model.strongest());
+    std::snprintf(text, sizeof text, "; model %zu p %.1g%s", departure, quality.model.probability[departure],
+                  quality.model.departure() ? " departs" : "");
+    return line + text;
+}
+
 std::string told(const Trial& trial) {
     char text[160];
     if (!trial.solved) {
@@ -145,7 +167,28 @@ std::string told(const Trial& trial) {
                   trial.stills, trial.errorDeg, trial.registrationPx[0], trial.registrationPx[1],
                   trial.registrationPx[2], trial.registrationPx[3], trial.parallax.baselineM.value_or(0) * 1e3,
                   sources[static_cast<std::size_t>(trial.parallax.baselineFrom)]);
-    return text;
+    return text + qualityText(trial);
+}
+
+/// How honest the stated deviations are.
+void summarizeDeviations(const std::vector<Trial>& trials) {
+    std::array<double, 3> squares{};
+    int judged = 0, beyondThree = 0;
+    for (const Trial& trial : trials) {
+        if (!trial.quality) continue;
+        ++judged;
+        double largest = 0;
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            const double ratio = trial.turnDeg[static_cast<Eigen::Index>(axis)] / trial.quality->deviationDeg[axis];
+            squares[axis] += ratio * ratio;
+            largest = std::max(largest, std::abs(ratio));
+        }
+        if (largest > 3) ++beyondThree;
+    }
+    if (judged == 0) return;
+    std::printf("; error over deviation, rms: X %.2f, Y %.2f, Z %.2f, above 3: %d of %d",
+                std::sqrt(squares[0] / judged), std::sqrt(squares[1] / judged), std::sqrt(squares[2] / judged),
+                beyondThree, judged);
 }
 
 void summarize(const std::string& what, std::vector<Trial> trials) {
@@ -165,6 +208,7 @@ void summarize(const std::string& what, std::vector<Trial> trials) {
                      deviation = std::sqrt(std::max(squares / count - mean * mean, 0.0) / (count - 1));
         std::printf("%s%+.4f ± %.4f", axis == 0 ? "; mean about X, Y, Z " : ", ", mean, deviation);
     }
+    summarizeDeviations(trials);
     for (std::size_t i = 0; i < kDistancesM.size() && !trials.empty(); ++i) {
         std::vector<double> registration;
         registration.reserve(trials.size());

@@ -1,11 +1,14 @@
 #include "engine/AttemptRecord.h"
 
+#include "engine/Median.h"
 #include "engine/PatchAlignment.h"
 #include "engine/Rotation.h"
+#include "engine/SolutionJudge.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 
 namespace vq {
 namespace {
@@ -37,10 +40,6 @@ constexpr double kSmallestBaselineM = 0.015, kLargestBaselineM = 0.2;
 /// Patches are aligned anew when the scale has moved by this share.
 constexpr double kScaleChange = 0.03;
 
-/// Without any distances, scenes are taken to lie 20 m away, give or take: one deviation of the inverse depth.
-constexpr double kUnseenInverseDepth = 0.05;
-/// What imagers may be misaligned against each other without anybody knowing, in pixels of disparity.
-constexpr double kUnknownOffsetPx = 0.03;
 constexpr double kFarInverseDepth = 0.01;
 
 std::size_t areaOf(const cv::Point2f& point, const fieldcal::CameraModel& infrared) {
@@ -67,20 +66,15 @@ std::vector<MeasuredMatch> balanced(const std::vector<MeasuredMatch>& matches, c
     return kept;
 }
 
-double medianOf(std::vector<double> values) {
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
 double turnBetweenRad(const Eigen::Matrix3d& a, const Eigen::Matrix3d& b) {
     return (anglesFromRotation(a) - anglesFromRotation(b)).cwiseAbs().maxCoeff();
 }
 
 }  // namespace
 
-void AttemptRecord::setup(const Projection& projection) {
+void AttemptRecord::setup(const Projection& projection, const Eigen::Matrix3d& storedRotation) {
     projection_ = projection;
+    storedRotation_ = storedRotation;
     clear();
 }
 
@@ -91,7 +85,7 @@ void AttemptRecord::clear() {
 void AttemptRecord::addPair(Pair pair) {
     pair.infrared8 = pair.infrared8.clone();
     pair.grey = pair.grey.clone();
-    pairs_.push_back({std::move(pair), {}, -1});
+    pairs_.push_back({std::move(pair), {}, -1, true});
 }
 
 bool AttemptRecord::isStill(const Pair& pair) const {
@@ -113,16 +107,18 @@ std::vector<MeasuredMatch> AttemptRecord::matchesNear(const Eigen::Matrix3d& rot
     std::vector<MeasuredMatch> near;
     for (const Pair& pair : pairs_) {
         if (!isStill(pair)) continue;
-        for (const MeasuredMatch& match : pair.matches) {
-            const double inverseDepth = inverseDepthOf(match.place, scale);
-            if (std::isnan(inverseDepth) && pair.seesDisparities) continue;
-            const Eigen::Vector2d predicted =
-                projection_.colourPoint(rotation, match.place.infrared, std::isnan(inverseDepth) ? 0 : inverseDepth);
-            const Eigen::Vector2d difference = predicted - Eigen::Vector2d(match.colour.x, match.colour.y);
-            if (difference.norm() <= kNearPx) near.push_back(match);
-        }
+        for (const MeasuredMatch& match : locatedMatches(pair, scale))
+            if (projection_.distancePx(match, rotation, scale) <= kNearPx) near.push_back(match);
     }
     return near;
+}
+
+/// Those of which it is known how far they are, or that nothing could have told.
+std::vector<MeasuredMatch> AttemptRecord::locatedMatches(const Pair& pair, const StereoScale* scale) {
+    std::vector<MeasuredMatch> located;
+    for (const MeasuredMatch& match : pair.matches)
+        if (!pair.seesDisparities || !std::isnan(inverseDepthOf(match.place, scale))) located.push_back(match);
+    return located;
 }
 
 std::optional<Eigen::Matrix3d> AttemptRecord::fitMatches(const Eigen::Matrix3d& winner) {
@@ -171,17 +167,15 @@ std::vector<MeasuredMatch> AttemptRecord::alignedPatches(const Eigen::Matrix3d& 
             pair.alignedPixelMetres = pixelMetres;
         }
     }
-    const std::vector<char> agrees = pairsThatAgree(rotation, scale);
-    for (std::size_t i = 0; i < pairs_.size(); ++i) {
-        if (agrees[i] != 0 && isStill(pairs_[i]))
-            all.insert(all.end(), pairs_[i].aligned.begin(), pairs_[i].aligned.end());
-    }
+    findPairsThatAgree(rotation, scale);
+    for (const KeptPair& pair : pairs_)
+        if (pair.agrees && isStill(pair)) all.insert(all.end(), pair.aligned.begin(), pair.aligned.end());
     return all;
 }
 
-/// One flag a pair: whether its own patches want about the rotation that the pairs want in the median. A pair that was
-/// taken while the hand still moved shows the colour camera turned by what it moved between the two exposures.
-std::vector<char> AttemptRecord::pairsThatAgree(const Eigen::Matrix3d& rotation, const StereoScale* scale) const {
+/// A pair agrees when its own patches want about the rotation that the pairs want in the median. One that was taken
+/// while the hand still moved shows the colour camera turned by what it moved between the two exposures.
+void AttemptRecord::findPairsThatAgree(const Eigen::Matrix3d& rotation, const StereoScale* scale) {
     FitOptions options;
     options.cauchy = kPatchCauchy;
     options.scale = scale;
@@ -196,18 +190,17 @@ std::vector<char> AttemptRecord::pairsThatAgree(const Eigen::Matrix3d& rotation,
         for (std::size_t axis = 0; axis < acrossAxes.size(); ++axis)
             acrossAxes[axis].push_back(turns[i][static_cast<Eigen::Index>(axis)]);
     }
-    std::vector<char> agrees(pairs_.size(), 1);
-    if (acrossAxes[0].size() < kMinimumPairsToCompare) return agrees;
+    for (KeptPair& pair : pairs_)
+        pair.agrees = true;
+    if (acrossAxes[0].size() < kMinimumPairsToCompare) return;
     const Eigen::Vector2d middle(medianOf(acrossAxes[0]), medianOf(acrossAxes[1]));
     for (std::size_t i = 0; i < pairs_.size(); ++i) {
         const double departureRad = (turns[i].head<2>() - middle).cwiseAbs().maxCoeff();
-        agrees[i] = departureRad > kPairDepartureRad ? 0 : 1;
+        pairs_[i].agrees = !(departureRad > kPairDepartureRad);
     }
-    return agrees;
 }
 
-std::optional<PolishedRotation> AttemptRecord::polish(const Eigen::Vector3d& winnerRad) {
-    const Eigen::Matrix3d winner = rotationFromAngles(winnerRad);
+std::optional<AttemptRecord::LastFit> AttemptRecord::fitAll(const Eigen::Matrix3d& winner) {
     auto start = fitMatches(winner);
     if (!start) return std::nullopt;
     const auto assumed = workingScale();
@@ -217,45 +210,45 @@ std::optional<PolishedRotation> AttemptRecord::polish(const Eigen::Vector3d& win
 
     auto scale = workingScale();
     const std::vector<MeasuredMatch> patches = alignedPatches(*start, scale ? &*scale : nullptr);
-    FitOptions options;
-    options.cauchy = kPatchCauchy;
+    LastFit fit;
+    fit.options.cauchy = kPatchCauchy;
     if (patches.size() >= kMinimumPatches) learnScale(patches, *start, kPatchCauchy);
-    scale = workingScale();
-    options.scale = scale ? &*scale : nullptr;
-    auto fitted = fitRotation(patches, projection_, *start, options);
-    const bool stands =
+    fit.scale = workingScale();
+    fit.options.scale = fit.scale ? &*fit.scale : nullptr;
+    auto fitted = fitRotation(patches, projection_, *start, fit.options);
+    fit.ofPatches =
         patches.size() >= kMinimumPatches && fitted && turnBetweenRad(fitted->rotation, *start) <= kMaxAlignmentRad;
-    if (!stands) {
-        options.cauchy = kMatchCauchyPx;
-        fitted = fitRotation(balanced(matchesNear(*start, options.scale), projection_.cameras.infrared), projection_,
-                             *start, options);
+    if (!fit.ofPatches) {
+        fit.options.cauchy = kMatchCauchyPx;
+        fitted = fitRotation(balanced(matchesNear(*start, fit.options.scale), projection_.cameras.infrared),
+                             projection_, *start, fit.options);
         if (!fitted) return std::nullopt;
     }
-    const Eigen::Vector3d deviation =
-        (fitted->deviationRad.cwiseAbs2() + distanceDeviationsRad().cwiseAbs2()).cwiseSqrt();
-    return PolishedRotation{anglesFromRotation(fitted->rotation), deviation};
+    fit.rotation = fitted->rotation;
+    return fit;
 }
 
-/// What is not known about distances turns into an error of the angles that all matches have in common: a shift across
-/// the colour image, along the translation between the cameras.
-Eigen::Vector3d AttemptRecord::distanceDeviationsRad() const {
-    const Eigen::Vector3d& t = projection_.translationM;
-    std::vector<double> inverseDepths;
-    const auto scale = workingScale();
-    bool unseen = pairs_.empty();
-    for (const Pair& pair : pairs_) {
-        unseen = unseen || !pair.seesDisparities;
-        for (const MeasuredMatch& match : pair.matches) {
-            const double inverseDepth = inverseDepthOf(match.place, scale ? &*scale : nullptr);
-            if (!std::isnan(inverseDepth)) inverseDepths.push_back(std::abs(inverseDepth));
-        }
-    }
-    double deviation = unseen ? kUnseenInverseDepth : 0;
-    if (scale && !inverseDepths.empty()) {
-        const double ofScale = medianOf(inverseDepths) * scale->relativeDeviation;
-        deviation = std::hypot(deviation, std::hypot(ofScale, kUnknownOffsetPx / scale->pixelMetres));
-    }
-    return {std::abs(t.y()) * deviation, std::abs(t.x()) * deviation, 0.0};
+std::optional<PolishedRotation> AttemptRecord::polish(const Eigen::Vector3d& winnerRad) {
+    auto fit = fitAll(rotationFromAngles(winnerRad));
+    if (!fit) return std::nullopt;
+    fit->options.scale = fit->scale ? &*fit->scale : nullptr;
+    return PolishedRotation{anglesFromRotation(fit->rotation), judge(*fit)};
+}
+
+std::vector<MeasuredMatch> AttemptRecord::takenOf(const KeptPair& pair, const LastFit& fit) const {
+    if (!isStill(pair) || (fit.ofPatches && !pair.agrees)) return {};
+    if (fit.ofPatches) return pair.aligned;
+    std::vector<MeasuredMatch> near;
+    for (const MeasuredMatch& match : locatedMatches(pair, fit.options.scale))
+        if (projection_.distancePx(match, fit.rotation, fit.options.scale) <= kNearPx) near.push_back(match);
+    return near;
+}
+
+SolutionQuality AttemptRecord::judge(const LastFit& fit) const {
+    JudgedSolution solution{projection_, fit.rotation, storedRotation_, fit.options, {}};
+    for (const KeptPair& pair : pairs_)
+        solution.stills.push_back({takenOf(pair, fit), locatedMatches(pair, fit.options.scale), pair.seesDisparities});
+    return judgeSolution(solution);
 }
 
 ParallaxReport AttemptRecord::report() const {

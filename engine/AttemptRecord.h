@@ -3,6 +3,7 @@
 #include "engine/DistanceMeter.h"
 #include "engine/ParallaxReport.h"
 #include "engine/RotationPolish.h"
+#include "engine/SolutionQuality.h"
 
 #include <Eigen/Core>
 #include <opencv2/core.hpp>
@@ -15,8 +16,7 @@ namespace vq {
 /// A rotation fitted to everything that an attempt has seen.
 struct PolishedRotation {
     Eigen::Vector3d anglesRad;
-    /// One standard deviation of each angle: the residuals' spread, and what is not known about distances.
-    Eigen::Vector3d deviationRad;
+    SolutionQuality quality;
 };
 
 /// What an attempt keeps of its pairs, and the last fit over all of it.
@@ -37,7 +37,8 @@ public:
 
     explicit AttemptRecord(DistanceMeter& meter) : meter_(meter) {}
 
-    void setup(const Projection& projection);
+    /// `storedRotation`: what the attempt starts from, depth to colour.
+    void setup(const Projection& projection, const Eigen::Matrix3d& storedRotation);
     void clear();
 
     /// The images are copied.
@@ -53,6 +54,14 @@ private:
     struct KeptPair : Pair {
         std::vector<MeasuredMatch> aligned;
         double alignedPixelMetres = -1;  ///< the scale they were aligned with; negative before
+        bool agrees = true;              ///< with the rotation that the pairs want in the median
+    };
+    /// What the angles were fitted to last, and how.
+    struct LastFit {
+        Eigen::Matrix3d rotation;
+        FitOptions options;  ///< its scale is `scale`
+        std::optional<StereoScale> scale;
+        bool ofPatches = false;
     };
 
     /// Whether the hand was still, as far as that can be had: a pair of a moving hand counts when there is no other.
@@ -60,14 +69,19 @@ private:
     /// The scale that distances are computed with: a known one, else an assumed one where disparities are seen.
     std::optional<StereoScale> workingScale() const;
     std::vector<MeasuredMatch> matchesNear(const Eigen::Matrix3d& rotation, const StereoScale* scale) const;
+    static std::vector<MeasuredMatch> locatedMatches(const Pair& pair, const StereoScale* scale);
     std::optional<Eigen::Matrix3d> fitMatches(const Eigen::Matrix3d& winner);
     void learnScale(const std::vector<MeasuredMatch>& matches, const Eigen::Matrix3d& rotation, double cauchy);
     std::vector<MeasuredMatch> alignedPatches(const Eigen::Matrix3d& rotation, const StereoScale* scale);
-    std::vector<char> pairsThatAgree(const Eigen::Matrix3d& rotation, const StereoScale* scale) const;
-    Eigen::Vector3d distanceDeviationsRad() const;
+    void findPairsThatAgree(const Eigen::Matrix3d& rotation, const StereoScale* scale);
+    std::optional<LastFit> fitAll(const Eigen::Matrix3d& winner);
+    /// What a fit takes of one pair; empty when the pair does not take part.
+    std::vector<MeasuredMatch> takenOf(const KeptPair& pair, const LastFit& fit) const;
+    SolutionQuality judge(const LastFit& fit) const;
 
     DistanceMeter& meter_;
     Projection projection_;
+    Eigen::Matrix3d storedRotation_ = Eigen::Matrix3d::Identity();
     std::vector<KeptPair> pairs_;
 };
 

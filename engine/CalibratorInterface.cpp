@@ -17,8 +17,8 @@ constexpr float kRadiansPerDegree = 0.017453292F;
 }  // namespace
 
 CalibratorInterface::CalibratorInterface(RegistrationContext& context, const fieldcal::CameraParameters& parameters,
-                                         const SensorCalibratorParameters& tuning)
-    : calibrator_(context, tuning), context_(context), parameters_(parameters) {}
+                                         const SensorCalibratorParameters& tuning, const AccuracyGoal& goal)
+    : calibrator_(context, tuning), goal_(goal), context_(context), parameters_(parameters) {}
 
 std::int32_t CalibratorInterface::setup() {
     logMessage(kInfo, "CalibratorInterface::setup", "Preparing Calibrator");
@@ -59,12 +59,22 @@ CalibratorResult CalibratorInterface::inputImageAndTryCalibration() {
     logMessage(kInfo, tag, "Current number of attempts: %i", attempts_);
     logMessage(kInfo, tag, "Current avg number of features: %f",
                static_cast<double>(static_cast<float>(featureTotal_) / static_cast<float>(attempts_)));
-    if (isSceneTooSimple()) return {firstPass_ ? SceneTooSimple : SceneTooSimpleRepeated, ""};
-    if (!calibrator_.hasEnoughFilledCells()) return {NeedMoreImages, "Need more images to process"};
-    logMessage(kInfo, tag, "Trying to determine a stable solution...");
-    calibrator_.tryDetermineStableSolution();
-    if (calibrator_.goodSolution()) return {GoodSolution, "Found good solution"};
+    const bool hadSolution = calibrator_.goodSolution();
+    if (isSceneTooSimple() && !hadSolution) return {firstPass_ ? SceneTooSimple : SceneTooSimpleRepeated, ""};
+    if (calibrator_.hasEnoughFilledCells()) {
+        logMessage(kInfo, tag, "Trying to determine a stable solution...");
+        calibrator_.tryDetermineStableSolution();
+    } else if (!hadSolution) {
+        return {NeedMoreImages, "Need more images to process"};
+    }
+    if (calibrator_.goodSolution() && isAccurateEnough()) return {GoodSolution, "Found good solution"};
     return {AddingFramesForConvergence, "Adding additional Frames for convergence"};
+}
+
+bool CalibratorInterface::isAccurateEnough() const {
+    const std::optional<SolutionQuality> quality = calibrator_.quality();
+    const bool meets = quality && quality->meets(goal_) && attempts_ >= goal_.leastPairs;
+    return meets || attempts_ >= goal_.mostPairs;
 }
 
 bool CalibratorInterface::isSceneTooSimple() const {

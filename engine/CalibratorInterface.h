@@ -16,7 +16,7 @@ class CalibratorInterface : public ICalibrator {
 public:
     /// Both references must outlive the engine. `parameters` are read by `setCameraParameters`.
     CalibratorInterface(RegistrationContext& context, const fieldcal::CameraParameters& parameters,
-                        const SensorCalibratorParameters& tuning = {});
+                        const SensorCalibratorParameters& tuning = {}, const AccuracyGoal& goal = {});
 
     std::int32_t setup() override;
     CalibratorResult inputFramesAndCheckMovement(const fieldcal::ImageFrame16& infrared,
@@ -35,6 +35,8 @@ public:
     void inputDistanceFrames(const fieldcal::ImageFrame16& right, const fieldcal::ImageFrame16& depth) override;
     void setRememberedBaseline(double metres) override;
     ParallaxReport parallax() const override { return calibrator_.parallax(); }
+    bool hasSolution() const override { return calibrator_.goodSolution(); }
+    std::optional<SolutionQuality> quality() const override { return calibrator_.quality(); }
 
     /// When the flag becomes true, a running estimation ends early without a solution. May be null.
     void setStopFlag(const std::atomic<bool>* stop) { calibrator_.setStopFlag(stop); }
@@ -42,8 +44,10 @@ public:
 
 private:
     bool isSceneTooSimple() const;
+    bool isAccurateEnough() const;
 
     SensorCalibrator calibrator_;
+    const AccuracyGoal goal_;
     FrameSelector frameSelector_;
     SelectedImages selected_;
     const fieldcal::ImageFrame16* right_ = nullptr;  ///< of the grab that is about to be fed

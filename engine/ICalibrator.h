@@ -3,8 +3,10 @@
 #include "camera/ImageFrame.h"
 #include "engine/CalibratorResult.h"
 #include "engine/ParallaxReport.h"
+#include "engine/SolutionQuality.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace vq {
 
@@ -14,7 +16,7 @@ namespace vq {
 /// check `measureInfraredBrightness` per frame; during capture `inputFramesAndCheckMovement` per frame and, each time
 /// it answers 3, `inputImageAndTryCalibration` once; `resetState` whenever capture starts over.
 /// `inputDistanceFrames` comes before each `inputFramesAndCheckMovement` where the module delivers such images.
-/// Threads: slots 0 to 5 and 13 to 15 belong to the processing thread. Slots 6 to 12 may be called from the interface's
+/// Threads: slots 0 to 5 and 13 to 17 belong to the processing thread. Slots 6 to 12 may be called from the interface's
 /// thread once `setCameraParameters` has run; they never wait for an estimation.
 class ICalibrator {
 public:
@@ -26,7 +28,8 @@ public:
     /// must not be empty. Colour: RGBA in storage order, in the infrared geometry.
     virtual CalibratorResult inputFramesAndCheckMovement(const fieldcal::ImageFrame16& infrared,
                                                          const fieldcal::ImageFrame32& colour) = 0;
-    /// Matches the selected pair and tries a calibration: 0, 2, 6, 7 or 8.
+    /// Matches the selected pair and tries a calibration: 0, 2, 6, 7 or 8. It answers 8 when the solution is as
+    /// accurate as it should be, or when there have been eight pairs; until then a solution is kept and made better.
     virtual CalibratorResult inputImageAndTryCalibration() = 0;
     /// Mean of the infrared values with the darkest and brightest 2 % clipped, 0..1023. Empty frame: 0.
     virtual void measureInfraredBrightness(const fieldcal::ImageFrame16& infrared, std::uint16_t* brightness) = 0;
@@ -52,6 +55,10 @@ public:
     virtual void setRememberedBaseline(double metres) = 0;
     /// What the attempt knows about distances so far.
     virtual ParallaxReport parallax() const = 0;
+    /// Whether the current angles are a solution, though perhaps not one as accurate as it could become.
+    virtual bool hasSolution() const = 0;
+    /// How good the solution is; none without one, or when only the vote stands behind it.
+    virtual std::optional<SolutionQuality> quality() const = 0;
 };
 
 }  // namespace vq

@@ -1,5 +1,7 @@
 #include "engine/RotationPolish.h"
 
+#include "engine/FitTerm.h"
+
 #include <Eigen/Geometry>
 #include <Eigen/LU>
 
@@ -28,25 +30,17 @@ Eigen::Matrix3d rotated(const Eigen::Matrix3d& rotation, const Eigen::Vector3d& 
     return Eigen::AngleAxisd(angle, turnRad / angle).toRotationMatrix() * rotation;
 }
 
-/// A match prepared for many evaluations.
-struct Term {
-    Eigen::Vector3d ray;
-    Eigen::Vector2d colour;
-    Eigen::Matrix2d information;
-    double inverseDepth;  ///< for a scale that is estimated: the disparity
-};
-
 /// Normal equations of one step. Unknowns: a small turn of the colour camera (radians), then the inverse scale.
 class Step {
 public:
     Step(const Projection& projection, const FitOptions& options) : projection_(projection), options_(options) {}
 
-    void accumulate(const std::vector<Term>& terms, const Eigen::Matrix3d& rotation, double inverseScale) {
+    void accumulate(const std::vector<FitTerm>& terms, const Eigen::Matrix3d& rotation, double inverseScale) {
         normal_.setZero();
         gradient_.setZero();
         weightedSquares_ = weights_ = 0;
-        for (const Term& term : terms)
-            add(term, rotation * term.ray, inverseScale);
+        for (const FitTerm& term : terms)
+            add(term, rotation, inverseScale);
         if (!options_.estimateScale) normal_(3, 3) = 1;
     }
 
@@ -58,37 +52,25 @@ public:
     }
 
 private:
-    void add(const Term& term, const Eigen::Vector3d& turned, double inverseScale) {
-        const fieldcal::CameraModel& camera = projection_.cameras.colour;
+    void add(const FitTerm& term, const Eigen::Matrix3d& rotation, double inverseScale) {
         const double scale = options_.estimateScale ? inverseScale : 1.0;
-        const Eigen::Vector3d p = turned + projection_.translationM * (term.inverseDepth * scale);
-        const double inverse = 1 / p.z();
-        const Eigen::Vector2d residual(camera.fx * p.x() * inverse + camera.cx - term.colour.x(),
-                                       camera.fy * p.y() * inverse + camera.cy - term.colour.y());
-        Eigen::Matrix<double, 2, 3> toPixels;
-        toPixels << camera.fx * inverse, 0, -camera.fx * p.x() * inverse * inverse,  //
-            0, camera.fy * inverse, -camera.fy * p.y() * inverse * inverse;
-        Eigen::Matrix<double, 3, 4> motion;
-        motion << 0, turned.z(), -turned.y(), 0,  //
-            -turned.z(), 0, turned.x(), 0,        //
-            turned.y(), -turned.x(), 0, 0;
-        if (options_.estimateScale) motion.col(3) = projection_.translationM * term.inverseDepth;
-        const Eigen::Matrix<double, 2, 4> jacobian = toPixels * motion;
-        const double squared = residual.dot(term.information * residual);
-        const double weight = 1 / (1 + squared / (options_.cauchy * options_.cauchy));
-        normal_ += weight * jacobian.transpose() * term.information * jacobian;
-        gradient_ += weight * jacobian.transpose() * term.information * residual;
+        const EvaluatedTerm at(term, rotation, projection_, term.inverseDepth * scale, options_.cauchy);
+        Eigen::Matrix<double, 2, 4> jacobian = Eigen::Matrix<double, 2, 4>::Zero();
+        jacobian.leftCols<3>() = at.pixelsPerTurn();
+        const Eigen::Vector2d perScale = at.pixelsPerPoint * projection_.translationM;
+        if (options_.estimateScale) jacobian.col(3) = perScale * term.inverseDepth;
+        normal_ += at.weight * jacobian.transpose() * term.information * jacobian;
+        gradient_ += at.weight * jacobian.transpose() * term.information * at.residualPx;
         if (options_.estimateScale) {
             // A disparity that carries noise of its own draws the slope over it towards zero (regression dilution).
             // What that noise is expected to contribute is taken out of the normal equations.
-            const Eigen::Vector2d perDisparity = toPixels * projection_.translationM;
-            const double noise = weight * kDisparityDeviationPx * kDisparityDeviationPx *
-                                 perDisparity.dot(term.information * perDisparity);
+            const double noise =
+                at.weight * kDisparityDeviationPx * kDisparityDeviationPx * perScale.dot(term.information * perScale);
             normal_(3, 3) -= noise;
             gradient_[3] -= noise * inverseScale;
         }
-        weightedSquares_ += weight * squared;
-        weights_ += weight;
+        weightedSquares_ += at.weight * at.squared;
+        weights_ += at.weight;
     }
 
     const Projection& projection_;
@@ -98,22 +80,6 @@ private:
     double weightedSquares_ = 0, weights_ = 0;
 };
 
-std::vector<Term> termsOf(const std::vector<MeasuredMatch>& matches, const Projection& projection,
-                          const FitOptions& options) {
-    std::vector<Term> terms;
-    terms.reserve(matches.size());
-    for (const MeasuredMatch& match : matches) {
-        double distance = options.estimateScale ? static_cast<double>(match.place.disparityPx)
-                                                : inverseDepthOf(match.place, options.scale);
-        if (std::isnan(distance)) distance = 0;
-        terms.push_back({rayOf(projection.cameras.infrared, match.place.infrared),
-                         {match.colour.x, match.colour.y},
-                         match.information,
-                         distance});
-    }
-    return terms;
-}
-
 }  // namespace
 
 Eigen::Vector2d Projection::colourPoint(const Eigen::Matrix3d& rotation, const cv::Point2f& infrared,
@@ -121,6 +87,13 @@ Eigen::Vector2d Projection::colourPoint(const Eigen::Matrix3d& rotation, const c
     const Eigen::Vector3d p = rotation * rayOf(cameras.infrared, infrared) + translationM * inverseDepth;
     return {cameras.colour.fx * p.x() / p.z() + cameras.colour.cx,
             cameras.colour.fy * p.y() / p.z() + cameras.colour.cy};
+}
+
+Eigen::Vector2d Projection::residualPx(const Eigen::Matrix3d& rotation, const MeasuredMatch& match,
+                                       const StereoScale* scale) const {
+    const double inverseDepth = inverseDepthOf(match.place, scale);
+    return colourPoint(rotation, match.place.infrared, std::isnan(inverseDepth) ? 0 : inverseDepth) -
+           Eigen::Vector2d(match.colour.x, match.colour.y);
 }
 
 cv::Point2f Projection::withoutParallax(const Eigen::Matrix3d& rotation, const cv::Point2f& infrared,
@@ -135,10 +108,26 @@ double inverseDepthOf(const MeasuredPlace& place, const StereoScale* scale) {
     return place.inverseDepth;
 }
 
+std::vector<FitTerm> fitTerms(const std::vector<MeasuredMatch>& matches, const Projection& projection,
+                              const FitOptions& options) {
+    std::vector<FitTerm> terms;
+    terms.reserve(matches.size());
+    for (const MeasuredMatch& match : matches) {
+        double distance = options.estimateScale ? static_cast<double>(match.place.disparityPx)
+                                                : inverseDepthOf(match.place, options.scale);
+        if (std::isnan(distance)) distance = 0;
+        terms.push_back({rayOf(projection.cameras.infrared, match.place.infrared),
+                         {match.colour.x, match.colour.y},
+                         match.information,
+                         distance});
+    }
+    return terms;
+}
+
 std::optional<FittedRotation> fitRotation(const std::vector<MeasuredMatch>& matches, const Projection& projection,
                                           const Eigen::Matrix3d& start, const FitOptions& options) {
     if (matches.size() < kMinimumMatches || (options.estimateScale && options.scale == nullptr)) return std::nullopt;
-    const std::vector<Term> terms = termsOf(matches, projection, options);
+    const std::vector<FitTerm> terms = fitTerms(matches, projection, options);
     Step step(projection, options);
     Eigen::Matrix3d rotation = start;
     double inverseScale = options.estimateScale ? 1 / options.scale->pixelMetres : 0;

@@ -20,6 +20,13 @@ struct Projection {
     /// K_colour · (R · K_infrared⁻¹ · p + t / depth), divided by its third coordinate.
     Eigen::Vector2d colourPoint(const Eigen::Matrix3d& rotation, const cv::Point2f& infrared,
                                 double inverseDepth) const;
+    /// Between where a rotation puts a match and where it is, pixels of the colour model. Counts as infinitely far what
+    /// has no distance.
+    Eigen::Vector2d residualPx(const Eigen::Matrix3d& rotation, const MeasuredMatch& match,
+                               const StereoScale* scale) const;
+    double distancePx(const MeasuredMatch& match, const Eigen::Matrix3d& rotation, const StereoScale* scale) const {
+        return residualPx(rotation, match, scale).norm();
+    }
     /// The infrared place at which something at infinity would be seen where the colour camera sees this: the place
     /// freed of its parallax.
     cv::Point2f withoutParallax(const Eigen::Matrix3d& rotation, const cv::Point2f& infrared,

@@ -70,7 +70,7 @@ void SensorCalibrator::setup() {
     matcher_.setup(search.cameras, search.initialAnglesRad.cast<double>(), search.range, kMatcherMarginDeg);
     estimator_.setup(search);
     meter_.setup(search.cameras.infrared, depthModel, rememberedBaselineM_);
-    record_.setup(projection_);
+    record_.setup(projection_, initialRotation_);
     frameUsable_ = false;
 }
 
@@ -210,7 +210,7 @@ void SensorCalibrator::decide() {
     outOfRange_ = !inRange;
     if (agreed && inRange) {
         failureStreak_ = 0;
-        if (!goodSolution_) recordSolution();
+        recordSolution();
     } else {
         countFailure();
     }
@@ -230,10 +230,9 @@ void SensorCalibrator::countFailure() {
     failureStreak_ = 0;
 }
 
+/// A solution that was good stays so: later pairs only make it better.
 void SensorCalibrator::recordSolution() {
     recordingBusy_ = true;
-    goodSolution_ = false;
-    deviationDeg_.reset();
     const RotationVoteStore::Record* best = estimator_.lastBest();
     if (best == nullptr || std::isnan(best->anglesRad[0])) return;
     Eigen::Vector3d anglesRad = best->anglesRad;
@@ -241,9 +240,12 @@ void SensorCalibrator::recordSolution() {
     const bool isGood = support >= 1.0F && attemptCount_ >= parameters_.minimumAttempts;
     // Before that, more pairs come, and the last fit would be thrown away.
     const auto polished = isGood ? record_.polish(anglesRad) : std::nullopt;
-    if (polished && isAcceptable(polished->anglesRad)) {
+    const bool stands = polished && isAcceptable(polished->anglesRad);
+    if (goodSolution_ && !stands) return;
+    quality_.reset();
+    if (stands) {
         anglesRad = polished->anglesRad;
-        deviationDeg_ = degrees(polished->deviationRad);
+        quality_ = polished->quality;
     }
     const Eigen::Vector3f anglesDeg = (anglesRad * kDegreesPerRadian).cast<float>();
     {
@@ -264,7 +266,7 @@ void SensorCalibrator::reset() {
     failureStreak_ = 0;
     goodSolution_ = false;
     outOfRange_ = false;
-    deviationDeg_.reset();
+    quality_.reset();
 }
 
 }  // namespace vq

@@ -11,7 +11,6 @@
 
 #include <opencv2/core.hpp>
 
-#include <array>
 #include <atomic>
 #include <mutex>
 #include <optional>
@@ -69,8 +68,8 @@ public:
     bool outOfRange() const { return outOfRange_; }
     bool busy() const { return recordingBusy_ || decisionBusy_; }
     int attemptCount() const { return attemptCount_; }
-    /// One standard deviation of each angle of the recorded solution, degrees; none without a polished solution.
-    std::optional<std::array<double, 3>> deviationDeg() const { return deviationDeg_; }
+    /// How good the recorded solution is; none without one that the last fit has given.
+    std::optional<SolutionQuality> quality() const { return quality_; }
     ParallaxReport parallax() const { return record_.report(); }
 
 private:
@@ -105,7 +104,7 @@ private:
     std::atomic<bool> outOfRange_{false};
     std::atomic<bool> recordingBusy_{false};
     std::atomic<bool> decisionBusy_{false};
-    std::optional<std::array<double, 3>> deviationDeg_;
+    std::optional<SolutionQuality> quality_;
 };
 
 }  // namespace vq

@@ -69,6 +69,38 @@ QJsonObject jsonRegistration(const std::map<int, double>& registrationPx) {
     return object;
 }
 
+/// In the order of `vq::ModelDeparture`.
+constexpr std::array<const char*, vq::kModelDepartureCount> kDepartureNames{
+    "focal", "principal-point", "distortion", "translation", "part-of-the-picture", "part-of-the-picture"};
+
+const char* verdictOf(const vq::ModelCheck& model) {
+    const auto departure = model.departure();
+    return departure ? kDepartureNames[static_cast<std::size_t>(*departure)] : "rotation";
+}
+
+QJsonObject jsonProof(const vq::HoldOutProof& proof) {
+    return {{"beforePx", proof.storedPx}, {"afterPx", proof.newPx}, {"matches", proof.matches}};
+}
+
+QJsonObject jsonModel(const vq::ModelCheck& model) {
+    return {{"verdict", verdictOf(model)}, {"p", model.probability[static_cast<std::size_t>(model.strongest())]}};
+}
+
+QString qualityText(const vq::SolutionQuality& quality) {
+    QString text = QString("uncertainty (one deviation): %1 %2 %3 degrees\n")
+                       .arg(quality.deviationDeg[0], 0, 'f', 4)
+                       .arg(quality.deviationDeg[1], 0, 'f', 4)
+                       .arg(quality.deviationDeg[2], 0, 'f', 4);
+    if (quality.proof) {
+        text += QString("%1 px with the stored calibration, %2 px with the new one, on photos that took no part\n")
+                    .arg(quality.proof->storedPx, 0, 'f', 1)
+                    .arg(quality.proof->newPx, 0, 'f', 1);
+    }
+    if (quality.model.departure())
+        text += QString("a rotation alone does not explain the photos: %1\n").arg(verdictOf(quality.model));
+    return text;
+}
+
 QString distancesText(const vq::ParallaxReport& parallax) {
     if (parallax.withDistance == 0) return "no distances were measured\n";
     const QString median = parallax.medianDistanceM ? QString("median %1 m").arg(*parallax.medianDistanceM, 0, 'g', 2)
@@ -123,11 +155,13 @@ QByteArray reportJson(const CalibrationReport& report) {
         {"rotation", jsonNumbers(report.rotation)},
         {"factoryRotation", jsonNumbers(report.factoryRotation)},
         {"errorDeg", report.errorDeg ? QJsonValue(*report.errorDeg) : QJsonValue()},
-        {"uncertaintyDeg", report.uncertaintyDeg ? QJsonValue(jsonNumbers(*report.uncertaintyDeg)) : QJsonValue()},
+        {"uncertaintyDeg", report.quality ? QJsonValue(jsonNumbers(report.quality->deviationDeg)) : QJsonValue()},
         {"parallax", jsonParallax(report.parallax)},
         {"perPair", perPair},
         {"seconds", jsonSeconds(report)}};
     if (!report.registrationPx.empty()) object.insert("registrationPx", jsonRegistration(report.registrationPx));
+    if (report.quality && report.quality->proof) object.insert("proof", jsonProof(*report.quality->proof));
+    if (report.quality) object.insert("model", jsonModel(report.quality->model));
     if (report.written) object.insert("written", *report.written);
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
@@ -143,12 +177,7 @@ QString reportText(const CalibrationReport& report) {
                 .arg(report.anglesDeg[0], 0, 'f', 4)
                 .arg(report.anglesDeg[1], 0, 'f', 4)
                 .arg(report.anglesDeg[2], 0, 'f', 4);
-    if (report.uncertaintyDeg) {
-        text += QString("uncertainty (one deviation): %1 %2 %3 degrees\n")
-                    .arg((*report.uncertaintyDeg)[0], 0, 'f', 4)
-                    .arg((*report.uncertaintyDeg)[1], 0, 'f', 4)
-                    .arg((*report.uncertaintyDeg)[2], 0, 'f', 4);
-    }
+    if (report.quality) text += qualityText(*report.quality);
     text += QString("changed from the factory rotation by %1 degrees\n")
                 .arg(rotationDifferenceDeg(report.rotation, report.factoryRotation), 0, 'f', 4);
     text += distancesText(report.parallax);

@@ -2,6 +2,7 @@
 
 #include "engine/CrossModalMatcher.h"
 #include "engine/ParallaxReport.h"
+#include "engine/SolutionQuality.h"
 
 #include <QString>
 
@@ -29,8 +30,8 @@ struct CalibrationReport {
     std::array<double, 3> anglesDeg{};  ///< of `rotation`, about X, Y and Z
     Matrix3 rotation{};                 ///< depth to colour; the factory rotation when not solved
     Matrix3 factoryRotation{};
-    std::optional<double> errorDeg;                       ///< only when solved and when the recording holds the truth
-    std::optional<std::array<double, 3>> uncertaintyDeg;  ///< one standard deviation of each angle
+    std::optional<double> errorDeg;              ///< only when solved and when the recording holds the truth
+    std::optional<vq::SolutionQuality> quality;  ///< of the last fit
     /// How many pixels the colour of a surface is off, by its distance in metres; only with `errorDeg`, and when the
     /// recording has depth.
     std::map<int, double> registrationPx;

@@ -93,6 +93,7 @@ bool RecordingCalibration::play(Sensor& sensor, CalibrationAttempt& attempt, boo
         }
         if (report_.pairs.size() > pairsBefore) report_.frameSeconds -= report_.pairs.back().seconds;
     }
+    if (!*solved) *solved = attempt.finish() == CalibrationAttempt::Outcome::Solved;
     return true;
 }
 
@@ -105,7 +106,7 @@ void RecordingCalibration::finish(bool solved) {
         std::array<float, 9> rotation{};
         engine_.getRotationMatrix(rotation.data());
         report_.rotation = widened(rotation);
-        report_.uncertaintyDeg = engine_.calibrator().deviationDeg();
+        report_.quality = engine_.calibrator().quality();
         const auto& truth = platformCamera_ ? session_.truthPlatform : session_.truthThird;
         if (truth) {
             report_.errorDeg = rotationDifferenceDeg(report_.rotation, *truth);

@@ -78,7 +78,14 @@ CalibrationAttempt::Outcome CalibrationAttempt::addPair(const CaptureFrames& fra
     return outcome;
 }
 
-/// A solution counts even when the last permitted pair brought it.
+CalibrationAttempt::Outcome CalibrationAttempt::finish() {
+    if (!running_ || !calibrator_.hasSolution()) return Outcome::Continues;
+    running_ = false;
+    rememberBaseline();
+    return Outcome::Solved;
+}
+
+/// A solution counts even when the last permitted pair brought it, or when no more pairs are permitted to improve it.
 CalibrationAttempt::Outcome CalibrationAttempt::judge(const vq::CalibratorResult& result) const {
     if (result.code == vq::GoodSolution) {
         qInfo("Found a good solution!");
@@ -87,6 +94,7 @@ CalibrationAttempt::Outcome CalibrationAttempt::judge(const vq::CalibratorResult
     if (result.code == vq::NeedMoreImages) qInfo("Could not get a sample set from this image..");
     if (result.code == vq::AddingFramesForConvergence) qInfo("Continue processing");
     const bool failed = result.code == vq::SceneTooSimple || photoCount_ >= pairLimit_;
+    if (failed && calibrator_.hasSolution()) return Outcome::Solved;
     return failed ? Outcome::Failed : Outcome::Continues;
 }
 

@@ -42,6 +42,8 @@ public:
     /// Takes one frame set, which must be fresh: it may have been grabbed only once and must not be empty (empty ones
     /// are ignored). After another outcome than `Continues` nothing happens until an attempt is started.
     Outcome processFrame(const CaptureFrames& frames);
+    /// No more frames will come: a solution that could have become more accurate counts as it is.
+    Outcome finish();
     /// Takes no more frames until an attempt is started.
     void cancel() { running_ = false; }
     /// Ends a failed attempt: resets the engine and tells the user what to try.

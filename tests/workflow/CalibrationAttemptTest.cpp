@@ -25,6 +25,7 @@ public:
     std::deque<std::int32_t> movementCodes;  ///< empty: every frame is a pair
     std::deque<std::int32_t> pairCodes;      ///< empty: code 2
     vq::ParallaxReport report;
+    bool solution = false;
     std::string calls;  ///< a remembered baseline in tenths of a millimetre
 
     std::int32_t setup() override { return note("setup ", 0); }
@@ -47,6 +48,8 @@ public:
     void inputDistanceFrames(const ImageFrame16&, const ImageFrame16&) override {}
     void setRememberedBaseline(double metres) override { note(std::to_string(std::lround(metres * 1e4)) + ' ', 0); }
     vq::ParallaxReport parallax() const override { return report; }
+    bool hasSolution() const override { return solution; }
+    std::optional<vq::SolutionQuality> quality() const override { return std::nullopt; }
 
 private:
     std::int32_t note(const std::string& call, std::int32_t result) {
