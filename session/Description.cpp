@@ -1,15 +1,16 @@
-#include "session/Description.h"
-
 #include "session/InputFile.h"
-#include "session/JsonOutline.h"
 #include "session/JsonReader.h"
-#include "session/Refusal.h"
+#include "session/RecordedSession.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <QDir>
+#include <QSaveFile>
+
+#include <nlohmann/json.hpp>
 
 namespace fieldcal::session {
 namespace {
+
+using nlohmann::json;
 
 constexpr double kLargestSize = 8192;
 constexpr double kSmallestFocalLength = 1;
@@ -145,6 +146,76 @@ SessionDescription sessionDescription(const JsonKey& root) {
     return out;
 }
 
+/// Parses and checks the bytes of a session.json; `file` is its name for `why`.
+bool parseDescription(const std::string& text, const std::string& file, SessionDescription* out, std::string* why) {
+    json document;
+    JsonFault fault;
+    if (!parseJson(text, &document, &fault)) return refuse(why, file, fault.key, fault.reason);
+    *out = sessionDescription(JsonKey(document, &fault));
+    return !fault.found() || refuse(why, file, fault.key, fault.reason);
+}
+
+json writtenIntrinsics(const Intrinsics& camera) {
+    return {{"width", camera.width}, {"height", camera.height}, {"fx", camera.fx},
+            {"fy", camera.fy},       {"cx", camera.cx},         {"cy", camera.cy}};
+}
+
+json writtenRawIntrinsics(const RawIntrinsics& camera) {
+    json out = writtenIntrinsics(camera);
+    out.update({{"k1", camera.k1}, {"k2", camera.k2}, {"p1", camera.p1}, {"p2", camera.p2}, {"k3", camera.k3}});
+    return out;
+}
+
+json writtenModule(const ModuleInfo& module) {
+    return {{"serial", module.serial},
+            {"firmware", module.firmware},
+            {"software", module.software},
+            {"calibrationValid", module.calibrationValid}};
+}
+
+json writtenThirdCamera(const ThirdCamera& camera) {
+    json out = writtenIntrinsics(camera);
+    out.update({{"rotation", camera.rotation}, {"translation", camera.translation}});
+    return out;
+}
+
+json writtenPlatformCamera(const PlatformCamera& camera) {
+    return {{"name", camera.name},
+            {"raw", writtenRawIntrinsics(camera.raw)},
+            {"rectified", writtenIntrinsics(camera.rectified)},
+            {"rectification", camera.rectification},
+            {"rotation", camera.rotation},
+            {"translation", camera.translation}};
+}
+
+json writtenFrame(const FrameEntry& frame) {
+    json out{{"infrared", frame.infrared}, {"third", frame.third}, {"repeat", frame.repeat}};
+    if (!frame.depth.empty()) out["depth"] = frame.depth;
+    if (!frame.platform.empty()) out["platform"] = frame.platform;
+    if (!frame.right.empty()) out["right"] = frame.right;
+    return out;
+}
+
+std::string writtenDescription(const SessionDescription& session) {
+    json out{{"version", 1},
+             {"module", writtenModule(session.module)},
+             {"infrared", writtenIntrinsics(session.infrared)},
+             {"depth", writtenIntrinsics(session.depth)},
+             {"third", writtenThirdCamera(session.third)},
+             {"frames", json::array()}};
+    for (const FrameEntry& frame : session.frames)
+        out["frames"].push_back(writtenFrame(frame));
+    if (session.platform) out["platform"] = writtenPlatformCamera(*session.platform);
+    if (session.truthThird) out["truth"]["third"] = *session.truthThird;
+    if (session.truthPlatform) out["truth"]["platform"] = *session.truthPlatform;
+    // Bytes that are no UTF-8 are replaced, where the library would throw otherwise.
+    return out.dump(4, ' ', false, json::error_handler_t::replace) + '\n';
+}
+
+std::string descriptionFile(const std::string& folder) {
+    return folder + "/session.json";
+}
+
 }  // namespace
 
 int SessionDescription::grabCount() const {
@@ -154,30 +225,23 @@ int SessionDescription::grabCount() const {
     return count;
 }
 
-std::string descriptionFile(const std::string& folder) {
-    return folder + "/session.json";
-}
-
-bool parseDescription(const QByteArray& bytes, const std::string& file, SessionDescription* out, std::string* why) {
-    // Before the parser, which loses memory over such a text.
-    if (const auto key = repeatedJsonKey(bytes)) return refuse(why, file, *key, "the key stands twice");
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
-    if (error.error != QJsonParseError::NoError) {
-        return refuse(why, file, jsonKeyAt(bytes, error.offset),
-                      "not JSON: " + error.errorString().toStdString() + " at byte " + std::to_string(error.offset));
-    }
-    if (!document.isObject()) return refuse(why, file, {}, "an object expected");
-    JsonFault fault;
-    *out = sessionDescription(JsonKey(document.object(), &fault));
-    return !fault.found() || refuse(why, file, fault.key, fault.reason);
-}
-
 bool readDescription(const std::string& folder, SessionDescription* out, std::string* why) {
     const std::string name = descriptionFile(folder);
     QFile file;
     if (!openInput(name, {}, kLargestFile, &file, why)) return false;
-    return parseDescription(file.readAll(), name, out, why);
+    return parseDescription(file.readAll().toStdString(), name, out, why);
+}
+
+bool writeDescription(const std::string& folder, const SessionDescription& session, std::string* why) {
+    const std::string name = descriptionFile(folder);
+    const std::string text = writtenDescription(session);
+    SessionDescription readBack;
+    if (!parseDescription(text, name, &readBack, why)) return false;
+    if (!QDir().mkpath(QString::fromStdString(folder))) return refuse(why, folder, {}, "the folder cannot be created");
+    QSaveFile file(QString::fromStdString(name));
+    const auto size = static_cast<qint64>(text.size());
+    if (file.open(QIODevice::WriteOnly) && file.write(text.data(), size) == size && file.commit()) return true;
+    return refuse(why, name, {}, file.errorString().toStdString());
 }
 
 }  // namespace fieldcal::session

@@ -6,8 +6,12 @@
 
 namespace fieldcal::session {
 
-/// Opens `file` for reading. False and `why` ("name: key: reason", see `refuse`) when that fails, when it is larger
-/// than `largestBytes`, or when it is no regular file: a pipe might never answer and a device never end.
+/// Puts "file: key: reason" into `why` (which may be null), or "file: reason" for an empty key, and returns false.
+/// Always one line: control characters, as a hostile file name may hold, become '?'.
+bool refuse(std::string* why, const std::string& file, const std::string& key, const std::string& reason);
+
+/// Opens `file` for reading. False and `why` when that fails, when it is larger than `largestBytes`, or when it is no
+/// regular file: a pipe might never answer and a device never end.
 bool openInput(const std::string& name, const std::string& key, qint64 largestBytes, QFile* file, std::string* why);
 
 }  // namespace fieldcal::session

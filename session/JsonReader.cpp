@@ -1,15 +1,113 @@
 #include "session/JsonReader.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
-
 #include <cmath>
 #include <cstdio>
+#include <nlohmann/json.hpp>
 
 namespace fieldcal::session {
 namespace {
 
+using nlohmann::json;
+
 constexpr double kRotationTolerance = 1e-4;
+/// A recording needs five levels; a hostile text may have millions.
+constexpr std::size_t kDeepest = 1024;
+constexpr int kNumberOverflow = 406;  ///< as the library numbers its errors
+
+/// What the library says about a syntax error, without its own prefix and without the text that it read last, which
+/// may be long.
+std::string syntaxReason(const json::exception& error) {
+    if (error.id == kNumberOverflow) return "illegal number";
+    std::string reason = error.what();
+    reason.erase(0, reason.find(" - ") + 3);
+    const std::size_t lastRead = reason.find("; last read: '");
+    return reason.substr(0, lastRead);
+}
+
+/// Builds the document from the parser's calls. It knows the key of the value that is being read.
+class DocumentBuilder final : public json::json_sax_t {
+public:
+    DocumentBuilder(json* root, JsonFault* fault) : root_(root), fault_(fault) {}
+
+    bool null() override { return put(nullptr) != nullptr; }
+    bool boolean(bool value) override { return put(value) != nullptr; }
+    bool number_integer(std::int64_t value) override { return put(value) != nullptr; }
+    bool number_unsigned(std::uint64_t value) override { return put(value) != nullptr; }
+    bool number_float(double value, const std::string&) override { return put(value) != nullptr; }
+    bool string(std::string& value) override { return put(std::move(value)) != nullptr; }
+    bool binary(json::binary_t&) override { return refuse("not JSON: binary data"); }
+    bool start_object(std::size_t) override { return open(json::object()); }
+    bool start_array(std::size_t) override { return open(json::array()); }
+    bool end_object() override { return close(); }
+    bool end_array() override { return close(); }
+
+    bool key(std::string& name) override {
+        Level& level = open_.back();
+        level.key = std::move(name);
+        return !level.value->contains(level.key) || refuse("the key stands twice");
+    }
+
+    bool parse_error(std::size_t position, const std::string&, const json::exception& error) override {
+        return refuse("not JSON: " + syntaxReason(error) + " at byte " + std::to_string(position));
+    }
+
+private:
+    /// An object or a list that is not closed yet.
+    struct Level {
+        json* value;
+        std::string key;  ///< of the member that is being read
+    };
+
+    /// Puts a value where the next one belongs; gives its place.
+    json* put(json value) {
+        if (open_.empty()) {
+            *root_ = std::move(value);
+            return root_;
+        }
+        json& parent = *open_.back().value;
+        if (parent.is_array()) {
+            parent.push_back(std::move(value));
+            return &parent.back();
+        }
+        json& member = parent[open_.back().key];
+        member = std::move(value);
+        return &member;
+    }
+
+    bool open(json value) {
+        if (open_.size() == kDeepest) return refuse("not JSON: nested deeper than " + std::to_string(kDeepest));
+        open_.push_back({put(std::move(value)), {}});
+        return true;
+    }
+
+    bool close() {
+        open_.pop_back();
+        return true;
+    }
+
+    /// An element that is open is in its list already, any other one is not.
+    std::string path() const {
+        std::string out;
+        for (const Level& level : open_) {
+            if (level.value->is_array()) {
+                const std::size_t open = &level == &open_.back() ? 0 : 1;
+                out += '[' + std::to_string(level.value->size() - open) + ']';
+            } else if (!level.key.empty()) {
+                out += (out.empty() ? "" : ".") + level.key;
+            }
+        }
+        return out;
+    }
+
+    bool refuse(const std::string& reason) {
+        *fault_ = {path(), reason};
+        return false;
+    }
+
+    json* root_;
+    JsonFault* fault_;
+    std::vector<Level> open_;
+};
 
 std::string shown(double value) {
     char text[32];
@@ -31,44 +129,53 @@ bool isRotation(const std::array<double, 9>& m) {
 
 }  // namespace
 
+bool parseJson(const std::string& text, json* out, JsonFault* fault) {
+    // The library takes a zero byte for the end of the text.
+    const std::size_t zero = text.find('\0');
+    if (zero != std::string::npos) {
+        *fault = {{}, "not JSON: a zero character at byte " + std::to_string(zero + 1)};
+        return false;
+    }
+    DocumentBuilder builder(out, fault);
+    return json::sax_parse(text, &builder);
+}
+
 void JsonKey::refuse(const std::string& reason) const {
     if (!fault_->found()) *fault_ = {path_, reason};
 }
 
-bool JsonKey::is(QJsonValue::Type type, const char* expected) const {
-    if (value_.isUndefined()) {
+bool JsonKey::expect(bool (json::*isOfType)() const noexcept, const char* expected) const {
+    if (value_ == nullptr) {
         refuse("missing");
-    } else if (value_.type() != type) {
-        refuse(std::string(expected) + " expected");
+        return false;
     }
-    return value_.type() == type;
+    const bool fits = (value_->*isOfType)();
+    if (!fits) refuse(std::string(expected) + " expected");
+    return fits;
 }
 
 JsonKey JsonKey::operator[](const char* name) const {
-    if (!is(QJsonValue::Object, "an object")) return {QJsonValue(), fault_, path_};
-    const std::string path = path_.empty() ? name : path_ + "." + name;
-    return {value_.toObject().value(QLatin1String(name)), fault_, path};
+    if (!has(name)) return {nullptr, fault_, path_.empty() ? name : path_ + "." + name};
+    return {&*value_->find(name), fault_, path_.empty() ? name : path_ + "." + name};
 }
 
 bool JsonKey::has(const char* name) const {
-    return is(QJsonValue::Object, "an object") && value_.toObject().contains(QLatin1String(name));
+    return expect(&json::is_object, "an object") && value_->contains(name);
 }
 
 std::vector<JsonKey> JsonKey::elements() const {
     std::vector<JsonKey> out;
-    if (!is(QJsonValue::Array, "a list")) return out;
-    const QJsonArray array = value_.toArray();
-    out.reserve(static_cast<std::size_t>(array.size()));
-    for (int i = 0; i < array.size(); ++i) {
-        out.push_back({array.at(i), fault_, path_ + "[" + std::to_string(i) + "]"});
-    }
+    if (!expect(&json::is_array, "a list")) return out;
+    out.reserve(value_->size());
+    for (const json& element : *value_)
+        out.push_back({&element, fault_, path_ + "[" + std::to_string(out.size()) + "]"});
     return out;
 }
 
 double JsonKey::number(double lowest, double highest) const {
-    if (!is(QJsonValue::Double, "a number")) return lowest;
-    const double value = value_.toDouble();
-    if (std::isfinite(value) && value >= lowest && value <= highest) return value;
+    if (!expect(&json::is_number, "a number")) return lowest;
+    const auto value = value_->get<double>();
+    if (value >= lowest && value <= highest) return value;
     refuse(shown(value) + " is not within " + shown(lowest) + " to " + shown(highest));
     return lowest;
 }
@@ -81,11 +188,11 @@ double JsonKey::integer(double lowest, double highest) const {
 }
 
 bool JsonKey::boolean() const {
-    return is(QJsonValue::Bool, "true or false") && value_.toBool();
+    return expect(&json::is_boolean, "true or false") && value_->get<bool>();
 }
 
 std::string JsonKey::text() const {
-    return is(QJsonValue::String, "a text") ? value_.toString().toStdString() : std::string();
+    return expect(&json::is_string, "a text") ? value_->get<std::string>() : std::string();
 }
 
 std::array<double, 9> JsonKey::rotation() const {

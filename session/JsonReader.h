@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QJsonValue>
-
 #include <array>
 #include <cstddef>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <vector>
 
@@ -16,12 +15,16 @@ struct JsonFault {
     bool found() const { return !reason.empty(); }
 };
 
+/// Reads a JSON text. False and the fault when it is no JSON, when a key stands twice in its object (which of its
+/// values counts would be anybody's guess), or when it is nested too deeply. The fault's key is a path as in `JsonKey`.
+bool parseJson(const std::string& text, nlohmann::json* out, JsonFault* fault);
+
 /// One value of a JSON document with its key path ("frames[3].infrared"). Every accessor checks type and range; the
 /// first failure is kept in the fault and the accessor returns a harmless value, so that a reader is a plain list of
-/// assignments with one look at the fault at its end.
+/// assignments with one look at the fault at its end. The document must outlive its keys.
 class JsonKey {
 public:
-    JsonKey(const QJsonValue& value, JsonFault* fault) : value_(value), fault_(fault) {}
+    JsonKey(const nlohmann::json& document, JsonFault* fault) : value_(&document), fault_(fault) {}
 
     /// A required key of an object.
     JsonKey operator[](const char* name) const;
@@ -51,11 +54,12 @@ public:
     void refuse(const std::string& reason) const;
 
 private:
-    JsonKey(const QJsonValue& value, JsonFault* fault, std::string path)
+    JsonKey(const nlohmann::json* value, JsonFault* fault, std::string path)
         : value_(value), fault_(fault), path_(std::move(path)) {}
-    bool is(QJsonValue::Type type, const char* expected) const;
+    /// Whether the value is there and of the expected type; a fault otherwise.
+    bool expect(bool (nlohmann::json::*isOfType)() const noexcept, const char* expected) const;
 
-    QJsonValue value_;
+    const nlohmann::json* value_;  ///< null when the key is missing
     JsonFault* fault_;
     std::string path_;
 };

@@ -2,7 +2,6 @@
 
 #include "session/InputFile.h"
 #include "session/PngStructure.h"
-#include "session/Refusal.h"
 
 #include <QBuffer>
 #include <QImage>
