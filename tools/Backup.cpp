@@ -2,7 +2,6 @@
 #include "tools/CommandLine.h"
 #include "tools/ConnectedModule.h"
 #include "tools/Console.h"
-#include "tools/Verbs.h"
 
 namespace fieldcal {
 namespace {
@@ -14,26 +13,22 @@ bool keep(const ParameterBackup& backup, QString* file, QString* why) {
 
 }  // namespace
 
-int runBackup(const QStringList& arguments) {
+int run(const BackupOptions& options) {
     QString why;
-    const auto options = parseBackup(arguments, &why);
-    if (!options) return refuseUsage(why);
     silenceLogs();
     ConnectedModule module;
     ParameterBackup backup;
-    QString file = options->file;
+    QString file = QString::fromStdString(options.file);
     if (!module.open(false, &why) || !module.readBlock(&backup, &why) || !keep(backup, &file, &why)) return fail(why);
     printLine(QString("The parameter block of module %1 is kept in ").arg(backup.serial) + file);
     return module.close(&why) ? kSolved : fail(why);
 }
 
-int runRestore(const QStringList& arguments) {
+int run(const RestoreOptions& options) {
     QString why;
-    const auto options = parseRestore(arguments, &why);
-    if (!options) return refuseUsage(why);
     silenceLogs();
     ParameterBackup backup;
-    if (!readBackup(options->file, &backup, &why)) return fail(why);
+    if (!readBackup(QString::fromStdString(options.file), &backup, &why)) return fail(why);
     ConnectedModule module;
     if (!module.open(false, &why) || !module.restoreBlock(backup, &why)) return fail(why);
     printLine(QString("The parameter block of %1 is in module %2 again.")

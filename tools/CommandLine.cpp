@@ -1,176 +1,214 @@
 #include "tools/CommandLine.h"
 
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <limits>
+
 namespace fieldcal {
 namespace {
 
-/// Walks over the arguments: options by name, at most one folder.
-class Arguments {
-public:
-    Arguments(const QStringList& all, QString* why) : all_(all), why_(why) {}
+constexpr const char* kProgram = "fieldcal-session";
+constexpr unsigned kLargestSeed = std::numeric_limits<unsigned>::max();
+constexpr unsigned kMostStills = 999;
+constexpr unsigned kMostFrames = 1000000;
 
-    bool next() {
-        if (failed_ || ++position_ >= all_.size()) return false;
-        current_ = all_[position_];
-        return true;
-    }
-    bool is(const char* option) const { return current_ == QLatin1String(option); }
-
-    QString value() {
-        if (position_ + 1 < all_.size()) return all_[++position_];
-        fail(current_ + " needs a value");
-        return {};
-    }
-    unsigned number(unsigned smallest, unsigned largest) {
-        const QString option = current_;
-        const QString text = value();
+/// Validators answer with what is wrong, in words that go on after the option's name.
+CLI::Validator wholeNumber(unsigned smallest, unsigned largest) {
+    const auto validate = [smallest, largest](std::string& text) {
         bool isNumber = false;
-        const unsigned number = text.toUInt(&isNumber);
-        if (!failed_ && !(isNumber && number >= smallest && number <= largest)) {
-            fail(QString("%1 takes a whole number from %2 to %3, not '%4'")
-                     .arg(option)
-                     .arg(smallest)
-                     .arg(largest)
-                     .arg(text));
+        const unsigned number = QString::fromStdString(text).toUInt(&isNumber);
+        if (!isNumber || number < smallest || number > largest) {
+            return "takes a whole number from " + std::to_string(smallest) + " to " + std::to_string(largest) +
+                   ", not '" + text + "'";
         }
-        return number;
+        text = std::to_string(number);  // The library would take leading zeros for octal.
+        return std::string();
+    };
+    return {validate, ""};
+}
+
+std::string isCamera(const std::string& name) {
+    return name == "third" || name == "platform" ? "" : "takes third or platform";
+}
+
+std::string isGiven(const std::string& name) {
+    return name.empty() ? "is missing" : "";
+}
+
+/// The program's arguments: verbs as the library's subcommands.
+class Parser {
+public:
+    Parser() {
+        app_.get_formatter()->label("Usage", "usage");
+        app_.get_formatter()->label("SUBCOMMAND", "VERB");
+        app_.allow_windows_style_options(false);  // "/tmp/walk" is a folder on every system.
+        app_.set_version_flag("--version", std::string(kProgram) + " " FIELDCAL_VERSION, "Print the version and exit");
+        app_.require_subcommand(1);
+        app_.footer(
+            "Exit status: 0 solved or done, 1 unreadable recording or device failure, 2 wrong usage,\n"
+            "3 played to the end without a good solution.");
+        addCalibrate();
+        addSynthesize();
+        addRecord();
+        addInfo();
+        addBackup();
+        addRestore();
     }
-    void takeFolder(QString* folder) { takeOnly("folder", folder); }
-    void takeFile(QString* file) { takeOnly("file", file); }
-    void fail(const QString& reason) {
-        if (!failed_) *why_ = reason;
-        failed_ = true;
+
+    /// False, and the status, when there is nothing to run.
+    bool parse(const QStringList& arguments, Command* out, int* status) {
+        std::vector<std::string> reversed;  // as the library takes them
+        for (const QString& argument : arguments)
+            reversed.insert(reversed.begin(), argument.toStdString());
+        try {
+            app_.parse(std::move(reversed));
+            *out = command_;
+            return true;
+        } catch (const CLI::CallForVersion& version) {
+            std::printf("%s\n", version.what());
+            *status = kSolved;
+        } catch (const CLI::Success&) {
+            std::printf("%s", help().c_str());
+            *status = kSolved;
+        } catch (const CLI::ParseError& error) {
+            *status = refuse(reasonOf(error));
+        }
+        return false;
     }
-    void require(bool given, const char* what) {
-        if (!given) fail(QString("%1 is missing").arg(what));
+
+    int refuse(const std::string& why) const {
+        std::fprintf(stderr, "%s: %s\n%s", kProgram, qPrintable(QString::fromStdString(why)), help().c_str());
+        return kUsage;
     }
-    bool failed() const { return failed_; }
 
 private:
-    void takeOnly(const char* what, QString* out) {
-        if (current_.startsWith('-') && current_.size() > 1) {
-            fail(QString("unknown option %1").arg(current_));
-        } else if (!out->isEmpty()) {
-            fail(QString("one %1 too many: %2").arg(what, current_));
-        } else {
-            *out = current_;
-        }
+    template <typename Options>
+    CLI::App* addVerb(const char* name, const char* description, const Options& options) {
+        CLI::App* verb = app_.add_subcommand(name, description)->group("Verbs");
+        verb->callback([this, &options] { command_ = options; });
+        return verb;
     }
 
-    QStringList all_;
-    QString* why_;
-    QString current_;
-    int position_ = -1;
-    bool failed_ = false;
-};
+    /// An option counts as it was given last.
+    static CLI::Option* lastCounts(CLI::Option* option) {
+        return option->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    }
 
-constexpr unsigned kLargestSeed = 0xFFFFFFFFU;
-constexpr unsigned kLargestFrameCount = 1000000;
+    void addCalibrate() {
+        CLI::App* verb = addVerb("calibrate", "Play a recording and calibrate one of its colour cameras", calibrate_);
+        verb->add_option("DIR", calibrate_.folder, "The recording")->required()->check(isGiven)->type_name("");
+        const auto takeCamera = [this](const std::string& name) { calibrate_.platformCamera = name == "platform"; };
+        lastCounts(verb->add_option_function<std::string>("--camera", takeCamera, "The camera, third by default"))
+            ->check(isCamera)
+            ->type_name("third|platform");
+        lastCounts(verb->add_option("--seed", calibrate_.seed, "Repeats the same random samples"))
+            ->transform(wholeNumber(0, kLargestSeed))
+            ->type_name("N");
+        lastCounts(verb->add_option("--json", calibrate_.jsonFile, "Write the result as JSON; -: in place of the text"))
+            ->type_name("FILE|-");
+        lastCounts(verb->add_flag("--write", calibrate_.write, "Write a solution into the module's flash"));
+        lastCounts(verb->add_option("--state", calibrate_.stateFile, "Keep the engine's cameras and rotation"))
+            ->type_name("FILE");
+        lastCounts(verb->add_flag("--verbose", calibrate_.verbose, "Show the log"));
+    }
+
+    void addSynthesize() {
+        CLI::App* verb = addVerb("synthesize", "Render a recording whose truth is known", synthesize_);
+        verb->add_option("DIR", synthesize_.folder, "The recording to make")->required()->check(isGiven)->type_name("");
+        lastCounts(verb->add_option("--world", synthesize_.world, "What is rendered"))
+            ->type_name("NAME")
+            ->capture_default_str();
+        lastCounts(verb->add_option("--seed", synthesize_.seed, "Scene, module and drift"))
+            ->transform(wholeNumber(0, kLargestSeed))
+            ->type_name("N")
+            ->capture_default_str();
+        lastCounts(verb->add_option("--stills", synthesize_.stills, "Number of still views"))
+            ->transform(wholeNumber(1, kMostStills))
+            ->type_name("N")
+            ->capture_default_str();
+        lastCounts(verb->add_flag("--platform", synthesize_.platform, "With the tablet's rear camera"));
+        const auto dropBaselines = [this](std::int64_t) { synthesize_.baselines = false; };
+        verb->add_flag_function("--no-baselines", dropBaselines, "All cameras in one place");
+    }
+
+    void addRecord() {
+        CLI::App* verb = addVerb("record", "Record frame sets of the connected module", record_);
+        verb->add_option("DIR", record_.folder, "The recording to make")->required()->check(isGiven)->type_name("");
+        lastCounts(verb->add_option("--frames", record_.frames, "Number of frame sets"))
+            ->required()
+            ->transform(wholeNumber(1, kMostFrames))
+            ->type_name("N");
+    }
+
+    void addInfo() {
+        CLI::App* verb = addVerb("info", "Describe a recording, or the connected module", info_);
+        verb->add_option("DIR", info_.folder, "The recording; the connected module without it")->type_name("");
+    }
+
+    void addBackup() {
+        CLI::App* verb = addVerb("backup", "Keep the connected module's parameter block in a file", backup_);
+        verb->add_option("FILE", backup_.file, "The file; a dated one in the user's data folder without it")
+            ->type_name("");
+    }
+
+    void addRestore() {
+        CLI::App* verb = addVerb("restore", "Write such a file back into the module that it came from", restore_);
+        verb->add_option("FILE", restore_.file, "The file")->required()->check(isGiven)->type_name("");
+    }
+
+    /// Of the verb that was named, or of the program.
+    std::string help() const { return app_.help(); }
+
+    std::string reasonOf(const CLI::ParseError& error) const {
+        const std::vector<CLI::App*> verbs = app_.get_subcommands();
+        const std::vector<std::string> extras = verbs.empty() ? app_.remaining() : verbs.front()->remaining();
+        if (verbs.empty()) return extras.empty() ? "a verb is missing" : "unknown verb '" + extras.front() + "'";
+        const std::string noun = verbs.front()->get_option_no_throw("DIR") != nullptr ? "folder" : "file";
+        if (!extras.empty()) {
+            const std::string& extra = extras.front();
+            const bool isOption = extra.size() > 1 && extra.front() == '-';
+            return (isOption ? "unknown option " : "one " + noun + " too many: ") + extra;
+        }
+        // The library's texts begin with the name of the option.
+        std::string text = error.what();
+        const std::size_t end = std::min(text.find_first_of(": "), text.size());
+        const std::string option = text.substr(0, end);
+        const std::string name = option == "DIR" || option == "FILE" ? "a " + noun : option;
+        if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return name + " is missing";
+        if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return name + " needs a value";
+        if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr) return name + text.substr(end + 1);
+        return text;
+    }
+
+    CLI::App app_{"Field Calibrator: recordings and the connected module", kProgram};
+    CalibrateOptions calibrate_;
+    SynthesizeOptions synthesize_;
+    RecordOptions record_;
+    InfoOptions info_;
+    BackupOptions backup_;
+    RestoreOptions restore_;
+    Command command_;
+};
 
 }  // namespace
 
-std::optional<CalibrateOptions> parseCalibrate(const QStringList& all, QString* why) {
-    CalibrateOptions options;
-    Arguments arguments(all, why);
-    while (arguments.next()) {
-        if (arguments.is("--camera")) {
-            const QString camera = arguments.value();
-            options.platformCamera = camera == "platform";
-            if (camera != "platform" && camera != "third") arguments.fail("--camera takes third or platform");
-        } else if (arguments.is("--seed")) {
-            options.seed = arguments.number(0, kLargestSeed);
-        } else if (arguments.is("--json")) {
-            options.jsonFile = arguments.value();
-        } else if (arguments.is("--verbose")) {
-            options.verbose = true;
-        } else if (arguments.is("--write")) {
-            options.write = true;
-        } else if (arguments.is("--state")) {
-            options.stateFile = arguments.value();
-        } else {
-            arguments.takeFolder(&options.folder);
-        }
+std::optional<Command> parseCommandLine(const QStringList& arguments, int* status) {
+    try {
+        Command command;
+        if (Parser().parse(arguments, &command, status)) return command;
+    } catch (const CLI::Error& error) {  // An option was declared wrongly.
+        std::fprintf(stderr, "%s: %s\n", kProgram, error.what());
+        *status = kUsage;
     }
-    arguments.require(!options.folder.isEmpty(), "a folder");
-    if (arguments.failed()) return std::nullopt;
-    return options;
+    return std::nullopt;
 }
 
-std::optional<RecordOptions> parseRecord(const QStringList& all, QString* why) {
-    RecordOptions options;
-    Arguments arguments(all, why);
-    while (arguments.next()) {
-        if (arguments.is("--frames")) {
-            options.frames = static_cast<int>(arguments.number(1, kLargestFrameCount));
-        } else {
-            arguments.takeFolder(&options.folder);
-        }
-    }
-    arguments.require(!options.folder.isEmpty(), "a folder");
-    arguments.require(options.frames > 0, "--frames");
-    if (arguments.failed()) return std::nullopt;
-    return options;
+int runCommand(const Command& command) {
+    return std::visit([](const auto& options) { return run(options); }, command);
 }
 
-std::optional<InfoOptions> parseInfo(const QStringList& all, QString* why) {
-    InfoOptions options;
-    Arguments arguments(all, why);
-    while (arguments.next())
-        arguments.takeFolder(&options.folder);
-    if (arguments.failed()) return std::nullopt;
-    return options;
-}
-
-std::optional<BackupOptions> parseBackup(const QStringList& all, QString* why) {
-    BackupOptions options;
-    Arguments arguments(all, why);
-    while (arguments.next())
-        arguments.takeFile(&options.file);
-    if (arguments.failed()) return std::nullopt;
-    return options;
-}
-
-std::optional<RestoreOptions> parseRestore(const QStringList& all, QString* why) {
-    RestoreOptions options;
-    Arguments arguments(all, why);
-    while (arguments.next())
-        arguments.takeFile(&options.file);
-    arguments.require(!options.file.isEmpty(), "a file");
-    if (arguments.failed()) return std::nullopt;
-    return options;
-}
-
-std::optional<SynthesizeOptions> parseSynthesize(const QStringList& all, QString* why) {
-    SynthesizeOptions options;
-    Arguments arguments(all, why);
-    while (arguments.next()) {
-        if (arguments.is("--world")) {
-            options.world = arguments.value().toStdString();
-        } else if (arguments.is("--seed")) {
-            options.seed = arguments.number(0, kLargestSeed);
-        } else if (arguments.is("--stills")) {
-            options.stills = static_cast<int>(arguments.number(1, 999));
-        } else if (arguments.is("--platform")) {
-            options.platform = true;
-        } else if (arguments.is("--no-baselines")) {
-            options.baselines = false;
-        } else {
-            arguments.takeFolder(&options.folder);
-        }
-    }
-    arguments.require(!options.folder.isEmpty(), "a folder");
-    if (arguments.failed()) return std::nullopt;
-    return options;
-}
-
-QString usageText() {
-    return "usage: fieldcal-session calibrate DIR [--camera third|platform] [--seed N] [--json FILE|-] [--write]\n"
-           "                                  [--state FILE] [--verbose]\n"
-           "       fieldcal-session synthesize DIR [--world NAME] [--seed N] [--stills N] [--platform]\n"
-           "                                  [--no-baselines]\n"
-           "       fieldcal-session record DIR --frames N       from the connected module\n"
-           "       fieldcal-session info [DIR]                  of a recording, or of the connected module\n"
-           "       fieldcal-session backup [FILE]               keeps the connected module's parameter block\n"
-           "       fieldcal-session restore FILE                writes such a block back\n";
+int refuseUsage(const QString& why) {
+    return Parser().refuse(why.toStdString());
 }
 
 }  // namespace fieldcal

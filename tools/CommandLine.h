@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QString>
 #include <QStringList>
 
 #include <optional>
 #include <string>
+#include <variant>
 
 namespace fieldcal {
 
@@ -17,34 +17,17 @@ enum ExitStatus : int {
 };
 
 struct CalibrateOptions {
-    QString folder;
+    std::string folder;
     bool platformCamera = false;
     std::optional<unsigned> seed;
-    QString jsonFile;  ///< empty: none; "-": standard output, instead of the text for people
+    std::string jsonFile;  ///< empty: none; "-": standard output, instead of the text for people
     bool verbose = false;
-    bool write = false;  ///< into the module's flash, when solved
-    QString stateFile;   ///< where the engine's state goes; empty: nowhere
-};
-
-struct RecordOptions {
-    QString folder;
-    int frames = 0;  ///< frame sets to grab, 1 to 1,000,000
-};
-
-struct InfoOptions {
-    QString folder;  ///< empty: the module that is connected
-};
-
-struct BackupOptions {
-    QString file;  ///< empty: a dated one in the user's data folder
-};
-
-struct RestoreOptions {
-    QString file;
+    bool write = false;     ///< into the module's flash, when solved
+    std::string stateFile;  ///< where the engine's state goes; empty: nowhere
 };
 
 struct SynthesizeOptions {
-    QString folder;
+    std::string folder;
     std::string world = "square";
     unsigned seed = 1;
     int stills = 8;
@@ -52,14 +35,40 @@ struct SynthesizeOptions {
     bool baselines = true;  ///< between the cameras
 };
 
-/// Arguments after the verb. None, and `why`, when they are wrong.
-std::optional<CalibrateOptions> parseCalibrate(const QStringList& arguments, QString* why);
-std::optional<RecordOptions> parseRecord(const QStringList& arguments, QString* why);
-std::optional<InfoOptions> parseInfo(const QStringList& arguments, QString* why);
-std::optional<BackupOptions> parseBackup(const QStringList& arguments, QString* why);
-std::optional<RestoreOptions> parseRestore(const QStringList& arguments, QString* why);
-std::optional<SynthesizeOptions> parseSynthesize(const QStringList& arguments, QString* why);
+struct RecordOptions {
+    std::string folder;
+    int frames = 0;  ///< frame sets to grab, 1 to 1,000,000
+};
 
-QString usageText();
+struct InfoOptions {
+    std::string folder;  ///< empty: the module that is connected
+};
+
+struct BackupOptions {
+    std::string file;  ///< empty: a dated one in the user's data folder
+};
+
+struct RestoreOptions {
+    std::string file;
+};
+
+using Command =
+    std::variant<CalibrateOptions, SynthesizeOptions, RecordOptions, InfoOptions, BackupOptions, RestoreOptions>;
+
+/// What the arguments ask for. None when nothing is left but to end with `status`: help or the version was printed, or
+/// the usage was wrong and was refused.
+std::optional<Command> parseCommandLine(const QStringList& arguments, int* status);
+
+/// Prints the reason and how to use the program on standard error; gives the exit status for wrong usage.
+int refuseUsage(const QString& why);
+
+/// Runs the verb that was asked for; gives the exit status, as each of the verbs does.
+int runCommand(const Command& command);
+int run(const CalibrateOptions& options);
+int run(const SynthesizeOptions& options);
+int run(const RecordOptions& options);
+int run(const InfoOptions& options);
+int run(const BackupOptions& options);
+int run(const RestoreOptions& options);
 
 }  // namespace fieldcal

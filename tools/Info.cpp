@@ -4,7 +4,6 @@
 #include "tools/CommandLine.h"
 #include "tools/ConnectedModule.h"
 #include "tools/Console.h"
-#include "tools/Verbs.h"
 
 #include <algorithm>
 #include <cmath>
@@ -92,11 +91,8 @@ int describeConnectedModule() {
 
 }  // namespace
 
-int runInfo(const QStringList& arguments) {
-    QString why;
-    const auto options = parseInfo(arguments, &why);
-    if (!options) return refuseUsage(why);
-    return options->folder.isEmpty() ? describeConnectedModule() : describeRecording(options->folder.toStdString());
+int run(const InfoOptions& options) {
+    return options.folder.empty() ? describeConnectedModule() : describeRecording(options.folder);
 }
 
 }  // namespace fieldcal

@@ -1,9 +1,9 @@
+#include "tools/CommandLine.h"
 #include "tools/Console.h"
-#include "tools/Verbs.h"
 
 namespace fieldcal {
 
-int runSynthesize(const QStringList&) {
+int run(const SynthesizeOptions&) {
     return fail("this build renders no worlds");
 }
 

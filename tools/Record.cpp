@@ -2,7 +2,6 @@
 #include "tools/ConnectedModule.h"
 #include "tools/Console.h"
 #include "tools/RecordingWriter.h"
-#include "tools/Verbs.h"
 
 namespace fieldcal {
 namespace {
@@ -31,25 +30,22 @@ bool record(ConnectedModule& module, const RecordOptions& options, RecordingWrit
 
 }  // namespace
 
-int runRecord(const QStringList& arguments) {
-    QString why;
-    const auto options = parseRecord(arguments, &why);
-    if (!options) return refuseUsage(why);
+int run(const RecordOptions& options) {
     silenceLogs();
-
+    QString why;
     ConnectedModule module;
     session::SessionDescription description;
     if (!module.open(true, &why) || !module.describe(&description, &why)) return fail(why);
     if (!module.hasRearCamera()) description.platform.reset();
-    RecordingWriter recording(options->folder.toStdString(), description);
+    RecordingWriter recording(options.folder, description);
     std::string reason;
     if (!recording.start(&reason)) return fail(QString::fromStdString(reason));
-    if (!record(module, *options, &recording, &why)) return fail(why);
+    if (!record(module, options, &recording, &why)) return fail(why);
     printLine(QString("recorded %1 frame sets as %2 frames, %3, in %4")
-                  .arg(options->frames)
+                  .arg(options.frames)
                   .arg(recording.frameCount())
                   .arg(description.platform ? "with the rear camera" : "without a rear camera")
-                  .arg(options->folder));
+                  .arg(QString::fromStdString(options.folder)));
     return kSolved;
 }
 

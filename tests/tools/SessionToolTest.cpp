@@ -155,8 +155,23 @@ TEST_F(SessionToolTest, WrongUsageIsRefusedWithStatusTwo) {
         const Result result = run(arguments);
         EXPECT_EQ(result.status, 2) << arguments.join(' ').toStdString();
         EXPECT_TRUE(result.error.contains("usage:"));
+        EXPECT_TRUE(result.out.isEmpty());
     }
     EXPECT_FALSE(QDir("x").exists());
+    const Result refused = run({"calibrate", "x", "--seed", "-1"});
+    EXPECT_TRUE(
+        refused.error.startsWith("fieldcal-session: --seed takes a whole number from 0 to 4294967295, not '-1'"));
+    EXPECT_TRUE(run({"calibrate", "info"}).error.startsWith("info/session.json: ")) << "a folder named like a verb";
+}
+
+TEST_F(SessionToolTest, HelpIsThereForEveryVerb) {
+    for (const char* verb : {"calibrate", "synthesize", "record", "info", "backup", "restore"}) {
+        const Result help = run({verb, "--help"});
+        EXPECT_EQ(help.status, 0);
+        EXPECT_TRUE(help.error.isEmpty());
+        EXPECT_TRUE(help.out.contains(QByteArray("usage: fieldcal-session ") + verb)) << help.out.constData();
+    }
+    EXPECT_EQ(run({"--version"}).out, "fieldcal-session " FIELDCAL_VERSION "\n");
 }
 
 }  // namespace
