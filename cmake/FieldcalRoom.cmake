@@ -1,8 +1,8 @@
 # One room of the house: a target `fieldcal_<name>` with the alias `fieldcal::<name>`, our warnings and nothing else.
 #
-#   fieldcal_library(engine SOURCES a.cpp b.h LINKS fieldcal::camera opencv_core [KIND SHARED|INTERFACE])
+#   fieldcal_library(session SOURCES Description.cpp LINKS fieldcal::camera Qt5::Core [KIND SHARED|INTERFACE])
 #   fieldcal_executable(fieldcal-session SOURCES main.cpp LINKS fieldcal::workflow)
-#   fieldcal_test(engine_matching SOURCES MatchingTest.cpp LINKS fieldcal::engine)      (ctest name: engine_matching)
+#   fieldcal_test(session_refusal SOURCES RefusalTest.cpp LINKS fieldcal::session)      (ctest name: session_refusal)
 #   fieldcal_test(... SCREEN)                   runs on a display of its own, drawn in software
 include_guard()
 
