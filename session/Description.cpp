@@ -1,9 +1,6 @@
-#include "session/InputFile.h"
+#include "session/Files.h"
 #include "session/JsonReader.h"
 #include "session/RecordedSession.h"
-
-#include <QDir>
-#include <QSaveFile>
 
 #include <nlohmann/json.hpp>
 
@@ -236,12 +233,8 @@ bool writeDescription(const std::string& folder, const SessionDescription& sessi
     const std::string name = descriptionFile(folder);
     const std::string text = writtenDescription(session);
     SessionDescription readBack;
-    if (!parseDescription(text, name, &readBack, why)) return false;
-    if (!QDir().mkpath(QString::fromStdString(folder))) return refuse(why, folder, {}, "the folder cannot be created");
-    QSaveFile file(QString::fromStdString(name));
-    const auto size = static_cast<qint64>(text.size());
-    if (file.open(QIODevice::WriteOnly) && file.write(text.data(), size) == size && file.commit()) return true;
-    return refuse(why, name, {}, file.errorString().toStdString());
+    return parseDescription(text, name, &readBack, why) && makeFolder(folder, why) &&
+           writeOutput(name, text.data(), text.size(), why);
 }
 
 }  // namespace fieldcal::session

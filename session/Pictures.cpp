@@ -1,10 +1,7 @@
-#include "session/InputFile.h"
+#include "session/Files.h"
 #include "session/Nv12.h"
 #include "session/PngFile.h"
 #include "session/RecordedSession.h"
-
-#include <QDir>
-#include <QSaveFile>
 
 #include <limits>
 
@@ -102,19 +99,9 @@ bool checkFrame(const FrameFiles& files, std::string* why) {
     return files.platformIsRaw ? checkRaw(*files.platform, why) : checkPng(*files.platform, why);
 }
 
-bool writeRaw(const std::string& name, const std::vector<std::uint8_t>& bytes, std::string* why) {
-    QSaveFile file(QString::fromStdString(name));
-    const auto size = static_cast<qint64>(bytes.size());
-    if (file.open(QIODevice::WriteOnly) && file.write(reinterpret_cast<const char*>(bytes.data()), size) == size &&
-        file.commit()) {
-        return true;
-    }
-    return refuse(why, name, {}, file.errorString().toStdString());
-}
-
 bool writePlatform(const std::string& name, const std::vector<std::uint8_t>& nv12, std::string* why) {
     if (nv12.size() != kNv12Bytes) return refuse(why, name, {}, "the platform picture has the wrong size");
-    if (isRaw(name)) return writeRaw(name, nv12, why);
+    if (isRaw(name)) return writeOutput(name, nv12.data(), nv12.size(), why);
     ImageFrame32 colour;
     colour.resize(kPlatformWidth, kPlatformHeight);
     bgraFromNv12(nv12.data(), kPlatformWidth, kPlatformHeight, colour.bytes());
@@ -157,7 +144,7 @@ bool verify(const std::string& folder, std::string* why) {
 
 bool writePictures(const std::string& folder, const FrameEntry& entry, const FramePictures& pictures,
                    std::string* why) {
-    if (!QDir().mkpath(QString::fromStdString(folder))) return refuse(why, folder, {}, "the folder cannot be created");
+    if (!makeFolder(folder, why)) return false;
     const std::string prefix = folder + "/";
     if (!writeGreyPng(prefix + entry.infrared, pictures.infrared, why)) return false;
     if (!writeColourPng(prefix + entry.third, pictures.third, why)) return false;

@@ -1,19 +1,97 @@
 #include "session/PngFile.h"
 
-#include "session/InputFile.h"
-#include "session/PngStructure.h"
+#include "session/Files.h"
 
 #include <QBuffer>
 #include <QImage>
 #include <QImageReader>
 #include <QImageWriter>
 
+#include <array>
 #include <cstring>
 
 namespace fieldcal::session {
 namespace {
 
 constexpr qint64 kLargestFile = 256 << 20;
+constexpr int kGrey = 0, kRgb = 2, kRgba = 6;  ///< colour types
+constexpr std::uint8_t kSignature[8] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1a, '\n'};
+constexpr std::size_t kFrame = 12;  ///< length, type and checksum around a chunk's data
+constexpr std::size_t kHeaderData = 13;
+
+/// What the header of a PNG file says.
+struct Header {
+    std::uint32_t width = 0;
+    std::uint32_t height = 0;
+    int bitDepth = 0;
+    int colourType = 0;
+};
+
+std::uint32_t bigEndian(const std::uint8_t* p) {
+    return std::uint32_t{p[0]} << 24 | std::uint32_t{p[1]} << 16 | std::uint32_t{p[2]} << 8 | p[3];
+}
+
+std::array<std::uint32_t, 256> checksumTable() {
+    std::array<std::uint32_t, 256> table{};
+    for (std::uint32_t i = 0; i < 256; ++i) {
+        std::uint32_t value = i;
+        for (int bit = 0; bit < 8; ++bit)
+            value = (value >> 1) ^ ((value & 1) != 0 ? 0xEDB88320U : 0);
+        table[i] = value;
+    }
+    return table;
+}
+
+std::uint32_t checksum(const std::uint8_t* bytes, std::size_t size) {
+    static const std::array<std::uint32_t, 256> table = checksumTable();
+    std::uint32_t value = 0xFFFFFFFFU;
+    for (std::size_t i = 0; i < size; ++i)
+        value = table[(value ^ bytes[i]) & 0xFF] ^ (value >> 8);
+    return ~value;
+}
+
+/// One chunk inside the file.
+struct Chunk {
+    const std::uint8_t* data;
+    std::size_t length;
+    std::string type;
+};
+
+bool chunkAt(const std::uint8_t* bytes, std::size_t size, std::size_t position, Chunk* out, std::string* reason) {
+    if (size - position < kFrame || bigEndian(bytes + position) > size - position - kFrame) {
+        *reason = "truncated picture: the file ends after " + std::to_string(size) + " bytes";
+        return false;
+    }
+    const std::uint8_t* start = bytes + position;
+    *out = {start + 8, bigEndian(start), std::string(reinterpret_cast<const char*>(start + 4), 4)};
+    if (checksum(start + 4, out->length + 4) == bigEndian(out->data + out->length)) return true;
+    *reason = "damaged picture: wrong checksum in the block at byte " + std::to_string(position);
+    return false;
+}
+
+bool takeHeader(const Chunk& chunk, Header* out, std::string* reason) {
+    if (chunk.type != "IHDR" || chunk.length != kHeaderData) {
+        *reason = "damaged picture: no header";
+        return false;
+    }
+    *out = {bigEndian(chunk.data), bigEndian(chunk.data + 4), chunk.data[8], chunk.data[9]};
+    return true;
+}
+
+/// Walks the chunks from the signature to IEND and checks their lengths and checksums, so that a file that was cut or
+/// damaged is known as such before a decoder sees it. On failure false and the reason.
+bool readStructure(const std::uint8_t* bytes, std::size_t size, Header* out, std::string* reason) {
+    if (size < sizeof(kSignature) || std::memcmp(bytes, kSignature, sizeof(kSignature)) != 0) {
+        *reason = "not a PNG picture";
+        return false;
+    }
+    Chunk chunk{};
+    for (std::size_t position = sizeof(kSignature);; position += kFrame + chunk.length) {
+        if (!chunkAt(bytes, size, position, &chunk, reason)) return false;
+        if (position == sizeof(kSignature) && !takeHeader(chunk, out, reason)) return false;
+        if (chunk.type == "IEND") return true;
+    }
+}
 
 bool refused(std::string* why, const PngExpectation& expected, const std::string& reason) {
     return refuse(why, expected.file, expected.key, reason);
@@ -23,9 +101,9 @@ std::string sizeText(long long width, long long height) {
     return std::to_string(width) + " x " + std::to_string(height);
 }
 
-bool kindMatches(const PngHeader& header, PngKind kind) {
-    if (kind == PngKind::Grey16) return header.bitDepth == 16 && header.colourType == kPngGrey;
-    return header.bitDepth == 8 && (header.colourType == kPngRgb || header.colourType == kPngRgba);
+bool kindMatches(const Header& header, PngKind kind) {
+    if (kind == PngKind::Grey16) return header.bitDepth == 16 && header.colourType == kGrey;
+    return header.bitDepth == 8 && (header.colourType == kRgb || header.colourType == kRgba);
 }
 
 bool load(const PngExpectation& expected, QByteArray* bytes, std::string* why) {
@@ -36,10 +114,10 @@ bool load(const PngExpectation& expected, QByteArray* bytes, std::string* why) {
 }
 
 bool check(const PngExpectation& expected, const QByteArray& bytes, std::string* why) {
-    PngHeader header;
+    Header header;
     std::string reason;
-    if (!readPngStructure(reinterpret_cast<const std::uint8_t*>(bytes.constData()),
-                          static_cast<std::size_t>(bytes.size()), &header, &reason)) {
+    if (!readStructure(reinterpret_cast<const std::uint8_t*>(bytes.constData()), static_cast<std::size_t>(bytes.size()),
+                       &header, &reason)) {
         return refused(why, expected, reason);
     }
     if (!kindMatches(header, expected.kind)) {

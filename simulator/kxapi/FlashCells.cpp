@@ -1,6 +1,6 @@
 #include "simulator/kxapi/FlashCells.h"
 
-#include "session/InputFile.h"
+#include "session/Files.h"
 
 #include <QFileInfo>
 #include <QSaveFile>

@@ -1,6 +1,8 @@
-#include "session/InputFile.h"
+#include "session/Files.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <QSaveFile>
 
 namespace fieldcal::session {
 
@@ -20,6 +22,20 @@ bool openInput(const std::string& name, const std::string& key, qint64 largestBy
     if (!file->open(QIODevice::ReadOnly)) return refuse(why, name, key, file->errorString().toStdString());
     return file->size() <= largestBytes ||
            refuse(why, name, key, "larger than " + std::to_string(largestBytes >> 20) + " MiB");
+}
+
+bool writeOutput(const std::string& name, const void* bytes, std::size_t size, std::string* why) {
+    QSaveFile file(QString::fromStdString(name));
+    const auto length = static_cast<qint64>(size);
+    if (file.open(QIODevice::WriteOnly) && file.write(static_cast<const char*>(bytes), length) == length &&
+        file.commit()) {
+        return true;
+    }
+    return refuse(why, name, {}, file.errorString().toStdString());
+}
+
+bool makeFolder(const std::string& folder, std::string* why) {
+    return QDir().mkpath(QString::fromStdString(folder)) || refuse(why, folder, {}, "the folder cannot be created");
 }
 
 }  // namespace fieldcal::session
