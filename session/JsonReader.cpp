@@ -12,7 +12,8 @@ using nlohmann::json;
 constexpr double kRotationTolerance = 1e-4;
 /// A recording needs five levels; a hostile text may have millions.
 constexpr std::size_t kDeepest = 1024;
-constexpr int kNumberOverflow = 406;  ///< as the library numbers its errors
+constexpr std::size_t kLongestKey = 200;  ///< that a refusal names in full
+constexpr int kNumberOverflow = 406;      ///< as the library numbers its errors
 
 /// What the library says about a syntax error, without its own prefix and without the text that it read last, which
 /// may be long.
@@ -101,6 +102,7 @@ private:
 
     bool refuse(const std::string& reason) {
         *fault_ = {path(), reason};
+        if (fault_->key.size() > kLongestKey) fault_->key.replace(kLongestKey, std::string::npos, "...");
         return false;
     }
 

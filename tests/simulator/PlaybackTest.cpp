@@ -170,6 +170,24 @@ TEST_F(Playback, APictureThatTurnsOutBadEndsItsGrab) {
     EXPECT_TRUE(delivers(device.get(), testPictures(session, true))) << "the last frame stays";
 }
 
+TEST_F(Playback, WhatReadingAcceptsIsPlayedHoweverOddItIs) {
+    for (const double cx : {-1e5, 1e5}) {
+        session.infrared.fx = session.third.fy = 1;
+        session.infrared.cx = session.depth.cy = session.third.cx = cx;
+        session.platform->raw = {{1280, 720, 1, 1e5, cx, -cx}, 100, -100, 100, -100, 100};
+        session.platform->rectified = {1280, 720, 1e5, 1, -cx, cx};
+        session.platform->translation = {cx, 0, -cx};
+        ASSERT_TRUE(writeDescription(folder, session, &why)) << why;
+        const std::shared_ptr<KXDevice> device = createCapturing();
+        KXPlatformCamera* platform = device->platformCamera();
+        ASSERT_NE(platform, nullptr);
+        EXPECT_TRUE(platform->setPlatformMode(1, 1280, 720));
+        for (int i = 0; i < 30; ++i)
+            ASSERT_TRUE(device->grab(true));
+        EXPECT_EQ(device->lastStatus(), 0);
+    }
+}
+
 TEST_F(Playback, KeepsThePaceItIsAskedFor) {
     using Clock = std::chrono::steady_clock;
     set("KXSIM_SPEED", "2");
