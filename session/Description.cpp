@@ -205,7 +205,7 @@ std::string writtenDescription(const SessionDescription& session) {
     if (session.platform) out["platform"] = writtenPlatformCamera(*session.platform);
     if (session.truthThird) out["truth"]["third"] = *session.truthThird;
     if (session.truthPlatform) out["truth"]["platform"] = *session.truthPlatform;
-    // Bytes that are no UTF-8 are replaced, where the library would throw otherwise.
+    // Bytes that are no UTF-8 are replaced; the default is an exception.
     return out.dump(4, ' ', false, json::error_handler_t::replace) + '\n';
 }
 

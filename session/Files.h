@@ -10,14 +10,14 @@ namespace fieldcal::session {
 /// Always one line: control characters, as a hostile file name may hold, become '?'.
 bool refuse(std::string* why, const std::string& file, const std::string& key, const std::string& reason);
 
-/// Opens `file` for reading. False and `why` when that fails, when it is larger than `largestBytes`, or when it is no
-/// regular file: a pipe might never answer and a device never end.
+/// Opens `file` for reading. It fails when the file is larger than `largestBytes` or no regular file, as a pipe might
+/// never answer and a device never end. A failure returns false and `why`.
 bool openInput(const std::string& name, const std::string& key, qint64 largestBytes, QFile* file, std::string* why);
 
-/// Writes all of a file or, when that fails, nothing: a file of this name stays as it was. Then false and `why`.
+/// Writes a whole file. When that fails, a file of this name stays as it was, and false and `why` are returned.
 bool writeOutput(const std::string& name, const void* bytes, std::size_t size, std::string* why);
 
-/// Makes the folder and those that it stands in, as far as they are missing. False and `why` when that fails.
+/// Makes the folder and its missing parents. Returns false and `why` when that fails.
 bool makeFolder(const std::string& folder, std::string* why);
 
 }  // namespace fieldcal::session

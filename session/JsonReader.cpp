@@ -15,8 +15,8 @@ constexpr std::size_t kDeepest = 1024;
 constexpr std::size_t kLongestKey = 200;  ///< that a refusal names in full
 constexpr int kNumberOverflow = 406;      ///< as the library numbers its errors
 
-/// What the library says about a syntax error, without its own prefix and without the text that it read last, which
-/// may be long.
+/// The library's message about a syntax error, without its prefix and without the text that it read last, which may be
+/// long.
 std::string syntaxReason(const json::exception& error) {
     if (error.id == kNumberOverflow) return "illegal number";
     std::string reason = error.what();
@@ -86,7 +86,7 @@ private:
         return true;
     }
 
-    /// An element that is open is in its list already, any other one is not.
+    /// A list or object that is open is in its parent list already; any other element is added after it was read.
     std::string path() const {
         std::string out;
         for (const Level& level : open_) {
@@ -132,7 +132,7 @@ bool isRotation(const std::array<double, 9>& m) {
 }  // namespace
 
 bool parseJson(const std::string& text, json* out, JsonFault* fault) {
-    // The library takes a zero byte for the end of the text.
+    // The library would take a zero byte for the end of the text.
     const std::size_t zero = text.find('\0');
     if (zero != std::string::npos) {
         *fault = {{}, "not JSON: a zero character at byte " + std::to_string(zero + 1)};

@@ -15,13 +15,13 @@ struct JsonFault {
     bool found() const { return !reason.empty(); }
 };
 
-/// Reads a JSON text. False and the fault when it is no JSON, when a key stands twice in its object (which of its
-/// values counts would be anybody's guess), or when it is nested too deeply. The fault's key is a path as in `JsonKey`.
+/// Parses a JSON text. It returns false and the fault when the text is no JSON, when a key stands twice in its object,
+/// where it would be ambiguous, or when the nesting is too deep. The fault's key is a path as in `JsonKey`.
 bool parseJson(const std::string& text, nlohmann::json* out, JsonFault* fault);
 
-/// One value of a JSON document with its key path ("frames[3].infrared"). Every accessor checks type and range; the
-/// first failure is kept in the fault and the accessor returns a harmless value, so that a reader is a plain list of
-/// assignments with one look at the fault at its end. The document must outlive its keys.
+/// One value of a JSON document with its key path ("frames[3].infrared"). Every accessor checks type and range. The
+/// first failure is kept in the fault, and the accessor then returns a valid default, so that a reader is a plain list
+/// of assignments which looks at the fault once at its end. The document has to outlive its keys.
 class JsonKey {
 public:
     JsonKey(const nlohmann::json& document, JsonFault* fault) : value_(&document), fault_(fault) {}

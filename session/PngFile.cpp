@@ -79,7 +79,7 @@ bool takeHeader(const Chunk& chunk, Header* out, std::string* reason) {
 }
 
 /// Walks the chunks from the signature to IEND and checks their lengths and checksums, so that a file that was cut or
-/// damaged is known as such before a decoder sees it. On failure false and the reason.
+/// damaged is recognised before it is decoded. Returns false and the reason when one is wrong.
 bool readStructure(const std::uint8_t* bytes, std::size_t size, Header* out, std::string* reason) {
     if (size < sizeof(kSignature) || std::memcmp(bytes, kSignature, sizeof(kSignature)) != 0) {
         *reason = "not a PNG picture";
@@ -184,7 +184,7 @@ bool checkPng(const PngExpectation& expected, std::string* why) {
 bool readGreyPng(const PngExpectation& expected, ImageFrame16* out, std::string* why) {
     QImage image;
     if (!decode(expected, &image, why)) return false;
-    // A key colour or another oddity of the file makes the decoder choose another format; nothing is converted here.
+    // The decoder chooses another format for a file with, for instance, a transparent key colour, which is refused.
     if (image.format() != QImage::Format_Grayscale16) return refused(why, expected, "not a plain 16-bit grey picture");
     copyRows(image, out);
     return true;

@@ -29,7 +29,7 @@ int run(const CalibrateOptions& options) {
     }
     if (options.platformCamera && !session.platform) return refuseUsage("the recording has no platform camera");
 
-    // No other one plays recordings: a real camera's pictures would pass for them.
+    // Only the simulated library plays recordings; the pictures of a real camera would be taken for the recording's.
     if (!useSimulatedLibraries()) return fail("The folder with the simulated libraries is missing.");
     std::srand(options.seed ? *options.seed : std::random_device{}());
     const bool toPeople = options.jsonFile != "-";

@@ -26,7 +26,7 @@ QJsonObject jsonPair(const PairReport& pair) {
             {"seconds", pair.seconds}};
 }
 
-/// Everything between the pictures and the descriptor matches.
+/// The time of all stages from the pictures to the descriptor matches.
 double matchingSeconds(const CalibrationReport& report) {
     using Statistics = vq::PairStatistics;
     return report.stageSeconds(&Statistics::conversionSeconds) + report.stageSeconds(&Statistics::detectionSeconds) +
@@ -136,7 +136,7 @@ double rotationDifferenceDeg(const Matrix3& a, const Matrix3& b) {
                 d[row * 3 + column] += a[row * 3 + k] * b[column * 3 + k];
         }
     }
-    // By sine and cosine: the arc cosine alone loses small angles in rounding.
+    // The sine is needed, too, as the arc cosine alone loses small angles in rounding.
     const double sine = std::sqrt(std::pow(d[7] - d[5], 2) + std::pow(d[2] - d[6], 2) + std::pow(d[3] - d[1], 2)) / 2;
     const double cosine = (d[0] + d[4] + d[8] - 1.0) / 2.0;
     return std::atan2(sine, cosine) * 57.29577951308232;

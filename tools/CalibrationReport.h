@@ -22,7 +22,7 @@ struct PairReport {
     double seconds = 0;     ///< from the pictures to the answer
 };
 
-/// What playing a recording brought.
+/// The result of playing a recording.
 struct CalibrationReport {
     bool solved = false;
     bool platformCamera = false;
@@ -30,21 +30,21 @@ struct CalibrationReport {
     std::array<double, 3> anglesDeg{};  ///< of `rotation`, about X, Y and Z
     Matrix3 rotation{};                 ///< depth to colour; the factory rotation when not solved
     Matrix3 factoryRotation{};
-    std::optional<double> errorDeg;              ///< only when solved and when the recording holds the truth
-    std::optional<vq::SolutionQuality> quality;  ///< of the last fit
-    /// How many pixels the colour of a surface is off, by its distance in metres; only with `errorDeg`, and when the
-    /// recording has depth.
+    std::optional<double> errorDeg;                       ///< set when solved and the recording holds the truth
+    std::optional<vq::SolutionQuality> quality;           ///< of the last fit
+    /// The registration error in pixels of a surface, by its distance in metres. It is known together with `errorDeg`,
+    /// and only when the recording has depth.
     std::map<int, double> registrationPx;
     vq::ParallaxReport parallax;    ///< of the attempt that took the last pair
     std::vector<PairReport> pairs;  ///< of all attempts
-    std::optional<bool> written;    ///< only when asked for: whether the module's flash holds the rotation
+    std::optional<bool> written;    ///< whether the flash holds the rotation; unset when writing was not asked for
     double totalSeconds = 0;
     double frameSeconds = 0;  ///< grabbing, brightness and frame selection of all frames
 
     double stageSeconds(double vq::PairStatistics::*stage) const;
 };
 
-/// The angle of a · bᵀ in degrees.
+/// Returns the rotation angle of a · bᵀ in degrees.
 double rotationDifferenceDeg(const Matrix3& a, const Matrix3& b);
 
 QByteArray reportJson(const CalibrationReport& report);

@@ -12,7 +12,7 @@ constexpr unsigned kLargestSeed = std::numeric_limits<unsigned>::max();
 constexpr unsigned kMostStills = 999;
 constexpr unsigned kMostFrames = 1000000;
 
-/// Validators answer with what is wrong, in words that go on after the option's name.
+/// A validator returns what is wrong with the value, as a text that follows the name of the option.
 CLI::Validator wholeNumber(unsigned smallest, unsigned largest) {
     const auto validate = [smallest, largest](std::string& text) {
         bool isNumber = false;
@@ -35,13 +35,13 @@ std::string isGiven(const std::string& name) {
     return name.empty() ? "is missing" : "";
 }
 
-/// The program's arguments: verbs as the library's subcommands.
+/// The parser of the program's arguments. Verbs are subcommands of the library.
 class Parser {
 public:
     Parser() {
         app_.get_formatter()->label("Usage", "usage");
         app_.get_formatter()->label("SUBCOMMAND", "VERB");
-        app_.allow_windows_style_options(false);  // "/tmp/walk" is a folder on every system.
+        app_.allow_windows_style_options(false);  // "/tmp/walk" is a folder, no option.
         app_.set_version_flag("--version", std::string(kProgram) + " " FIELDCAL_VERSION, "Print the version and exit");
         app_.require_subcommand(1);
         app_.footer(
@@ -55,9 +55,9 @@ public:
         addRestore();
     }
 
-    /// False, and the status, when there is nothing to run.
+    /// Returns false, and the exit status, when there is no command to run.
     bool parse(const QStringList& arguments, Command* out, int* status) {
-        std::vector<std::string> reversed;  // as the library takes them
+        std::vector<std::string> reversed;  // The library takes the last argument first.
         for (const QString& argument : arguments)
             reversed.insert(reversed.begin(), argument.toStdString());
         try {
@@ -89,7 +89,7 @@ private:
         return verb;
     }
 
-    /// An option counts as it was given last.
+    /// An option that is given more than once has the last value.
     static CLI::Option* lastCounts(CLI::Option* option) {
         return option->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     }
@@ -156,7 +156,7 @@ private:
         verb->add_option("FILE", restore_.file, "The file")->required()->check(isGiven)->type_name("");
     }
 
-    /// Of the verb that was named, or of the program.
+    /// The help of the verb that was named, or of the program.
     std::string help() const { return app_.help(); }
 
     std::string reasonOf(const CLI::ParseError& error) const {
@@ -169,7 +169,7 @@ private:
             const bool isOption = extra.size() > 1 && extra.front() == '-';
             return (isOption ? "unknown option " : "one " + noun + " too many: ") + extra;
         }
-        // The library's texts begin with the name of the option.
+        // The library begins its messages with the name of the option.
         std::string text = error.what();
         const std::size_t end = std::min(text.find_first_of(": "), text.size());
         const std::string option = text.substr(0, end);

@@ -32,7 +32,7 @@ struct SynthesizeOptions {
     unsigned seed = 1;
     int stills = 8;
     bool platform = false;
-    bool baselines = true;  ///< between the cameras
+    bool baselines = true;  ///< whether there are baselines between the cameras
 };
 
 struct RecordOptions {
@@ -55,14 +55,14 @@ struct RestoreOptions {
 using Command =
     std::variant<CalibrateOptions, SynthesizeOptions, RecordOptions, InfoOptions, BackupOptions, RestoreOptions>;
 
-/// What the arguments ask for. None when nothing is left but to end with `status`: help or the version was printed, or
-/// the usage was wrong and was refused.
+/// Parses the arguments. There is no command when the program has to end with `status`, because help or the version was
+/// printed or because the usage was wrong and the reason was printed.
 std::optional<Command> parseCommandLine(const QStringList& arguments, int* status);
 
-/// Prints the reason and how to use the program on standard error; gives the exit status for wrong usage.
+/// Prints the reason and the help on standard error, and returns the exit status for wrong usage.
 int refuseUsage(const QString& why);
 
-/// Runs the verb that was asked for; gives the exit status, as each of the verbs does.
+/// Runs the verb that the command is for. It returns the exit status, as each of the verbs does.
 int runCommand(const Command& command);
 int run(const CalibrateOptions& options);
 int run(const SynthesizeOptions& options);

@@ -11,32 +11,33 @@
 
 namespace fieldcal {
 
-/// The camera module that is connected, opened with the application's settings. Operations fail with false and one
-/// line in `why`. One thread.
+/// The camera module that is connected, opened with the application's settings. An operation that fails returns false
+/// and one line in `why`. All calls come from one thread.
 class ConnectedModule {
 public:
-    /// `rearCamera`: together with the tablet's rear camera, where there is one.
+    /// With `rearCamera`, the tablet's rear camera is opened, too, where there is one.
     bool open(bool rearCamera, QString* why);
 
-    /// The module without its cameras, whether its calibration is valid or not.
+    /// Returns what is known of the module itself, whether its calibration is valid or not.
     session::ModuleInfo info();
 
-    /// Reads the calibration, so that grabs bring every picture, and describes it as a recording does: what the library
-    /// says, number by number. No frames. `platform` only when the module has a usable calibration of it.
+    /// Reads the calibration, so that grabs bring every picture, and describes it as a recording does, with the numbers
+    /// of the camera library and without frames. `platform` is set when the module has a usable calibration of it.
     bool describe(session::SessionDescription* out, QString* why);
 
-    /// The next frame set, as the library and the rear camera deliver it: `platform` when it brought a new picture.
+    /// Grabs the next frame set, as the library delivers it. `platform` is empty when the rear camera had no new
+    /// picture.
     bool grab(session::FramePictures* out, QString* why);
 
-    /// Whether grabs bring the rear camera's pictures.
+    /// Returns whether grabs bring the rear camera's pictures.
     bool hasRearCamera() const { return sensor_->settings().usePlatformCamera; }
 
-    /// The module's parameter block as it is now.
+    /// Reads the module's present parameter block.
     bool readBlock(ParameterBackup* out, QString* why);
-    /// Writes a block of this very module back into its flash.
+    /// Writes a block that was read from this module back into its flash.
     bool restoreBlock(const ParameterBackup& backup, QString* why);
 
-    /// Lets the module go. False when that, too, failed.
+    /// Closes the module. It fails, too, when an error was reported before.
     bool close(QString* why);
 
 private:

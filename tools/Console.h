@@ -4,13 +4,13 @@
 
 namespace fieldcal {
 
-/// To standard output, at once.
+/// Prints a line on standard output and flushes it.
 void printLine(const QString& line);
 
-/// The one line on standard error that says why the command failed; gives the exit status.
+/// Prints why the command failed, one line on standard error, and returns the exit status.
 int fail(const QString& why);
 
-/// Keeps log lines away from standard error, which is for that one line.
+/// Discards log lines, so that standard error holds nothing but the line of `fail`.
 void silenceLogs();
 
 }  // namespace fieldcal

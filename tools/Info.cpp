@@ -22,7 +22,7 @@ void printIntrinsics(const char* name, const session::Intrinsics& camera) {
                 camera.fy, camera.cx, camera.cy);
 }
 
-/// To four decimals, and never minus zero.
+/// Rounds to four decimals, without a negative zero.
 double shown(double angleDeg) {
     return std::round(angleDeg * 1e4) / 1e4 + 0.0;
 }
@@ -67,7 +67,7 @@ int describeRecording(const std::string& folder) {
     return kSolved;
 }
 
-/// The rear camera itself is not needed to say what the module knows about it.
+/// The rear camera is not opened, as the module holds its calibration.
 int describeConnectedModule() {
     silenceLogs();
     ConnectedModule module;

@@ -21,7 +21,7 @@ bool record(ConnectedModule& module, const RecordOptions& options, RecordingWrit
             printLine(QString("%1 of %2 frame sets").arg(done).arg(options.frames));
         }
     }
-    // Only a recording whose module was let go in good order counts.
+    // The recording is kept only when the module was closed without an error.
     if (!module.close(why)) return false;
     if (recording->finish(&reason)) return true;
     *why = QString::fromStdString(reason);

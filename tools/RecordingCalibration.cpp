@@ -39,7 +39,7 @@ RecordingCalibration::RecordingCalibration(std::string folder, session::SessionD
 
 bool RecordingCalibration::run(QString* why) {
     vq::Stopwatch watch;
-    // In the encoding in which the library reads it back, which is not UTF-8 on every system.
+    // The library reads the name in the local encoding, which is not UTF-8 on every system.
     qputenv("KXSIM_SESSION", QString::fromStdString(folder_).toLocal8Bit());
     qputenv("KXSIM_SPEED", "0");
     bool played = false;
@@ -72,7 +72,7 @@ bool RecordingCalibration::open(Sensor& sensor, QString* why) {
     return false;
 }
 
-/// False when the sensor fails before the recording ends.
+/// Returns false when the sensor fails before the recording ends.
 bool RecordingCalibration::play(Sensor& sensor, CalibrationAttempt& attempt, bool* solved) {
     const int grabs = session_.grabCount();
     vq::Stopwatch frameWatch;
@@ -119,7 +119,7 @@ void RecordingCalibration::finish(bool solved) {
     }
 }
 
-/// None for a recording without depth, where no program could look up the colour of a surface.
+/// There are none for a recording without depth, where no surface can be assigned a colour.
 std::map<int, double> RecordingCalibration::registrationErrors(const Matrix3& truth) const {
     const auto hasDepth = [](const session::FrameEntry& frame) { return !frame.depth.empty(); };
     if (std::none_of(session_.frames.begin(), session_.frames.end(), hasDepth)) return {};

@@ -19,21 +19,22 @@
 
 namespace fieldcal {
 
-/// Plays a recording once through sensor, frame path, attempt and engine, as the application would; an attempt that
-/// fails is started again at once, as a user would. One thread.
+/// Plays a recording once through sensor, frame selection, attempt and engine, as the application does. An attempt that
+/// fails is started again at once, as a user would do. All calls come from one thread.
 class RecordingCalibration : private AttemptListener {
 public:
-    /// `say` receives what happens, a line at a time; may be empty.
+    /// `say` receives one line for each event; it may be empty.
     RecordingCalibration(std::string folder, session::SessionDescription session, bool platformCamera,
                          std::function<void(const QString&)> say);
 
-    /// Also writes a solution into the module's flash.
+    /// Sets whether a solution is written into the module's flash.
     void setWriting(bool on) { writing_ = on; }
-    /// Also begins with the stereo baseline that is remembered for the module, and remembers what a solution measured.
+    /// Begins with the stereo baseline that is remembered for the module, and remembers the one that a solution
+    /// measured.
     void useMemory(const BaselineMemory& memory) { memory_ = memory; }
-    /// False when the device fails, and `why` then says how in one line.
+    /// Returns false, and one line in `why`, when the device fails.
     bool run(QString* why);
-    /// Of the engine after `run`: cameras and rotation as it last had them.
+    /// Returns the cameras and the rotation that the engine had at the end of `run`.
     vq::CalibrationState engineState() const;
     const CalibrationReport& report() const { return report_; }
 

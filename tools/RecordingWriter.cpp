@@ -95,7 +95,7 @@ bool RecordingWriter::add(session::FramePictures pictures, std::string* why) {
     return true;
 }
 
-/// While a frame repeats, its rear picture may or may not be brought again; the same one makes no difference.
+/// The rear camera may deliver its picture again or not while a frame repeats; an unchanged one makes no difference.
 bool RecordingWriter::repeatsLast(const session::FramePictures& pictures) const {
     return !description_.frames.empty() && same(pictures.infrared, last_.infrared) &&
            same(pictures.right, last_.right) && same(pictures.third, last_.third) &&

@@ -6,19 +6,19 @@
 
 namespace fieldcal {
 
-/// Puts what a module delivers, grab by grab, into a recording that plays back as it was delivered: frame sets that
-/// follow each other unchanged become one frame that repeats. The description is written last, so a folder without
-/// one is no recording; a recording that is not finished takes its files away again. Failures: false and `why`, one
-/// line "file: key: reason".
+/// Writes the frame sets of a module into a recording that plays back as they were delivered. Frame sets that follow
+/// each other unchanged become one frame that repeats. The description is written last, so that a folder without one is
+/// no recording; a recording that is not finished removes its files. A call that fails returns false and one line
+/// "file: key: reason" in `why`.
 class RecordingWriter {
 public:
-    /// `description`: the cameras; its frames are filled here.
+    /// `description` holds the cameras; its frames are filled in by this class.
     RecordingWriter(std::string folder, session::SessionDescription description);
     ~RecordingWriter();
     RecordingWriter(const RecordingWriter&) = delete;
     RecordingWriter& operator=(const RecordingWriter&) = delete;
 
-    /// Makes the folder. Refused when there is something in it already.
+    /// Makes the folder. It fails when there is something in it already.
     bool start(std::string* why);
 
     /// `platform` is empty when the rear camera brought nothing new.

@@ -6,14 +6,14 @@
 
 namespace fieldcal {
 
-/// Listens to a sensor for the command line, which fails with one line: the first thing that was reported.
+/// Keeps the first error that a sensor reports, as the command line fails with one line.
 class SensorReports {
 public:
     SensorReports() = default;
     SensorReports(const SensorReports&) = delete;
     SensorReports& operator=(const SensorReports&) = delete;
 
-    /// Forgets what was reported before. This object outlives the sensor, whose last report comes when it goes.
+    /// Forgets earlier reports. This object has to outlive the sensor, whose last report comes from its destructor.
     void listenTo(Sensor& sensor) {
         first_.clear();
         platformCameraMissing_ = false;
@@ -24,13 +24,13 @@ public:
             platformCameraMissing_ = true;
             note("The rear camera was not found.");
         });
-        // Once opened, a rear camera without pictures is no failure: frames of a recording may lack them.
+        // After opening, a rear camera without pictures is no failure, as frames of a recording may lack them.
         QObject::connect(&sensor, &Sensor::signal_reportPlatformCameraIssue, [this, &sensor] {
             if (!sensor.opened()) note("The rear camera does not deliver pictures.");
         });
     }
 
-    /// Empty while there is nothing to complain about.
+    /// The first error; empty when there was none.
     const QString& first() const { return first_; }
     bool platformCameraMissing() const { return platformCameraMissing_; }
 

@@ -9,13 +9,13 @@ namespace fieldcal::testing {
 
 /// A rendered recording, made on first use and gone when the program ends. A build that renders no worlds finds it in
 /// the folder FIELDCAL_RECORDINGS, under the same name.
-inline QString renderedRecording(const QString& name, const QStringList& wishes) {
+inline QString renderedRecording(const QString& name, const QStringList& options) {
     const QString prepared = qEnvironmentVariable("FIELDCAL_RECORDINGS");
     if (!prepared.isEmpty()) return prepared + '/' + name;
     static const QTemporaryDir folder;
     QString path = folder.filePath(name);
     if (!QDir(path).exists()) {
-        EXPECT_EQ(QProcess::execute(TOOL, QStringList{"synthesize", path} + wishes), 0) << name.toStdString();
+        EXPECT_EQ(QProcess::execute(TOOL, QStringList{"synthesize", path} + options), 0) << name.toStdString();
     }
     return path;
 }
