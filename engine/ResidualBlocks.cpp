@@ -27,12 +27,12 @@ struct DepartureUnknowns {
     double floor;
 };
 constexpr std::array<DepartureUnknowns, kModelDepartureCount> kDepartures{{
-    {3, 1, 0.0},   // focal length, as a share of it
-    {4, 2, 0.0},   // principal point, pixels
-    {6, 1, 0.0},   // distortion, k1
+    {3, 1, 0.0},     // focal length, as a share of it
+    {4, 2, 0.0},     // principal point, pixels
+    {6, 1, 0.0},     // distortion, k1
     {7, 3, 0.0006},  // translation, metres
-    {10, 2, 0.0},  // rolling shear, pixels from top to bottom
-    {12, 3, 0.0},  // second rotation, radians
+    {10, 2, 0.0},    // rolling shear, pixels from top to bottom
+    {12, 3, 0.0},    // second rotation, radians
 }};
 
 /// That a chi-squared variable with 1, 2 or 3 degrees of freedom exceeds a Wald statistic.
@@ -106,7 +106,8 @@ void ResidualBlocks::addStill(const std::vector<MeasuredMatch>& matches) {
     if (still.matches > 0) stills_.push_back(still);
 }
 
-ResidualBlocks::Estimate ResidualBlocks::estimate(const std::vector<int>& unknowns, const std::vector<Block>& blocks) const {
+ResidualBlocks::Estimate ResidualBlocks::estimate(const std::vector<int>& unknowns,
+                                                  const std::vector<Block>& blocks) const {
     const auto size = static_cast<Eigen::Index>(unknowns.size());
     const auto chosen = [&](const Matrix& normal, const Vector& gradient, Eigen::MatrixXd* n, Eigen::VectorXd* g) {
         n->resize(size, size);
@@ -114,8 +115,8 @@ ResidualBlocks::Estimate ResidualBlocks::estimate(const std::vector<int>& unknow
         for (Eigen::Index row = 0; row < size; ++row) {
             (*g)[row] = gradient[unknowns[static_cast<std::size_t>(row)]];
             for (Eigen::Index column = 0; column < size; ++column)
-                (*n)(row, column) = normal(unknowns[static_cast<std::size_t>(row)],
-                                           unknowns[static_cast<std::size_t>(column)]);
+                (*n)(row, column) =
+                    normal(unknowns[static_cast<std::size_t>(row)], unknowns[static_cast<std::size_t>(column)]);
         }
     };
     Matrix normal = Matrix::Zero();
@@ -142,8 +143,7 @@ ResidualBlocks::Estimate ResidualBlocks::estimate(const std::vector<int>& unknow
 }
 
 Eigen::Vector3d ResidualBlocks::deviationRad() const {
-    if (quarters_.size() < kMinimumBlocks)
-        return Eigen::Vector3d::Constant(std::numeric_limits<double>::infinity());
+    if (quarters_.size() < kMinimumBlocks) return Eigen::Vector3d::Constant(std::numeric_limits<double>::infinity());
     const Eigen::Vector3d ofQuarters = estimate({0, 1, 2}, quarters_).covariance.diagonal().cwiseSqrt();
     if (stills_.size() < 2) return ofQuarters;
     return ofQuarters.cwiseMax(estimate({0, 1, 2}, stills_).covariance.diagonal().cwiseSqrt());

@@ -13,9 +13,9 @@ namespace vq {
 /// the infrared image.
 ///
 /// Matches next to each other err together (shade, foliage, a gust of wind), so their number says little about how well
-/// the angles are known. Leaving out one block after the other does (delete-a-group jackknife; Efron, The Jackknife, the
-/// Bootstrap and Other Resampling Plans, 1982). Each time one Gauss-Newton step of the fit is taken, with the weights as
-/// they are. One thread.
+/// the angles are known. Leaving out one block after the other does (delete-a-group jackknife; Efron, The Jackknife,
+/// the Bootstrap and Other Resampling Plans, 1982). Each time one Gauss-Newton step of the fit is taken, with the
+/// weights as they are. One thread.
 class ResidualBlocks {
 public:
     /// About the fitted rotation. The references must outlive it.
@@ -24,8 +24,8 @@ public:
     /// The matches of one still.
     void addStill(const std::vector<MeasuredMatch>& matches);
 
-    /// One deviation of a turn about each axis of the colour camera, radians: of quarters of stills, or of whole stills,
-    /// whichever is larger. Infinite with fewer than four quarters.
+    /// One deviation of a turn about each axis of the colour camera, radians: of quarters of stills, or of whole
+    /// stills, whichever is larger. Infinite with fewer than four quarters.
     Eigen::Vector3d deviationRad() const;
     ModelCheck checkModel() const;
 

@@ -15,7 +15,7 @@ constexpr double kInlierPx = 3.0;
 constexpr double kInlierResidual = static_cast<double>(0.02F);
 
 /// How the distance between a predicted and a matched colour point becomes residual terms. The engine uses `Cauchy`;
-/// the others stand here to be compared (docs/residual.md, benchmarks/).
+/// the others stand here to be compared (docs/estimation.md, benchmarks/).
 enum class ResidualForm {
     Pixels,        ///< the two differences in pixels
     Normalised,    ///< divided by the colour focal length

@@ -17,8 +17,9 @@ namespace {
 const Eigen::Vector3d kUnseenDeviationRad = Eigen::Vector3d(0.003, 0.0025, 0.002) / kDegreesPerRadian;
 /// What imagers may be misaligned against each other without anybody knowing, in pixels of disparity.
 constexpr double kUnknownOffsetPx = 0.03;
-/// Parallax that nobody has measured scatters the matches along the baseline. Its mean, which turns into an error of the
-/// rotation, is taken to be this many times the scatter; and its slope across the image adds a share of that about Z.
+/// Parallax that nobody has measured scatters the matches along the baseline. Its mean, which turns into an error of
+/// the rotation, is taken to be this many times the scatter; and its slope across the image adds a share of that about
+/// Z.
 constexpr double kMeanOverScatter = 2.5;
 constexpr double kShareAboutZ = 0.15;
 /// Scatter that parallax cannot be told from: some pixels of the colour model, and a share of the scatter across.
@@ -82,8 +83,7 @@ Eigen::Vector3d unseenParallaxRad(const JudgedSolution& solution) {
                 ++known;
                 continue;
             }
-            const Eigen::Vector2d residual =
-                projection.residualPx(solution.rotation, match, solution.options.scale);
+            const Eigen::Vector2d residual = projection.residualPx(solution.rotation, match, solution.options.scale);
             alongPx.push_back(residual.dot(along));
             acrossPx.push_back(residual.dot(across));
         }
@@ -144,9 +144,9 @@ SolutionQuality judgeSolution(const JudgedSolution& solution) {
         blocks.addStill(still.taken);
     const Eigen::Vector3d samplingRad =
         (blocks.deviationRad().cwiseAbs2() + kUnseenDeviationRad.cwiseAbs2()).cwiseSqrt();
-    const Eigen::Vector3d allRad = (samplingRad.cwiseAbs2() + scaleDeviationRad(solution).cwiseAbs2() +
-                                    unseenParallaxRad(solution).cwiseAbs2())
-                                       .cwiseSqrt();
+    const Eigen::Vector3d allRad =
+        (samplingRad.cwiseAbs2() + scaleDeviationRad(solution).cwiseAbs2() + unseenParallaxRad(solution).cwiseAbs2())
+            .cwiseSqrt();
     SolutionQuality quality;
     quality.samplingDeg = degrees(samplingRad);
     quality.deviationDeg = degrees(allRad);

@@ -30,8 +30,8 @@ struct CalibrationReport {
     std::array<double, 3> anglesDeg{};  ///< of `rotation`, about X, Y and Z
     Matrix3 rotation{};                 ///< depth to colour; the factory rotation when not solved
     Matrix3 factoryRotation{};
-    std::optional<double> errorDeg;                       ///< set when solved and the recording holds the truth
-    std::optional<vq::SolutionQuality> quality;           ///< of the last fit
+    std::optional<double> errorDeg;              ///< set when solved and the recording holds the truth
+    std::optional<vq::SolutionQuality> quality;  ///< of the last fit
     /// The registration error in pixels of a surface, by its distance in metres. It is known together with `errorDeg`,
     /// and only when the recording has depth.
     std::map<int, double> registrationPx;

@@ -37,7 +37,8 @@ struct MatchMaker {
         std::vector<MeasuredMatch> matches;
         for (int i = 0; i < 400; ++i) {
             MeasuredMatch match;
-            match.place.infrared = {static_cast<float>(628 * uniform(random)), static_cast<float>(468 * uniform(random))};
+            match.place.infrared = {static_cast<float>(628 * uniform(random)),
+                                    static_cast<float>(468 * uniform(random))};
             const double inverseDepth = 0.2 * uniform(random);
             if (tellsDistances) match.place.inverseDepth = static_cast<float>(inverseDepth);
             Eigen::Vector2d point = projection.colourPoint(rotation, match.place.infrared, inverseDepth);
@@ -92,7 +93,8 @@ TEST(Uncertainty, DistancesThatNobodyMeasuredMakeTheAnglesUncertain) {
     const JudgedSolution blind = maker.solution(4);
     const SolutionQuality unknown = judgeSolution(blind);
     const Eigen::AngleAxisd turn(blind.rotation * rotationFromAngles(kTrueRad).transpose());
-    EXPECT_GT(turn.angle(), 20 * known.deviationDeg[1] * kDeg) << "a mean inverse depth of 0.1 is a turn of 0.14 degrees";
+    EXPECT_GT(turn.angle(), 20 * known.deviationDeg[1] * kDeg)
+        << "a mean inverse depth of 0.1 is a turn of 0.14 degrees";
     EXPECT_LT(turn.angle(), 3 * unknown.deviationDeg[1] * kDeg);
     EXPECT_LT(unknown.samplingDeg[1], unknown.deviationDeg[1] / 5) << "more pairs would not help";
 }
