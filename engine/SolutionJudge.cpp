@@ -14,7 +14,7 @@ namespace {
 
 /// What the stills of an attempt have in common and therefore cannot show: shade and foliage that look different in the
 /// two kinds of light. One deviation about each axis, as measured (docs/uncertainty.md).
-const Eigen::Vector3d kUnseenDeviationRad = Eigen::Vector3d(0.003, 0.0025, 0.002) / kDegreesPerRadian;
+const Eigen::Vector3d kUnseenDeviationRad = Eigen::Vector3d(0.0025, 0.0025, 0.002) / kDegreesPerRadian;
 /// What imagers may be misaligned against each other without anybody knowing, in pixels of disparity.
 constexpr double kUnknownOffsetPx = 0.03;
 /// Parallax that nobody has measured scatters the matches along the baseline. Its mean, which turns into an error of

@@ -94,9 +94,9 @@ TEST_F(WorkflowTest, ARestartDuringADecisionWins) {
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     int inThisAttempt = 0;
-    // Pressed by another thread while the loop decides; from the third pair on a solution may come.
+    // Pressed by another thread while the loop decides; from the fourth pair on a solution may come.
     user->onPair = [&] {
-        if (++inThisAttempt < 3) return;
+        if (++inThisAttempt < 4) return;
         std::thread([&] { workflow->requestState(State::ResetCalibration); }).join();
     };
     bool beatASolution = false;
@@ -106,7 +106,7 @@ TEST_F(WorkflowTest, ARestartDuringADecisionWins) {
         ASSERT_TRUE(user->waitFor(State::WaitingToCalibrate));
         beatASolution = user->codes.back() == vq::GoodSolution;
     }
-    EXPECT_TRUE(beatASolution) << "no attempt solved with its third pair, so that nothing was tested";
+    EXPECT_TRUE(beatASolution) << "no attempt solved with its fourth pair, so that nothing was tested";
     EXPECT_THAT(user->states, ::testing::Not(::testing::Contains(State::FoundGoodSolution)));
     EXPECT_FALSE(workflow->records().estimated(kFirst));
 }
