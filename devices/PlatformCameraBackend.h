@@ -1,6 +1,6 @@
 #pragma once
 
-#include "devices/RearCameraSeam.h"
+#include "kxapi/RearCameraSeam.h"
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "devices/RearCameraSeam.h"
 #include "devices/windows/ComObject.h"
+#include "kxapi/RearCameraSeam.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "simulator/kxapi/BlockLayout.h"
 #include "simulator/kxapi/ModuleState.h"
 
 #include <cmath>
@@ -43,6 +44,40 @@ public:
 private:
     ModuleState& state_;
     bool on_ = false;
+};
+
+/// Writing the calibration. Like the module's own memory it takes any block: one that makes no sense keeps the module
+/// from resuming, and its calibration is then not valid.
+class PrivateInterface final : public KXPrivate {
+public:
+    explicit PrivateInterface(ModuleState* state) : state_(*state) {}
+
+    bool writeRectParameters(const KXCalibRectParameters* parameters, bool permanent) override {
+        return state_.performAtRest("writeRectParameters", [&] {
+            if (parameters == nullptr) return state_.fail(KX_STATUS_FAILED);
+            Block arrived = *parameters;
+            const std::optional<Fault>& fault = state_.fault();
+            if (fault && fault->kind == FaultKind::garble) garble(&arrived, fault->number);
+            if (permanent) {
+                state_.block->write(arrived);
+            } else {
+                state_.temporaryBlock = arrived;
+            }
+            return true;
+        });
+    }
+    bool commitCalibration() override {
+        return state_.performAtRest("commitCalibration", [&] {
+            if (!state_.succeeds(state_.block->commit(state_.settings.faults.livingBlock()))) return false;
+            state_.temporaryBlock.reset();
+            if (state_.block->isLostWithTheDevice())
+                report("no KXSIM_FLASH: what was written is gone with this device");
+            return true;
+        });
+    }
+
+private:
+    ModuleState& state_;
 };
 
 }  // namespace kxsim

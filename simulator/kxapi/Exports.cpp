@@ -1,15 +1,26 @@
-#include "devices/RearCameraSeam.h"
 #include "kxapi/KXAPI.h"
+#include "kxapi/RearCameraSeam.h"
 #include "simulator/kxapi/RearCamera.h"
 #include "simulator/kxapi/Rectification.h"
 #include "simulator/kxapi/SimulatedDevice.h"
-#include "simulator/kxapi/StatusText.h"
+
+#include <iterator>
 
 #if defined(_WIN32)
 #define KXSIM_EXPORT extern "C" __declspec(dllexport)
 #else
 #define KXSIM_EXPORT extern "C" __attribute__((visibility("default")))
 #endif
+
+namespace {
+
+constexpr const char* kStatusTexts[] = {"No error",           "Operation failed",    "Invalid argument",
+                                        "Not supported",      "Not calibrated",      "No device",
+                                        "Device error",       "Device in use",       "Timeout",
+                                        "Data not available", "Communication error", "Firmware too old",
+                                        "Out of memory"};
+
+}  // namespace
 
 KXSIM_EXPORT std::int32_t KXInterfaceVersion() {
     return KX_INTERFACE_VERSION;
@@ -24,7 +35,8 @@ KXSIM_EXPORT void KXDestroy(KXDevice* device) {
 }
 
 KXSIM_EXPORT const char* KXStatusString(std::int32_t status) {
-    return kxsim::statusText(status);
+    const bool known = status >= 0 && status < static_cast<std::int32_t>(std::size(kStatusTexts));
+    return known ? kStatusTexts[status] : "Unknown status";
 }
 
 KXSIM_EXPORT void KXRectificationTable(const KXCalibIntrinsicsNonRectified* raw, const double* rotation,

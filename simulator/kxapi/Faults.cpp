@@ -2,19 +2,46 @@
 
 #include "simulator/kxapi/Operations.h"
 
+#include <algorithm>
 #include <charconv>
 #include <chrono>
+#include <cstdlib>
+#include <iterator>
 #include <sstream>
 #include <thread>
 
 namespace kxsim {
 namespace {
 
-constexpr const char* kFlash = "flash";
+/// The exit code of a killed process.
+constexpr int kKilled = 137;
+constexpr const char* kConditions[] = {"living-block"};
 
-/// The whole text as a number.
-template <typename Number>
-bool take(const std::string& text, Number* out) {
+enum class Number { none, maybe, must };
+enum class For { all, acting, blocks, readBlock };
+
+struct Kind {
+    const char* name;
+    FaultKind kind;
+    Number number;
+    For operations;
+};
+
+constexpr Kind kKinds[] = {
+    {"done", FaultKind::done, Number::must, For::acting},
+    {"gone", FaultKind::gone, Number::none, For::all},
+    {"gone-after", FaultKind::goneAfter, Number::none, For::acting},
+    {"die", FaultKind::die, Number::none, For::all},
+    {"die-after", FaultKind::dieAfter, Number::none, For::acting},
+    {"hang", FaultKind::hang, Number::none, For::all},
+    {"late", FaultKind::late, Number::must, For::all},
+    {"lie", FaultKind::lie, Number::none, For::acting},
+    {"old", FaultKind::old, Number::none, For::readBlock},
+    {"garble", FaultKind::garble, Number::maybe, For::blocks},
+};
+
+/// The whole text as a number that is not negative.
+bool takeNumber(const std::string& text, std::uint32_t* out) {
     const char* end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, *out);
     return result.ec == std::errc() && result.ptr == end;
@@ -28,75 +55,65 @@ std::vector<std::string> split(const std::string& text, char separator) {
     return out;
 }
 
-/// Null, or what is wrong with the text.
-const char* parseFlashFault(const std::string& text, Fault* out) {
-    const std::size_t plus = text.find('+');
-    const std::string kind = text.substr(0, plus);
-    const bool countsBytes = kind == "powercut" || kind == "garble";
-    const bool bytesFit = plus == std::string::npos || (countsBytes && take(text.substr(plus + 1), &out->bytes));
-    if (kind == "powercut") {
-        out->kind = FaultKind::powercut;
-    } else if (kind == "garble") {
-        out->kind = FaultKind::garble;
-    } else if (kind == "corrupt") {
-        out->kind = FaultKind::corrupt;
-    } else if (kind == "die") {
-        out->kind = FaultKind::die;
-    } else {
-        return "powercut, powercut+BYTES, corrupt, garble, garble+BYTE or die expected";
+bool fits(For operations, const std::string& operation) {
+    switch (operations) {
+        case For::acting:
+            return operationKind(operation) == OperationKind::acts;
+        case For::blocks:
+            return operation == "writeRectParameters" || operation == "rectParameters";
+        case For::readBlock:
+            return operation == "rectParameters";
+        case For::all:
+            break;
     }
-    return bytesFit ? nullptr : "a number of bytes expected after powercut+ or garble+";
+    return true;
 }
 
-const char* parseCallFault(const std::string& text, OperationKind operation, Fault* out) {
-    if (text == "gone") {
-        out->kind = FaultKind::gone;
-    } else if (text == "hang") {
-        out->kind = FaultKind::hang;
-    } else if (text == "lie") {
-        out->kind = FaultKind::lie;
-        return operation == OperationKind::acts ? nullptr : "an operation that answers cannot lie";
-    } else if (!take(text, &out->status) || out->status < 0) {
-        return "the status must be a whole number, at least 0, or gone, hang or lie";
+/// Null, or what is wrong with the text.
+const char* parseKind(const std::string& text, const std::string& operation, Fault* out) {
+    if (takeNumber(text, &out->number)) return nullptr;
+    const std::size_t plus = text.find('+');
+    const std::string name = text.substr(0, plus);
+    const auto* kind =
+        std::find_if(std::begin(kKinds), std::end(kKinds), [&](const Kind& k) { return k.name == name; });
+    if (kind == std::end(kKinds)) return "a status or one of the README's kinds expected";
+    out->kind = kind->kind;
+    if (!fits(kind->operations, operation)) return "not with this operation";
+    const bool hasNumber = plus != std::string::npos;
+    if (kind->number != Number::maybe && hasNumber != (kind->number == Number::must)) {
+        return hasNumber ? "no number expected" : "a number expected after a plus sign";
     }
-    return nullptr;
+    return hasNumber && !takeNumber(text.substr(plus + 1), &out->number) ? "a number expected after the plus sign"
+                                                                         : nullptr;
 }
 
 }  // namespace
 
-bool Faults::parseOrder(const std::string& text, Order* out, std::string* why) {
+const char* Faults::parseOrder(const std::string& text, Order* out) {
     const std::vector<std::string> parts = split(text, ':');
-    const bool complete = parts.size() == 3;
-    const std::optional<OperationKind> operation = complete ? operationKind(parts[0]) : std::nullopt;
-    const char* wrong = nullptr;
-    if (!complete) {
-        wrong = "operation:call:status expected";
-    } else if (!operation && parts[0] != kFlash) {
-        wrong = "no such operation";
-    } else if (!take(parts[1], &out->callsLeft) || out->callsLeft == 0) {
-        wrong = "calls are counted from 1";
-    } else {
-        wrong = operation ? parseCallFault(parts[2], *operation, &out->fault) : parseFlashFault(parts[2], &out->fault);
+    if (parts.size() != 3) return "operation:call:kind expected";
+    if (!operationKind(parts[0])) return "no such operation";
+    if (!takeNumber(parts[1], &out->callsLeft) || out->callsLeft == 0) return "calls are counted from 1";
+    out->operation = parts[0];
+    return parseKind(parts[2], parts[0], &out->fault);
+}
+
+bool Faults::take(const std::string& text, std::string* why) {
+    if (std::find(std::begin(kConditions), std::end(kConditions), text) != std::end(kConditions)) {
+        conditions_.insert(text);
+        return true;
     }
-    if (wrong == nullptr) {
-        out->operation = parts[0];
-    } else {
-        *why = "KXSIM_FAULTS: \"" + text + "\": " + wrong;
-    }
+    const char* wrong = parseOrder(text, &orders_.emplace_back());
+    if (wrong != nullptr) *why = "KXSIM_FAULTS: \"" + text + "\": " + wrong;
     return wrong == nullptr;
 }
 
 bool Faults::parse(const std::string& text, std::string* why) {
-    orders_.clear();
-    for (const std::string& part : split(text, ',')) {
-        Order order;
-        if (!parseOrder(part, &order, why)) {
-            orders_.clear();
-            return false;
-        }
-        orders_.push_back(order);
-    }
-    return true;
+    *this = {};
+    const std::vector<std::string> parts = split(text, ',');
+    const bool good = std::all_of(parts.begin(), parts.end(), [&](const std::string& part) { return take(part, why); });
+    if (!good) *this = {};
+    return good;
 }
 
 std::optional<Fault> Faults::strike(const char* operation) {
@@ -107,9 +124,29 @@ std::optional<Fault> Faults::strike(const char* operation) {
     return fault;
 }
 
-void hang() {
-    for (;;)
+void beginFault(const Fault& fault) {
+    if (fault.kind == FaultKind::die) std::_Exit(kKilled);
+    if (fault.kind == FaultKind::late) std::this_thread::sleep_for(std::chrono::milliseconds(fault.number));
+    while (fault.kind == FaultKind::hang)
         std::this_thread::sleep_for(std::chrono::hours(1));
+}
+
+void endFault(const Fault& fault) {
+    if (fault.kind == FaultKind::dieAfter) std::_Exit(kKilled);
+}
+
+bool isDoneUnder(FaultKind kind) {
+    switch (kind) {
+        case FaultKind::done:
+        case FaultKind::goneAfter:
+        case FaultKind::dieAfter:
+        case FaultKind::late:
+        case FaultKind::old:
+        case FaultKind::garble:
+            return true;
+        default:
+            return false;
+    }
 }
 
 }  // namespace kxsim

@@ -18,7 +18,7 @@ public:
 
     /// The module and its cameras. `truthThird` and `truthPlatform` are nobody's business behind the library.
     virtual const fieldcal::session::SessionDescription& description() const = 0;
-    /// The same as the factory measured it, with what `description` hides. A new flash begins with its numbers.
+    /// The same as the factory measured it, with what `description` hides. A new parameter block has its numbers.
     virtual const fieldcal::session::SessionDescription& factory() const { return description(); }
     virtual double grabsPerSecond() const = 0;
 

@@ -9,16 +9,15 @@ bool ModuleState::fail(std::int32_t status) {
     return false;
 }
 
-bool ModuleState::succeeds(const FlashResult& result) {
+bool ModuleState::succeeds(const BlockResult& result) {
     if (!result.why.empty()) report(result.why);
-    gone_ = gone_ || result.status == KX_STATUS_NO_DEVICE;
     return result.ok() || fail(result.status);
 }
 
 bool ModuleState::loadCalibration() {
     std::string why;
     if (!temporaryBlock) {
-        if (!succeeds(flash->load(&activeBlock))) return false;
+        if (!succeeds(block->load(&activeBlock))) return false;
     } else if (makesSense(*temporaryBlock, &why)) {
         activeBlock = *temporaryBlock;
     } else {
@@ -29,20 +28,29 @@ bool ModuleState::loadCalibration() {
 }
 
 Gate ModuleState::pass(const char* operation, Stage atLeast) {
-    const std::optional<Fault> fault = settings.faults.strike(operation);
-    if (fault && fault->kind == FaultKind::hang) hang();
-    gone_ = gone_ || (fault && fault->kind == FaultKind::gone);
+    fault_ = settings.faults.strike(operation);
+    if (fault_) beginFault(*fault_);
+    gone_ = gone_ || (fault_ && fault_->kind == FaultKind::gone);
     bool open = false;
     if (gone_) {
         fail(KX_STATUS_NO_DEVICE);
-    } else if (fault && fault->kind == FaultKind::lie) {
+    } else if (fault_ && fault_->kind == FaultKind::lie) {
         return Gate::lie;
-    } else if (fault) {
-        fail(fault->status);
+    } else if (fault_ && !isDoneUnder(fault_->kind)) {
+        fail(static_cast<std::int32_t>(fault_->number));
     } else {
         open = stage >= atLeast || fail(KX_STATUS_FAILED);
     }
     return open ? Gate::open : Gate::refused;
+}
+
+/// After an operation that was done.
+bool ModuleState::endsWell() {
+    if (!fault_) return true;
+    endFault(*fault_);
+    gone_ = fault_->kind == FaultKind::goneAfter;
+    if (gone_) return fail(KX_STATUS_NO_DEVICE);
+    return fault_->kind != FaultKind::done || fail(static_cast<std::int32_t>(fault_->number));
 }
 
 bool ModuleState::enterCalibration(const char* operation) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "kxapi/KXAPI.h"
-#include "simulator/kxapi/FlashMemory.h"
+#include "simulator/kxapi/BlockStore.h"
 #include "simulator/kxapi/FrameSource.h"
 #include "simulator/kxapi/Settings.h"
 
@@ -18,13 +18,13 @@ struct ModuleState {
     Settings settings;
     Stage stage = Stage::closed;
     std::unique_ptr<FrameSource> source;  ///< set from `opened` on
-    std::unique_ptr<FlashMemory> flash;   ///< set from `opened` on
+    std::optional<BlockStore> block;      ///< set from `opened` on
     std::int32_t lastStatus = KX_STATUS_OK;
 
-    KXCalibRectParameters activeBlock{};                  ///< what the module works with
-    bool blockMakesSense = false;                         ///< `activeBlock`
-    std::optional<KXCalibRectParameters> temporaryBlock;  ///< to be used instead of the flash's from the next resuming
-    bool resting = false;                                 ///< `stopCapture` began a rest
+    Block activeBlock{};                  ///< what the module works with
+    bool blockMakesSense = false;         ///< `activeBlock`
+    std::optional<Block> temporaryBlock;  ///< to be used instead of the committed one from the next resuming
+    bool resting = false;                 ///< `stopCapture` began a rest
 
     bool depthModeSet = false;
     bool thirdModeSet = false;
@@ -36,7 +36,7 @@ struct ModuleState {
     /// Notes the status and returns false.
     bool fail(std::int32_t status);
     /// Whether it did; else reports and notes why not.
-    bool succeeds(const FlashResult& result);
+    bool succeeds(const BlockResult& result);
     /// Takes up the block that is to be used from now on.
     bool loadCalibration();
     /// Counts the call. False with a status when a fault hits it or the device is not that far.
@@ -45,8 +45,10 @@ struct ModuleState {
     template <typename Action>
     bool perform(const char* operation, Stage atLeast, Action action) {
         const Gate gate = pass(operation, atLeast);
-        return gate == Gate::lie || (gate == Gate::open && action());
+        return gate == Gate::lie || (gate == Gate::open && action() && endsWell());
     }
+    /// What hits the call that is under way.
+    const std::optional<Fault>& fault() const { return fault_; }
     /// For operations that need the capture to rest: ready, but not capturing.
     template <typename Action>
     bool performAtRest(const char* operation, Action action) {
@@ -63,8 +65,10 @@ struct ModuleState {
 
 private:
     Gate pass(const char* operation, Stage atLeast);
+    bool endsWell();
     bool rests() { return stage != Stage::capturing || fail(KX_STATUS_FAILED); }
 
+    std::optional<Fault> fault_;
     bool gone_ = false;  ///< unplugged or without power
 };
 

@@ -65,10 +65,14 @@ std::optional<Fault> RearCamera::strike(const char* operation) {
 template <typename Action>
 bool RearCamera::perform(const char* operation, Action action) {
     const std::optional<Fault> fault = strike(operation);
-    if (fault && fault->kind == FaultKind::hang) hang();
+    if (fault) beginFault(*fault);
     const std::lock_guard<std::mutex> lock(mutex_);
-    if (fault || gone_) return !gone_ && fault->kind == FaultKind::lie;
-    return action();
+    if (gone_) return false;
+    if (fault && fault->kind == FaultKind::lie) return true;
+    if ((fault && !isDoneUnder(fault->kind)) || !action()) return false;
+    if (fault) endFault(*fault);
+    gone_ = fault && fault->kind == FaultKind::goneAfter;
+    return !gone_ && !(fault && fault->kind == FaultKind::done);
 }
 
 bool RearCamera::openCamera() {

@@ -1,11 +1,9 @@
 #include "simulator/kxapi/Rectification.h"
 
+#include <opencv2/imgproc.hpp>
+
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstring>
-#include <functional>
-#include <future>
 
 namespace kxsim {
 namespace {
@@ -18,7 +16,8 @@ constexpr std::uint32_t kMaskX = 0x7FF;
 constexpr std::uint32_t kMaskY = 0x3FF;
 constexpr std::uint32_t kMaskFraction = 31;
 constexpr int kSteps = 32;
-constexpr std::uint32_t kBlack = 0xFF000000U;  // little-endian BGRA
+
+const cv::Vec2s kOutside(-100, -100);
 
 struct Point {
     double x, y;
@@ -47,75 +46,6 @@ std::uint32_t entry(int stepsX, int stepsY) {
     return kInside | (x / kSteps) << kShiftX | (y / kSteps) << kShiftY | (x % kSteps) << kShiftFractionX | y % kSteps;
 }
 
-using Words = std::uint16_t __attribute__((vector_size(16)));
-using Bytes = std::uint8_t __attribute__((vector_size(8)));
-
-/// Weights for eight words: two BGRA pixels side by side.
-struct Weights {
-    std::array<Words, kSteps> x;  ///< 32 - f for the left pixel, f for the right one
-    std::array<Words, kSteps> y;  ///< f everywhere
-};
-
-Weights makeWeights() {
-    Weights out{};
-    for (std::uint16_t f = 0; f < kSteps; ++f) {
-        const auto g = static_cast<std::uint16_t>(kSteps - f);
-        out.x[f] = Words{g, g, g, g, f, f, f, f};
-        out.y[f] = Words{f, f, f, f, f, f, f, f};
-    }
-    return out;
-}
-
-Words twoPixels(const std::uint8_t* source) {
-    Bytes bytes;
-    std::memcpy(&bytes, source, sizeof(bytes));
-    return __builtin_convertvector(bytes, Words);
-}
-
-/// Everything fits into 16 bits: 255 · 32, brought down to quarters of a grey level, times 32 again. The quarters are
-/// cut off, which makes up for what rounding quarters to the nearest adds on average.
-std::uint32_t interpolate(const std::uint8_t* upper, const std::uint8_t* lower, const Words& weightsX,
-                          const Words& weightsY) {
-    const Words top = twoPixels(upper);
-    const Words column = top * kSteps + (twoPixels(lower) - top) * weightsY;
-    const Words weighted = (column >> 3) * weightsX;
-    const Words swapped = __builtin_shufflevector(weighted, weighted, 4, 5, 6, 7, 0, 1, 2, 3);
-    const Bytes bytes = __builtin_convertvector((weighted + swapped + 64) >> 7, Bytes);
-    std::uint32_t pixel;
-    std::memcpy(&pixel, &bytes, sizeof(pixel));
-    return pixel;
-}
-
-struct Picture {
-    const std::uint32_t* table;
-    const std::uint8_t* source;
-    std::int32_t pitchPixels, width, height;
-    std::uint8_t* destination;
-};
-
-void rectifyRows(const Picture& picture, std::int32_t first, std::int32_t end) {
-    static const Weights weights = makeWeights();
-    const std::size_t pitch = std::size_t{4} * static_cast<std::size_t>(picture.pitchPixels);
-    const auto lastX = static_cast<std::uint32_t>(picture.width - 1);
-    const auto lastY = static_cast<std::uint32_t>(picture.height - 1);
-    for (auto row = static_cast<std::size_t>(first); row < static_cast<std::size_t>(end); ++row) {
-        const std::uint32_t* table = picture.table + row * static_cast<std::size_t>(picture.width);
-        std::uint8_t* target = picture.destination + row * pitch;
-        for (std::int32_t column = 0; column < picture.width; ++column, target += 4) {
-            const std::uint32_t from = *table++;
-            const std::uint32_t x = from >> kShiftX & kMaskX;
-            const std::uint32_t y = from >> kShiftY & kMaskY;
-            std::uint32_t pixel = kBlack;
-            if ((from & kInside) != 0 && x < lastX && y < lastY) {
-                const std::uint8_t* upper = picture.source + y * pitch + std::size_t{4} * x;
-                pixel = interpolate(upper, upper + pitch, weights.x[from >> kShiftFractionX & kMaskFraction],
-                                    weights.y[from & kMaskFraction]);
-            }
-            std::memcpy(target, &pixel, sizeof(pixel));
-        }
-    }
-}
-
 }  // namespace
 
 void fillRectificationTable(const KXCalibIntrinsicsNonRectified& raw, const double* rotation,
@@ -138,10 +68,24 @@ void fillRectificationTable(const KXCalibIntrinsicsNonRectified& raw, const doub
 void rectify(const std::uint32_t* table, const std::uint8_t* source, std::int32_t pitchPixels, std::int32_t width,
              std::int32_t height, std::uint8_t* destination) {
     if (width < 2 || height < 2 || pitchPixels < width) return;
-    const Picture picture{table, source, pitchPixels, width, height, destination};
-    auto lower = std::async(std::launch::async, rectifyRows, std::cref(picture), height / 2, height);
-    rectifyRows(picture, 0, height / 2);
-    lower.get();
+    cv::Mat points(height, width, CV_16SC2);
+    cv::Mat fractions(height, width, CV_16UC1);
+    for (int row = 0; row < height; ++row) {
+        auto* point = points.ptr<cv::Vec2s>(row);
+        auto* fraction = fractions.ptr<std::uint16_t>(row);
+        for (int column = 0; column < width; ++column, ++table) {
+            const auto x = static_cast<int>(*table >> kShiftX & kMaskX);
+            const auto y = static_cast<int>(*table >> kShiftY & kMaskY);
+            const bool inside = (*table & kInside) != 0 && x < width - 1 && y < height - 1;
+            point[column] = inside ? cv::Vec2s(static_cast<short>(x), static_cast<short>(y)) : kOutside;
+            const std::uint32_t fractionX = *table >> kShiftFractionX & kMaskFraction;
+            fraction[column] = static_cast<std::uint16_t>((*table & kMaskFraction) * kSteps + fractionX);
+        }
+    }
+    const std::size_t pitch = std::size_t{4} * static_cast<std::size_t>(pitchPixels);
+    const cv::Mat from(height, width, CV_8UC4, const_cast<std::uint8_t*>(source), pitch);
+    cv::Mat to(height, width, CV_8UC4, destination, pitch);
+    cv::remap(from, to, points, fractions, cv::INTER_LINEAR, cv::BORDER_CONSTANT, cv::Scalar(0, 0, 0, 255));
 }
 
 }  // namespace kxsim

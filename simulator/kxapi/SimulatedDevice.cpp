@@ -26,7 +26,7 @@ bool SimulatedDevice::openDevice(std::int32_t index) {
     });
 }
 
-/// The module's parts: its pictures and its flash.
+/// The module's parts: its pictures and its parameter block.
 bool SimulatedDevice::plugIn() {
     std::string why;
     std::unique_ptr<FrameSource> source = openSource(state_.settings, &why);
@@ -35,17 +35,16 @@ bool SimulatedDevice::plugIn() {
         return state_.fail(KX_STATUS_DEVICE_ERROR);
     }
     const fieldcal::session::SessionDescription& description = source->description();
-    auto flash = std::make_unique<FlashMemory>(flashFile(state_.settings, description.module.serial),
-                                               description.module.serial, &state_.settings.faults);
-    const FlashResult loaded = flash->open(factoryBlock(source->factory()), &state_.activeBlock);
+    BlockStore block(blockFile(state_.settings, description.module.serial));
+    const BlockResult loaded = block.open(factoryBlock(source->factory()), &state_.activeBlock);
     state_.blockMakesSense = loaded.ok();
     // A block that makes no sense is a calibration that is not valid; the module itself works, and can be written.
-    if (!state_.succeeds(loaded) && !flash->read(&state_.activeBlock).ok()) return false;
+    if (!state_.succeeds(loaded) && !block.read(&state_.activeBlock).ok()) return false;
     const auto& depth = description.depth;
     noDepth_.assign(static_cast<std::size_t>(depth.width) * static_cast<std::size_t>(depth.height), 0);
     right_.emplace(state_.settings.right, source->grabsPerSecond());
     state_.source = std::move(source);
-    state_.flash = std::move(flash);
+    state_.block = std::move(block);
     state_.stage = Stage::opened;
     return true;
 }
@@ -229,7 +228,12 @@ bool SimulatedDevice::zIntrinsics(KXCalibIntrinsicsRectified* out) {
 }
 
 bool SimulatedDevice::rectParameters(KXCalibRectParameters* out) {
-    return state_.enter("rectParameters", Stage::ready) && state_.succeeds(state_.flash->read(out));
+    if (!state_.enter("rectParameters", Stage::ready)) return false;
+    const std::optional<Fault>& fault = state_.fault();
+    const bool old = fault && fault->kind == FaultKind::old;
+    if (!state_.succeeds(old ? state_.block->readPrevious(out) : state_.block->read(out))) return false;
+    if (fault && fault->kind == FaultKind::garble) garble(out, fault->number);
+    return true;
 }
 
 KXPlatformCamera* SimulatedDevice::platformCamera() {

@@ -3,7 +3,6 @@
 #include "simulator/kxapi/ControlInterfaces.h"
 #include "simulator/kxapi/Pace.h"
 #include "simulator/kxapi/PlatformInterface.h"
-#include "simulator/kxapi/PrivateInterface.h"
 #include "simulator/kxapi/RightImages.h"
 #include "simulator/kxapi/ThirdInterface.h"
 

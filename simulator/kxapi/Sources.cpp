@@ -17,12 +17,12 @@ std::unique_ptr<FrameSource> openSource(const Settings& settings, std::string* w
     return openWorld(settings, why);
 }
 
-std::string flashFile(const Settings& settings, std::uint32_t serial) {
+std::string blockFile(const Settings& settings, std::uint32_t serial) {
     if (!settings.flash.empty() || !settings.session.empty()) return settings.flash;
     const QString folder =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/simulated-deepvane";
     QDir().mkpath(folder);
-    return QString("%1/module-%2.flash").arg(folder).arg(serial).toStdString();
+    return QString("%1/module-%2.block").arg(folder).arg(serial).toStdString();
 }
 
 }  // namespace kxsim

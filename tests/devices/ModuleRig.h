@@ -16,7 +16,7 @@
 
 namespace fieldcal::testing {
 
-/// The simulated module behind a real sensor: a tiny recording, a flash file, a scripted vendor's service.
+/// The simulated module behind a real sensor: a tiny recording, a file for its parameter block, a scripted vendor's service.
 class ModuleRig : public session::SessionFolder, protected SimulatedModule {
 protected:
     ModuleRig() : flashFile(temporary.filePath("flash")) {

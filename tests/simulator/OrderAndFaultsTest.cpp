@@ -199,6 +199,15 @@ TEST_F(Faults, ALieDoesNothing) {
     EXPECT_TRUE(device->startCapture() && device->stopCapture() && device->grab(true));
 }
 
+TEST_F(Faults, ALateCallDoesItsWork) {
+    set("KXSIM_FAULTS", "grab:1:late+200");
+    const std::shared_ptr<KXDevice> device = createCapturing();
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_TRUE(device->grab(true));
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(200));
+    EXPECT_NE(device->leftImage(), nullptr);
+}
+
 TEST_F(Faults, AHangingCallDoesNotReturnAndHoldsNothing) {
     set("KXSIM_FAULTS", "grab:1:hang,openCamera:1:hang");
     const auto returned = std::make_shared<std::atomic<int>>(0);
@@ -221,9 +230,10 @@ TEST_F(Faults, AHangingCallDoesNotReturnAndHoldsNothing) {
 TEST_F(Faults, MalformedOrdersKeepTheDeviceShut) {
     const QString malformed =
         "grab grab:1 grab:1:6:7 grap:1:6 grab:0:6 grab:-1:6 grab:x:6 grab:1:-6 grab:1:six grab:1:99999999999 "
-        "grab:1:6,, grab:1:6;x:1:2 : grab:1:Gone grab:1:powercut zIntrinsics:1:lie depthEnabled:1:lie flash:1:6 "
-        "flash:1:lie flash:0:die flash:1:powercut+ flash:1:powercut+-1 flash:1:powercut+1x flash:1:powercuts "
-        "grab\n:1:6";
+        "grab:1:6,, grab:1:6;x:1:2 : grab:1:Gone grab:1:powercut zIntrinsics:1:lie depthEnabled:1:gone-after "
+        "grab:1:old "
+        "grab:1:garble commitCalibration:1:garble grab:1:late grab:1:late+ grab:1:late+-1 grab:1:late+1x grab:1:done "
+        "grab:1:gone+1 living living-block:1:1 grab\n:1:6";
     for (const QString& order : malformed.split(' ')) {
         const std::string text = order.toStdString();
         set("KXSIM_FAULTS", text);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "devices/RearCameraSeam.h"
 #include "kxapi/Library.h"
+#include "kxapi/RearCameraSeam.h"
 #include "tests/session/TestSession.h"
 #include "tests/simulator/SimulatedModule.h"
 

@@ -41,7 +41,7 @@ TEST_F(WorldWorkflowTest, BothCamerasAreCalibratedOutOfAMovingHandWhichWalksOutI
         << "the rear camera stands 60 mm aside";
     EXPECT_THAT(user->dotted, ::testing::ElementsAre(State::RefiningCalibration));
     EXPECT_TRUE(stopAndSave().stored);
-    EXPECT_TRUE(QFile::exists(folder.filePath("simulated-deepvane/module-700005.flash")));
+    EXPECT_TRUE(QFile::exists(folder.filePath("simulated-deepvane/module-700005.block")));
 }
 
 }  // namespace

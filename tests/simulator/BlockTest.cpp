@@ -1,15 +1,20 @@
-#include "tests/simulator/FlashFixture.h"
+#include "kxapi/RotationUpdater.h"
+#include "tests/simulator/TestModule.h"
 
 #include <Eigen/Geometry>
 
 #include <cmath>
+#include <cstring>
 #include <random>
 
 namespace {
 
 using fieldcal::session::Matrix3;
-using fieldcal::session::readFile;
 using fieldcal::session::writeFile;
+
+/// Where the simulated block keeps the rotations.
+constexpr int kThirdRotation = 256;
+constexpr int kPlatformRotation = 512;
 
 using Matrix = Eigen::Matrix<double, 3, 3, Eigen::RowMajor>;
 
@@ -34,8 +39,39 @@ bool isNarrowed(const Matrix3& expected, const float* seen) {
                       [](double value, float told) { return static_cast<float>(value) == told; });
 }
 
-class Flash : public FlashTest {
+template <typename Record>
+QByteArray bytesOf(const Record& record) {
+    return {reinterpret_cast<const char*>(&record), sizeof(record)};
+}
+
+/// A module whose parameter block is a file.
+class BlockTest : public ModuleTest {
 protected:
+    BlockTest() : updater(KXRotationUpdater::load(&why)), file(temporary.path().toStdString() + "/block") {
+        set("KXSIM_FLASH", file);
+    }
+    void SetUp() override { ASSERT_TRUE(library != nullptr && updater != nullptr) << why; }
+
+    static KXCalibRectParameters blockOf(KXDevice* device) {
+        KXCalibRectParameters block{};
+        EXPECT_TRUE(device->rectParameters(&block)) << device->lastStatus();
+        return block;
+    }
+    /// What a device that is plugged in now reads.
+    QByteArray stored() const { return bytesOf(blockOf(createReady().get())); }
+
+    /// The block with this third rotation, a small one about Z.
+    KXCalibRectParameters turned(const KXCalibRectParameters& block, double angle) const {
+        const double rotation[9] = {std::cos(angle), -std::sin(angle), 0, std::sin(angle), std::cos(angle), 0, 0, 0, 1};
+        KXCalibRectParameters out{};
+        updater->updateThirdCamera(&block, rotation, &out);
+        return out;
+    }
+    static bool write(KXDevice* device, const KXCalibRectParameters& block) {
+        KXPrivate* memory = device->privateInterface();
+        return memory != nullptr && memory->writeRectParameters(&block, true) && memory->commitCalibration();
+    }
+
     /// Nine numbers of the rotation, three of the translation.
     using Extrinsics = std::vector<float>;
     static Extrinsics numbers(const KXCalibExtrinsics& told) {
@@ -53,13 +89,16 @@ protected:
         EXPECT_TRUE(device->platformCamera()->zToPlatformExtrinsics(&told));
         return numbers(told);
     }
+
+    std::shared_ptr<const KXRotationUpdater> updater;
+    std::string file;
 };
 
-TEST_F(Flash, ANewOneSaysBitForBitWhatTheRecordingSays) {
+TEST_F(BlockTest, ANewOneSaysBitForBitWhatTheRecordingSays) {
     set("KXSIM_FLASH", "");
     std::mt19937 random(3);
     std::normal_distribution<double> normal;
-    for (int i = 0; i < 400; ++i) {
+    for (int i = 0; i < 150; ++i) {
         // Quarter turns, rotations by next to nothing and any others.
         const double w = i < 4 ? i == 0 : i < 100 ? std::pow(10, i / 5.0) : normal(random);
         session.third.rotation = rotation(w, i == 1 || i > 3 ? normal(random) : 0, i == 2, i == 3 ? 1 : 0);
@@ -77,25 +116,7 @@ TEST_F(Flash, ANewOneSaysBitForBitWhatTheRecordingSays) {
     }
 }
 
-TEST_F(Flash, AFileIsLaidOutAsDocumented) {
-    const QByteArray block = stored();
-    const QByteArray made = readFile(flash);
-    ASSERT_EQ(made.size(), kImageBytes);
-    EXPECT_EQ(made.left(20).toHex(), "4b5853494d464c5301000000d56408004c9433bd");
-    EXPECT_EQ(made.mid(kBankA, 12).toHex(), "4b58424b0100000000080000");
-    EXPECT_EQ(made.mid(kBankA + kHeader, 2048), block);
-    EXPECT_EQ(made.mid(kBankB), QByteArray(2064, '\xff'));
-    EXPECT_EQ(withChecksums(made).left(kBankB), made.left(kBankB));
-    const KXCalibRectParameters next = turned(blockOf(createReady().get()), 0.1);
-    ASSERT_TRUE(write(createReady().get(), next));
-    const QByteArray written = readFile(flash);
-    EXPECT_EQ(written.left(kBankB), made.left(kBankB)) << "the other bank is not touched";
-    EXPECT_EQ(written.mid(kBankB, 12).toHex(), "4b58424b0200000000080000");
-    EXPECT_EQ(written.mid(kBankB + kHeader), bytesOf(next));
-    EXPECT_EQ(withChecksums(written), written);
-}
-
-TEST_F(Flash, TheCompanionChangesOneRotationAndNothingElse) {
+TEST_F(BlockTest, TheCompanionChangesOneRotationAndNothingElse) {
     KXCalibRectParameters block = blockOf(createReady().get());
     const QByteArray before = bytesOf(block);
     const Matrix3 wanted = rotation(9, 1, -2, 0.5);
@@ -111,7 +132,7 @@ TEST_F(Flash, TheCompanionChangesOneRotationAndNothingElse) {
     EXPECT_FALSE((a * b).isApprox(b * a, 1e-6)) << "the order of the matrices must matter";
 }
 
-TEST_F(Flash, AWriteCountsAfterItsCommitAndWorksAfterTheRest) {
+TEST_F(BlockTest, AWriteCountsAfterItsCommitAndWorksAfterTheRest) {
     const std::shared_ptr<KXDevice> device = createCapturing();
     const KXCalibRectParameters before = blockOf(device.get());
     const Extrinsics thirdBefore = third(device.get());
@@ -141,19 +162,7 @@ TEST_F(Flash, AWriteCountsAfterItsCommitAndWorksAfterTheRest) {
     EXPECT_EQ(third(createReady().get()), third(device.get()));
 }
 
-TEST_F(Flash, ATemporaryBlockIsForgottenWithThePower) {
-    const std::shared_ptr<KXDevice> device = createCapturing();
-    const KXCalibRectParameters before = blockOf(device.get());
-    const KXCalibRectParameters next = turned(before, 0.25);
-    ASSERT_TRUE(device->stopCapture() && device->privateInterface()->writeRectParameters(&next, false));
-    EXPECT_FALSE(device->privateInterface()->commitCalibration());
-    ASSERT_TRUE(device->resumeDevice());
-    EXPECT_NE(third(device.get()), third(createReady().get()));
-    EXPECT_EQ(bytesOf(blockOf(device.get())), bytesOf(before));
-    EXPECT_EQ(stored(), bytesOf(before));
-}
-
-TEST_F(Flash, WithoutAFileAWriteIsForgottenWithTheDeviceAndSaysSo) {
+TEST_F(BlockTest, WithoutAFileAWriteIsForgottenWithTheDeviceAndSaysSo) {
     set("KXSIM_FLASH", "");
     const std::shared_ptr<KXDevice> device = createReady();
     const KXCalibRectParameters before = blockOf(device.get());
@@ -164,27 +173,9 @@ TEST_F(Flash, WithoutAFileAWriteIsForgottenWithTheDeviceAndSaysSo) {
               "KXAPI: no KXSIM_FLASH: what was written is gone with this device\n");
     EXPECT_EQ(bytesOf(blockOf(device.get())), bytesOf(next));
     EXPECT_EQ(stored(), bytesOf(before));
-    EXPECT_FALSE(device->resumeDevice()) << "there was no capture";
 }
 
-TEST_F(Flash, AFileThatVanishesFailsTheWriteInOneLine) {
-    const std::shared_ptr<KXDevice> device = createReady();
-    const KXCalibRectParameters block = blockOf(device.get());
-    ASSERT_TRUE(device->privateInterface()->writeRectParameters(&block, true));
-    QFile::remove(QString::fromStdString(flash));
-    QDir().mkpath(QString::fromStdString(flash));
-    ::testing::internal::CaptureStderr();
-    EXPECT_FALSE(device->privateInterface()->commitCalibration());
-    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "KXAPI: " + flash + ": not a regular file\n");
-    EXPECT_EQ(device->lastStatus(), 6);
-    EXPECT_FALSE(write(device.get(), block));
-    EXPECT_EQ(device->lastStatus(), 6);
-    EXPECT_EQ(opening().second, 6);
-    set("KXSIM_FLASH", folder + "/nowhere/flash");
-    EXPECT_EQ(opening().second, 6);
-}
-
-TEST_F(Flash, NonsenseIsStoredButNeitherLoadedNorInTheWayOfABetterBlock) {
+TEST_F(BlockTest, AFileThatIsNoBlockIsNamedInOneLineAndABadBlockCanBeReplaced) {
     const std::shared_ptr<KXDevice> device = createCapturing();
     const KXCalibRectParameters good = blockOf(device.get());
     KXCalibRectParameters bad = good;
@@ -192,35 +183,70 @@ TEST_F(Flash, NonsenseIsStoredButNeitherLoadedNorInTheWayOfABetterBlock) {
     ASSERT_TRUE(device->stopCapture() && write(device.get(), bad));
     EXPECT_FALSE(device->resumeDevice());
     EXPECT_EQ(device->lastStatus(), 4);
-    EXPECT_EQ(opening(), std::make_pair("KXAPI: " + flash + ": rectificationThird: not a rotation\n", 0));
+    EXPECT_EQ(opening(), std::make_pair("KXAPI: " + file + ": rectificationThird: not a rotation\n", 0));
     EXPECT_FALSE(createReady()->calibrationValid());
-    EXPECT_TRUE(write(device.get(), good) && device->resumeDevice() && device->grab(true));
-    EXPECT_EQ(opening().second, 0);
+    EXPECT_TRUE(write(device.get(), good) && device->resumeDevice() && device->grab(true) && device->stopCapture());
+
+    writeFile(file, QByteArray(2047, 'x'));
+    EXPECT_EQ(opening(), std::make_pair("KXAPI: " + file + ": not the size of a parameter block\n", 6));
+    QFile::remove(QString::fromStdString(file));
+    QDir().mkpath(QString::fromStdString(file));
+    EXPECT_EQ(opening(), std::make_pair("KXAPI: " + file + ": not a regular file\n", 6));
+    EXPECT_FALSE(write(device.get(), good));
+    EXPECT_EQ(device->lastStatus(), 6);
+    set("KXSIM_FLASH", folder + "/nowhere/block");
+    EXPECT_EQ(opening().second, 6);
 }
 
-TEST_F(Flash, APowerCutLeavesTheOldOrTheNewBlockAndAFlashThatCanBeWritten) {
-    const KXCalibRectParameters older = turned(blockOf(createReady().get()), 0.1), newer = turned(older, -0.2);
-    ASSERT_TRUE(write(createReady().get(), older));
-    const QByteArray image = readFile(flash);  // of two whole banks
-    const auto cut = [&](int step, int bytes) {
-        SCOPED_TRACE("flash:" + std::to_string(step) + ":powercut+" + std::to_string(bytes));
-        writeFile(flash, image);
-        set("KXSIM_FAULTS", "flash:" + std::to_string(step) + ":powercut+" + std::to_string(bytes));
+TEST_F(BlockTest, FaultsOfWritingAndReadingDoWhatTheyAreCalled) {
+    const QByteArray before = stored();
+    const KXCalibRectParameters next = turned(blockOf(createReady().get()), 0.25);
+    const auto after = [&](const char* faults, bool succeeds) {
+        set("KXSIM_FAULTS", faults);
         const std::shared_ptr<KXDevice> device = createReady();
-        EXPECT_FALSE(write(device.get(), newer) || device->grab(true));
-        EXPECT_EQ(device->lastStatus(), 5) << "without power nothing works";
+        EXPECT_EQ(write(device.get(), next), succeeds) << faults;
+        KXCalibRectParameters seen{};
+        const bool reads = device->rectParameters(&seen);
         set("KXSIM_FAULTS", "");
-        const bool isLast = step == kLastStep, isWhole = isLast && bytes >= kHeader;
-        EXPECT_TRUE((stored() == bytesOf(older) && !isWhole) || (stored() == bytesOf(newer) && isLast));
-        const KXCalibRectParameters last = turned(older, 0.3);
-        EXPECT_TRUE(write(createReady().get(), last));
-        EXPECT_EQ(stored(), bytesOf(last));
+        const QByteArray kept = stored();
+        QFile::remove(QString::fromStdString(file));
+        return std::make_tuple(reads ? bytesOf(seen) : QByteArray(), kept);
     };
-    for (int step = 1; step <= kLastStep; ++step) {
-        const int size = step == 1 ? 2064 : step == kLastStep ? kHeader : 64;
-        for (const int bytes : {0, size / 2, size})
-            cut(step, bytes);
+    const QByteArray written = bytesOf(next), nothing;
+    QByteArray garbled = written;
+    garbled[7] = static_cast<char>(garbled[7] ^ 0x40);
+    EXPECT_EQ(after("commitCalibration:1:gone", false), std::make_tuple(nothing, before));
+    EXPECT_EQ(after("commitCalibration:1:gone-after", false), std::make_tuple(nothing, written));
+    EXPECT_EQ(after("commitCalibration:1:lie", true), std::make_tuple(before, before));
+    EXPECT_EQ(after("commitCalibration:1:done+6", false), std::make_tuple(written, written));
+    EXPECT_EQ(after("writeRectParameters:1:garble+7", true), std::make_tuple(garbled, garbled));
+    EXPECT_EQ(after("rectParameters:1:garble+7", true), std::make_tuple(garbled, written));
+    EXPECT_EQ(after("rectParameters:1:old", true), std::make_tuple(before, written));
+    EXPECT_EQ(after("rectParameters:1:6", true), std::make_tuple(nothing, written));
+
+    set("KXSIM_FAULTS", "living-block");
+    const std::shared_ptr<KXDevice> device = createReady();
+    ASSERT_TRUE(write(device.get(), next));
+    const QByteArray first = bytesOf(blockOf(device.get()));
+    EXPECT_EQ(first.left(2040), written.left(2040));
+    ASSERT_TRUE(write(device.get(), next));
+    EXPECT_NE(first, bytesOf(blockOf(device.get()))) << "it is never the same again";
+}
+
+#if !defined(_WIN32)
+TEST_F(BlockTest, ARearCameraThatIsHiddenIsInTheBlockAllTheSame) {
+    set("KXSIM_SESSION", "");
+    const QByteArray factory = stored();
+    for (const char* hidden : {"absent", "uncalibrated"}) {
+        set("KXSIM_FLASH", file + hidden);
+        set("KXSIM_PLATFORM", hidden);
+        EXPECT_EQ(createReady()->platformCamera(), nullptr);
+        EXPECT_EQ(stored(), factory) << hidden;
+        set("KXSIM_PLATFORM", "calibrated");
+        EXPECT_NE(createReady()->platformCamera(), nullptr);
+        EXPECT_EQ(stored(), factory) << "a later run, after " << hidden;
     }
 }
+#endif
 
 }  // namespace
