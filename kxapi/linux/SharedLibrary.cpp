@@ -15,6 +15,10 @@ std::string programFolder() {
     return full.substr(0, full.rfind('/') + 1);
 }
 
+bool exists(const std::string& path) {
+    return access(path.c_str(), F_OK) == 0;
+}
+
 /// Set once libraries come from nowhere else.
 std::string& onlyFolder() {
     static std::string folder;
@@ -24,12 +28,14 @@ std::string& onlyFolder() {
 }  // namespace
 
 void* openSharedLibrary(const char* name, std::string* why) {
-    const std::string file = std::string("lib") + name + ".so";
     const bool restricted = !onlyFolder().empty();
-    const std::string own = (restricted ? onlyFolder() : programFolder()) + file;
+    const std::string folder = restricted ? onlyFolder() : programFolder();
+    const std::string adapter = folder + "lib" + name + "Adapter.so";
+    const std::string file = std::string("lib") + name + ".so";
     // A library that is there but broken must be reported as such, not hidden behind "not found".
-    const bool ownExists = restricted || access(own.c_str(), F_OK) == 0;
-    void* handle = dlopen(ownExists ? own.c_str() : file.c_str(), RTLD_NOW | RTLD_LOCAL);
+    std::string chosen = restricted || exists(folder + file) ? folder + file : file;
+    if (!restricted && exists(adapter)) chosen = adapter;
+    void* handle = dlopen(chosen.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (handle == nullptr) {
         const char* text = dlerror();
         *why = text != nullptr ? text : "the library could not be loaded";

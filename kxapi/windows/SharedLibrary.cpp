@@ -31,7 +31,9 @@ std::wstring widened(const char* ascii) {
 void* openSharedLibrary(const char* name, std::string* why) {
     const std::wstring file = widened(name) + L".dll";
     const bool restricted = !onlyFolder().empty();
-    const std::wstring own = (restricted ? onlyFolder() : programFolder()) + file;
+    const std::wstring folder = restricted ? onlyFolder() : programFolder();
+    const std::wstring adapter = folder + widened(name) + L"Adapter.dll";
+    const std::wstring own = !restricted && exists(adapter) ? adapter : folder + file;
     // Neither the current folder nor those of PATH, which others may write: this program has an administrator's rights.
     const HMODULE module =
         restricted || exists(own)
