@@ -16,35 +16,67 @@ struct ModuleRecords {
     KXCalibExtrinsics zToThird{};
 };
 
+struct StreamSize {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+};
+
+struct StreamSizes {
+    StreamSize infrared, depth, third;
+};
+
 void log(const char* name, const KXCalibIntrinsicsRectified& record) {
     qInfo("getCalibIntrinsics%s output: fx=%f, fy=%f, cx=%f, cy=%f, w=%i, h=%i", name, record.fx, record.fy, record.cx,
           record.cy, record.w, record.h);
 }
 
-bool readModule(Sensor& sensor, KXDevice& device, ModuleRecords* out) {
-    KXThirdCamera* third = sensor.thirdCamera();
-    if (!sensor.read(third, &KXThirdCamera::rectifiedThirdIntrinsics, &out->third) ||
-        !sensor.read(&device, &KXDevice::rectifiedLRIntrinsics, &out->leftRight) ||
-        !sensor.read(&device, &KXDevice::zIntrinsics, &out->z) ||
-        !sensor.read(third, &KXThirdCamera::zToThirdExtrinsics, &out->zToThird)) {
-        return false;
-    }
-    log("RectThird", out->third);
-    log("RectLeftRight", out->leftRight);
-    log("Z", out->z);
-    return true;
+std::optional<ModuleRecords> readModule(ModuleLink& link, KXThirdCamera* third) {
+    KXDevice* device = link.device().get();
+    const auto colour = link.read(third, &KXThirdCamera::rectifiedThirdIntrinsics);
+    if (!colour) return std::nullopt;
+    const auto leftRight = link.read(device, &KXDevice::rectifiedLRIntrinsics);
+    if (!leftRight) return std::nullopt;
+    const auto z = link.read(device, &KXDevice::zIntrinsics);
+    if (!z) return std::nullopt;
+    const auto zToThird = link.read(third, &KXThirdCamera::zToThirdExtrinsics);
+    if (!zToThird) return std::nullopt;
+    log("RectThird", *colour);
+    log("RectLeftRight", *leftRight);
+    log("Z", *z);
+    return ModuleRecords{*colour, *leftRight, *z, *zToThird};
 }
 
-bool refuse(Sensor& sensor, const char* line) {
+bool refuse(ModuleLink& link, const char* line) {
     qCritical("%s", line);
-    sensor.reportInvalidCalibration();
+    link.reportInvalidCalibration();
     return false;
 }
 
-bool fillModule(Sensor& sensor, const ModuleRecords& records, CameraParameters* out) {
+/// A calibration for pictures of another size moves every point, and nothing would match.
+bool fitsStream(const char* name, const KXCalibIntrinsicsRectified& record, const StreamSize& stream) {
+    if (record.w == stream.width && record.h == stream.height) return true;
+    qCritical("The %s pictures have %i x %i pixels, but their calibration is for %i x %i.", name, stream.width,
+              stream.height, record.w, record.h);
+    return false;
+}
+
+bool fitStreams(ModuleLink& link, KXThirdCamera* third, const ModuleRecords& records) {
+    const auto sizes = link.ask([device = link.device().get(), third] {
+        return std::optional(StreamSizes{{device->lrWidth(), device->lrHeight()},
+                                         {device->depthWidth(), device->depthHeight()},
+                                         {third->thirdWidth(), third->thirdHeight()}});
+    });
+    if (!sizes) return false;
+    const bool infrared = fitsStream("infrared", records.leftRight, sizes->infrared);
+    const bool depth = fitsStream("depth", records.z, sizes->depth);
+    const bool colour = fitsStream("in-module colour", records.third, sizes->third);
+    return (infrared && depth && colour) || refuse(link, "The calibration of the module does not fit its pictures.");
+}
+
+bool fillModule(ModuleLink& link, const ModuleRecords& records, CameraParameters* out) {
     if (!isUsable(records.third) || !isUsable(records.leftRight) || !isUsable(records.z) ||
         !isUsable(records.zToThird)) {
-        return refuse(sensor, "The calibration of the module cannot be used.");
+        return refuse(link, "The calibration of the module cannot be used.");
     }
     out->infrared = modelOf(records.leftRight);
     out->depth = modelOf(records.z);
@@ -53,29 +85,28 @@ bool fillModule(Sensor& sensor, const ModuleRecords& records, CameraParameters* 
     const ColourFactors factors = factorsToInfrared(out->inModuleColour, out->infrared);
     qInfo("scaleFxThirdToIr = %f, scaleFyThirdToIr = %f", factors.sx, factors.sy);
     if (!bringIntoInfraredGeometry(factors, &out->inModuleColour, &out->inModuleScaling)) {
-        return refuse(sensor, "The scale of the in-module colour camera cannot be used.");
+        return refuse(link, "The scale of the in-module colour camera cannot be used.");
     }
-    sensor.setThirdScaledSize(out->inModuleColour.width, out->inModuleColour.height);
     qInfo("xResThirdScaledToIr: %i", out->inModuleColour.width);
     qInfo("yResThirdScaledToIr: %i", out->inModuleColour.height);
     return true;
 }
 
-bool fillPlatform(Sensor& sensor, KXDevice& device, CameraParameters* out) {
-    // What fails in here is logged, and no fault of the module's; only a camera that does not answer is one.
-    const auto platform = std::make_shared<PlatformParameters>();
-    const auto usable = std::make_shared<bool>(false);
-    const auto call = [=, from = &device, library = sensor.library(), infrared = out->infrared] {
-        KXPlatformCamera* camera = from->platformCamera();
-        *usable = camera != nullptr && readPlatformParameters(*camera, *library, infrared, platform.get());
-        return true;
+/// What fails in here is logged, and no fault of the module's; only a camera that does not answer is one.
+void fillPlatform(ModuleLink& link, ModuleCalibration* out) {
+    const auto call = [device = link.device().get(), library = link.library(), infrared = out->parameters.infrared] {
+        std::optional<PlatformParameters> platform(PlatformParameters{});
+        KXPlatformCamera* camera = device->platformCamera();
+        const bool usable = camera != nullptr && readPlatformParameters(*camera, *library, infrared, &*platform);
+        if (!usable) platform.reset();
+        return std::make_optional(std::move(platform));
     };
-    if (!sensor.ask(call) || !*usable) return false;
-    out->outOfModuleColour = platform->model;
-    out->depthToOutOfModule = platform->extrinsics;
-    out->outOfModuleScaling = platform->scaling;
-    sensor.usePlatformCalibration(std::move(platform->calibration), platform->model.width, platform->model.height);
-    return true;
+    auto platform = link.ask(call).value_or(std::nullopt);
+    if (!platform) return;
+    out->parameters.outOfModuleColour = platform->model;
+    out->parameters.depthToOutOfModule = platform->extrinsics;
+    out->parameters.outOfModuleScaling = platform->scaling;
+    out->platform = std::move(platform->calibration);
 }
 
 void logParameters(const CameraParameters& parameters) {
@@ -89,33 +120,34 @@ void logParameters(const CameraParameters& parameters) {
 
 }  // namespace
 
+std::optional<ModuleCalibration> readCalibration(ModuleLink& link, KXThirdCamera* third) {
+    const auto valid = link.ask([device = link.device().get()] { return std::optional(device->calibrationValid()); });
+    if (!valid) return std::nullopt;
+    if (!*valid) {
+        refuse(link, "Calibration was reported to be invalid...");
+        return std::nullopt;
+    }
+    const auto records = readModule(link, third);
+    ModuleCalibration calibration;
+    calibration.parameters.depthToOutOfModule.rotation.fill(0);
+    if (!records || !fillModule(link, *records, &calibration.parameters) || !fitStreams(link, third, *records)) {
+        return std::nullopt;
+    }
+    fillPlatform(link, &calibration);
+    if (link.faulted()) return std::nullopt;
+    logParameters(calibration.parameters);
+    return calibration;
+}
+
 bool readCameraParameters(Sensor& sensor, CameraParameters* out,
                           const std::function<void()>& forceSingleCameraCalibration) {
-    const std::shared_ptr<KXDevice> device = sensor.device();
     if (!sensor.opened() || sensor.faulted()) return false;
-    const auto valid = std::make_shared<bool>(false);
-    const auto askWhetherValid = [device, valid] {
-        *valid = device->calibrationValid();
-        return true;
-    };
-    if (!sensor.ask(askWhetherValid)) return false;
-    if (!*valid) return refuse(sensor, "Calibration was reported to be invalid...");
-
-    ModuleRecords records;
-    CameraParameters parameters;
-    if (!readModule(sensor, *device, &records) || !fillModule(sensor, records, &parameters)) return false;
-    const bool withPlatform = fillPlatform(sensor, *device, &parameters);
-    if (sensor.faulted()) return false;
-    const Rotation& platformRotation = parameters.depthToOutOfModule.rotation;
-    sensor.setRotationsInFlash(parameters.depthToInModule.rotation,
-                               withPlatform ? std::optional<Rotation>(platformRotation) : std::nullopt);
-    if (!withPlatform) {
-        sensor.disablePlatformCamera();
-        parameters.depthToOutOfModule.rotation.fill(0);
-        forceSingleCameraCalibration();
-    }
-    logParameters(parameters);
-    *out = parameters;
+    std::optional<ModuleCalibration> calibration = readCalibration(sensor.link(), sensor.thirdCamera());
+    if (!calibration) return false;
+    *out = calibration->parameters;
+    const bool withPlatform = calibration->platform.has_value();
+    sensor.use(std::move(*calibration));
+    if (!withPlatform) forceSingleCameraCalibration();
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "devices/ColourConversion.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace fieldcal {
@@ -18,6 +19,12 @@ void copy(ImageFrame16* record, std::int32_t width, std::int32_t height, const s
     record->assign(static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height), pixels);
 }
 
+bool holds(const ImageFrame16& record, std::int32_t width, std::int32_t height, const std::uint16_t* pixels) {
+    return record.width() == static_cast<std::uint32_t>(width) &&
+           record.height() == static_cast<std::uint32_t>(height) &&
+           std::memcmp(record.pixels(), pixels, record.byteCount()) == 0;
+}
+
 /// Without pixels the record becomes empty.
 void copyOrEmpty(ImageFrame16* record, std::int32_t width, std::int32_t height, const std::uint16_t* pixels) {
     if (pixels == nullptr || !isPlausiblePictureSize(width, height)) record->resize(0, 0);
@@ -31,6 +38,18 @@ bool hasSize(const ImageFrame32& record, const SensorSettings& settings) {
 
 }  // namespace
 
+void Pairing::follow(const StreamNews& infrared, const StreamNews& colour, Clock::time_point infraredAt,
+                     Clock::time_point colourAt) {
+    if (infrared.delivered) infraredAt_ = infraredAt;
+    if (colour.delivered) colourAt_ = colourAt;
+    if (infrared.changed || colour.changed) isPair_ = infrared.changed && colour.changed;
+}
+
+std::optional<Pairing::Clock::duration> Pairing::age(Clock::time_point now) const {
+    if (!isPair_ || !infraredAt_ || !colourAt_) return std::nullopt;
+    return now - std::min(*infraredAt_, *colourAt_);
+}
+
 bool FrameAcquisition::sizeRecords(KXDevice& device, KXThirdCamera& third) {
     return size(&records.depth, device.depthWidth(), device.depthHeight()) &&
            size(&records.leftInfrared, device.lrWidth(), device.lrHeight()) &&
@@ -39,11 +58,18 @@ bool FrameAcquisition::sizeRecords(KXDevice& device, KXThirdCamera& third) {
 }
 
 void FrameAcquisition::refresh(KXDevice& device, KXThirdCamera* third, const SensorSettings& settings) {
+    leftNews = thirdNews = depthNews = {};
     if (settings.depthEnabled && device.depthEnabled()) {
-        copy(&records.depth, device.depthWidth(), device.depthHeight(), device.depthImage());
+        const std::uint16_t* pixels = device.depthImage();
+        depthNews.delivered = pixels != nullptr;
+        copy(&records.depth, device.depthWidth(), device.depthHeight(), pixels);
     }
     if (settings.leftEnabled && device.leftEnabled()) {
-        copy(&records.leftInfrared, device.lrWidth(), device.lrHeight(), device.leftImage());
+        const std::uint16_t* pixels = device.leftImage();
+        const ImageFrame16& left = records.leftInfrared;
+        leftNews.delivered = pixels != nullptr;
+        leftNews.changed = pixels != nullptr && !holds(left, device.lrWidth(), device.lrHeight(), pixels);
+        copy(&records.leftInfrared, device.lrWidth(), device.lrHeight(), pixels);
     }
     if (settings.rightEnabled && device.rightEnabled()) {
         copyOrEmpty(&records.rightInfrared, device.lrWidth(), device.lrHeight(), device.rightImage());
@@ -59,7 +85,9 @@ void FrameAcquisition::refreshThird(KXThirdCamera& third, const SensorSettings& 
     const std::uint8_t* pixels = third.thirdImage();
     if (pixels == nullptr || !isPlausiblePictureSize(width, height)) return;
     if (!isPlausiblePictureSize(settings.thirdScaledWidth, settings.thirdScaledHeight)) return;
-    if (!keepIfNew(pixels, width, height) && hasSize(records.inModuleColour, settings)) return;
+    thirdNews.delivered = true;
+    thirdNews.changed = keepIfNew(pixels, width, height);
+    if (!thirdNews.changed && hasSize(records.inModuleColour, settings)) return;
     scaleIntoRecord(third_, settings.thirdScaledWidth, settings.thirdScaledHeight, &scaledThird_,
                     &records.inModuleColour);
 }

@@ -6,6 +6,9 @@
 
 #include <opencv2/core.hpp>
 
+#include <chrono>
+#include <optional>
+
 namespace fieldcal {
 
 /// The latest frame of every stream. The infrared and depth records have the module's own sizes, the colour records
@@ -16,6 +19,29 @@ struct FrameRecords {
     ImageFrame16 depth;
     ImageFrame32 inModuleColour;
     ImageFrame32 outOfModuleColour;
+};
+
+/// What a grab brought of a stream.
+struct StreamNews {
+    bool delivered = false;  ///< a picture
+    bool changed = false;    ///< another one than the grab before
+};
+
+/// Whether the infrared and the colour picture in the records were delivered together. A picture that stands still
+/// while the other one goes on is of another moment, as is every second colour picture, and must not be matched with
+/// it; where both stand still, as in a recording of stills, they stay a pair.
+class Pairing {
+public:
+    using Clock = std::chrono::steady_clock;
+
+    void follow(const StreamNews& infrared, const StreamNews& colour, Clock::time_point infraredAt,
+                Clock::time_point colourAt);
+    /// How old the older picture of the pair is; empty when they are none.
+    std::optional<Clock::duration> age(Clock::time_point now) const;
+
+private:
+    bool isPair_ = false;
+    std::optional<Clock::time_point> infraredAt_, colourAt_;
 };
 
 /// Copies the module's own streams into the records after a successful device grab. One thread.
@@ -30,6 +56,7 @@ public:
     void refresh(KXDevice& device, KXThirdCamera* third, const SensorSettings& settings);
 
     FrameRecords records;
+    StreamNews leftNews, thirdNews, depthNews;  ///< of the last `refresh`
 
 private:
     void refreshThird(KXThirdCamera& third, const SensorSettings& settings);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <condition_variable>
 #include <cstddef>
 #include <cstdint>
@@ -15,7 +16,8 @@ struct QueuedPicture {
     std::int32_t width = 0;
     std::int32_t height = 0;
     std::uint32_t sequence = 0;
-    double timeSeconds = 0;
+    double timeSeconds = 0;                           ///< the camera's own time stamp
+    std::chrono::steady_clock::time_point arrived{};  ///< here
 };
 
 /// Hands NV12 pictures from the camera's thread to the thread that grabs. The reader always gets the newest one;

@@ -60,7 +60,7 @@ QString decode(const QByteArray& bytes, ParameterBackup* out) {
     out->serial = number(12);
     out->taken = QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
     std::memcpy(&out->block, bytes.constData() + kHeaderBytes, sizeof(out->block));
-    const char* wrong = matrixThatIsNoRotation(out->block, false);
+    const char* wrong = matrixThatIsNoRotation(out->block, true, false);
     return wrong != nullptr ? QString("%1: not a rotation").arg(wrong) : QString();
 }
 
@@ -71,14 +71,9 @@ bool refuse(const QString& file, const QString& reason, QString* why) {
 
 }  // namespace
 
-bool sameBytes(const KXCalibRectParameters& a, const KXCalibRectParameters& b) {
-    const auto* bytes = reinterpret_cast<const std::uint8_t*>(&a);
-    return std::equal(bytes, bytes + sizeof(a), reinterpret_cast<const std::uint8_t*>(&b));
-}
-
-const char* matrixThatIsNoRotation(const KXCalibRectParameters& block, bool withPlatform) {
+const char* matrixThatIsNoRotation(const KXCalibRectParameters& block, bool withThird, bool withPlatform) {
     if (!isRotation(block.rectificationInfrared, kRotationTolerance)) return "infrared rectification";
-    if (!isRotation(block.rectificationThird, kRotationTolerance)) return "third rectification";
+    if (withThird && !isRotation(block.rectificationThird, kRotationTolerance)) return "third rectification";
     if (withPlatform && !isRotation(block.rectificationPlatform, kRotationTolerance)) return "platform rectification";
     return nullptr;
 }

@@ -28,10 +28,9 @@ bool writeBackup(const QString& file, const ParameterBackup& backup, QString* wh
 /// False, `why` ("FILE: what: reason") and `out` untouched unless every byte makes sense.
 bool readBackup(const QString& file, ParameterBackup* out, QString* why);
 
-bool sameBytes(const KXCalibRectParameters& a, const KXCalibRectParameters& b);
-
-/// The name of a matrix of the block that is not a rotation; null when all are. A module that knows no platform camera
-/// may hold anything in that camera's place, so a backup is read without judging it.
-const char* matrixThatIsNoRotation(const KXCalibRectParameters& block, bool withPlatform);
+/// The name of a matrix of the block that is not a rotation; null when all are. The infrared one always counts. A
+/// module that knows no platform camera may hold anything in that camera's place, so a backup is read without judging
+/// it.
+const char* matrixThatIsNoRotation(const KXCalibRectParameters& block, bool withThird, bool withPlatform);
 
 }  // namespace fieldcal

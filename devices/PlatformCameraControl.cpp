@@ -60,14 +60,9 @@ bool CPlatformCameraControl::setupPhotoStream(std::int32_t width, std::int32_t h
            backend_->setupStream(PlatformCameraBackend::Stream::Photo, width, height, 0, subtype);
 }
 
-bool CPlatformCameraControl::latestFrame(const std::uint8_t** pixels, std::int32_t* width, std::int32_t* height,
-                                         std::int32_t waitMilliseconds) {
-    QueuedPicture picture;
-    if (!queue_.latest(handedOut_ ? 0 : waitMilliseconds, &picture)) return false;
+bool CPlatformCameraControl::latestFrame(QueuedPicture* out, std::int32_t waitMilliseconds) {
+    if (!queue_.latest(handedOut_ ? 0 : waitMilliseconds, out)) return false;
     handedOut_ = true;
-    *pixels = picture.pixels;
-    *width = picture.width;
-    *height = picture.height;
     return true;
 }
 
@@ -83,7 +78,7 @@ bool CPlatformCameraControl::awaitFirstFrame(const std::atomic<bool>* stop) cons
 void CPlatformCameraControl::onPicture(const std::uint8_t* nv12, std::int32_t width, std::int32_t height,
                                        double timeSeconds) {
     const std::uint32_t sequence = frameCounter_++;
-    if (queue_.push({nv12, width, height, sequence, timeSeconds})) frameReady_ = true;
+    if (queue_.push({nv12, width, height, sequence, timeSeconds, std::chrono::steady_clock::now()})) frameReady_ = true;
 }
 
 }  // namespace fieldcal

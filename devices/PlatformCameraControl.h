@@ -35,8 +35,7 @@ public:
     /// The newest NV12 picture of the record stream, valid until the next call; false when there is nothing newer
     /// than the last one. Waits at most `waitMilliseconds`, and only as long as no picture was ever handed out:
     /// afterwards the caller has one to keep, and the depth stream must not wait for the rear camera's pace.
-    bool latestFrame(const std::uint8_t** pixels, std::int32_t* width, std::int32_t* height,
-                     std::int32_t waitMilliseconds);
+    bool latestFrame(QueuedPicture* out, std::int32_t waitMilliseconds);
 
     /// Set once the first picture has arrived.
     bool frameReady() const { return frameReady_; }

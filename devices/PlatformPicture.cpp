@@ -37,13 +37,20 @@ bool PlatformPicture::hasDied() const {
 
 bool PlatformPicture::take(CPlatformCameraControl& camera) {
     nv12_ = nullptr;
-    const std::uint8_t* newest = nullptr;
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-    if (!camera.latestFrame(&newest, &width, &height, kLatestFrameWaitMs)) return false;
-    if (width != kPlatformPictureWidth || height != kPlatformPictureHeight) return false;
-    nv12ToBgra(newest, width, height, &raw_);
-    nv12_ = newest;
+    changed_ = false;
+    QueuedPicture newest;
+    if (!camera.latestFrame(&newest, kLatestFrameWaitMs)) return false;
+    if (newest.width != kPlatformPictureWidth || newest.height != kPlatformPictureHeight) return false;
+    nv12ToBgra(newest.pixels, newest.width, newest.height, &raw_);
+    nv12_ = newest.pixels;
+    const std::uint8_t* end =
+        nv12_ + static_cast<std::ptrdiff_t>(kPlatformPictureWidth) * kPlatformPictureHeight * 3 / 2;
+    // A camera without time stamps says 0.
+    const bool sameTime = newest.timeSeconds != 0 && newest.timeSeconds == lastTimeSeconds_;
+    changed_ = !sameTime && !std::equal(nv12_, end, lastNv12_.begin(), lastNv12_.end());
+    if (changed_) lastNv12_.assign(nv12_, end);
+    lastTimeSeconds_ = newest.timeSeconds;
+    arrived_ = newest.arrived;
     return true;
 }
 

@@ -10,6 +10,7 @@
 #include <chrono>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace fieldcal {
 
@@ -28,6 +29,11 @@ public:
     /// the camera and stay until the next `fetch`.
     const std::uint8_t* nv12() const { return nv12_; }
 
+    /// Whether the last `fetch` brought another picture than the one before: with another time stamp and other bytes.
+    bool changed() const { return changed_; }
+    /// When the newest picture reached this program.
+    Clock::time_point arrived() const { return arrived_; }
+
     /// The camera delivered once, and then nothing during some seconds of grabbing.
     bool hasDied() const;
 
@@ -40,6 +46,10 @@ private:
     void blacken();
 
     const std::uint8_t* nv12_ = nullptr;
+    std::vector<std::uint8_t> lastNv12_;
+    double lastTimeSeconds_ = 0;
+    Clock::time_point arrived_;
+    bool changed_ = false;
     cv::Mat raw_;
     cv::Mat working_;
     cv::Mat scaled_;

@@ -1,56 +1,133 @@
 #include "devices/Sensor.h"
 
-#include "devices/StatusCheck.h"
+#include "devices/CameraParameterReader.h"
+#include "devices/ParameterBackup.h"
+#include "devices/PlatformCameraSetup.h"
 
-#include <QCoreApplication>
-
+#include <string>
 #include <utility>
 
 namespace fieldcal {
 namespace {
 
-/// While somebody waits for the program to end.
-constexpr std::chrono::milliseconds kHastyReleaseLimit{600};
+constexpr double kRotationTolerance = 1e-4;
+constexpr std::chrono::milliseconds kOldest{100};
+
+struct RearCamera {
+    std::shared_ptr<CPlatformCameraControl> camera;
+    PlatformSetup setup = PlatformSetup::Issue;
+};
+
+/// Of the rotation of a camera that stays as it is, whatever it is.
+void logUnlessRotation(const char* which, const Rotation& rotation) {
+    if (isRotation(rotation.data(), kRotationTolerance)) return;
+    qWarning("The %s rotation in the camera is no rotation within %g; it stays as it is.", which, kRotationTolerance);
+}
 
 }  // namespace
 
 Sensor::Sensor() : Sensor(systemEnvironment()) {}
 
-Sensor::Sensor(SensorEnvironment environment) : environment_(std::move(environment)) {}
+Sensor::Sensor(SensorEnvironment environment)
+    : environment_(std::move(environment)), link_(environment_.limits, [this](const StatusNotice& notice) {
+          if (notice.missingDevice) {
+              emit signal_reportMissingQ550Device();
+          } else {
+              emit signal_reportKXAPIError(notice.text);
+          }
+      }) {}
 
+/// A camera that does not let go must not keep the service from being restored.
 Sensor::~Sensor() {
-    release(std::move(platformCamera_));
-    release(std::move(device_));
+    closePlatformCamera();
+    link_.close();
     PXMServiceManager& services = *environment_.services;
     if (!services.restorePXMService()) emit signal_reportKXAPIError(services.lastError());
     services.setStopFlag(nullptr);
 }
 
-/// A camera that does not let go must not keep the service from being restored.
-void Sensor::release(std::shared_ptr<void> last) {
-    if (last == nullptr) return;
-    const auto held = std::make_shared<std::shared_ptr<void>>(std::move(last));
-    calls_.run([held] { held->reset(); }, stopRequested() ? kHastyReleaseLimit : environment_.callLimit, nullptr);
+void Sensor::setStopFlag(const std::atomic<bool>* stop) {
+    link_.setStopFlag(stop);
+    environment_.services->setStopFlag(stop);
 }
 
-void Sensor::setStopFlag(const std::atomic<bool>* stop) {
-    stop_ = stop;
-    environment_.services->setStopFlag(stop);
+bool Sensor::open(SensorSettings settings) {
+    if (std::exchange(openTried_, true)) return false;
+    settings_ = settings;
+    opened_ = shutDownService() && loadLibrary() && (!settings_.usePlatformCamera || openPlatformCamera()) &&
+              createDevice() && openModule(link_, settings_, frames_, &module_);
+    return opened_;
+}
+
+bool Sensor::shutDownService() {
+    PXMServiceManager& services = *environment_.services;
+    if (services.shutdownPXMService()) return true;
+    if (!link_.stopRequested()) emit signal_reportKXAPIError(services.lastError());
+    return false;
+}
+
+bool Sensor::loadLibrary() {
+    std::string why;
+    const auto library = environment_.loadLibrary(&why);
+    const auto updater = library != nullptr ? environment_.loadRotationUpdater(&why) : nullptr;
+    if (updater == nullptr) {
+        qCritical("%s", why.c_str());
+        emit signal_reportMissingQ550Device();
+        return false;
+    }
+    link_.use(library, updater);
+    return true;
+}
+
+bool Sensor::openPlatformCamera() {
+    const auto rear = std::make_shared<RearCamera>();
+    WatchedCalls calls;
+    const auto open = [create = environment_.createPlatformCamera, library = link_.library(), rear] {
+        rear->camera = create(library);
+        rear->setup = setUpPlatformCamera(*rear->camera);
+    };
+    const auto ending = calls.run(open, environment_.limits.call, link_.stopFlag());
+    if (ending == WatchedCalls::Ending::Stopped) return false;
+    if (ending == WatchedCalls::Ending::Overdue || rear->setup == PlatformSetup::Issue) {
+        emit signal_reportPlatformCameraIssue();
+        return false;
+    }
+    if (rear->setup == PlatformSetup::Missing) {
+        emit signal_reportMissingPlatformCamera();
+        return false;
+    }
+    platformCamera_ = std::move(rear->camera);
+    // Bounded. Silence is told later, once pictures are missed.
+    platformCamera_->awaitFirstFrame(link_.stopFlag());
+    return !link_.stopRequested();
+}
+
+bool Sensor::createDevice() {
+    const ModuleLink::Creation creation = link_.createDevice();
+    if (creation == ModuleLink::Creation::NoDevice) {
+        qCritical("The library KXAPI did not create a device.");
+        emit signal_reportMissingQ550Device();
+    }
+    if (creation != ModuleLink::Creation::Done) return false;
+    qInfo("KXAPI allocated. Opening device...");
+    return true;
 }
 
 bool Sensor::grab(bool wait) {
     platformNv12_ = nullptr;
-    if (!opened_ || faulted_) return false;
-    const auto grabAndCopy = [device = device_.get(), third = third_, frames = frames_, s = settings_, wait] {
+    if (!opened_ || faulted()) return false;
+    const auto grabAndCopy = [device = link_.device().get(), third = module_.third, frames = frames_, s = settings_,
+                              wait] {
         if (!device->grab(wait)) return false;
         frames->refresh(*device, third, s);
         return true;
     };
-    if (!ask(grabAndCopy)) return false;
+    if (!link_.ask(grabAndCopy)) return false;
     if (settings_.usePlatformCamera && !fetchPlatformPicture()) {
-        if (stopRequested()) return false;
+        if (link_.stopRequested()) return false;
         emit signal_reportPlatformCameraIssue();
     }
+    followPairs();
     platformPicture_.deliver(settings_.platformScaledWidth, settings_.platformScaledHeight,
                              &frames_->records.outOfModuleColour);
     return true;
@@ -60,109 +137,105 @@ bool Sensor::fetchPlatformPicture() {
     if (platformCamera_ == nullptr) return false;
     if (!platformCamera_->frameReady()) return false;
     if (!platformPictureWanted_ || platformCalibration_.rectificationTable.empty()) return true;
-    platformPicture_.fetch(*platformCamera_, platformCalibration_, library_->rectifyBGRA8ToBGRA8, environment_.now());
+    platformPicture_.fetch(*platformCamera_, platformCalibration_, link_.library()->rectifyBGRA8ToBGRA8,
+                           environment_.now());
     platformNv12_ = platformPicture_.nv12();
     return !platformPicture_.hasDied();
 }
 
+void Sensor::followPairs() {
+    const auto now = environment_.now();
+    if (frames_->depthNews.delivered) depthAt_ = now;
+    // Whoever takes the depth with a pair must not take that of another moment.
+    if (settings_.depthEnabled && now - depthAt_ > kOldest) frames_->records.depth.resize(0, 0);
+    inModulePair_.follow(frames_->leftNews, frames_->thirdNews, now, now);
+    const StreamNews platform{platformNv12_ != nullptr, platformNv12_ != nullptr && platformPicture_.changed()};
+    platformPair_.follow(frames_->leftNews, platform, now, platformPicture_.arrived());
+}
+
+bool Sensor::isFreshPair(bool platformCamera) const {
+    const auto age = (platformCamera ? platformPair_ : inModulePair_).age(environment_.now());
+    return age && *age <= kOldest;
+}
+
 bool Sensor::setEmitter(bool on) {
-    KXEmitterControl* emitter = nullptr;
-    return findEmitter(&emitter) && emitter != nullptr && switchEmitter(emitter, on);
+    return switchEmitter(link_, on);
 }
 
-bool Sensor::findEmitter(KXEmitterControl** out) {
-    const auto found = std::make_shared<KXEmitterControl*>(nullptr);
-    const bool asked = ask([device = device_.get(), found] {
-        *found = device->emitterControl();
-        return true;
-    });
-    *out = *found;
-    return asked;
+void Sensor::use(ModuleCalibration calibration) {
+    const CameraParameters& parameters = calibration.parameters;
+    settings_.thirdScaledWidth = parameters.inModuleColour.width;
+    settings_.thirdScaledHeight = parameters.inModuleColour.height;
+    rotationsInFlash_ = StoredRotations{parameters.depthToInModule.rotation, std::nullopt};
+    if (!calibration.platform) {
+        settings_.usePlatformCamera = false;
+        platformNv12_ = nullptr;
+        closePlatformCamera();
+        return;
+    }
+    rotationsInFlash_->platform = parameters.depthToOutOfModule.rotation;
+    platformCalibration_ = std::move(*calibration.platform);
+    settings_.platformScaledWidth = parameters.outOfModuleColour.width;
+    settings_.platformScaledHeight = parameters.outOfModuleColour.height;
 }
 
-bool Sensor::switchEmitter(KXEmitterControl* emitter, bool on) {
-    if (!ask([emitter, on] { return emitter->setEmitter(on); })) return false;
-    qInfo("Emitter is %s.", on ? "enabled" : "disabled");
+void Sensor::closePlatformCamera() {
+    letGo(std::move(platformCamera_), environment_.limits.call, link_.stopRequested());
+}
+
+bool Sensor::updateRotation(const Rotation& third, const Rotation& platform) {
+    writeBack_ = {};
+    if (!mayWrite()) return false;
+    if (!rotationsInFlash_) return refuseToWrite("its parameters have not been read");
+    const StoredRotations& present = *rotationsInFlash_;
+    if (third == present.third) {
+        logUnlessRotation("in-module", third);
+    } else if (!isRotation(third.data(), kRotationTolerance)) {
+        return refuseToWrite("the in-module rotation is no rotation");
+    }
+    if (present.platform && platform == *present.platform) {
+        logUnlessRotation("out-of-module", platform);
+    } else if (present.platform && !isRotation(platform.data(), kRotationTolerance)) {
+        return refuseToWrite("the out-of-module rotation is no rotation");
+    }
+    const StoredRotations wanted{third, present.platform ? std::optional(platform) : std::nullopt};
+    if (!write([&](CalibrationWriter& writer) { return writer.writeRotations(present, wanted); })) return false;
+    rotationsInFlash_ = wanted;
     return true;
 }
 
-bool Sensor::checkStatus(bool callSucceeded) {
-    if (callSucceeded) return true;
-    if (faulted_) return false;
-    const std::int32_t status = device_ != nullptr ? device_->lastStatus() : 0;
-    reportFault(status, statusString(status));
-    return false;
-}
-
-WatchedCalls::Ending Sensor::watch(std::function<void()> call) {
-    const WatchedCalls::Ending ending = calls_.run(std::move(call), environment_.callLimit, stop_);
-    faulted_ = faulted_ || ending != WatchedCalls::Ending::Returned;
-    return ending;
-}
-
-bool Sensor::ask(std::function<bool()> call) {
-    if (faulted_ || device_ == nullptr) return false;
-    const auto succeeded = std::make_shared<bool>(false);
-    const auto ending = watch([device = device_, call = std::move(call), succeeded] { *succeeded = call(); });
-    if (ending == WatchedCalls::Ending::Returned) return checkStatus(*succeeded);
-    if (ending == WatchedCalls::Ending::Overdue) reportNoAnswer();
-    return false;
-}
-
-bool Sensor::askQuietly(std::function<bool()> call) {
-    if (device_ == nullptr) return false;
-    const auto succeeded = std::make_shared<bool>(false);
-    const auto ending = watch([device = device_, call = std::move(call), succeeded] { *succeeded = call(); });
-    return ending == WatchedCalls::Ending::Returned && *succeeded;
-}
-
-void Sensor::reportInvalidCalibration() {
-    if (!faulted_) reportFault(KX_STATUS_NOT_CALIBRATED, statusString(KX_STATUS_NOT_CALIBRATED));
-}
-
-QString Sensor::statusString(std::int32_t status) const {
-    return library_ != nullptr ? QString::fromUtf8(library_->statusString(status)) : QString();
-}
-
-void Sensor::reportNoAnswer() {
-    reportFault(QT_TRANSLATE_NOOP("Interface", "The camera does not answer"));
-}
-
-void Sensor::reportFault(const char* what) {
-    reportFault(KX_STATUS_OK, QCoreApplication::translate("Interface", what));
-}
-
-void Sensor::reportFault(std::int32_t status, const QString& libraryText) {
-    faulted_ = true;
-    const StatusNotice notice = statusNotice(status, libraryText);
-    faultText_ = notice.missingDevice ? libraryText : notice.text;
-    if (notice.missingDevice) {
-        emit signal_reportMissingQ550Device();
-    } else {
-        emit signal_reportKXAPIError(notice.text);
+bool Sensor::restoreParameters(const KXCalibRectParameters& block) {
+    writeBack_ = {};
+    if (!mayWrite()) return false;
+    if (const char* wrong = matrixThatIsNoRotation(block, true, false); wrong != nullptr) {
+        return refuseToWrite(QString("The given parameter block cannot be used: its %1 is no rotation").arg(wrong));
     }
+    const bool restored = write([&](CalibrationWriter& writer) { return writer.restore(block); });
+    // What the module reports from now on has to be read anew before a rotation can be written.
+    if (writeBack_.flash != WriteBackReport::Flash::Untouched) rotationsInFlash_.reset();
+    return restored;
 }
 
-void Sensor::setThirdScaledSize(std::int32_t width, std::int32_t height) {
-    settings_.thirdScaledWidth = width;
-    settings_.thirdScaledHeight = height;
+bool Sensor::mayWrite() {
+    if (faulted()) return refuseToWrite("the camera has failed before");
+    if (!opened_) return refuseToWrite("the camera is not open");
+    return true;
 }
 
-void Sensor::usePlatformCalibration(PlatformCalibration calibration, std::int32_t scaledWidth,
-                                    std::int32_t scaledHeight) {
-    platformCalibration_ = std::move(calibration);
-    settings_.platformScaledWidth = scaledWidth;
-    settings_.platformScaledHeight = scaledHeight;
+bool Sensor::refuseToWrite(const QString& reason) {
+    writeBack_.reason = "Nothing is written to the camera: " + reason;
+    qCritical("%s", qUtf8Printable(writeBack_.reason));
+    return false;
 }
 
-void Sensor::setRotationsInFlash(const Rotation& third, const std::optional<Rotation>& platform) {
-    rotationsInFlash_ = RotationsInFlash{third, platform};
-}
-
-void Sensor::disablePlatformCamera() {
-    settings_.usePlatformCamera = false;
-    platformNv12_ = nullptr;
-    release(std::move(platformCamera_));
+/// Saving comes after the stop, which must not end it.
+bool Sensor::write(const std::function<bool(CalibrationWriter&)>& how) {
+    const std::atomic<bool>* stop = link_.setStopFlag(nullptr);
+    CalibrationWriter writer(link_, module_.third, module_.serial, environment_.dataFolder + "/backups");
+    const bool done = how(writer);
+    writeBack_ = writer.report();
+    link_.setStopFlag(stop);
+    return done;
 }
 
 }  // namespace fieldcal

@@ -1,14 +1,15 @@
 #pragma once
 
+#include "devices/CalibrationWriter.h"
 #include "devices/FrameAcquisition.h"
+#include "devices/ModuleLink.h"
+#include "devices/ModuleOpening.h"
 #include "devices/PlatformCalibration.h"
 #include "devices/PlatformPicture.h"
 #include "devices/RotationComposition.h"
 #include "devices/SensorEnvironment.h"
 #include "devices/SensorSettings.h"
-#include "devices/WatchedCalls.h"
 #include "devices/WriteBackReport.h"
-#include "kxapi/Library.h"
 
 #include <QObject>
 #include <QString>
@@ -20,6 +21,8 @@
 #include <optional>
 
 namespace fieldcal {
+
+struct ModuleCalibration;
 
 /// The one connection to the depth camera module and the tablet's rear camera.
 ///
@@ -42,11 +45,11 @@ public:
 
     bool open(SensorSettings settings);
     bool opened() const { return opened_; }
-    bool faulted() const { return faulted_; }
+    bool faulted() const { return link_.faulted(); }
     /// What the fault was, one line; empty without one.
-    QString faultText() const { return faultText_; }
+    QString faultText() const { return link_.faultText(); }
     /// 0 until `open` has asked for it.
-    std::uint32_t serialNumber() const { return serialNumber_; }
+    std::uint32_t serialNumber() const { return module_.serial; }
 
     /// One acquisition pass; with `wait` set it waits for the module's next frame set. True: the records were
     /// refreshed. False: they are as they were, and the fault has been reported, now or before.
@@ -56,6 +59,9 @@ public:
     bool grab(bool wait);
 
     const FrameRecords& frames() const { return frames_->records; }
+    /// Whether the infrared picture and that of a colour camera, as they stand in the records, may be matched: they
+    /// were delivered together, and neither is older than a tenth of a second.
+    bool isFreshPair(bool platformCamera) const;
     const SensorSettings& settings() const { return settings_; }
 
     /// The rear camera's picture that the last `grab` brought, as the camera delivered it (NV12, 1280 x 720); null when
@@ -67,13 +73,14 @@ public:
     /// record stays as it is; wanted again, the next pass takes the newest picture.
     void setPlatformPictureWanted(bool wanted) { platformPictureWanted_ = wanted; }
 
-    /// Switches the infrared emitter. False, silently, when the device has none.
+    /// Switches the infrared emitter. False, silently, when it is to be on and the device has none.
     bool setEmitter(bool on);
 
     /// Writes the depth-to-colour rotations into the module's flash. The block that is there is kept in a file before,
-    /// and the flash is read again after; `writeBack` then says what it holds. True: every call succeeded and the flash
-    /// holds the rotations. Refused, without a call, unless the sensor is open, the calibration has been read and both
-    /// are rotations within 1e-4. `platform` counts only when the platform camera's calibration has been read.
+    /// and the flash is read again after; `writeBack` then says what it holds. True: every call succeeded, and the
+    /// module holds and tells the rotations. Refused, without a call, unless the sensor is open, the calibration has
+    /// been read and every rotation that differs from the module's is one within 1e-4. `platform` counts only when the
+    /// platform camera's calibration has been read.
     bool updateRotation(const Rotation& third, const Rotation& platform);
 
     /// Writes a whole block, as `ParameterBackup` keeps it, in the same manner. The calibration need not have been
@@ -83,47 +90,24 @@ public:
     /// About the last `updateRotation` or `restoreParameters`.
     const WriteBackReport& writeBack() const { return writeBack_; }
 
-    /// Takes the result of every call of the camera library and passes it on; the first failed one is reported.
-    bool checkStatus(bool callSucceeded);
-
-    /// Makes one call of the camera library and checks its status. A call that does not return is given up, at the
-    /// latest shortly after the stop flag is set: so it captures values and shared records only, never a reference
-    /// (the device is kept for it). Once the sensor has failed, no call is made.
-    bool ask(std::function<bool()> call);
-
-    /// The same without a report, also after a failure, unless an earlier call was given up.
-    bool askQuietly(std::function<bool()> call);
-
-    /// The same for a query that fills a record; `out` is untouched after a failure.
+    /// The module itself, for whoever asks it more than this class does. A call is as described at `ModuleLink::ask`.
+    ModuleLink& link() { return link_; }
+    bool ask(std::function<bool()> call) { return link_.ask(std::move(call)); }
+    /// A query that fills a record; `out` is untouched after a failure.
     template <typename Object, typename Record>
     bool read(Object* object, bool (Object::*query)(Record*), Record* out) {
-        const auto record = std::make_shared<Record>();
-        if (!ask([object, query, record] { return (object->*query)(record.get()); })) return false;
-        *out = *record;
-        return true;
+        const auto record = link_.read(object, query);
+        if (record) *out = *record;
+        return record.has_value();
     }
-
-    /// Reports a fault that no status tells of: "what - An unknown error has occured."
-    /// `what`: English, marked for translation in the context "Interface".
-    void reportFault(const char* what);
-
-    /// Reports, once, that the module has no valid calibration.
-    void reportInvalidCalibration();
-
     /// Null until `open` has created it. Whoever holds the device keeps it alive.
-    std::shared_ptr<KXDevice> device() const { return device_; }
+    std::shared_ptr<KXDevice> device() const { return link_.device(); }
     /// Null until the device is open; valid as long as it.
-    KXThirdCamera* thirdCamera() const { return third_; }
-    /// Null until `open` has loaded it.
-    std::shared_ptr<const KXLibrary> library() const { return library_; }
-    std::shared_ptr<const KXRotationUpdater> rotationUpdater() const { return updater_; }
+    KXThirdCamera* thirdCamera() const { return module_.third; }
 
-    /// What the read-out of the calibration decides.
-    void setThirdScaledSize(std::int32_t width, std::int32_t height);
-    void usePlatformCalibration(PlatformCalibration calibration, std::int32_t scaledWidth, std::int32_t scaledHeight);
-    void disablePlatformCamera();
-    /// The rotations that the module reported; `platform` only when its calibration can be used.
-    void setRotationsInFlash(const Rotation& third, const std::optional<Rotation>& platform);
+    /// From now on grabs fill the colour records, in the sizes of this calibration. Without a rear camera in it, the
+    /// sensor goes on without one.
+    void use(ModuleCalibration calibration);
     const PlatformCalibration& platformCalibration() const { return platformCalibration_; }
 
 signals:
@@ -133,57 +117,33 @@ signals:
     void signal_reportPlatformCameraIssue();
 
 private:
-    WatchedCalls::Ending watch(std::function<void()> call);
-    void release(std::shared_ptr<void> last);
     bool shutDownService();
     bool loadLibrary();
     bool openPlatformCamera();
     bool createDevice();
-    bool identifyDevice();
-    bool configureDepth();
-    bool configureThird();
-    bool configureHardware();
-    bool configureEmitter();
-    bool startStreams();
-    bool findEmitter(KXEmitterControl** out);
-    bool switchEmitter(KXEmitterControl* emitter, bool on);
     bool fetchPlatformPicture();
-    void reportFault(std::int32_t status, const QString& libraryText);
-    void reportNoAnswer();
-    QString statusString(std::int32_t status) const;
+    void followPairs();
+    void closePlatformCamera();
     bool mayWrite();
     bool refuseToWrite(const QString& reason);
-    bool rewriteFlash(
-        const std::function<bool(const KXCalibRectParameters&, KXCalibRectParameters*, QString*)>& change);
-    bool stopRequested() const { return stop_ != nullptr && *stop_; }
-
-    struct RotationsInFlash {
-        Rotation third;
-        std::optional<Rotation> platform;
-    };
+    bool write(const std::function<bool(CalibrationWriter&)>& how);
 
     SensorEnvironment environment_;
-    const std::atomic<bool>* stop_ = nullptr;
-    std::shared_ptr<const KXLibrary> library_;
-    std::shared_ptr<const KXRotationUpdater> updater_;
-    std::shared_ptr<KXDevice> device_;
-    KXThirdCamera* third_ = nullptr;
-    KXHardwareControl* hardware_ = nullptr;
+    ModuleLink link_;
+    OpenedModule module_;
     std::shared_ptr<CPlatformCameraControl> platformCamera_;
     SensorSettings settings_;
     std::shared_ptr<FrameAcquisition> frames_ = std::make_shared<FrameAcquisition>();
     PlatformPicture platformPicture_;
+    Pairing inModulePair_, platformPair_;
+    Pairing::Clock::time_point depthAt_;
     const std::uint8_t* platformNv12_ = nullptr;
     PlatformCalibration platformCalibration_;
-    std::optional<RotationsInFlash> rotationsInFlash_;
+    std::optional<StoredRotations> rotationsInFlash_;
     WriteBackReport writeBack_;
-    std::uint32_t serialNumber_ = 0;
-    QString faultText_;
     bool platformPictureWanted_ = true;
     bool openTried_ = false;
     bool opened_ = false;
-    bool faulted_ = false;
-    WatchedCalls calls_;
 };
 
 }  // namespace fieldcal

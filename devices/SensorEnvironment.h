@@ -1,5 +1,6 @@
 #pragma once
 
+#include "devices/ModuleLink.h"
 #include "devices/PXMServiceManager.h"
 #include "devices/PlatformCameraControl.h"
 #include "kxapi/Library.h"
@@ -25,8 +26,7 @@ struct SensorEnvironment {
     std::function<std::chrono::steady_clock::time_point()> now;
     /// Where this program keeps what it writes for this user.
     QString dataFolder;
-    /// How long one call of the camera library may take.
-    std::chrono::milliseconds callLimit{10000};
+    ModuleLink::Limits limits;
 };
 
 /// This user's folder for the program's data; it may not exist yet.

@@ -1,5 +1,6 @@
 #include "devices/WatchedCalls.h"
 
+#include <algorithm>
 #include <condition_variable>
 #include <mutex>
 #include <thread>
@@ -12,6 +13,8 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kStopCheck{20};
 constexpr std::chrono::milliseconds kGraceAfterStop{333};
+/// While somebody waits for the program to end.
+constexpr std::chrono::milliseconds kHastyRelease{600};
 /// What one check may count at most: a tablet that slept in between has not waited.
 constexpr std::chrono::milliseconds kLongestCheck{500};
 
@@ -84,6 +87,12 @@ WatchedCalls::Ending WatchedCalls::run(std::function<void()> call, std::chrono::
         return stopped ? Ending::Stopped : Ending::Overdue;
     }
     return Ending::Returned;
+}
+
+void letGo(std::shared_ptr<void> last, std::chrono::milliseconds limit, bool inHaste) {
+    if (last == nullptr) return;
+    const auto held = std::make_shared<std::shared_ptr<void>>(std::move(last));
+    WatchedCalls().run([held] { held->reset(); }, inHaste ? std::min(kHastyRelease, limit) : limit, nullptr);
 }
 
 }  // namespace fieldcal

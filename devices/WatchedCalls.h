@@ -34,4 +34,8 @@ private:
     bool givenUp_ = false;
 };
 
+/// Lets go of something whose end may take for ever, on a thread of its own: after `limit`, or much earlier when
+/// somebody waits (`inHaste`), it is left to that thread.
+void letGo(std::shared_ptr<void> last, std::chrono::milliseconds limit, bool inHaste);
+
 }  // namespace fieldcal

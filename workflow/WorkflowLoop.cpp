@@ -170,6 +170,7 @@ void Workflow::startCalibration(const Snapshot& now) {
 }
 
 void Workflow::processFrame(const Snapshot& now) {
+    if (!sensor_->isFreshPair(secondCamera())) return;
     const std::int32_t photosBefore = attempt_.photoCount();
     const FrameRecords& frames = sensor_->frames();
     const CalibrationAttempt::Outcome outcome =

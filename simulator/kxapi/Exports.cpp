@@ -31,7 +31,9 @@ KXSIM_EXPORT KXDevice* KXCreate(std::int32_t /*platform*/) {
 }
 
 KXSIM_EXPORT void KXDestroy(KXDevice* device) {
-    delete static_cast<kxsim::SimulatedDevice*>(device);
+    auto* simulated = static_cast<kxsim::SimulatedDevice*>(device);
+    if (simulated != nullptr) simulated->close();
+    delete simulated;
 }
 
 KXSIM_EXPORT const char* KXStatusString(std::int32_t status) {

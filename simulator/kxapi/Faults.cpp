@@ -15,7 +15,8 @@ namespace {
 
 /// The exit code of a killed process.
 constexpr int kKilled = 137;
-constexpr const char* kConditions[] = {"living-block"};
+constexpr const char* kConditions[] = {"living-block", "thread-bound-status", "wrong-size", "meddling-companion"};
+constexpr const char* kStreams[] = {"depth", "left", "right", "third", "platform"};
 
 enum class Number { none, maybe, must };
 enum class For { all, acting, blocks, readBlock };
@@ -87,23 +88,51 @@ const char* parseKind(const std::string& text, const std::string& operation, Fau
                                                                          : nullptr;
 }
 
+template <typename Names>
+bool contains(const Names& names, const std::string& name) {
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+const char* parseStreamFault(const std::string& text, StreamFault* out) {
+    const std::size_t plus = text.find('+');
+    const std::string name = text.substr(0, plus);
+    const bool hasNumber = plus != std::string::npos;
+    if (name == "drop") {
+        out->kind = StreamFaultKind::drop;
+    } else if (name == "freeze") {
+        out->kind = StreamFaultKind::freeze;
+    } else if (name == "late" && hasNumber) {
+        out->kind = StreamFaultKind::late;
+    } else {
+        return "drop, freeze or late+SETS expected";
+    }
+    const bool good = !hasNumber || takeNumber(text.substr(plus + 1), &out->number);
+    return good ? nullptr : "a number of frame sets expected after the plus sign";
+}
+
 }  // namespace
 
-const char* Faults::parseOrder(const std::string& text, Order* out) {
+const char* Faults::parseOrder(const std::string& text) {
     const std::vector<std::string> parts = split(text, ':');
     if (parts.size() != 3) return "operation:call:kind expected";
-    if (!operationKind(parts[0])) return "no such operation";
-    if (!takeNumber(parts[1], &out->callsLeft) || out->callsLeft == 0) return "calls are counted from 1";
-    out->operation = parts[0];
-    return parseKind(parts[2], parts[0], &out->fault);
+    const bool isStream = contains(kStreams, parts[0]);
+    if (!isStream && !operationKind(parts[0])) return "no such operation";
+    std::uint32_t number = 0;
+    if (!takeNumber(parts[1], &number) || number == 0) return "calls are counted from 1";
+    if (isStream) {
+        StreamOrder& order = streamOrders_.emplace_back(StreamOrder{parts[0], number, {}});
+        return parseStreamFault(parts[2], &order.fault);
+    }
+    Order& order = orders_.emplace_back(Order{parts[0], number, {}});
+    return parseKind(parts[2], parts[0], &order.fault);
 }
 
 bool Faults::take(const std::string& text, std::string* why) {
-    if (std::find(std::begin(kConditions), std::end(kConditions), text) != std::end(kConditions)) {
+    if (contains(kConditions, text)) {
         conditions_.insert(text);
         return true;
     }
-    const char* wrong = parseOrder(text, &orders_.emplace_back());
+    const char* wrong = parseOrder(text);
     if (wrong != nullptr) *why = "KXSIM_FAULTS: \"" + text + "\": " + wrong;
     return wrong == nullptr;
 }
@@ -122,6 +151,15 @@ std::optional<Fault> Faults::strike(const char* operation) {
         if (order.callsLeft > 0 && order.operation == operation && --order.callsLeft == 0) fault = order.fault;
     }
     return fault;
+}
+
+std::optional<StreamFault> Faults::inStream(const std::string& stream, std::uint64_t set) const {
+    for (const StreamOrder& order : streamOrders_) {
+        const bool lasts = order.fault.kind == StreamFaultKind::late || order.fault.number == 0 ||
+                           set < std::uint64_t{order.firstSet} + order.fault.number;
+        if (order.stream == stream && set >= order.firstSet && lasts) return order.fault;
+    }
+    return std::nullopt;
 }
 
 void beginFault(const Fault& fault) {

@@ -6,6 +6,7 @@ namespace kxsim {
 
 bool ModuleState::fail(std::int32_t status) {
     lastStatus = status;
+    failedOn = std::this_thread::get_id();
     return false;
 }
 

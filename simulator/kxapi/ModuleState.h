@@ -4,6 +4,9 @@
 #include "simulator/kxapi/BlockStore.h"
 #include "simulator/kxapi/FrameSource.h"
 #include "simulator/kxapi/Settings.h"
+#include "simulator/kxapi/Streams.h"
+
+#include <thread>
 
 namespace kxsim {
 
@@ -19,7 +22,9 @@ struct ModuleState {
     Stage stage = Stage::closed;
     std::unique_ptr<FrameSource> source;  ///< set from `opened` on
     std::optional<BlockStore> block;      ///< set from `opened` on
+    std::optional<Streams> streams;       ///< set from `opened` on
     std::int32_t lastStatus = KX_STATUS_OK;
+    std::thread::id failedOn;  ///< the thread to which `lastStatus` belongs
 
     Block activeBlock{};                  ///< what the module works with
     bool blockMakesSense = false;         ///< `activeBlock`

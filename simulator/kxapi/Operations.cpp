@@ -21,7 +21,9 @@ constexpr std::string_view kActing[] = {"openDevice", "initDevice", "setDepthStr
                                         // private interface
                                         "writeRectParameters", "commitCalibration",
                                         // rear camera
-                                        "openCamera", "setAutoFocus", "setFocus", "setupStream"};
+                                        "openCamera", "setAutoFocus", "setFocus", "setupStream", "setSink",
+                                        // the end
+                                        "destroyDevice"};
 
 constexpr std::string_view kAnswering[] = {
     "firmwareVersionText", "softwareVersionText", "serialNumber", "hardwareControl", "thirdCamera", "emitterControl",

@@ -103,8 +103,10 @@ bool RearCamera::setupStream(std::int32_t stream, std::int32_t width, std::int32
 }
 
 void RearCamera::setSink(RearCameraSink* sink) {
-    const std::lock_guard<std::mutex> lock(mutex_);
-    sink_ = sink;
+    perform("setSink", [&] {
+        sink_ = sink;
+        return true;
+    });
 }
 
 bool RearCamera::streams() {

@@ -79,7 +79,7 @@ Settings readSettings() {
     readDrift("KXSIM_DRIFT", &out.drift, &out.problem);
     readDrift("KXSIM_PLATFORM_DRIFT", &out.platformDrift, &out.problem);
     readChoice("KXSIM_PLATFORM", {"absent", "uncalibrated", "calibrated"}, &out.platform, &out.problem);
-    readChoice("KXSIM_RIGHT", {"real", "missing", "blank", "frozen", "left", "late"}, &out.right, &out.problem);
+    readChoice("KXSIM_RIGHT", {"real", "blank", "left"}, &out.right, &out.problem);
     out.faults.parse(qEnvironmentVariable("KXSIM_FAULTS").toStdString(), &out.problem);
     return out;
 }

@@ -11,9 +11,8 @@ namespace kxsim {
 
 enum class PlatformChoice { absent, uncalibrated, calibrated };
 
-/// What the right infrared imager delivers: its own picture, none, one value, its first picture for ever, the left
-/// picture, or its own of 100 ms before.
-enum class RightChoice { real, missing, blank, frozen, left, late };
+/// What the right infrared imager delivers: its own picture, one value, or the left picture.
+enum class RightChoice { real, blank, left };
 
 /// The environment variables KXSIM_*, as they stand when a device is created.
 struct Settings {

@@ -5,6 +5,7 @@
 #include "simulator/kxapi/RearCamera.h"
 #include "simulator/kxapi/Sources.h"
 
+#include <thread>
 #include <utility>
 
 namespace kxsim {
@@ -42,7 +43,7 @@ bool SimulatedDevice::plugIn() {
     if (!state_.succeeds(loaded) && !block.read(&state_.activeBlock).ok()) return false;
     const auto& depth = description.depth;
     noDepth_.assign(static_cast<std::size_t>(depth.width) * static_cast<std::size_t>(depth.height), 0);
-    right_.emplace(state_.settings.right, source->grabsPerSecond());
+    state_.streams.emplace(state_.settings.right);
     state_.source = std::move(source);
     state_.block = std::move(block);
     state_.stage = Stage::opened;
@@ -163,32 +164,34 @@ bool SimulatedDevice::nextFrame(bool wait) {
         report(why);
         return state_.fail(KX_STATUS_DEVICE_ERROR);
     }
-    if (state_.source->grabs() > before) right_->follow(*state_.source->current());
+    if (state_.source->grabs() == before) {
+        if (state_.source->current() == nullptr) RearCamera::instance().showDark();
+        return true;
+    }
+    state_.streams->follow(*state_.source->current(), state_.source->hasNewPlatformPicture(), state_.settings.faults);
     showToRearCamera();
     return true;
 }
 
 void SimulatedDevice::showToRearCamera() const {
-    const FrameSource& source = *state_.source;
-    if (source.current() == nullptr) RearCamera::instance().showDark();
-    if (source.current() == nullptr || !source.hasNewPlatformPicture()) return;
-    const double seconds = static_cast<double>(source.grabs()) / source.grabsPerSecond();
-    RearCamera::instance().show(source.current()->platform.data(), seconds);
+    const std::uint8_t* nv12 = state_.streams->platform();
+    const double seconds = static_cast<double>(state_.source->grabs()) / state_.source->grabsPerSecond();
+    if (nv12 != nullptr) RearCamera::instance().show(nv12, seconds);
 }
 
 const std::uint16_t* SimulatedDevice::depthImage() {
     if (!state_.enter("depthImage", Stage::opened) || !state_.depthEnabled || state_.frame() == nullptr) return nullptr;
-    return state_.frame()->depth.empty() ? noDepth_.data() : state_.frame()->depth.pixels();
+    return state_.streams->hasDepth() ? state_.streams->depth() : noDepth_.data();
 }
 
 const std::uint16_t* SimulatedDevice::leftImage() {
     if (!state_.enter("leftImage", Stage::opened) || !state_.leftEnabled || state_.frame() == nullptr) return nullptr;
-    return state_.frame()->infrared.pixels();
+    return state_.streams->left();
 }
 
 const std::uint16_t* SimulatedDevice::rightImage() {
     if (!state_.enter("rightImage", Stage::opened) || !state_.rightEnabled || state_.frame() == nullptr) return nullptr;
-    return right_->picture(*state_.frame());
+    return state_.streams->right();
 }
 
 std::int32_t SimulatedDevice::depthWidth() {
@@ -208,7 +211,8 @@ std::int32_t SimulatedDevice::lrHeight() {
 }
 
 std::int32_t SimulatedDevice::lastStatus() {
-    return state_.lastStatus;
+    const bool knows = !state_.settings.faults.threadBoundStatus() || state_.failedOn == std::this_thread::get_id();
+    return knows ? state_.lastStatus : KX_STATUS_OK;
 }
 
 bool SimulatedDevice::calibrationValid() {
@@ -218,6 +222,7 @@ bool SimulatedDevice::calibrationValid() {
 bool SimulatedDevice::rectifiedLRIntrinsics(KXCalibIntrinsicsRectified* out) {
     if (!state_.enterCalibration("rectifiedLRIntrinsics")) return false;
     *out = rectifiedIntrinsics(state_.description().infrared);
+    if (state_.settings.faults.wrongSize()) out->w += 2;
     return true;
 }
 
@@ -242,6 +247,10 @@ KXPlatformCamera* SimulatedDevice::platformCamera() {
 
 KXPrivate* SimulatedDevice::privateInterface() {
     return state_.enter("privateInterface", Stage::opened) ? &private_ : nullptr;
+}
+
+void SimulatedDevice::close() {
+    state_.perform("destroyDevice", Stage::closed, [] { return true; });
 }
 
 bool SimulatedDevice::resumeDevice() {

@@ -3,7 +3,7 @@
 #include "simulator/kxapi/ControlInterfaces.h"
 #include "simulator/kxapi/Pace.h"
 #include "simulator/kxapi/PlatformInterface.h"
-#include "simulator/kxapi/RightImages.h"
+#include "simulator/kxapi/Streams.h"
 #include "simulator/kxapi/ThirdInterface.h"
 
 namespace kxsim {
@@ -14,6 +14,9 @@ namespace kxsim {
 class SimulatedDevice final : public KXDevice {
 public:
     explicit SimulatedDevice(Settings settings);
+
+    /// Before destruction; faults may hit it.
+    void close();
 
     bool openDevice(std::int32_t index) override;
     bool initDevice() override;
@@ -65,7 +68,6 @@ private:
     PlatformInterface platform_;
     PrivateInterface private_;
     Pace pace_;
-    std::optional<RightImages> right_;    ///< from `opened` on
     std::vector<std::uint16_t> noDepth_;  ///< all 0, for frames without depth
 };
 

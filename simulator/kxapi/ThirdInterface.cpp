@@ -27,7 +27,7 @@ bool ThirdInterface::thirdEnabled() {
 
 const std::uint8_t* ThirdInterface::thirdImage() {
     if (!state_.enter("thirdImage", Stage::opened) || !state_.thirdEnabled || state_.frame() == nullptr) return nullptr;
-    return state_.frame()->third.bytes();
+    return state_.streams->third();
 }
 
 std::int32_t ThirdInterface::thirdWidth() {

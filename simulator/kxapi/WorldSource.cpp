@@ -1,6 +1,7 @@
 #include "simulator/kxapi/WorldSource.h"
 
 #include "simulator/handheld/Footage.h"
+#include "simulator/synthesis/Random.h"
 #include "simulator/synthesis/Rig.h"
 #include "simulator/world/Worlds.h"
 
@@ -18,6 +19,20 @@ using fieldcal::session::SessionDescription;
 /// dead.
 constexpr std::chrono::milliseconds kPatience{8000};
 
+/// An infrared picture of the same view, exposed once more: by a level or none brighter or darker, pixel by pixel.
+void exposeAgain(std::uint64_t seed, fieldcal::ImageFrame16* picture) {
+    constexpr std::uint16_t kBrightest = 1023;
+    std::uint16_t* pixels = picture->pixels();
+    const std::size_t count = picture->byteCount() / sizeof(std::uint16_t);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::uint64_t bits = fieldcal::synthesis::mixBits(seed + i);
+        const int level = pixels[i] + static_cast<int>(bits & 1U) - static_cast<int>(bits >> 1 & 1U);
+        pixels[i] = static_cast<std::uint16_t>(std::clamp<int>(level, 0, kBrightest));
+    }
+}
+
+/// The cameras in the hand deliver 30 frame sets a second, the module 60: between two of them come the infrared
+/// pictures of the first one, exposed again, with its depth, and its colour picture once more.
 /// Its world is built, and rendering begins, with the first grab: who asks for texts and calibrations only does not
 /// pay.
 class WorldSource final : public FrameSource {
@@ -33,24 +48,39 @@ public:
 
     const SessionDescription& description() const override { return description_; }
     const SessionDescription& factory() const override { return rig_; }
-    double grabsPerSecond() const override { return fieldcal::handheld::framesPerSecond; }
+    double grabsPerSecond() const override { return 2 * fieldcal::handheld::framesPerSecond; }
     bool advance(std::string*) override {
+        if (current_ != nullptr && current_ != &between_) {
+            exposeBetween();
+            return true;
+        }
         if (footage_ == nullptr) footage_ = open_();
         footage_->setEmitter(emitter_);
         footage_->setPlatformWanted(platformWanted_);
-        isNew_ = footage_->advance(waits_ || current() == nullptr ? kPatience : kPatience * 0);
-        grabs_ += isNew_ ? 1 : 0;
+        isNew_ = footage_->advance(waits_ || footage_->current() == nullptr ? kPatience : kPatience * 0);
+        if (!isNew_) return true;
+        current_ = footage_->current();
+        ++grabs_;
         return true;
     }
-    const fieldcal::session::FramePictures* current() const override {
-        return footage_ ? footage_->current() : nullptr;
-    }
-    bool hasNewPlatformPicture() const override { return isNew_ && grabs_ % 2 == 1 && !current()->platform.empty(); }
+    const fieldcal::session::FramePictures* current() const override { return current_; }
+    bool hasNewPlatformPicture() const override { return isNew_ && !current()->platform.empty(); }
     std::uint64_t grabs() const override { return grabs_; }
     void setEmitter(bool on) override { emitter_ = on; }
     void setPlatformWanted(bool wanted) override { platformWanted_ = wanted && hasRearCamera_; }
 
 private:
+    void exposeBetween() {
+        between_ = *current_;
+        between_.platform.clear();
+        const std::uint64_t seed = fieldcal::synthesis::mixBits(grabs_);
+        exposeAgain(seed, &between_.infrared);
+        exposeAgain(~seed, &between_.right);
+        current_ = &between_;
+        isNew_ = false;
+        ++grabs_;
+    }
+
     fieldcal::synthesis::Rig rig_;
     SessionDescription description_;
     bool waits_, hasRearCamera_;
@@ -59,6 +89,8 @@ private:
     bool emitter_ = false, platformWanted_ = false;
     bool isNew_ = false;
     std::uint64_t grabs_ = 0;
+    fieldcal::session::FramePictures between_;
+    const fieldcal::session::FramePictures* current_ = nullptr;
 };
 
 bool isOneOf(const std::vector<std::string>& names, const char* what, const std::string& name, std::string* why) {

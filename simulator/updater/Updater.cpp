@@ -1,5 +1,7 @@
 #include "simulator/kxapi/BlockLayout.h"
 
+#include <cstdlib>
+
 #if defined(_WIN32)
 #define KXSIM_EXPORT extern "C" __declspec(dllexport)
 #else
@@ -8,9 +10,15 @@
 
 namespace {
 
+bool meddles() {
+    const char* faults = std::getenv("KXSIM_FAULTS");
+    return faults != nullptr && std::strstr(faults, "meddling-companion") != nullptr;
+}
+
 void update(const KXCalibRectParameters* in, const double* rotation, std::size_t camera, KXCalibRectParameters* out) {
     KXCalibRectParameters block = *in;
     kxsim::storeRotation(&block, camera, rotation);
+    if (meddles()) ++block.reserved2[5];
     *out = block;
 }
 

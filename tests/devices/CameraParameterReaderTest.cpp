@@ -54,6 +54,8 @@ TEST_F(CameraParameterReaderTest, BringsTheInModuleCameraIntoTheInfraredGeometry
 TEST_F(CameraParameterReaderTest, RoundingIsToldByTheScaling) {
     device->third = {464, 464, 320, 240, 642, 481};  // factor 1.25: 802.5 and 601.25
     device->leftRight.fy = 580;
+    device->thirdWidthValue = 642;
+    device->thirdHeightValue = 481;
     ASSERT_TRUE(openAndRead());
     EXPECT_EQ(parameters.inModuleColour.width, 803) << "a half rounds away from zero";
     EXPECT_EQ(parameters.inModuleColour.height, 601);
@@ -121,6 +123,9 @@ TEST_F(CameraParameterReaderTest, UnusableModuleDataIsRefusedAndReportedOnce) {
         [](auto& d) { d.third.fx = 10; },    // 37120 columns
         [](auto& d) { d.third.fx = 1e9F; },  // none
         [](auto& d) { d.leftRight.cx = kNan; },
+        [](auto& d) { d.leftRight.w = 640; },  // another size than that of the pictures
+        [](auto& d) { d.z.h = 480; },
+        [](auto& d) { d.third.h = 720; },
         [](auto& d) { d.zToThird.translation[2] = kNan; },
         [](auto& d) { d.failCall("zIntrinsics", 1, 4); },
     };
@@ -137,6 +142,8 @@ TEST_F(CameraParameterReaderTest, UnusableModuleDataIsRefusedAndReportedOnce) {
         EXPECT_FALSE(sensor->grab(true));
     }
     EXPECT_TRUE(LogCapture::has("CRITICAL Calibration was reported to be invalid..."));
+    EXPECT_TRUE(LogCapture::has(
+        "CRITICAL The infrared pictures have 628 x 468 pixels, but their calibration is for 640 x 468."));
 }
 
 TEST(ParameterText, PosesAndModels) {

@@ -71,7 +71,12 @@ public:
     bool rectifiedLRIntrinsics(Rectified* out) override { return give("rectifiedLRIntrinsics", leftRight, out); }
     bool zIntrinsics(Rectified* out) override { return give("zIntrinsics", z, out); }
     bool rectParameters(KXCalibRectParameters* out) override { return give("rectParameters", flash, out); }
-    bool resumeDevice() override { return call("resumeDevice"); }
+    /// The module takes up the rotations that its block holds, once a companion has entered some.
+    bool resumeDevice() override {
+        load(flash.reserved0, flash.rectificationThird, &zToThird);
+        load(flash.reserved0 + 72, flash.rectificationPlatform, &zToPlatform);
+        return call("resumeDevice");
+    }
 
     // The camera inside the module.
     bool setThirdStreamMode(bool rectify, int32 w, int32 h, int32 fps, int32 format) override {
@@ -81,7 +86,7 @@ public:
     bool thirdEnabled() override { return thirdOn; }
     const std::uint8_t* thirdImage() override { return thirdPixels.data(); }
     int32 thirdWidth() override { return thirdWidthValue; }
-    int32 thirdHeight() override { return 480; }
+    int32 thirdHeight() override { return thirdHeightValue; }
     bool rectifiedThirdIntrinsics(Rectified* out) override { return give("rectifiedThirdIntrinsics", third, out); }
     bool zToThirdExtrinsics(KXCalibExtrinsics* out) override { return give("zToThirdExtrinsics", zToThird, out); }
 
@@ -122,6 +127,7 @@ public:
     std::atomic<bool> destroyed{false};
     int32 lrWidthValue = 628;
     int32 thirdWidthValue = 640;
+    int32 thirdHeightValue = 480;
     std::vector<std::uint16_t> left = std::vector<std::uint16_t>(std::size_t{628} * 468, 500);
     std::vector<std::uint16_t> right = std::vector<std::uint16_t>(std::size_t{628} * 468, 501);
     std::vector<std::uint16_t> depth = std::vector<std::uint16_t>(std::size_t{628} * 468, 1502);
@@ -151,6 +157,21 @@ public:
     }
 
 private:
+    /// Mc · Q · Miᵀ, with the nine numbers of Q at `stored`.
+    void load(const std::uint8_t* stored, const float* colour, KXCalibExtrinsics* out) const {
+        double q[9];
+        std::memcpy(q, stored, sizeof(q));
+        if (stored[0] == 0x5A) return;
+        for (int row = 0; row < 3; ++row) {
+            for (int column = 0; column < 3; ++column) {
+                double sum = 0;
+                for (int i = 0; i < 9; ++i)
+                    sum += colour[row * 3 + i / 3] * q[i] * flash.rectificationInfrared[column * 3 + i % 3];
+                out->rotation[row * 3 + column] = static_cast<float>(sum);
+            }
+        }
+    }
+
     /// Records the call and gives its result.
     template <typename... Arguments>
     bool call(const std::string& operation, Arguments... arguments) {

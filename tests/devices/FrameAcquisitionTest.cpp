@@ -139,6 +139,40 @@ TEST_F(FrameAcquisitionTest, StreamsThatAreOffOrOddAreSkipped) {
     EXPECT_EQ(sensor->frames().inModuleColour.width(), 640U) << "without a scaled size it is not filled";
 }
 
+TEST_F(FrameAcquisitionTest, PicturesOfDifferentMomentsAreNoPair) {
+    openAndRead(applicationSettings());
+    std::uint8_t luma = 20;
+    const auto grabbed = [&](bool infrared, bool third, bool rear) {
+        device->left[9] = static_cast<std::uint16_t>(device->left[9] + (infrared ? 1 : 0));
+        device->thirdPixels[9] = static_cast<std::uint8_t>(device->thirdPixels[9] + (third ? 1 : 0));
+        if (rear) rearCamera.deliver(++luma, 128, 128);
+        EXPECT_TRUE(grabAfter(milliseconds(16)));
+        return std::pair(sensor->isFreshPair(false), sensor->isFreshPair(true));
+    };
+    EXPECT_EQ(grabbed(true, true, true), std::pair(true, true));
+    EXPECT_EQ(grabbed(true, false, false), std::pair(false, false)) << "every other colour picture is the one before";
+    EXPECT_EQ(grabbed(true, true, false), std::pair(true, false));
+    EXPECT_EQ(grabbed(true, false, true), std::pair(false, true));
+    EXPECT_EQ(grabbed(false, true, false), std::pair(false, true)) << "a frozen infrared picture is as bad";
+    EXPECT_EQ(grabbed(true, true, true), std::pair(true, true));
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(grabbed(false, false, false), std::pair(true, true)) << "a still goes on being one";
+    rearCamera.deliver(luma, 128, 128);
+    EXPECT_EQ(grabbed(true, true, false), std::pair(true, false)) << "the same picture again";
+
+    EXPECT_EQ(grabbed(true, true, true), std::pair(true, true));
+    std::vector<std::uint16_t> none;
+    std::swap(device->left, none);
+    std::vector<std::uint16_t> noDepth;
+    std::swap(device->depth, noDepth);
+    EXPECT_TRUE(grabAfter(milliseconds(100)));
+    EXPECT_TRUE(sensor->isFreshPair(false));
+    EXPECT_FALSE(sensor->frames().depth.empty());
+    EXPECT_TRUE(grabAfter(milliseconds(1)));
+    EXPECT_FALSE(sensor->isFreshPair(false)) << "101 ms";
+    EXPECT_TRUE(sensor->frames().depth.empty());
+}
+
 TEST_F(FrameAcquisitionTest, ASilentStartOfTheRearCameraIsReportedEveryTime) {
     openAndRead(applicationSettings());
     EXPECT_TRUE(sensor->grab(true));

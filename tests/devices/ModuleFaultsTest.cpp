@@ -121,7 +121,7 @@ TEST_F(ModuleFaultsTest, WhatIsNotThereIsNamedOnce) {
 
 TEST_F(ModuleFaultsTest, ACallThatHangsIsGivenUpEverywhere) {
     dropPlatform();
-    callLimit = kShort;
+    limits = {kShort, kShort};
     for (const std::string operation : kFatal) {
         SCOPED_TRACE(operation);
         start(QString::fromStdString(operation + ":hang"));
@@ -131,10 +131,40 @@ TEST_F(ModuleFaultsTest, ACallThatHangsIsGivenUpEverywhere) {
     }
 }
 
+TEST_F(ModuleFaultsTest, ACameraThatDoesNotLetGoDisturbsNothingElse) {
+    limits = {kShort, kShort};
+    start("platformCamera:1:0,setSink:2:hang,destroyDevice:1:hang");
+    ASSERT_TRUE(open()) << "the rear camera, which cannot be used, hangs as it is closed";
+    EXPECT_TRUE(sensor->grab(true));
+    close();
+    EXPECT_THAT(reports, IsEmpty());
+
+    start("grab:1:hang,setSink:2:hang");
+    EXPECT_TRUE(open());
+    EXPECT_FALSE(sensor->grab(true));
+    const auto begin = std::chrono::steady_clock::now();
+    close();
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, 4 * kShort);
+}
+
+TEST_F(ModuleFaultsTest, AStatusThatBelongsToTheCallersThreadIsTold) {
+    start("thread-bound-status,zIntrinsics:1:7");
+    EXPECT_FALSE(open());
+    expectReport(7);
+}
+
+TEST_F(ModuleFaultsTest, ACalibrationForPicturesOfAnotherSizeIsNamed) {
+    start("wrong-size");
+    EXPECT_FALSE(open());
+    expectReport(4);
+    EXPECT_TRUE(
+        LogCapture::has("CRITICAL The infrared pictures have 6 x 4 pixels, but their calibration is for 8 x 4."));
+}
+
 /// The calls of a write-back, with the number that each has after opening and reading out.
-const std::string kWriting[] = {"stopCapture:1",         "rectParameters:1",    "privateInterface:1",
-                                "writeRectParameters:1", "commitCalibration:1", "resumeDevice:1",
-                                "rectParameters:2",      "rectParameters:3"};
+const std::string kWriting[] = {
+    "stopCapture:1",  "rectParameters:1", "privateInterface:1", "writeRectParameters:1", "commitCalibration:1",
+    "resumeDevice:1", "rectParameters:2", "rectParameters:3",   "zToThirdExtrinsics:2",  "zToPlatformExtrinsics:2"};
 
 class WriteFaultsTest : public ModuleFaultsTest {
 protected:
@@ -214,18 +244,54 @@ TEST_F(WriteFaultsTest, Lies) {
         EXPECT_FALSE(tryWriting(operation + ":lie")) << operation;
     EXPECT_FALSE(tryWriting("commitCalibration:1:lie"));
     EXPECT_EQ(firstReports, std::vector<std::string>{unstored});
-    EXPECT_TRUE(tryWriting("resumeDevice:1:lie")) << "a module that does not resume has stored the block all the same";
+    EXPECT_FALSE(tryWriting("resumeDevice:1:lie")) << "the module goes on with the old rotation";
+    EXPECT_EQ(said.flash, Flash::Previous);
 }
 
 TEST_F(WriteFaultsTest, Hangs) {
     dropPlatform();
     takeBaseline();
-    callLimit = kShort;
+    limits = {kShort, kShort};
     for (const std::string& operation : kWriting) {
         SCOPED_TRACE(operation);
+        if (operation == "zToPlatformExtrinsics:2") continue;
         EXPECT_FALSE(tryWriting(operation + ":hang"));
         EXPECT_EQ(firstReports[0], "The camera does not answer - An unknown error has occured.");
     }
+}
+
+TEST_F(WriteFaultsTest, ABlockWithALifeOfItsOwnIsStoredAndRestored) {
+    QFile::remove(flashFile);
+    reopen("living-block,meddling-companion");
+    for (const Rotation& rotation : {kTurned, parameters.depthToInModule.rotation}) {
+        ASSERT_TRUE(sensor->updateRotation(rotation, parameters.depthToOutOfModule.rotation));
+        EXPECT_EQ(sensor->writeBack().flash, Flash::Written);
+    }
+    EXPECT_TRUE(
+        LogCapture::has("Outside of the rotation the companion library changed 1 bytes, the first one at 1457"));
+    EXPECT_TRUE(LogCapture::has("The module keeps the block with changes of its own: 5 bytes, the first one at 2040"));
+    ParameterBackup backup;
+    QString why;
+    ASSERT_TRUE(readBackup(sensor->writeBack().backupFile, &backup, &why)) << why.toStdString();
+    EXPECT_TRUE(sensor->restoreParameters(backup.block)) << sensor->writeBack().reason.toStdString();
+    EXPECT_THAT(reports, IsEmpty());
+}
+
+TEST_F(WriteFaultsTest, WhatIsReadAfterResumingCountsWhereItMatters) {
+    EXPECT_TRUE(tryWriting("rectParameters:3:garble+2")) << "a byte of the module's own";
+    EXPECT_FALSE(tryWriting("rectParameters:3:garble+257")) << "in the third camera's rotation";
+    EXPECT_EQ(said.flash, Flash::Previous) << "put back";
+    EXPECT_FALSE(tryWriting("rectParameters:3:garble+1420")) << "in a matrix";
+    EXPECT_EQ(said.flash, Flash::Previous);
+    EXPECT_FALSE(tryWriting("rectParameters:3:6,rectParameters:4:6")) << "it could not be read";
+}
+
+TEST_F(WriteFaultsTest, WritingMayTakeLongerThanOtherCalls) {
+    dropPlatform();
+    takeBaseline();
+    limits.call = kShort;
+    EXPECT_TRUE(tryWriting("writeRectParameters:1:late+600,commitCalibration:1:late+600"));
+    EXPECT_FALSE(tryWriting("rectParameters:2:late+600"));
 }
 
 /// The high byte of the infrared matrix' first entry: 1 becomes 1e38.

@@ -16,7 +16,8 @@
 
 namespace fieldcal::testing {
 
-/// The simulated module behind a real sensor: a tiny recording, a file for its parameter block, a scripted vendor's service.
+/// The simulated module behind a real sensor: a tiny recording, a file for its parameter block, a scripted vendor's
+/// service.
 class ModuleRig : public session::SessionFolder, protected SimulatedModule {
 protected:
     ModuleRig() : flashFile(temporary.filePath("flash")) {
@@ -50,7 +51,7 @@ protected:
         SensorEnvironment environment = systemEnvironment();
         environment.services = services.get();
         environment.dataFolder = temporary.filePath("data");
-        environment.callLimit = callLimit;
+        environment.limits = limits;
         sensor = std::make_unique<Sensor>(environment);
         collectReports(*sensor, &reports);
     }
@@ -73,7 +74,7 @@ protected:
     QString flashFile;
     FakeServiceControl control;
     std::unique_ptr<PXMServiceManager> services;
-    std::chrono::milliseconds callLimit{10000};
+    ModuleLink::Limits limits;
     std::vector<std::string> reports;
     CameraParameters parameters;
     std::unique_ptr<Sensor> sensor;

@@ -45,7 +45,7 @@ protected:
         };
         result.now = [this] { return now; };
         result.dataFolder = data.path();
-        result.callLimit = callLimit;
+        result.limits.call = callLimit;
         return result;
     }
 

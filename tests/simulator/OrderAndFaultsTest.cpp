@@ -199,6 +199,16 @@ TEST_F(Faults, ALieDoesNothing) {
     EXPECT_TRUE(device->startCapture() && device->stopCapture() && device->grab(true));
 }
 
+TEST_F(Faults, AStatusMayBeToldToTheCallersThreadOnly) {
+    set("KXSIM_FAULTS", "thread-bound-status,grab:1:6");
+    const std::shared_ptr<KXDevice> device = createCapturing();
+    EXPECT_FALSE(device->grab(true));
+    std::int32_t elsewhere = -1;
+    std::thread([&] { elsewhere = device->lastStatus(); }).join();
+    EXPECT_EQ(elsewhere, 0);
+    EXPECT_EQ(device->lastStatus(), 6);
+}
+
 TEST_F(Faults, ALateCallDoesItsWork) {
     set("KXSIM_FAULTS", "grab:1:late+200");
     const std::shared_ptr<KXDevice> device = createCapturing();
@@ -233,7 +243,7 @@ TEST_F(Faults, MalformedOrdersKeepTheDeviceShut) {
         "grab:1:6,, grab:1:6;x:1:2 : grab:1:Gone grab:1:powercut zIntrinsics:1:lie depthEnabled:1:gone-after "
         "grab:1:old "
         "grab:1:garble commitCalibration:1:garble grab:1:late grab:1:late+ grab:1:late+-1 grab:1:late+1x grab:1:done "
-        "grab:1:gone+1 living living-block:1:1 grab\n:1:6";
+        "grab:1:gone+1 living living-block:1:1 third:1:6 third:0:drop third:1:late right:1:drop+ grab\n:1:6";
     for (const QString& order : malformed.split(' ')) {
         const std::string text = order.toStdString();
         set("KXSIM_FAULTS", text);

@@ -4,7 +4,6 @@
 
 #include <chrono>
 #include <cstring>
-#include <functional>
 
 namespace {
 
@@ -47,7 +46,7 @@ TEST_F(Playback, IsBitExactWithRepeatsAndStartsAgain) {
     }
 }
 
-TEST_F(Playback, TheRightImagerDeliversWhatItIsToldTo) {
+TEST_F(Playback, AStreamIsDroppedFrozenOrDelayedOnOrder) {
     // Right pictures that differ, and none in the last frame.
     session.frames = {session.frames[0], session.frames[0], session.frames[1]};
     session.frames[0].repeat = 4;
@@ -56,44 +55,30 @@ TEST_F(Playback, TheRightImagerDeliversWhatItIsToldTo) {
     FramePictures shown[]{testPictures(session, true), testPictures(session, true), testPictures(session, false)};
     shown[1].right.pixels()[7] = 5;
     ASSERT_TRUE(writeDescription(folder, session, &why) && writePictures(folder, session.frames[1], shown[1], &why));
-    const auto frameOf = [](int grab) { return grab % 10 < 4 ? 0 : grab % 10 < 9 ? 1 : 2; };
     const fieldcal::ImageFrame16 none;
     fieldcal::ImageFrame16 blank = shown[0].right;
     std::fill_n(blank.pixels(), blank.byteCount() / 2, std::uint16_t{400});
-    using Expected = std::function<const fieldcal::ImageFrame16&(int)>;
-    const std::pair<const char*, Expected> kinds[]{{"real", [&](int grab) -> auto& {return shown[frameOf(grab)].right;
-}
-}  // namespace
-, {"missing", [&](int) -> auto& {return none;
-}
-}
-, {"blank", [&](int) -> auto& {return blank;
-}
-}
-, {"frozen", [&](int) -> auto& {return shown[0].right;
-}
-}
-, {"left", [&](int) -> auto& {return shown[0].infrared;
-}
-}
-, {
-    "late", [&](int grab) -> auto& {
-        return grab < 6 ? none : shown[frameOf(grab - 6)].right;
-    }
-}
-}
-;
-for (const auto& [kind, expected] : kinds) {
-    set("KXSIM_RIGHT", kind);
-    const std::shared_ptr<KXDevice> device = createCapturing();
-    EXPECT_EQ(device->rightImage(), nullptr);
-    for (int grab = 0; grab < 22; ++grab) {
-        ASSERT_TRUE(device->grab(true));
-        ASSERT_TRUE(holds(device->rightImage(), expected(grab))) << kind << ' ' << grab;
-        ASSERT_TRUE(holds(device->leftImage(), shown[0].infrared) && device->rightEnabled());
-    }
-    EXPECT_EQ(device->lastStatus(), 0);
-}
+    const auto own = [&](int grab) { return &shown[grab % 10 < 4 ? 0 : grab % 10 < 9 ? 1 : 2].right; };
+    const auto expect = [&](const char* variable, const char* value, const auto& expected) {
+        set("KXSIM_RIGHT", "");
+        set("KXSIM_FAULTS", "");
+        set(variable, value);
+        const std::shared_ptr<KXDevice> device = createCapturing();
+        EXPECT_EQ(device->rightImage(), nullptr);
+        for (int grab = 0; grab < 22; ++grab) {
+            ASSERT_TRUE(device->grab(true));
+            ASSERT_TRUE(holds(device->rightImage(), *expected(grab))) << value << ' ' << grab;
+            ASSERT_TRUE(holds(device->leftImage(), shown[0].infrared) && device->rightEnabled());
+        }
+        EXPECT_EQ(device->lastStatus(), 0);
+    };
+    expect("KXSIM_RIGHT", "real", own);
+    expect("KXSIM_RIGHT", "blank", [&](int) { return &blank; });
+    expect("KXSIM_RIGHT", "left", [&](int) { return &shown[0].infrared; });
+    expect("KXSIM_FAULTS", "right:1:drop", [&](int) { return &none; });
+    expect("KXSIM_FAULTS", "right:3:drop+4", [&](int grab) { return grab < 2 || grab > 5 ? own(grab) : &none; });
+    expect("KXSIM_FAULTS", "right:5:freeze", [&](int grab) { return grab < 4 ? own(grab) : &shown[1].right; });
+    expect("KXSIM_FAULTS", "right:1:late+6", [&](int grab) { return grab < 6 ? &none : own(grab - 6); });
 }
 
 TEST_F(Playback, ThePlatformCameraIsTheRecordings) {

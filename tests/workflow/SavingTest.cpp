@@ -47,7 +47,7 @@ TEST_F(SavingTest, ANoteStandsOnDiskWhileTheOutcomeIsOpen) {
 
 TEST_F(SavingTest, WithoutAnythingAcceptedBothRecordsArePassedAndNothingIsNoted) {
     EXPECT_TRUE(storeCalibration(*sensor, records, data.path()));
-    EXPECT_EQ(device->calls.back(), "rectParameters()");
+    EXPECT_EQ(device->calls.back(), "zToPlatformExtrinsics()");
     EXPECT_FALSE(noteAtWrite);
 }
 

@@ -75,13 +75,11 @@ TEST_F(MediaFoundationTest, FindsOpensStreamsAndEndsOnOneThread) {
             EXPECT_EQ(late->OnSample(sampleOf(1280 * 720 * 3 / 2, static_cast<BYTE>(i)).Get()), S_OK);
     }).join();
     EXPECT_TRUE(control->frameReady());
-    const std::uint8_t* pixels = nullptr;
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-    ASSERT_TRUE(control->latestFrame(&pixels, &width, &height, 10));
-    EXPECT_EQ(pixels[1280 * 720 * 3 / 2 - 1], 200);
-    EXPECT_EQ(width, 1280);
-    EXPECT_EQ(height, 720);
+    QueuedPicture picture;
+    ASSERT_TRUE(control->latestFrame(&picture, 10));
+    EXPECT_EQ(picture.pixels[1280 * 720 * 3 / 2 - 1], 200);
+    EXPECT_EQ(picture.width, 1280);
+    EXPECT_EQ(picture.height, 720);
 
     std::thread([this] { control.reset(); }).join();
     EXPECT_THAT(camera.calls, ElementsAre("StopRecord", "Shutdown", "shutDown"));

@@ -1,0 +1,306 @@
+#include "devices/CalibrationWriter.h"
+
+#include "devices/ParameterBackup.h"
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <utility>
+
+namespace fieldcal {
+namespace {
+
+using Block = KXCalibRectParameters;
+using Bytes = std::bitset<sizeof(Block)>;
+using Flash = WriteBackReport::Flash;
+
+/// What a rotation that the module tells may differ from the one that was written: roundings of 32 bit, many times.
+constexpr float kToldTolerance = 1e-4F;
+
+constexpr const char* kNotKept =
+    QT_TRANSLATE_NOOP("Interface", "The camera said that it stored the calibration, but it did not");
+
+const std::uint8_t* bytesOf(const Block& block) {
+    return reinterpret_cast<const std::uint8_t*>(&block);
+}
+
+Bytes differences(const Block& a, const Block& b) {
+    Bytes differing;
+    for (std::size_t i = 0; i < differing.size(); ++i)
+        differing[i] = bytesOf(a)[i] != bytesOf(b)[i];
+    return differing;
+}
+
+/// Numbers are not compared in part: a byte of theirs may happen to be the same.
+Bytes wholeWords(const Bytes& bytes) {
+    Bytes words;
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        words[i] = (bytes >> (i / 4 * 4) & Bytes(0xF)).any();
+    return words;
+}
+
+Bytes matrixBytes() {
+    Bytes bytes;
+    for (const std::size_t start : {offsetof(Block, rectificationInfrared), offsetof(Block, rectificationThird),
+                                    offsetof(Block, rectificationPlatform)}) {
+        for (std::size_t i = 0; i < sizeof(Block::rectificationInfrared); ++i)
+            bytes.set(start + i);
+    }
+    return bytes;
+}
+
+void logBytes(const char* what, const Bytes& bytes) {
+    if (bytes.none()) return;
+    qWarning("%s %d bytes, the first one at %d", what, static_cast<int>(bytes.count()),
+             static_cast<int>(bytes._Find_first()));
+}
+
+/// The block with a rotation of a camera. The call may be given up, so that it works on its own copies.
+std::optional<Block> turned(ModuleLink& link, KXUpdateRotationFunction function, const std::array<double, 9>& rotation,
+                            const Block& block) {
+    const auto call = [=, library = link.rotationUpdater()] {
+        std::optional<Block> out(block);
+        function(&block, rotation.data(), &*out);
+        return out;
+    };
+    return link.ask(call);
+}
+
+/// Two rotations that differ in every number.
+constexpr std::array<double, 9> kProbe{0.6442, -0.5285, 0.5529, 0.5440, 0.8255, 0.1552, -0.5383, 0.2008, 0.8185};
+constexpr std::array<double, 9> kOtherProbe{-0.1702, -0.6659, 0.7268, 0.7161, 0.4251, 0.5558, -0.6791, 0.6151, 0.4005};
+
+/// The fields of a rotation: where two different ones make different blocks.
+std::optional<Bytes> fieldsOf(ModuleLink& link, KXUpdateRotationFunction function, const Block& block) {
+    const auto one = turned(link, function, kProbe, block);
+    const auto other = one ? turned(link, function, kOtherProbe, block) : std::nullopt;
+    if (!other) return std::nullopt;
+    return wholeWords(differences(*one, *other));
+}
+
+}  // namespace
+
+QString flashText(const WriteBackReport& report) {
+    switch (report.flash) {
+        case Flash::Untouched:
+            return "Nothing was written to the camera's flash.";
+        case Flash::Previous:
+            return "The camera's flash holds the previous calibration.";
+        case Flash::Written:
+            return "The camera's flash holds the new calibration.";
+        case Flash::Other:
+            return "The camera's flash holds neither the previous nor the new calibration. The previous one is in " +
+                   report.backupFile;
+        case Flash::Unknown:
+            break;
+    }
+    return "It is not known what the camera's flash holds. The previous calibration is in " + report.backupFile;
+}
+
+CalibrationWriter::CalibrationWriter(ModuleLink& link, KXThirdCamera* third, std::uint32_t serial, QString backupFolder)
+    : link_(link), third_(third), serial_(serial), backupFolder_(std::move(backupFolder)), counting_(matrixBytes()) {}
+
+/// A camera whose rotation is the one in the flash is left as it is there: composing it anew would only move it by
+/// rounding, a little further with every save.
+bool CalibrationWriter::writeRotations(const StoredRotations& present, const StoredRotations& wanted) {
+    const bool third = wanted.third != present.third;
+    const bool platform = present.platform && wanted.platform != present.platform;
+    const auto rectifies = [&](const Block& block, const char* which, QString* why) {
+        const char* wrong = matrixThatIsNoRotation(block, third, platform);
+        if (wrong != nullptr) {
+            *why = QString("The %1 parameter block cannot be used: its %2 is no rotation").arg(which, wrong);
+        }
+        return wrong == nullptr;
+    };
+    const auto makeWanted = [&](QString* why) {
+        if (!rectifies(previous_, "present", why)) return false;
+        wanted_ = previous_;
+        const KXRotationUpdater& updater = *link_.rotationUpdater();
+        if ((!third || turn(updater.updateThirdCamera, wanted.third, previous_.rectificationThird)) &&
+            (!platform || turn(updater.updatePlatformCamera, *wanted.platform, previous_.rectificationPlatform))) {
+            return rectifies(wanted_, "new", why);
+        }
+        *why = link_.faultText();
+        return false;
+    };
+    rotations_ = wanted;
+    return run(makeWanted);
+}
+
+bool CalibrationWriter::restore(const Block& block) {
+    return run([&](QString* why) {
+        wanted_ = block;
+        const KXRotationUpdater& updater = *link_.rotationUpdater();
+        for (const auto function : {updater.updateThirdCamera, updater.updatePlatformCamera}) {
+            const auto fields = fieldsOf(link_, function, block);
+            if (!fields) {
+                *why = link_.faultText();
+                return false;
+            }
+            counting_ |= *fields;
+        }
+        return true;
+    });
+}
+
+bool CalibrationWriter::run(const std::function<bool(QString* why)>& makeWanted) {
+    if (!prepare(makeWanted)) {
+        resume();
+        return false;
+    }
+    const bool stored =
+        write() && readAgain() && holdsWanted() && resume() && readAgain() && holdsWanted() && tellsWanted();
+    if (!stored) {
+        putBack();
+        resume();
+        readQuietly();
+        if (report_.reason.isEmpty()) report_.reason = link_.faultText();
+        qCritical("The calibration was not stored: %s", qUtf8Printable(report_.reason));
+    }
+    qInfo("%s", qUtf8Printable(flashText(report_)));
+    return stored;
+}
+
+/// Up to here nothing has been sent to the flash.
+bool CalibrationWriter::prepare(const std::function<bool(QString* why)>& makeWanted) {
+    KXDevice* device = link_.device().get();
+    if (!link_.ask([device] { return device->stopCapture(); })) return failed();
+    resting_ = true;
+    const auto present = link_.read(device, &KXDevice::rectParameters);
+    if (!present) return failed();
+    previous_ = *present;
+    QString why;
+    const ParameterBackup backup{serial_, QDateTime::currentDateTimeUtc(), previous_};
+    if (!keepBackup(backupFolder_, backup, &report_.backupFile, &why)) {
+        return refuse("The present calibration could not be kept: " + why);
+    }
+    qInfo("The present calibration is kept in %s", qUtf8Printable(report_.backupFile));
+    if (!makeWanted(&why)) return refuse(why);
+    access_ = link_.ask([device] { return device->privateInterface(); });
+    return access_ != nullptr || failed();
+}
+
+/// One camera's rotation in the wanted block, between the raw frames, as the companion library takes it.
+bool CalibrationWriter::turn(KXUpdateRotationFunction function, const Rotation& rotation, const float* rectifyColour) {
+    const auto fields = fieldsOf(link_, function, wanted_);
+    const auto raw = rawRotation(rotation, rectifyColour, previous_.rectificationInfrared);
+    const auto out = fields ? turned(link_, function, raw, wanted_) : std::nullopt;
+    if (!out) return false;
+    const Bytes meant = *fields & ~matrixBytes();
+    logBytes("Outside of the rotation the companion library changed", differences(wanted_, *out) & ~meant);
+    counting_ |= *fields;
+    wanted_ = *out;
+    return true;
+}
+
+bool CalibrationWriter::write() {
+    KXPrivate* access = access_;
+    const auto sent = std::make_shared<const Block>(wanted_);
+    if (link_.askPatiently([access, sent] { return access->writeRectParameters(sent.get(), true); }) &&
+        link_.askPatiently([access] { return access->commitCalibration(); })) {
+        return true;
+    }
+    readQuietly();
+    return false;
+}
+
+bool CalibrationWriter::readAgain() {
+    const auto found = link_.read(link_.device().get(), &KXDevice::rectParameters);
+    if (found) {
+        judge(*found);
+    } else {
+        readQuietly();
+    }
+    return found.has_value();
+}
+
+/// What is known after a failure, which has been reported.
+void CalibrationWriter::readQuietly() {
+    KXDevice* device = link_.device().get();
+    const auto found = link_.askQuietly([device] { return ModuleLink::filled(device, &KXDevice::rectParameters); });
+    report_.flash = Flash::Unknown;
+    if (found) judge(*found);
+}
+
+void CalibrationWriter::judge(const Block& found) {
+    const Bytes unlikeWanted = differences(found, wanted_);
+    if ((unlikeWanted & counting_).none()) {
+        report_.flash = Flash::Written;
+        if (!std::exchange(differencesLogged_, true)) {
+            logBytes("The module keeps the block with changes of its own:", unlikeWanted);
+        }
+    } else {
+        report_.flash = (differences(found, previous_) & counting_).none() ? Flash::Previous : Flash::Other;
+    }
+}
+
+/// All calls have succeeded; whether the block is there is another matter.
+bool CalibrationWriter::holdsWanted() {
+    return report_.flash == Flash::Written || notKept();
+}
+
+/// What the module makes of the block it has loaded.
+bool CalibrationWriter::tellsWanted() {
+    if (!rotations_) return true;
+    if (!tells("in-module", link_.read(third_, &KXThirdCamera::zToThirdExtrinsics), rotations_->third)) return false;
+    if (!rotations_->platform) return true;
+    const auto told = link_.ask([device = link_.device().get()]() -> std::optional<KXCalibExtrinsics> {
+        KXPlatformCamera* camera = device->platformCamera();
+        if (camera == nullptr) return std::nullopt;
+        return ModuleLink::filled(camera, &KXPlatformCamera::zToPlatformExtrinsics);
+    });
+    return tells("out-of-module", told, *rotations_->platform);
+}
+
+bool CalibrationWriter::tells(const char* which, const std::optional<KXCalibExtrinsics>& told, const Rotation& wanted) {
+    if (!told) return failed();
+    const bool same = std::equal(wanted.begin(), wanted.end(), told->rotation,
+                                 [](float a, float b) { return std::abs(a - b) <= kToldTolerance; });
+    if (same) return true;
+    const float* r = told->rotation;
+    qCritical("The camera's %s rotation is now [%f %f %f; %f %f %f; %f %f %f], which is not what was written.", which,
+              r[0], r[1], r[2], r[3], r[4], r[5], r[6], r[7], r[8]);
+    return notKept();
+}
+
+/// What went wrong has been reported. A module that holds the new block and tells it, or the previous one, is left so.
+void CalibrationWriter::putBack() {
+    const bool disagrees = report_.reason == kNotKept && report_.flash != Flash::Previous;
+    if (!disagrees && (report_.flash != Flash::Other || !resting_)) return;
+    qCritical("The camera keeps something else than what was written; putting the previous block back.");
+    KXDevice* device = link_.device().get();
+    if (!std::exchange(resting_, true)) link_.askQuietly([device] { return device->stopCapture(); });
+    KXPrivate* access = access_;
+    const auto sent = std::make_shared<const Block>(previous_);
+    link_.askQuietlyAndPatiently(
+        [access, sent] { return access->writeRectParameters(sent.get(), true) && access->commitCalibration(); });
+}
+
+/// A module that has failed is left as it is, except for its pictures, which may come back.
+bool CalibrationWriter::resume() {
+    if (!std::exchange(resting_, false)) return true;
+    const auto call = [device = link_.device().get()] { return device->resumeDevice(); };
+    return link_.faulted() ? link_.askQuietly(call) : link_.ask(call);
+}
+
+bool CalibrationWriter::notKept() {
+    report_.reason = kNotKept;
+    link_.reportFault(kNotKept);
+    return false;
+}
+
+/// The link has reported it.
+bool CalibrationWriter::failed() {
+    report_.reason = link_.faultText();
+    return false;
+}
+
+bool CalibrationWriter::refuse(const QString& reason) {
+    report_.reason = reason;
+    qCritical("%s", qUtf8Printable(reason));
+    return false;
+}
+
+}  // namespace fieldcal

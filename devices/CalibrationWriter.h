@@ -1,0 +1,69 @@
+#pragma once
+
+#include "devices/ModuleLink.h"
+#include "devices/RotationComposition.h"
+#include "devices/WriteBackReport.h"
+
+#include <bitset>
+#include <functional>
+#include <optional>
+
+namespace fieldcal {
+
+/// The depth-to-colour rotations that the module tells; `platform` only where its calibration can be used.
+struct StoredRotations {
+    Rotation third{};
+    std::optional<Rotation> platform;
+};
+
+/// Replaces the module's parameter block: keeps the one that is there in a file, writes, reads again, lets the module
+/// load it, and reads again. What counts is what this program means to change: the fields that the companion library
+/// writes, the three matrices, and the rotations that the module then tells. Other bytes belong to the module, which
+/// may keep a checksum, a date or a counter in them; differences there are logged. Where anything that counts
+/// disagrees, one attempt is made to put the previous block back. The sensor's thread; one use.
+class CalibrationWriter {
+public:
+    CalibrationWriter(ModuleLink& link, KXThirdCamera* third, std::uint32_t serial, QString backupFolder);
+
+    /// Both are true when the module keeps, and tells, what was written. A failed call has been reported by the link,
+    /// and so has a module that does not keep the block; anything else that stops the writing is logged.
+    bool writeRotations(const StoredRotations& present, const StoredRotations& wanted);
+    bool restore(const KXCalibRectParameters& block);
+
+    const WriteBackReport& report() const { return report_; }
+
+private:
+    using Block = KXCalibRectParameters;
+    using Bytes = std::bitset<sizeof(Block)>;
+
+    bool run(const std::function<bool(QString* why)>& makeWanted);
+    bool prepare(const std::function<bool(QString* why)>& makeWanted);
+    bool turn(KXUpdateRotationFunction function, const Rotation& rotation, const float* rectifyColour);
+    bool write();
+    bool readAgain();
+    void readQuietly();
+    bool holdsWanted();
+    bool tellsWanted();
+    bool tells(const char* which, const std::optional<KXCalibExtrinsics>& told, const Rotation& wanted);
+    void judge(const Block& found);
+    void putBack();
+    bool resume();
+    bool notKept();
+    bool failed();
+    bool refuse(const QString& reason);
+
+    ModuleLink& link_;
+    KXThirdCamera* third_;
+    const std::uint32_t serial_;
+    const QString backupFolder_;
+    WriteBackReport report_;
+    Block previous_{};
+    Block wanted_{};
+    Bytes counting_;                            ///< the bytes of the block that are compared
+    std::optional<StoredRotations> rotations_;  ///< what the module must tell afterwards, if that is known
+    KXPrivate* access_ = nullptr;
+    bool resting_ = false;
+    bool differencesLogged_ = false;
+};
+
+}  // namespace fieldcal

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "session/RecordedSession.h"
+#include "simulator/kxapi/Settings.h"
+
+#include <deque>
+#include <optional>
+
+namespace kxsim {
+
+/// The pictures of one stream as the module delivers them: those of the source, unless a fault drops, freezes or
+/// delays them.
+template <typename Picture>
+class Stream {
+public:
+    explicit Stream(const char* name) : name_(name) {}
+
+    /// Once for every frame set, counted from 1. `picture` stays until the next call; null: the source has none.
+    void follow(const Picture* picture, std::uint64_t set, const Faults& faults) {
+        const std::optional<StreamFault> fault = faults.inStream(name_, set);
+        shown_ = picture;
+        if (!fault) return;
+        if (fault->kind == StreamFaultKind::drop) shown_ = nullptr;
+        if (fault->kind == StreamFaultKind::freeze) shown_ = frozen(picture);
+        if (fault->kind == StreamFaultKind::late) shown_ = delayed(picture, fault->number);
+    }
+
+    /// Null: the frame set has no such picture.
+    const Picture* shown() const { return shown_; }
+
+private:
+    const Picture* frozen(const Picture* picture) {
+        if (kept_.empty() && picture != nullptr) kept_.push_back(*picture);
+        return kept_.empty() ? nullptr : &kept_.front();
+    }
+    const Picture* delayed(const Picture* picture, std::size_t sets) {
+        kept_.push_back(picture != nullptr ? *picture : Picture());
+        if (kept_.size() <= sets) return nullptr;
+        if (kept_.size() > sets + 1) kept_.pop_front();
+        return &kept_.front();
+    }
+
+    const char* name_;
+    const Picture* shown_ = nullptr;
+    std::deque<Picture> kept_;  ///< what is delivered later on, the oldest one first
+};
+
+/// What the module delivers of a frame set.
+class Streams {
+public:
+    explicit Streams(RightChoice right) : choice_(right) {}
+
+    /// Once for every frame set that was grabbed, with `frame` current until the next call.
+    void follow(const fieldcal::session::FramePictures& frame, bool platformIsNew, const Faults& faults);
+
+    /// Null where the frame set has no such picture.
+    const std::uint16_t* depth() const { return pixelsOf(depth_); }
+    const std::uint16_t* left() const { return pixelsOf(left_); }
+    const std::uint16_t* right() const { return pixelsOf(right_); }
+    const std::uint8_t* third() const { return third_.shown() != nullptr ? third_.shown()->bytes() : nullptr; }
+    const std::uint8_t* platform() const;
+    /// Whether the source has depth at all; where it has none, that is 0 everywhere.
+    bool hasDepth() const { return hasDepth_; }
+
+private:
+    using Picture16 = fieldcal::ImageFrame16;
+    static const std::uint16_t* pixelsOf(const Stream<Picture16>& stream) {
+        return stream.shown() == nullptr || stream.shown()->empty() ? nullptr : stream.shown()->pixels();
+    }
+    const Picture16* chosenRight(const fieldcal::session::FramePictures& frame);
+
+    RightChoice choice_;
+    Picture16 blank_;
+    Stream<Picture16> depth_{"depth"}, left_{"left"}, right_{"right"};
+    Stream<fieldcal::ImageFrame32> third_{"third"};
+    Stream<std::vector<std::uint8_t>> platform_{"platform"};
+    std::uint64_t sets_ = 0;
+    bool hasDepth_ = false;
+};
+
+}  // namespace kxsim
