@@ -2,7 +2,8 @@
 
 #include "devices/ModuleLink.h"
 #include "devices/RotationComposition.h"
-#include "devices/WriteBackReport.h"
+
+#include <QString>
 
 #include <bitset>
 #include <functional>
@@ -15,6 +16,23 @@ struct StoredRotations {
     Rotation third{};
     std::optional<Rotation> platform;
 };
+
+/// What a write-back did to the module's flash, by what the module itself says when it is read again.
+struct WriteBackReport {
+    enum class Flash {
+        Untouched,  ///< nothing was sent to it
+        Previous,   ///< the block that was there before
+        Written,    ///< the block that was to be written
+        Other,      ///< neither of them; the backup holds the previous one
+        Unknown     ///< it could not be read again
+    };
+    Flash flash = Flash::Untouched;
+    QString reason;      ///< why it failed, one line; empty after success
+    QString backupFile;  ///< where the previous block was kept; empty when it never came to that
+};
+
+/// One line for people and logs.
+QString flashText(const WriteBackReport& report);
 
 /// Replaces the module's parameter block: keeps the one that is there in a file, writes, reads again, lets the module
 /// load it, and reads again. What counts is what this program means to change: the fields that the companion library

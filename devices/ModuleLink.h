@@ -1,6 +1,5 @@
 #pragma once
 
-#include "devices/StatusCheck.h"
 #include "devices/WatchedCalls.h"
 #include "kxapi/Library.h"
 #include "kxapi/RotationUpdater.h"
@@ -15,6 +14,12 @@
 #include <utility>
 
 namespace fieldcal {
+
+/// What the user is told, in the language of the interface, about a failed call of the camera library.
+struct StatusNotice {
+    bool missingDevice = false;  ///< the missing-camera notice; `text` is empty then
+    QString text;                ///< "library's text - message"
+};
 
 /// The link to the camera module: the library, its companion, the device, and every call that reaches it. The calls
 /// are watched, and the first one that fails is fatal: it is reported once, and from then on only quiet calls are made.

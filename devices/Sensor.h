@@ -9,7 +9,6 @@
 #include "devices/RotationComposition.h"
 #include "devices/SensorEnvironment.h"
 #include "devices/SensorSettings.h"
-#include "devices/WriteBackReport.h"
 
 #include <QObject>
 #include <QString>

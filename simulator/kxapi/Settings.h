@@ -23,7 +23,7 @@ struct Settings {
     std::optional<std::array<double, 3>> drift, platformDrift;  ///< degrees; without: from the seed
     PlatformChoice platform = PlatformChoice::calibrated;       ///< a recording decides by itself
     RightChoice right = RightChoice::real;
-    std::string flash;  ///< file of the module's parameter block, UTF-8; empty: see `blockFile`
+    std::string flash;  ///< file of the module's parameter block, UTF-8; empty: where the README says
     double speed = 1;   ///< 1: the source's own rate; 0: as fast as it can
     Faults faults;
     std::string problem;  ///< what is malformed, one line; such a device does not open

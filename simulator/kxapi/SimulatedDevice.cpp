@@ -3,12 +3,41 @@
 #include "simulator/kxapi/Calibration.h"
 #include "simulator/kxapi/ParameterBlock.h"
 #include "simulator/kxapi/RearCamera.h"
-#include "simulator/kxapi/Sources.h"
+#include "simulator/kxapi/SessionPlayer.h"
+#include "simulator/kxapi/WorldSource.h"
+
+#include <QDir>
+#include <QStandardPaths>
 
 #include <thread>
 #include <utility>
 
 namespace kxsim {
+namespace {
+
+/// Whether there is anything to show: a recording, or a world where this build can render one.
+bool hasSource(const Settings& settings) {
+    return !settings.session.empty() || canRenderWorlds;
+}
+
+/// The recording or the world that the settings name. Null and `why` (one line) when something is wrong with it.
+std::unique_ptr<FrameSource> openSource(const Settings& settings, std::string* why) {
+    if (!settings.session.empty()) return SessionPlayer::open(settings.session, why);
+    return openWorld(settings, why);
+}
+
+/// Where the module's parameter block lives: as the settings say; else, for a rendered module, a file of its own in
+/// the user's data folder; else nowhere (empty).
+std::string blockFile(const Settings& settings, std::uint32_t serial) {
+    if (!settings.flash.empty() || !settings.session.empty()) return settings.flash;
+    const QString folder =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/simulated-deepvane";
+    QDir().mkpath(folder);
+    return QString("%1/module-%2.block").arg(folder).arg(serial).toStdString();
+}
+
+}  // namespace
+
 SimulatedDevice::SimulatedDevice(Settings settings)
     : hardware_(&state_), third_(&state_), emitter_(&state_), platform_(&state_), private_(&state_) {
     state_.settings = std::move(settings);

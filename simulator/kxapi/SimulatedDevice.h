@@ -1,10 +1,9 @@
 #pragma once
 
+#include "simulator/kxapi/CameraInterfaces.h"
 #include "simulator/kxapi/ControlInterfaces.h"
 #include "simulator/kxapi/Pace.h"
-#include "simulator/kxapi/PlatformInterface.h"
 #include "simulator/kxapi/Streams.h"
-#include "simulator/kxapi/ThirdInterface.h"
 
 namespace kxsim {
 

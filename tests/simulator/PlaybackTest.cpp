@@ -1,15 +1,21 @@
+#include "kxapi/SharedLibrary.h"
 #include "tests/simulator/TestModule.h"
 
+#include <QFileInfo>
 #include <gmock/gmock.h>
 
 #include <chrono>
 #include <cstring>
+#if !defined(_WIN32)
+#include <unistd.h>
+#endif
 
 namespace {
 
 using fieldcal::session::FramePictures;
 using fieldcal::session::testPictures;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 class Playback : public ModuleTest {
 protected:
@@ -203,5 +209,21 @@ TEST_F(Playback, DevicesComeAndGoAndReadTheEnvironmentAtBirth) {
     ASSERT_NE(library, nullptr);
     EXPECT_TRUE(before->initDevice());
 }
+
+#if !defined(_WIN32)
+TEST(Loader, AnAdapterBesideTheProgramComesFirst) {
+    // A name of its own, since other programs run from this folder at the same time.
+    const QString folder = QFileInfo(QFile::symLinkTarget("/proc/self/exe")).path();
+    const std::string name = "AdapterProbe" + std::to_string(getpid());
+    const QString adapter = folder + "/lib" + QString::fromStdString(name) + "Adapter.so";
+    std::string why;
+    EXPECT_EQ(kxapi::openSharedLibrary(name.c_str(), &why), nullptr);
+    EXPECT_THAT(why, Not(HasSubstr("Adapter.so")));
+    fieldcal::session::writeFile(adapter.toStdString(), "broken");
+    EXPECT_EQ(kxapi::openSharedLibrary(name.c_str(), &why), nullptr);
+    EXPECT_THAT(why, HasSubstr(adapter.toStdString())) << "and a broken one is named";
+    QFile::remove(adapter);
+}
+#endif
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include "simulator/kxapi/ModuleState.h"
 
+#include <optional>
+
 namespace kxsim {
 
 /// The camera inside the module. Whatever size is asked for, the recording's own is served: `thirdWidth` tells.
@@ -21,6 +23,24 @@ public:
 
 private:
     ModuleState& state_;
+};
+
+/// The module's calibration of the tablet's rear camera. Raw intrinsics are told in mode 0, rectified ones in mode 1.
+class PlatformInterface final : public KXPlatformCamera {
+public:
+    explicit PlatformInterface(ModuleState* state) : state_(*state) {}
+
+    bool setPlatformMode(std::int32_t rectified, std::int32_t width, std::int32_t height) override;
+    bool nonRectifiedIntrinsics(KXCalibIntrinsicsNonRectified* out) override;
+    bool rectifiedIntrinsics(KXCalibIntrinsicsRectified* out) override;
+    const double* rectificationRotation() override;
+    bool zToPlatformExtrinsics(KXCalibExtrinsics* out) override;
+
+private:
+    bool enterInMode(const char* operation, std::int32_t mode);
+
+    ModuleState& state_;
+    std::optional<std::int32_t> mode_;
 };
 
 }  // namespace kxsim
