@@ -9,6 +9,7 @@
 #include <array>
 #include <cmath>
 #include <iterator>
+#include <limits>
 
 namespace vq {
 namespace {
@@ -35,7 +36,7 @@ constexpr std::size_t kMostPerArea = 60;
 
 /// What the fit has to show before it may tell the baseline.
 constexpr std::size_t kMinimumForScale = 100;
-constexpr double kLargestScaleDeviation = 0.03;
+constexpr double kLargestScaleDeviation = 0.25;
 constexpr double kSmallestBaselineM = 0.015, kLargestBaselineM = 0.2;
 /// Patches are aligned anew when the scale has moved by this share.
 constexpr double kScaleChange = 0.03;
@@ -150,9 +151,32 @@ void AttemptRecord::learnScale(const std::vector<MeasuredMatch>& matches, const 
     if (!fitted) return;
     const double focalPx = projection_.cameras.infrared.fx;
     const double baselineM = fitted->pixelMetres / focalPx;
-    const double deviation = fitted->pixelMetresDeviation / fitted->pixelMetres;
+    const double deviation =
+        std::hypot(fitted->pixelMetresDeviation, scaleScatter(measured, rotation, options)) / fitted->pixelMetres;
     const bool plausible = baselineM > kSmallestBaselineM && baselineM < kLargestBaselineM;
     if (plausible && deviation < kLargestScaleDeviation) meter_.setFittedScale({fitted->pixelMetres, 0, deviation});
+}
+
+/// How much the fitted scale hangs on some of the matches: they come still after still, so that every sixth of the list
+/// left out is a place of its own (jackknife). Pixels times metres.
+double AttemptRecord::scaleScatter(const std::vector<MeasuredMatch>& measured, const Eigen::Matrix3d& rotation,
+                                   const FitOptions& options) const {
+    constexpr std::size_t kParts = 6;
+    std::vector<double> scales;
+    for (std::size_t part = 0; part < kParts; ++part) {
+        std::vector<MeasuredMatch> rest;
+        for (std::size_t i = 0; i < measured.size(); ++i)
+            if (i * kParts / measured.size() != part) rest.push_back(measured[i]);
+        const auto fitted = fitRotation(rest, projection_, rotation, options);
+        if (!fitted) return std::numeric_limits<double>::infinity();
+        scales.push_back(fitted->pixelMetres);
+    }
+    double mean = 0, squares = 0;
+    for (const double scale : scales)
+        mean += scale / kParts;
+    for (const double scale : scales)
+        squares += (scale - mean) * (scale - mean);
+    return std::sqrt(squares * (kParts - 1) / kParts);
 }
 
 std::vector<MeasuredMatch> AttemptRecord::alignedPatches(const Eigen::Matrix3d& rotation, const StereoScale* scale) {

@@ -72,6 +72,8 @@ private:
     static std::vector<MeasuredMatch> locatedMatches(const Pair& pair, const StereoScale* scale);
     std::optional<Eigen::Matrix3d> fitMatches(const Eigen::Matrix3d& winner);
     void learnScale(const std::vector<MeasuredMatch>& matches, const Eigen::Matrix3d& rotation, double cauchy);
+    double scaleScatter(const std::vector<MeasuredMatch>& measured, const Eigen::Matrix3d& rotation,
+                        const FitOptions& options) const;
     std::vector<MeasuredMatch> alignedPatches(const Eigen::Matrix3d& rotation, const StereoScale* scale);
     void findPairsThatAgree(const Eigen::Matrix3d& rotation, const StereoScale* scale);
     std::optional<LastFit> fitAll(const Eigen::Matrix3d& winner);

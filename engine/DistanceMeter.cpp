@@ -15,6 +15,8 @@ using fieldcal::logMessage;
 
 constexpr double kTypicalBaselineM = 0.06;
 constexpr double kTypicalDeviation = 0.25;
+/// A baseline from the fit that is less certain is used, but not called known.
+constexpr double kTellableDeviation = 0.05;
 constexpr double kRememberedDeviation = 0.01;
 /// Depths beyond this are not believed, and nearer ones neither; metres.
 constexpr float kNearestM = 0.3F, kFarthestM = 15.0F;
@@ -181,19 +183,26 @@ StereoScale DistanceMeter::assumedScale() const {
     return {static_cast<double>(infrared_.fx) * kTypicalBaselineM, 0, kTypicalDeviation};
 }
 
-void DistanceMeter::setFittedScale(const StereoScale& scale) {
-    fromFit_ = scale;
+void DistanceMeter::setFittedScale(const StereoScale& fitted) {
+    const StereoScale before = remembered_ ? *remembered_ : assumedScale();
+    const double fittedWeight = 1 / std::pow(fitted.pixelMetres * fitted.relativeDeviation, 2);
+    const double beforeWeight = 1 / std::pow(before.pixelMetres * before.relativeDeviation, 2);
+    const double weights = fittedWeight + beforeWeight;
+    StereoScale mean;
+    mean.pixelMetres = (fitted.pixelMetres * fittedWeight + before.pixelMetres * beforeWeight) / weights;
+    mean.relativeDeviation = 1 / (std::sqrt(weights) * mean.pixelMetres);
+    fromFit_ = mean;
 }
 
 BaselineSource DistanceMeter::source() const {
     if (fromDepth_) return BaselineSource::Depth;
-    if (fromFit_) return BaselineSource::Fit;
+    if (fromFit_ && fromFit_->relativeDeviation <= kTellableDeviation) return BaselineSource::Fit;
     return remembered_ ? BaselineSource::Remembered : BaselineSource::None;
 }
 
 std::optional<double> DistanceMeter::baselineM() const {
     const StereoScale* known = scale();
-    if (known == nullptr) return std::nullopt;
+    if (known == nullptr || source() == BaselineSource::None) return std::nullopt;
     return known->pixelMetres / static_cast<double>(infrared_.fx);
 }
 

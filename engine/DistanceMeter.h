@@ -46,8 +46,9 @@ public:
     const StereoScale* scale() const;
     /// A scale to begin with where none is known: of a baseline as infrared stereo modules usually have it.
     StereoScale assumedScale() const;
-    /// Takes the scale that a fit of the rotation found; depth goes before it.
-    void setFittedScale(const StereoScale& scale);
+    /// Takes the scale that a fit of the rotation found, and averages it with the remembered or assumed one, each with
+    /// its weight. Depth goes before it.
+    void setFittedScale(const StereoScale& fitted);
     BaselineSource source() const;
     std::optional<double> baselineM() const;
 

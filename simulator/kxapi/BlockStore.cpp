@@ -1,6 +1,6 @@
 #include "simulator/kxapi/BlockStore.h"
 
-#include "session/InputFile.h"
+#include "session/Files.h"
 #include "simulator/kxapi/BlockLayout.h"
 #include "simulator/kxapi/ParameterBlock.h"
 
