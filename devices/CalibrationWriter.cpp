@@ -185,7 +185,9 @@ bool CalibrationWriter::prepare(const std::function<bool(QString* why)>& makeWan
 /// One camera's rotation in the wanted block, between the raw frames, as the companion library takes it.
 bool CalibrationWriter::turn(KXUpdateRotationFunction function, const Rotation& rotation, const float* rectifyColour) {
     const auto fields = fieldsOf(link_, function, wanted_);
-    const auto raw = rawRotation(rotation, rectifyColour, previous_.rectificationInfrared);
+    // Raw infrared to rectified, to the colour camera, back to raw colour.
+    const Matrix3 raw = product(transposed(widened(rectifyColour)),
+                                product(widened(rotation.data()), widened(previous_.rectificationInfrared)));
     const auto out = fields ? turned(link_, function, raw, wanted_) : std::nullopt;
     if (!out) return false;
     const Bytes meant = *fields & ~matrixBytes();

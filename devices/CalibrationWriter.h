@@ -1,7 +1,7 @@
 #pragma once
 
+#include "camera/Rotation.h"
 #include "devices/ModuleLink.h"
-#include "devices/RotationComposition.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "devices/ParameterBackup.h"
 
-#include "devices/RotationComposition.h"
+#include "camera/Rotation.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -72,9 +72,10 @@ bool refuse(const QString& file, const QString& reason, QString* why) {
 }  // namespace
 
 const char* matrixThatIsNoRotation(const KXCalibRectParameters& block, bool withThird, bool withPlatform) {
-    if (!isRotation(block.rectificationInfrared, kRotationTolerance)) return "infrared rectification";
-    if (withThird && !isRotation(block.rectificationThird, kRotationTolerance)) return "third rectification";
-    if (withPlatform && !isRotation(block.rectificationPlatform, kRotationTolerance)) return "platform rectification";
+    if (!isRotation(widened(block.rectificationInfrared), kRotationTolerance)) return "infrared rectification";
+    if (withThird && !isRotation(widened(block.rectificationThird), kRotationTolerance)) return "third rectification";
+    if (withPlatform && !isRotation(widened(block.rectificationPlatform), kRotationTolerance))
+        return "platform rectification";
     return nullptr;
 }
 

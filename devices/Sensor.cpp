@@ -20,7 +20,7 @@ struct RearCamera {
 
 /// Of the rotation of a camera that stays as it is, whatever it is.
 void logUnlessRotation(const char* which, const Rotation& rotation) {
-    if (isRotation(rotation.data(), kRotationTolerance)) return;
+    if (isRotation(widened(rotation.data()), kRotationTolerance)) return;
     qWarning("The %s rotation in the camera is no rotation within %g; it stays as it is.", which, kRotationTolerance);
 }
 
@@ -190,12 +190,12 @@ bool Sensor::updateRotation(const Rotation& third, const Rotation& platform) {
     const StoredRotations& present = *rotationsInFlash_;
     if (third == present.third) {
         logUnlessRotation("in-module", third);
-    } else if (!isRotation(third.data(), kRotationTolerance)) {
+    } else if (!isRotation(widened(third.data()), kRotationTolerance)) {
         return refuseToWrite("the in-module rotation is no rotation");
     }
     if (present.platform && platform == *present.platform) {
         logUnlessRotation("out-of-module", platform);
-    } else if (present.platform && !isRotation(platform.data(), kRotationTolerance)) {
+    } else if (present.platform && !isRotation(widened(platform.data()), kRotationTolerance)) {
         return refuseToWrite("the out-of-module rotation is no rotation");
     }
     const StoredRotations wanted{third, present.platform ? std::optional(platform) : std::nullopt};

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "camera/Rotation.h"
 #include "devices/CalibrationWriter.h"
 #include "devices/FrameAcquisition.h"
 #include "devices/ModuleLink.h"
 #include "devices/ModuleOpening.h"
 #include "devices/PlatformCalibration.h"
 #include "devices/PlatformPicture.h"
-#include "devices/RotationComposition.h"
 #include "devices/SensorEnvironment.h"
 #include "devices/SensorSettings.h"
 

@@ -1,5 +1,6 @@
 #include "engine/ResidualBlocks.h"
 
+#include "camera/Rotation.h"
 #include "engine/FitTerm.h"
 
 #include <Eigen/Cholesky>
@@ -16,7 +17,6 @@ namespace {
 /// A block of fewer matches is left out altogether: its normal equations alone say nothing.
 constexpr std::size_t kMinimumOfBlock = 10;
 constexpr std::size_t kMinimumBlocks = 4;
-constexpr double kPi = 3.14159265358979323846;
 /// Below this, a departure is taken to be real: six of them are looked at in every calibration.
 constexpr double kImprobable = 1e-4;
 
@@ -41,7 +41,7 @@ double probabilityAbove(double statistic, int freedom) {
     const double gauss = std::exp(-statistic / 2);
     if (freedom == 2) return gauss;
     const double tails = std::erfc(std::sqrt(statistic / 2));
-    return freedom == 1 ? tails : tails + std::sqrt(2 * statistic / kPi) * gauss;
+    return freedom == 1 ? tails : tails + std::sqrt(2 * statistic / fieldcal::kPi) * gauss;
 }
 
 }  // namespace

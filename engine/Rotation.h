@@ -1,11 +1,15 @@
 #pragma once
 
+#include "camera/Rotation.h"
+
 #include <Eigen/Core>
 
 namespace vq {
 
-constexpr double kDegreesPerRadian = 57.29577951308232;
+using fieldcal::kDegreesPerRadian;
 
+/// `camera/Rotation.h` in the forms of Eigen.
+///
 /// R = Rz(a2) · Ry(a1) · Rx(a0), radians.
 Eigen::Matrix3d rotationFromAngles(const Eigen::Vector3d& anglesRad);
 

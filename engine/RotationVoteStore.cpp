@@ -9,7 +9,7 @@ namespace vq {
 namespace {
 
 constexpr float kScoreTolerance = 0.02F;
-constexpr double kFullTurnRad = 2.0 * 3.141592653589793;
+constexpr double kFullTurnRad = 2.0 * fieldcal::kPi;
 
 double offsetFrom(double referenceRad, double angleRad) {
     return std::remainder(angleRad - referenceRad, kFullTurnRad);

@@ -10,8 +10,7 @@ namespace vq {
 using fieldcal::formatString;
 
 std::string poseEulerText(const Pose& pose) {
-    const Eigen::Vector3d degrees =
-        anglesFromRotation(pose.topLeftCorner<3, 3>().cast<double>()) * 180.0 / 3.141592653589793;
+    const Eigen::Vector3d degrees = anglesFromRotation(pose.topLeftCorner<3, 3>().cast<double>()) * kDegreesPerRadian;
     const Eigen::Vector3d t = pose.topRightCorner<3, 1>().cast<double>();
     return formatString("R [% .4f % .4f % .4f] T [% .4f % .4f % .4f]", degrees[0], degrees[1], degrees[2], t[0], t[1],
                         t[2]);

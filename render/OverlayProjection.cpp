@@ -1,12 +1,12 @@
 #include "render/OverlayProjection.h"
 
+#include "camera/Rotation.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace fieldcal {
 namespace {
-
-constexpr double kDegreesPerRadian = 57.29577951308232;
 
 /// (x·z, y·z, z, 1) of a depth pixel to the point in space.
 Eigen::Matrix4d unprojection(const CameraModel& camera) {

@@ -1,5 +1,7 @@
 #include "session/JsonReader.h"
 
+#include "camera/Rotation.h"
+
 #include <cmath>
 #include <cstdio>
 #include <nlohmann/json.hpp>
@@ -117,18 +119,6 @@ std::string shown(double value) {
     return text;
 }
 
-bool isRotation(const std::array<double, 9>& m) {
-    for (std::size_t i = 0; i < 9; i += 3) {
-        for (std::size_t j = i; j < 9; j += 3) {
-            const double product = m[i] * m[j] + m[i + 1] * m[j + 1] + m[i + 2] * m[j + 2];
-            if (std::abs(product - (i == j ? 1.0 : 0.0)) > kRotationTolerance) return false;
-        }
-    }
-    const double determinant =
-        m[0] * (m[4] * m[8] - m[5] * m[7]) - m[1] * (m[3] * m[8] - m[5] * m[6]) + m[2] * (m[3] * m[7] - m[4] * m[6]);
-    return std::abs(determinant - 1.0) <= kRotationTolerance;
-}
-
 }  // namespace
 
 bool parseJson(const std::string& text, json* out, JsonFault* fault) {
@@ -199,7 +189,7 @@ std::string JsonKey::text() const {
 
 std::array<double, 9> JsonKey::rotation() const {
     const std::array<double, 9> out = numbers<9>(-2, 2);
-    if (!fault_->found() && !isRotation(out)) refuse("not a rotation matrix");
+    if (!fault_->found() && !isRotation(out, kRotationTolerance)) refuse("not a rotation matrix");
     return out;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "camera/ImageFrame.h"
+#include "camera/Rotation.h"
 
 #include <array>
 #include <cstdint>
@@ -23,7 +24,7 @@ struct RawIntrinsics : Intrinsics {
     double k1 = 0, k2 = 0, p1 = 0, p2 = 0, k3 = 0;
 };
 
-using Matrix3 = std::array<double, 9>;  ///< row-major
+using fieldcal::Matrix3;
 using Vector3 = std::array<double, 3>;  ///< millimetres
 
 struct ModuleInfo {

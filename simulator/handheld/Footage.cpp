@@ -1,5 +1,6 @@
 #include "simulator/handheld/Footage.h"
 
+#include "camera/Rotation.h"
 #include "simulator/world/Emitter.h"
 #include "simulator/world/Sensors.h"
 
@@ -12,12 +13,11 @@ namespace fieldcal::handheld {
 namespace {
 
 constexpr double exposureSeconds = 0.006;
-constexpr double degreesPerRadian = 180 / 3.141592653589793;
 
 /// Degrees about x and y by which the cameras turn between two attitudes.
 cv::Point2d motionDeg(const cv::Matx33d& from, const cv::Matx33d& to) {
     const cv::Matx33d turn = to * from.t();
-    return {(turn(2, 1) - turn(1, 2)) / 2 * degreesPerRadian, (turn(0, 2) - turn(2, 0)) / 2 * degreesPerRadian};
+    return {(turn(2, 1) - turn(1, 2)) / 2 * kDegreesPerRadian, (turn(0, 2) - turn(2, 0)) / 2 * kDegreesPerRadian};
 }
 
 /// The colour camera's automatic exposure makes up for most of what is missing.

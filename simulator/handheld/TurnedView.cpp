@@ -1,5 +1,7 @@
 #include "simulator/handheld/TurnedView.h"
 
+#include "camera/Rotation.h"
+
 #include <opencv2/imgproc.hpp>
 
 #include <cmath>
@@ -9,8 +11,6 @@ namespace fieldcal::handheld {
 namespace {
 
 using Map = cv::Mat_<cv::Vec2f>;
-
-constexpr double radiansPerDegree = 3.141592653589793 / 180;
 
 cv::Matx33d rotationOf(const std::optional<session::Matrix3>& truth) {
     return cv::Matx33d(truth->data());
@@ -152,7 +152,7 @@ void ViewTurner::paintPassage(const Passage& passage, const Eye& eye, const cv::
 
 void ViewTurner::smear(cv::Mat picture, const Eye& eye, cv::Point2d motionDeg) {
     const double scale = static_cast<double>(picture.cols) / eye.lens.size().width;
-    const double perDegree = eye.lens.focalPx() * radiansPerDegree * scale;
+    const double perDegree = eye.lens.focalPx() / kDegreesPerRadian * scale;
     smearPicture(std::move(picture), motionDeg.y * perDegree, motionDeg.x * perDegree);
 }
 

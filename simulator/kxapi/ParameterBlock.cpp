@@ -1,5 +1,6 @@
 #include "simulator/kxapi/ParameterBlock.h"
 
+#include "camera/Rotation.h"
 #include "simulator/kxapi/BlockLayout.h"
 #include "simulator/kxapi/Calibration.h"
 
@@ -18,7 +19,6 @@ using fieldcal::session::Vector3;
 using Matrix = Eigen::Matrix<double, 3, 3, Eigen::RowMajor>;
 using Vector = Eigen::Vector3d;
 
-constexpr double kDegree = 0.017453292519943295;
 constexpr double kRotationTolerance = 1e-3;
 constexpr double kLargestTranslation = 1e5;
 /// More than a product of three rotations can be off, less than a float can tell of anything but a near zero.
@@ -33,7 +33,9 @@ Matrix matrix(const Matrix3& values) {
 }
 
 Matrix small(double xDeg, double yDeg, double zDeg) {
-    const auto about = [](double degrees, const Vector& axis) { return Eigen::AngleAxisd(degrees * kDegree, axis); };
+    const auto about = [](double degrees, const Vector& axis) {
+        return Eigen::AngleAxisd(degrees / fieldcal::kDegreesPerRadian, axis);
+    };
     return (about(zDeg, Vector::UnitZ()) * about(yDeg, Vector::UnitY()) * about(xDeg, Vector::UnitX()))
         .toRotationMatrix();
 }
@@ -62,9 +64,10 @@ void storeCamera(KXCalibRectParameters* block, std::size_t camera, const float* 
     storeTranslation(block, camera, translation.data());
 }
 
-bool isRotation(const Matrix& m) {
-    const double error = (m * m.transpose() - Matrix::Identity()).cwiseAbs().maxCoeff();
-    return m.allFinite() && error <= kRotationTolerance && std::abs(m.determinant() - 1) <= kRotationTolerance;
+bool isNearlyRotation(const Matrix& m) {
+    Matrix3 rows{};
+    std::copy(m.data(), m.data() + m.size(), rows.begin());
+    return fieldcal::isRotation(rows, kRotationTolerance);
 }
 
 bool translationMakesSense(const KXCalibRectParameters& block, std::size_t camera) {
@@ -108,11 +111,12 @@ bool makesSense(const KXCalibRectParameters& block, std::string* why) {
         if (!good) *why = complaint;
         return good;
     };
-    return check(isRotation(widened(block.rectificationInfrared)), "rectificationInfrared: not a rotation") &&
-           check(isRotation(widened(block.rectificationThird)), "rectificationThird: not a rotation") &&
-           check(isRotation(widened(block.rectificationPlatform)), "rectificationPlatform: not a rotation") &&
-           check(isRotation(storedRotation(block, kThirdOffset)), "rotation of the third camera: not a rotation") &&
-           check(isRotation(storedRotation(block, kPlatformOffset)),
+    return check(isNearlyRotation(widened(block.rectificationInfrared)), "rectificationInfrared: not a rotation") &&
+           check(isNearlyRotation(widened(block.rectificationThird)), "rectificationThird: not a rotation") &&
+           check(isNearlyRotation(widened(block.rectificationPlatform)), "rectificationPlatform: not a rotation") &&
+           check(isNearlyRotation(storedRotation(block, kThirdOffset)),
+                 "rotation of the third camera: not a rotation") &&
+           check(isNearlyRotation(storedRotation(block, kPlatformOffset)),
                  "rotation of the platform camera: not a rotation") &&
            check(translationMakesSense(block, kThirdOffset), "translation of the third camera: no length in reach") &&
            check(translationMakesSense(block, kPlatformOffset),

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "camera/Rotation.h"
+
 #include <opencv2/core.hpp>
 
 #include <array>
@@ -7,7 +9,7 @@
 
 namespace fieldcal::synthesis {
 
-inline constexpr double radiansPerDegree = 3.141592653589793 / 180;
+inline constexpr double radiansPerDegree = kPi / 180;
 
 /// Rz(a2) · Ry(a1) · Rx(a0), see docs/conventions.md.
 inline cv::Matx33d rotationFromAngles(const std::array<double, 3>& anglesDeg) {
