@@ -40,9 +40,15 @@ Matrix3 rotationFromAngles(const Angles3& anglesRad) {
     const double c0 = std::cos(anglesRad[0]), s0 = std::sin(anglesRad[0]);
     const double c1 = std::cos(anglesRad[1]), s1 = std::sin(anglesRad[1]);
     const double c2 = std::cos(anglesRad[2]), s2 = std::sin(anglesRad[2]);
-    return {c2 * c1, c2 * s1 * s0 - s2 * c0, c2 * s1 * c0 + s2 * s0,  //
-            s2 * c1, s2 * s1 * s0 + c2 * c0, s2 * s1 * c0 - c2 * s0,  //
-            -s1,     c1 * s0,                c1 * c0};
+    return {c2 * c1,
+            c2 * s1 * s0 - s2 * c0,
+            c2 * s1 * c0 + s2 * s0,  //
+            s2 * c1,
+            s2 * s1 * s0 + c2 * c0,
+            s2 * s1 * c0 - c2 * s0,  //
+            -s1,
+            c1 * s0,
+            c1 * c0};
 }
 
 Angles3 anglesFromRotation(const Matrix3& r) {

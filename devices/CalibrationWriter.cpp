@@ -150,6 +150,11 @@ bool CalibrationWriter::run(const std::function<bool(QString* why)>& makeWanted)
         resume();
         return false;
     }
+    if (differences(wanted_, previous_).none()) {
+        qInfo("The camera holds this calibration already. Nothing is written.");
+        report_.flash = Flash::Written;
+        return resume() && tellsWanted();
+    }
     const bool stored =
         write() && readAgain() && holdsWanted() && resume() && readAgain() && holdsWanted() && tellsWanted();
     if (!stored) {

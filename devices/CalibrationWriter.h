@@ -43,8 +43,9 @@ class CalibrationWriter {
 public:
     CalibrationWriter(ModuleLink& link, KXThirdCamera* third, std::uint32_t serial, QString backupFolder);
 
-    /// Both are true when the module keeps, and tells, what was written. A failed call has been reported by the link,
-    /// and so has a module that does not keep the block; anything else that stops the writing is logged.
+    /// Both are true when the module keeps, and tells, what was to be written; what it holds already is not written. A
+    /// failed call has been reported by the link, and so has a module that does not keep the block; anything else that
+    /// stops the writing is logged.
     bool writeRotations(const StoredRotations& present, const StoredRotations& wanted);
     bool restore(const KXCalibRectParameters& block);
 

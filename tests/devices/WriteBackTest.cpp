@@ -13,8 +13,10 @@
 namespace fieldcal::testing {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::StartsWith;
 using Flash = WriteBackReport::Flash;
 
@@ -81,6 +83,8 @@ TEST_F(WriteBackTest, ARotationThatDidNotMoveIsLeftAsItIs) {
         ASSERT_TRUE(sensor->updateRotation(kIdentity, kIdentity));
         EXPECT_TRUE(flashIs(before)) << "both as the module reported them";
     }
+    EXPECT_THAT(device->calls, Not(Contains("writeRectParameters(1)"))) << "flash wears out";
+    EXPECT_EQ(flash(), Flash::Written);
     ASSERT_TRUE(sensor->updateRotation(kAboutY, kIdentity));
     const KXCalibRectParameters moved = device->flash;
     EXPECT_EQ(std::memcmp(moved.reserved0 + 72, before.reserved0 + 72, 72), 0);
