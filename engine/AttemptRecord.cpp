@@ -30,8 +30,6 @@ constexpr double kPairDepartureRad = 0.03 / kDegreesPerRadian;
 /// rotation.
 constexpr float kStillPx = 0.5F;
 constexpr float kStillShare = 1.5F;
-constexpr int kAreaColumns = 4;
-constexpr int kAreaRows = 3;
 constexpr std::size_t kMostPerArea = 60;
 
 /// What the fit has to show before it may tell the baseline.
@@ -43,19 +41,10 @@ constexpr double kScaleChange = 0.03;
 
 constexpr double kFarInverseDepth = 0.01;
 
-std::size_t areaOf(const cv::Point2f& point, const fieldcal::CameraModel& infrared) {
-    const auto share = [](float position, int size, int count) {
-        return std::clamp(static_cast<int>(position * static_cast<float>(count) / static_cast<float>(size)), 0,
-                          count - 1);
-    };
-    return static_cast<std::size_t>(share(point.y, infrared.height, kAreaRows) * kAreaColumns +
-                                    share(point.x, infrared.width, kAreaColumns));
-}
-
 /// At most so many of the matches in each area of the infrared image, spread evenly over what it has: a foreground full
 /// of detail must not outvote the rest of the scene.
 std::vector<MeasuredMatch> balanced(const std::vector<MeasuredMatch>& matches, const fieldcal::CameraModel& infrared) {
-    std::array<std::vector<const MeasuredMatch*>, kAreaColumns * kAreaRows> areas;
+    std::array<std::vector<const MeasuredMatch*>, kAreaCount> areas;
     for (const MeasuredMatch& match : matches)
         areas[areaOf(match.place.infrared, infrared)].push_back(&match);
     std::vector<MeasuredMatch> kept;
@@ -81,6 +70,7 @@ void AttemptRecord::setup(const Projection& projection, const Eigen::Matrix3d& s
 
 void AttemptRecord::clear() {
     pairs_.clear();
+    lastFit_.reset();
 }
 
 void AttemptRecord::addPair(Pair pair) {
@@ -253,10 +243,11 @@ std::optional<AttemptRecord::LastFit> AttemptRecord::fitAll(const Eigen::Matrix3
 }
 
 std::optional<PolishedRotation> AttemptRecord::polish(const Eigen::Vector3d& winnerRad) {
-    auto fit = fitAll(rotationFromAngles(winnerRad));
+    const auto fit = fitAll(rotationFromAngles(winnerRad));
     if (!fit) return std::nullopt;
-    fit->options.scale = fit->scale ? &*fit->scale : nullptr;
-    return PolishedRotation{anglesFromRotation(fit->rotation), judge(*fit)};
+    lastFit_ = fit;
+    lastFit_->options.scale = lastFit_->scale ? &*lastFit_->scale : nullptr;
+    return PolishedRotation{anglesFromRotation(lastFit_->rotation), judge(*lastFit_)};
 }
 
 std::vector<MeasuredMatch> AttemptRecord::takenOf(const KeptPair& pair, const LastFit& fit) const {
@@ -273,6 +264,30 @@ SolutionQuality AttemptRecord::judge(const LastFit& fit) const {
     for (const KeptPair& pair : pairs_)
         solution.stills.push_back({takenOf(pair, fit), locatedMatches(pair, fit.options.scale), pair.seesDisparities});
     return judgeSolution(solution);
+}
+
+std::optional<SolutionEvidence> AttemptRecord::evidence() const {
+    if (!lastFit_) return std::nullopt;
+    SolutionEvidence evidence;
+    evidence.projection = projection_;
+    int most = 0;
+    for (const KeptPair& pair : pairs_) {
+        const int index = static_cast<int>(evidence.stills.size());
+        const std::vector<MeasuredMatch> taken = takenOf(pair, *lastFit_);
+        for (const MeasuredMatch& match : taken) {
+            const double inverseDepth = inverseDepthOf(match.place, lastFit_->options.scale);
+            evidence.matches.push_back({match.place.infrared, match.colour,
+                                        std::isnan(inverseDepth) ? 0.0F : static_cast<float>(inverseDepth), index});
+        }
+        const int fitted = static_cast<int>(taken.size());
+        evidence.stills.push_back({static_cast<int>(pair.matches.size()), fitted, pair.motionPx});
+        if (fitted <= most) continue;
+        most = fitted;
+        evidence.shownStill = index;
+        evidence.infrared = pair.infrared8;
+        evidence.grey = pair.grey;
+    }
+    return evidence;
 }
 
 ParallaxReport AttemptRecord::report() const {

@@ -3,6 +3,7 @@
 #include "engine/DistanceMeter.h"
 #include "engine/ParallaxReport.h"
 #include "engine/RotationPolish.h"
+#include "engine/SolutionEvidence.h"
 #include "engine/SolutionQuality.h"
 
 #include <Eigen/Core>
@@ -49,6 +50,8 @@ public:
     std::optional<PolishedRotation> polish(const Eigen::Vector3d& winnerRad);
 
     ParallaxReport report() const;
+    /// What the last fit was made from; none before there was one.
+    std::optional<SolutionEvidence> evidence() const;
 
 private:
     struct KeptPair : Pair {
@@ -85,6 +88,7 @@ private:
     Projection projection_;
     Eigen::Matrix3d storedRotation_ = Eigen::Matrix3d::Identity();
     std::vector<KeptPair> pairs_;
+    std::optional<LastFit> lastFit_;
 };
 
 }  // namespace vq

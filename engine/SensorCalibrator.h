@@ -71,6 +71,8 @@ public:
     /// How good the recorded solution is; none without one that the last fit has given.
     std::optional<SolutionQuality> quality() const { return quality_; }
     ParallaxReport parallax() const { return record_.report(); }
+    /// What stands behind the recorded solution; none where `quality` has none, or when the pairs were given up since.
+    std::optional<SolutionEvidence> evidence() const { return quality_ ? record_.evidence() : std::nullopt; }
 
 private:
     Projection projection() const;

@@ -1,4 +1,6 @@
 #include "kxapi/Library.h"
+#include "report/History.h"
+#include "report/ReportFile.h"
 #include "tools/CommandLine.h"
 #include "tools/Console.h"
 #include "tools/RecordingCalibration.h"
@@ -16,6 +18,12 @@ bool writeJson(const QString& path, const QByteArray& json) {
     QFile file(path);
     const bool opened = path == "-" ? file.open(stdout, QIODevice::WriteOnly) : file.open(QIODevice::WriteOnly);
     return opened && file.write(json) == json.size() && file.flush();
+}
+
+/// The report of a solution; true when there is none.
+bool writeReportFile(const std::string& path, const RecordingCalibration& calibration, QString* why) {
+    if (path.empty() || !calibration.report().solved) return true;
+    return writeReport(QString::fromStdString(path), calibration.serviceReport(), why);
 }
 
 }  // namespace
@@ -37,7 +45,13 @@ int run(const CalibrateOptions& options) {
     calibration.setWriting(options.write);
     calibration.useMemory(BaselineMemory(userDataFolder()));
     QString why;
-    if (!calibration.run(&why)) return fail(why);
+    const bool done = calibration.run(&why);
+    // Also of a rotation that could not be written into the module.
+    if (calibration.report().written) appendHistory(userDataFolder(), calibration.serviceReport());
+    QString reportWhy;
+    const bool reported = writeReportFile(options.reportFile, calibration, &reportWhy);
+    if (!done) return fail(why);
+    if (!reported) return fail(reportWhy);
     if (!options.stateFile.empty() && !calibration.engineState().writeToFile(options.stateFile)) {
         return fail(QString::fromStdString(options.stateFile) + ": cannot be written");
     }

@@ -109,6 +109,8 @@ private:
         lastCounts(verb->add_flag("--write", calibrate_.write, "Write a solution into the module's flash"));
         lastCounts(verb->add_option("--state", calibrate_.stateFile, "Keep the engine's cameras and rotation"))
             ->type_name("FILE");
+        lastCounts(verb->add_option("--report", calibrate_.reportFile, "Write a report of the solution, HTML"))
+            ->type_name("FILE");
         lastCounts(verb->add_flag("--verbose", calibrate_.verbose, "Show the log"));
     }
 

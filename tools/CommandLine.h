@@ -23,7 +23,8 @@ struct CalibrateOptions {
     std::string jsonFile;  ///< empty: none; "-": standard output, instead of the text for people
     bool verbose = false;
     bool write = false;     ///< into the module's flash, when solved
-    std::string stateFile;  ///< where the engine's state goes; empty: nowhere
+    std::string stateFile;   ///< where the engine's state goes; empty: nowhere
+    std::string reportFile;  ///< where the report of a solution goes; empty: nowhere
 };
 
 struct SynthesizeOptions {

@@ -4,6 +4,8 @@
 #include "engine/RegistrationError.h"
 #include "engine/Rotation.h"
 
+#include <QDir>
+
 #include <algorithm>
 #include <utility>
 
@@ -107,6 +109,7 @@ void RecordingCalibration::finish(bool solved) {
         engine_.getRotationMatrix(rotation.data());
         report_.rotation = widened(rotation);
         report_.quality = engine_.calibrator().quality();
+        evidence_ = engine_.calibrator().evidence();
         const auto& truth = platformCamera_ ? session_.truthPlatform : session_.truthThird;
         if (truth) {
             report_.errorDeg = rotationDifferenceDeg(report_.rotation, *truth);
@@ -144,12 +147,32 @@ bool RecordingCalibration::write(Sensor& sensor, QString* why) {
     const Rotation& platform = platformCamera_ ? rotation : parameters_.depthToOutOfModule.rotation;
     report_.written = sensor.updateRotation(third, platform);
     const WriteBackReport& done = sensor.writeBack();
+    writeBack_ = done;
     if (*report_.written) {
         if (say_) say_(flashText(done) + " The previous one is kept in " + done.backupFile);
     } else {
         *why = QString("%1 (%2)").arg(done.reason, flashText(done));
     }
     return *report_.written;
+}
+
+ServiceReport RecordingCalibration::serviceReport() const {
+    ServiceReport report;
+    report.time = QDateTime::currentDateTimeUtc();
+    report.program = "fieldcal-session " FIELDCAL_VERSION;
+    report.serial = session_.module.serial;
+    report.firmware = QString::fromStdString(session_.module.firmware);
+    report.source = QDir::cleanPath(QString::fromStdString(folder_));
+    ReportedCamera camera;
+    camera.platform = platformCamera_;
+    camera.stored = eigen(report_.factoryRotation);
+    camera.found = camera.accepted = eigen(report_.rotation);
+    camera.quality = report_.quality;
+    camera.evidence = evidence_;
+    camera.parallax = report_.parallax;
+    report.cameras.push_back(camera);
+    if (writeBack_) report.write = {*report_.written, flashText(*writeBack_), writeBack_->reason, writeBack_->backupFile};
+    return report;
 }
 
 vq::CalibrationState RecordingCalibration::engineState() const {

@@ -5,6 +5,7 @@
 #include "engine/CalibrationState.h"
 #include "engine/CalibratorInterface.h"
 #include "engine/Stopwatch.h"
+#include "report/ServiceReport.h"
 #include "session/RecordedSession.h"
 #include "tools/CalibrationReport.h"
 #include "tools/SensorReports.h"
@@ -37,6 +38,8 @@ public:
     /// Returns the cameras and the rotation that the engine had at the end of `run`.
     vq::CalibrationState engineState() const;
     const CalibrationReport& report() const { return report_; }
+    /// Returns what a report tells about the solution.
+    ServiceReport serviceReport() const;
 
 private:
     bool open(Sensor& sensor, QString* why);
@@ -59,6 +62,8 @@ private:
     vq::CalibratorInterface engine_;
     LightGate light_;
     CalibrationReport report_;
+    std::optional<vq::SolutionEvidence> evidence_;
+    std::optional<WriteBackReport> writeBack_;
     vq::Stopwatch pairWatch_;
     bool dark_ = false;
     bool writing_ = false;

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "engine/RotationPolish.h"
+
+#include <Eigen/Core>
+#include <opencv2/core.hpp>
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+namespace vq {
+
+/// The areas of the infrared image that matches are counted in, row by row.
+constexpr int kAreaColumns = 4;
+constexpr int kAreaRows = 3;
+constexpr std::size_t kAreaCount = static_cast<std::size_t>(kAreaColumns) * kAreaRows;
+std::size_t areaOf(const cv::Point2f& point, const fieldcal::CameraModel& infrared);
+
+/// A match that a rotation was fitted to.
+struct EvidenceMatch {
+    cv::Point2f infrared;
+    cv::Point2f colour;      ///< pixels of the colour model
+    float inverseDepth = 0;  ///< 1/m; 0 also where no distance is known
+    int still = 0;           ///< index of its still
+};
+
+/// What one still gave.
+struct EvidenceStill {
+    int verified = 0;    ///< matches that passed the verification
+    int fitted = 0;      ///< matches that the rotation was fitted to; 0 when the still was left out
+    float motionPx = 0;  ///< how far the infrared image moved to the next frame
+};
+
+/// What stands behind a solution, for people to look at. The two images are those of the still with the most matches:
+/// 8 bit, the infrared image and the grey colour image in the infrared geometry, shared and not copied.
+struct SolutionEvidence {
+    Projection projection;
+    std::vector<EvidenceMatch> matches;
+    std::vector<EvidenceStill> stills;
+    int shownStill = 0;
+    cv::Mat infrared, grey;
+
+    /// Between where a rotation puts a match and where it is, pixels of the colour model.
+    Eigen::Vector2d residualPx(const EvidenceMatch& match, const Eigen::Matrix3d& rotation) const;
+    std::array<int, kAreaCount> matchesPerArea() const;
+};
+
+}  // namespace vq

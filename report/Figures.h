@@ -1,0 +1,27 @@
+#pragma once
+
+#include "engine/SolutionEvidence.h"
+#include "report/Markup.h"
+
+#include <Eigen/Core>
+
+#include <vector>
+
+namespace fieldcal {
+
+/// Lengths of the residuals that a rotation leaves, pixels.
+std::vector<double> residualLengthsPx(const vq::SolutionEvidence& evidence, const Eigen::Matrix3d& rotation);
+double medianPx(std::vector<double> lengthsPx);
+
+/// How much larger than the residuals their vectors are drawn: 1, 2 or 5 times a power of ten.
+double exaggeration(const vq::SolutionEvidence& evidence, const Eigen::Matrix3d& rotation);
+
+/// Residuals over the infrared image: some of the matches as thin vectors, and the median of each part of the image as
+/// a thick one.
+void drawResiduals(Markup* out, const vq::SolutionEvidence& evidence, const Eigen::Matrix3d& rotation);
+/// How many matches have residuals of which length, with the stored and with the new rotation.
+void drawHistogram(Markup* out, const std::vector<double>& storedPx, const std::vector<double>& newPx);
+/// Matches of all stills in each area of the infrared image.
+void drawCoverage(Markup* out, const vq::SolutionEvidence& evidence);
+
+}  // namespace fieldcal

@@ -1,0 +1,19 @@
+#include "report/ServiceReport.h"
+
+#include "engine/Rotation.h"
+
+#include <Eigen/Geometry>
+
+namespace fieldcal {
+
+Eigen::Vector3d anglesDegOf(const Eigen::Matrix3d& rotation) {
+    return vq::anglesFromRotation(rotation) * vq::kDegreesPerRadian;
+}
+
+double turnDeg(const Eigen::Matrix3d& from, const Eigen::Matrix3d& to) {
+    // By way of a quaternion, which keeps small angles.
+    const Eigen::Quaterniond turn(Eigen::Matrix3d(to * from.transpose()));
+    return Eigen::AngleAxisd(turn.normalized()).angle() * vq::kDegreesPerRadian;
+}
+
+}  // namespace fieldcal

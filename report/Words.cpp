@@ -1,0 +1,93 @@
+#include "report/Words.h"
+
+#include <QStringList>
+
+#include <array>
+
+namespace fieldcal {
+namespace {
+
+/// In the order of `vq::ModelDeparture`.
+constexpr std::array<const char*, vq::kModelDepartureCount> kDepartures{
+    "a changed focal length",
+    "a shifted principal point",
+    "a changed distortion",
+    "a camera that has been displaced",
+    "rows that are displaced in proportion to their height",
+    "another rotation in the upper half of the image than in the lower one"};
+
+const char* nameOf(vq::ModelDeparture departure) {
+    return kDepartures[static_cast<std::size_t>(departure)];
+}
+
+QString baselineText(const vq::ParallaxReport& parallax) {
+    if (!parallax.baselineM) return "stereo baseline unknown";
+    const QString text = QString("stereo baseline %1 mm").arg(*parallax.baselineM * 1e3, 0, 'f', 1);
+    switch (parallax.baselineFrom) {
+        case vq::BaselineSource::Depth:
+            return text + " (from the depth image)";
+        case vq::BaselineSource::Fit:
+            return text + " (from the fit)";
+        case vq::BaselineSource::Remembered:
+            return text + " (from an earlier calibration)";
+        case vq::BaselineSource::None:
+            break;
+    }
+    return text;
+}
+
+}  // namespace
+
+QString cameraName(const ReportedCamera& camera) {
+    return camera.platform ? "Rear camera of the tablet" : "Colour camera in the module";
+}
+
+QString proofText(const std::optional<vq::SolutionQuality>& quality) {
+    if (!quality || !quality->proof) return "None: fewer than two photos could be judged by the others.";
+    const vq::HoldOutProof& proof = *quality->proof;
+    return QString("%1 px with the stored calibration, %2 px with the new one: median distance of %3 matches in %4 "
+                   "photos, each judged by the others alone.%5")
+        .arg(proof.storedPx, 0, 'f', 2)
+        .arg(proof.newPx, 0, 'f', 2)
+        .arg(proof.matches)
+        .arg(proof.stills)
+        .arg(proof.isClear() ? "" : " The new one is not clearly better.");
+}
+
+QString modelText(const vq::ModelCheck& model) {
+    const QString name = nameOf(model.strongest());
+    const QString chance = QString::number(model.probability[static_cast<std::size_t>(model.strongest())], 'g', 2);
+    if (!model.departure())
+        return QString("A rotation alone explains the photos (next best: %1, p = %2).").arg(name, chance);
+    return QString("A rotation alone does not explain the photos: they speak for %1 as well (p = %2). The camera may "
+                   "have changed in more than its direction.")
+        .arg(name, chance);
+}
+
+QString distancesText(const vq::ParallaxReport& parallax) {
+    if (parallax.withDistance == 0) return "None measured: everything counted as far away; " + baselineText(parallax) + ".";
+    const QString median = parallax.medianDistanceM ? QString("median %1 m").arg(*parallax.medianDistanceM, 0, 'f', 1)
+                                                    : QString("most too far to tell");
+    return QString("%1 matches with a distance, %2; %3.")
+        .arg(parallax.withDistance)
+        .arg(median, baselineText(parallax));
+}
+
+QString photosText(const vq::SolutionEvidence& evidence) {
+    QStringList counts;
+    for (const vq::EvidenceStill& still : evidence.stills)
+        counts << (still.fitted > 0 ? QString::number(still.fitted) : QString("left out"));
+    return QString("%1, with so many fitted matches: %2.").arg(evidence.stills.size()).arg(counts.join(", "));
+}
+
+QString writeText(const ServiceReport& report) {
+    if (!report.write) return "Nothing was written into the camera.";
+    const ReportedWrite& write = *report.write;
+    QString text = write.stored ? QString("Written into the camera and read back. ")
+                                : QString("NOT STORED: %1. ").arg(write.reason);
+    text += write.flash;
+    if (!write.backupFile.isEmpty()) text += " The previous calibration is kept in " + write.backupFile;
+    return text;
+}
+
+}  // namespace fieldcal
