@@ -14,7 +14,7 @@ constexpr std::size_t kMostVectors = 400;
 constexpr int kMedianColumns = 8, kMedianRows = 6;
 constexpr std::size_t kLeastForMedian = 10;
 /// The length of the vector of a median residual, and the longest one drawn, as shares of the image's width.
-constexpr double kMedianVectorShare = 0.02, kLongestVectorShare = 0.08;
+constexpr double kMedianVectorShare = 0.025, kLongestVectorShare = 0.1;
 constexpr double kSmallestMedianPx = 1e-3;
 
 constexpr int kFirstDecade = -2, kLastDecade = 2, kBarsPerDecade = 8;
@@ -48,7 +48,8 @@ std::vector<Vector> medianVectors(const std::vector<Vector>& vectors, double wid
     };
     std::array<Part, static_cast<std::size_t>(kMedianColumns) * kMedianRows> parts;
     for (const Vector& vector : vectors) {
-        const int column = std::clamp(static_cast<int>(vector.from.x() * kMedianColumns / width), 0, kMedianColumns - 1);
+        const int column =
+            std::clamp(static_cast<int>(vector.from.x() * kMedianColumns / width), 0, kMedianColumns - 1);
         const int row = std::clamp(static_cast<int>(vector.from.y() * kMedianRows / height), 0, kMedianRows - 1);
         Part& part = parts[static_cast<std::size_t>(row * kMedianColumns + column)];
         part.x.push_back(vector.residual.x());
@@ -77,7 +78,8 @@ void drawVector(Markup* out, const Vector& vector, double factor, double longest
 }
 
 void openPicture(Markup* out, double width, double height, const QString& label) {
-    out->open("svg", {{"viewBox", QString("0 0 %1 %2").arg(width).arg(height)}, {"role", "img"}, {"aria-label", label}});
+    out->open("svg",
+              {{"viewBox", QString("0 0 %1 %2").arg(width).arg(height)}, {"role", "img"}, {"aria-label", label}});
 }
 
 int barOf(double lengthPx) {
@@ -115,7 +117,11 @@ void drawDecades(Markup* out) {
                            {"class", "grid"}});
         const char* anchor = decade == kFirstDecade ? "start" : decade == kLastDecade ? "end" : "middle";
         out->element("text", QString::number(std::pow(10.0, decade)) + (decade == kLastDecade ? " px" : ""),
-                     {{"x", number(x)}, {"y", number(kHeight - 9)}, {"text-anchor", anchor}});
+                     {{"x", number(x + (decade == kFirstDecade  ? 4
+                                        : decade == kLastDecade ? -4
+                                                                : 0))},
+                      {"y", number(kHeight - 9)},
+                      {"text-anchor", anchor}});
     }
 }
 
@@ -145,7 +151,7 @@ double exaggeration(const vq::SolutionEvidence& evidence, const Eigen::Matrix3d&
     const double wanted = std::max(1.0, kMedianVectorShare * evidence.projection.cameras.infrared.width / median);
     const double power = std::pow(10.0, std::floor(std::log10(wanted)));
     const double mantissa = wanted / power;
-    return power * (mantissa < 2 ? 1 : mantissa < 5 ? 2 : 5);
+    return power * (mantissa < 1.5 ? 1 : mantissa < 3.5 ? 2 : mantissa < 7.5 ? 5 : 10);
 }
 
 void drawResiduals(Markup* out, const vq::SolutionEvidence& evidence, const Eigen::Matrix3d& rotation) {
@@ -178,8 +184,8 @@ void drawHistogram(Markup* out, const std::vector<double>& storedPx, const std::
     drawDecades(out);
     drawBars(out, stored, highest, "old");
     drawBars(out, now, highest, "new");
-    drawLegend(out, 0, QString("stored, median %1 px").arg(medianPx(storedPx), 0, 'f', 2), "old");
-    drawLegend(out, kWidth / 2 + 4, QString("new, median %1 px").arg(medianPx(newPx), 0, 'f', 2), "new");
+    drawLegend(out, 4, QString("stored, median %1 px").arg(medianPx(storedPx), 0, 'f', 2), "old");
+    drawLegend(out, kWidth / 2 + 24, QString("new, median %1 px").arg(medianPx(newPx), 0, 'f', 2), "new");
     out->close();
 }
 

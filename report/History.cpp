@@ -39,7 +39,9 @@ QByteArray lineOf(const ServiceReport& report, const ReportedCamera& camera) {
     if (camera.quality) {
         addAngles(&fields, camera.quality->deviationDeg);
     } else {
-        fields << "" << "" << "";
+        fields << ""
+               << ""
+               << "";
     }
     const bool proven = camera.quality && camera.quality->proof;
     fields << (proven ? QString::number(camera.quality->proof->storedPx, 'f', 3) : QString())

@@ -1,8 +1,7 @@
 #include "report/Overlay.h"
 
-#include <opencv2/imgproc.hpp>
-
 #include <QBuffer>
+#include <opencv2/imgproc.hpp>
 
 #include <algorithm>
 #include <cmath>
@@ -32,7 +31,8 @@ cv::Mat interpolatedInverseDepth(const vq::SolutionEvidence& evidence) {
                 if (match.still != evidence.shownStill) continue;
                 const double dx = match.infrared.x - static_cast<float>((column + 0.5) * kDistanceStep);
                 const double dy = match.infrared.y - static_cast<float>((row + 0.5) * kDistanceStep);
-                const double weight = 1 / (1 + std::pow((dx * dx + dy * dy) / (kDistanceReachPx * kDistanceReachPx), 2));
+                const double weight =
+                    1 / (1 + std::pow((dx * dx + dy * dy) / (kDistanceReachPx * kDistanceReachPx), 2));
                 sum += weight * static_cast<double>(match.inverseDepth);
                 weights += weight;
             }
@@ -116,7 +116,8 @@ QImage edgeOverlay(const vq::SolutionEvidence& evidence, const Eigen::Matrix3d& 
 
 QImage smallInfrared(const vq::SolutionEvidence& evidence, int width) {
     cv::Mat small = evidence.infrared;
-    if (small.cols > width) cv::resize(evidence.infrared, small, {width, small.rows * width / small.cols}, 0, 0, cv::INTER_AREA);
+    if (small.cols > width)
+        cv::resize(evidence.infrared, small, {width, small.rows * width / small.cols}, 0, 0, cv::INTER_AREA);
     return QImage(small.data, small.cols, small.rows, static_cast<int>(small.step), QImage::Format_Grayscale8).copy();
 }
 

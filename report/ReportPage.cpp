@@ -10,11 +10,12 @@
 namespace fieldcal {
 namespace {
 
-/// Everything has its size in millimetres, so that one camera and two fill one page of A4 or Letter paper.
+/// Everything has its size in millimetres, so that one camera and two fill one page of A4 or Letter paper. No character
+/// of it may be one that XML escapes, since HTML takes the text of a style as it stands.
 constexpr char kStyle[] = R"(
 @page { margin: 10mm }
 * { box-sizing: border-box }
-body { width: 186mm; margin: 0 auto; font: 8pt/1.3 "Helvetica Neue", Arial, "Liberation Sans", sans-serif;
+body { width: 186mm; margin: 0 auto; font: 8.5pt/1.3 Arial, Helvetica, sans-serif;
   color: #1b2430; background: #fff; -webkit-print-color-adjust: exact; print-color-adjust: exact }
 @media screen { body { margin: 8mm auto } }
 header { display: flex; justify-content: space-between; align-items: flex-end; border-bottom: 0.6mm solid #1b2430 }
@@ -44,9 +45,11 @@ figcaption b { color: #1b2430 }
 .one .overlay { width: 92mm }
 .two .facts { width: 87mm } .two table { width: 87mm; margin-bottom: 1mm; font-size: 7.5pt } .two dl { font-size: 7pt }
 .two .overlay { width: 47.5mm }
-.plot { width: 60mm } .two .plot { width: 50mm }
+.one .residuals { width: 116mm } .one .side { width: 66mm } .side figure:first-child { margin-top: 0 }
+.two .residuals { width: 58mm } .two .side { width: 124mm; display: flex; justify-content: space-between }
+.two .side figure { width: 58mm }
 svg text { font-size: 19px; fill: #3c4652 } svg text.count { font-size: 30px; fill: #1b2430 }
-.single { stroke: #1565c0; stroke-width: 1.2 } .cut { stroke: #c62828; stroke-width: 1; stroke-opacity: 0.45 }
+.single { stroke: #0d47a1; stroke-width: 1.5 } .cut { stroke: #c62828; stroke-width: 1.2; stroke-opacity: 0.6 }
 .median { stroke: #10151c; stroke-width: 4 } circle { fill: #10151c }
 .grid { stroke: #cdd3da; stroke-width: 1 }
 .old { fill: #e08a1e } .new { fill: #1565c0; fill-opacity: 0.85 }
@@ -108,16 +111,19 @@ void caption(Markup* out, const QString& title, const QString& text) {
 }
 
 void overlay(Markup* out, const ReportedCamera& camera, bool isNew, const cv::Rect& window) {
-    const QString title = isNew ? "With the new rotation." : "With the stored rotation.";
+    const QString title = isNew ? "New rotation." : "Stored rotation.";
     out->open("figure", {{"class", "overlay"}});
     out->leaf("img", {{"src", dataUri(edgeOverlay(*camera.evidence, isNew ? camera.accepted : camera.stored, window))},
                       {"alt", title}});
-    caption(out, title, isNew ? "Dark: both kinds of edges lie on each other." : "Red: infrared edges; cyan: colour edges.");
+    const QString text = isNew ? "Detail of photo %1. Black: infrared and colour edges lie on each other."
+                               : "Detail of photo %1. Red: edges of the infrared image; cyan: of the colour image.";
+    caption(out, title, text.arg(camera.evidence->shownStill + 1));
     out->close();
 }
 
 void overlays(Markup* out, const ReportedCamera& camera, bool alone) {
-    const cv::Size size = alone ? cv::Size(kWindowWidth, kWindowHeight) : cv::Size(kSmallWindowWidth, kSmallWindowHeight);
+    const cv::Size size =
+        alone ? cv::Size(kWindowWidth, kWindowHeight) : cv::Size(kSmallWindowWidth, kSmallWindowHeight);
     const cv::Rect window = mostDetailedWindow(*camera.evidence, size);
     overlay(out, camera, false, window);
     overlay(out, camera, true, window);
@@ -126,19 +132,23 @@ void overlays(Markup* out, const ReportedCamera& camera, bool alone) {
 void plots(Markup* out, const ReportedCamera& camera) {
     const vq::SolutionEvidence& evidence = *camera.evidence;
     out->open("div", {{"class", "row"}});
-    out->open("figure", {{"class", "plot"}});
+    out->open("figure", {{"class", "residuals"}});
     drawResiduals(out, evidence, camera.accepted);
     caption(out, "Residuals of the new rotation,",
-            QString("vectors %1 times as long; thick: medians of parts of the image; red: cut short.")
+            QString("drawn %1 times as long as they are; thick: median of each part of the image (a dot: none); red: "
+                    "cut short.")
                 .arg(exaggeration(evidence, camera.accepted)));
     out->close();
-    out->open("figure", {{"class", "plot"}});
+    out->open("div", {{"class", "side"}});
+    out->open("figure");
     drawHistogram(out, residualLengthsPx(evidence, camera.stored), residualLengthsPx(evidence, camera.accepted));
-    caption(out, "Lengths of the residuals", QString("of %1 fitted matches, logarithmic.").arg(evidence.matches.size()));
+    caption(out, "Lengths of the residuals",
+            QString("of %1 fitted matches, logarithmic.").arg(evidence.matches.size()));
     out->close();
-    out->open("figure", {{"class", "plot"}});
+    out->open("figure");
     drawCoverage(out, evidence);
     caption(out, "Coverage:", "fitted matches in each area of the infrared image, all photos.");
+    out->close();
     out->close();
     out->close();
 }
@@ -147,9 +157,9 @@ void cameraSection(Markup* out, const ReportedCamera& camera, bool alone) {
     out->open("section", {{"class", alone ? "one" : "two"}});
     out->open("h2");
     out->text(cameraName(camera));
-    out->element("span", QString("turned by %1%2").arg(turnDeg(camera.stored, camera.accepted), 0, 'f', 3).arg(QChar(0xB0)));
+    out->element("span", summaryText(camera));
     out->close();
-    const bool drawn = camera.evidence && !camera.evidence->matches.empty() && !camera.evidence->infrared.empty();
+    const bool drawn = camera.evidence && !camera.evidence->infrared.empty() && !camera.evidence->grey.empty();
     out->open("div", {{"class", "row"}});
     out->open("div", {{"class", alone ? "row" : "facts"}, {"style", alone ? "width: 186mm" : ""}});
     anglesTable(out, camera);

@@ -42,30 +42,44 @@ QString cameraName(const ReportedCamera& camera) {
     return camera.platform ? "Rear camera of the tablet" : "Colour camera in the module";
 }
 
+QString summaryText(const ReportedCamera& camera) {
+    const QString turned =
+        QString("turned by %1%2").arg(turnDeg(camera.stored, camera.accepted), 0, 'f', 3).arg(QChar(0xB0));
+    if (!camera.quality || !camera.quality->proof) return turned + "; without proof";
+    const vq::HoldOutProof& proof = *camera.quality->proof;
+    return QString("%1; on photos that took no part, off by %2 px before and %3 px now")
+        .arg(turned)
+        .arg(proof.storedPx, 0, 'f', 1)
+        .arg(proof.newPx, 0, 'f', 1);
+}
+
 QString proofText(const std::optional<vq::SolutionQuality>& quality) {
     if (!quality || !quality->proof) return "None: fewer than two photos could be judged by the others.";
     const vq::HoldOutProof& proof = *quality->proof;
-    return QString("%1 px with the stored calibration, %2 px with the new one: median distance of %3 matches in %4 "
-                   "photos, each judged by the others alone.%5")
+    return QString(
+               "%1 px with the stored calibration, %2 px with the new one: median distance of %3 matches in %4 "
+               "photos, each judged by the others alone. %5")
         .arg(proof.storedPx, 0, 'f', 2)
         .arg(proof.newPx, 0, 'f', 2)
         .arg(proof.matches)
         .arg(proof.stills)
-        .arg(proof.isClear() ? "" : " The new one is not clearly better.");
+        .arg(proof.isClear() ? "The new one is clearly better." : "The new one is not clearly better.");
 }
 
 QString modelText(const vq::ModelCheck& model) {
     const QString name = nameOf(model.strongest());
     const QString chance = QString::number(model.probability[static_cast<std::size_t>(model.strongest())], 'g', 2);
     if (!model.departure())
-        return QString("A rotation alone explains the photos (next best: %1, p = %2).").arg(name, chance);
-    return QString("A rotation alone does not explain the photos: they speak for %1 as well (p = %2). The camera may "
-                   "have changed in more than its direction.")
+        return QString("A rotation alone explains the photos (next likely: %1, p = %2).").arg(name, chance);
+    return QString(
+               "A rotation alone does not explain the photos: they speak for %1 as well (p = %2). The camera may "
+               "have changed in more than its direction.")
         .arg(name, chance);
 }
 
 QString distancesText(const vq::ParallaxReport& parallax) {
-    if (parallax.withDistance == 0) return "None measured: everything counted as far away; " + baselineText(parallax) + ".";
+    if (parallax.withDistance == 0)
+        return "None measured: everything counted as far away; " + baselineText(parallax) + ".";
     const QString median = parallax.medianDistanceM ? QString("median %1 m").arg(*parallax.medianDistanceM, 0, 'f', 1)
                                                     : QString("most too far to tell");
     return QString("%1 matches with a distance, %2; %3.")
@@ -77,7 +91,7 @@ QString photosText(const vq::SolutionEvidence& evidence) {
     QStringList counts;
     for (const vq::EvidenceStill& still : evidence.stills)
         counts << (still.fitted > 0 ? QString::number(still.fitted) : QString("left out"));
-    return QString("%1, with so many fitted matches: %2.").arg(evidence.stills.size()).arg(counts.join(", "));
+    return QString("%1; fitted matches: %2.").arg(evidence.stills.size()).arg(counts.join(", "));
 }
 
 QString writeText(const ServiceReport& report) {

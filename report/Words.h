@@ -5,6 +5,8 @@
 namespace fieldcal {
 
 QString cameraName(const ReportedCamera& camera);
+/// How far the camera has turned, and the proof in short.
+QString summaryText(const ReportedCamera& camera);
 /// What the proof came to.
 QString proofText(const std::optional<vq::SolutionQuality>& quality);
 /// Whether a rotation explains the photos.

@@ -22,7 +22,7 @@ struct CalibrateOptions {
     std::optional<unsigned> seed;
     std::string jsonFile;  ///< empty: none; "-": standard output, instead of the text for people
     bool verbose = false;
-    bool write = false;     ///< into the module's flash, when solved
+    bool write = false;      ///< into the module's flash, when solved
     std::string stateFile;   ///< where the engine's state goes; empty: nowhere
     std::string reportFile;  ///< where the report of a solution goes; empty: nowhere
 };

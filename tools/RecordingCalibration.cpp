@@ -171,7 +171,8 @@ ServiceReport RecordingCalibration::serviceReport() const {
     camera.evidence = evidence_;
     camera.parallax = report_.parallax;
     report.cameras.push_back(camera);
-    if (writeBack_) report.write = {*report_.written, flashText(*writeBack_), writeBack_->reason, writeBack_->backupFile};
+    if (writeBack_)
+        report.write = {*report_.written, flashText(*writeBack_), writeBack_->reason, writeBack_->backupFile};
     return report;
 }
 

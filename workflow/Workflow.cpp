@@ -77,6 +77,7 @@ LeaveReport Workflow::save() {
     if (sensor_ != nullptr) {
         report.stored = storeCalibration(*sensor_, records_, environment_.dataFolder);
         report.writeBack = sensor_->writeBack();
+        solutions_.keep(environment_.dataFolder, *sensor_, records_, report.stored);
     }
     return close(report);
 }

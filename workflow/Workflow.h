@@ -7,6 +7,7 @@
 #include "workflow/CalibrationRecords.h"
 #include "workflow/LightGate.h"
 #include "workflow/SaveNote.h"
+#include "workflow/SaveReport.h"
 #include "workflow/WorkflowListener.h"
 #include "workflow/WorkflowState.h"
 
@@ -122,6 +123,7 @@ private:
     LightGate light_;
     CalibrationAttempt attempt_;
     std::unique_ptr<Sensor> sensor_;
+    SaveReport solutions_;
     ColourCamera camera_ = ColourCamera::InModule;  ///< the loop's; follows the user's
     bool sensorReady_ = false;
     bool faultTold_ = false;

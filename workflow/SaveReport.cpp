@@ -1,0 +1,62 @@
+#include "workflow/SaveReport.h"
+
+#include "engine/SensorCalibrator.h"
+#include "report/ReportFile.h"
+
+#include <memory>
+#include <string>
+
+namespace fieldcal {
+namespace {
+
+Eigen::Matrix3d matrixOf(const Rotation& rotation) {
+    return Eigen::Map<const Eigen::Matrix<float, 3, 3, Eigen::RowMajor>>(rotation.data()).cast<double>();
+}
+
+QString firmwareOf(Sensor& sensor) {
+    const auto text = std::make_shared<std::string>();
+    const auto device = sensor.device();
+    if (device == nullptr) return {};
+    sensor.ask([device = device.get(), text] {
+        const char* version = device->firmwareVersionText();
+        *text = version != nullptr ? version : "";
+        return true;
+    });
+    return QString::fromStdString(*text);
+}
+
+}  // namespace
+
+void SaveReport::note(ColourCamera camera, const CameraParameters& stored, const Rotation& found,
+                      const vq::SensorCalibrator& engine) {
+    ReportedCamera noted;
+    noted.platform = camera == ColourCamera::OutOfModule;
+    noted.stored = matrixOf((noted.platform ? stored.depthToOutOfModule : stored.depthToInModule).rotation);
+    noted.found = noted.accepted = matrixOf(found);
+    noted.quality = engine.quality();
+    noted.evidence = engine.evidence();
+    noted.parallax = engine.parallax();
+    cameras_[static_cast<std::size_t>(camera)] = std::move(noted);
+}
+
+void SaveReport::keep(const QString& dataFolder, Sensor& sensor, const CalibrationRecords& records,
+                      bool stored) const {
+    if (!records.anyAccepted()) return;
+    ServiceReport report;
+    report.time = QDateTime::currentDateTimeUtc();
+    report.program = "Field Calibrator " FIELDCAL_VERSION;
+    report.serial = sensor.serialNumber();
+    const WriteBackReport written = sensor.writeBack();
+    report.write = {stored, flashText(written), written.reason, written.backupFile};
+    report.firmware = firmwareOf(sensor);
+    for (const ColourCamera camera : {ColourCamera::InModule, ColourCamera::OutOfModule}) {
+        const auto accepted = records.accepted(camera);
+        const auto& noted = cameras_[static_cast<std::size_t>(camera)];
+        if (!accepted || !noted) continue;
+        report.cameras.push_back(*noted);
+        report.cameras.back().accepted = matrixOf(*accepted);
+    }
+    keepReport(dataFolder, report);
+}
+
+}  // namespace fieldcal

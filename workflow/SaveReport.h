@@ -1,0 +1,31 @@
+#pragma once
+
+#include "camera/CameraParameters.h"
+#include "devices/Sensor.h"
+#include "report/ServiceReport.h"
+#include "workflow/CalibrationRecords.h"
+
+#include <array>
+#include <optional>
+
+namespace vq {
+class SensorCalibrator;
+}
+
+namespace fieldcal {
+
+/// What the engine knew about each camera's solution when it was found. It is kept until the save, as the engine forgets
+/// it once the other camera is calibrated.
+class SaveReport {
+public:
+    void note(ColourCamera camera, const CameraParameters& stored, const Rotation& found,
+              const vq::SensorCalibrator& engine);
+    /// After `storeCalibration`: keeps the report and the history lines of the cameras whose rotation was accepted, in
+    /// the program's data folder.
+    void keep(const QString& dataFolder, Sensor& sensor, const CalibrationRecords& records, bool stored) const;
+
+private:
+    std::array<std::optional<ReportedCamera>, 2> cameras_;
+};
+
+}  // namespace fieldcal
