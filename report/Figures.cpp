@@ -74,7 +74,7 @@ void drawVector(Markup* out, const Vector& vector, double factor, double longest
                        {"y1", number(vector.from.y())},
                        {"x2", number(to.x())},
                        {"y2", number(to.y())},
-                       {"class", cut ? "cut" : kind}});
+                       {"class", cut ? QString(kind) + " cut" : QString(kind)}});
 }
 
 void openPicture(Markup* out, double width, double height, const QString& label) {
@@ -184,8 +184,8 @@ void drawHistogram(Markup* out, const std::vector<double>& storedPx, const std::
     drawDecades(out);
     drawBars(out, stored, highest, "old");
     drawBars(out, now, highest, "new");
-    drawLegend(out, 4, QString("stored, median %1 px").arg(medianPx(storedPx), 0, 'f', 2), "old");
-    drawLegend(out, kWidth / 2 + 24, QString("new, median %1 px").arg(medianPx(newPx), 0, 'f', 2), "new");
+    drawLegend(out, 4, QString("stored: %1 px").arg(medianPx(storedPx), 0, 'f', 2), "old");
+    drawLegend(out, kWidth / 2 + 24, QString("new: %1 px").arg(medianPx(newPx), 0, 'f', 2), "new");
     out->close();
 }
 

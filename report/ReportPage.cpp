@@ -45,12 +45,12 @@ figcaption b { color: #1b2430 }
 .one .overlay { width: 92mm }
 .two .facts { width: 87mm } .two table { width: 87mm; margin-bottom: 1mm; font-size: 7.5pt } .two dl { font-size: 7pt }
 .two .overlay { width: 47.5mm }
-.one .residuals { width: 116mm } .one .side { width: 66mm } .side figure:first-child { margin-top: 0 }
+.one .residuals { width: 125mm } .one .side { width: 58mm } .side figure:first-child { margin-top: 0 }
 .two .residuals { width: 58mm } .two .side { width: 124mm; display: flex; justify-content: space-between }
 .two .side figure { width: 58mm }
 svg text { font-size: 19px; fill: #3c4652 } svg text.count { font-size: 30px; fill: #1b2430 }
-.single { stroke: #0d47a1; stroke-width: 1.5 } .cut { stroke: #c62828; stroke-width: 1.2; stroke-opacity: 0.6 }
-.median { stroke: #10151c; stroke-width: 4 } circle { fill: #10151c }
+.single { stroke: #0d47a1; stroke-width: 1.5 }
+.median { stroke: #10151c; stroke-width: 4 } circle { fill: #10151c } .cut { stroke: #c62828; stroke-opacity: 0.6 }
 .grid { stroke: #cdd3da; stroke-width: 1 }
 .old { fill: #e08a1e } .new { fill: #1565c0; fill-opacity: 0.85 }
 .thin { fill: #f3c1bd } .some { fill: #f6e3a6 } .full { fill: #bfe3ca }
@@ -59,7 +59,6 @@ svg text { font-size: 19px; fill: #3c4652 } svg text.count { font-size: 30px; fi
 /// Pixels of the pictures that are made larger on the page.
 constexpr int kWindowWidth = 320, kWindowHeight = 240;
 constexpr int kSmallWindowWidth = 240, kSmallWindowHeight = 180;
-constexpr double kMovedDeg = 0.0005;
 
 void row(Markup* out, const QString& name, const Eigen::Vector3d& values, const QString& prefix = {},
          const char* kind = "") {
@@ -85,7 +84,7 @@ void anglesTable(Markup* out, const ReportedCamera& camera) {
         const std::array<double, 3>& deviation = camera.quality->deviationDeg;
         row(out, "One deviation", {deviation[0], deviation[1], deviation[2]}, QChar(0xB1));
     }
-    if (turnDeg(camera.found, camera.accepted) > kMovedDeg) row(out, "Moved by hand", accepted - found);
+    if (camera.movedByHand()) row(out, "Moved by hand", accepted - found);
     out->close();
 }
 
@@ -143,7 +142,7 @@ void plots(Markup* out, const ReportedCamera& camera) {
     out->open("figure");
     drawHistogram(out, residualLengthsPx(evidence, camera.stored), residualLengthsPx(evidence, camera.accepted));
     caption(out, "Lengths of the residuals",
-            QString("of %1 fitted matches, logarithmic.").arg(evidence.matches.size()));
+            QString("of %1 fitted matches, and their medians.").arg(evidence.matches.size()));
     out->close();
     out->open("figure");
     drawCoverage(out, evidence);
@@ -181,7 +180,7 @@ void heading(Markup* out, const ServiceReport& report) {
     out->element("h1", "Calibration report");
     out->open("p");
     out->element("b", QString("Module %1").arg(report.serial));
-    out->text(QString(", firmware %1").arg(report.firmware));
+    out->text(", firmware " + (report.firmware.isEmpty() ? QString("unknown") : report.firmware));
     out->leaf("br", {});
     out->text(report.time.toUTC().toString("yyyy-MM-dd HH:mm 'UTC'") + ", " + report.program);
     if (!report.source.isEmpty()) {

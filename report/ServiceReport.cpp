@@ -5,6 +5,15 @@
 #include <Eigen/Geometry>
 
 namespace fieldcal {
+namespace {
+
+constexpr double kMovedDeg = 0.0005;
+
+}  // namespace
+
+bool ReportedCamera::movedByHand() const {
+    return turnDeg(found, accepted) > kMovedDeg;
+}
 
 Eigen::Vector3d anglesDegOf(const Eigen::Matrix3d& rotation) {
     return vq::anglesFromRotation(rotation) * vq::kDegreesPerRadian;

@@ -23,6 +23,8 @@ struct ReportedCamera {
     std::optional<vq::SolutionQuality> quality;              ///< of the found rotation
     std::optional<vq::SolutionEvidence> evidence;
     vq::ParallaxReport parallax;
+
+    bool movedByHand() const;
 };
 
 /// What a write into the module's flash came to.

@@ -47,10 +47,11 @@ QString summaryText(const ReportedCamera& camera) {
         QString("turned by %1%2").arg(turnDeg(camera.stored, camera.accepted), 0, 'f', 3).arg(QChar(0xB0));
     if (!camera.quality || !camera.quality->proof) return turned + "; without proof";
     const vq::HoldOutProof& proof = *camera.quality->proof;
-    return QString("%1; on photos that took no part, off by %2 px before and %3 px now")
+    return QString("%1; on photos that took no part, off by %2 px before and %3 px now%4")
         .arg(turned)
         .arg(proof.storedPx, 0, 'f', 1)
-        .arg(proof.newPx, 0, 'f', 1);
+        .arg(proof.newPx, 0, 'f', 1)
+        .arg(camera.movedByHand() ? " (as found, before it was moved by hand)" : "");
 }
 
 QString proofText(const std::optional<vq::SolutionQuality>& quality) {

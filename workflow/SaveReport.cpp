@@ -28,7 +28,9 @@ QString firmwareOf(Sensor& sensor) {
 }  // namespace
 
 void SaveReport::note(ColourCamera camera, const CameraParameters& stored, const Rotation& found,
-                      const vq::SensorCalibrator& engine) {
+                      const vq::SensorCalibrator& engine, Sensor& sensor) {
+    // Now, as a module that fails to store has no more to say.
+    if (firmware_.isEmpty()) firmware_ = firmwareOf(sensor);
     ReportedCamera noted;
     noted.platform = camera == ColourCamera::OutOfModule;
     noted.stored = matrixOf((noted.platform ? stored.depthToOutOfModule : stored.depthToInModule).rotation);
@@ -39,7 +41,7 @@ void SaveReport::note(ColourCamera camera, const CameraParameters& stored, const
     cameras_[static_cast<std::size_t>(camera)] = std::move(noted);
 }
 
-void SaveReport::keep(const QString& dataFolder, Sensor& sensor, const CalibrationRecords& records,
+void SaveReport::keep(const QString& dataFolder, const Sensor& sensor, const CalibrationRecords& records,
                       bool stored) const {
     if (!records.anyAccepted()) return;
     ServiceReport report;
@@ -48,7 +50,7 @@ void SaveReport::keep(const QString& dataFolder, Sensor& sensor, const Calibrati
     report.serial = sensor.serialNumber();
     const WriteBackReport written = sensor.writeBack();
     report.write = {stored, flashText(written), written.reason, written.backupFile};
-    report.firmware = firmwareOf(sensor);
+    report.firmware = firmware_;
     for (const ColourCamera camera : {ColourCamera::InModule, ColourCamera::OutOfModule}) {
         const auto accepted = records.accepted(camera);
         const auto& noted = cameras_[static_cast<std::size_t>(camera)];

@@ -14,18 +14,19 @@ class SensorCalibrator;
 
 namespace fieldcal {
 
-/// What the engine knew about each camera's solution when it was found. It is kept until the save, as the engine forgets
-/// it once the other camera is calibrated.
+/// What the engine knew about each camera's solution when it was found. It is kept until the save, as the engine
+/// forgets it once the other camera is calibrated.
 class SaveReport {
 public:
     void note(ColourCamera camera, const CameraParameters& stored, const Rotation& found,
-              const vq::SensorCalibrator& engine);
+              const vq::SensorCalibrator& engine, Sensor& sensor);
     /// After `storeCalibration`: keeps the report and the history lines of the cameras whose rotation was accepted, in
     /// the program's data folder.
-    void keep(const QString& dataFolder, Sensor& sensor, const CalibrationRecords& records, bool stored) const;
+    void keep(const QString& dataFolder, const Sensor& sensor, const CalibrationRecords& records, bool stored) const;
 
 private:
     std::array<std::optional<ReportedCamera>, 2> cameras_;
+    QString firmware_;
 };
 
 }  // namespace fieldcal

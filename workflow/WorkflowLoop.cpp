@@ -203,7 +203,7 @@ void Workflow::takeSolution(const Snapshot& now) {
     std::array<float, 3> translation{};
     engine_.getRotationMatrix(estimated.data());
     engine_.getTranslation(translation.data());
-    solutions_.note(camera_, factory_, estimated, engine_.calibrator());
+    solutions_.note(camera_, factory_, estimated, engine_.calibrator(), *sensor_);
     if (secondCamera()) qInfo("Out of module color sensor:");
     logSolution(secondCamera() ? factory_.depthToOutOfModule : factory_.depthToInModule, estimated, translation);
     const State next = secondCamera() ? State::RefiningCalibration : State::RefiningTutorial;

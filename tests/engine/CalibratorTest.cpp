@@ -1,12 +1,15 @@
 #include "diagnostics/Logger.h"
+#include "engine/Median.h"
 #include "tests/engine/CalibratorRig.h"
 #include "tests/engine/Matchers.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <map>
+#include <numeric>
 #include <thread>
 
 namespace vq::testing {
@@ -74,6 +77,23 @@ TEST_F(Calibrator, SolvesWithTheThirdDecisionImprovesWithMoreAndStaysSolvedUntil
                : expectAnswer(result, 2, "Adding additional Frames for convergence");
         EXPECT_THAT(rig_.rotation(), isNearTruth);
     }
+    const std::optional<SolutionEvidence> evidence = rig_.core.evidence();
+    ASSERT_TRUE(evidence);
+    const auto medianPx = [&](const Eigen::Matrix3d& rotation) {
+        std::vector<double> lengths;
+        for (const EvidenceMatch& match : evidence->matches)
+            lengths.push_back(evidence->residualPx(match, rotation).norm());
+        return medianOf(lengths);
+    };
+    EXPECT_LT(medianPx(rig_.rotation()), 0.2);
+    EXPECT_GT(medianPx(rotationFromAngles(kFactoryDeg * kDeg)), 3.0);
+    EXPECT_EQ(static_cast<int>(evidence->stills.size()), rig_.core.attemptCount());
+    const auto fittedOf = [](const EvidenceStill& a, const EvidenceStill& b) { return a.fitted < b.fitted; };
+    const auto most = std::max_element(evidence->stills.begin(), evidence->stills.end(), fittedOf);
+    EXPECT_EQ(evidence->shownStill, most - evidence->stills.begin());
+    EXPECT_EQ(evidence->infrared.size(), cv::Size(320, 240));
+    const auto areas = evidence->matchesPerArea();
+    EXPECT_EQ(std::accumulate(areas.begin(), areas.end(), std::size_t{0}), evidence->matches.size());
     // A wall does not take the solution away.
     const ScenePair wall = blankedFrom(rig_.scene(kTrueDeg, 1), {8, 8}, {0, 0});
     for (int i = 0; i < 5; ++i)
@@ -83,6 +103,7 @@ TEST_F(Calibrator, SolvesWithTheThirdDecisionImprovesWithMoreAndStaysSolvedUntil
     EXPECT_TRUE(rig_.core.goodSolution()) << "a set-up clears nothing";
     EXPECT_EQ(rig_.engine.resetState(), 0);
     EXPECT_FALSE(rig_.core.goodSolution());
+    EXPECT_FALSE(rig_.core.evidence());
     EXPECT_EQ(rig_.core.attemptCount(), 0);
     EXPECT_EQ(rig_.gridTotal(), 0U);
     EXPECT_THAT(rig_.rotation(), isNearTruth) << "registration stays";

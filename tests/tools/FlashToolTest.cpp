@@ -1,5 +1,7 @@
 #include "tests/tools/SessionTool.h"
 
+#include <QDirIterator>
+
 namespace fieldcal::testing {
 namespace {
 
@@ -38,6 +40,10 @@ TEST_F(FlashToolTest, WhatIsWrittenIsTheNextFactoryRotation) {
         for (int i = 0; i < 9; ++i)
             EXPECT_NEAR(stored[i].toDouble(), written.json()["rotation"].toArray()[i].toDouble(), 1e-6);
     }
+    QDirIterator history(data.path(), {"history.csv"}, QDir::Files, QDirIterator::Subdirectories);
+    QFile lines(history.next());
+    ASSERT_TRUE(lines.open(QIODevice::ReadOnly));
+    EXPECT_EQ(lines.readAll().count(",stored\n"), 2);
 }
 
 TEST_F(FlashToolTest, ABackupBringsTheOldCalibrationBack) {

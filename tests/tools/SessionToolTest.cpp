@@ -1,5 +1,7 @@
 #include "tests/tools/SessionTool.h"
 
+#include <QDirIterator>
+
 #include <cmath>
 
 namespace fieldcal::testing {
@@ -103,6 +105,31 @@ TEST_F(SessionToolTest, PlaysToTheEndWithoutAnAnswerWhenThereIsNone) {
     EXPECT_EQ(night.json()["parallax"].toObject()["withDistance"].toInt(-1), 0);
     EXPECT_EQ(night.json()["pairs"].toInt(-1), 0) << "a dark frame must not be taken";
     EXPECT_EQ(night.json()["framesUsed"].toInt(), 52);
+}
+
+TEST_F(SessionToolTest, AReportTellsTheSolutionAndOneThatCannotBeWrittenFails) {
+    const auto calibrate = [](const QString& folder, const QString& report) {
+        return run({"calibrate", folder, "--seed", "1", "--json", "-", "--report", report});
+    };
+    const QString file = path("report <1>.html");
+    const Result solved = calibrate(recording(), file);
+    EXPECT_EQ(solved.status, 0) << solved.error.constData();
+    QFile page(file);
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    const QByteArray html = page.readAll();
+    EXPECT_TRUE(html.contains("Nothing was written into the camera."));
+    EXPECT_EQ(html.count("<img"), 2);
+    for (const QJsonValue& angle : solved.json()["anglesDeg"].toArray())
+        EXPECT_TRUE(html.contains('>' + QByteArray::number(angle.toDouble(), 'f', 4)));
+    QDirIterator history(data.path(), {"history.csv"}, QDir::Files, QDirIterator::Subdirectories);
+    EXPECT_FALSE(history.hasNext()) << "nothing was saved";
+
+    const QString nowhere = path("no folder/report.html");
+    const Result failed = calibrate(recording(), nowhere);
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_EQ(failed.errorLines(), 1);
+    EXPECT_TRUE(failed.error.contains(nowhere.toUtf8())) << failed.error.constData();
+    EXPECT_EQ(calibrate(nightRecording(), nowhere).status, 3) << "without a solution there is no report";
 }
 
 TEST_F(SessionToolTest, DeviceFailuresEndWithOneLineAndStatusOne) {

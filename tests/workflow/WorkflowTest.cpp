@@ -1,5 +1,7 @@
 #include "tests/workflow/WorkflowRig.h"
 
+#include <QDir>
+
 #include <thread>
 
 namespace fieldcal::testing {
@@ -15,6 +17,12 @@ constexpr ColourCamera kSecond = ColourCamera::OutOfModule;
 
 double angleAboutYDeg(const Rotation& rotation) {
     return vq::anglesFromRotation(matrixOf(rotation))[1] * vq::kDegreesPerRadian;
+}
+
+QByteArray read(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
 }
 
 TEST_F(WorkflowTest, TwoCamerasFromTheFirstScreenToTheFlash) {
@@ -52,6 +60,11 @@ TEST_F(WorkflowTest, TwoCamerasFromTheFirstScreenToTheFlash) {
     EXPECT_TRUE(report.stored) << report.writeBack.reason.toStdString();
     EXPECT_THAT(report.errors, IsEmpty());
     EXPECT_EQ(control.startType, 2U);
+    const QDir reports(folder.filePath("data/reports"));
+    EXPECT_THAT(reports.entryList(QDir::Files), SizeIs(1));
+    EXPECT_EQ(read(folder.filePath("data/history.csv")).count(",stored\n"), 2);
+    const QByteArray page = read(reports.filePath(reports.entryList(QDir::Files).value(0)));
+    EXPECT_TRUE(page.contains("firmware 1.27.11") && page.count("<section") == 2 && page.count("Moved by hand") == 1);
 
     EXPECT_NEAR(angleAboutYDeg(firstAccepted) - angleAboutYDeg(firstEstimate), 1.0, 1e-4);
     EXPECT_NEAR(degreesBetween(firstAccepted, firstEstimate), 1.0, 1e-3);
@@ -128,6 +141,7 @@ TEST_F(WorkflowTest, AFailedSaveIsNotedAndToldAtTheNextStart) {
     EXPECT_EQ(user->lastSave->reason, report.errors[0]);
     EXPECT_EQ(user->lastSave->flash, "The camera's flash holds the previous calibration.");
     EXPECT_TRUE(QFile::exists(user->lastSave->backupFile));
+    EXPECT_EQ(read(folder.filePath("data/history.csv")).count(",not stored: "), 1);
     EXPECT_EQ(user->lastSave->serial, 700010U);
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));

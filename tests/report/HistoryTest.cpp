@@ -1,0 +1,73 @@
+#include "report/History.h"
+#include "tests/devices/LogCapture.h"
+#include "tests/report/Reports.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+namespace fieldcal::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::StartsWith;
+
+class HistoryTest : public ::testing::Test {
+protected:
+    HistoryTest() {
+        for (ReportedCamera* camera : {&third, &platform})
+            camera->evidence.reset();
+    }
+    std::vector<std::string> lines() const {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        std::vector<std::string> lines;
+        for (const QByteArray& line : file.readAll().split('\n'))
+            lines.push_back(line.toStdString());
+        return lines;
+    }
+
+    const QTemporaryDir temporary;
+    const QString folder = temporary.filePath("data"), path = folder + "/history.csv";
+    ReportedCamera third = cameraOf(false), platform = cameraOf(true);
+};
+
+TEST_F(HistoryTest, ALineForEachCameraAndTheColumnsOnce) {
+    EXPECT_TRUE(appendHistory(folder, reportOf({third, platform})));
+    platform.quality.reset();
+    ServiceReport failed = reportOf({platform});
+    failed.write = ReportedWrite{false, {}, "7: \"full\",\nagain", {}};
+    EXPECT_TRUE(appendHistory(folder, failed));
+
+    const std::string angles = "0.12340,-0.23450,0.34560,0.98760,-1.09870,1.21090,";
+    EXPECT_THAT(lines(),
+                ElementsAre(StartsWith("time,serial,camera,before_x_deg,"),
+                            "2026-07-01T12:34:56Z,550101,third," + angles + "0.00410,0.00520,0.00630,10.127,0.214,stored",
+                            "2026-07-01T12:34:56Z,550101,platform," + angles +
+                                "0.00410,0.00520,0.00630,10.127,0.214,stored",
+                            "2026-07-01T12:34:56Z,550101,platform," + angles +
+                                ",,,,,\"not stored: 7: \"\"full\"\", again\"",
+                            ""));
+    EXPECT_EQ(QString::fromStdString(lines()[0]).count(','), QString::fromStdString(lines()[1]).count(','));
+}
+
+TEST_F(HistoryTest, WhatIsThereStands) {
+    ASSERT_TRUE(QDir().mkpath(folder));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("mine\ncut sho");
+    file.close();
+    EXPECT_TRUE(appendHistory(folder, reportOf({third})));
+    EXPECT_THAT(lines(), ElementsAre("mine", "cut sho", StartsWith("2026-07-01T12:34:56Z,550101,third,"), ""));
+}
+
+TEST_F(HistoryTest, AFileThatCannotBeContinuedCostsOneLogLine) {
+    const LogCapture log;
+    ASSERT_TRUE(QDir().mkpath(path));
+    EXPECT_FALSE(appendHistory(folder, reportOf({third})));
+    EXPECT_THAT(LogCapture::lines(), ElementsAre(StartsWith("CRITICAL " + path.toStdString())));
+}
+
+}  // namespace
+}  // namespace fieldcal::testing
