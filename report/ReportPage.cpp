@@ -43,11 +43,13 @@ figcaption { font-size: 7pt; line-height: 1.2; margin-top: 0.6mm; color: #3c4652
 figcaption b { color: #1b2430 }
 .one table { width: 88mm } .one dl { width: 92mm }
 .one .overlay { width: 92mm }
-.two .facts { width: 87mm } .two table { width: 87mm; margin-bottom: 1mm; font-size: 7.5pt } .two dl { font-size: 7pt }
-.two .overlay { width: 47.5mm }
-.one .residuals { width: 125mm } .one .side { width: 58mm } .side figure:first-child { margin-top: 0 }
-.two .residuals { width: 58mm } .two .side { width: 124mm; display: flex; justify-content: space-between }
-.two .side figure { width: 58mm }
+.two h2 { margin-top: 2mm } .two .facts { width: 89mm }
+.two table { width: 89mm; margin-bottom: 0.6mm; font-size: 7.2pt } .two dl { font-size: 6.8pt; line-height: 1.2 }
+.two td, .two th { padding-top: 0; padding-bottom: 0 }
+.two .overlay { width: 47mm }
+.one .residuals { width: 125mm } .one .side { width: 58mm }
+.two .residuals { width: 56mm } .two .side { width: 123mm; display: flex; justify-content: space-between }
+.two .side figure { width: 56mm } .two svg { height: 40mm }
 svg text { font-size: 19px; fill: #3c4652 } svg text.count { font-size: 30px; fill: #1b2430 }
 .single { stroke: #0d47a1; stroke-width: 1.5 }
 .median { stroke: #10151c; stroke-width: 4 } circle { fill: #10151c } .cut { stroke: #c62828; stroke-opacity: 0.6 }
@@ -134,8 +136,7 @@ void plots(Markup* out, const ReportedCamera& camera) {
     out->open("figure", {{"class", "residuals"}});
     drawResiduals(out, evidence, camera.accepted);
     caption(out, "Residuals of the new rotation,",
-            QString("drawn %1 times as long as they are; thick: median of each part of the image (a dot: none); red: "
-                    "cut short.")
+            QString("drawn %1 times as long; thick: median of each part of the image; red: cut short.")
                 .arg(exaggeration(evidence, camera.accepted)));
     out->close();
     out->open("div", {{"class", "side"}});

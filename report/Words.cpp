@@ -51,7 +51,7 @@ QString summaryText(const ReportedCamera& camera) {
         .arg(turned)
         .arg(proof.storedPx, 0, 'f', 1)
         .arg(proof.newPx, 0, 'f', 1)
-        .arg(camera.movedByHand() ? " (as found, before it was moved by hand)" : "");
+        .arg(camera.movedByHand() ? " (before it was moved by hand)" : "");
 }
 
 QString proofText(const std::optional<vq::SolutionQuality>& quality) {
@@ -71,7 +71,7 @@ QString modelText(const vq::ModelCheck& model) {
     const QString name = nameOf(model.strongest());
     const QString chance = QString::number(model.probability[static_cast<std::size_t>(model.strongest())], 'g', 2);
     if (!model.departure())
-        return QString("A rotation alone explains the photos (next likely: %1, p = %2).").arg(name, chance);
+        return QString("A rotation alone explains the photos (likeliest other change: %1, p = %2).").arg(name, chance);
     return QString(
                "A rotation alone does not explain the photos: they speak for %1 as well (p = %2). The camera may "
                "have changed in more than its direction.")
@@ -99,9 +99,11 @@ QString writeText(const ServiceReport& report) {
     if (!report.write) return "Nothing was written into the camera.";
     const ReportedWrite& write = *report.write;
     QString text = write.stored ? QString("Written into the camera and read back. ")
-                                : QString("NOT STORED: %1. ").arg(write.reason);
+                                : QString("NOT STORED: %1 ").arg(write.reason);
     text += write.flash;
-    if (!write.backupFile.isEmpty()) text += " The previous calibration is kept in " + write.backupFile;
+    // Where the flash is in doubt, its own text names the file.
+    if (!write.backupFile.isEmpty() && !write.flash.contains(write.backupFile))
+        text += " The previous calibration is kept in " + write.backupFile;
     return text;
 }
 

@@ -41,14 +41,13 @@ TEST_F(HistoryTest, ALineForEachCameraAndTheColumnsOnce) {
     EXPECT_TRUE(appendHistory(folder, failed));
 
     const std::string angles = "0.12340,-0.23450,0.34560,0.98760,-1.09870,1.21090,";
-    EXPECT_THAT(lines(),
-                ElementsAre(StartsWith("time,serial,camera,before_x_deg,"),
-                            "2026-07-01T12:34:56Z,550101,third," + angles + "0.00410,0.00520,0.00630,10.127,0.214,stored",
-                            "2026-07-01T12:34:56Z,550101,platform," + angles +
-                                "0.00410,0.00520,0.00630,10.127,0.214,stored",
-                            "2026-07-01T12:34:56Z,550101,platform," + angles +
-                                ",,,,,\"not stored: 7: \"\"full\"\", again\"",
-                            ""));
+    EXPECT_THAT(
+        lines(),
+        ElementsAre(StartsWith("time,serial,camera,before_x_deg,"),
+                    "2026-07-01T12:34:56Z,550101,third," + angles + "0.00410,0.00520,0.00630,10.127,0.214,stored",
+                    "2026-07-01T12:34:56Z,550101,platform," + angles + "0.00410,0.00520,0.00630,10.127,0.214,stored",
+                    "2026-07-01T12:34:56Z,550101,platform," + angles + ",,,,,\"not stored: 7: \"\"full\"\", again\"",
+                    ""));
     EXPECT_EQ(QString::fromStdString(lines()[0]).count(','), QString::fromStdString(lines()[1]).count(','));
 }
 

@@ -29,7 +29,9 @@ struct Page {
             if (reader.name() == QStringLiteral("style")) reader.skipCurrentElement();
             for (const QXmlStreamAttribute& attribute : reader.attributes())
                 if (attribute.name() == "src" || attribute.name() == "href") loaded << attribute.value().toString();
-            if (reader.name() == QStringLiteral("line") && reader.attributes().value("class").startsWith(QStringLiteral("median"))) ++medians;
+            if (reader.name() == QStringLiteral("line") &&
+                reader.attributes().value("class").startsWith(QStringLiteral("median")))
+                ++medians;
         }
         error = reader.errorString();
     }
@@ -93,8 +95,8 @@ TEST(ReportPageTest, TellsTheFiguresThatItWasGiven) {
           QString("0.21 px with the new one: median distance of 1215 matches in 4 photos"),
           QString("does not explain the photos: they speak for a changed distortion as well (p = 1e-09)"),
           QString("1180 matches with a distance, median 18.0 m; stereo baseline 54.7 mm (from an earlier"),
-          QString("2; fitted matches: left out, 1200."), QString("100||").repeated(12),
-          QString("new: 0.25 px"), QString("drawn 50 times")})
+          QString("2; fitted matches: left out, 1200."), QString("100||").repeated(12), QString("new: 0.25 px"),
+          QString("drawn 50 times")})
         EXPECT_TRUE(page.says(words)) << words.toStdString() << "\n" << page.text.toStdString();
     EXPECT_EQ(page.text.count("Moved by hand"), 1);
     EXPECT_EQ(page.text.count("before it was moved by hand"), 1);
@@ -114,7 +116,7 @@ TEST(ReportPageTest, AnyTextIsShownAsItIs) {
     EXPECT_EQ(page.error, QString());
     EXPECT_TRUE(page.says(QString(report.firmware).replace(QChar(1), QChar(0xFFFD)))) << page.text.toStdString();
     EXPECT_TRUE(page.says("Recording " + report.source));
-    EXPECT_TRUE(page.says("NOT STORED: it's <full>. flash The previous calibration is kept in C:\\a\"b\\%1"));
+    EXPECT_TRUE(page.says("NOT STORED: it's <full> flash The previous calibration is kept in C:\\a\"b\\%1"));
     EXPECT_TRUE(page.says("without proof"));
     EXPECT_TRUE(page.loaded.isEmpty());
 }

@@ -37,8 +37,7 @@ inline vq::SolutionEvidence evidenceOf(const Eigen::Matrix3d& truth) {
     for (int i = 0; i < 1200; ++i) {
         const cv::Point2f place(static_cast<float>(8 + 16 * (i % 40)), static_cast<float>(8 + 16 * (i / 40)));
         const Eigen::Vector2d seen = evidence.projection.colourPoint(truth, place, 0);
-        evidence.matches.push_back(
-            {place, {static_cast<float>(seen.x() + 0.25), static_cast<float>(seen.y())}, 0, 1});
+        evidence.matches.push_back({place, {static_cast<float>(seen.x() + 0.25), static_cast<float>(seen.y())}, 0, 1});
     }
     return evidence;
 }
