@@ -272,7 +272,7 @@ std::optional<SolutionEvidence> AttemptRecord::evidence() const {
     evidence.projection = projection_;
     int most = 0;
     for (const KeptPair& pair : pairs_) {
-        const int index = static_cast<int>(evidence.stills.size());
+        const int index = static_cast<int>(evidence.matchesPerStill.size());
         const std::vector<MeasuredMatch> taken = takenOf(pair, *lastFit_);
         for (const MeasuredMatch& match : taken) {
             const double inverseDepth = inverseDepthOf(match.place, lastFit_->options.scale);
@@ -280,7 +280,7 @@ std::optional<SolutionEvidence> AttemptRecord::evidence() const {
                                         std::isnan(inverseDepth) ? 0.0F : static_cast<float>(inverseDepth), index});
         }
         const int fitted = static_cast<int>(taken.size());
-        evidence.stills.push_back({static_cast<int>(pair.matches.size()), fitted, pair.motionPx});
+        evidence.matchesPerStill.push_back(fitted);
         if (fitted <= most) continue;
         most = fitted;
         evidence.shownStill = index;

@@ -25,19 +25,12 @@ struct EvidenceMatch {
     int still = 0;           ///< index of its still
 };
 
-/// What one still gave.
-struct EvidenceStill {
-    int verified = 0;    ///< matches that passed the verification
-    int fitted = 0;      ///< matches that the rotation was fitted to; 0 when the still was left out
-    float motionPx = 0;  ///< how far the infrared image moved to the next frame
-};
-
 /// What stands behind a solution, for people to look at. The two images are those of the still with the most matches:
 /// 8 bit, the infrared image and the grey colour image in the infrared geometry, shared and not copied.
 struct SolutionEvidence {
     Projection projection;
     std::vector<EvidenceMatch> matches;
-    std::vector<EvidenceStill> stills;
+    std::vector<int> matchesPerStill;  ///< 0 when the still was left out
     int shownStill = 0;
     cv::Mat infrared, grey;
 

@@ -62,12 +62,18 @@ svg text { font-size: 19px; fill: #3c4652 } svg text.count { font-size: 30px; fi
 constexpr int kWindowWidth = 320, kWindowHeight = 240;
 constexpr int kSmallWindowWidth = 240, kSmallWindowHeight = 180;
 
+/// Four decimals, and no minus before nothing.
+QString degrees(double value) {
+    const QString text = QString::number(value, 'f', 4);
+    return (text == "-0.0000" ? QString("0.0000") : text) + QChar(0xB0);
+}
+
 void row(Markup* out, const QString& name, const Eigen::Vector3d& values, const QString& prefix = {},
          const char* kind = "") {
     out->open("tr", {{"class", kind}});
     out->element("th", name);
     for (const double value : {values.x(), values.y(), values.z()})
-        out->element("td", prefix + QString::number(value, 'f', 4) + QChar(0xB0));
+        out->element("td", prefix + degrees(value));
     out->close();
 }
 

@@ -90,9 +90,9 @@ QString distancesText(const vq::ParallaxReport& parallax) {
 
 QString photosText(const vq::SolutionEvidence& evidence) {
     QStringList counts;
-    for (const vq::EvidenceStill& still : evidence.stills)
-        counts << (still.fitted > 0 ? QString::number(still.fitted) : QString("left out"));
-    return QString("%1; fitted matches: %2.").arg(evidence.stills.size()).arg(counts.join(", "));
+    for (const int count : evidence.matchesPerStill)
+        counts << (count > 0 ? QString::number(count) : QString("left out"));
+    return QString("%1; fitted matches: %2.").arg(evidence.matchesPerStill.size()).arg(counts.join(", "));
 }
 
 QString writeText(const ServiceReport& report) {

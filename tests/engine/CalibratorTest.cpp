@@ -87,10 +87,9 @@ TEST_F(Calibrator, SolvesWithTheThirdDecisionImprovesWithMoreAndStaysSolvedUntil
     };
     EXPECT_LT(medianPx(rig_.rotation()), 0.2);
     EXPECT_GT(medianPx(rotationFromAngles(kFactoryDeg * kDeg)), 3.0);
-    EXPECT_EQ(static_cast<int>(evidence->stills.size()), rig_.core.attemptCount());
-    const auto fittedOf = [](const EvidenceStill& a, const EvidenceStill& b) { return a.fitted < b.fitted; };
-    const auto most = std::max_element(evidence->stills.begin(), evidence->stills.end(), fittedOf);
-    EXPECT_EQ(evidence->shownStill, most - evidence->stills.begin());
+    const std::vector<int>& perStill = evidence->matchesPerStill;
+    EXPECT_EQ(static_cast<int>(perStill.size()), rig_.core.attemptCount());
+    EXPECT_EQ(evidence->shownStill, std::max_element(perStill.begin(), perStill.end()) - perStill.begin());
     EXPECT_EQ(evidence->infrared.size(), cv::Size(320, 240));
     const auto areas = evidence->matchesPerArea();
     EXPECT_EQ(std::accumulate(areas.begin(), areas.end(), std::size_t{0}), evidence->matches.size());

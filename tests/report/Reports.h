@@ -32,7 +32,7 @@ inline vq::SolutionEvidence evidenceOf(const Eigen::Matrix3d& truth) {
     }
     cv::remap(evidence.infrared, evidence.grey, places, cv::noArray(), cv::INTER_LINEAR, cv::BORDER_REPLICATE);
 
-    evidence.stills = {{900, 0, 0.9F}, {800, 1200, 0.1F}};
+    evidence.matchesPerStill = {0, 1200};
     evidence.shownStill = 1;
     for (int i = 0; i < 1200; ++i) {
         const cv::Point2f place(static_cast<float>(8 + 16 * (i % 40)), static_cast<float>(8 + 16 * (i / 40)));

@@ -111,7 +111,7 @@ TEST_F(SessionToolTest, AReportTellsTheSolutionAndOneThatCannotBeWrittenFails) {
     const auto calibrate = [](const QString& folder, const QString& report) {
         return run({"calibrate", folder, "--seed", "1", "--json", "-", "--report", report});
     };
-    const QString file = path("report <1>.html");
+    const QString file = path("report & 1.html");
     const Result solved = calibrate(recording(), file);
     EXPECT_EQ(solved.status, 0) << solved.error.constData();
     QFile page(file);
