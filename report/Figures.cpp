@@ -58,8 +58,9 @@ std::vector<Vector> medianVectors(const std::vector<Vector>& vectors, double wid
     std::vector<Vector> medians;
     for (std::size_t i = 0; i < parts.size(); ++i) {
         if (parts[i].x.size() < kLeastForMedian) continue;
-        const auto column = static_cast<double>(i % kMedianColumns), row = static_cast<double>(i / kMedianColumns);
-        medians.push_back({{(column + 0.5) * width / kMedianColumns, (row + 0.5) * height / kMedianRows},
+        const std::size_t column = i % kMedianColumns, row = i / kMedianColumns;
+        medians.push_back({{(static_cast<double>(column) + 0.5) * width / kMedianColumns,
+                            (static_cast<double>(row) + 0.5) * height / kMedianRows},
                            {medianPx(parts[i].x), medianPx(parts[i].y)}});
     }
     return medians;
@@ -194,8 +195,8 @@ void drawCoverage(Markup* out, const vq::SolutionEvidence& evidence) {
     openPicture(out, kWidth, kHeight, "Matches in each area of the infrared image");
     const auto counts = evidence.matchesPerArea();
     for (std::size_t i = 0; i < counts.size(); ++i) {
-        const double x = static_cast<double>(i % vq::kAreaColumns) * kCellWidth;
-        const double y = static_cast<double>(i / vq::kAreaColumns) * kCellHeight;
+        const std::size_t column = i % vq::kAreaColumns, row = i / vq::kAreaColumns;
+        const double x = static_cast<double>(column) * kCellWidth, y = static_cast<double>(row) * kCellHeight;
         const char* kind = counts[i] < kThinArea ? "thin" : counts[i] < kFullArea ? "some" : "full";
         out->leaf("rect", {{"x", number(x + 1)},
                            {"y", number(y + 1)},

@@ -22,7 +22,7 @@ const char* nameOf(vq::ModelDeparture departure) {
 
 QString baselineText(const vq::ParallaxReport& parallax) {
     if (!parallax.baselineM) return "stereo baseline unknown";
-    const QString text = QString("stereo baseline %1 mm").arg(*parallax.baselineM * 1e3, 0, 'f', 1);
+    QString text = QString("stereo baseline %1 mm").arg(*parallax.baselineM * 1e3, 0, 'f', 1);
     switch (parallax.baselineFrom) {
         case vq::BaselineSource::Depth:
             return text + " (from the depth image)";

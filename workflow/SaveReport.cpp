@@ -48,7 +48,7 @@ void SaveReport::keep(const QString& dataFolder, const Sensor& sensor, const Cal
     report.time = QDateTime::currentDateTimeUtc();
     report.program = "Field Calibrator " FIELDCAL_VERSION;
     report.serial = sensor.serialNumber();
-    const WriteBackReport written = sensor.writeBack();
+    const WriteBackReport& written = sensor.writeBack();
     report.write = {stored, flashText(written), written.reason, written.backupFile};
     report.firmware = firmware_;
     for (const ColourCamera camera : {ColourCamera::InModule, ColourCamera::OutOfModule}) {
