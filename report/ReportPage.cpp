@@ -122,7 +122,7 @@ void overlay(Markup* out, const ReportedCamera& camera, bool isNew, const cv::Re
     out->open("figure", {{"class", "overlay"}});
     out->leaf("img", {{"src", dataUri(edgeOverlay(*camera.evidence, isNew ? camera.accepted : camera.stored, window))},
                       {"alt", title}});
-    const QString text = isNew ? "Detail of photo %1. Black: infrared and colour edges lie on each other."
+    const QString text = isNew ? "Detail of photo %1. Black: where edges of both lie on each other."
                                : "Detail of photo %1. Red: edges of the infrared image; cyan: of the colour image.";
     caption(out, title, text.arg(camera.evidence->shownStill + 1));
     out->close();

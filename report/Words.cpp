@@ -73,8 +73,8 @@ QString modelText(const vq::ModelCheck& model) {
     if (!model.departure())
         return QString("A rotation alone explains the photos (likeliest other change: %1, p = %2).").arg(name, chance);
     return QString(
-               "A rotation alone does not explain the photos: they speak for %1 as well (p = %2). The camera may "
-               "have changed in more than its direction.")
+               "A rotation alone does not explain the photos: they speak for %1 as well (p = %2). Either the camera "
+               "has changed in more than its direction, or the scene misleads this check.")
         .arg(name, chance);
 }
 
