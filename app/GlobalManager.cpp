@@ -88,6 +88,7 @@ void GlobalManager::connectSignals() {
     connect(window_, SIGNAL(switchToIMColorSensor()), this, SLOT(slot_switchToIMColorSensor()));
     connect(window_, SIGNAL(userAskedToExit()), this, SLOT(slot_userAskedToExit()));
     connect(window_, SIGNAL(quit()), this, SLOT(slot_saveAndQuit()));
+    connect(window_, SIGNAL(storeFirstCamera()), this, SLOT(slot_storeFirstCameraAndQuit()));
     connect(window_, SIGNAL(touchDown(int, int)), overlay, SLOT(slot_touchDown(int, int)));
     connect(window_, SIGNAL(touchMove(int, int)), overlay, SLOT(slot_touchMove(int, int)));
     connect(window_, SIGNAL(touchUp(int, int)), overlay, SLOT(slot_touchUp(int, int)));

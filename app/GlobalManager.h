@@ -58,12 +58,14 @@ public slots:
     void slot_switchToIMColorSensor();
     void slot_userAskedToExit();
     void slot_saveAndQuit();
+    void slot_storeFirstCameraAndQuit();
     void slot_stateChanged(int state);
     void slot_downloadLatestUpdate();
     void slot_abortDownloadOfUpdate();
     void slot_networkReplyLatestVersionJsonFinished(QNetworkReply* reply);
     void slot_timeoutNetworkReplyJson();
-    /// The first error counts, and nothing after the user has chosen to leave.
+    /// The first error counts, and nothing after the user has chosen to leave. Where the first camera is accepted
+    /// already, the program ends only when the user has decided whether it is stored.
     void slot_getKXAPIErrorAndQuit(const QString& message);
     void slot_reportMissingQ550Device();
     void slot_reportMissingPlatformCamera();
@@ -81,10 +83,12 @@ private:
 
     // GlobalManagerEnding.cpp
     bool beginEnding();
+    void saveAndQuit(Storing storing);
     void endProcessing(Stop stop);
     /// Whatever ends the program; once it was closed, nothing.
     void closeCamera();
-    void finishEnding(const char* who, const LeaveReport& report);
+    /// False: there was something to tell.
+    bool finishEnding(const char* who, const LeaveReport& report);
 
     const ApplicationEnvironment environment_;
     QTranslator translator_;
@@ -101,6 +105,7 @@ private:
     QElapsedTimer lightingStopwatch_;
     std::unique_ptr<ProcessingThread> thread_;
     bool ending_ = false;
+    bool failed_ = false;  ///< an error has been shown, and the program is to end
     int exitCode_ = 0;
 };
 

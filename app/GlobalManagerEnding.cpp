@@ -6,6 +6,8 @@
 #include <QQuickWindow>
 #include <QTimer>
 
+#include <utility>
+
 namespace fieldcal {
 namespace {
 
@@ -14,11 +16,19 @@ constexpr const char* kErrorTitle = "KXAPI ERROR";
 }  // namespace
 
 void GlobalManager::slot_saveAndQuit() {
+    saveAndQuit(Storing::WithRefinement);
+}
+
+void GlobalManager::slot_storeFirstCameraAndQuit() {
+    saveAndQuit(Storing::OnlyAccepted);
+}
+
+void GlobalManager::saveAndQuit(Storing storing) {
     if (!beginEnding()) return;
     endProcessing(Stop::ToSave);
-    const LeaveReport report = workflow_.save();
-    finishEnding("slot_saveAndQuit", report);
-    if (!report.stored || exitCode_ != 0) {
+    const LeaveReport report = workflow_.save(storing);
+    const bool quiet = finishEnding("slot_saveAndQuit", report);
+    if (!report.stored || !quiet) {
         QCoreApplication::quit();
         return;
     }
@@ -34,11 +44,17 @@ void GlobalManager::slot_userAskedToExit() {
 }
 
 void GlobalManager::slot_getKXAPIErrorAndQuit(const QString& message) {
-    if (!beginEnding()) return;
+    if (ending_ || std::exchange(failed_, true)) return;
     exitCode_ = 1;
-    endProcessing(Stop::ToLeave);
+    const bool storable = workflow_.records().anyAccepted();
+    if (!storable) beginEnding();
+    endProcessing(storable ? Stop::ToSave : Stop::ToLeave);
     updates_.release();  // nothing may be installed while the message waits for its reader
     environment_.showCritical(kErrorTitle, message);
+    if (storable) {
+        functions_.offerFirstCamera();
+        return;
+    }
     workflow_.leave();
     QCoreApplication::quit();
 }
@@ -64,12 +80,13 @@ void GlobalManager::closeCamera() {
     updates_.release();
 }
 
-void GlobalManager::finishEnding(const char* who, const LeaveReport& report) {
+bool GlobalManager::finishEnding(const char* who, const LeaveReport& report) {
     qInfo("%s - cleaning up resources", who);
     updates_.release();
-    if (report.closingErrors.isEmpty()) return;
+    if (report.closingErrors.isEmpty()) return true;
     exitCode_ = 1;
     environment_.showCritical(kErrorTitle, report.closingErrors.join('\n'));
+    return false;
 }
 
 bool GlobalManager::eventFilter(QObject* watched, QEvent* event) {

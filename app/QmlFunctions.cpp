@@ -77,6 +77,10 @@ void QmlFunctions::displayPlatformCameraIssue() {
     call("displayPlatformCameraIssue");
 }
 
+void QmlFunctions::offerFirstCamera() {
+    call("offerFirstCamera");
+}
+
 void QmlFunctions::showLastSaveFailed(const QString& text) {
     call("showLastSaveFailed", {text});
 }

@@ -37,6 +37,7 @@ public:
     void displayMissingQ550Device();
     void displayMissingPlatformCamera();
     void displayPlatformCameraIssue();
+    void offerFirstCamera();
     void showLastSaveFailed(const QString& text);
     void showCapturedPhoto(const QString& source);
     void showDetailMap(const QVariantList& areas);

@@ -1,5 +1,6 @@
 #include "workflow/Workflow.h"
 
+#include "devices/CameraParameterReader.h"
 #include "workflow/Saving.h"
 
 #include <utility>
@@ -70,16 +71,31 @@ void Workflow::act(const std::function<void()>& change, std::function<void()> wo
     if (work != nullptr) wanted_.push_back(std::move(work));
 }
 
-LeaveReport Workflow::save() {
-    acceptRefinement();
+LeaveReport Workflow::save(Storing storing) {
+    if (storing == Storing::WithRefinement) acceptRefinement();
     LeaveReport report;
     requestStop(Stop::ToSave);
-    if (sensor_ != nullptr) {
+    if (sensor_ != nullptr && reopenAfterFault()) {
         report.stored = storeCalibration(*sensor_, records_, environment_.dataFolder);
         report.writeBack = sensor_->writeBack();
         solutions_.keep(environment_.dataFolder, *sensor_, records_, report.stored);
     }
     return close(report);
+}
+
+/// Only for what was accepted, and only the module that it was accepted for. False: there is nothing to write to. A
+/// module that cannot be opened refuses the write by itself, which is noted as for any other failed save.
+bool Workflow::reopenAfterFault() {
+    if (!sensor_->faulted() || !records_.anyAccepted()) return true;
+    const std::uint32_t serial = sensor_->serialNumber();
+    sensor_.reset();
+    sensor_ = environment_.makeSensor();
+    listenTo(*sensor_);
+    sensor_->setStopFlag(&giveUpWaiting_);
+    CameraParameters parameters;
+    const bool open = sensor_->open(applicationSettings()) && readCameraParameters(*sensor_, &parameters, [] {});
+    qInfo("The camera was opened anew for the save: %s.", open ? "it answers" : "it does not answer");
+    return !open || sensor_->serialNumber() == serial;
 }
 
 LeaveReport Workflow::leave() {

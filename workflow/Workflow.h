@@ -33,6 +33,12 @@ WorkflowEnvironment systemWorkflowEnvironment();
 
 enum class Stop { ToLeave, ToSave };
 
+/// What a save stores of the camera in work.
+enum class Storing {
+    WithRefinement,  ///< what is being refined counts as accepted
+    OnlyAccepted     ///< nothing: only a camera that was accepted before is stored
+};
+
 /// How leaving went.
 struct LeaveReport {
     bool stored = false;        ///< the module has confirmed the accepted rotations
@@ -75,8 +81,9 @@ public:
     bool stopRequested() const { return stop_; }
 
     // The leaver's. Both close the camera; nothing but destruction follows.
-    /// Accepts what is being refined, and writes each camera's accepted rotation, or the factory's, into the module.
-    LeaveReport save();
+    /// Writes each camera's accepted rotation, or the factory's, into the module. A module that has failed is opened
+    /// anew for this.
+    LeaveReport save(Storing storing);
     LeaveReport leave();
 
 private:
@@ -85,6 +92,7 @@ private:
     // Workflow.cpp: the user's actions and leaving.
     void acceptRefinement();
     void act(const std::function<void()>& change, std::function<void()> work);
+    bool reopenAfterFault();
     LeaveReport close(LeaveReport report);
 
     // WorkflowLoop.cpp: one function for each state that has a step.

@@ -10,7 +10,10 @@ QtObject {
     })
     property int state: states.firstOpened
     property string notice: ""  // the object name of the notice that hides every page
+    property bool failed: false  // the application has told an error: only leaving is left
+    property bool firstCameraAccepted: false
     property bool saving: false
+    readonly property bool paged: notice === "" && !failed && !saving
     property bool singleCamera: false
     property bool secondCamera: false
     property string cameraName: ""
@@ -49,10 +52,8 @@ QtObject {
                                        || ((state === states.tutorial || state === states.refining) && !foundRead)
     readonly property bool somethingToLose: firstCameraStorable || (!saving && notice === ""
         && (secondCamera || state >= states.found || (state >= states.starting && photoCount > 0)))
-    // What was accepted for the first camera, while the second one is not finished. In the second one's refinement
-    // storing would accept that, too.
-    readonly property bool firstCameraStorable: secondCamera && !saving && state !== states.refining
-                                                && (notice === "" || notice === "platformCameraIssuePage")
+    // What was accepted for the first camera, whatever becomes of the second one.
+    readonly property bool firstCameraStorable: firstCameraAccepted && !saving
 
     // Nobody who has begun is interrupted by an offer.
     readonly property bool updateShown: !saving && (updatePhase === "offered" ? state <= states.introduction

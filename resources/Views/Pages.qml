@@ -15,12 +15,12 @@ Item {
     signal left()
     signal updateWanted()
     signal updateGivenUp()
-    signal firstCameraAccepted()  // only what the first camera's refinement left is to be stored
+    signal firstCameraStored()  // only what the first camera's refinement left is to be stored
     signal stayed()
 
     readonly property var states: status.states
     readonly property int step: status.state
-    readonly property bool paged: status.notice === "" && !status.saving
+    readonly property bool paged: status.paged
     readonly property var screens: [opening, introduction, lighting, start, capture, found, tutorial, refinement, saving,
                                     missingDevice, missingRearCamera, rearCameraTrouble]
     readonly property bool covered: howToMove.visible || leaveQuestion.visible || updateNotice.visible
@@ -38,6 +38,11 @@ Item {
         if (status.somethingToLose) askToLeave()
         else left()
     }
+    // What a notice is about is no reason to lose the first camera's calibration.
+    function leaveNotice() {
+        if (status.firstCameraStorable) askToLeave()
+        else left()
+    }
     function pressMainButton() {
         const page = updateNotice.visible ? updateNotice
                    : leaveQuestion.visible ? leaveQuestion
@@ -46,7 +51,7 @@ Item {
     }
     function goBack() {
         if (updateNotice.visible) updateNotice.close()
-        else if (leaveQuestion.visible) leaveQuestion.visible = false
+        else if (leaveQuestion.visible) leaveQuestion.stay()
         else if (howToMove.visible) howToMove.visible = false
         else leave()
     }
@@ -149,7 +154,7 @@ Item {
             steps: [qsTr("Close every other program that uses a camera."),
                     qsTr("Switch the tablet off and on again."),
                     qsTr("Start the calibration again. If the camera is still missing, the tablet needs service.")]
-            onLeft: pages.left()
+            onLeft: pages.leaveNotice()
         }
         NoticeScreen {
             id: missingRearCamera
@@ -160,7 +165,7 @@ Item {
             steps: [qsTr("Check in the system's privacy settings that programs may use the camera."),
                     qsTr("Check in the device manager that the rear camera is switched on."),
                     qsTr("Start the calibration again.")]
-            onLeft: pages.left()
+            onLeft: pages.leaveNotice()
         }
         NoticeScreen {
             id: rearCameraTrouble
@@ -173,10 +178,7 @@ Item {
                     pages.status.firstCameraStorable
                     ? qsTr("Start the calibration again. The first camera's calibration can be stored when you leave.")
                     : qsTr("Start the calibration again. What was found so far is not stored.")]
-            onLeft: {
-                if (pages.status.firstCameraStorable) pages.askToLeave()
-                else pages.left()
-            }
+            onLeft: pages.leaveNotice()
         }
         TouchButton {
             id: exitButton
@@ -194,10 +196,11 @@ Item {
         id: leaveQuestion
         anchors.fill: parent
         firstCameraStorable: pages.status.firstCameraStorable
+        stayable: !pages.status.failed
         onLeft: pages.left()
-        onFirstCameraAccepted: {
+        onFirstCameraStored: {
             visible = false
-            pages.firstCameraAccepted()
+            pages.firstCameraStored()
         }
         onVisibleChanged: if (!visible) pages.stayed()
     }

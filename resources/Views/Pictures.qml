@@ -14,7 +14,7 @@ Item {
     signal touchMove(int x, int y)
     signal touchUp(int x, int y)
 
-    readonly property bool paged: status.notice === "" && !status.saving && !status.foundShown
+    readonly property bool paged: status.paged && !status.foundShown
     readonly property bool refining: paged && status.state === status.states.refining
     readonly property string view: {
         const s = status.states

@@ -33,6 +33,7 @@ Window {
     signal switchToIMColorSensor()
     signal userAskedToExit()
     signal quit()
+    signal storeFirstCamera()
     signal touchDown(int x, int y)
     signal touchMove(int x, int y)
     signal touchUp(int x, int y)
@@ -64,6 +65,7 @@ Window {
     function displayMissingQ550Device() { status.notice = "missingDevicePage" }
     function displayMissingPlatformCamera() { status.notice = "missingPlatformCameraPage" }
     function displayPlatformCameraIssue() { status.notice = "platformCameraIssuePage" }
+    function offerFirstCamera() { status.failed = true; pages.askToLeave() }
     function showLastSaveFailed(message) { status.lastSaveFailedText = message }
     function showCapturedPhoto(source) { status.photos = status.photos.concat([source]) }
     function showDetailMap(areas) { status.detail = areas }
@@ -77,8 +79,7 @@ Window {
 
     property bool mirrored: false
     property bool askedBeforeClosing: false
-    readonly property bool tutorialShown: status.state === _state_RefiningTutorial && !status.foundShown
-                                          && status.notice === ""
+    readonly property bool tutorialShown: status.state === _state_RefiningTutorial && !status.foundShown && status.paged
     onTutorialShownChanged: toggleTutorialAnimation(tutorialShown)
 
     function goTo(state) {
@@ -88,20 +89,22 @@ Window {
     function acceptRefinement() {
         if (!status.singleCamera && !status.secondCamera) {
             status.secondCamera = true
+            status.firstCameraAccepted = true
             switchToOOMColorSensor()
             goTo(_state_StartingCalibration)
         } else {
-            store()
+            store(quit)
         }
     }
-    function store() {
+    function store(signal) {
+        saveSoon.wanted = signal
         status.saving = true
         saveSoon.start()
     }
     onClosing: {
         if (saveSoon.running) {
             saveSoon.stop()
-            root.quit()
+            saveSoon.wanted()
         }
         if (askedBeforeClosing || !status.somethingToLose) return
         askedBeforeClosing = true
@@ -114,8 +117,9 @@ Window {
     CalibrationStatus { id: status }
     Timer {
         id: saveSoon
+        property var wanted
         interval: 100  // lets the saving page be seen before the main thread is busy
-        onTriggered: root.quit()
+        onTriggered: wanted()
     }
     PictureLayout {
         id: layout
@@ -150,7 +154,7 @@ Window {
         onLeft: root.userAskedToExit()
         onUpdateWanted: { status.fetchUpdate(); root.startDownloadingUpdate() }
         onUpdateGivenUp: { status.updatePhase = ""; root.abortDownloadingUpdate() }
-        onFirstCameraAccepted: root.store()
+        onFirstCameraStored: root.store(root.storeFirstCamera)
         onStayed: root.askedBeforeClosing = false
     }
 }

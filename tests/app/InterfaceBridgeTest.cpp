@@ -170,6 +170,7 @@ TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
     functions.displayMissingQ550Device();
     functions.displayMissingPlatformCamera();
     functions.displayPlatformCameraIssue();
+    functions.offerFirstCamera();
     functions.showLastSaveFailed("a");
     functions.showUpdateOffer("1.1");
     functions.showUpdateProgress(1, 2);

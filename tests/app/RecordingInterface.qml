@@ -18,6 +18,7 @@ Window {
     signal switchToIMColorSensor()
     signal userAskedToExit()
     signal quit()
+    signal storeFirstCamera()
     signal touchDown(int x, int y)
     signal touchMove(int x, int y)
     signal touchUp(int x, int y)
@@ -50,6 +51,7 @@ Window {
     function displayMissingQ550Device() { add("missingDevice", []) }
     function displayMissingPlatformCamera() { add("missingPlatformCamera", []) }
     function displayPlatformCameraIssue() { add("platformCameraIssue", []) }
+    function offerFirstCamera() { add("offerFirstCamera", []) }
     function showLastSaveFailed(text) { add("lastSaveFailed", [text]) }
     function showCapturedPhoto(source) { add("photo", [source]) }
     function showDetailMap(areas) { add("detail", areas.map(area => area.toFixed(1))) }

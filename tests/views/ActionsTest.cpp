@@ -76,23 +76,43 @@ TEST_F(ActionsTest, AWindowThatIsClosedAsksOnce) {
     EXPECT_TRUE(stage.window()->close());
 }
 
-TEST_F(ActionsTest, TheFirstCamerasCalibrationCanBeStoredWithoutTheSecond) {
-    const auto enterSecond = [this] {
-        stage.enter(10);
-        stage.press("foundContinueButton");
-        stage.press("refinementContinueButton");
-    };
-    enterSecond();
+TEST_F(ActionsTest, WhateverBecomesOfTheSecondCameraTheFirstCanBeStoredAlone) {
+    stage.enter(10);
+    stage.press("foundContinueButton");
     stage.press("exitButton");
-    EXPECT_TRUE(shown("storeFirstCameraButton"));
-    stage.tell("displayPlatformCameraIssue");
-    EXPECT_FALSE(shown("leaveQuestion")) << "nothing lies on top of a notice";
-    QMetaObject::invokeMethod(stage.find("platformCameraIssuePage"), "left");
+    EXPECT_FALSE(shown("storeFirstCameraButton")) << "the first one is not accepted yet";
+    stage.press("stayButton");
+    stage.press("refinementContinueButton");
+    for (const int state : {7, 10}) {
+        stage.enter(state);
+        stage.press("exitButton");
+        EXPECT_TRUE(shown("storeFirstCameraButton")) << state;
+        stage.enter(10);
+        EXPECT_TRUE(shown("storeFirstCameraButton")) << "the loop takes nothing from under the finger";
+        stage.press("stayButton");
+    }
+    const std::pair<const char*, const char*> notices[] = {
+        {"displayPlatformCameraIssue", "platformCameraIssuePage"},
+        {"displayMissingPlatformCamera", "missingPlatformCameraPage"},
+        {"displayMissingQ550Device", "missingDevicePage"}};
+    for (const auto& [function, page] : notices) {
+        stage.press("exitButton");
+        stage.tell(function);
+        EXPECT_FALSE(shown("leaveQuestion")) << "nothing lies on top of a notice";
+        QMetaObject::invokeMethod(stage.find(page), "left");
+        EXPECT_TRUE(shown("storeFirstCameraButton")) << page;
+        stage.press("stayButton");
+    }
+    stage.tell("offerFirstCamera");
+    EXPECT_FALSE(shown("stayButton")) << "there is nothing to stay for after an error";
+    QTest::keyClick(stage.window(), Qt::Key_Escape);
+    EXPECT_TRUE(shown("leaveQuestion"));
     EXPECT_TRUE(exits.isEmpty());
-    stage.press("storeFirstCameraButton");
+    QSignalSpy stores(stage.window(), SIGNAL(storeFirstCamera()));
+    pressReturn();
     EXPECT_TRUE(shown("savingPage"));
-    EXPECT_TRUE(quits.wait());
-    EXPECT_TRUE(exits.isEmpty());
+    EXPECT_TRUE(stores.wait());
+    EXPECT_TRUE(quits.isEmpty()) << "the second camera's rotation is not accepted by this";
 }
 
 TEST_F(ActionsTest, WhatWasFoundComesBeforeTheTutorialAndTheRefinement) {

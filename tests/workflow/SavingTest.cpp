@@ -90,7 +90,7 @@ TEST_F(EndingTest, SavingWaitsForACallThatIsSlow) {
     start();
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
     thread->stop(Stop::ToSave);
-    const LeaveReport report = workflow.save();
+    const LeaveReport report = workflow.save(Storing::WithRefinement);
     EXPECT_TRUE(report.stored) << report.writeBack.reason.toStdString();
 }
 
@@ -115,7 +115,7 @@ TEST_F(EndingTest, WhatFailsAfterTheUserWantsToEndIsKeptForTheEnd) {
     while (grabs < 3)
         std::this_thread::yield();
     thread->stop(Stop::ToSave);
-    EXPECT_EQ(workflow.save().errors.size(), 1);
+    EXPECT_EQ(workflow.save(Storing::WithRefinement).errors.size(), 1);
     EXPECT_EQ(listener.errors, 0);
 }
 

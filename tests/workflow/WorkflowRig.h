@@ -155,9 +155,9 @@ protected:
         engine.drag(300 + static_cast<int>(degrees * 100), 400);
         engine.endDrag();
     }
-    LeaveReport stopAndSave() {
+    LeaveReport stopAndSave(Storing storing = Storing::WithRefinement) {
         thread->stop(Stop::ToSave);
-        return workflow->save();
+        return workflow->save(storing);
     }
     QByteArray flash() const {
         QFile file(folder.filePath("flash"));

@@ -75,7 +75,7 @@ TEST_F(WorkflowTest, TwoCamerasFromTheFirstScreenToTheFlash) {
     EXPECT_LT(degreesBetween(workflow->records().toStore(kSecond), secondEstimate), 1e-4);
 }
 
-TEST_F(WorkflowTest, LeavingKeepsTheFlashAndACameraThatWasNotAcceptedKeepsItsFactoryRotation) {
+TEST_F(WorkflowTest, LeavingKeepsTheFlashAndACameraThatFailsIsOpenedAnewToStoreTheFirstAlone) {
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     const QByteArray before = flash();
@@ -86,7 +86,8 @@ TEST_F(WorkflowTest, LeavingKeepsTheFlashAndACameraThatWasNotAcceptedKeepsItsFac
     workflow->leave();
     EXPECT_EQ(flash(), before);
 
-    start();
+    // The module fails while the second camera's rotation is looked at. It is opened anew for the save.
+    start("grab:3000:7");
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     const Rotation factorySecond = workflow->records().toStore(kSecond);
     solve();
@@ -94,9 +95,9 @@ TEST_F(WorkflowTest, LeavingKeepsTheFlashAndACameraThatWasNotAcceptedKeepsItsFac
     const Rotation estimate = *workflow->records().estimated(kFirst);
     workflow->switchCamera(kSecond);
     solve(State::RefiningCalibration);
-    workflow->requestState(State::ResetCalibration);
-    ASSERT_TRUE(user->waitFor(State::WaitingToCalibrate));
-    EXPECT_TRUE(stopAndSave().stored);
+    ASSERT_TRUE(user->waitUntil([&] { return !user->errors.empty(); }));
+    const LeaveReport report = stopAndSave(Storing::OnlyAccepted);
+    EXPECT_TRUE(report.stored) << report.writeBack.reason.toStdString();
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     EXPECT_EQ(workflow->records().toStore(kSecond), factorySecond);

@@ -6,10 +6,13 @@ import "../theme"
 // Asked once, and only when something would be lost.
 Rectangle {
     id: question
-    property Item mainButton: stayButton
+    property Item mainButton: stayable ? stayButton : storeButton
     property bool firstCameraStorable: false
+    property bool stayable: true
     signal left()
-    signal firstCameraAccepted()
+    signal firstCameraStored()
+
+    function stay() { if (stayable) visible = false }
 
     objectName: "leaveQuestion"
     visible: false
@@ -42,22 +45,25 @@ Rectangle {
                     onClicked: question.left()
                 }
                 TouchButton {
+                    id: storeButton
                     objectName: "storeFirstCameraButton"
                     visible: question.firstCameraStorable
                     Layout.fillWidth: true
                     Layout.preferredWidth: 1
                     Layout.preferredHeight: Theme.bigTarget
+                    main: !question.stayable
                     text: qsTr("Store first camera")
-                    onClicked: question.firstCameraAccepted()
+                    onClicked: question.firstCameraStored()
                 }
                 TouchButton {
                     id: stayButton
                     objectName: "stayButton"
                     Layout.fillWidth: true
                     Layout.preferredWidth: 1
+                    visible: question.stayable
                     main: true
                     text: qsTr("Stay")
-                    onClicked: question.visible = false
+                    onClicked: question.stay()
                 }
             }
         }
