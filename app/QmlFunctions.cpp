@@ -93,8 +93,8 @@ void QmlFunctions::showDetailMap(const QVariantList& areas) {
     call("showDetailMap", {QVariant(areas)});
 }
 
-void QmlFunctions::showFoundTurn(const QVariantList& anglesDeg) {
-    call("showFoundTurn", {QVariant(anglesDeg)});
+void QmlFunctions::showFoundTurn(const QVariantList& anglesDeg, const QVariantMap& quality) {
+    call("showFoundTurn", {QVariant(anglesDeg), quality});
 }
 
 void QmlFunctions::showUpdateOffer(const QString& version) {

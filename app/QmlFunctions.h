@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QString>
 #include <QVariantList>
+#include <QVariantMap>
 
 namespace fieldcal {
 
@@ -42,7 +43,7 @@ public:
     void showCapturedPhoto(const QString& source);
     void showDetailMap(const QVariantList& areas);
     /// Of the camera, upwards, to the right, and clockwise as seen from behind it.
-    void showFoundTurn(const QVariantList& anglesDeg);
+    void showFoundTurn(const QVariantList& anglesDeg, const QVariantMap& quality);
     void showUpdateOffer(const QString& version);
     void showUpdateProgress(qint64 receivedBytes, qint64 totalBytes);
     void showUpdateInterrupted();

@@ -4,21 +4,35 @@
 #include "app/ImageViews.h"
 #include "app/InterfaceTexts.h"
 #include "app/QmlFunctions.h"
-#include "engine/Rotation.h"
 
 #include <array>
 
 namespace fieldcal {
 namespace {
 
-/// Of the camera against where the stored rotation has it: about its own X, Y and Z axis.
-std::array<double, 3> turnDeg(const Rotation& stored, const Rotation& estimated) {
-    using Matrix = Eigen::Matrix<float, 3, 3, Eigen::RowMajor>;
-    const Eigen::Matrix3d from = Eigen::Map<const Matrix>(stored.data()).cast<double>();
-    const Eigen::Matrix3d to = Eigen::Map<const Matrix>(estimated.data()).cast<double>();
-    // What moves points of the picture one way has turned the camera the other way.
-    const Eigen::Vector3d angles = vq::anglesFromRotation(from * to.transpose()) * vq::kDegreesPerRadian;
-    return {angles[0], angles[1], angles[2]};
+constexpr const char* verdictName(StoredRotation verdict) {
+    switch (verdict) {
+        case StoredRotation::StillFits:
+            return "fits";
+        case StoredRotation::UnusuallyFar:
+            return "far";
+        default:
+            return "turned";
+    }
+}
+
+/// As `docs/interface-map.md` tells it.
+QVariantMap told(const FoundTurn& turn) {
+    QVariantMap quality{{"verdict", verdictName(turn.verdict())}};
+    if (!turn.quality) return quality;
+    const std::array<double, 3>& deviation = turn.quality->deviationDeg;
+    quality["deviationDeg"] = QVariantList(deviation.begin(), deviation.end());
+    quality["explained"] = !turn.quality->model.departure();
+    if (turn.quality->proof) {
+        quality["storedPx"] = turn.quality->proof->storedPx;
+        quality["newPx"] = turn.quality->proof->newPx;
+    }
+    return quality;
 }
 
 }  // namespace
@@ -58,12 +72,10 @@ void WorkflowBridge::refining(State state) {
     pacer_.wait();
 }
 
-void WorkflowBridge::solutionFound(ColourCamera camera, const CameraParameters& factory, const Rotation& estimated) {
+void WorkflowBridge::solutionFound(ColourCamera camera, const CameraParameters& factory, const Rotation& estimated,
+                                   const FoundTurn& turn) {
     views_.setCalibration(camera, factory, estimated);
-    const CameraExtrinsics& stored =
-        camera == ColourCamera::OutOfModule ? factory.depthToOutOfModule : factory.depthToInModule;
-    const std::array<double, 3> turn = turnDeg(stored.rotation, estimated);
-    functions_.showFoundTurn({turn[0], turn[1], turn[2]});
+    functions_.showFoundTurn(QVariantList(turn.anglesDeg.begin(), turn.anglesDeg.end()), told(turn));
 }
 
 void WorkflowBridge::singleCameraOnly() {

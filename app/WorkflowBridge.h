@@ -34,7 +34,8 @@ public:
     void framesReady(State state, ColourCamera camera, const FrameRecords& frames) override;
     void lightMeasured(const LightGate::Reading& reading) override;
     void refining(State state) override;
-    void solutionFound(ColourCamera camera, const CameraParameters& factory, const Rotation& estimated) override;
+    void solutionFound(ColourCamera camera, const CameraParameters& factory, const Rotation& estimated,
+                       const FoundTurn& turn) override;
     void singleCameraOnly() override;
     void lastSaveFailed(const SaveNote& note) override;
     void deviceError(const QString& text) override;

@@ -4,6 +4,7 @@
 #include "devices/FrameAcquisition.h"
 #include "workflow/AttemptListener.h"
 #include "workflow/CalibrationRecords.h"
+#include "workflow/FoundTurn.h"
 #include "workflow/LightGate.h"
 #include "workflow/SaveNote.h"
 #include "workflow/State.h"
@@ -29,8 +30,9 @@ public:
     /// After each pair: how much of the detail that is needed each area of the infrared picture has given so far, 0..1,
     /// row by row, four areas across and three down.
     virtual void detailGathered(const std::vector<double>& /*areas*/) {}
-    /// A rotation was found: what the overlay needs to show it.
-    virtual void solutionFound(ColourCamera, const CameraParameters& /*factory*/, const Rotation& /*estimated*/) {}
+    /// A rotation was found: what the overlay needs to show it, and how it stands to the stored one.
+    virtual void solutionFound(ColourCamera, const CameraParameters& /*factory*/, const Rotation& /*estimated*/,
+                               const FoundTurn&) {}
     /// The module has no platform camera that could be calibrated.
     virtual void singleCameraOnly() {}
     /// The last calibration was accepted, but not stored. Told once, when the camera has been opened.

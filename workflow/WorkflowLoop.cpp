@@ -205,10 +205,12 @@ void Workflow::takeSolution(const Snapshot& now) {
     engine_.getTranslation(translation.data());
     solutions_.note(camera_, factory_, estimated, engine_.calibrator(), *sensor_);
     if (secondCamera()) qInfo("Out of module color sensor:");
-    logSolution(secondCamera() ? factory_.depthToOutOfModule : factory_.depthToInModule, estimated, translation);
+    const CameraExtrinsics& stored = secondCamera() ? factory_.depthToOutOfModule : factory_.depthToInModule;
+    logSolution(stored, estimated, translation);
+    const FoundTurn turn = foundTurn(stored.rotation, estimated, engine_.quality());
     const State next = secondCamera() ? State::RefiningCalibration : State::RefiningTutorial;
     if (!records_.setEstimated(camera_, estimated, [&] { return state_.advance(now, next); })) return;
-    listener_.solutionFound(camera_, factory_, estimated);
+    listener_.solutionFound(camera_, factory_, estimated, turn);
     listener_.stateChanged(next);
 }
 

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>متابعة</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>الإزاحة في الصور: %1 بكسل بالمعايرة المخزّنة، و%2 بكسل بالمعايرة الجديدة.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>المعايرة المخزّنة لا تزال مناسبة.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>دارت الكاميرا الملونة بمقدار كبير غير معتاد.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>الدوران وحده لا يفسّر الصور. قد تحتاج الكاميرا إلى صيانة.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>الإبقاء على المعايرة المخزّنة</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>继续</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>照片中的偏差：使用已存储的校准为 %1 像素，使用新的校准为 %2 像素。</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>已存储的校准仍然适用。</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>彩色摄像头的转动幅度异常大。</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>仅凭转动无法解释这些照片。摄像头可能需要维修。</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>保留已存储的校准</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>繼續</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>相片中的偏差：使用已儲存的校正為 %1 像素，使用新的校正為 %2 像素。</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>已儲存的校正仍然適用。</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>彩色攝影機的轉動幅度異常大。</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>單憑轉動無法解釋這些相片。攝影機可能需要送修。</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>保留已儲存的校正</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Pokračovat</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Odchylka ve snímcích: %1 px s uloženou kalibrací, %2 px s novou.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>Uložená kalibrace stále vyhovuje.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>Barevná kamera se otočila neobvykle daleko.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Samotné otočení snímky nevysvětluje. Kamera možná potřebuje servis.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Ponechat uloženou kalibraci</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

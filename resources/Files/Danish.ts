@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Fortsæt</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Afvigelse i fotoene: %1 px med den gemte kalibrering, %2 px med den nye.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>Den gemte kalibrering passer stadig.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>Farvekameraet har drejet sig usædvanligt meget.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>En drejning alene forklarer ikke fotoene. Kameraet skal måske til service.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Behold gemt kalibrering</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Doorgaan</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Afwijking in de foto’s: %1 px met de opgeslagen kalibratie, %2 px met de nieuwe.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>De opgeslagen kalibratie klopt nog.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>De kleurencamera is ongewoon ver gedraaid.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Een draaiing alleen verklaart de foto’s niet. De camera heeft mogelijk onderhoud nodig.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Opgeslagen kalibratie behouden</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

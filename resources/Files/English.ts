@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Continue</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>The stored calibration still fits.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>The color camera has turned unusually far.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>A turn alone does not explain the photos. The camera may need service.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Keep stored calibration</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

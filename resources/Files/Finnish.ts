@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Jatka</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Poikkeama kuvissa: %1 px tallennetulla kalibroinnilla, %2 px uudella.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>Tallennettu kalibrointi pitää yhä paikkansa.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>Värikamera on kääntynyt epätavallisen paljon.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Pelkkä kääntyminen ei selitä kuvia. Kamera saattaa tarvita huoltoa.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Säilytä tallennettu kalibrointi</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Continuer</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Écart dans les photos&#xa0;: %1&#xa0;px avec l’étalonnage enregistré, %2&#xa0;px avec le nouveau.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>L’étalonnage enregistré convient toujours.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>La rotation de la caméra couleur est inhabituellement grande.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Une rotation seule n’explique pas les photos. La caméra doit peut-être être réparée.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Garder l’étalonnage enregistré</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Weiter</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Abweichung in den Fotos: %1 px mit der gespeicherten Kalibrierung, %2 px mit der neuen.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>Die gespeicherte Kalibrierung stimmt noch.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>Die Farbkamera hat sich ungewöhnlich weit gedreht.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Eine Drehung allein erklärt die Fotos nicht. Die Kamera muss vielleicht zum Kundendienst.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Gespeicherte behalten</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Συνέχεια</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Απόκλιση στις φωτογραφίες: %1 px με την αποθηκευμένη βαθμονόμηση, %2 px με τη νέα.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>Η αποθηκευμένη βαθμονόμηση εξακολουθεί να ισχύει.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>Η έγχρωμη κάμερα έχει στραφεί ασυνήθιστα πολύ.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Μια στροφή μόνη της δεν εξηγεί τις φωτογραφίες. Η κάμερα ίσως χρειάζεται επισκευή.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Διατήρηση αποθηκευμένης</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>המשך</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>הסטייה בתמונות: %1 פיקסלים עם הכיול השמור, %2 פיקסלים עם הכיול החדש.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>הכיול השמור עדיין מתאים.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>מצלמת הצבע הסתובבה במידה חריגה.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>סיבוב לבדו אינו מסביר את התמונות. ייתכן שהמצלמה זקוקה לשירות.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>שמירה על הכיול הקיים</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Continua</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Scarto nelle foto: %1 px con la calibrazione memorizzata, %2 px con quella nuova.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>La calibrazione memorizzata va ancora bene.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>La rotazione della fotocamera a colori è insolitamente grande.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Una rotazione da sola non spiega le foto. La fotocamera potrebbe richiedere assistenza.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Mantieni la calibrazione memorizzata</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

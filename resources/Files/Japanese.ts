@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>続行</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>写真でのずれ: 保存済みのキャリブレーションでは %1 px、新しいものでは %2 px。</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>保存済みのキャリブレーションは今も合っています。</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>カラーカメラの回転が異常に大きくなっています。</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>回転だけでは写真を説明できません。カメラの修理が必要かもしれません。</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>保存済みのまま使う</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>계속</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>사진에서의 편차: 저장된 보정값으로 %1픽셀, 새 보정값으로 %2픽셀.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>저장된 보정값이 아직 맞습니다.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>컬러 카메라가 비정상적으로 많이 회전했습니다.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>회전만으로는 사진이 설명되지 않습니다. 카메라 수리가 필요할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>저장된 보정값 유지</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Fortsett</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Avvik i bildene: %1 px med den lagrede kalibreringen, %2 px med den nye.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>Den lagrede kalibreringen stemmer fortsatt.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>Fargekameraet har dreid seg uvanlig mye.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>En dreining alene forklarer ikke bildene. Kameraet må kanskje på service.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Behold lagret kalibrering</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Kontynuuj</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Odchyłka na zdjęciach: %1 px z zapisaną kalibracją, %2 px z nową.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>Zapisana kalibracja nadal pasuje.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>Kamera kolorowa obróciła się niezwykle daleko.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Sam obrót nie wyjaśnia zdjęć. Kamera może wymagać serwisu.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Zachowaj zapisaną kalibrację</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Continuar</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Desvio nas fotografias: %1 px com a calibração guardada, %2 px com a nova.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>A calibração guardada ainda serve.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>A rotação da câmara de cor é invulgarmente grande.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Uma rotação por si só não explica as fotografias. A câmara pode necessitar de assistência.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Manter a calibração guardada</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

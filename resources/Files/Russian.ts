@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Продолжить</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Смещение на снимках: %1 пкс с сохранённой калибровкой, %2 пкс с новой.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>Сохранённая калибровка по-прежнему подходит.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>Цветная камера повернулась необычно далеко.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Один только поворот не объясняет снимки. Возможно, камере требуется обслуживание.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Оставить сохранённую</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Pokračovať</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Odchýlka na snímkach: %1 px s uloženou kalibráciou, %2 px s novou.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>Uložená kalibrácia stále vyhovuje.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>Farebná kamera sa otočila nezvyčajne ďaleko.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Samotné otočenie snímky nevysvetľuje. Kamera možno potrebuje servis.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Ponechať uloženú kalibráciu</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Continuar</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Desviación en las fotos: %1 px con la calibración guardada, %2 px con la nueva.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>La calibración guardada sigue siendo válida.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>El giro de la cámara de color es inusualmente grande.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Un giro por sí solo no explica las fotos. Puede que la cámara necesite servicio técnico.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Conservar la calibración guardada</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Fortsätt</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Avvikelse i fotona: %1 px med den lagrade kalibreringen, %2 px med den nya.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>Den lagrade kalibreringen stämmer fortfarande.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>Färgkameran har vridits ovanligt långt.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>En vridning ensam förklarar inte fotona. Kameran kan behöva service.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Behåll lagrad kalibrering</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

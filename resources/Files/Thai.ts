@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>ดำเนินการต่อ</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>ความคลาดเคลื่อน​ในภาพ: %1 พิกเซล​เมื่อใช้​การ​ปรับเทียบ​ที่บันทึกไว้ %2 พิกเซล​เมื่อใช้​ค่าใหม่</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>การ​ปรับเทียบ​ที่บันทึกไว้​ยังใช้ได้</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>กล้องสี​หมุนไป​มาก​ผิดปกติ</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>การหมุน​อย่างเดียว​อธิบาย​ภาพถ่าย​ไม่ได้ กล้อง​อาจต้อง​ส่งเข้ารับ​บริการ</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>ใช้ค่า​ที่บันทึกไว้​ต่อไป</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -69,6 +69,26 @@
         <source>Continue</source>
         <translation>Devam</translation>
     </message>
+    <message>
+        <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
+        <translation>Fotoğraflardaki sapma: kayıtlı kalibrasyonla %1 px, yenisiyle %2 px.</translation>
+    </message>
+    <message>
+        <source>The stored calibration still fits.</source>
+        <translation>Kayıtlı kalibrasyon hâlâ uyuyor.</translation>
+    </message>
+    <message>
+        <source>The color camera has turned unusually far.</source>
+        <translation>Renkli kamera alışılmadık ölçüde dönmüş.</translation>
+    </message>
+    <message>
+        <source>A turn alone does not explain the photos. The camera may need service.</source>
+        <translation>Yalnızca bir dönme fotoğrafları açıklamıyor. Kameranın servise gitmesi gerekebilir.</translation>
+    </message>
+    <message>
+        <source>Keep stored calibration</source>
+        <translation>Kayıtlı kalibrasyonu koru</translation>
+    </message>
 </context>
 <context>
     <name>HowToMove</name>

@@ -37,6 +37,7 @@ QtObject {
     property var photos: []     // of each photo the source of its small picture; may be fewer than were taken
     property var detail: []     // of each area of the picture 0..1, row by row; empty before the first photo
     property var foundTurn: []  // degrees: upwards, to the right, clockwise
+    property var foundQuality: ({})  // as docs/interface-map.md tells it
     property bool foundRead: false
 
     property string updatePhase: ""  // "offered", "fetching", "starting" or "failed"
@@ -48,8 +49,7 @@ QtObject {
     property bool updateMayTryAgain: false
 
     // Its page comes between the capture and what the application shows next.
-    readonly property bool foundShown: state === states.found
-                                       || ((state === states.tutorial || state === states.refining) && !foundRead)
+    readonly property bool foundShown: (state === states.tutorial || state === states.refining) && !foundRead
     readonly property bool somethingToLose: firstCameraStorable || (!saving && notice === ""
         && (secondCamera || state >= states.found || (state >= states.starting && photoCount > 0)))
     // What was accepted for the first camera, whatever becomes of the second one.

@@ -12,6 +12,7 @@ Item {
     signal wanted(int state)
     signal begun()
     signal accepted()
+    signal storedKept()  // what was found is not wanted
     signal left()
     signal updateWanted()
     signal updateGivenUp()
@@ -107,7 +108,7 @@ Item {
         CaptureScreen {
             id: capture
             objectName: "capturePage"
-            shown: pages.paged && (pages.step === pages.states.starting || pages.step === pages.states.capturing)
+            shown: pages.paged && pages.step >= pages.states.starting && pages.step <= pages.states.found
             status: pages.status
             layout: pages.layout
             onRestarted: pages.wanted(pages.states.reset)
@@ -120,6 +121,7 @@ Item {
             status: pages.status
             layout: pages.layout
             onContinued: pages.status.foundRead = true
+            onKept: pages.storedKept()
         }
         TutorialScreen {
             id: tutorial

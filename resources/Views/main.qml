@@ -69,7 +69,7 @@ Window {
     function showLastSaveFailed(message) { status.lastSaveFailedText = message }
     function showCapturedPhoto(source) { status.photos = status.photos.concat([source]) }
     function showDetailMap(areas) { status.detail = areas }
-    function showFoundTurn(anglesDeg) { status.foundTurn = anglesDeg }
+    function showFoundTurn(anglesDeg, quality) { status.foundTurn = anglesDeg; status.foundQuality = quality }
 
     function showUpdateOffer(version) { status.offerUpdate(version) }
     function showUpdateProgress(receivedBytes, totalBytes) { status.updateProgressed(receivedBytes, totalBytes) }
@@ -86,15 +86,24 @@ Window {
         status.state = state
         stateChanged(state)
     }
+    function goOnWithSecondCamera() {
+        status.secondCamera = true
+        switchToOOMColorSensor()
+        goTo(_state_StartingCalibration)
+    }
+    readonly property bool lastCamera: status.singleCamera || status.secondCamera
     function acceptRefinement() {
-        if (!status.singleCamera && !status.secondCamera) {
-            status.secondCamera = true
-            status.firstCameraAccepted = true
-            switchToOOMColorSensor()
-            goTo(_state_StartingCalibration)
-        } else {
+        if (lastCamera) {
             store(quit)
+        } else {
+            status.firstCameraAccepted = true
+            goOnWithSecondCamera()
         }
+    }
+    function keepStored() {
+        if (!lastCamera) goOnWithSecondCamera()
+        else if (status.firstCameraStorable) store(storeFirstCamera)
+        else userAskedToExit()
     }
     function store(signal) {
         saveSoon.wanted = signal
@@ -151,6 +160,7 @@ Window {
         onWanted: root.goTo(state)
         onBegun: { root.switchToIMColorSensor(); root.goTo(root._state_DetectingLighting) }
         onAccepted: root.acceptRefinement()
+        onStoredKept: root.keepStored()
         onLeft: root.userAskedToExit()
         onUpdateWanted: { status.fetchUpdate(); root.startDownloadingUpdate() }
         onUpdateGivenUp: { status.updatePhase = ""; root.abortDownloadingUpdate() }

@@ -55,7 +55,10 @@ Window {
     function showLastSaveFailed(text) { add("lastSaveFailed", [text]) }
     function showCapturedPhoto(source) { add("photo", [source]) }
     function showDetailMap(areas) { add("detail", areas.map(area => area.toFixed(1))) }
-    function showFoundTurn(anglesDeg) { add("foundTurn", anglesDeg.map(angle => angle.toFixed(1))) }
+    function showFoundTurn(anglesDeg, quality) {
+        add("foundTurn", anglesDeg.map(angle => angle.toFixed(1)))
+        add("foundQuality", [quality.verdict, quality.explained, quality.newPx < quality.storedPx])
+    }
 
     function showUpdateOffer(version) { add("updateOffer", [version]) }
     function showUpdateProgress(received, total) { note("updateProgress", [received, total]) }

@@ -150,6 +150,7 @@ TEST_F(WholeRunTest, TheInterfaceAnswersWhilePhotosAreWorkedOnAndTwoCamerasAreSt
         return find("foundPage")->isVisible();
     }));
     EXPECT_GE(photos, 2);
+    EXPECT_TRUE(find("foundProof")->isVisible());
     pressReturn();
     ASSERT_TRUE(comesToSee("tutorialPage"));
     QTest::qWait(500);

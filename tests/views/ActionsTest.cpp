@@ -118,6 +118,7 @@ TEST_F(ActionsTest, WhateverBecomesOfTheSecondCameraTheFirstCanBeStoredAlone) {
 TEST_F(ActionsTest, WhatWasFoundComesBeforeTheTutorialAndTheRefinement) {
     stage.tell("setCalibrationProgress", 0.0);
     stage.enter(8);
+    EXPECT_TRUE(shown("capturePage")) << "what was found is not told yet";
     stage.enter(9);
     EXPECT_TRUE(shown("foundPage"));
     EXPECT_TRUE(swings.isEmpty());
@@ -142,6 +143,30 @@ TEST_F(ActionsTest, WhatWasFoundComesBeforeTheTutorialAndTheRefinement) {
     EXPECT_TRUE(shown("savingPage"));
     EXPECT_TRUE(quits.wait());
     EXPECT_EQ(quits.size(), 1);
+}
+
+TEST_F(ActionsTest, WhoKeepsTheStoredCalibrationAcceptsNothing) {
+    QSignalSpy stores(stage.window(), SIGNAL(storeFirstCamera()));
+    const auto findThatItFits = [this](int state) {
+        stage.tell("setCalibrationProgress", 0.0);
+        stage.tell("showFoundTurn", QVariantList{0, 0, 0}, QVariantMap{{"verdict", "fits"}});
+        stage.enter(state);
+    };
+    findThatItFits(9);
+    stage.press("keepStoredButton");
+    EXPECT_EQ(rearCamera.size(), 1);
+    EXPECT_EQ(states.last()[0], 6);
+    stage.press("exitButton");
+    EXPECT_FALSE(shown("storeFirstCameraButton")) << "there is nothing to store";
+    stage.press("stayButton");
+    findThatItFits(10);
+    stage.press("keepStoredButton");
+    EXPECT_EQ(exits.size(), 1);
+
+    stage.tell("showFoundTurn", QVariantList{0, 0, 0}, QVariantMap{{"verdict", "turned"}});
+    EXPECT_FALSE(shown("keepStoredButton"));
+    EXPECT_TRUE(stores.isEmpty());
+    EXPECT_TRUE(quits.isEmpty());
 }
 
 TEST_F(ActionsTest, WithOneCameraTheFirstRefinementIsTheLast) {

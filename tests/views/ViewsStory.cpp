@@ -24,7 +24,12 @@ void startAttempt(ViewsStage& stage) {
 
 void found(ViewsStage& stage) {
     stage.enter(8);
-    stage.tell("showFoundTurn", QVariantList{0.42, -1.87, 0.05});
+    stage.tell("showFoundTurn", QVariantList{0.42, -1.87, 0.05},
+               QVariantMap{{"verdict", "turned"},
+                           {"deviationDeg", QVariantList{0.004, 0.003, 0.006}},
+                           {"explained", true},
+                           {"storedPx", 22.4},
+                           {"newPx", 0.31}});
 }
 
 }  // namespace
@@ -93,6 +98,24 @@ std::vector<Scene> story() {
              takePhotos(stage, 4);
              found(stage);
              stage.enter(9);
+         }},
+        {"found-fits",
+         [](ViewsStage& stage) {
+             stage.tell("showFoundTurn", QVariantList{0.007, -0.004, 0.011},
+                        QVariantMap{{"verdict", "fits"},
+                                    {"deviationDeg", QVariantList{0.004, 0.003, 0.006}},
+                                    {"explained", true},
+                                    {"storedPx", 0.34},
+                                    {"newPx", 0.31}});
+         }},
+        {"found-far",
+         [](ViewsStage& stage) {
+             stage.tell("showFoundTurn", QVariantList{1.42, -3.87, 10.05},
+                        QVariantMap{{"verdict", "far"},
+                                    {"deviationDeg", QVariantList{0.014, 0.023, 0.016}},
+                                    {"explained", false},
+                                    {"storedPx", 102.4},
+                                    {"newPx", 3.31}});
          }},
         {"tutorial", [](ViewsStage& stage) { stage.press("foundContinueButton"); }},
         {"refinement",

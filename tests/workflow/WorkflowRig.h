@@ -78,6 +78,9 @@ public:
         note(), events += 'P';
         if (onPair) onPair();
     }
+    void solutionFound(ColourCamera, const CameraParameters&, const Rotation&, const FoundTurn& turn) override {
+        note(), found = turn;
+    }
     void offerHowToMove() override { note(), events += 'F'; }
     void pairProcessed(const vq::CalibratorResult& result) override { note(), codes.push_back(result.code); }
     void deviceError(const QString& text) override { note(), errors.push_back(text.toStdString()); }
@@ -98,6 +101,7 @@ public:
     std::vector<std::int32_t> codes;
     std::vector<std::string> errors;
     std::optional<SaveNote> lastSave;
+    FoundTurn found;
     std::function<void()> onPair;
 
 private:

@@ -36,6 +36,10 @@ TEST_F(WorkflowTest, TwoCamerasFromTheFirstScreenToTheFlash) {
     solve();
     const Rotation firstEstimate = *workflow->records().estimated(kFirst);
     EXPECT_LT(degreesBetween(firstEstimate, *truth.truthThird), 0.05);
+    EXPECT_NEAR(Eigen::Vector3d(user->found.anglesDeg.data()).norm(),
+                degreesBetween(truth.third.rotation, *truth.truthThird), 0.05);
+    ASSERT_TRUE(user->found.quality && user->found.quality->proof);
+    EXPECT_TRUE(user->found.quality->proof->isClear());
     EXPECT_NEAR(workflow->engine().parallax().baselineM.value_or(0), 0.055, 1e-6) << "far mountains do not tell it";
     workflow->requestState(State::RefiningCalibration);
     ASSERT_TRUE(user->waitUntil([&] { return !user->dotted.empty(); })) << "depth is to reach further";

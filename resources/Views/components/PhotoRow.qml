@@ -6,6 +6,7 @@ Row {
     id: row
     property int count: 0
     property var sources: []
+    property bool complete: false  // no more will come
     readonly property int limit: 8
     readonly property real slotWidth: Math.min((width - (limit - 1) * spacing) / limit, height * 4 / 3)
     spacing: Theme.smallGap
@@ -14,6 +15,7 @@ Row {
         model: row.limit
         Rectangle {
             readonly property bool taken: index < row.count
+            visible: taken || !row.complete
             width: row.slotWidth
             height: width * 3 / 4
             anchors.verticalCenter: parent.verticalCenter

@@ -140,6 +140,14 @@ const drawings = {
         c.lineWidth *= 2
         tick(c, 50, 51, 22)
     },
+    attention: (c, k) => {
+        accented(c, k)
+        path(c, [50, 10, 94, 88, 6, 88], true)
+        c.stroke()
+        line(c, [50, 38, 50, 60])
+        circle(c, 50, 73, 3)
+        c.fill()
+    },
     camera: (c, k) => {
         tablet(c, k, 8, 34, 84, 34)
         circle(c, 30, 51, 9)
