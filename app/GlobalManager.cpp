@@ -86,6 +86,7 @@ void GlobalManager::connectSignals() {
     connect(window_, SIGNAL(toggleTutorialAnimation(bool)), this, SLOT(slot_toggleTutorialAnimation(bool)));
     connect(window_, SIGNAL(switchToOOMColorSensor()), this, SLOT(slot_switchToOOMColorSensor()));
     connect(window_, SIGNAL(switchToIMColorSensor()), this, SLOT(slot_switchToIMColorSensor()));
+    connect(window_, SIGNAL(pauseCapture(bool)), this, SLOT(slot_pauseCapture(bool)));
     connect(window_, SIGNAL(userAskedToExit()), this, SLOT(slot_userAskedToExit()));
     connect(window_, SIGNAL(quit()), this, SLOT(slot_saveAndQuit()));
     connect(window_, SIGNAL(storeFirstCamera()), this, SLOT(slot_storeFirstCameraAndQuit()));
@@ -144,6 +145,10 @@ void GlobalManager::slot_saveCalibrationText(const QString& text) {
 
 void GlobalManager::slot_toggleTutorialAnimation(bool on) {
     bridge_.animateTutorial(on);
+}
+
+void GlobalManager::slot_pauseCapture(bool paused) {
+    workflow_.pauseCapture(paused);
 }
 
 void GlobalManager::slot_switchToIMColorSensor() {

@@ -56,6 +56,7 @@ public slots:
     void slot_toggleTutorialAnimation(bool on);
     void slot_switchToOOMColorSensor();
     void slot_switchToIMColorSensor();
+    void slot_pauseCapture(bool paused);
     void slot_userAskedToExit();
     void slot_saveAndQuit();
     void slot_storeFirstCameraAndQuit();

@@ -13,7 +13,7 @@ enum class StoredRotation { StillFits, HasTurned, UnusuallyFar };
 
 /// By how much a colour camera has turned against where the stored rotation has it.
 struct FoundTurn {
-    std::array<double, 3> anglesDeg{};         ///< about the camera's own X, Y and Z axis
+    std::array<double, 3> anglesDeg{};           ///< about the camera's own X, Y and Z axis
     std::optional<vq::SolutionQuality> quality;  ///< none when only the vote stands behind the solution
 
     /// The stored rotation still fits when the turn is within three deviations about each axis and below 0.1° in all.

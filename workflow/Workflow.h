@@ -62,6 +62,8 @@ public:
     void requestState(State state);
     /// Goes on with the other camera. From the refinement, the rotation as it is now is accepted first.
     void switchCamera(ColourCamera camera);
+    /// While it is paused, an attempt takes no frames; everything else goes on.
+    void pauseCapture(bool paused) { capturePaused_ = paused; }
     /// `pass` does nothing from now on. To leave, every wait is given up soon as well; to save, a call of the camera
     /// library that is under way may take its time, since a camera that was given up can no longer be written.
     void requestStop(Stop stop);
@@ -118,6 +120,7 @@ private:
     const WorkflowEnvironment environment_;
     std::atomic<bool> stop_{false};
     std::atomic<bool> giveUpWaiting_{false};
+    std::atomic<bool> capturePaused_{false};
     WorkflowState state_;
     std::atomic<ColourCamera> usersCamera_{ColourCamera::InModule};
     CalibrationRecords records_;

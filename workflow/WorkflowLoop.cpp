@@ -86,7 +86,7 @@ void Workflow::step(const Snapshot& now) {
             startCalibration(now);
             break;
         case State::ProcessingFrame:
-            processFrame(now);
+            if (!capturePaused_) processFrame(now);
             break;
         case State::FoundGoodSolution:
             takeSolution(now);

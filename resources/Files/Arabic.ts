@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>إعادة البدء</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>متوقف مؤقتًا. لا تُلتقط صور.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>重新开始</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>已暂停，不拍摄照片。</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

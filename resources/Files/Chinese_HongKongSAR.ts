@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>重新開始</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>已暫停，不會拍攝相片。</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

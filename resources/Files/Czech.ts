@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Začít znovu</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Pozastaveno. Snímky se nepořizují.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

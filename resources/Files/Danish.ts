@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Start forfra</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Sat på pause. Der tages ingen fotos.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

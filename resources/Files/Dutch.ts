@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Opnieuw</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Gepauzeerd. Er worden geen foto’s gemaakt.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

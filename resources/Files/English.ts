@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Restart</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Paused. No photos are taken.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

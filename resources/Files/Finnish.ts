@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Aloita alusta</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Keskeytetty. Kuvia ei oteta.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

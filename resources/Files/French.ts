@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Recommencer</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>En pause. Aucune photo n’est prise.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Neu beginnen</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Angehalten. Es werden keine Fotos aufgenommen.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

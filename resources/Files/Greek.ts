@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Από την αρχή</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Σε παύση. Δεν λαμβάνονται φωτογραφίες.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>התחלה מחדש</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>בהשהיה. לא מצולמות תמונות.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Ricomincia</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>In pausa. Non vengono scattate foto.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>やり直す</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>一時停止中です。写真は撮影されません。</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>다시 시작</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>일시 중지되었습니다. 사진을 촬영하지 않습니다.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Start på nytt</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Satt på pause. Ingen bilder tas.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

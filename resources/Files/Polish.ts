@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Zacznij od nowa</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Wstrzymano. Zdjęcia nie są robione.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Recomeçar</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Em pausa. Não são tiradas fotografias.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

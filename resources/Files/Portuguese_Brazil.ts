@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Recomeçar</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Em pausa. Nenhuma foto é tirada.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Начать заново</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Пауза. Снимки не делаются.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

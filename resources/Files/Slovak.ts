@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Začať znova</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Pozastavené. Snímky sa nezhotovujú.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

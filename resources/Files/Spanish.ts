@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Reiniciar</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>En pausa. No se toman fotos.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

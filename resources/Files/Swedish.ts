@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Börja om</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Pausat. Inga foton tas.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

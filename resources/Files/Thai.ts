@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>เริ่มใหม่</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>หยุดชั่วคราว ไม่มี​การถ่ายภาพ</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

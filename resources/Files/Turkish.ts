@@ -15,6 +15,10 @@
         <source>Restart</source>
         <translation>Baştan başla</translation>
     </message>
+    <message>
+        <source>Paused. No photos are taken.</source>
+        <translation>Duraklatıldı. Fotoğraf çekilmiyor.</translation>
+    </message>
 </context>
 <context>
     <name>CorrectionReadout</name>

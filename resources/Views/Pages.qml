@@ -111,6 +111,7 @@ Item {
             shown: pages.paged && pages.step >= pages.states.starting && pages.step <= pages.states.found
             status: pages.status
             layout: pages.layout
+            paused: pages.covered
             onRestarted: pages.wanted(pages.states.reset)
             onHowToMoveWanted: howToMove.open()
         }

@@ -31,6 +31,7 @@ Window {
     signal toggleTutorialAnimation(bool on)
     signal switchToOOMColorSensor()
     signal switchToIMColorSensor()
+    signal pauseCapture(bool paused)
     signal userAskedToExit()
     signal quit()
     signal storeFirstCamera()
@@ -81,6 +82,9 @@ Window {
     property bool askedBeforeClosing: false
     readonly property bool tutorialShown: status.state === _state_RefiningTutorial && !status.foundShown && status.paged
     onTutorialShownChanged: toggleTutorialAnimation(tutorialShown)
+
+    readonly property bool capturePaused: pages.covered || !status.paged
+    onCapturePausedChanged: pauseCapture(capturePaused)
 
     function goTo(state) {
         status.state = state

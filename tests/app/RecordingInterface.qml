@@ -16,6 +16,7 @@ Window {
     signal toggleTutorialAnimation(bool on)
     signal switchToOOMColorSensor()
     signal switchToIMColorSensor()
+    signal pauseCapture(bool paused)
     signal userAskedToExit()
     signal quit()
     signal storeFirstCamera()

@@ -65,6 +65,33 @@ TEST_F(ActionsTest, LeavingAsksOnlyWhenSomethingWouldBeLost) {
     EXPECT_EQ(exits.size(), 7);
 }
 
+TEST_F(ActionsTest, TheCaptureIsPausedBehindEverythingThatCoversIt) {
+    QSignalSpy pauses(stage.window(), SIGNAL(pauseCapture(bool)));
+    const auto last = [&] { return pauses.isEmpty() ? QVariant() : pauses.last()[0]; };
+    stage.enter(7);
+    takePhoto();
+    EXPECT_EQ(last(), QVariant());
+    const std::pair<const char*, const char*> covers[] = {{"captureHowToMoveButton", "howToMoveCloseButton"},
+                                                          {"exitButton", "stayButton"}};
+    for (const auto& [open, close] : covers) {
+        stage.press(open);
+        EXPECT_EQ(last(), true) << open;
+        EXPECT_EQ(stage.find("movementText")->property("wanted"), "Paused. No photos are taken.");
+        stage.press(close);
+        EXPECT_EQ(last(), false) << close;
+    }
+    stage.tell("displayPlatformCameraIssue");
+    EXPECT_EQ(last(), true);
+
+    ViewsStage another;
+    QSignalSpy decision(another.window(), SIGNAL(pauseCapture(bool)));
+    another.tell("forceSingleCameraCalibration");
+    another.enter(10);
+    another.press("refinementContinueButton");
+    ASSERT_EQ(decision.size(), 1) << "from the decision on, not from when it is carried out";
+    EXPECT_EQ(decision[0][0], true);
+}
+
 TEST_F(ActionsTest, AWindowThatIsClosedAsksOnce) {
     stage.enter(7);
     takePhoto();

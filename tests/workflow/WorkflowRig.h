@@ -64,6 +64,7 @@ public:
 
     void stateChanged(State state) override { note(), states.push_back(state); }
     void framesReady(State state, ColourCamera, const FrameRecords&) override {
+        note(), ++frames;
         if (LogCapture::last("Emitter is ") == "Emitter is enabled.") note(), dotted.insert(state);
     }
     void lightMeasured(const LightGate::Reading& reading) override {
@@ -93,6 +94,7 @@ public:
     std::condition_variable changed;
     std::vector<State> states;
     std::size_t seen = 0;
+    int frames = 0;
     bool lit = false;
     int darkReadings = 0;
     int rearCameraIssues = 0;

@@ -129,6 +129,19 @@ TEST_F(WorkflowTest, ARestartDuringADecisionWins) {
     EXPECT_FALSE(workflow->records().estimated(kFirst));
 }
 
+TEST_F(WorkflowTest, NoPhotoIsTakenWhileTheCaptureIsPaused) {
+    start();
+    ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
+    workflow->pauseCapture(true);
+    workflow->requestState(State::StartingCalibration);
+    ASSERT_TRUE(user->waitFor(State::ProcessingFrame));
+    const int until = user->frames + 300;
+    ASSERT_TRUE(user->waitUntil([&] { return user->frames > until; }));
+    EXPECT_EQ(user->events, "");
+    workflow->pauseCapture(false);
+    EXPECT_TRUE(user->waitUntil([&] { return user->events.find('P') != std::string::npos; }));
+}
+
 TEST_F(WorkflowTest, AFailedSaveIsNotedAndToldAtTheNextStart) {
     start("commitCalibration:1:6");
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));

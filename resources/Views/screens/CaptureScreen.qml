@@ -5,6 +5,7 @@ import "../theme"
 
 PairPage {
     id: screen
+    property bool paused: false
     signal restarted()
     signal howToMoveWanted()
 
@@ -23,7 +24,7 @@ PairPage {
             Layout.preferredWidth: Theme.length(72)
             Layout.preferredHeight: Theme.length(72)
             visible: confirmation.running || instruction.text !== ""
-            drawing: confirmation.running ? "done" : screen.still ? "pause" : "move"
+            drawing: confirmation.running ? "done" : screen.still || screen.paused ? "pause" : "move"
         }
         ColumnLayout {
             spacing: 0
@@ -41,7 +42,7 @@ PairPage {
                     id: instruction
                     objectName: "movementText"
                     anchors.fill: parent
-                    wanted: screen.status.movementText
+                    wanted: screen.paused ? qsTr("Paused. No photos are taken.") : screen.status.movementText
                     opacity: confirmation.running ? 0 : 1
                     font.pixelSize: Theme.instructionSize
                     font.weight: Font.DemiBold
