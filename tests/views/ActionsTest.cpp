@@ -92,6 +92,31 @@ TEST_F(ActionsTest, TheCaptureIsPausedBehindEverythingThatCoversIt) {
     EXPECT_EQ(decision[0][0], true);
 }
 
+TEST_F(ActionsTest, TheLightNoticeWaitsForLastingDarknessAndForLastingLight) {
+    const auto comesAndGoes = [this](const char* atFirst, const char* then) {
+        for (int i = 0; i < 12; ++i) {
+            stage.tell(i % 2 == 0 ? atFirst : then);
+            QTest::qWait(50);
+        }
+    };
+    const char* const dark = "showReturnToAWellLitAreaPopup";
+    const char* const lit = "hideReturnToAWellLitAreaPopup";
+    stage.enter(7);
+    comesAndGoes(dark, lit);
+    EXPECT_FALSE(shown("returnToLightPopup"));
+    QElapsedTimer timer;
+    timer.start();
+    stage.tell(dark);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shown("returnToLightPopup"); }));
+    EXPECT_GE(timer.elapsed(), 290);
+    comesAndGoes(lit, dark);
+    EXPECT_TRUE(shown("returnToLightPopup"));
+    timer.start();
+    stage.tell(lit);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !shown("returnToLightPopup"); }));
+    EXPECT_GE(timer.elapsed(), 490);
+}
+
 TEST_F(ActionsTest, AWindowThatIsClosedAsksOnce) {
     stage.enter(7);
     takePhoto();

@@ -72,7 +72,11 @@ std::vector<Scene> story() {
              takePhotos(stage, 3);
              stage.tell("showMovementText", interfaceText("Move the device to capture a different calibration photo."));
          }},
-        {"light-lost", [](ViewsStage& stage) { stage.tell("showReturnToAWellLitAreaPopup"); }},
+        {"light-lost",
+         [](ViewsStage& stage) {
+             stage.tell("showReturnToAWellLitAreaPopup");
+             (void)QTest::qWaitFor([&] { return stage.find("returnToLightPopup")->isVisible(); });
+         }},
         {"leave-question",
          [](ViewsStage& stage) {
              stage.tell("hideReturnToAWellLitAreaPopup");

@@ -16,6 +16,20 @@ PairPage {
     }
     Timer { id: confirmation; interval: Theme.confirmation }
 
+    // Near the threshold the light comes and goes with every frame; its notice does not.
+    readonly property bool lightNeeded: status.lightNeeded
+    property bool lightNoticeShown: false
+    onLightNeededChanged: {
+        lightSettles.interval = lightNeeded ? Theme.untilDark : Theme.untilLit
+        lightSettles.restart()
+    }
+    onShownChanged: {
+        if (shown) return
+        lightSettles.stop()
+        lightNoticeShown = false
+    }
+    Timer { id: lightSettles; onTriggered: screen.lightNoticeShown = screen.lightNeeded }
+
     header: RowLayout {
         anchors.fill: parent
         anchors.rightMargin: screen.layout.exitSpace
@@ -110,6 +124,6 @@ PairPage {
     LightPopup {
         objectName: "returnToLightPopup"
         parent: screen
-        visible: screen.status.lightNeeded
+        visible: screen.lightNoticeShown
     }
 }

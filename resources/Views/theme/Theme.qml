@@ -44,6 +44,8 @@ QtObject {
     readonly property int calmly: 400
     readonly property int slowly: 1600
     readonly property int confirmation: 1500
+    readonly property int untilDark: 300  // darkness that lasts shorter is not told
+    readonly property int untilLit: 500   // light that lasts shorter does not end it
     readonly property int steady: 250  // an instruction that lasts shorter is not shown
 
     function length(atDesignSize) { return Math.round(atDesignSize * unit) }
