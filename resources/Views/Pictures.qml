@@ -57,20 +57,33 @@ Item {
         DepthColorOverlayRenderer { id: refinementView; objectName: "refinementView"; anchors.fill: parent }
         MouseArea {
             objectName: "refinementTouchArea"
+            property int fromX: 0
+            property int fromY: 0
             property int toldX: 0  // the signal for x comes for vertical movements, too
+            property bool dragging: false  // no longer a tap
             anchors.fill: parent
             enabled: pictures.refining
-            onPressed: {
-                toldX = mouse.x
-                pictures.touchDown(mouse.x, mouse.y)
+            function end(x, y) {
+                if (dragging) pictures.touchUp(x, y)
+                dragging = false
             }
-            onReleased: pictures.touchUp(mouse.x, mouse.y)
-            onCanceled: pictures.touchUp(toldX, 0)  // by the system, or by a page that came meanwhile
+            onPressed: {
+                dragging = false
+                fromX = toldX = Math.round(mouse.x)
+                fromY = Math.round(mouse.y)
+            }
+            onReleased: end(Math.round(mouse.x), Math.round(mouse.y))
+            onCanceled: end(toldX, 0)  // by the system, or by a page that came meanwhile
             onMouseXChanged: {
                 const x = Math.round(mouseX)
                 if (!pressed || x === toldX) return
+                if (!dragging) {
+                    if (Math.abs(x - fromX) < Theme.tapTravel) return
+                    dragging = true
+                    pictures.touchDown(fromX, fromY)  // from where it began: the picture stays under the finger
+                }
                 toldX = x
-                pictures.touchMove(x, mouseY)
+                pictures.touchMove(x, Math.round(mouseY))
             }
         }
     }

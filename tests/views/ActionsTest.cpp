@@ -231,21 +231,36 @@ TEST_F(ActionsTest, WithOneCameraTheFirstRefinementIsTheLast) {
     EXPECT_TRUE(rearCamera.isEmpty());
 }
 
-TEST_F(ActionsTest, TheFingerDragsWherePictureIsAndHoldsToCompare) {
+TEST_F(ActionsTest, TheFingerDragsWhereThePictureIsTapsForNothingAndHoldsToCompare) {
     QSignalSpy downs(stage.window(), SIGNAL(touchDown(int, int)));
     QSignalSpy moves(stage.window(), SIGNAL(touchMove(int, int)));
+    QSignalSpy ups(stage.window(), SIGNAL(touchUp(int, int)));
+    const auto send = [this](QEvent::Type type, double x, double y) {
+        const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+        const auto held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent event(type, {x, y}, button, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(stage.window(), &event);
+    };
     stage.enter(10);
     stage.press("foundContinueButton");
     QCoreApplication::processEvents();
-    QTest::mousePress(stage.window(), Qt::LeftButton, {}, {400, 400});
-    QTest::mouseMove(stage.window(), {400, 300});  // up only
+    send(QEvent::MouseButtonPress, 400, 400);
+    send(QEvent::MouseMove, 411, 405);
+    send(QEvent::MouseMove, 389, 395);
+    send(QEvent::MouseButtonRelease, 400, 400);
+    EXPECT_EQ(downs.size() + moves.size() + ups.size(), 0) << "a tap";
+    send(QEvent::MouseButtonPress, 400.6, 400);
+    send(QEvent::MouseMove, 400.6, 300);  // up only
     EXPECT_TRUE(moves.isEmpty());
-    QTest::mouseMove(stage.window(), {500, 300});
-    QTest::mouseRelease(stage.window(), Qt::LeftButton, {}, {500, 300});
+    send(QEvent::MouseMove, 500.6, 300);
+    send(QEvent::MouseMove, 405.6, 300);  // back to near where it began, as a drag may
+    send(QEvent::MouseButtonRelease, 405.6, 300);
     ASSERT_EQ(downs.size(), 1);
-    EXPECT_EQ(downs[0][0], 400);
-    ASSERT_EQ(moves.size(), 1);
-    EXPECT_EQ(moves[0][0], 500);
+    EXPECT_EQ(downs[0][0], 401);
+    ASSERT_EQ(moves.size(), 2);
+    EXPECT_EQ(moves[0][0], 501) << "rounded as the press is";
+    EXPECT_EQ(moves[1][0], 406);
+    EXPECT_EQ(ups.size(), 1);
 
     const auto* overlay = stage.window()->findChild<DepthColorOverlayRenderer*>("refinementView");
     const QQuickItem* button = stage.find("storedButton");

@@ -39,6 +39,7 @@ QtObject {
     readonly property real hairline: Math.max(1, length(2))
     readonly property int target: size(60, 48)  // of everything that is touched
     readonly property int bigTarget: size(76, 48)
+    readonly property int tapTravel: size(12, 12)  // a finger that moves less does not drag
 
     readonly property int briefly: 180
     readonly property int calmly: 400
