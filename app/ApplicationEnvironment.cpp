@@ -1,5 +1,7 @@
 #include "app/ApplicationEnvironment.h"
 
+#include "app/KeepAwake.h"
+
 #include <QMessageBox>
 
 namespace fieldcal {
@@ -9,6 +11,7 @@ ApplicationEnvironment systemApplicationEnvironment() {
     environment.workflow = systemWorkflowEnvironment();
     environment.language = systemLanguage();
     environment.update = systemUpdateEnvironment(QUrl(QStringLiteral(FIELDCAL_UPDATE_MANIFEST)));
+    environment.keepAwake = keepAwake;
     environment.showCritical = [](const QString& title, const QString& text) {
         QMessageBox::critical(nullptr, title, text, QMessageBox::Ok);
     };

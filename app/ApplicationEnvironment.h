@@ -21,6 +21,8 @@ struct ApplicationEnvironment {
     UpdateEnvironment update;
     /// Shows a message with its title and waits until the user has read it.
     std::function<void(const QString& title, const QString& text)> showCritical;
+    /// Keeps display and system on, or leaves them to the system again. Main thread.
+    std::function<void(bool on)> keepAwake;
     /// How long the user sees that the calibration is stored, before the program ends.
     std::chrono::milliseconds savedShownFor{2000};
 };

@@ -119,6 +119,7 @@ void GlobalManager::slot_stateChanged(int state) {
     const State next = static_cast<State>(state);
     const State before = workflow_.state();
     views_.showFor(next);
+    stayAwake(next != State::FirstOpened && next != State::ShowingIntroduction);
     if (next == State::DetectingLighting) {
         functions_.setLightingDialogText(interfaceText(texts::kDarkTitle), interfaceText(texts::kDark));
         lightingStopwatch_.restart();
@@ -129,6 +130,10 @@ void GlobalManager::slot_stateChanged(int state) {
     if (next != State::ProcessingFrame) functions_.hideReturnToAWellLitAreaPopup();
     qInfo("changing to state %d from state %d", state, static_cast<int>(before));
     workflow_.requestState(next);
+}
+
+void GlobalManager::stayAwake(bool on) {
+    if (std::exchange(awake_, on) != on) environment_.keepAwake(on);
 }
 
 void GlobalManager::slot_displayMovementText(const QString& text) {

@@ -82,6 +82,9 @@ private:
     void connectSignals();
     void switchCamera(ColourCamera camera, const char* description, const char* instruction);
 
+    /// Nobody touches the screen while photos are taken or the picture is looked at.
+    void stayAwake(bool on);
+
     // GlobalManagerEnding.cpp
     bool beginEnding();
     void saveAndQuit(Storing storing);
@@ -105,6 +108,7 @@ private:
     QQuickWindow* window_ = nullptr;
     QElapsedTimer lightingStopwatch_;
     std::unique_ptr<ProcessingThread> thread_;
+    bool awake_ = false;
     bool ending_ = false;
     bool failed_ = false;  ///< an error has been shown, and the program is to end
     int exitCode_ = 0;

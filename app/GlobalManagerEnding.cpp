@@ -50,6 +50,7 @@ void GlobalManager::slot_getKXAPIErrorAndQuit(const QString& message) {
     if (!storable) beginEnding();
     endProcessing(storable ? Stop::ToSave : Stop::ToLeave);
     updates_.release();  // nothing may be installed while the message waits for its reader
+    if (!storable) stayAwake(false);
     environment_.showCritical(kErrorTitle, message);
     if (storable) {
         functions_.offerFirstCamera();
@@ -78,11 +79,13 @@ void GlobalManager::closeCamera() {
     endProcessing(Stop::ToLeave);
     workflow_.leave();
     updates_.release();
+    stayAwake(false);
 }
 
 bool GlobalManager::finishEnding(const char* who, const LeaveReport& report) {
     qInfo("%s - cleaning up resources", who);
     updates_.release();
+    stayAwake(false);
     if (report.closingErrors.isEmpty()) return true;
     exitCode_ = 1;
     environment_.showCritical(kErrorTitle, report.closingErrors.join('\n'));

@@ -47,6 +47,8 @@ protected:
         environment.showCritical = [this](const QString& title, const QString& text) {
             boxes.push_back((title + ": " + text).toStdString());
         };
+        awake.clear();
+        environment.keepAwake = [this](bool on) { awake.push_back(on); };
         environment.savedShownFor = std::chrono::milliseconds(300);
         if (change) change(environment);
         manager = std::make_unique<GlobalManager>(argc, argv, environment);
@@ -130,6 +132,7 @@ protected:
     FakeServiceControl control;
     std::unique_ptr<PXMServiceManager> services;
     std::vector<std::string> boxes;
+    std::vector<bool> awake;  ///< each time that the system was told
     std::unique_ptr<GlobalManager> manager;
 };
 

@@ -52,6 +52,10 @@ protected:
         if (state != State::RefiningTutorial && state != State::ShowingIntroduction) goTo(state);
         QTest::qWait(30);
     }
+    /// From the light check on, and not beyond the end.
+    static std::vector<bool> awakeUpTo(State state) {
+        return state < State::DetectingLighting ? std::vector<bool>() : std::vector<bool>{true, false};
+    }
     static std::vector<State> statesToLeave() {
         return {State::FirstOpened,        State::ShowingIntroduction, State::DetectingLighting,
                 State::WaitingToCalibrate, State::StartingCalibration, State::RefiningTutorial,
@@ -77,6 +81,7 @@ TEST_F(EndingTest, AnErrorInTheSecondCameraLeavesTheFirstToBeStoredAsItWasDragge
     const qint64 milliseconds = runUntilEnd([this] {
         manager->bridge().deviceError("The camera is gone.");
         ASSERT_TRUE(waitFor("offerFirstCamera"));
+        EXPECT_THAT(awake, ElementsAre(true)) << "the first camera may still be lost";
         manager->bridge().deviceError("Another one.");
         press("storeFirstCamera");
         EXPECT_EQ(calls().back(), kSaved);
@@ -89,6 +94,7 @@ TEST_F(EndingTest, AnErrorInTheSecondCameraLeavesTheFirstToBeStoredAsItWasDragge
     EXPECT_EQ(manager->exitCode(), 1);
     EXPECT_THAT(boxes, ElementsAre("KXAPI ERROR: The camera is gone."));
     EXPECT_EQ(control.startType, 2U);
+    EXPECT_THAT(awake, ElementsAre(true, false));
 
     start();
     openCamera();
@@ -122,6 +128,7 @@ TEST_F(EndingTest, EveryStateIsLeftWithinASecondAndWithoutAWrite) {
             const auto leave = [&] { closedBySystem ? (void)manager->window()->close() : press("userAskedToExit"); };
             EXPECT_LT(runUntilEnd(leave), 1000) << static_cast<int>(state);
             EXPECT_EQ(manager->exitCode(), 0);
+            EXPECT_EQ(awake, awakeUpTo(state)) << static_cast<int>(state);
             QElapsedTimer timer;
             timer.start();
             manager.reset();
@@ -143,6 +150,7 @@ TEST_F(EndingTest, EveryStateIsLeftWithinASecondAndWithoutAWrite) {
         QMetaObject::invokeMethod(manager.get(), "aboutToQuit", Qt::DirectConnection);
         EXPECT_LT(timer.elapsed(), 1000) << static_cast<int>(state);
         EXPECT_EQ(control.startType, 2U) << "the camera is handed back";
+        EXPECT_EQ(awake, awakeUpTo(state)) << static_cast<int>(state);
     }
     EXPECT_FALSE(QDir(dataFolder() + "/backups").exists());
 }
@@ -159,6 +167,7 @@ TEST_F(EndingTest, AnErrorOfTheLibraryShowsOneBoxAndEndsWithOneInEveryState) {
         EXPECT_THAT(boxes, ElementsAre("KXAPI ERROR: The camera is gone."));
         EXPECT_EQ(manager->exitCode(), 1);
         EXPECT_EQ(control.startType, 2U);
+        EXPECT_EQ(awake, awakeUpTo(state)) << static_cast<int>(state);
     }
     start("grab:40:7");
     runUntilEnd([] {});
