@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QThread>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace fieldcal::demonstration {
@@ -30,10 +31,16 @@ int residentMegabytes(qint64 process) {
 bool round(WalkThrough* user) {
     const auto pressReturn = [user] { user->hand().press(Key::Return); };
     const QSize screen = QGuiApplication::primaryScreen()->size();
-    const auto restart = [&] {  // its button stands in the lower left corner
-        user->hand().moveTo(60, screen.height() - 55);
+    const auto press = [&](int x, int y) {
+        user->hand().moveTo(x, y);
         user->hand().buttonDown();
         user->hand().buttonUp();
+    };
+    const auto restart = [&] {  // its button stands in the lower left corner, the one that confirms left of the middle
+        const double unit = std::min(screen.width() / 1280.0, screen.height() / 800.0);
+        press(60, screen.height() - 55);
+        user->settle();
+        press(screen.width() / 2 - static_cast<int>(190 * unit), screen.height() / 2 + static_cast<int>(96 * unit));
     };
     const int found = user->waitForOne({"changing qml to state 9", "changing qml to state 5"}, kCaptureMs);
     if (found == 1) return user->actUntil("changing to state 6", pressReturn);

@@ -453,6 +453,15 @@ Pokračuje se automaticky. Dosud pořízené snímky se počítají.</translatio
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>Začít znovu?
+Snímky a dosavadní výsledek budou ztraceny.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

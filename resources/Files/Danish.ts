@@ -453,6 +453,15 @@ Det fortsætter automatisk. De fotos, der er taget, tæller med.</translation>
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>Vil du starte forfra?
+Fotoene og resultatet indtil nu går tabt.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

@@ -453,6 +453,15 @@ Het gaat vanzelf verder. De foto’s tot nu toe tellen mee.</translation>
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>Opnieuw beginnen?
+De foto’s en het resultaat tot nu toe gaan verloren.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

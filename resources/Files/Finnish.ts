@@ -453,6 +453,15 @@ Toiminta jatkuu automaattisesti. Jo otetut kuvat lasketaan.</translation>
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>Aloitetaanko alusta?
+Kuvat ja tähänastinen tulos menetetään.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

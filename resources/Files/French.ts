@@ -453,6 +453,15 @@ La suite est automatique. Les photos déjà prises comptent.</translation>
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>Recommencer&#xa0;?
+Les photos et le résultat obtenu seront perdus.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

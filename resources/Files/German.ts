@@ -453,6 +453,15 @@ Es geht von selbst weiter. Die bisherigen Fotos zählen.</translation>
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>Neu beginnen?
+Die Fotos und das bisherige Ergebnis gehen verloren.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

@@ -453,6 +453,15 @@ Si prosegue automaticamente. Le foto già scattate contano.</translation>
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>Ricominciare?
+Le foto e il risultato ottenuto finora andranno persi.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

@@ -453,6 +453,15 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>다시 시작하시겠습니까?
+사진과 지금까지의 결과가 사라집니다.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

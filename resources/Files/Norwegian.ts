@@ -453,6 +453,15 @@ Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>Vil du starte på nytt?
+Bildene og resultatet så langt går tapt.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

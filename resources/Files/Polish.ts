@@ -453,6 +453,15 @@ Praca będzie kontynuowana automatycznie. Wykonane zdjęcia się liczą.</transl
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>Zacząć od nowa?
+Zdjęcia i dotychczasowy wynik zostaną utracone.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

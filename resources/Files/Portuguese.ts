@@ -453,6 +453,15 @@ Continua automaticamente. As fotografias já tiradas contam.</translation>
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>Recomeçar?
+As fotografias e o resultado obtido até agora serão perdidos.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

@@ -453,6 +453,15 @@ Pokračuje sa automaticky. Doteraz zhotovené snímky sa počítajú.</translati
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>Začať znova?
+Snímky a doterajší výsledok sa stratia.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

@@ -453,6 +453,15 @@ Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>¿Empezar de nuevo?
+Se perderán las fotos y lo encontrado hasta ahora.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

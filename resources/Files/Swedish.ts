@@ -453,6 +453,15 @@ Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
     </message>
 </context>
 <context>
+    <name>RestartQuestion</name>
+    <message>
+        <source>Start over?
+The photos and what was found so far would be lost.</source>
+        <translation>Vill du börja om?
+Fotona och resultatet hittills går förlorade.</translation>
+    </message>
+</context>
+<context>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>

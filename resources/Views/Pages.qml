@@ -24,7 +24,8 @@ Item {
     readonly property bool paged: status.paged
     readonly property var screens: [opening, introduction, lighting, start, capture, found, tutorial, refinement, saving,
                                     missingDevice, missingRearCamera, rearCameraTrouble]
-    readonly property bool covered: howToMove.visible || leaveQuestion.visible || updateNotice.visible
+    readonly property bool covered: howToMove.visible || leaveQuestion.visible || restartQuestion.visible
+                                    || updateNotice.visible
 
     function confirmPhoto() { capture.confirmPhoto() }
     function askToLeave() { leaveQuestion.visible = true }
@@ -33,7 +34,15 @@ Item {
         function onNoticeChanged() {  // nothing may lie on top of it
             howToMove.visible = false
             leaveQuestion.visible = false
+            restartQuestion.visible = false
         }
+        function onStateChanged() {  // the attempt has ended by itself: there is nothing left to ask about
+            if (pages.status.state <= pages.states.waiting) restartQuestion.visible = false
+        }
+    }
+    function restart() {
+        if (status.photoCount > 0 || status.state >= states.found) restartQuestion.visible = true
+        else wanted(states.reset)
     }
     function leave() {
         if (status.somethingToLose) askToLeave()
@@ -47,12 +56,14 @@ Item {
     function pressMainButton() {
         const page = updateNotice.visible ? updateNotice
                    : leaveQuestion.visible ? leaveQuestion
+                   : restartQuestion.visible ? restartQuestion
                    : howToMove.visible ? howToMove : screens.find(screen => screen.shown)
         if (page && page.mainButton && page.mainButton.visible) page.mainButton.clicked()
     }
     function goBack() {
         if (updateNotice.visible) updateNotice.close()
         else if (leaveQuestion.visible) leaveQuestion.stay()
+        else if (restartQuestion.visible) restartQuestion.visible = false
         else if (howToMove.visible) howToMove.visible = false
         else leave()
     }
@@ -112,7 +123,7 @@ Item {
             status: pages.status
             layout: pages.layout
             paused: pages.covered
-            onRestarted: pages.wanted(pages.states.reset)
+            onRestarted: pages.restart()
             onHowToMoveWanted: howToMove.open()
         }
         FoundScreen {
@@ -140,7 +151,7 @@ Item {
             layout: pages.layout
             overlay: pages.overlay
             onContinued: pages.accepted()
-            onRestarted: pages.wanted(pages.states.reset)
+            onRestarted: pages.restart()
         }
         SavingScreen {
             id: saving
@@ -195,6 +206,11 @@ Item {
         }
     }
     HowToMove { id: howToMove; anchors.fill: parent }
+    RestartQuestion {
+        id: restartQuestion
+        anchors.fill: parent
+        onConfirmed: pages.wanted(pages.states.reset)
+    }
     LeaveQuestion {
         id: leaveQuestion
         anchors.fill: parent

@@ -56,13 +56,41 @@ TEST_F(ActionsTest, LeavingAsksOnlyWhenSomethingWouldBeLost) {
     EXPECT_EQ(exits.size(), 6);
 
     stage.press("stayButton");
-    stage.press("captureRestartButton");  // gives the photos up
+    stage.press("captureRestartButton");
+    stage.press("restartConfirmButton");  // gives the photos up
     stage.press("exitButton");
     EXPECT_EQ(exits.size(), 7);
     stage.enter(9);
     stage.press("exitButton");
     EXPECT_TRUE(shown("leaveQuestion"));
     EXPECT_EQ(exits.size(), 7);
+}
+
+TEST_F(ActionsTest, ARestartAsksBeforeItDiscardsPhotos) {
+    stage.enter(7);
+    stage.press("captureRestartButton");
+    ASSERT_EQ(states.size(), 1) << "there is nothing to lose";
+    EXPECT_EQ(states[0][0], 3);
+    stage.enter(7);
+    takePhoto();
+    stage.press("captureRestartButton");
+    EXPECT_TRUE(shown("restartQuestion"));
+    pressReturn();  // stays
+    EXPECT_FALSE(shown("restartQuestion"));
+    stage.press("captureRestartButton");
+    stage.enter(5);
+    EXPECT_FALSE(shown("restartQuestion")) << "the attempt failed meanwhile";
+    stage.enter(10);
+    stage.press("foundContinueButton");
+    stage.press("refinementRestartButton");
+    QTest::keyClick(stage.window(), Qt::Key_Escape);
+    EXPECT_FALSE(shown("restartQuestion"));
+    EXPECT_EQ(states.size(), 1);
+    stage.press("refinementRestartButton");
+    stage.press("restartConfirmButton");
+    ASSERT_EQ(states.size(), 2);
+    EXPECT_EQ(states[1][0], 3);
+    EXPECT_FALSE(shown("restartQuestion"));
 }
 
 TEST_F(ActionsTest, TheCaptureIsPausedBehindEverythingThatCoversIt) {
@@ -72,6 +100,7 @@ TEST_F(ActionsTest, TheCaptureIsPausedBehindEverythingThatCoversIt) {
     takePhoto();
     EXPECT_EQ(last(), QVariant());
     const std::pair<const char*, const char*> covers[] = {{"captureHowToMoveButton", "howToMoveCloseButton"},
+                                                          {"captureRestartButton", "restartStayButton"},
                                                           {"exitButton", "stayButton"}};
     for (const auto& [open, close] : covers) {
         stage.press(open);

@@ -82,9 +82,13 @@ std::vector<Scene> story() {
              stage.tell("hideReturnToAWellLitAreaPopup");
              stage.press("exitButton");
          }},
-        {"start-again",
+        {"restart-question",
          [](ViewsStage& stage) {
              stage.press("stayButton");
+             stage.press("captureRestartButton");
+         }},
+        {"start-again",
+         [](ViewsStage& stage) {
              stage.tell("showCalibrationStartupText",
                         interfaceText(
                             "Calibration isn't working because the scenery in these photos is too simple.\nLet's try "
