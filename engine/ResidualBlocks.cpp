@@ -18,21 +18,20 @@ namespace {
 constexpr std::size_t kMinimumOfBlock = 10;
 constexpr std::size_t kMinimumBlocks = 4;
 /// Below this, a departure is taken to be real: six of them are looked at in every calibration.
-constexpr double kImprobable = 1e-4;
+constexpr double kImprobable = 1e-5;
 
-/// The unknowns of each departure, and the deviation that scenes without it show beyond what the blocks tell: distances
-/// that are off a little look like a translation.
-struct DepartureUnknowns {
-    int first, count;
-    double floor;
-};
+constexpr double kLeastScaleDoubt = 0.02;
+constexpr int kTranslation = 7;  ///< the first of its unknowns
+
+/// The unknowns of each departure, and the deviation that scenes without it show beyond what the blocks tell. Shade,
+/// foliage and distances that are off a little bend an image by a tenth of a pixel or two.
 constexpr std::array<DepartureUnknowns, kModelDepartureCount> kDepartures{{
-    {3, 1, 0.0},     // focal length, as a share of it
-    {4, 2, 0.0},     // principal point, pixels
-    {6, 1, 0.0},     // distortion, k1
-    {7, 3, 0.0006},  // translation, metres
-    {10, 2, 0.0},    // rolling shear, pixels from top to bottom
-    {12, 3, 0.0},    // second rotation, radians
+    {3, 1, 5e-4},             // focal length, as a share of it
+    {4, 2, 0.4},              // principal point, pixels
+    {6, 1, 1e-3},             // distortion, k1
+    {kTranslation, 3, 0.03},  // translation: pixels that it moves things by, in the mean
+    {10, 2, 0.15},            // rolling shear, pixels from top to bottom
+    {12, 3, 1.5e-4}           // second rotation, radians
 }};
 
 /// That a chi-squared variable with 1, 2 or 3 degrees of freedom exceeds a Wald statistic.
@@ -94,6 +93,8 @@ void ResidualBlocks::addStill(const std::vector<MeasuredMatch>& matches) {
         block.normal += at.weight * at.weight * j.transpose() * term.information * j;
         block.gradient += at.weight * j.transpose() * term.information * at.residualPx;
         ++block.matches;
+        ++matches_;
+        squaredPixelsPerMetre_ += (at.pixelsPerPoint.leftCols<2>() * term.inverseDepth).squaredNorm() / 2;
     }
     Block still;
     for (const Block& block : quarters) {
@@ -149,6 +150,18 @@ Eigen::Vector3d ResidualBlocks::deviationRad() const {
     return ofQuarters.cwiseMax(estimate({0, 1, 2}, stills_).covariance.diagonal().cwiseSqrt());
 }
 
+/// Pixels per metre of a translation, root mean square over the matches; 1 for unknowns whose floor has their own unit.
+double ResidualBlocks::floorUnit(const DepartureUnknowns& unknowns) const {
+    if (unknowns.first != kTranslation) return 1;
+    return std::max(std::sqrt(squaredPixelsPerMetre_ / static_cast<double>(std::max<std::size_t>(matches_, 1))), 1e-3);
+}
+
+/// Distances that are all off by a share look like a longer or shorter translation.
+double ResidualBlocks::scaleDoubtM() const {
+    const double ofScale = options_.scale != nullptr ? options_.scale->relativeDeviation : 0;
+    return std::max(ofScale, kLeastScaleDoubt) * projection_.translationM.norm();
+}
+
 ModelCheck ResidualBlocks::checkModel() const {
     ModelCheck check;
     if (quarters_.size() < kMinimumBlocks) return check;
@@ -160,7 +173,8 @@ ModelCheck ResidualBlocks::checkModel() const {
         const Estimate estimated = estimate(unknowns, quarters_);
         const Eigen::VectorXd value = estimated.value.tail(own.count);
         Eigen::MatrixXd covariance = estimated.covariance.bottomRightCorner(own.count, own.count);
-        covariance.diagonal().array() += own.floor * own.floor;
+        const double floor = std::hypot(own.floor / floorUnit(own), own.first == kTranslation ? scaleDoubtM() : 0);
+        covariance.diagonal().array() += floor * floor;
         check.probability[i] = probabilityAbove(value.dot(covariance.ldlt().solve(value)), own.count);
     }
     return check;

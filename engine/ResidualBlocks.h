@@ -9,6 +9,12 @@
 
 namespace vq {
 
+/// Where the unknowns of a departure stand among all, and the least deviation that is granted to them.
+struct DepartureUnknowns {
+    int first, count;
+    double floor;
+};
+
 /// What a fit leaves over, in blocks of matches that share what disturbs them: those of one still in one quarter of
 /// the infrared image.
 ///
@@ -46,6 +52,8 @@ private:
         Eigen::MatrixXd covariance;
     };
 
+    double scaleDoubtM() const;
+    double floorUnit(const DepartureUnknowns& unknowns) const;
     std::size_t quarterOf(const cv::Point2f& infrared) const;
     Eigen::Matrix<double, 2, kUnknowns> jacobian(const struct EvaluatedTerm& at, double inverseDepth) const;
     Estimate estimate(const std::vector<int>& unknowns, const std::vector<Block>& blocks) const;
@@ -55,6 +63,8 @@ private:
     const FitOptions& options_;
     std::vector<Block> quarters_;
     std::vector<Block> stills_;
+    std::size_t matches_ = 0;
+    double squaredPixelsPerMetre_ = 0;  ///< of a translation across the view, summed over the matches
 };
 
 }  // namespace vq

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "devices/RotationComposition.h"
+#include "camera/Rotation.h"
 #include "engine/SolutionQuality.h"
 
 #include <array>
