@@ -135,7 +135,7 @@ TEST(ModelCheck, TellsARotationFromAChangedLensAndATranslation) {
          }},
         {ModelDeparture::Translation,
          [&](const Vector& p, const Vector&, double inverseDepth) {
-             return Vector(p + Vector(0, colour.fy * 0.003 * inverseDepth));
+             return Vector(p + Vector(0, colour.fy * 0.01 * inverseDepth));
          }},
         {ModelDeparture::RollingShear,
          [&](const Vector& p, const Vector& n, double) { return Vector(p + Vector(2 * n.y(), 0)); }},
