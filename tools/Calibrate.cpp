@@ -4,8 +4,7 @@
 #include "tools/CommandLine.h"
 #include "tools/Console.h"
 #include "tools/RecordingCalibration.h"
-
-#include <QFile>
+#include "tools/ResultFile.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -13,12 +12,6 @@
 
 namespace fieldcal {
 namespace {
-
-bool writeJson(const QString& path, const QByteArray& json) {
-    QFile file(path);
-    const bool opened = path == "-" ? file.open(stdout, QIODevice::WriteOnly) : file.open(QIODevice::WriteOnly);
-    return opened && file.write(json) == json.size() && file.flush();
-}
 
 /// The report of a solution; true when there is none.
 bool writeReportFile(const std::string& path, const RecordingCalibration& calibration, QString* why) {
@@ -30,38 +23,39 @@ bool writeReportFile(const std::string& path, const RecordingCalibration& calibr
 
 int run(const CalibrateOptions& options) {
     if (!options.verbose) silenceLogs();
+    const unsigned seed = options.seed ? *options.seed : std::random_device{}();
+    const QString folder = QString::fromStdString(options.folder);
+    ResultFile result(QString::fromStdString(options.jsonFile), folder, options.platformCamera, seed);
     session::SessionDescription session;
     std::string reason;
     if (!session::readDescription(options.folder, &session, &reason) || !session::verify(options.folder, &reason)) {
-        return fail(QString::fromStdString(reason));
+        return result.fail(QString::fromStdString(reason));
     }
     if (options.platformCamera && !session.platform) return refuseUsage("the recording has no platform camera");
+    result.describe(cameraPair(session, options.platformCamera));
 
     // Only the simulated library plays recordings; the pictures of a real camera would be taken for the recording's.
-    if (!useSimulatedLibraries()) return fail("The folder with the simulated libraries is missing.");
-    std::srand(options.seed ? *options.seed : std::random_device{}());
-    const bool toPeople = options.jsonFile != "-";
+    if (!useSimulatedLibraries()) return result.fail("The folder with the simulated libraries is missing.");
+    std::srand(seed);
+    const bool toPeople = !result.toStandardOutput();
     RecordingCalibration calibration(options.folder, session, options.platformCamera, toPeople ? printLine : nullptr);
     calibration.setWriting(options.write);
     calibration.useMemory(BaselineMemory(userDataFolder()));
     QString why;
+    const CalibrationReport& report = calibration.report();
     const bool done = calibration.run(&why);
     // Also of a rotation that could not be written into the module.
-    if (calibration.report().written) appendHistory(userDataFolder(), calibration.serviceReport());
+    if (report.written) appendHistory(userDataFolder(), calibration.serviceReport());
     QString reportWhy;
     const bool reported = writeReportFile(options.reportFile, calibration, &reportWhy);
-    if (!done) return fail(why);
-    if (!reported) return fail(reportWhy);
+    if (!done) return result.fail(why, &report);
+    if (!reported) return result.fail(reportWhy, &report);
     if (!options.stateFile.empty() && !calibration.engineState().writeToFile(options.stateFile)) {
-        return fail(QString::fromStdString(options.stateFile) + ": cannot be written");
+        return result.fail(QString::fromStdString(options.stateFile) + ": cannot be written", &report);
     }
 
-    const CalibrationReport& report = calibration.report();
     if (toPeople) std::printf("%s", qPrintable(reportText(report)));
-    const QString jsonFile = QString::fromStdString(options.jsonFile);
-    if (!jsonFile.isEmpty() && !writeJson(jsonFile, reportJson(report))) {
-        return fail(jsonFile + ": cannot be written");
-    }
+    if (!result.write(report, &why)) return fail(why);
     return report.solved ? kSolved : kNotSolved;
 }
 

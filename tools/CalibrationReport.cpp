@@ -1,7 +1,6 @@
 #include "tools/CalibrationReport.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QStringList>
 
@@ -142,7 +141,7 @@ double rotationDifferenceDeg(const Matrix3& a, const Matrix3& b) {
     return std::atan2(sine, cosine) * 57.29577951308232;
 }
 
-QByteArray reportJson(const CalibrationReport& report) {
+QJsonObject reportJson(const CalibrationReport& report) {
     QJsonArray perPair;
     for (const PairReport& pair : report.pairs)
         perPair.append(jsonPair(pair));
@@ -163,7 +162,7 @@ QByteArray reportJson(const CalibrationReport& report) {
     if (report.quality && report.quality->proof) object.insert("proof", jsonProof(*report.quality->proof));
     if (report.quality) object.insert("model", jsonModel(report.quality->model));
     if (report.written) object.insert("written", *report.written);
-    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+    return object;
 }
 
 QString reportText(const CalibrationReport& report) {

@@ -4,6 +4,7 @@
 #include "engine/ParallaxReport.h"
 #include "engine/SolutionQuality.h"
 
+#include <QJsonObject>
 #include <QString>
 
 #include <array>
@@ -47,7 +48,7 @@ struct CalibrationReport {
 /// Returns the rotation angle of a · bᵀ in degrees.
 double rotationDifferenceDeg(const Matrix3& a, const Matrix3& b);
 
-QByteArray reportJson(const CalibrationReport& report);
+QJsonObject reportJson(const CalibrationReport& report);
 QString reportText(const CalibrationReport& report);
 
 }  // namespace fieldcal

@@ -78,6 +78,9 @@ TEST_F(FlashToolTest, AFailedWriteSaysWhatTheFlashHolds) {
     EXPECT_EQ(failed.errorLines(), 1);
     EXPECT_TRUE(failed.error.endsWith("before proceeding. (The camera's flash holds the previous calibration.)\n"))
         << failed.error.constData();
+    const QJsonObject json = failed.json();
+    EXPECT_TRUE(json["solved"].toBool() && !json["written"].toBool(true));
+    EXPECT_EQ(json["error"].toString() + '\n', QString(failed.error));
     EXPECT_EQ(info(), before);
 }
 

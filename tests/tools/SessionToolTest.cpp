@@ -1,5 +1,6 @@
 #include "tests/tools/SessionTool.h"
 
+#include <QDateTime>
 #include <QDirIterator>
 
 #include <cmath>
@@ -131,6 +132,39 @@ TEST_F(SessionToolTest, AReportTellsTheSolutionAndOneThatCannotBeWrittenFails) {
     EXPECT_EQ(failed.errorLines(), 1);
     EXPECT_TRUE(failed.error.contains(nowhere.toUtf8())) << failed.error.constData();
     EXPECT_EQ(calibrate(nightRecording(), nowhere).status, 3) << "without a solution there is no report";
+}
+
+TEST_F(SessionToolTest, ResultsTellWhatTheyAreMadeFromAndFailuresWhy) {
+    const QString file = path("result.json");
+    const QDateTime start = QDateTime::currentDateTimeUtc().addSecs(-1);
+    ASSERT_EQ(run({"calibrate", recording() + "/.", "--json", file}).status, 0);
+    const auto read = [&file] {
+        QFile result(file);
+        EXPECT_TRUE(result.open(QIODevice::ReadOnly));
+        return QJsonDocument::fromJson(result.readAll()).object();
+    };
+    const QJsonObject solved = read();
+    EXPECT_EQ(solved["schema"].toInt(), 1);
+    EXPECT_EQ(solved["program"].toString(), FIELDCAL_VERSION);
+    EXPECT_EQ(solved["serial"].toInt(), 700010);
+    EXPECT_EQ(solved["recording"].toString(), QDir(recording()).absolutePath());
+    const QDateTime time = QDateTime::fromString(solved["time"].toString(), Qt::ISODate);
+    EXPECT_TRUE(time.timeSpec() == Qt::UTC && time >= start && time <= QDateTime::currentDateTimeUtc());
+    const QString seed = QString::number(solved["seed"].toDouble(), 'f', 0);
+    EXPECT_EQ(run({"calibrate", recording(), "--seed", seed, "--json", "-"}).json()["rotation"], solved["rotation"]);
+
+    const Result failed =
+        run({"calibrate", recording(), "--seed", "5", "--json", file}, {{"FAULTS", "openDevice:1:5"}});
+    EXPECT_EQ(failed.status, 1);
+    const QJsonObject failure = read();
+    EXPECT_EQ(failure["error"].toString() + '\n', QString(failed.error));
+    EXPECT_FALSE(failure["solved"].toBool(true));
+    EXPECT_EQ(failure["serial"], solved["serial"]);
+    EXPECT_EQ(failure["seed"].toInt(), 5);
+    const Result nowhere = run({"calibrate", path("nowhere"), "--json", "-"});
+    EXPECT_EQ(nowhere.json()["error"].toString() + '\n', QString(nowhere.error));
+    EXPECT_FALSE(nowhere.json().contains("serial"));
+    EXPECT_EQ(run({"calibrate", nightRecording(), "--json", path("nowhere") + "/result.json"}).status, 1);
 }
 
 TEST_F(SessionToolTest, DeviceFailuresEndWithOneLineAndStatusOne) {
