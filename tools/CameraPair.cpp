@@ -5,9 +5,9 @@
 #include "tools/ResultFile.h"
 
 #include <QJsonArray>
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 
 namespace fieldcal {
 namespace {

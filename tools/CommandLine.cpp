@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <limits>
+#include <map>
 
 namespace fieldcal {
 namespace {
@@ -31,6 +32,16 @@ std::string isCamera(const std::string& name) {
     return name == "third" || name == "platform" ? "" : "takes third or platform";
 }
 
+const std::map<std::string, ExportFormat> kFormats{{"ros", ExportFormat::Ros},
+                                                   {"tf", ExportFormat::Tf},
+                                                   {"urdf", ExportFormat::Urdf},
+                                                   {"opencv", ExportFormat::OpenCv},
+                                                   {"kalibr", ExportFormat::Kalibr}};
+
+std::string isFormat(const std::string& name) {
+    return kFormats.count(name) > 0 ? "" : "takes ros, tf, urdf, opencv or kalibr";
+}
+
 std::string isGiven(const std::string& name) {
     return name.empty() ? "is missing" : "";
 }
@@ -53,6 +64,7 @@ public:
         addInfo();
         addBackup();
         addRestore();
+        addExport();
     }
 
     /// Returns false, and the exit status, when there is no command to run.
@@ -158,6 +170,27 @@ private:
         verb->add_option("FILE", restore_.file, "The file")->required()->check(isGiven)->type_name("");
     }
 
+    void addExport() {
+        CLI::App* verb = addVerb("export", "Write a calibration as a file for other programs", export_);
+        verb->add_option("SOURCE", export_.source,
+                         "A recording, a result of calibrate --json, or 'module' for the one that is connected")
+            ->required()
+            ->check(isGiven)
+            ->type_name("");
+        const auto takeFormat = [this](const std::string& name) { export_.format = kFormats.at(name); };
+        lastCounts(verb->add_option_function<std::string>("--format", takeFormat, "The format of the file"))
+            ->required()
+            ->check(isFormat)
+            ->type_name("ros|tf|urdf|opencv|kalibr");
+        const auto takeCamera = [this](const std::string& name) { export_.platformCamera = name == "platform"; };
+        lastCounts(verb->add_option_function<std::string>("--camera", takeCamera, "That of a result, or third"))
+            ->check(isCamera)
+            ->type_name("third|platform");
+        lastCounts(verb->add_option("--out", export_.outFile, "The file; standard output without it"))
+            ->check(isGiven)
+            ->type_name("FILE|-");
+    }
+
     /// The help of the verb that was named, or of the program.
     std::string help() const { return app_.help(); }
 
@@ -165,7 +198,8 @@ private:
         const std::vector<CLI::App*> verbs = app_.get_subcommands();
         const std::vector<std::string> extras = verbs.empty() ? app_.remaining() : verbs.front()->remaining();
         if (verbs.empty()) return extras.empty() ? "a verb is missing" : "unknown verb '" + extras.front() + "'";
-        const std::string noun = verbs.front()->get_option_no_throw("DIR") != nullptr ? "folder" : "file";
+        const auto takes = [&verbs](const char* name) { return verbs.front()->get_option_no_throw(name) != nullptr; };
+        const std::string noun = takes("DIR") ? "folder" : takes("SOURCE") ? "source" : "file";
         if (!extras.empty()) {
             const std::string& extra = extras.front();
             const bool isOption = extra.size() > 1 && extra.front() == '-';
@@ -175,7 +209,8 @@ private:
         std::string text = error.what();
         const std::size_t end = std::min(text.find_first_of(": "), text.size());
         const std::string option = text.substr(0, end);
-        const std::string name = option == "DIR" || option == "FILE" ? "a " + noun : option;
+        const bool isPositional = option == "DIR" || option == "FILE" || option == "SOURCE";
+        const std::string name = isPositional ? "a " + noun : option;
         if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return name + " is missing";
         if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return name + " needs a value";
         if (dynamic_cast<const CLI::ValidationError*>(&error) != nullptr) return name + text.substr(end + 1);
@@ -189,6 +224,7 @@ private:
     InfoOptions info_;
     BackupOptions backup_;
     RestoreOptions restore_;
+    ExportOptions export_;
     Command command_;
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tools/ExportFormats.h"
+
 #include <QStringList>
 
 #include <optional>
@@ -53,8 +55,15 @@ struct RestoreOptions {
     std::string file;
 };
 
-using Command =
-    std::variant<CalibrateOptions, SynthesizeOptions, RecordOptions, InfoOptions, BackupOptions, RestoreOptions>;
+struct ExportOptions {
+    std::string source;  ///< the folder of a recording, the file of a result, or "module" for the one that is connected
+    ExportFormat format = ExportFormat::Ros;
+    std::optional<bool> platformCamera;  ///< unset: the camera of the result, and otherwise the third
+    std::string outFile = "-";
+};
+
+using Command = std::variant<CalibrateOptions, SynthesizeOptions, RecordOptions, InfoOptions, BackupOptions,
+                             RestoreOptions, ExportOptions>;
 
 /// Parses the arguments. There is no command when the program has to end with `status`, because help or the version was
 /// printed or because the usage was wrong and the reason was printed.
@@ -71,5 +80,6 @@ int run(const RecordOptions& options);
 int run(const InfoOptions& options);
 int run(const BackupOptions& options);
 int run(const RestoreOptions& options);
+int run(const ExportOptions& options);
 
 }  // namespace fieldcal

@@ -63,8 +63,8 @@ bool ResultFile::write(QJsonObject object, QString* why) const {
 bool writeWhole(const QString& path, const QByteArray& bytes, QString* why) {
     if (path != "-" && canBeReplaced(path)) {
         std::string reason;
-        const bool written =
-            session::writeOutput(path.toStdString(), bytes.constData(), static_cast<std::size_t>(bytes.size()), &reason);
+        const bool written = session::writeOutput(path.toStdString(), bytes.constData(),
+                                                  static_cast<std::size_t>(bytes.size()), &reason);
         *why = QString::fromStdString(reason);
         return written;
     }

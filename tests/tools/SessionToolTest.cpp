@@ -212,7 +212,10 @@ TEST_F(SessionToolTest, WrongUsageIsRefusedWithStatusTwo) {
                                    {"info", "a", "b"},
                                    {"record", "x"},
                                    {"record", "--frames", "1"},
-                                   {"record", "x", "--frames", "0"}};
+                                   {"record", "x", "--frames", "0"},
+                                   {"export", "--format", "tf"},
+                                   {"export", recording()},
+                                   {"export", recording(), "--format", "pdf"}};
     for (const QStringList& arguments : wrong) {
         const Result result = run(arguments);
         EXPECT_EQ(result.status, 2) << arguments.join(' ').toStdString();
@@ -227,7 +230,7 @@ TEST_F(SessionToolTest, WrongUsageIsRefusedWithStatusTwo) {
 }
 
 TEST_F(SessionToolTest, HelpIsThereForEveryVerb) {
-    for (const char* verb : {"calibrate", "synthesize", "record", "info", "backup", "restore"}) {
+    for (const char* verb : {"calibrate", "synthesize", "record", "info", "backup", "restore", "export"}) {
         const Result help = run({verb, "--help"});
         EXPECT_EQ(help.status, 0);
         EXPECT_TRUE(help.error.isEmpty());

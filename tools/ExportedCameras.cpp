@@ -1,0 +1,96 @@
+#include "tools/ExportedCameras.h"
+
+#include <Eigen/Dense>
+#include <Eigen/Geometry>
+
+#include <cmath>
+
+namespace fieldcal {
+namespace {
+
+constexpr int kColumns = 33;  // of the grid of places at which raw models are compared
+constexpr int kRows = 19;
+
+Eigen::Matrix3d eigen(const session::Matrix3& matrix) {
+    return Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(matrix.data());
+}
+
+/// Moves the principal point of a colour camera from where the scaled picture needs it to where the picture has it.
+session::Intrinsics inOwnPixels(session::Intrinsics colour, const session::Intrinsics& infrared) {
+    colour.cx += 0.5 * colour.fx / infrared.fx - 0.5;
+    colour.cy += 0.5 * colour.fy / infrared.fy - 0.5;
+    return colour;
+}
+
+Eigen::Vector3d ray(const session::Intrinsics& camera, const Eigen::Vector2d& pixel) {
+    return {(pixel.x() - camera.cx) / camera.fx, (pixel.y() - camera.cy) / camera.fy, 1};
+}
+
+/// The place of a direction in the raw picture, in focal lengths, before the tangential terms; and their factors.
+struct RadialPlace {
+    Eigen::Vector2d place;
+    Eigen::Matrix2d tangential;  ///< place shifted by p1 is the first column, by p2 the second
+};
+
+RadialPlace radialPlace(const session::RawIntrinsics& raw, const Eigen::Vector3d& direction) {
+    const Eigen::Vector2d p = direction.hnormalized();
+    const double r2 = p.squaredNorm();
+    const double xy = 2 * p.x() * p.y();
+    Eigen::Matrix2d tangential;
+    tangential << xy, r2 + 2 * p.x() * p.x(), r2 + 2 * p.y() * p.y(), xy;
+    return {p * (1 + r2 * (raw.k1 + r2 * (raw.k2 + r2 * raw.k3))), tangential};
+}
+
+/// The rectified picture comes from the raw one by the calibrated models. When the principal point of the rectified one
+/// moves, every direction turns a little, and no raw model of this kind brings about quite the same. Principal point
+/// and tangential coefficients, on which the raw pixels depend linearly, are fitted over the picture: what is left is
+/// a few hundredths of a pixel at most, in the corners.
+UnrectifiedCamera inOwnPixels(const UnrectifiedCamera& camera, const session::Intrinsics& calibrated,
+                              const session::Intrinsics& exported) {
+    const session::RawIntrinsics& raw = camera.intrinsics;
+    const Eigen::Matrix3d toRaw = eigen(camera.rectification).transpose();
+    const Eigen::Vector2d focal(raw.fx, raw.fy);
+    const Eigen::Vector2d tangential(raw.p1, raw.p2);
+    Eigen::Matrix4d normal = Eigen::Matrix4d::Zero();
+    Eigen::Vector4d right = Eigen::Vector4d::Zero();
+    for (int i = 0; i < kColumns * kRows; ++i) {
+        const Eigen::Vector2d pixel((i % kColumns) * (calibrated.width - 1.0) / (kColumns - 1),
+                                    (i / kColumns) * (calibrated.height - 1.0) / (kRows - 1));
+        const RadialPlace before = radialPlace(raw, toRaw * ray(calibrated, pixel));
+        const RadialPlace after = radialPlace(raw, toRaw * ray(exported, pixel));
+        const Eigen::Vector2d wanted = before.place + before.tangential * tangential - after.place;
+        Eigen::Matrix<double, 2, 4> row;  // of the shift of the principal point, in focal lengths, and of p1 and p2
+        row << Eigen::Matrix2d::Identity(), after.tangential;
+        normal += row.transpose() * row;
+        right += row.transpose() * wanted;
+    }
+    const Eigen::Vector4d fitted = normal.ldlt().solve(right);
+    UnrectifiedCamera result = camera;
+    result.intrinsics.cx += fitted[0] * focal.x();
+    result.intrinsics.cy += fitted[1] * focal.y();
+    result.intrinsics.p1 = fitted[2];
+    result.intrinsics.p2 = fitted[3];
+    return result;
+}
+
+}  // namespace
+
+ExportedCameras exportedCameras(const CameraPair& pair) {
+    ExportedCameras cameras{pair.infrared, inOwnPixels(pair.colour, pair.infrared), {}};
+    if (pair.unrectified) cameras.unrectified = inOwnPixels(*pair.unrectified, pair.colour, cameras.colour);
+    return cameras;
+}
+
+ColourPose colourPose(const CameraPair& pair) {
+    // What is read may be rounded; the nearest rotation keeps the angles and the quaternion alike.
+    const Eigen::Quaterniond rotation = Eigen::Quaterniond(eigen(pair.rotation)).normalized().conjugate();
+    const Eigen::Matrix3d r = rotation.toRotationMatrix();
+    ColourPose pose;
+    pose.translationM = -(rotation * Eigen::Map<const Eigen::Vector3d>(pair.translationM.data()));
+    pose.rollPitchYawRad = {std::atan2(r(2, 1), r(2, 2)), std::atan2(-r(2, 0), std::hypot(r(2, 1), r(2, 2))),
+                            std::atan2(r(1, 0), r(0, 0))};
+    pose.quaternion = rotation.coeffs();
+    return pose;
+}
+
+}  // namespace fieldcal
