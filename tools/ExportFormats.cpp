@@ -66,7 +66,8 @@ QString ros(const CameraPair& pair) {
     raw.rectification = {1, 0, 0, 0, 1, 0, 0, 0, 1};
     if (cameras.unrectified) raw = *cameras.unrectified;
     QString text = "# " + title(pair) + "the " + pair.name() + " colour camera.\n" + pixelNote();
-    if (pair.isPlatform) text += "# rectification_matrix leads from the raw picture's frame to platform_rectified_optical.\n";
+    if (pair.isPlatform)
+        text += "# rectification_matrix leads from the raw picture's frame to platform_rectified_optical.\n";
     text += QString("image_width: %1\nimage_height: %2\n").arg(raw.intrinsics.width).arg(raw.intrinsics.height);
     text += QString("camera_name: %1\n").arg(pair.name());
     text += rosMatrix("camera_matrix", 3, 3, cameraMatrix(raw.intrinsics)) + "distortion_model: plumb_bob\n";
@@ -155,7 +156,10 @@ QString kalibrCamera(const session::Intrinsics& camera, const QString& topic, in
     return QString("  cam_overlaps: [%1]\n  camera_model: pinhole\n").arg(other) +
            "  distortion_coeffs: " + list({0, 0, 0, 0}) + "\n  distortion_model: radtan\n" +
            "  intrinsics: " + list({camera.fx, camera.fy, camera.cx, camera.cy}) + "\n" +
-           QString("  resolution: [%1, %2]\n  rostopic: /%3/image_rect\n").arg(camera.width).arg(camera.height).arg(topic);
+           QString("  resolution: [%1, %2]\n  rostopic: /%3/image_rect\n")
+               .arg(camera.width)
+               .arg(camera.height)
+               .arg(topic);
 }
 
 QString kalibr(const CameraPair& pair) {

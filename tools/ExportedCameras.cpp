@@ -54,15 +54,16 @@ UnrectifiedCamera inOwnPixels(const UnrectifiedCamera& camera, const session::In
     Eigen::Matrix4d normal = Eigen::Matrix4d::Zero();
     Eigen::Vector4d right = Eigen::Vector4d::Zero();
     for (int i = 0; i < kColumns * kRows; ++i) {
-        const Eigen::Vector2d pixel((i % kColumns) * (calibrated.width - 1.0) / (kColumns - 1),
-                                    (i / kColumns) * (calibrated.height - 1.0) / (kRows - 1));
+        const int row = i / kColumns, column = i % kColumns;
+        const Eigen::Vector2d pixel(column * (calibrated.width - 1.0) / (kColumns - 1),
+                                    row * (calibrated.height - 1.0) / (kRows - 1));
         const RadialPlace before = radialPlace(raw, toRaw * ray(calibrated, pixel));
         const RadialPlace after = radialPlace(raw, toRaw * ray(exported, pixel));
         const Eigen::Vector2d wanted = before.place + before.tangential * tangential - after.place;
-        Eigen::Matrix<double, 2, 4> row;  // of the shift of the principal point, in focal lengths, and of p1 and p2
-        row << Eigen::Matrix2d::Identity(), after.tangential;
-        normal += row.transpose() * row;
-        right += row.transpose() * wanted;
+        Eigen::Matrix<double, 2, 4> factors;  // of the shift of the principal point, in focal lengths, and of p1 and p2
+        factors << Eigen::Matrix2d::Identity(), after.tangential;
+        normal += factors.transpose() * factors;
+        right += factors.transpose() * wanted;
     }
     const Eigen::Vector4d fitted = normal.ldlt().solve(right);
     UnrectifiedCamera result = camera;

@@ -126,11 +126,11 @@ std::vector<Sight> sights(const session::SessionDescription& session, bool isPla
     ColourScaling scaling;
     EXPECT_TRUE(bringIntoInfraredGeometry(factorsToInfrared(colour, model(session.infrared)), &colour, &scaling));
     const Matrix3d rotation = eigen(isPlatform ? session.platform->rotation : session.third.rotation);
-    const Vector3d translation(
-        (isPlatform ? session.platform->translation : session.third.translation).data());
+    const Vector3d translation((isPlatform ? session.platform->translation : session.third.translation).data());
     std::vector<Sight> all;
     for (int i = 0; i < 63; ++i) {
-        const Vector2d pixel((i % 9) * (delivered.width - 1) / 8.0, (i / 9) * (delivered.height - 1) / 6.0);
+        const int column = i % 9, row = i / 9;
+        const Vector2d pixel(column * (delivered.width - 1) / 8.0, row * (delivered.height - 1) / 6.0);
         const double x = (pixel.x() + 0.5) * colour.width / delivered.width * scaling.x - 0.5;
         const double y = (pixel.y() + 0.5) * colour.height / delivered.height * scaling.y - 0.5;
         for (const double metres : {1.0, 3.0, 20.0}) {
@@ -228,8 +228,9 @@ TEST_F(ExportTest, TheRawPictureOfTheRearCameraIsDescribedToo) {
     for (int i = 0; i < 5; ++i)
         coefficients[static_cast<std::size_t>(i)] = ros.number("distortion_coefficients.data", i);
     for (const Sight& sight : sights(session, true)) {
-        const Vector2d raw = distorted(cameraMatrix(own.raw), {own.raw.k1, own.raw.k2, own.raw.p1, own.raw.p2, own.raw.k3},
-                                       rectifiedRay * sight.pixel.homogeneous());
+        const Vector2d raw =
+            distorted(cameraMatrix(own.raw), {own.raw.k1, own.raw.k2, own.raw.p1, own.raw.p2, own.raw.k3},
+                      rectifiedRay * sight.pixel.homogeneous());
         const Vector3d ray = ros.matrix("rectification_matrix.data").transpose() * sight.inColour;
         EXPECT_LT((distorted(ros.matrix("camera_matrix.data"), coefficients, ray) - raw).norm(),
                   kLargestRawDifferencePx);
@@ -251,7 +252,8 @@ TEST_F(ExportTest, AResultIsEnough) {
     for (int i = 0; i < 9; ++i)
         EXPECT_NEAR(rotation.ptr<double>()[i], result["rotation"].toArray()[i].toDouble(), 1e-9);
     for (int i = 0; i < 3; ++i)
-        EXPECT_NEAR(deviation.at<double>(i) * 57.29577951308232, result["uncertaintyDeg"].toArray()[i].toDouble(), 1e-9);
+        EXPECT_NEAR(deviation.at<double>(i) * 57.29577951308232, result["uncertaintyDeg"].toArray()[i].toDouble(),
+                    1e-9);
     EXPECT_EQ(exported(file, "ros"), exported(recording(), "ros", {"--camera", "platform"}));
 
     const auto refused = [](const QByteArray& contents, const char* end) {
@@ -261,10 +263,12 @@ TEST_F(ExportTest, AResultIsEnough) {
         output.close();
         const Result answer = run({"export", wrong, "--format", "tf", "--out", path("wrong.yaml")});
         EXPECT_EQ(answer.status, 1);
-        EXPECT_TRUE(answer.error.startsWith(wrong.toUtf8() + ": ") && answer.error.endsWith(end)) << answer.error.constData();
+        EXPECT_TRUE(answer.error.startsWith(wrong.toUtf8() + ": ") && answer.error.endsWith(end))
+            << answer.error.constData();
         EXPECT_FALSE(QFile::exists(path("wrong.yaml")));
     };
-    refused(QByteArray(json).replace("\"solved\":true", "\"solved\":false"), "solved: there is no solution to export\n");
+    refused(QByteArray(json).replace("\"solved\":true", "\"solved\":false"),
+            "solved: there is no solution to export\n");
     refused(QByteArray(json).replace("\"schema\":1", "\"schema\":2"), "schema: only schema 1 can be read\n");
     refused(QByteArray(json).replace("\"raw\":", "\"r\":"), "cameras.raw: missing\n");
     refused(json.left(json.size() / 2), "\n");
