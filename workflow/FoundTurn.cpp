@@ -3,7 +3,6 @@
 #include "engine/Rotation.h"
 
 #include <cmath>
-#include <utility>
 
 namespace fieldcal {
 namespace {
@@ -27,13 +26,13 @@ StoredRotation FoundTurn::verdict() const {
     return fits ? StoredRotation::StillFits : StoredRotation::HasTurned;
 }
 
-FoundTurn foundTurn(const Rotation& stored, const Rotation& found, std::optional<vq::SolutionQuality> quality) {
+FoundTurn foundTurn(const Rotation& stored, const Rotation& found, const std::optional<vq::SolutionQuality>& quality) {
     using Matrix = Eigen::Matrix<float, 3, 3, Eigen::RowMajor>;
     const Eigen::Matrix3d from = Eigen::Map<const Matrix>(stored.data()).cast<double>();
     const Eigen::Matrix3d to = Eigen::Map<const Matrix>(found.data()).cast<double>();
     // What moves points of the picture one way has turned the camera the other way.
     const Eigen::Vector3d angles = vq::anglesFromRotation(from * to.transpose()) * vq::kDegreesPerRadian;
-    return {{angles[0], angles[1], angles[2]}, std::move(quality)};
+    return {{angles[0], angles[1], angles[2]}, quality};
 }
 
 }  // namespace fieldcal

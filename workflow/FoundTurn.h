@@ -21,6 +21,6 @@ struct FoundTurn {
     StoredRotation verdict() const;
 };
 
-FoundTurn foundTurn(const Rotation& stored, const Rotation& found, std::optional<vq::SolutionQuality> quality);
+FoundTurn foundTurn(const Rotation& stored, const Rotation& found, const std::optional<vq::SolutionQuality>& quality);
 
 }  // namespace fieldcal

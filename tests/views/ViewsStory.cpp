@@ -1,6 +1,7 @@
 #include "tests/views/ViewsStory.h"
 
 #include "app/InterfaceTexts.h"
+#include "workflow/CalibrationAttempt.h"
 
 namespace fieldcal::testing {
 namespace {
@@ -11,7 +12,7 @@ void takePhotos(ViewsStage& stage, int count) {
         const QString folder = qEnvironmentVariable("STORY_PICTURES");
         const QString picture = QString("%1/%2_third.png").arg(folder).arg(i, 3, 10, QChar('0'));
         if (!folder.isEmpty()) stage.tell("showCapturedPhoto", QUrl::fromLocalFile(picture).toString());
-        stage.tell("setCalibrationProgress", 0.2 * (i + 1));
+        stage.tell("setCalibrationProgress", progressAfterPairs(i + 1));
     }
     const QVariantList areas{1, 0.8, 0.1, 0, 1, 1, 1, 0.4, 1, 1, 1, 1};
     stage.tell("showDetailMap", areas);
