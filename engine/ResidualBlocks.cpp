@@ -145,9 +145,9 @@ ResidualBlocks::Estimate ResidualBlocks::estimate(const std::vector<int>& unknow
 
 Eigen::Vector3d ResidualBlocks::deviationRad() const {
     if (quarters_.size() < kMinimumBlocks) return Eigen::Vector3d::Constant(std::numeric_limits<double>::infinity());
-    const Eigen::Vector3d ofQuarters = estimate({0, 1, 2}, quarters_).covariance.diagonal().cwiseSqrt();
-    if (stills_.size() < 2) return ofQuarters;
-    return ofQuarters.cwiseMax(estimate({0, 1, 2}, stills_).covariance.diagonal().cwiseSqrt());
+    Eigen::Vector3d variances = estimate({0, 1, 2}, quarters_).covariance.diagonal();
+    if (stills_.size() >= 2) variances = variances.cwiseMax(estimate({0, 1, 2}, stills_).covariance.diagonal());
+    return variances.cwiseSqrt();
 }
 
 /// Pixels per metre of a translation, root mean square over the matches; 1 for unknowns whose floor has their own unit.

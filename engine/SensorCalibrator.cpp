@@ -245,7 +245,8 @@ void SensorCalibrator::recordSolution() {
     quality_.reset();
     if (stands) {
         anglesRad = polished->anglesRad;
-        quality_ = polished->quality;
+        // Too few blocks of matches tell no deviation.
+        if (std::isfinite(polished->quality.deviationDeg[0])) quality_ = polished->quality;
     }
     const Eigen::Vector3f anglesDeg = (anglesRad * kDegreesPerRadian).cast<float>();
     {
