@@ -110,13 +110,16 @@ void compareWithStored(Walk* walk) {
                                                 {"driftPx", expectedOffset(walk->played, found.width())}});
 }
 
-/// Asks to leave, and changes its mind, while the photo that has just been taken is being worked on and after.
+/// Asks to leave, and decides to stay, while the photo that has just been taken is being worked on and after.
 void measureReactions(Walk* walk) {
     const auto askToLeave = [walk](bool busy) {
         for (int i = 0; i < 2; ++i) {
             const double milliseconds = walk->user.reactionMs([walk] { walk->user.hand().press(Key::Escape); });
             if (!busy && !walk->user.hasCome({kPairTaken})) walk->idleReactionsMs.append(milliseconds);
             if (busy && !walk->user.hasCome(kPairDecided)) walk->busyReactionsMs.append(milliseconds);
+            // A fade that still runs would count as the answer to the next press, and a question that is about to
+            // open takes no key yet. No photo is taken behind a question that stays open.
+            walk->user.settle();
         }
     };
     askToLeave(true);
