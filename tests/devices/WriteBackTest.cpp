@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <cmath>
 #include <future>
 #include <limits>
@@ -43,7 +44,8 @@ protected:
         device->calls.clear();
     }
     static bool sameBytes(const KXCalibRectParameters& a, const KXCalibRectParameters& b) {
-        return std::memcmp(&a, &b, sizeof(a)) == 0;
+        const auto* bytes = reinterpret_cast<const std::uint8_t*>(&a);
+        return std::equal(bytes, bytes + sizeof(a), reinterpret_cast<const std::uint8_t*>(&b));
     }
     bool flashIs(const KXCalibRectParameters& block) const { return sameBytes(device->flash, block); }
     Flash flash() const { return sensor->writeBack().flash; }
