@@ -23,7 +23,9 @@ ParameterBackup sample() {
 }
 
 bool same(const ParameterBackup& a, const ParameterBackup& b) {
-    return a.serial == b.serial && a.taken == b.taken && std::memcmp(&a.block, &b.block, sizeof(a.block)) == 0;
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(&a.block);
+    return a.serial == b.serial && a.taken == b.taken &&
+           std::equal(bytes, bytes + sizeof(a.block), reinterpret_cast<const std::uint8_t*>(&b.block));
 }
 
 class ParameterBackupTest : public ::testing::Test {
