@@ -58,6 +58,7 @@ Answer calibrateOurs(const ModuleStills& module, const ColourCamera& camera, con
     auto outcome = StillAttempt::Outcome::Continues;
     for (std::size_t i = 0; i < stills.size() && outcome == StillAttempt::Outcome::Continues; ++i)
         outcome = attempt.show(*stills[i]);
+    if (outcome == StillAttempt::Outcome::Continues) outcome = attempt.finish();
     Answer answer;
     answer.pairs = attempt.pairs();
     answer.msPerPair = attempt.pairSeconds() * 1e3 / std::max(1, answer.pairs);

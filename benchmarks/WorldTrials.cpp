@@ -96,6 +96,7 @@ Trial tryCamera(const ColourCamera& camera, unsigned seed, double misalignmentPx
         auto outcome = StillAttempt::Outcome::Continues;
         for (int shown = 0; shown < kPairLimit && outcome == StillAttempt::Outcome::Continues; ++shown)
             outcome = attempt.show(show->still(trial.stills++));
+        if (outcome == StillAttempt::Outcome::Continues) outcome = attempt.finish();
         trial.solved = outcome == StillAttempt::Outcome::Solved;
     }
     trial.parallax = attempt.parallax();

@@ -172,8 +172,7 @@ bool play(Walk* walk) {
 }
 
 QJsonObject judge(const Matrix3& before, const Matrix3& after, const Matrix3& truth) {
-    return {{"errorBeforeDeg", rotationDifferenceDeg(before, truth)},
-            {"errorAfterDeg", rotationDifferenceDeg(after, truth)}};
+    return {{"errorBeforeDeg", angleBetweenDeg(before, truth)}, {"errorAfterDeg", angleBetweenDeg(after, truth)}};
 }
 
 /// What the module's flash holds now, against the recording's truth.

@@ -95,12 +95,23 @@ std::optional<StereoScale> AttemptRecord::workingScale() const {
 
 /// The matches that the rotation explains or nearly explains; the others only add noise to the fit.
 std::vector<MeasuredMatch> AttemptRecord::matchesNear(const Eigen::Matrix3d& rotation, const StereoScale* scale) const {
-    std::vector<MeasuredMatch> near;
+    std::vector<MeasuredMatch> all;
     for (const Pair& pair : pairs_) {
         if (!isStill(pair)) continue;
-        for (const MeasuredMatch& match : locatedMatches(pair, scale))
-            if (projection_.distancePx(match, rotation, scale) <= kNearPx) near.push_back(match);
+        const std::vector<MeasuredMatch> near = matchesOfPairNear(pair, rotation, scale);
+        all.insert(all.end(), near.begin(), near.end());
     }
+    return all;
+}
+
+std::vector<MeasuredMatch> AttemptRecord::matchesOfPairNear(const Pair& pair, const Eigen::Matrix3d& rotation,
+                                                            const StereoScale* scale) const {
+    std::vector<MeasuredMatch> near = locatedMatches(pair, scale);
+    near.erase(std::remove_if(near.begin(), near.end(),
+                              [&](const MeasuredMatch& match) {
+                                  return projection_.distancePx(match, rotation, scale) > kNearPx;
+                              }),
+               near.end());
     return near;
 }
 
@@ -252,17 +263,13 @@ std::optional<PolishedRotation> AttemptRecord::polish(const Eigen::Vector3d& win
 
 std::vector<MeasuredMatch> AttemptRecord::takenOf(const KeptPair& pair, const LastFit& fit) const {
     if (!isStill(pair) || (fit.ofPatches && !pair.agrees)) return {};
-    if (fit.ofPatches) return pair.aligned;
-    std::vector<MeasuredMatch> near;
-    for (const MeasuredMatch& match : locatedMatches(pair, fit.options.scale))
-        if (projection_.distancePx(match, fit.rotation, fit.options.scale) <= kNearPx) near.push_back(match);
-    return near;
+    return fit.ofPatches ? pair.aligned : matchesOfPairNear(pair, fit.rotation, fit.options.scale);
 }
 
 SolutionQuality AttemptRecord::judge(const LastFit& fit) const {
     JudgedSolution solution{projection_, fit.rotation, storedRotation_, fit.options, {}};
     for (const KeptPair& pair : pairs_)
-        solution.stills.push_back({takenOf(pair, fit), locatedMatches(pair, fit.options.scale), pair.seesDisparities});
+        solution.stills.push_back({takenOf(pair, fit), locatedMatches(pair, fit.options.scale)});
     return judgeSolution(solution);
 }
 

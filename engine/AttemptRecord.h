@@ -72,6 +72,8 @@ private:
     /// The scale that distances are computed with: a known one, else an assumed one where disparities are seen.
     std::optional<StereoScale> workingScale() const;
     std::vector<MeasuredMatch> matchesNear(const Eigen::Matrix3d& rotation, const StereoScale* scale) const;
+    std::vector<MeasuredMatch> matchesOfPairNear(const Pair& pair, const Eigen::Matrix3d& rotation,
+                                                 const StereoScale* scale) const;
     static std::vector<MeasuredMatch> locatedMatches(const Pair& pair, const StereoScale* scale);
     std::optional<Eigen::Matrix3d> fitMatches(const Eigen::Matrix3d& winner);
     void learnScale(const std::vector<MeasuredMatch>& matches, const Eigen::Matrix3d& rotation, double cauchy);

@@ -21,17 +21,21 @@ constexpr std::size_t kMinimumBlocks = 4;
 constexpr double kImprobable = 1e-5;
 
 constexpr double kLeastScaleDoubt = 0.02;
-constexpr int kTranslation = 7;  ///< the first of its unknowns
+constexpr double kFewestPixelsPerMetre = 1e-3;  ///< where nothing tells a translation at all
 
 /// The unknowns of each departure, and the deviation that scenes without it show beyond what the blocks tell. Shade,
 /// foliage and distances that are off a little bend an image by a tenth of a pixel or two.
+struct DepartureUnknowns {
+    int first, count;
+    double leastDeviation;
+};
 constexpr std::array<DepartureUnknowns, kModelDepartureCount> kDepartures{{
-    {3, 1, 5e-4},             // focal length, as a share of it
-    {4, 2, 0.4},              // principal point, pixels
-    {6, 1, 1e-3},             // distortion, k1
-    {kTranslation, 3, 0.03},  // translation: pixels that it moves things by, in the mean
-    {10, 2, 0.15},            // rolling shear, pixels from top to bottom
-    {12, 3, 1.5e-4}           // second rotation, radians
+    {3, 1, 5e-4},    // focal length, as a share of it
+    {4, 2, 0.4},     // principal point, pixels
+    {6, 1, 1e-3},    // distortion, k1
+    {7, 3, 0.03},    // translation: pixels that it moves things by, in the mean
+    {10, 2, 0.15},   // rolling shear, pixels from top to bottom
+    {12, 3, 1.5e-4}  // second rotation, radians
 }};
 
 /// That a chi-squared variable with 1, 2 or 3 degrees of freedom exceeds a Wald statistic.
@@ -150,16 +154,16 @@ Eigen::Vector3d ResidualBlocks::deviationRad() const {
     return variances.cwiseSqrt();
 }
 
-/// Pixels per metre of a translation, root mean square over the matches; 1 for unknowns whose floor has their own unit.
-double ResidualBlocks::floorUnit(const DepartureUnknowns& unknowns) const {
-    if (unknowns.first != kTranslation) return 1;
-    return std::max(std::sqrt(squaredPixelsPerMetre_ / static_cast<double>(std::max<std::size_t>(matches_, 1))), 1e-3);
-}
-
-/// Distances that are all off by a share look like a longer or shorter translation.
-double ResidualBlocks::scaleDoubtM() const {
+/// In the units of the departure's unknowns. A translation is granted what moves things by some hundredths of a pixel,
+/// and a share of itself: distances that are all off by that share look like a longer or shorter one.
+double ResidualBlocks::leastDeviation(std::size_t departure) const {
+    const double least = kDepartures[departure].leastDeviation;
+    if (departure != static_cast<std::size_t>(ModelDeparture::Translation)) return least;
+    const double pixelsPerMetre =
+        std::sqrt(squaredPixelsPerMetre_ / static_cast<double>(std::max<std::size_t>(matches_, 1)));
     const double ofScale = options_.scale != nullptr ? options_.scale->relativeDeviation : 0;
-    return std::max(ofScale, kLeastScaleDoubt) * projection_.translationM.norm();
+    return std::hypot(least / std::max(pixelsPerMetre, kFewestPixelsPerMetre),
+                      std::max(ofScale, kLeastScaleDoubt) * projection_.translationM.norm());
 }
 
 ModelCheck ResidualBlocks::checkModel() const {
@@ -173,8 +177,7 @@ ModelCheck ResidualBlocks::checkModel() const {
         const Estimate estimated = estimate(unknowns, quarters_);
         const Eigen::VectorXd value = estimated.value.tail(own.count);
         Eigen::MatrixXd covariance = estimated.covariance.bottomRightCorner(own.count, own.count);
-        const double floor = std::hypot(own.floor / floorUnit(own), own.first == kTranslation ? scaleDoubtM() : 0);
-        covariance.diagonal().array() += floor * floor;
+        covariance.diagonal().array() += std::pow(leastDeviation(i), 2);
         check.probability[i] = probabilityAbove(value.dot(covariance.ldlt().solve(value)), own.count);
     }
     return check;

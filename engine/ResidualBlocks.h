@@ -9,11 +9,7 @@
 
 namespace vq {
 
-/// Where the unknowns of a departure stand among all, and the least deviation that is granted to them.
-struct DepartureUnknowns {
-    int first, count;
-    double floor;
-};
+struct EvaluatedTerm;
 
 /// What a fit leaves over, in blocks of matches that share what disturbs them: those of one still in one quarter of
 /// the infrared image.
@@ -52,10 +48,9 @@ private:
         Eigen::MatrixXd covariance;
     };
 
-    double scaleDoubtM() const;
-    double floorUnit(const DepartureUnknowns& unknowns) const;
+    double leastDeviation(std::size_t departure) const;
     std::size_t quarterOf(const cv::Point2f& infrared) const;
-    Eigen::Matrix<double, 2, kUnknowns> jacobian(const struct EvaluatedTerm& at, double inverseDepth) const;
+    Eigen::Matrix<double, 2, kUnknowns> jacobian(const EvaluatedTerm& at, double inverseDepth) const;
     Estimate estimate(const std::vector<int>& unknowns, const std::vector<Block>& blocks) const;
 
     const Projection& projection_;

@@ -13,7 +13,6 @@ namespace vq {
 struct JudgedStill {
     std::vector<MeasuredMatch> taken;     ///< what was fitted; empty when the still was left out
     std::vector<MeasuredMatch> verified;  ///< all its verified matches that may count, the wrong ones among them
-    bool seesDisparities = false;
 };
 
 /// A fitted rotation and what it was fitted to.

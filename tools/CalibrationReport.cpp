@@ -127,20 +127,6 @@ double CalibrationReport::stageSeconds(double vq::PairStatistics::*stage) const 
     return sum;
 }
 
-double rotationDifferenceDeg(const Matrix3& a, const Matrix3& b) {
-    Matrix3 d{};
-    for (std::size_t row = 0; row < 3; ++row) {
-        for (std::size_t column = 0; column < 3; ++column) {
-            for (std::size_t k = 0; k < 3; ++k)
-                d[row * 3 + column] += a[row * 3 + k] * b[column * 3 + k];
-        }
-    }
-    // The sine is needed, too, as the arc cosine alone loses small angles in rounding.
-    const double sine = std::sqrt(std::pow(d[7] - d[5], 2) + std::pow(d[2] - d[6], 2) + std::pow(d[3] - d[1], 2)) / 2;
-    const double cosine = (d[0] + d[4] + d[8] - 1.0) / 2.0;
-    return std::atan2(sine, cosine) * 57.29577951308232;
-}
-
 QJsonObject reportJson(const CalibrationReport& report) {
     QJsonArray perPair;
     for (const PairReport& pair : report.pairs)
@@ -178,7 +164,7 @@ QString reportText(const CalibrationReport& report) {
                 .arg(report.anglesDeg[2], 0, 'f', 4);
     if (report.quality) text += qualityText(*report.quality);
     text += QString("changed from the factory rotation by %1 degrees\n")
-                .arg(rotationDifferenceDeg(report.rotation, report.factoryRotation), 0, 'f', 4);
+                .arg(angleBetweenDeg(report.rotation, report.factoryRotation), 0, 'f', 4);
     text += distancesText(report.parallax);
     if (report.errorDeg) text += QString("off the truth by %1 degrees\n").arg(*report.errorDeg, 0, 'f', 4);
     return text + registrationText(report.registrationPx);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "camera/Rotation.h"
 #include "engine/CrossModalMatcher.h"
 #include "engine/ParallaxReport.h"
 #include "engine/SolutionQuality.h"
@@ -14,8 +15,6 @@
 #include <vector>
 
 namespace fieldcal {
-
-using Matrix3 = std::array<double, 9>;  ///< row-major
 
 struct PairReport {
     vq::PairStatistics statistics;
@@ -44,9 +43,6 @@ struct CalibrationReport {
 
     double stageSeconds(double vq::PairStatistics::*stage) const;
 };
-
-/// Returns the rotation angle of a · bᵀ in degrees.
-double rotationDifferenceDeg(const Matrix3& a, const Matrix3& b);
 
 QJsonObject reportJson(const CalibrationReport& report);
 QString reportText(const CalibrationReport& report);

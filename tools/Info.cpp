@@ -36,8 +36,7 @@ void printAngles(const Matrix3& rotation) {
 }
 
 void printTruth(const char* name, const std::optional<Matrix3>& truth, const Matrix3& factory) {
-    if (truth)
-        std::printf("%-12s %.4f degrees off the factory rotation\n", name, rotationDifferenceDeg(*truth, factory));
+    if (truth) std::printf("%-12s %.4f degrees off the factory rotation\n", name, angleBetweenDeg(*truth, factory));
 }
 
 void printRight(const std::vector<session::FrameEntry>& frames) {

@@ -18,13 +18,6 @@ const ImageFrame32& colourOf(const FrameRecords& frames, bool platformCamera) {
     return platformCamera ? frames.outOfModuleColour : frames.inModuleColour;
 }
 
-Matrix3 widened(const std::array<float, 9>& matrix) {
-    Matrix3 wide{};
-    for (std::size_t i = 0; i < wide.size(); ++i)
-        wide[i] = static_cast<double>(matrix[i]);
-    return wide;
-}
-
 Eigen::Matrix3d eigen(const Matrix3& matrix) {
     return Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(matrix.data());
 }
@@ -102,17 +95,17 @@ bool RecordingCalibration::play(Sensor& sensor, CalibrationAttempt& attempt, boo
 void RecordingCalibration::finish(bool solved) {
     const auto& factory = platformCamera_ ? parameters_.depthToOutOfModule : parameters_.depthToInModule;
     report_.platformCamera = platformCamera_;
-    report_.factoryRotation = report_.rotation = widened(factory.rotation);
+    report_.factoryRotation = report_.rotation = widened(factory.rotation.data());
     report_.solved = solved;
     if (solved) {
         std::array<float, 9> rotation{};
         engine_.getRotationMatrix(rotation.data());
-        report_.rotation = widened(rotation);
+        report_.rotation = widened(rotation.data());
         report_.quality = engine_.calibrator().quality();
         evidence_ = engine_.calibrator().evidence();
         const auto& truth = platformCamera_ ? session_.truthPlatform : session_.truthThird;
         if (truth) {
-            report_.errorDeg = rotationDifferenceDeg(report_.rotation, *truth);
+            report_.errorDeg = angleBetweenDeg(report_.rotation, *truth);
             report_.registrationPx = registrationErrors(*truth);
         }
     }

@@ -1,7 +1,5 @@
 #include "workflow/FoundTurn.h"
 
-#include "engine/Rotation.h"
-
 #include <cmath>
 
 namespace fieldcal {
@@ -27,12 +25,12 @@ StoredRotation FoundTurn::verdict() const {
 }
 
 FoundTurn foundTurn(const Rotation& stored, const Rotation& found, const std::optional<vq::SolutionQuality>& quality) {
-    using Matrix = Eigen::Matrix<float, 3, 3, Eigen::RowMajor>;
-    const Eigen::Matrix3d from = Eigen::Map<const Matrix>(stored.data()).cast<double>();
-    const Eigen::Matrix3d to = Eigen::Map<const Matrix>(found.data()).cast<double>();
-    // What moves points of the picture one way has turned the camera the other way.
-    const Eigen::Vector3d angles = vq::anglesFromRotation(from * to.transpose()) * vq::kDegreesPerRadian;
-    return {{angles[0], angles[1], angles[2]}, quality};
+    // What moves points of the image one way has turned the camera the other way.
+    const Matrix3 turn = product(widened(stored.data()), transposed(widened(found.data())));
+    FoundTurn result{anglesFromRotation(turn), quality};
+    for (double& angle : result.anglesDeg)
+        angle *= kDegreesPerRadian;
+    return result;
 }
 
 }  // namespace fieldcal

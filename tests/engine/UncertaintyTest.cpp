@@ -60,7 +60,7 @@ struct MatchMaker {
         std::vector<MeasuredMatch> all;
         for (int i = 0; i < stills; ++i) {
             const std::vector<MeasuredMatch> matches = still();
-            made.stills.push_back({matches, matches, false});
+            made.stills.push_back({matches, matches});
             all.insert(all.end(), matches.begin(), matches.end());
         }
         const auto fitted = fitRotation(all, projection, made.rotation, made.options);
