@@ -158,12 +158,12 @@ void GlobalManager::slot_pauseCapture(bool paused) {
 
 void GlobalManager::slot_switchToIMColorSensor() {
     const bool two = bridge_.platformCameraPresent();
-    switchCamera(ColourCamera::InModule, two ? texts::kFirstCamera : texts::kOnlyCamera,
+    switchCamera(ColourCamera::Third, two ? texts::kFirstCamera : texts::kOnlyCamera,
                  two ? texts::kRefineFirst : texts::kRefineOnly);
 }
 
 void GlobalManager::slot_switchToOOMColorSensor() {
-    switchCamera(ColourCamera::OutOfModule, texts::kSecondCamera, texts::kRefineSecond);
+    switchCamera(ColourCamera::Platform, texts::kSecondCamera, texts::kRefineSecond);
 }
 
 void GlobalManager::switchCamera(ColourCamera camera, const char* description, const char* instruction) {

@@ -66,10 +66,10 @@ void ImageViews::switchIntroductionOn() {
 }
 
 void ImageViews::setFrames(State state, ColourCamera camera, const FrameRecords& frames) {
-    const ImageFrame32& colour = camera == ColourCamera::OutOfModule ? frames.outOfModuleColour : frames.inModuleColour;
+    const ImageFrame32& colour = frames.colour[camera];
     switch (state) {
         case State::ShowingIntroduction:
-            intro_->setFrame(frames.inModuleColour);
+            intro_->setFrame(frames.colour[ColourCamera::Third]);
             break;
         case State::DetectingLighting:
         case State::WaitingToCalibrate:
@@ -78,7 +78,7 @@ void ImageViews::setFrames(State state, ColourCamera camera, const FrameRecords&
             infrared_->setFrame(frames.leftInfrared);
             break;
         case State::RefiningTutorial:
-            walkthrough_->setFrames(frames.inModuleColour, frames.depth);
+            walkthrough_->setFrames(frames.colour[ColourCamera::Third], frames.depth);
             break;
         case State::RefiningCalibration:
             refinement_->setFrames(colour, frames.depth);
@@ -89,10 +89,9 @@ void ImageViews::setFrames(State state, ColourCamera camera, const FrameRecords&
 }
 
 void ImageViews::setCalibration(ColourCamera camera, const CameraParameters& factory, const Rotation& estimated) {
-    const bool second = camera == ColourCamera::OutOfModule;
-    const OverlayCalibration calibration = overlayCalibration(factory, second, estimated);
+    const OverlayCalibration calibration = overlayCalibration(factory, camera, estimated);
     refinement_->setCalibration(calibration);
-    if (!second) walkthrough_->setCalibration(calibration);
+    if (camera == ColourCamera::Third) walkthrough_->setCalibration(calibration);
 }
 
 void ImageViews::swingTutorial() {

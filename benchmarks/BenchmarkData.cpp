@@ -38,19 +38,21 @@ CameraParameters parametersOf(const session::SessionDescription& session) {
             fatalFailure("the scale of a colour camera cannot be used", 1);
         return model;
     };
-    parameters.inModuleColour = scaledModel(session.third, &parameters.inModuleScaling);
-    parameters.depthToInModule = extrinsicsOf(kxsim::extrinsics(session.third.rotation, session.third.translation));
-    if (!session.platform) return parameters;
-    const auto& platform = *session.platform;
-    parameters.outOfModuleColour = scaledModel(platform.rectified, &parameters.outOfModuleScaling);
-    parameters.depthToOutOfModule = extrinsicsOf(kxsim::extrinsics(platform.rotation, platform.translation));
+    const auto describe = [&](ColourCamera camera, const auto& intrinsics, const auto& pose) {
+        ColourCameraParameters& colour = parameters.colour[camera];
+        colour.model = scaledModel(intrinsics, &colour.scaling);
+        colour.fromDepth = extrinsicsOf(kxsim::extrinsics(pose.rotation, pose.translation));
+    };
+    describe(ColourCamera::Third, session.third, session.third);
+    if (session.platform) describe(ColourCamera::Platform, session.platform->rectified, *session.platform);
     return parameters;
 }
 
 BenchmarkData camerasOf(const session::SessionDescription& session) {
     BenchmarkData data;
     data.parameters = parametersOf(session);
-    data.cameras = {data.parameters.infrared, data.parameters.inModuleColour, data.parameters.inModuleScaling};
+    data.cameras = {data.parameters.infrared, data.parameters.colour[ColourCamera::Third].model,
+                    data.parameters.colour[ColourCamera::Third].scaling};
     data.factory = matrixOf(session.third.rotation);
     data.truth = session.truthThird ? matrixOf(*session.truthThird) : data.factory;
     return data;

@@ -51,7 +51,7 @@ struct Answer {
 
 using Stills = std::vector<const FrameRecords*>;
 
-Answer calibrateOurs(const ModuleStills& module, const ColourCamera& camera, const Stills& stills, unsigned seed) {
+Answer calibrateOurs(const ModuleStills& module, const JudgedCamera& camera, const Stills& stills, unsigned seed) {
     StillAttempt attempt(module.parameters, camera, kStills);
     std::srand(seed);
     attempt.start();
@@ -67,7 +67,7 @@ Answer calibrateOurs(const ModuleStills& module, const ColourCamera& camera, con
     return answer;
 }
 
-Answer calibratePeer(const ColourCamera& camera, const Stills& stills) {
+Answer calibratePeer(const JudgedCamera& camera, const Stills& stills) {
     Answer answer;
     answer.pairs = kStills;
     vq::Stopwatch watch;
@@ -106,7 +106,7 @@ void printErrors(const std::vector<Answer>& answers, std::size_t failed) {
     std::printf(" %3zu/%-3zu", failed, answers.size());
 }
 
-void printRow(const std::string& recording, const ColourCamera& camera, const std::vector<Answer>& ours,
+void printRow(const std::string& recording, const JudgedCamera& camera, const std::vector<Answer>& ours,
               const std::vector<Answer>& peer) {
     const auto milliseconds = [](const Answer& answer) { return answer.msPerPair; };
     std::vector<double> ratios;
@@ -132,7 +132,7 @@ void compare(const std::string& folder, std::size_t subsets) {
     const ModuleStills module = playStills(folder);
     if (module.stills.size() < kStills) fatalFailure((folder + ": fewer than three stills").c_str(), 1);
     const std::string name = folder.substr(0, folder.find_last_not_of('/') + 1);
-    for (const ColourCamera& camera : judgedCameras(module.session, module.parameters)) {
+    for (const JudgedCamera& camera : judgedCameras(module.session, module.parameters)) {
         std::vector<Answer> ours, peer;
         for (const Choice& choice : chooseStills(module.stills.size(), subsets)) {
             Stills stills;

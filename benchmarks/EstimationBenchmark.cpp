@@ -31,7 +31,7 @@ const Round& round() {
         context.infraredModel = data.cameras.infrared;
         context.colourModel = data.cameras.colour;
         context.colourScaling = data.cameras.colourScaling;
-        context.state->setExtrinsics(vq::poseFromExtrinsics(data.parameters.depthToInModule));
+        context.state->setExtrinsics(vq::poseFromExtrinsics(data.parameters.colour[ColourCamera::Third].fromDepth));
         vq::SensorCalibrator calibrator(context, {});
         calibrator.setup();
         std::srand(1);

@@ -110,7 +110,7 @@ int main(int argc, char** argv) {
         const auto start = Clock::now();
         const double processorsBefore = processorMilliseconds();
         if (!sensor.grab(true)) fatalFailure("grab failed", 1);
-        const ImageFrame32& colour = platform ? records.outOfModuleColour : records.inModuleColour;
+        const ImageFrame32& colour = records.colour[platform ? ColourCamera::Platform : ColourCamera::Third];
         if (records.leftInfrared.empty() || colour.empty()) continue;  // the very first view is not there yet
         std::uint16_t brightness = 0;
         engine.measureInfraredBrightness(records.leftInfrared, &brightness);

@@ -42,8 +42,8 @@ void liveFrame(benchmark::State& state, std::size_t recording, bool platformCame
         live.sensor.grab(true);
         live.engine.measureInfraredBrightness(frames.leftInfrared, &brightness);
         live.engine.inputDistanceFrames(frames.rightInfrared, frames.depth);
-        live.engine.inputFramesAndCheckMovement(frames.leftInfrared,
-                                                platformCamera ? frames.outOfModuleColour : frames.inModuleColour);
+        live.engine.inputFramesAndCheckMovement(
+            frames.leftInfrared, frames.colour[platformCamera ? ColourCamera::Platform : ColourCamera::Third]);
     }
 }
 

@@ -21,21 +21,17 @@ void scalePlatform(const std::vector<std::uint8_t>& nv12, const std::vector<std:
 
 }  // namespace
 
-std::vector<ColourCamera> judgedCameras(const session::SessionDescription& session,
+std::vector<JudgedCamera> judgedCameras(const session::SessionDescription& session,
                                         const CameraParameters& parameters) {
-    std::vector<ColourCamera> judged;
-    if (session.truthThird) {
-        judged.push_back({false,
-                          {parameters.infrared, parameters.inModuleColour, parameters.inModuleScaling},
-                          matrixOf(session.third.rotation),
-                          matrixOf(*session.truthThird)});
-    }
-    if (session.platform && session.truthPlatform) {
-        judged.push_back({true,
-                          {parameters.infrared, parameters.outOfModuleColour, parameters.outOfModuleScaling},
-                          matrixOf(session.platform->rotation),
-                          matrixOf(*session.truthPlatform)});
-    }
+    std::vector<JudgedCamera> judged;
+    const auto judge = [&](ColourCamera camera, const session::Matrix3& factory, const session::Matrix3& truth) {
+        const ColourCameraParameters& colour = parameters.colour[camera];
+        judged.push_back(
+            {camera, {parameters.infrared, colour.model, colour.scaling}, matrixOf(factory), matrixOf(truth)});
+    };
+    if (session.truthThird) judge(ColourCamera::Third, session.third.rotation, *session.truthThird);
+    if (session.platform && session.truthPlatform)
+        judge(ColourCamera::Platform, session.platform->rotation, *session.truthPlatform);
     return judged;
 }
 
@@ -73,10 +69,10 @@ FrameRecords StillConverter::convert(const session::FramePictures& pictures) con
     records.leftInfrared = pictures.infrared;
     records.rightInfrared = pictures.right;
     records.depth = pictures.depth;
-    scaleThird(pictures, parameters_.inModuleColour, &records.inModuleColour);
+    scaleThird(pictures, parameters_.colour[ColourCamera::Third].model, &records.colour[ColourCamera::Third]);
     if (!rectificationTable_.empty() && !pictures.platform.empty()) {
-        scalePlatform(pictures.platform, rectificationTable_, parameters_.outOfModuleColour,
-                      &records.outOfModuleColour);
+        scalePlatform(pictures.platform, rectificationTable_, parameters_.colour[ColourCamera::Platform].model,
+                      &records.colour[ColourCamera::Platform]);
     }
     return records;
 }

@@ -10,20 +10,17 @@
 namespace fieldcal {
 
 /// One of a module's colour cameras, and the rotation that its calibration has to find.
-struct ColourCamera {
-    bool platform = false;
+struct JudgedCamera {
+    ColourCamera camera = ColourCamera::Third;
     vq::CameraPair cameras;
     Eigen::Matrix3d factory;
     Eigen::Matrix3d truth;
 
-    const char* name() const { return platform ? "platform" : "third"; }
-    const ImageFrame32& colourOf(const FrameRecords& still) const {
-        return platform ? still.outOfModuleColour : still.inModuleColour;
-    }
+    const char* name() const { return nameOf(camera); }
 };
 
 /// The third camera, then the platform camera, as far as the session has them and tells their truth.
-std::vector<ColourCamera> judgedCameras(const session::SessionDescription& session, const CameraParameters& parameters);
+std::vector<JudgedCamera> judgedCameras(const session::SessionDescription& session, const CameraParameters& parameters);
 
 /// A recording as the program gets it: what the sensor reads from the module, and its records for each frame.
 struct ModuleStills {

@@ -24,8 +24,8 @@ const ModuleStills& data() {
     return loaded;
 }
 
-const ColourCamera& camera() {
-    static const ColourCamera first = judgedCameras(data().session, data().parameters).front();
+const JudgedCamera& camera() {
+    static const JudgedCamera first = judgedCameras(data().session, data().parameters).front();
     return first;
 }
 
@@ -38,7 +38,7 @@ vq::ImagePairRecord recordOf(const ImageFrame& frame) {
 std::vector<vq::SelectedImages> pairsOfRecording() {
     std::vector<vq::SelectedImages> pairs;
     for (const FrameRecords& still : data().stills)
-        pairs.push_back({recordOf(still.leftInfrared), recordOf(camera().colourOf(still)),
+        pairs.push_back({recordOf(still.leftInfrared), recordOf(still.colour[camera().camera]),
                          recordOf(still.rightInfrared), recordOf(still.depth)});
     return pairs;
 }
@@ -78,14 +78,14 @@ void cornerCalls(benchmark::State& state) {
 void pairToAnswer(benchmark::State& state) {
     vq::RegistrationContext context;
     vq::CalibratorInterface engine(context, data().parameters);
-    engine.setCameraParameters(camera().platform);
+    engine.setCameraParameters(camera().camera == ColourCamera::Platform);
     vq::SensorCalibrator calibrator(context, {});
     const std::vector<vq::SelectedImages> pairs = pairsOfRecording();
     vq::PairStatistics sum;
     for (auto _ : state) {
         std::srand(1);
         calibrator.reset();
-        engine.setCameraParameters(camera().platform);
+        engine.setCameraParameters(camera().camera == ColourCamera::Platform);
         calibrator.setup();
         for (const vq::SelectedImages& pair : pairs) {
             calibrator.prepare(pair);

@@ -49,7 +49,7 @@ struct Showing {
 struct Subject {
     const ModuleStills& module;
     CameraParameters parameters;
-    ColourCamera camera;
+    JudgedCamera camera;
 };
 
 struct Tally {
@@ -67,8 +67,8 @@ struct Tally {
 
 FrameRecords recordsOf(const ModuleStills& module, const Showing& showing) {
     FrameRecords records = module.stills[showing.infrared];
-    records.inModuleColour = module.stills[showing.colour].inModuleColour;
-    records.outOfModuleColour = module.stills[showing.colour].outOfModuleColour;
+    records.colour[ColourCamera::Third] = module.stills[showing.colour].colour[ColourCamera::Third];
+    records.colour[ColourCamera::Platform] = module.stills[showing.colour].colour[ColourCamera::Platform];
     return records;
 }
 
@@ -147,7 +147,7 @@ Subject drifted(const Subject& subject, const Eigen::Vector3d& driftDeg) {
     Subject moved = subject;
     const Eigen::Vector3d anglesRad = vq::anglesFromRotation(subject.camera.truth) - driftDeg / vq::kDegreesPerRadian;
     moved.camera.factory = vq::rotationFromAngles(anglesRad);
-    auto& extrinsics = subject.camera.platform ? moved.parameters.depthToOutOfModule : moved.parameters.depthToInModule;
+    auto& extrinsics = moved.parameters.colour[subject.camera.camera].fromDepth;
     Eigen::Map<Eigen::Matrix<float, 3, 3, Eigen::RowMajor>> stored(extrinsics.rotation.data());
     stored = moved.camera.factory.cast<float>();
     return moved;
@@ -211,7 +211,7 @@ void tryCase(const std::vector<ModuleStills>& modules, const Case& tried) {
     int cameras = 0;
     for (std::size_t i = 0; i < modules.size(); ++i) {
         const std::string name = folders[i].substr(0, folders[i].find_last_not_of('/') + 1);
-        for (const ColourCamera& camera : judgedCameras(modules[i].session, modules[i].parameters)) {
+        for (const JudgedCamera& camera : judgedCameras(modules[i].session, modules[i].parameters)) {
             const Rows rows = tried.second({modules[i], modules[i].parameters, camera});
             if (all.empty()) all.resize(rows.size());
             for (std::size_t row = 0; row < rows.size(); ++row) {

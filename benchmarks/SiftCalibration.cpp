@@ -38,10 +38,10 @@ cv::Mat viewOf(const ImageFrame& frame, int type) {
             const_cast<std::uint8_t*>(frame.bytes())};
 }
 
-Matches matchStill(const FrameRecords& still, const ColourCamera& camera) {
+Matches matchStill(const FrameRecords& still, const JudgedCamera& camera) {
     cv::Mat infrared8, grey;
     vq::convertInfrared(viewOf(still.leftInfrared, CV_16UC1), 1, &infrared8);
-    vq::convertToGrey(viewOf(camera.colourOf(still), CV_8UC4), &grey);
+    vq::convertToGrey(viewOf(still.colour[camera.camera], CV_8UC4), &grey);
     const Features infrared = describe(infrared8), colour = describe(grey);
     Matches matches;
     if (infrared.points.empty() || colour.points.size() < 2) return matches;
@@ -73,7 +73,7 @@ void addInliers(const Matches& matches, Matches* all) {
 }  // namespace
 
 std::optional<Eigen::Matrix3d> calibrateWithSift(const std::vector<const FrameRecords*>& stills,
-                                                 const ColourCamera& camera) {
+                                                 const JudgedCamera& camera) {
     Matches all;
     for (const FrameRecords* still : stills)
         addInliers(matchStill(*still, camera), &all);

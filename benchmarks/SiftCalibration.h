@@ -11,6 +11,6 @@ namespace fieldcal {
 /// test, one MAGSAC homography a still, and a joint robust fit of the three angles to the inliers of all stills,
 /// started at the factory rotation. Empty when no still has a homography or the fit fails.
 std::optional<Eigen::Matrix3d> calibrateWithSift(const std::vector<const FrameRecords*>& stills,
-                                                 const ColourCamera& camera);
+                                                 const JudgedCamera& camera);
 
 }  // namespace fieldcal

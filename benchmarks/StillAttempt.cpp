@@ -18,18 +18,18 @@ ImageFrame32 inverted(const ImageFrame32& colour) {
 
 }  // namespace
 
-StillAttempt::StillAttempt(const CameraParameters& parameters, const ColourCamera& camera, int pairLimit)
+StillAttempt::StillAttempt(const CameraParameters& parameters, const JudgedCamera& camera, int pairLimit)
     : camera_(camera), engine_(context_, parameters), attempt_(engine_, watch_, light_, pairLimit) {}
 
 StillAttempt::Outcome StillAttempt::show(const FrameRecords& still) {
     auto outcome = Outcome::Continues;
     // A hand moves between two rests, however alike the two views are.
-    const ImageFrame32 moving = inverted(camera_.colourOf(still));
+    const ImageFrame32 moving = inverted(still.colour[camera_.camera]);
     for (int i = 0; i < kMovingGrabs; ++i)
         attempt_.processFrame({still.leftInfrared, moving, still.rightInfrared, still.depth});
     for (int i = 0; i < kGrabsPerStill && outcome == Outcome::Continues; ++i)
         outcome =
-            attempt_.processFrame({still.leftInfrared, camera_.colourOf(still), still.rightInfrared, still.depth});
+            attempt_.processFrame({still.leftInfrared, still.colour[camera_.camera], still.rightInfrared, still.depth});
     return outcome;
 }
 

@@ -13,10 +13,10 @@ public:
     using Outcome = CalibrationAttempt::Outcome;
 
     /// Both references must outlive it. `pairLimit`: pairs after which an attempt without a solution ends.
-    StillAttempt(const CameraParameters& parameters, const ColourCamera& camera, int pairLimit);
+    StillAttempt(const CameraParameters& parameters, const JudgedCamera& camera, int pairLimit);
 
     /// Starts an attempt from the factory rotation.
-    void start() { attempt_.start(camera_.platform); }
+    void start() { attempt_.start(camera_.camera); }
     /// Shows one still for as long as a hand rests, or until the attempt ends.
     Outcome show(const FrameRecords& still);
     /// What was found, once an attempt has been solved.
@@ -43,7 +43,7 @@ private:
         int pairs = 0;
     };
 
-    const ColourCamera& camera_;
+    const JudgedCamera& camera_;
     vq::RegistrationContext context_;
     vq::CalibratorInterface engine_;
     PairWatch watch_;

@@ -87,7 +87,7 @@ double ownInverseDepth(double inverseDepth, double misalignmentPx, double focalP
     return inverseDepth + misalignmentPx / (focalPx * world::stereoBaseline);
 }
 
-Trial tryCamera(const ColourCamera& camera, unsigned seed, double misalignmentPx, StillShow* show) {
+Trial tryCamera(const JudgedCamera& camera, unsigned seed, double misalignmentPx, StillShow* show) {
     StillAttempt attempt(show->parameters(), camera, kPairLimit);
     std::srand(seed);
     Trial trial;
@@ -105,8 +105,7 @@ Trial tryCamera(const ColourCamera& camera, unsigned seed, double misalignmentPx
     trial.quality = attempt.quality();
     const Eigen::AngleAxisd turn(attempt.rotation() * camera.truth.transpose());
     trial.turnDeg = turn.axis() * turn.angle() * 180 / CV_PI;
-    const auto& extrinsics =
-        camera.platform ? show->parameters().depthToOutOfModule : show->parameters().depthToInModule;
+    const auto& extrinsics = show->parameters().colour[camera.camera].fromDepth;
     const vq::Projection projection{camera.cameras,
                                     Eigen::Map<const Eigen::Vector3f>(extrinsics.translation.data()).cast<double>()};
     for (std::size_t i = 0; i < kDistancesM.size(); ++i) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "camera/ColourCamera.h"
+
 #include <array>
 #include <cstdint>
 
@@ -31,16 +33,18 @@ struct ColourScaling {
     float y = 1;  ///< the same, down
 };
 
+/// A colour camera as the engine and the overlay use it.
+struct ColourCameraParameters {
+    CameraModel model;  ///< in the infrared geometry (same focal lengths)
+    ColourScaling scaling;
+    CameraExtrinsics fromDepth;
+};
+
 /// The module's calibration as the engine and the overlay use it.
 struct CameraParameters {
     CameraModel infrared;
     CameraModel depth;
-    CameraModel inModuleColour;     ///< in the infrared geometry (same focal lengths)
-    CameraModel outOfModuleColour;  ///< likewise; all zero without a platform camera
-    CameraExtrinsics depthToInModule;
-    CameraExtrinsics depthToOutOfModule;
-    ColourScaling inModuleScaling;
-    ColourScaling outOfModuleScaling;
+    PerColourCamera<ColourCameraParameters> colour;  ///< models are all zero for a camera that is not there
 };
 
 }  // namespace fieldcal

@@ -80,15 +80,16 @@ bool fillModule(ModuleLink& link, const ModuleRecords& records, CameraParameters
     }
     out->infrared = modelOf(records.leftRight);
     out->depth = modelOf(records.z);
-    out->inModuleColour = modelOf(records.third);
-    out->depthToInModule = extrinsicsOf(records.zToThird);
-    const ColourFactors factors = factorsToInfrared(out->inModuleColour, out->infrared);
+    out->colour[ColourCamera::Third].model = modelOf(records.third);
+    out->colour[ColourCamera::Third].fromDepth = extrinsicsOf(records.zToThird);
+    const ColourFactors factors = factorsToInfrared(out->colour[ColourCamera::Third].model, out->infrared);
     qInfo("scaleFxThirdToIr = %f, scaleFyThirdToIr = %f", factors.sx, factors.sy);
-    if (!bringIntoInfraredGeometry(factors, &out->inModuleColour, &out->inModuleScaling)) {
+    if (!bringIntoInfraredGeometry(factors, &out->colour[ColourCamera::Third].model,
+                                   &out->colour[ColourCamera::Third].scaling)) {
         return refuse(link, "The scale of the in-module colour camera cannot be used.");
     }
-    qInfo("xResThirdScaledToIr: %i", out->inModuleColour.width);
-    qInfo("yResThirdScaledToIr: %i", out->inModuleColour.height);
+    qInfo("xResThirdScaledToIr: %i", out->colour[ColourCamera::Third].model.width);
+    qInfo("yResThirdScaledToIr: %i", out->colour[ColourCamera::Third].model.height);
     return true;
 }
 
@@ -103,19 +104,19 @@ void fillPlatform(ModuleLink& link, ModuleCalibration* out) {
     };
     auto platform = link.ask(call).value_or(std::nullopt);
     if (!platform) return;
-    out->parameters.outOfModuleColour = platform->model;
-    out->parameters.depthToOutOfModule = platform->extrinsics;
-    out->parameters.outOfModuleScaling = platform->scaling;
+    out->parameters.colour[ColourCamera::Platform].model = platform->model;
+    out->parameters.colour[ColourCamera::Platform].fromDepth = platform->extrinsics;
+    out->parameters.colour[ColourCamera::Platform].scaling = platform->scaling;
     out->platform = std::move(platform->calibration);
 }
 
 void logParameters(const CameraParameters& parameters) {
     qInfo("IR Intrinsics:\n%s\n", textOf(parameters.infrared).c_str());
     qInfo("Depth Intrinsics:\n%s\n", textOf(parameters.depth).c_str());
-    qInfo("In-Module Color Intrinsics:\n%s\n", textOf(parameters.inModuleColour).c_str());
-    qInfo("Out-Module Color Intrinsics:\n%s\n", textOf(parameters.outOfModuleColour).c_str());
-    qInfo("Depth2InModule Extrinsics:\n%s\n", textOf(parameters.depthToInModule).c_str());
-    qInfo("Depth2OutModule Extrinsics:\n%s\n", textOf(parameters.depthToOutOfModule).c_str());
+    qInfo("In-Module Color Intrinsics:\n%s\n", textOf(parameters.colour[ColourCamera::Third].model).c_str());
+    qInfo("Out-Module Color Intrinsics:\n%s\n", textOf(parameters.colour[ColourCamera::Platform].model).c_str());
+    qInfo("Depth2InModule Extrinsics:\n%s\n", textOf(parameters.colour[ColourCamera::Third].fromDepth).c_str());
+    qInfo("Depth2OutModule Extrinsics:\n%s\n", textOf(parameters.colour[ColourCamera::Platform].fromDepth).c_str());
 }
 
 }  // namespace
@@ -129,7 +130,7 @@ std::optional<ModuleCalibration> readCalibration(ModuleLink& link, KXThirdCamera
     }
     const auto records = readModule(link, third);
     ModuleCalibration calibration;
-    calibration.parameters.depthToOutOfModule.rotation.fill(0);
+    calibration.parameters.colour[ColourCamera::Platform].fromDepth.rotation.fill(0);
     if (!records || !fillModule(link, *records, &calibration.parameters) || !fitStreams(link, third, *records)) {
         return std::nullopt;
     }

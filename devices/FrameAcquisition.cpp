@@ -54,7 +54,7 @@ bool FrameAcquisition::sizeRecords(KXDevice& device, KXThirdCamera& third) {
     return size(&records.depth, device.depthWidth(), device.depthHeight()) &&
            size(&records.leftInfrared, device.lrWidth(), device.lrHeight()) &&
            size(&records.rightInfrared, device.lrWidth(), device.lrHeight()) &&
-           size(&records.inModuleColour, third.thirdWidth(), third.thirdHeight());
+           size(&records.colour[ColourCamera::Third], third.thirdWidth(), third.thirdHeight());
 }
 
 void FrameAcquisition::refresh(KXDevice& device, KXThirdCamera* third, const SensorSettings& settings) {
@@ -87,9 +87,9 @@ void FrameAcquisition::refreshThird(KXThirdCamera& third, const SensorSettings& 
     if (!isPlausiblePictureSize(settings.thirdScaledWidth, settings.thirdScaledHeight)) return;
     thirdNews.delivered = true;
     thirdNews.changed = keepIfNew(pixels, width, height);
-    if (!thirdNews.changed && hasSize(records.inModuleColour, settings)) return;
+    if (!thirdNews.changed && hasSize(records.colour[ColourCamera::Third], settings)) return;
     scaleIntoRecord(third_, settings.thirdScaledWidth, settings.thirdScaledHeight, &scaledThird_,
-                    &records.inModuleColour);
+                    &records.colour[ColourCamera::Third]);
 }
 
 bool FrameAcquisition::keepIfNew(const std::uint8_t* pixels, std::int32_t width, std::int32_t height) {

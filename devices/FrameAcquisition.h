@@ -1,5 +1,6 @@
 #pragma once
 
+#include "camera/ColourCamera.h"
 #include "camera/ImageFrame.h"
 #include "devices/SensorSettings.h"
 #include "kxapi/KXAPI.h"
@@ -17,8 +18,7 @@ struct FrameRecords {
     ImageFrame16 leftInfrared;
     ImageFrame16 rightInfrared;  ///< of the same grab as the others; empty when that brought none
     ImageFrame16 depth;
-    ImageFrame32 inModuleColour;
-    ImageFrame32 outOfModuleColour;
+    PerColourCamera<ImageFrame32> colour;
 };
 
 /// What a grab brought of a stream.

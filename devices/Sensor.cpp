@@ -129,7 +129,7 @@ bool Sensor::grab(bool wait) {
     }
     followPairs();
     platformPicture_.deliver(settings_.platformScaledWidth, settings_.platformScaledHeight,
-                             &frames_->records.outOfModuleColour);
+                             &frames_->records.colour[ColourCamera::Platform]);
     return true;
 }
 
@@ -148,13 +148,13 @@ void Sensor::followPairs() {
     if (frames_->depthNews.delivered) depthAt_ = now;
     // Whoever takes the depth with a pair must not take that of another moment.
     if (settings_.depthEnabled && now - depthAt_ > kOldest) frames_->records.depth.resize(0, 0);
-    inModulePair_.follow(frames_->leftNews, frames_->thirdNews, now, now);
+    pairs_[ColourCamera::Third].follow(frames_->leftNews, frames_->thirdNews, now, now);
     const StreamNews platform{platformNv12_ != nullptr, platformNv12_ != nullptr && platformPicture_.changed()};
-    platformPair_.follow(frames_->leftNews, platform, now, platformPicture_.arrived());
+    pairs_[ColourCamera::Platform].follow(frames_->leftNews, platform, now, platformPicture_.arrived());
 }
 
-bool Sensor::isFreshPair(bool platformCamera) const {
-    const auto age = (platformCamera ? platformPair_ : inModulePair_).age(environment_.now());
+bool Sensor::isFreshPair(ColourCamera camera) const {
+    const auto age = pairs_[camera].age(environment_.now());
     return age && *age <= kOldest;
 }
 
@@ -164,19 +164,19 @@ bool Sensor::setEmitter(bool on) {
 
 void Sensor::use(ModuleCalibration calibration) {
     const CameraParameters& parameters = calibration.parameters;
-    settings_.thirdScaledWidth = parameters.inModuleColour.width;
-    settings_.thirdScaledHeight = parameters.inModuleColour.height;
-    rotationsInFlash_ = StoredRotations{parameters.depthToInModule.rotation, std::nullopt};
+    settings_.thirdScaledWidth = parameters.colour[ColourCamera::Third].model.width;
+    settings_.thirdScaledHeight = parameters.colour[ColourCamera::Third].model.height;
+    rotationsInFlash_ = StoredRotations{parameters.colour[ColourCamera::Third].fromDepth.rotation, std::nullopt};
     if (!calibration.platform) {
         settings_.usePlatformCamera = false;
         platformNv12_ = nullptr;
         closePlatformCamera();
         return;
     }
-    rotationsInFlash_->platform = parameters.depthToOutOfModule.rotation;
+    rotationsInFlash_->platform = parameters.colour[ColourCamera::Platform].fromDepth.rotation;
     platformCalibration_ = std::move(*calibration.platform);
-    settings_.platformScaledWidth = parameters.outOfModuleColour.width;
-    settings_.platformScaledHeight = parameters.outOfModuleColour.height;
+    settings_.platformScaledWidth = parameters.colour[ColourCamera::Platform].model.width;
+    settings_.platformScaledHeight = parameters.colour[ColourCamera::Platform].model.height;
 }
 
 void Sensor::closePlatformCamera() {

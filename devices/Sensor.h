@@ -60,7 +60,7 @@ public:
     const FrameRecords& frames() const { return frames_->records; }
     /// Whether the infrared picture and that of a colour camera, as they stand in the records, may be matched: they
     /// were delivered together, and neither is older than a tenth of a second.
-    bool isFreshPair(bool platformCamera) const;
+    bool isFreshPair(ColourCamera camera) const;
     const SensorSettings& settings() const { return settings_; }
 
     /// The rear camera's picture that the last `grab` brought, as the camera delivered it (NV12, 1280 x 720); null when
@@ -134,7 +134,7 @@ private:
     SensorSettings settings_;
     std::shared_ptr<FrameAcquisition> frames_ = std::make_shared<FrameAcquisition>();
     PlatformPicture platformPicture_;
-    Pairing inModulePair_, platformPair_;
+    PerColourCamera<Pairing> pairs_;
     Pairing::Clock::time_point depthAt_;
     const std::uint8_t* platformNv12_ = nullptr;
     PlatformCalibration platformCalibration_;

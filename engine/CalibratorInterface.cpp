@@ -101,10 +101,11 @@ std::int32_t CalibratorInterface::setCameraParameters(bool platformCamera) {
     const std::lock_guard guard(context_.lock);
     context_.depthModel = parameters_.depth;
     context_.infraredModel = parameters_.infrared;
-    context_.colourModel = platformCamera ? parameters_.outOfModuleColour : parameters_.inModuleColour;
-    context_.colourScaling = platformCamera ? parameters_.outOfModuleScaling : parameters_.inModuleScaling;
-    context_.defaultExtrinsics =
-        poseFromExtrinsics(platformCamera ? parameters_.depthToOutOfModule : parameters_.depthToInModule);
+    const auto& colour =
+        parameters_.colour[platformCamera ? fieldcal::ColourCamera::Platform : fieldcal::ColourCamera::Third];
+    context_.colourModel = colour.model;
+    context_.colourScaling = colour.scaling;
+    context_.defaultExtrinsics = poseFromExtrinsics(colour.fromDepth);
     context_.state = std::make_unique<RegistrationState>();
     context_.state->setExtrinsics(context_.defaultExtrinsics);
     context_.currentAnglesDeg = context_.state->values();

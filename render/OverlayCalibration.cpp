@@ -2,14 +2,10 @@
 
 namespace fieldcal {
 
-OverlayCalibration overlayCalibration(const CameraParameters& parameters, bool platform,
+OverlayCalibration overlayCalibration(const CameraParameters& parameters, ColourCamera camera,
                                       const std::array<float, 9>& estimated) {
-    if (platform) {
-        return {parameters.depth, parameters.outOfModuleColour, parameters.outOfModuleScaling,
-                parameters.depthToOutOfModule, estimated};
-    }
-    return {parameters.depth, parameters.inModuleColour, parameters.inModuleScaling, parameters.depthToInModule,
-            estimated};
+    const ColourCameraParameters& colour = parameters.colour[camera];
+    return {parameters.depth, colour.model, colour.scaling, colour.fromDepth, estimated};
 }
 
 }  // namespace fieldcal

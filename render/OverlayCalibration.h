@@ -17,8 +17,7 @@ struct OverlayCalibration {
     std::array<float, 9> estimated = kNoRotation;  ///< the rotation that was found; row-major
 };
 
-/// `platform`: the out-of-module camera instead of the one inside the module.
-OverlayCalibration overlayCalibration(const CameraParameters& parameters, bool platform,
+OverlayCalibration overlayCalibration(const CameraParameters& parameters, ColourCamera camera,
                                       const std::array<float, 9>& estimated);
 
 }  // namespace fieldcal

@@ -31,7 +31,7 @@ QString resultText(const ServiceReport& report) {
 
 QByteArray lineOf(const ServiceReport& report, const ReportedCamera& camera) {
     QStringList fields{report.time.toUTC().toString(Qt::ISODate), QString::number(report.serial),
-                       camera.platform ? "platform" : "third"};
+                       nameOf(camera.camera)};
     for (const Eigen::Matrix3d& rotation : {camera.stored, camera.accepted}) {
         const Eigen::Vector3d anglesDeg = anglesDegOf(rotation);
         addAngles(&fields, std::array<double, 3>{anglesDeg.x(), anglesDeg.y(), anglesDeg.z()});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "camera/ColourCamera.h"
 #include "engine/ParallaxReport.h"
 #include "engine/SolutionEvidence.h"
 #include "engine/SolutionQuality.h"
@@ -16,9 +17,9 @@ namespace fieldcal {
 
 /// What a calibration of one colour camera came to. Rotations: depth to colour.
 struct ReportedCamera {
-    bool platform = false;                                 ///< the tablet's rear camera, not the one inside the module
-    Eigen::Matrix3d stored = Eigen::Matrix3d::Identity();  ///< what the module held before
-    Eigen::Matrix3d found = Eigen::Matrix3d::Identity();   ///< what the engine found
+    ColourCamera camera = ColourCamera::Third;
+    Eigen::Matrix3d stored = Eigen::Matrix3d::Identity();    ///< what the module held before
+    Eigen::Matrix3d found = Eigen::Matrix3d::Identity();     ///< what the engine found
     Eigen::Matrix3d accepted = Eigen::Matrix3d::Identity();  ///< the same, or as the user has moved it
     std::optional<vq::SolutionQuality> quality;              ///< of the found rotation
     std::optional<vq::SolutionEvidence> evidence;

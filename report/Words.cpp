@@ -39,7 +39,7 @@ QString baselineText(const vq::ParallaxReport& parallax) {
 }  // namespace
 
 QString cameraName(const ReportedCamera& camera) {
-    return camera.platform ? "Rear camera of the tablet" : "Colour camera in the module";
+    return camera.camera == ColourCamera::Platform ? "Rear camera of the tablet" : "Colour camera in the module";
 }
 
 QString summaryText(const ReportedCamera& camera) {

@@ -25,20 +25,21 @@ int run(const CalibrateOptions& options) {
     if (!options.verbose) silenceLogs();
     const unsigned seed = options.seed ? *options.seed : std::random_device{}();
     const QString folder = QString::fromStdString(options.folder);
-    ResultFile result(QString::fromStdString(options.jsonFile), folder, options.platformCamera, seed);
+    ResultFile result(QString::fromStdString(options.jsonFile), folder, options.camera, seed);
     session::SessionDescription session;
     std::string reason;
     if (!session::readDescription(options.folder, &session, &reason) || !session::verify(options.folder, &reason)) {
         return result.fail(QString::fromStdString(reason));
     }
-    if (options.platformCamera && !session.platform) return refuseUsage("the recording has no platform camera");
-    result.describe(cameraPair(session, options.platformCamera));
+    if (options.camera == ColourCamera::Platform && !session.platform)
+        return refuseUsage("the recording has no platform camera");
+    result.describe(cameraPair(session, options.camera));
 
     // Only the simulated library plays recordings; the pictures of a real camera would be taken for the recording's.
     if (!useSimulatedLibraries()) return result.fail("The folder with the simulated libraries is missing.");
     std::srand(seed);
     const bool toPeople = !result.toStandardOutput();
-    RecordingCalibration calibration(options.folder, session, options.platformCamera, toPeople ? printLine : nullptr);
+    RecordingCalibration calibration(options.folder, session, options.camera, toPeople ? printLine : nullptr);
     calibration.setWriting(options.write);
     calibration.useMemory(BaselineMemory(userDataFolder()));
     QString why;

@@ -133,7 +133,7 @@ QJsonObject reportJson(const CalibrationReport& report) {
         perPair.append(jsonPair(pair));
     QJsonObject object{
         {"solved", report.solved},
-        {"camera", report.platformCamera ? "platform" : "third"},
+        {"camera", nameOf(report.camera)},
         {"pairs", static_cast<int>(report.pairs.size())},
         {"framesUsed", report.framesUsed},
         {"anglesDeg", jsonNumbers(report.anglesDeg)},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "camera/ColourCamera.h"
 #include "camera/Rotation.h"
 #include "engine/CrossModalMatcher.h"
 #include "engine/ParallaxReport.h"
@@ -25,7 +26,7 @@ struct PairReport {
 /// The result of playing a recording.
 struct CalibrationReport {
     bool solved = false;
-    bool platformCamera = false;
+    ColourCamera camera = ColourCamera::Third;
     int framesUsed = 0;                 ///< frame sets grabbed
     std::array<double, 3> anglesDeg{};  ///< of `rotation`, about X, Y and Z
     Matrix3 rotation{};                 ///< depth to colour; the factory rotation when not solved

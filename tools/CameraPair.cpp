@@ -77,8 +77,8 @@ CameraPair readPair(const JsonKey& root, const nlohmann::json& document) {
     }
     if (!root["solved"].boolean()) root["solved"].refuse("there is no solution to export");
     const std::string camera = root["camera"].text();
-    out.isPlatform = camera == "platform";
-    if (!out.isPlatform && camera != "third") root["camera"].refuse("third or platform expected");
+    out.camera = camera == nameOf(ColourCamera::Platform) ? ColourCamera::Platform : ColourCamera::Third;
+    if (camera != out.name()) root["camera"].refuse("third or platform expected");
     out.serial = static_cast<std::uint32_t>(root["serial"].integer(0, 4294967295.0));
     out.rotation = root["rotation"].rotation();
     if (const auto deviation = document.find("uncertaintyDeg"); deviation != document.end() && !deviation->is_null()) {
@@ -88,15 +88,16 @@ CameraPair readPair(const JsonKey& root, const nlohmann::json& document) {
     readIntrinsics(cameras["infrared"], &out.infrared);
     readIntrinsics(cameras["colour"], &out.colour);
     out.translationM = cameras["translationM"].numbers<3>(-kLargestTranslationM, kLargestTranslationM);
-    if (out.isPlatform) out.unrectified = readUnrectified(cameras);
+    if (out.camera == ColourCamera::Platform) out.unrectified = readUnrectified(cameras);
     return out;
 }
 
 }  // namespace
 
-CameraPair cameraPair(const session::SessionDescription& session, bool isPlatform) {
+CameraPair cameraPair(const session::SessionDescription& session, ColourCamera camera) {
+    const bool isPlatform = camera == ColourCamera::Platform;
     CameraPair pair;
-    pair.isPlatform = isPlatform;
+    pair.camera = camera;
     pair.serial = session.module.serial;
     pair.infrared = session.infrared;
     pair.colour = isPlatform ? session.platform->rectified : session.third;

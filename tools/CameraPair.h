@@ -1,5 +1,6 @@
 #pragma once
 
+#include "camera/ColourCamera.h"
 #include "session/RecordedSession.h"
 
 #include <QJsonObject>
@@ -19,20 +20,20 @@ struct UnrectifiedCamera {
 /// The infrared camera and one colour camera, as they are calibrated. Intrinsics follow the project's convention about
 /// principal points (`docs/conventions.md`).
 struct CameraPair {
-    bool isPlatform = false;  ///< the rear camera: `colour` is its rectified model
+    ColourCamera camera = ColourCamera::Third;
     std::uint32_t serial = 0;
     session::Intrinsics infrared;
-    session::Intrinsics colour;
+    session::Intrinsics colour;  ///< the platform camera's: of its rectified images
     std::optional<UnrectifiedCamera> unrectified;
     session::Matrix3 rotation{};                   ///< depth to colour
     session::Vector3 translationM{};               ///< depth to colour, metres
     std::optional<session::Vector3> deviationDeg;  ///< of the angles about X, Y and Z
 
-    const char* name() const { return isPlatform ? "platform" : "third"; }
+    const char* name() const { return nameOf(camera); }
 };
 
-/// Returns the cameras with the rotation that the session describes. `isPlatform` only where it has a rear camera.
-CameraPair cameraPair(const session::SessionDescription& session, bool isPlatform);
+/// Returns the cameras with the rotation that the session describes. The platform camera only where it has one.
+CameraPair cameraPair(const session::SessionDescription& session, ColourCamera camera);
 
 /// Returns what the key "cameras" of a result holds: all of the pair but its rotation, deviations and serial number.
 QJsonObject camerasJson(const CameraPair& pair);

@@ -28,6 +28,10 @@ CLI::Validator wholeNumber(unsigned smallest, unsigned largest) {
     return {validate, ""};
 }
 
+ColourCamera cameraNamed(const std::string& name) {
+    return name == nameOf(ColourCamera::Platform) ? ColourCamera::Platform : ColourCamera::Third;
+}
+
 std::string isCamera(const std::string& name) {
     return name == "third" || name == "platform" ? "" : "takes third or platform";
 }
@@ -109,7 +113,7 @@ private:
     void addCalibrate() {
         CLI::App* verb = addVerb("calibrate", "Play a recording and calibrate one of its colour cameras", calibrate_);
         verb->add_option("DIR", calibrate_.folder, "The recording")->required()->check(isGiven)->type_name("");
-        const auto takeCamera = [this](const std::string& name) { calibrate_.platformCamera = name == "platform"; };
+        const auto takeCamera = [this](const std::string& name) { calibrate_.camera = cameraNamed(name); };
         lastCounts(verb->add_option_function<std::string>("--camera", takeCamera, "The camera, third by default"))
             ->check(isCamera)
             ->type_name("third|platform");
@@ -182,7 +186,7 @@ private:
             ->required()
             ->check(isFormat)
             ->type_name("ros|tf|urdf|opencv|kalibr");
-        const auto takeCamera = [this](const std::string& name) { export_.platformCamera = name == "platform"; };
+        const auto takeCamera = [this](const std::string& name) { export_.camera = cameraNamed(name); };
         lastCounts(verb->add_option_function<std::string>("--camera", takeCamera, "That of a result, or third"))
             ->check(isCamera)
             ->type_name("third|platform");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "camera/ColourCamera.h"
 #include "tools/ExportFormats.h"
 
 #include <QStringList>
@@ -20,7 +21,7 @@ enum ExitStatus : int {
 
 struct CalibrateOptions {
     std::string folder;
-    bool platformCamera = false;
+    ColourCamera camera = ColourCamera::Third;
     std::optional<unsigned> seed;
     std::string jsonFile;  ///< empty: none; "-": standard output, instead of the text for people
     bool verbose = false;
@@ -58,7 +59,7 @@ struct RestoreOptions {
 struct ExportOptions {
     std::string source;  ///< the folder of a recording, the file of a result, or "module" for the one that is connected
     ExportFormat format = ExportFormat::Ros;
-    std::optional<bool> platformCamera;  ///< unset: the camera of the result, and otherwise the third
+    std::optional<ColourCamera> camera;  ///< unset: the camera of the result, and otherwise the third
     std::string outFile = "-";
 };
 

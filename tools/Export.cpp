@@ -20,10 +20,11 @@ Found failed(const QString& why) {
 }
 
 Found chosen(const session::SessionDescription& session, const ExportOptions& options, const QString& source) {
-    const bool platform = options.platformCamera.value_or(false);
+    const ColourCamera camera = options.camera.value_or(ColourCamera::Third);
     if (!session.module.calibrationValid) return failed("The calibration of " + source + " is invalid.");
-    if (platform && !session.platform) return {{}, refuseUsage(source + " has no platform camera")};
-    return {cameraPair(session, platform), kSolved};
+    if (camera == ColourCamera::Platform && !session.platform)
+        return {{}, refuseUsage(source + " has no platform camera")};
+    return {cameraPair(session, camera), kSolved};
 }
 
 Found fromRecording(const ExportOptions& options) {
@@ -37,7 +38,7 @@ Found fromResult(const ExportOptions& options) {
     CameraPair pair;
     std::string why;
     if (!readResult(options.source, &pair, &why)) return failed(QString::fromStdString(why));
-    if (options.platformCamera && *options.platformCamera != pair.isPlatform) {
+    if (options.camera && *options.camera != pair.camera) {
         return {{}, refuseUsage(QString("the result is of the %1 camera").arg(pair.name()))};
     }
     return {pair, kSolved};

@@ -35,7 +35,7 @@ QString list(std::initializer_list<double> numbers) {
 
 /// The rotation of the rear camera leads to its rectified picture, whose frame is not that of the raw one.
 QString colourName(const CameraPair& pair) {
-    return pair.isPlatform ? "platform_rectified" : "third";
+    return pair.camera == ColourCamera::Platform ? "platform_rectified" : "third";
 }
 
 QString title(const CameraPair& pair) {
@@ -66,7 +66,7 @@ QString ros(const CameraPair& pair) {
     raw.rectification = {1, 0, 0, 0, 1, 0, 0, 0, 1};
     if (cameras.unrectified) raw = *cameras.unrectified;
     QString text = "# " + title(pair) + "the " + pair.name() + " colour camera.\n" + pixelNote();
-    if (pair.isPlatform)
+    if (pair.camera == ColourCamera::Platform)
         text += "# rectification_matrix leads from the raw picture's frame to platform_rectified_optical.\n";
     text += QString("image_width: %1\nimage_height: %2\n").arg(raw.intrinsics.width).arg(raw.intrinsics.height);
     text += QString("camera_name: %1\n").arg(pair.name());

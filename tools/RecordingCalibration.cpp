@@ -14,21 +14,17 @@ namespace {
 
 constexpr int kRegistrationDistancesM[] = {1, 2, 5, 20};
 
-const ImageFrame32& colourOf(const FrameRecords& frames, bool platformCamera) {
-    return platformCamera ? frames.outOfModuleColour : frames.inModuleColour;
-}
-
 Eigen::Matrix3d eigen(const Matrix3& matrix) {
     return Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(matrix.data());
 }
 
 }  // namespace
 
-RecordingCalibration::RecordingCalibration(std::string folder, session::SessionDescription session, bool platformCamera,
+RecordingCalibration::RecordingCalibration(std::string folder, session::SessionDescription session, ColourCamera camera,
                                            std::function<void(const QString&)> say)
     : folder_(std::move(folder)),
       session_(std::move(session)),
-      platformCamera_(platformCamera),
+      camera_(camera),
       say_(std::move(say)),
       engine_(context_, parameters_) {}
 
@@ -61,8 +57,8 @@ bool RecordingCalibration::open(Sensor& sensor, QString* why) {
     settings.usePlatformCamera = session_.platform.has_value();
     *why = "The camera could not be opened.";
     if (!sensor.open(settings) || !readCameraParameters(sensor, &parameters_, [] {})) return false;
-    sensor.setPlatformPictureWanted(platformCamera_);
-    if (!platformCamera_ || sensor.settings().usePlatformCamera) return true;
+    sensor.setPlatformPictureWanted(camera_ == ColourCamera::Platform);
+    if (camera_ == ColourCamera::Third || sensor.settings().usePlatformCamera) return true;
     *why = "The module has no usable calibration of the rear camera.";
     return false;
 }
@@ -71,20 +67,20 @@ bool RecordingCalibration::open(Sensor& sensor, QString* why) {
 bool RecordingCalibration::play(Sensor& sensor, CalibrationAttempt& attempt, bool* solved) {
     const int grabs = session_.grabCount();
     vq::Stopwatch frameWatch;
-    attempt.start(platformCamera_);
+    attempt.start(camera_);
     while (report_.framesUsed < grabs && !*solved) {
         const std::size_t pairsBefore = report_.pairs.size();
         frameWatch.lap();
         if (!sensor.grab(true) || !reports_.first().isEmpty()) return false;
         ++report_.framesUsed;
         const FrameRecords& frames = sensor.frames();
-        const auto outcome = attempt.processFrame(
-            {frames.leftInfrared, colourOf(frames, platformCamera_), frames.rightInfrared, frames.depth});
+        const auto outcome =
+            attempt.processFrame({frames.leftInfrared, frames.colour[camera_], frames.rightInfrared, frames.depth});
         report_.frameSeconds += frameWatch.lap();
         *solved = outcome == CalibrationAttempt::Outcome::Solved;
         if (outcome == CalibrationAttempt::Outcome::Failed) {
             attempt.fail();
-            attempt.start(platformCamera_);
+            attempt.start(camera_);
         }
         if (report_.pairs.size() > pairsBefore) report_.frameSeconds -= report_.pairs.back().seconds;
     }
@@ -93,8 +89,8 @@ bool RecordingCalibration::play(Sensor& sensor, CalibrationAttempt& attempt, boo
 }
 
 void RecordingCalibration::finish(bool solved) {
-    const auto& factory = platformCamera_ ? parameters_.depthToOutOfModule : parameters_.depthToInModule;
-    report_.platformCamera = platformCamera_;
+    const auto& factory = parameters_.colour[camera_].fromDepth;
+    report_.camera = camera_;
     report_.factoryRotation = report_.rotation = widened(factory.rotation.data());
     report_.solved = solved;
     if (solved) {
@@ -103,7 +99,7 @@ void RecordingCalibration::finish(bool solved) {
         report_.rotation = widened(rotation.data());
         report_.quality = engine_.calibrator().quality();
         evidence_ = engine_.calibrator().evidence();
-        const auto& truth = platformCamera_ ? session_.truthPlatform : session_.truthThird;
+        const auto& truth = camera_ == ColourCamera::Platform ? session_.truthPlatform : session_.truthThird;
         if (truth) {
             report_.errorDeg = angleBetweenDeg(report_.rotation, *truth);
             report_.registrationPx = registrationErrors(*truth);
@@ -119,12 +115,10 @@ void RecordingCalibration::finish(bool solved) {
 std::map<int, double> RecordingCalibration::registrationErrors(const Matrix3& truth) const {
     const auto hasDepth = [](const session::FrameEntry& frame) { return !frame.depth.empty(); };
     if (std::none_of(session_.frames.begin(), session_.frames.end(), hasDepth)) return {};
-    const vq::CameraPair cameras{parameters_.infrared,
-                                 platformCamera_ ? parameters_.outOfModuleColour : parameters_.inModuleColour,
-                                 platformCamera_ ? parameters_.outOfModuleScaling : parameters_.inModuleScaling};
-    const auto& factory = platformCamera_ ? parameters_.depthToOutOfModule : parameters_.depthToInModule;
-    const vq::Projection projection{cameras,
-                                    Eigen::Map<const Eigen::Vector3f>(factory.translation.data()).cast<double>()};
+    const ColourCameraParameters& colour = parameters_.colour[camera_];
+    const vq::CameraPair cameras{parameters_.infrared, colour.model, colour.scaling};
+    const vq::Projection projection{
+        cameras, Eigen::Map<const Eigen::Vector3f>(colour.fromDepth.translation.data()).cast<double>()};
     std::map<int, double> errorsPx;
     for (const int metres : kRegistrationDistancesM) {
         errorsPx[metres] =
@@ -136,9 +130,10 @@ std::map<int, double> RecordingCalibration::registrationErrors(const Matrix3& tr
 bool RecordingCalibration::write(Sensor& sensor, QString* why) {
     Rotation rotation{};
     engine_.getRotationMatrix(rotation.data());
-    const Rotation& third = platformCamera_ ? parameters_.depthToInModule.rotation : rotation;
-    const Rotation& platform = platformCamera_ ? rotation : parameters_.depthToOutOfModule.rotation;
-    report_.written = sensor.updateRotation(third, platform);
+    PerColourCamera<Rotation> wanted;
+    for (const ColourCamera camera : kColourCameras)
+        wanted[camera] = camera == camera_ ? rotation : parameters_.colour[camera].fromDepth.rotation;
+    report_.written = sensor.updateRotation(wanted[ColourCamera::Third], wanted[ColourCamera::Platform]);
     const WriteBackReport& done = sensor.writeBack();
     writeBack_ = done;
     if (*report_.written) {
@@ -157,7 +152,7 @@ ServiceReport RecordingCalibration::serviceReport() const {
     report.firmware = QString::fromStdString(session_.module.firmware);
     report.source = QDir::cleanPath(QString::fromStdString(folder_));
     ReportedCamera camera;
-    camera.platform = platformCamera_;
+    camera.camera = camera_;
     camera.stored = eigen(report_.factoryRotation);
     camera.found = camera.accepted = eigen(report_.rotation);
     camera.quality = report_.quality;
@@ -172,8 +167,8 @@ ServiceReport RecordingCalibration::serviceReport() const {
 vq::CalibrationState RecordingCalibration::engineState() const {
     vq::Pose pose = context_.defaultExtrinsics;
     pose.topLeftCorner<3, 3>() = eigen(report_.rotation).cast<float>();
-    return vq::calibrationState(context_.infraredModel, parameters_.inModuleColour, context_.colourModel, pose,
-                                platformCamera_ ? 1 : 0);
+    return vq::calibrationState(context_.infraredModel, parameters_.colour[ColourCamera::Third].model,
+                                context_.colourModel, pose, camera_ == ColourCamera::Platform ? 1 : 0);
 }
 
 void RecordingCalibration::pairCaptured() {

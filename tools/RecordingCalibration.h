@@ -25,7 +25,7 @@ namespace fieldcal {
 class RecordingCalibration : private AttemptListener {
 public:
     /// `say` receives one line for each event; it may be empty.
-    RecordingCalibration(std::string folder, session::SessionDescription session, bool platformCamera,
+    RecordingCalibration(std::string folder, session::SessionDescription session, ColourCamera camera,
                          std::function<void(const QString&)> say);
 
     /// Sets whether a solution is written into the module's flash.
@@ -54,7 +54,7 @@ private:
 
     const std::string folder_;
     const session::SessionDescription session_;
-    const bool platformCamera_;
+    const ColourCamera camera_;
     const std::function<void(const QString&)> say_;
     SensorReports reports_;
     CameraParameters parameters_;

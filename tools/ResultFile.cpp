@@ -27,12 +27,12 @@ bool writeInto(QFile* file, const QByteArray& bytes) {
 
 }  // namespace
 
-ResultFile::ResultFile(QString path, const QString& recording, bool platformCamera, unsigned seed)
+ResultFile::ResultFile(QString path, const QString& recording, ColourCamera camera, unsigned seed)
     : path_(std::move(path)),
       origin_{{"schema", kResultSchema},
               {"program", FIELDCAL_VERSION},
               {"recording", QDir(recording).absolutePath()},
-              {"camera", platformCamera ? "platform" : "third"},
+              {"camera", nameOf(camera)},
               {"seed", static_cast<qint64>(seed)}} {}
 
 bool ResultFile::write(const CalibrationReport& report, QString* why) const {

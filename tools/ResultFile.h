@@ -18,7 +18,7 @@ inline constexpr int kResultSchema = 1;
 class ResultFile {
 public:
     /// `path`: a file, "-" for standard output, or empty for nowhere.
-    ResultFile(QString path, const QString& recording, bool platformCamera, unsigned seed);
+    ResultFile(QString path, const QString& recording, ColourCamera camera, unsigned seed);
 
     /// Takes over what the recording tells of the module.
     void describe(const CameraPair& cameras) { cameras_ = cameras; }

@@ -28,9 +28,9 @@ void CalibrationAttempt::useMemory(const BaselineMemory& memory, std::uint32_t s
     serial_ = serial;
 }
 
-void CalibrationAttempt::start(bool secondCamera) {
+void CalibrationAttempt::start(ColourCamera camera) {
     calibrator_.resetState();
-    calibrator_.setCameraParameters(secondCamera);
+    calibrator_.setCameraParameters(camera == ColourCamera::Platform);
     if (memory_) calibrator_.setRememberedBaseline(memory_->find(serial_).value_or(0));
     calibrator_.setup();
     photoCount_ = 0;

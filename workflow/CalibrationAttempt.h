@@ -1,5 +1,6 @@
 #pragma once
 
+#include "camera/ColourCamera.h"
 #include "camera/ImageFrame.h"
 #include "engine/ICalibrator.h"
 #include "workflow/AttemptListener.h"
@@ -32,7 +33,7 @@ public:
     void useMemory(const BaselineMemory& memory, std::uint32_t serial);
 
     /// Forgets what was collected before, of whichever camera, and starts from the factory rotation of the chosen one.
-    void start(bool secondCamera);
+    void start(ColourCamera camera);
 
     enum class Outcome {
         Continues,

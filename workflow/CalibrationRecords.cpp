@@ -2,55 +2,57 @@
 
 namespace fieldcal {
 
-void CalibrationRecords::setFactory(const Rotation& inModule, const Rotation& outOfModule) {
+void CalibrationRecords::setFactory(const Rotation& third, const Rotation& platform) {
     const std::lock_guard lock(mutex_);
-    records_ = {Records{inModule, {}, {}}, Records{outOfModule, {}, {}}};
+    records_ = {};
+    records_[ColourCamera::Third].factory = third;
+    records_[ColourCamera::Platform].factory = platform;
 }
 
 bool CalibrationRecords::setEstimated(ColourCamera camera, const Rotation& rotation,
                                       const std::function<bool()>& valid) {
     const std::lock_guard lock(mutex_);
     if (!valid()) return false;
-    of(camera).estimated = rotation;
+    records_[camera].estimated = rotation;
     return true;
 }
 
 void CalibrationRecords::forgetEstimate(ColourCamera camera) {
     const std::lock_guard lock(mutex_);
-    of(camera).estimated.reset();
+    records_[camera].estimated.reset();
 }
 
 bool CalibrationRecords::accept(ColourCamera camera, const Rotation& rotation) {
     const std::lock_guard lock(mutex_);
-    if (!of(camera).estimated) return false;
-    of(camera).accepted = rotation;
+    if (!records_[camera].estimated) return false;
+    records_[camera].accepted = rotation;
     return true;
 }
 
 void CalibrationRecords::forget(ColourCamera camera) {
     const std::lock_guard lock(mutex_);
-    of(camera).estimated.reset();
-    of(camera).accepted.reset();
+    records_[camera].estimated.reset();
+    records_[camera].accepted.reset();
 }
 
 std::optional<Rotation> CalibrationRecords::estimated(ColourCamera camera) const {
     const std::lock_guard lock(mutex_);
-    return of(camera).estimated;
+    return records_[camera].estimated;
 }
 
 std::optional<Rotation> CalibrationRecords::accepted(ColourCamera camera) const {
     const std::lock_guard lock(mutex_);
-    return of(camera).accepted;
+    return records_[camera].accepted;
 }
 
 bool CalibrationRecords::anyAccepted() const {
     const std::lock_guard lock(mutex_);
-    return records_[0].accepted || records_[1].accepted;
+    return records_[ColourCamera::Third].accepted || records_[ColourCamera::Platform].accepted;
 }
 
 Rotation CalibrationRecords::toStore(ColourCamera camera) const {
     const std::lock_guard lock(mutex_);
-    return of(camera).accepted.value_or(of(camera).factory);
+    return records_[camera].accepted.value_or(records_[camera].factory);
 }
 
 }  // namespace fieldcal

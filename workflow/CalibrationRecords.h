@@ -1,23 +1,20 @@
 #pragma once
 
+#include "camera/ColourCamera.h"
 #include "camera/Rotation.h"
 
-#include <array>
 #include <functional>
 #include <mutex>
 #include <optional>
 
 namespace fieldcal {
 
-/// The cameras whose rotation is calibrated.
-enum class ColourCamera { InModule = 0, OutOfModule = 1 };
-
 /// Three rotations for each colour camera: the factory's as read at the start, the one that the engine found, and the
 /// one that the user accepted. Any thread.
 class CalibrationRecords {
 public:
     /// Forgets everything else.
-    void setFactory(const Rotation& inModule, const Rotation& outOfModule);
+    void setFactory(const Rotation& third, const Rotation& platform);
     /// Only if `valid` says so; nobody sees the records between the question and the entry.
     bool setEstimated(ColourCamera camera, const Rotation& rotation, const std::function<bool()>& valid);
     void forgetEstimate(ColourCamera camera);
@@ -38,10 +35,7 @@ private:
         std::optional<Rotation> estimated;
         std::optional<Rotation> accepted;
     };
-    Records& of(ColourCamera camera) { return records_[static_cast<std::size_t>(camera)]; }
-    const Records& of(ColourCamera camera) const { return records_[static_cast<std::size_t>(camera)]; }
-
-    std::array<Records, 2> records_;
+    PerColourCamera<Records> records_;
     mutable std::mutex mutex_;
 };
 

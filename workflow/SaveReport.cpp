@@ -32,13 +32,13 @@ void SaveReport::note(ColourCamera camera, const CameraParameters& stored, const
     // Now, as a module that fails to store has no more to say.
     if (firmware_.isEmpty()) firmware_ = firmwareOf(sensor);
     ReportedCamera noted;
-    noted.platform = camera == ColourCamera::OutOfModule;
-    noted.stored = matrixOf((noted.platform ? stored.depthToOutOfModule : stored.depthToInModule).rotation);
+    noted.camera = camera;
+    noted.stored = matrixOf(stored.colour[camera].fromDepth.rotation);
     noted.found = noted.accepted = matrixOf(found);
     noted.quality = engine.quality();
     noted.evidence = engine.evidence();
     noted.parallax = engine.parallax();
-    cameras_[static_cast<std::size_t>(camera)] = std::move(noted);
+    cameras_[camera] = std::move(noted);
 }
 
 void SaveReport::keep(const QString& dataFolder, const Sensor& sensor, const CalibrationRecords& records,
@@ -51,9 +51,9 @@ void SaveReport::keep(const QString& dataFolder, const Sensor& sensor, const Cal
     const WriteBackReport& written = sensor.writeBack();
     report.write = {stored, flashText(written), written.reason, written.backupFile};
     report.firmware = firmware_;
-    for (const ColourCamera camera : {ColourCamera::InModule, ColourCamera::OutOfModule}) {
+    for (const ColourCamera camera : kColourCameras) {
         const auto accepted = records.accepted(camera);
-        const auto& noted = cameras_[static_cast<std::size_t>(camera)];
+        const auto& noted = cameras_[camera];
         if (!accepted || !noted) continue;
         report.cameras.push_back(*noted);
         report.cameras.back().accepted = matrixOf(*accepted);

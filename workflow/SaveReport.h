@@ -25,7 +25,7 @@ public:
     void keep(const QString& dataFolder, const Sensor& sensor, const CalibrationRecords& records, bool stored) const;
 
 private:
-    std::array<std::optional<ReportedCamera>, 2> cameras_;
+    PerColourCamera<std::optional<ReportedCamera>> cameras_;
     QString firmware_;
 };
 

@@ -9,7 +9,7 @@ bool storeCalibration(Sensor& sensor, const CalibrationRecords& records, const Q
     SaveNote note{sensor.serialNumber(), QDateTime::currentDateTimeUtc(), {}, {}, {}};
     if (matters) writeSaveNote(dataFolder, note);
     const bool stored =
-        sensor.updateRotation(records.toStore(ColourCamera::InModule), records.toStore(ColourCamera::OutOfModule));
+        sensor.updateRotation(records.toStore(ColourCamera::Third), records.toStore(ColourCamera::Platform));
     if (!stored) qInfo("Failed to store calibration information to flash.");
     if (!matters) return stored;
     if (stored) {

@@ -51,7 +51,7 @@ void Workflow::switchCamera(ColourCamera camera) {
             // Off even if the state still is the refinement, until that is entered again.
             emitterState_ = State::RefiningCalibration;
             sensor_->setEmitter(false);
-            sensor_->setPlatformPictureWanted(secondCamera());
+            sensor_->setPlatformPictureWanted(camera_ == ColourCamera::Platform);
         });
     records_.forgetEstimate(camera);
 }

@@ -114,7 +114,6 @@ private:
     void takeSolution(const Snapshot& now);
     bool advance(const Snapshot& from, State to);
     const ImageFrame32& colourFrame() const;
-    bool secondCamera() const { return camera_ == ColourCamera::OutOfModule; }
 
     WorkflowListener& listener_;
     const WorkflowEnvironment environment_;
@@ -122,7 +121,7 @@ private:
     std::atomic<bool> giveUpWaiting_{false};
     std::atomic<bool> capturePaused_{false};
     WorkflowState state_;
-    std::atomic<ColourCamera> usersCamera_{ColourCamera::InModule};
+    std::atomic<ColourCamera> usersCamera_{ColourCamera::Third};
     CalibrationRecords records_;
 
     std::mutex actionsMutex_;
@@ -135,7 +134,7 @@ private:
     CalibrationAttempt attempt_;
     std::unique_ptr<Sensor> sensor_;
     SaveReport solutions_;
-    ColourCamera camera_ = ColourCamera::InModule;  ///< the loop's; follows the user's
+    ColourCamera camera_ = ColourCamera::Third;  ///< the loop's; follows the user's
     bool sensorReady_ = false;
     bool faultTold_ = false;
     bool platformIssueTold_ = false;

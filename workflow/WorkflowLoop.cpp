@@ -112,7 +112,8 @@ void Workflow::openCamera(const Snapshot& now) {
         return;
     }
     sensor_->setPlatformPictureWanted(false);
-    records_.setFactory(factory_.depthToInModule.rotation, factory_.depthToOutOfModule.rotation);
+    records_.setFactory(factory_.colour[ColourCamera::Third].fromDepth.rotation,
+                        factory_.colour[ColourCamera::Platform].fromDepth.rotation);
     engine_.setCameraParameters(false);
     attempt_.useMemory(BaselineMemory(environment_.dataFolder), sensor_->serialNumber());
     sensorReady_ = true;
@@ -165,12 +166,12 @@ void Workflow::resetCalibration(const Snapshot& now) {
 
 void Workflow::startCalibration(const Snapshot& now) {
     records_.forgetEstimate(camera_);
-    attempt_.start(secondCamera());
+    attempt_.start(camera_);
     if (advance(now, State::ProcessingFrame)) listener_.calibrationProgress(0.0);
 }
 
 void Workflow::processFrame(const Snapshot& now) {
-    if (!sensor_->isFreshPair(secondCamera())) return;
+    if (!sensor_->isFreshPair(camera_)) return;
     const std::int32_t photosBefore = attempt_.photoCount();
     const FrameRecords& frames = sensor_->frames();
     const CalibrationAttempt::Outcome outcome =
@@ -204,11 +205,12 @@ void Workflow::takeSolution(const Snapshot& now) {
     engine_.getRotationMatrix(estimated.data());
     engine_.getTranslation(translation.data());
     solutions_.note(camera_, factory_, estimated, engine_.calibrator(), *sensor_);
-    if (secondCamera()) qInfo("Out of module color sensor:");
-    const CameraExtrinsics& stored = secondCamera() ? factory_.depthToOutOfModule : factory_.depthToInModule;
+    const bool isPlatform = camera_ == ColourCamera::Platform;
+    if (isPlatform) qInfo("Out of module color sensor:");
+    const CameraExtrinsics& stored = factory_.colour[camera_].fromDepth;
     logSolution(stored, estimated, translation);
     const FoundTurn turn = foundTurn(stored.rotation, estimated, engine_.quality());
-    const State next = secondCamera() ? State::RefiningCalibration : State::RefiningTutorial;
+    const State next = isPlatform ? State::RefiningCalibration : State::RefiningTutorial;
     if (!records_.setEstimated(camera_, estimated, [&] { return state_.advance(now, next); })) return;
     listener_.solutionFound(camera_, factory_, estimated, turn);
     listener_.stateChanged(next);
@@ -221,8 +223,7 @@ bool Workflow::advance(const Snapshot& from, State to) {
 }
 
 const ImageFrame32& Workflow::colourFrame() const {
-    const FrameRecords& frames = sensor_->frames();
-    return secondCamera() ? frames.outOfModuleColour : frames.inModuleColour;
+    return sensor_->frames().colour[camera_];
 }
 
 void Workflow::handOver(QThread* thread) {

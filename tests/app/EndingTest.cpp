@@ -14,8 +14,8 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-constexpr ColourCamera kFirst = ColourCamera::InModule;
-constexpr ColourCamera kSecond = ColourCamera::OutOfModule;
+constexpr ColourCamera kFirst = ColourCamera::Third;
+constexpr ColourCamera kSecond = ColourCamera::Platform;
 constexpr const char* kSaved = "saveText|The calibration is stored in the camera.";
 
 Eigen::Vector3d anglesDeg(const Rotation& rotation) {

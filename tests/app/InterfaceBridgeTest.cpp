@@ -107,7 +107,7 @@ TEST_F(InterfaceBridgeTest, EachCameraSwitchNamesItsCamera) {
     forget();
     press("switchToOOMColorSensor");
     EXPECT_THAT(calls(), ElementsAre("camera|Second Color Camera", "progress|0.0", align + "second" + restart));
-    EXPECT_EQ(manager->workflow().camera(), ColourCamera::OutOfModule);
+    EXPECT_EQ(manager->workflow().camera(), ColourCamera::Platform);
 
     start("platformCamera:1:0");
     ASSERT_TRUE(waitUntil([&] { return wasTold("state|1"); }));

@@ -21,14 +21,14 @@ TEST(SameAnswerTest, TheApplicationAndTheCommandLineFindTheSameRotation) {
     std::srand(7);
     for (int pass = 0; pass < 2000 && workflow.state() != State::RefiningTutorial; ++pass)
         workflow.pass();
-    const std::optional<Rotation> found = workflow.records().estimated(ColourCamera::InModule);
+    const std::optional<Rotation> found = workflow.records().estimated(ColourCamera::Third);
     ASSERT_TRUE(found);
     workflow.leave();
 
     session::SessionDescription session;
     std::string whyNot;
     ASSERT_TRUE(session::readDescription(recording.toStdString(), &session, &whyNot)) << whyNot;
-    RecordingCalibration commandLine(recording.toStdString(), session, false, {});
+    RecordingCalibration commandLine(recording.toStdString(), session, ColourCamera::Third, {});
     QString why;
     std::srand(7);
     ASSERT_TRUE(commandLine.run(&why)) << why.toStdString();

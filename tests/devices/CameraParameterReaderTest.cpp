@@ -36,12 +36,12 @@ protected:
 
 TEST_F(CameraParameterReaderTest, BringsTheInModuleCameraIntoTheInfraredGeometry) {
     ASSERT_TRUE(openAndRead());  // 580/1160 = 0.5 across, 576/960 = 0.6 down; the height follows the factor across
-    EXPECT_THAT(numbersOf(parameters.inModuleColour), ElementsAre(320, 240, 580, 576, 160, 144));
-    EXPECT_FLOAT_EQ(parameters.inModuleScaling.x, 1.0F);
-    EXPECT_FLOAT_EQ(parameters.inModuleScaling.y, 1.2F) << "0.6 wanted, 240/480 delivered";
+    EXPECT_THAT(numbersOf(parameters.colour[ColourCamera::Third].model), ElementsAre(320, 240, 580, 576, 160, 144));
+    EXPECT_FLOAT_EQ(parameters.colour[ColourCamera::Third].scaling.x, 1.0F);
+    EXPECT_FLOAT_EQ(parameters.colour[ColourCamera::Third].scaling.y, 1.2F) << "0.6 wanted, 240/480 delivered";
     EXPECT_EQ(sensor->settings().thirdScaledWidth, 320);
     EXPECT_EQ(sensor->settings().thirdScaledHeight, 240);
-    EXPECT_THAT(parameters.depthToInModule.translation,
+    EXPECT_THAT(parameters.colour[ColourCamera::Third].fromDepth.translation,
                 ElementsAre(FloatEq(0.058F), FloatEq(-0.002F), FloatEq(0.001F)));
     EXPECT_THAT(numbersOf(parameters.infrared), ElementsAre(628, 468, 580, 576, 314, 234));
     EXPECT_THAT(numbersOf(parameters.depth), ElementsAre(628, 468, 581, 577, 315, 235));
@@ -57,21 +57,21 @@ TEST_F(CameraParameterReaderTest, RoundingIsToldByTheScaling) {
     device->thirdWidthValue = 642;
     device->thirdHeightValue = 481;
     ASSERT_TRUE(openAndRead());
-    EXPECT_EQ(parameters.inModuleColour.width, 803) << "a half rounds away from zero";
-    EXPECT_EQ(parameters.inModuleColour.height, 601);
-    EXPECT_FLOAT_EQ(parameters.inModuleScaling.x, 802.5F / 803);
-    EXPECT_FLOAT_EQ(parameters.inModuleScaling.y, 601.25F / 601);
+    EXPECT_EQ(parameters.colour[ColourCamera::Third].model.width, 803) << "a half rounds away from zero";
+    EXPECT_EQ(parameters.colour[ColourCamera::Third].model.height, 601);
+    EXPECT_FLOAT_EQ(parameters.colour[ColourCamera::Third].scaling.x, 802.5F / 803);
+    EXPECT_FLOAT_EQ(parameters.colour[ColourCamera::Third].scaling.y, 601.25F / 601);
 }
 
 TEST_F(CameraParameterReaderTest, ReadsThePlatformCamera) {
     ASSERT_TRUE(openAndRead());
     EXPECT_EQ(forced, 0);
     EXPECT_TRUE(sensor->settings().usePlatformCamera);
-    EXPECT_THAT(numbersOf(parameters.outOfModuleColour),
+    EXPECT_THAT(numbersOf(parameters.colour[ColourCamera::Platform].model),
                 ElementsAre(640, 360, FloatEq(580), FloatEq(576), FloatEq(325), FloatEq(355 * 576.0F / 1145)));
-    EXPECT_THAT(parameters.depthToOutOfModule.translation,
+    EXPECT_THAT(parameters.colour[ColourCamera::Platform].fromDepth.translation,
                 ElementsAre(FloatEq(-0.03F), FloatEq(0.012F), FloatEq(0.004F)));
-    EXPECT_NEAR(parameters.outOfModuleScaling.y, 576.0 / 1145 * 720 / 360, 1e-6);
+    EXPECT_NEAR(parameters.colour[ColourCamera::Platform].scaling.y, 576.0 / 1145 * 720 / 360, 1e-6);
     EXPECT_EQ(sensor->settings().platformScaledWidth, 640);
     EXPECT_EQ(sensor->platformCalibration().rectificationTable.back(), 1280U * 720 - 1);
     const std::vector<std::string> last(device->calls.end() - 7, device->calls.end());
@@ -106,9 +106,9 @@ TEST_F(CameraParameterReaderTest, UnusablePlatformDataMeansNoPlatformCamera) {
         EXPECT_EQ(forced, 1);
         EXPECT_FALSE(sensor->settings().usePlatformCamera);
         EXPECT_EQ(rearCamera.sink, nullptr) << "the rear camera is let go";
-        EXPECT_EQ(parameters.outOfModuleColour.width, 0);
-        EXPECT_THAT(parameters.depthToOutOfModule.rotation, Each(0.0F));
-        EXPECT_EQ(parameters.inModuleColour.width, 320);
+        EXPECT_EQ(parameters.colour[ColourCamera::Platform].model.width, 0);
+        EXPECT_THAT(parameters.colour[ColourCamera::Platform].fromDepth.rotation, Each(0.0F));
+        EXPECT_EQ(parameters.colour[ColourCamera::Third].model.width, 320);
         EXPECT_THAT(emitted, IsEmpty());
         EXPECT_TRUE(sensor->grab(true));
     }

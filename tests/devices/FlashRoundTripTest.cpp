@@ -26,8 +26,8 @@ double largestDifference(const Rotation& a, const Rotation& b) {
 
 class FlashRoundTripTest : public ModuleRig {
 protected:
-    const Rotation& third() const { return parameters.depthToInModule.rotation; }
-    const Rotation& platform() const { return parameters.depthToOutOfModule.rotation; }
+    const Rotation& third() const { return parameters.colour[ColourCamera::Third].fromDepth.rotation; }
+    const Rotation& platform() const { return parameters.colour[ColourCamera::Platform].fromDepth.rotation; }
 };
 
 TEST_F(FlashRoundTripTest, WhatIsWrittenIsReadAgainByTheNextProgram) {

@@ -76,12 +76,12 @@ protected:
 
     /// The rear record's first pixel; empty when the record is.
     std::vector<int> rearPixel() {
-        const ImageFrame32& record = sensor->frames().outOfModuleColour;
+        const ImageFrame32& record = sensor->frames().colour[ColourCamera::Platform];
         return record.empty() ? std::vector<int>{} : std::vector<int>(record.bytes(), record.bytes() + 4);
     }
     /// Paints the rear record, to see whether a grab writes it.
     void markRearRecord() {
-        const auto& record = sensor->frames().outOfModuleColour;
+        const auto& record = sensor->frames().colour[ColourCamera::Platform];
         std::fill_n(const_cast<std::uint8_t*>(record.bytes()), record.byteCount(), std::uint8_t{99});
     }
 };
@@ -98,13 +98,14 @@ TEST_F(FrameAcquisitionTest, RefreshesTheModulesRecords) {
     EXPECT_EQ(frames.leftInfrared.pixels()[628 * 468 - 1], 500);
     EXPECT_EQ(frames.rightInfrared.pixels()[0], 501);
     const cv::Mat third(480, 640, CV_8UC4, device->thirdPixels.data());
-    EXPECT_EQ(bytesOf(frames.inModuleColour), slowReference(third, 320, 240));
-    EXPECT_TRUE(frames.outOfModuleColour.empty());
+    EXPECT_EQ(bytesOf(frames.colour[ColourCamera::Third]), slowReference(third, 320, 240));
+    EXPECT_TRUE(frames.colour[ColourCamera::Platform].empty());
 
     device->thirdPixels[640 * 480 * 4 - 2] ^= 0xF0;  // red of the last pixel
     EXPECT_TRUE(sensor->grab(false));
     EXPECT_EQ(device->calls.back(), "grab(0)");
-    EXPECT_EQ(bytesOf(frames.inModuleColour), slowReference(third, 320, 240)) << "the smallest change is seen";
+    EXPECT_EQ(bytesOf(frames.colour[ColourCamera::Third]), slowReference(third, 320, 240))
+        << "the smallest change is seen";
 }
 
 TEST_F(FrameAcquisitionTest, StreamsThatAreOffOrOddAreSkipped) {
@@ -119,7 +120,7 @@ TEST_F(FrameAcquisitionTest, StreamsThatAreOffOrOddAreSkipped) {
     device->thirdWidthValue = 0;
     EXPECT_TRUE(sensor->grab(true));
     EXPECT_EQ(sensor->frames().depth.pixels()[0], 1502);
-    EXPECT_EQ(sensor->frames().inModuleColour.bytes()[0], 77);
+    EXPECT_EQ(sensor->frames().colour[ColourCamera::Third].bytes()[0], 77);
     EXPECT_EQ(sensor->frames().rightInfrared.pixels()[5], 501);
     std::vector<std::uint16_t> right;
     std::swap(device->right, right);
@@ -136,7 +137,7 @@ TEST_F(FrameAcquisitionTest, StreamsThatAreOffOrOddAreSkipped) {
     ASSERT_TRUE(sensor->open(withoutPlatform()));
     EXPECT_TRUE(sensor->grab(true));
     EXPECT_EQ(sensor->frames().leftInfrared.pixels()[0], 500);
-    EXPECT_EQ(sensor->frames().inModuleColour.width(), 640U) << "without a scaled size it is not filled";
+    EXPECT_EQ(sensor->frames().colour[ColourCamera::Third].width(), 640U) << "without a scaled size it is not filled";
 }
 
 TEST_F(FrameAcquisitionTest, PicturesOfDifferentMomentsAreNoPair) {
@@ -147,7 +148,7 @@ TEST_F(FrameAcquisitionTest, PicturesOfDifferentMomentsAreNoPair) {
         device->thirdPixels[9] = static_cast<std::uint8_t>(device->thirdPixels[9] + (third ? 1 : 0));
         if (rear) rearCamera.deliver(++luma, 128, 128);
         EXPECT_TRUE(grabAfter(milliseconds(16)));
-        return std::pair(sensor->isFreshPair(false), sensor->isFreshPair(true));
+        return std::pair(sensor->isFreshPair(ColourCamera::Third), sensor->isFreshPair(ColourCamera::Platform));
     };
     EXPECT_EQ(grabbed(true, true, true), std::pair(true, true));
     EXPECT_EQ(grabbed(true, false, false), std::pair(false, false)) << "every other colour picture is the one before";
@@ -166,10 +167,10 @@ TEST_F(FrameAcquisitionTest, PicturesOfDifferentMomentsAreNoPair) {
     std::vector<std::uint16_t> noDepth;
     std::swap(device->depth, noDepth);
     EXPECT_TRUE(grabAfter(milliseconds(100)));
-    EXPECT_TRUE(sensor->isFreshPair(false));
+    EXPECT_TRUE(sensor->isFreshPair(ColourCamera::Third));
     EXPECT_FALSE(sensor->frames().depth.empty());
     EXPECT_TRUE(grabAfter(milliseconds(1)));
-    EXPECT_FALSE(sensor->isFreshPair(false)) << "101 ms";
+    EXPECT_FALSE(sensor->isFreshPair(ColourCamera::Third)) << "101 ms";
     EXPECT_TRUE(sensor->frames().depth.empty());
 }
 
@@ -183,7 +184,7 @@ TEST_F(FrameAcquisitionTest, ASilentStartOfTheRearCameraIsReportedEveryTime) {
     device->onGrab = [this] { deliverRed(); };
     EXPECT_TRUE(sensor->grab(true));
     EXPECT_EQ(emitted.size(), 2U) << "a picture that arrives within the grab is in time";
-    EXPECT_EQ(sensor->frames().outOfModuleColour.width(), 640U);
+    EXPECT_EQ(sensor->frames().colour[ColourCamera::Platform].width(), 640U);
 
     renew();
     openAndRead(applicationSettings());

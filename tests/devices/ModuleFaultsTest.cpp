@@ -171,7 +171,7 @@ protected:
     WriteFaultsTest() { takeBaseline(); }
     void takeBaseline() {
         factory = stored();
-        EXPECT_TRUE(sensor->updateRotation(kTurned, parameters.depthToOutOfModule.rotation));
+        EXPECT_TRUE(sensor->updateRotation(kTurned, parameters.colour[ColourCamera::Platform].fromDepth.rotation));
         turned = stored();
         EXPECT_NE(turned, factory);
         sensor.reset();
@@ -180,7 +180,8 @@ protected:
     bool tryWriting(const std::string& fault) {
         QFile::remove(flashFile);
         reopen(QString::fromStdString(fault));
-        const bool stored = sensor->updateRotation(kTurned, parameters.depthToOutOfModule.rotation);
+        const bool stored =
+            sensor->updateRotation(kTurned, parameters.colour[ColourCamera::Platform].fromDepth.rotation);
         said = sensor->writeBack();
         close();
         firstReports = reports;
@@ -263,8 +264,8 @@ TEST_F(WriteFaultsTest, Hangs) {
 TEST_F(WriteFaultsTest, ABlockWithALifeOfItsOwnIsStoredAndRestored) {
     QFile::remove(flashFile);
     reopen("living-block,meddling-companion");
-    for (const Rotation& rotation : {kTurned, parameters.depthToInModule.rotation}) {
-        ASSERT_TRUE(sensor->updateRotation(rotation, parameters.depthToOutOfModule.rotation));
+    for (const Rotation& rotation : {kTurned, parameters.colour[ColourCamera::Third].fromDepth.rotation}) {
+        ASSERT_TRUE(sensor->updateRotation(rotation, parameters.colour[ColourCamera::Platform].fromDepth.rotation));
         EXPECT_EQ(sensor->writeBack().flash, Flash::Written);
     }
     EXPECT_TRUE(
@@ -304,7 +305,7 @@ TEST_F(WriteFaultsTest, ABlockThatArrivedWrongIsPutBackBeforeItIsLoaded) {
     // Twice: the module is left with the nonsense, and says so at the next start. The backup brings it back to life.
     QFile::remove(flashFile);
     reopen(kNonsense + QString(",writeRectParameters:2:garble+1275"));
-    EXPECT_FALSE(sensor->updateRotation(kTurned, parameters.depthToOutOfModule.rotation));
+    EXPECT_FALSE(sensor->updateRotation(kTurned, parameters.colour[ColourCamera::Platform].fromDepth.rotation));
     EXPECT_EQ(sensor->writeBack().flash, Flash::Other);
     const QString kept = sensor->writeBack().backupFile;
     start();

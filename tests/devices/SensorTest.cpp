@@ -35,7 +35,7 @@ TEST_F(SensorTest, OpensInOrderWithTheApplicationsSettings) {
                                          "Sensor firmware version: 1.27.11", "Sensor camera serial no: 550101",
                                          "CRITICAL Calibration data on camera is invalid.", "Emitter is disabled."}));
     EXPECT_EQ(sensor->frames().leftInfrared.byteCount(), 628U * 468 * 2);
-    EXPECT_EQ(sensor->frames().inModuleColour.byteCount(), 640U * 480 * 4);
+    EXPECT_EQ(sensor->frames().colour[ColourCamera::Third].byteCount(), 640U * 480 * 4);
     EXPECT_FALSE(sensor->open(applicationSettings())) << "there is no second open";
 }
 

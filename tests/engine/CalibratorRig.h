@@ -15,11 +15,12 @@ class CalibratorRig {
 public:
     explicit CalibratorRig(const Eigen::Vector3d& factoryDeg) {
         parameters.infrared = parameters.depth = cameras.infrared;
-        parameters.inModuleColour = cameras.colour;
-        parameters.inModuleScaling = cameras.colourScaling;
-        parameters.depthToInModule = extrinsics(factoryDeg, {0.025F, 0.5F, -0.25F});
-        parameters.outOfModuleColour = {310, 230, 300.0F, 300.0F, 150.0F, 111.0F};
-        parameters.depthToOutOfModule = extrinsics({-1.5, 0.5, -0.75}, {0.0625F, -0.125F, 0.0F});
+        parameters.colour[fieldcal::ColourCamera::Third].model = cameras.colour;
+        parameters.colour[fieldcal::ColourCamera::Third].scaling = cameras.colourScaling;
+        parameters.colour[fieldcal::ColourCamera::Third].fromDepth = extrinsics(factoryDeg, {0.025F, 0.5F, -0.25F});
+        parameters.colour[fieldcal::ColourCamera::Platform].model = {310, 230, 300.0F, 300.0F, 150.0F, 111.0F};
+        parameters.colour[fieldcal::ColourCamera::Platform].fromDepth =
+            extrinsics({-1.5, 0.5, -0.75}, {0.0625F, -0.125F, 0.0F});
         engine.setCameraParameters(false);
         engine.setup();
     }

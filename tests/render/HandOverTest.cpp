@@ -25,7 +25,7 @@ TEST_F(HandOver, PicturesAndPosesChangeWhileOthersPaint) {
     auto& infrared = find<InfraredImageRendererItem>("infrared");
     auto& overlay = find<DepthColorOverlayRenderer>("overlay");
     CameraParameters cameras;
-    cameras.depth = cameras.inModuleColour = {64, 48, 50, 50, 31.5F, 23.5F};
+    cameras.depth = cameras.colour[ColourCamera::Third].model = {64, 48, 50, 50, 31.5F, 23.5F};
     vq::RegistrationContext context;
     vq::CalibratorInterface engine(context, cameras);
     engine.setCameraParameters(false);
@@ -39,7 +39,7 @@ TEST_F(HandOver, PicturesAndPosesChangeWhileOthersPaint) {
             const std::uint32_t size = 40 + i % 3;
             infrared.setFrame(plainDepth(size, size, i % 1024));
             overlay.setFrames(plainPicture(64, 48, qRgb(0, i % 256, 0)), plainDepth(64, 48, i));
-            if (i % 8 == 0) overlay.setCalibration(overlayCalibration(cameras, false, kNoRotation));
+            if (i % 8 == 0) overlay.setCalibration(overlayCalibration(cameras, ColourCamera::Third, kNoRotation));
             overlay.setTutorialMode(i % 16 < 4);
             infrared.setDrawFlag(i % 2 == 0);
         }

@@ -20,9 +20,9 @@ CameraParameters testCameras() {
     CameraParameters cameras;
     cameras.depth = {160, 120, 130, 132, 78, 61};
     cameras.infrared = cameras.depth;
-    cameras.inModuleColour = {200, 150, 126, 128, 103, 71};
-    cameras.inModuleScaling = {1.03F, 0.98F};
-    cameras.depthToInModule.translation = {0.1F, -0.05F, 0.02F};
+    cameras.colour[ColourCamera::Third].model = {200, 150, 126, 128, 103, 71};
+    cameras.colour[ColourCamera::Third].scaling = {1.03F, 0.98F};
+    cameras.colour[ColourCamera::Third].fromDepth.translation = {0.1F, -0.05F, 0.02F};
     return cameras;
 }
 
@@ -42,16 +42,16 @@ void fill(ImageFrame16* depth, const QRect& area, int millimetres) {
 QPointF expectedCentre(const CameraParameters& cameras, const Eigen::Matrix3d& rotation, const QRect& area,
                        int millimetres) {
     const CameraModel& from = cameras.depth;
-    const CameraModel& to = cameras.inModuleColour;
-    const auto& shift = cameras.depthToInModule.translation;
+    const CameraModel& to = cameras.colour[ColourCamera::Third].model;
+    const auto& shift = cameras.colour[ColourCamera::Third].fromDepth.translation;
     const double z = 0.001 * millimetres;
     const Eigen::Vector3d point((area.left() + (area.width() - 1) / 2.0 - from.cx) / from.fx * z,
                                 (area.top() + (area.height() - 1) / 2.0 - from.cy) / from.fy * z, z);
     const Eigen::Vector3d seen = rotation * point + Eigen::Vector3d(shift[0], shift[1], shift[2]);
     const double modelX = to.fx * seen.x() / seen.z() + to.cx;
     const double modelY = to.fy * seen.y() / seen.z() + to.cy;
-    const double deliveredX = (modelX + 0.5) / cameras.inModuleScaling.x;
-    const double deliveredY = (modelY + 0.5) / cameras.inModuleScaling.y;
+    const double deliveredX = (modelX + 0.5) / cameras.colour[ColourCamera::Third].scaling.x;
+    const double deliveredY = (modelY + 0.5) / cameras.colour[ColourCamera::Third].scaling.y;
     return {deliveredX * 640 / to.width, deliveredY * 480 / to.height};
 }
 
@@ -88,7 +88,7 @@ protected:
                                   static_cast<float>(anglesDeg.z()));
         std::array<float, 9> rotation{};
         engine_.getRotationMatrix(rotation.data());
-        overlay_->setCalibration(overlayCalibration(cameras_, false, rotation));
+        overlay_->setCalibration(overlayCalibration(cameras_, ColourCamera::Third, rotation));
     }
 
     static Eigen::Matrix3d rotation(const Eigen::Vector3d& anglesDeg) {

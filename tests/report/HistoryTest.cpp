@@ -30,7 +30,7 @@ protected:
 
     const QTemporaryDir temporary;
     const QString folder = temporary.filePath("data"), path = folder + "/history.csv";
-    ReportedCamera third = cameraOf(false), platform = cameraOf(true);
+    ReportedCamera third = cameraOf(ColourCamera::Third), platform = cameraOf(ColourCamera::Platform);
 };
 
 TEST_F(HistoryTest, ALineForEachCameraAndTheColumnsOnce) {

@@ -52,7 +52,7 @@ double meanColour(const QImage& image) {
 
 TEST(ReportPageTest, StandsAloneAndStaysSmall) {
     // Noise is what compresses worst.
-    std::vector<ReportedCamera> cameras{cameraOf(false), cameraOf(true)};
+    std::vector<ReportedCamera> cameras{cameraOf(ColourCamera::Third), cameraOf(ColourCamera::Platform)};
     for (ReportedCamera& camera : cameras)
         for (cv::Mat* image : {&camera.evidence->infrared, &camera.evidence->grey})
             cv::randu(*image, 0, 256);
@@ -69,14 +69,14 @@ TEST(ReportPageTest, StandsAloneAndStaysSmall) {
             ASSERT_TRUE(uri.startsWith("data:image/png;base64,"));
             EXPECT_FALSE(QImage::fromData(QByteArray::fromBase64(uri.mid(22).toLatin1())).isNull());
         }
-        cameras.push_back(cameraOf(true));
+        cameras.push_back(cameraOf(ColourCamera::Platform));
     }
 }
 
 TEST(ReportPageTest, TellsTheFiguresThatItWasGiven) {
-    ReportedCamera moved = cameraOf(true);
+    ReportedCamera moved = cameraOf(ColourCamera::Platform);
     moved.accepted = rotationOfDeg(0.9876, -1.5987, 1.2109);
-    const QByteArray html = reportPage(reportOf({cameraOf(false), moved}));
+    const QByteArray html = reportPage(reportOf({cameraOf(ColourCamera::Third), moved}));
     const Page page(html);
     const QString degree(QChar(0xB0)), about(QChar(0xB1));
     const auto row = [&](const QString& name, const QString& sign, const QStringList& angles) {
@@ -104,7 +104,7 @@ TEST(ReportPageTest, TellsTheFiguresThatItWasGiven) {
 }
 
 TEST(ReportPageTest, AnyTextIsShownAsItIs) {
-    ServiceReport report = reportOf({cameraOf(false)});
+    ServiceReport report = reportOf({cameraOf(ColourCamera::Third)});
     report.cameras[0].evidence.reset();
     report.cameras[0].quality.reset();
     report.firmware = "1 < 2 && \"3\" ]]> '\x01' <script>";
@@ -122,7 +122,7 @@ TEST(ReportPageTest, AnyTextIsShownAsItIs) {
 }
 
 TEST(ReportPageTest, EdgesLieOnEachOtherWithTheRightRotationAlone) {
-    const ReportedCamera camera = cameraOf(false);
+    const ReportedCamera camera = cameraOf(ColourCamera::Third);
     const cv::Rect window = mostDetailedWindow(*camera.evidence, {320, 240});
     EXPECT_EQ(window.size(), cv::Size(320, 240));
     const double aligned = meanColour(edgeOverlay(*camera.evidence, camera.found, window));
@@ -141,7 +141,7 @@ TEST(ReportPageTest, EdgesLieOnEachOtherWithTheRightRotationAlone) {
 
 TEST(ReportFileTest, WhatCannotBeKeptCostsALogLineEach) {
     const QTemporaryDir folder;
-    const ServiceReport report = reportOf({cameraOf(false)});
+    const ServiceReport report = reportOf({cameraOf(ColourCamera::Third)});
     keepReport(folder.filePath("data"), report);
     EXPECT_EQ(QDir(folder.filePath("data/reports")).entryList(QDir::Files),
               QStringList{"550101-20260701T123456789Z.html"});

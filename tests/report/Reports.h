@@ -42,9 +42,9 @@ inline vq::SolutionEvidence evidenceOf(const Eigen::Matrix3d& truth) {
     return evidence;
 }
 
-inline ReportedCamera cameraOf(bool platform) {
+inline ReportedCamera cameraOf(ColourCamera which) {
     ReportedCamera camera;
-    camera.platform = platform;
+    camera.camera = which;
     camera.stored = rotationOfDeg(0.1234, -0.2345, 0.3456);
     camera.found = camera.accepted = rotationOfDeg(0.9876, -1.0987, 1.2109);
     vq::SolutionQuality quality;

@@ -84,7 +84,7 @@ protected:
     CalibrationAttemptTest() {
         infrared.resize(4, 3);
         colour.resize(5, 4);
-        attempt.start(false);
+        attempt.start(ColourCamera::Third);
     }
     /// The outcome of the last frame. A failed attempt is ended as its owner would.
     Outcome feed(int frames) {
@@ -118,7 +118,7 @@ TEST_F(CalibrationAttemptTest, EightPairsWithoutASolutionEndTheAttempt) {
     calibrator.calls.clear();
     EXPECT_EQ(feed(3), Outcome::Continues);
     EXPECT_EQ(calibrator.calls, "") << "nothing may reach the engine between attempts";
-    attempt.start(true);
+    attempt.start(ColourCamera::Platform);
     EXPECT_EQ(calibrator.calls, "reset platform setup ") << "what was collected for the other camera must go";
     EXPECT_EQ(feed(8), Outcome::Failed);
 }
@@ -146,7 +146,7 @@ TEST_F(CalibrationAttemptTest, ABaselineThatASolutionMeasuredIsKnownToTheModules
         calibrator.report.baselineFrom = source;
         calibrator.report.baselineM = baselineM;
         calibrator.pairCodes = {code};
-        attempt.start(false);
+        attempt.start(ColourCamera::Third);
         feed(1);
         return calibrator.calls;
     };

@@ -23,7 +23,7 @@ protected:
         ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     }
     double errorDeg() const {
-        return degreesBetween(*workflow->records().estimated(ColourCamera::InModule),
+        return degreesBetween(*workflow->records().estimated(ColourCamera::Third),
                               *describe(mountainRecording()).truthThird);
     }
 };
@@ -88,7 +88,7 @@ TEST_F(CutRecordingTest, ARearCameraThatDiesDuringItsCaptureIsToldOnceAndTheFlas
         return frames;
     });
     const QByteArray before = flash();
-    workflow->switchCamera(ColourCamera::OutOfModule);
+    workflow->switchCamera(ColourCamera::Platform);
     workflow->requestState(State::StartingCalibration);
     ASSERT_TRUE(user->waitUntil([&] { return user->rearCameraIssues > 0; }));
     EXPECT_THAT(user->events, ContainsRegex("P"));

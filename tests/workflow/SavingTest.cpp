@@ -18,12 +18,13 @@ class SavingTest : public SensorTest {
 protected:
     SavingTest() {
         EXPECT_TRUE(sensor->open(applicationSettings()) && readCameraParameters(*sensor, &parameters, [] {}));
-        records.setFactory(parameters.depthToInModule.rotation, parameters.depthToOutOfModule.rotation);
+        records.setFactory(parameters.colour[ColourCamera::Third].fromDepth.rotation,
+                           parameters.colour[ColourCamera::Platform].fromDepth.rotation);
         device->onWrite = [this] { noteAtWrite = readSaveNote(data.path()); };
     }
     void accept() {
-        records.setEstimated(ColourCamera::InModule, kAboutY, [] { return true; });
-        EXPECT_TRUE(records.accept(ColourCamera::InModule, kAboutY));
+        records.setEstimated(ColourCamera::Third, kAboutY, [] { return true; });
+        EXPECT_TRUE(records.accept(ColourCamera::Third, kAboutY));
     }
 
     CameraParameters parameters;
@@ -39,7 +40,7 @@ TEST_F(SavingTest, ANoteStandsOnDiskWhileTheOutcomeIsOpen) {
     EXPECT_FALSE(readSaveNote(data.path()));
 
     device->failCall("commitCalibration", 2, 6);
-    records.accept(ColourCamera::InModule, parameters.depthToInModule.rotation);
+    records.accept(ColourCamera::Third, parameters.colour[ColourCamera::Third].fromDepth.rotation);
     EXPECT_FALSE(storeCalibration(*sensor, records, data.path()));
     EXPECT_EQ(readSaveNote(data.path())->reason, sensor->writeBack().reason);
     EXPECT_TRUE(LogCapture::has("Failed to store calibration information to flash."));

@@ -12,8 +12,8 @@ using ::testing::EndsWith;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-constexpr ColourCamera kFirst = ColourCamera::InModule;
-constexpr ColourCamera kSecond = ColourCamera::OutOfModule;
+constexpr ColourCamera kFirst = ColourCamera::Third;
+constexpr ColourCamera kSecond = ColourCamera::Platform;
 
 double angleAboutYDeg(const Rotation& rotation) {
     return vq::anglesFromRotation(matrixOf(rotation))[1] * vq::kDegreesPerRadian;

@@ -32,12 +32,12 @@ TEST_F(WorldWorkflowTest, BothCamerasAreCalibratedOutOfAMovingHandWhichWalksOutI
     ASSERT_TRUE(user->waitUntil([&] { return user->lit; }));
     EXPECT_GT(user->darkReadings, 20) << "five seconds of darkness";
     solve();
-    EXPECT_LT(degreesBetween(*rig.truthThird, *workflow->records().estimated(ColourCamera::InModule)), 0.05);
+    EXPECT_LT(degreesBetween(*rig.truthThird, *workflow->records().estimated(ColourCamera::Third)), 0.05);
     workflow->requestState(State::RefiningCalibration);
     ASSERT_TRUE(user->waitUntil([&] { return !user->dotted.empty(); }));
-    workflow->switchCamera(ColourCamera::OutOfModule);
+    workflow->switchCamera(ColourCamera::Platform);
     solve(State::RefiningCalibration);
-    EXPECT_LT(degreesBetween(*rig.truthPlatform, *workflow->records().estimated(ColourCamera::OutOfModule)), 0.08)
+    EXPECT_LT(degreesBetween(*rig.truthPlatform, *workflow->records().estimated(ColourCamera::Platform)), 0.08)
         << "the rear camera stands 60 mm aside";
     EXPECT_THAT(user->dotted, ::testing::ElementsAre(State::RefiningCalibration));
     EXPECT_TRUE(stopAndSave().stored);
