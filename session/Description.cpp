@@ -110,6 +110,7 @@ FrameEntry frameEntry(const JsonKey& key, bool hasPlatform) {
     if (key.has("depth")) out.depth = fileName(key["depth"]);
     if (key.has("platform")) out.platform = fileName(key["platform"]);
     if (key.has("right")) out.right = fileName(key["right"]);
+    if (key.has("timeNs")) out.timeNs = key["timeNs"].integer64();
     if (key.has("repeat")) out.repeat = static_cast<int>(key["repeat"].integer(1, kLargestRepeat));
     if (!out.platform.empty() && !hasPlatform) key["platform"].refuse("the session has no platform camera");
     return out;
@@ -190,6 +191,7 @@ json writtenFrame(const FrameEntry& frame) {
     if (!frame.depth.empty()) out["depth"] = frame.depth;
     if (!frame.platform.empty()) out["platform"] = frame.platform;
     if (!frame.right.empty()) out["right"] = frame.right;
+    if (frame.timeNs) out["timeNs"] = *frame.timeNs;
     return out;
 }
 

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <limits>
 #include <nlohmann/json.hpp>
 
 namespace fieldcal::session {
@@ -177,6 +178,15 @@ double JsonKey::integer(double lowest, double highest) const {
     if (value == std::floor(value)) return value;
     refuse(shown(value) + " is not a whole number");
     return lowest;
+}
+
+std::int64_t JsonKey::integer64() const {
+    if (!expect(&json::is_number_integer, "a whole number")) return 0;
+    const bool fits =
+        !value_->is_number_unsigned() ||
+        value_->get<std::uint64_t>() <= static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+    if (!fits) refuse("outside of 64 bits");
+    return fits ? value_->get<std::int64_t>() : 0;
 }
 
 bool JsonKey::boolean() const {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <vector>
@@ -36,6 +37,8 @@ public:
     double number(double lowest, double highest) const;
     /// A whole number.
     double integer(double lowest, double highest) const;
+    /// A whole number of up to 64 bits, which must not be written as a fraction.
+    std::int64_t integer64() const;
     bool boolean() const;
     std::string text() const;
     /// Nine numbers, row-major: orthonormal with determinant 1, both within 1e-4.

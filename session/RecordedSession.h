@@ -58,8 +58,9 @@ struct FrameEntry {
     std::string third;
     std::string depth;
     std::string platform;
-    int repeat = 1;          ///< grabs that deliver this frame, 1 to 1,000,000
-    std::string right = {};  ///< the second infrared imager's picture, of the size of `infrared`
+    int repeat = 1;                           ///< grabs that deliver this frame, 1 to 1,000,000
+    std::string right = {};                   ///< the second infrared imager's picture, of the size of `infrared`
+    std::optional<std::int64_t> timeNs = {};  ///< when the infrared image was taken, from any epoch, nanoseconds
 };
 
 /// The contents of session.json, version 1.

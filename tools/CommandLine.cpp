@@ -69,6 +69,7 @@ public:
         addBackup();
         addRestore();
         addExport();
+        addImport();
     }
 
     /// Returns false, and the exit status, when there is no command to run.
@@ -195,6 +196,38 @@ private:
             ->type_name("FILE|-");
     }
 
+    void addImport() {
+        CLI::App* verb = addVerb("import", "Make a recording of time-stamped images in folders", import_);
+        verb->add_option("DIR", import_.folder, "The folder with the images and their cameras")
+            ->required()
+            ->check(isGiven)
+            ->type_name("");
+        verb->add_option("RECORDING", import_.recording, "The recording to make")
+            ->required()
+            ->check(isGiven)
+            ->type_name("");
+        const auto addStream = [verb](const char* option, std::string& name, const char* what) {
+            lastCounts(verb->add_option(option, name, what))->type_name("NAME")->capture_default_str();
+        };
+        addStream("--infrared", import_.infrared, "Left infrared images and their camera");
+        addStream("--third", import_.third, "Images of the module's colour camera");
+        addStream("--right", import_.right, "Right infrared images");
+        addStream("--depth", import_.depth, "Depth images");
+        addStream("--platform", import_.platform, "Raw images of the tablet's rear camera");
+        lastCounts(verb->add_option("--within", import_.withinMs, "Milliseconds between images of one frame set"))
+            ->check(CLI::Range(0.0, 1000.0))
+            ->type_name("MS")
+            ->capture_default_str();
+        lastCounts(verb->add_option("--repeat", import_.repeat, "Grabs that deliver each frame set; stills need 26"))
+            ->transform(wholeNumber(1, kMostFrames))
+            ->type_name("N")
+            ->capture_default_str();
+        lastCounts(verb->add_option("--serial", import_.serial, "The module's serial number"))
+            ->transform(wholeNumber(0, kLargestSeed))
+            ->type_name("N")
+            ->capture_default_str();
+    }
+
     /// The help of the verb that was named, or of the program.
     std::string help() const { return app_.help(); }
 
@@ -213,7 +246,7 @@ private:
         std::string text = error.what();
         const std::size_t end = std::min(text.find_first_of(": "), text.size());
         const std::string option = text.substr(0, end);
-        const bool isPositional = option == "DIR" || option == "FILE" || option == "SOURCE";
+        const bool isPositional = option == "DIR" || option == "FILE" || option == "SOURCE" || option == "RECORDING";
         const std::string name = isPositional ? "a " + noun : option;
         if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) return name + " is missing";
         if (dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr) return name + " needs a value";
@@ -229,6 +262,7 @@ private:
     BackupOptions backup_;
     RestoreOptions restore_;
     ExportOptions export_;
+    ImportOptions import_;
     Command command_;
 };
 

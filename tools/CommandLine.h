@@ -5,6 +5,7 @@
 
 #include <QStringList>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <variant>
@@ -44,6 +45,16 @@ struct RecordOptions {
     int frames = 0;  ///< frame sets to grab, 1 to 1,000,000
 };
 
+/// Folders of images below `folder`, each beside a CameraInfo file of the same name.
+struct ImportOptions {
+    std::string folder;
+    std::string recording;
+    std::string infrared = "infrared", third = "third", right = "right", depth = "depth", platform = "platform";
+    double withinMs = 5;  ///< between images of one frame set
+    int repeat = 1;       ///< grabs that deliver each frame set
+    std::uint32_t serial = 0;
+};
+
 struct InfoOptions {
     std::string folder;  ///< empty: the module that is connected
 };
@@ -64,7 +75,7 @@ struct ExportOptions {
 };
 
 using Command = std::variant<CalibrateOptions, SynthesizeOptions, RecordOptions, InfoOptions, BackupOptions,
-                             RestoreOptions, ExportOptions>;
+                             RestoreOptions, ExportOptions, ImportOptions>;
 
 /// Parses the arguments. There is no command when the program has to end with `status`, because help or the version was
 /// printed or because the usage was wrong and the reason was printed.
@@ -82,5 +93,6 @@ int run(const InfoOptions& options);
 int run(const BackupOptions& options);
 int run(const RestoreOptions& options);
 int run(const ExportOptions& options);
+int run(const ImportOptions& options);
 
 }  // namespace fieldcal

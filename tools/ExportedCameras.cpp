@@ -41,12 +41,19 @@ RadialPlace radialPlace(const session::RawIntrinsics& raw, const Eigen::Vector3d
     return {p * (1 + r2 * (raw.k1 + r2 * (raw.k2 + r2 * raw.k3))), tangential};
 }
 
-/// The rectified picture comes from the raw one by the calibrated models. When the principal point of the rectified one
-/// moves, every direction turns a little, and no raw model of this kind brings about quite the same. Principal point
-/// and tangential coefficients, on which the raw pixels depend linearly, are fitted over the picture: what is left is
-/// a few hundredths of a pixel at most, in the corners.
-UnrectifiedCamera inOwnPixels(const UnrectifiedCamera& camera, const session::Intrinsics& calibrated,
-                              const session::Intrinsics& exported) {
+}  // namespace
+
+session::Intrinsics inScalingPixels(session::Intrinsics colour, const session::Intrinsics& infrared) {
+    colour.cx += 0.5 - 0.5 * colour.fx / infrared.fx;
+    colour.cy += 0.5 - 0.5 * colour.fy / infrared.fy;
+    return colour;
+}
+
+/// When the principal point of the rectified image moves, every direction turns a little, and no raw model of this kind
+/// brings about quite the same. The principal point and the tangential coefficients, on which the raw pixels depend
+/// linearly, are fitted over the image.
+UnrectifiedCamera movedPrincipalPoint(const UnrectifiedCamera& camera, const session::Intrinsics& from,
+                                      const session::Intrinsics& to) {
     const session::RawIntrinsics& raw = camera.intrinsics;
     const Eigen::Matrix3d toRaw = eigen(camera.rectification).transpose();
     const Eigen::Vector2d focal(raw.fx, raw.fy);
@@ -55,10 +62,10 @@ UnrectifiedCamera inOwnPixels(const UnrectifiedCamera& camera, const session::In
     Eigen::Vector4d right = Eigen::Vector4d::Zero();
     for (int i = 0; i < kColumns * kRows; ++i) {
         const int row = i / kColumns, column = i % kColumns;
-        const Eigen::Vector2d pixel(column * (calibrated.width - 1.0) / (kColumns - 1),
-                                    row * (calibrated.height - 1.0) / (kRows - 1));
-        const RadialPlace before = radialPlace(raw, toRaw * ray(calibrated, pixel));
-        const RadialPlace after = radialPlace(raw, toRaw * ray(exported, pixel));
+        const Eigen::Vector2d pixel(column * (from.width - 1.0) / (kColumns - 1),
+                                    row * (from.height - 1.0) / (kRows - 1));
+        const RadialPlace before = radialPlace(raw, toRaw * ray(from, pixel));
+        const RadialPlace after = radialPlace(raw, toRaw * ray(to, pixel));
         const Eigen::Vector2d wanted = before.place + before.tangential * tangential - after.place;
         Eigen::Matrix<double, 2, 4> factors;  // of the shift of the principal point, in focal lengths, and of p1 and p2
         factors << Eigen::Matrix2d::Identity(), after.tangential;
@@ -74,11 +81,9 @@ UnrectifiedCamera inOwnPixels(const UnrectifiedCamera& camera, const session::In
     return result;
 }
 
-}  // namespace
-
 ExportedCameras exportedCameras(const CameraPair& pair) {
     ExportedCameras cameras{pair.infrared, inOwnPixels(pair.colour, pair.infrared), {}};
-    if (pair.unrectified) cameras.unrectified = inOwnPixels(*pair.unrectified, pair.colour, cameras.colour);
+    if (pair.unrectified) cameras.unrectified = movedPrincipalPoint(*pair.unrectified, pair.colour, cameras.colour);
     return cameras;
 }
 

@@ -17,6 +17,14 @@ struct ExportedCameras {
 };
 ExportedCameras exportedCameras(const CameraPair& pair);
 
+/// The reverse for a colour camera's intrinsics: their principal point moves to where the scaled image needs it.
+session::Intrinsics inScalingPixels(session::Intrinsics colour, const session::Intrinsics& infrared);
+
+/// The raw camera that keeps each raw pixel's place in the rectified image, as nearly as such a model can, when the
+/// principal point of that image moves from one place to another. What is left is a few hundredths of a pixel at most.
+UnrectifiedCamera movedPrincipalPoint(const UnrectifiedCamera& camera, const session::Intrinsics& from,
+                                      const session::Intrinsics& to);
+
 /// The pose of the colour camera in the frame of the infrared camera, X_infrared = rotation · X_colour + translation:
 /// the inverse of the pair's own rotation and translation.
 struct ColourPose {

@@ -3,17 +3,24 @@
 #include "tools/Console.h"
 #include "tools/RecordingWriter.h"
 
+#include <chrono>
+
 namespace fieldcal {
 namespace {
 
 constexpr int kFramesPerProgressLine = 50;
+
+std::int64_t nowNs() {
+    using namespace std::chrono;
+    return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
+}
 
 bool record(ConnectedModule& module, const RecordOptions& options, RecordingWriter* recording, QString* why) {
     std::string reason;
     for (int done = 0; done < options.frames;) {
         session::FramePictures pictures;
         if (!module.grab(&pictures, why)) return false;
-        if (!recording->add(std::move(pictures), &reason)) {
+        if (!recording->add(std::move(pictures), &reason, {1, nowNs()})) {
             *why = QString::fromStdString(reason);
             return false;
         }

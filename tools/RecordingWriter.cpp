@@ -83,13 +83,15 @@ bool RecordingWriter::start(std::string* why) {
     return false;
 }
 
-bool RecordingWriter::add(session::FramePictures pictures, std::string* why) {
+bool RecordingWriter::add(session::FramePictures pictures, std::string* why, const Timing& timing) {
     if (!canBePlayed(pictures, why)) return false;
     if (repeatsLast(pictures)) {
-        ++description_.frames.back().repeat;
+        description_.frames.back().repeat += timing.repeat;
         return true;
     }
     description_.frames.push_back(entryFor(frameCount(), pictures));
+    description_.frames.back().repeat = timing.repeat;
+    description_.frames.back().timeNs = timing.timeNs;
     if (!session::writePictures(folder_, description_.frames.back(), pictures, why)) return false;
     last_ = std::move(pictures);
     return true;

@@ -2,6 +2,8 @@
 
 #include "session/RecordedSession.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace fieldcal {
@@ -21,8 +23,13 @@ public:
     /// Makes the folder. It fails when there is something in it already.
     bool start(std::string* why);
 
+    /// How long a frame set lasts, and when it was taken.
+    struct Timing {
+        int repeat = 1;  ///< grabs that deliver it
+        std::optional<std::int64_t> timeNs = {};
+    };
     /// `platform` is empty when the rear camera brought nothing new.
-    bool add(session::FramePictures pictures, std::string* why);
+    bool add(session::FramePictures pictures, std::string* why, const Timing& timing);
 
     bool finish(std::string* why);
 

@@ -47,6 +47,7 @@ TEST_F(RoundTrip, NumbersKeepTheirLastBit) {
     session.third.translation = {0.1 + 0.2, -1e-300, 5e-324};
     const double angle = 1e-5 / 3;
     session.truthPlatform = {std::cos(angle), -std::sin(angle), 0, std::sin(angle), std::cos(angle), 0, 0, 0, 1};
+    session.frames[0].timeNs = 1700000000123456789;  // more digits than a double has
     session.platform->name = "Rück \"kamera\"\n";
     std::string why;
     const std::string other = folder + "/deep/er";
@@ -60,6 +61,8 @@ TEST_F(RoundTrip, NumbersKeepTheirLastBit) {
     EXPECT_EQ(read.platform->name, session.platform->name);
     EXPECT_EQ(read.truthPlatform, session.truthPlatform);
     EXPECT_EQ(read.truthThird, session.truthThird);
+    EXPECT_EQ(read.frames[0].timeNs, session.frames[0].timeNs);
+    EXPECT_FALSE(read.frames[1].timeNs);
     EXPECT_EQ(read.frames[0].platform, "a_platform.nv12");
     EXPECT_EQ(read.frames[0].right, "a_right.png");
     EXPECT_EQ(read.frames[0].repeat, 26);
