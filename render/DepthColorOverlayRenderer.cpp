@@ -50,7 +50,8 @@ void DepthColorOverlayRenderer::setFrames(const ImageFrame32& colour, const Imag
     depthToCloud(depth, &freshCloud_);
     if (!depth.empty()) judgeDepth(freshCloud_.size(), std::size_t{depth.width()} * depth.height());
     const std::lock_guard lock(frameLock());
-    if (tutorialOn_) return;
+    // Two calibrations are compared on one and the same frame set, not on two.
+    if (tutorialOn_ || storedShown_) return;
     takePicture(colour);
     if (depth.empty()) return;
     cloud_.swap(freshCloud_);

@@ -36,7 +36,8 @@ public:
 
     /// Cameras and rotation to draw with from now on; before, the picture stays without depth. Any thread.
     void setCalibration(const OverlayCalibration& calibration);
-    /// Live pictures; depth is in millimetres. An empty frame changes nothing. One thread, any.
+    /// Live images; depth is in millimetres. An empty frame changes nothing, and neither does any while the stored
+    /// calibration is shown. One thread, any.
     void setFrames(const ImageFrame32& colour, const ImageFrame16& depth);
 
     /// The tutorial shows stored pictures and the hint instead of live frames. Where the pictures are missing, which is

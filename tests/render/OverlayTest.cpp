@@ -192,6 +192,9 @@ TEST_F(Overlay, DragTurnsTheOverlayUnderTheFinger) {
     // The stored calibration to compare with, and back.
     overlay_->setStoredShown(true);
     expectDepthAt({0, 0, 0});
+    const QPointF before = centreOfDepth();
+    showArea({120, 90, 9, 7}, 2000);
+    expectNear(centreOfDepth(), before, 0);  // the image is frozen
     overlay_->setStoredShown(false);
     expectDepthAt({0.5, -4, -0.5});
 
