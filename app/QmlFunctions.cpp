@@ -13,6 +13,10 @@ void QmlFunctions::modifyUiToStateInQML(State state) {
     call("modifyUiToStateInQML", {static_cast<int>(state)});
 }
 
+void QmlFunctions::setHoldStill(bool on) {
+    call("setHoldStill", {on});
+}
+
 void QmlFunctions::showMovementText(const QString& text) {
     call("showMovementText", {text});
 }

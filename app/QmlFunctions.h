@@ -23,6 +23,7 @@ public:
     void setLeftToRightLanguage(bool leftToRight);
     void modifyUiToStateInQML(State state);
     void showMovementText(const QString& text);
+    void setHoldStill(bool on);
     void showCalibrationStartupText(const QString& text);
     void showSaveCalibrationText(const QString& text);
     void setLightingDialogText(const QString& title, const QString& message);

@@ -104,7 +104,8 @@ void WorkflowBridge::platformCameraIssue() {
     mainThread_.call([this] { manager_.slot_reportPlatformCameraIssue(); });
 }
 
-void WorkflowBridge::movementText(const std::string& text) {
+void WorkflowBridge::movementText(const std::string& text, bool holdStill) {
+    functions_.setHoldStill(holdStill);
     emit manager_.signal_displayMovementText(interfaceText(text.c_str()));
 }
 

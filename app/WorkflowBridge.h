@@ -42,7 +42,7 @@ public:
     void missingModule() override;
     void missingPlatformCamera() override;
     void platformCameraIssue() override;
-    void movementText(const std::string& text) override;
+    void movementText(const std::string& text, bool holdStill) override;
     void startText(const std::string& text) override;
     void calibrationProgress(double progress) override;
     void returnToWellLitArea(bool needed) override;

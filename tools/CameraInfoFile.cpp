@@ -39,8 +39,7 @@ double number(const YAML::Node& node, const char* key) {
 
 std::vector<double> matrixData(const YAML::Node& document, const char* key, std::size_t count) {
     const YAML::Node data = required(required(document, key), "data");
-    if (!data.IsSequence() || data.size() != count)
-        throw YamlFault{key, std::to_string(count) + " numbers expected"};
+    if (!data.IsSequence() || data.size() != count) throw YamlFault{key, std::to_string(count) + " numbers expected"};
     std::vector<double> values;
     for (const YAML::Node& item : data)
         values.push_back(number(item, key));

@@ -128,8 +128,8 @@ private:
             if (!entry.third.empty()) session_.frames.push_back(entry);
         }
         if (!session_.frames.empty()) return true;
-        *why = path(options_.infrared) + ": none of " + std::to_string(infrared.size()) +
-               " images has one in " + path(options_.third) + " within " + std::to_string(options_.withinMs) + " ms";
+        *why = path(options_.infrared) + ": none of " + std::to_string(infrared.size()) + " images has one in " +
+               path(options_.third) + " within " + std::to_string(options_.withinMs) + " ms";
         return false;
     }
 

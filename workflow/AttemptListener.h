@@ -14,7 +14,8 @@ public:
     virtual ~AttemptListener() = default;
 
     /// The instruction of the moment; an empty text hides the line.
-    virtual void movementText(const std::string&) {}
+    /// The instruction of the moment, and whether it is to hold still.
+    virtual void movementText(const std::string&, bool /*holdStill*/) {}
     /// Shown where an attempt is started: why the last one failed.
     virtual void startText(const std::string&) {}
     /// 0..1.

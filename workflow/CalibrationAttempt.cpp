@@ -45,16 +45,16 @@ CalibrationAttempt::Outcome CalibrationAttempt::processFrame(const CaptureFrames
     const bool lit = light_.isLitForCapture(brightness);
     listener_.returnToWellLitArea(!lit);
     if (!lit) {
-        listener_.movementText("");
+        listener_.movementText("", false);
         return Outcome::Continues;
     }
     calibrator_.inputDistanceFrames(frames.right, frames.depth);
     switch (calibrator_.inputFramesAndCheckMovement(frames.infrared, frames.colour).code) {
         case vq::RotateDevice:
-            listener_.movementText(kMoveText);
+            listener_.movementText(kMoveText, false);
             break;
         case vq::RemainStill:
-            listener_.movementText(kPauseText);
+            listener_.movementText(kPauseText, true);
             break;
         case vq::ProcessImagePair:
             return addPair(frames);
@@ -110,7 +110,7 @@ void CalibrationAttempt::fail() {
     photoCount_ = 0;
     calibrator_.resetState();
     listener_.startText(kTooSimpleText);
-    listener_.movementText("");
+    listener_.movementText("", false);
     listener_.offerHowToMove();
 }
 

@@ -32,6 +32,7 @@ QtObject {
     property bool lightNeeded: false
 
     property string movementText: ""
+    property bool holdStill: false  // what the text asks for
     property real progress: 0
     property int photoCount: 0
     property var photos: []     // of each photo the source of its small picture; may be fewer than were taken
@@ -84,6 +85,7 @@ QtObject {
         photos = []
         detail = []
         movementText = ""
+        holdStill = false
         foundRead = false
     }
     function showSaveText(message) {

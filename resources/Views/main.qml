@@ -45,6 +45,7 @@ Window {
     function setLeftToRightLanguage(leftToRight) { mirrored = !leftToRight }
     function modifyUiToStateInQML(state) { status.state = state }
     function showMovementText(message) { status.movementText = message }
+    function setHoldStill(on) { status.holdStill = on }
     function showCalibrationStartupText(message) { status.startText = message }
     function showSaveCalibrationText(message) { status.showSaveText(message) }
     function setLightingDialogText(title, message) { status.lightingTitle = title; status.lightingMessage = message }

@@ -85,7 +85,7 @@ TEST_F(InterfaceBridgeTest, WhatTheLoopTellsArrivesInItsOrder) {
         bridge.pairCaptured();
         bridge.calibrationProgress(0.9);
         bridge.startText("again");
-        bridge.movementText("");
+        bridge.movementText("", false);
         bridge.offerHowToMove();
         bridge.stateChanged(State::WaitingToCalibrate);
     }).join();
@@ -155,6 +155,7 @@ TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
     for (int state = 0; state <= 11; ++state)
         functions.modifyUiToStateInQML(static_cast<State>(state));
     functions.showMovementText("a");
+    functions.setHoldStill(true);
     functions.showCalibrationStartupText("a");
     functions.showSaveCalibrationText("a");
     functions.setLightingDialogText("a", "b");

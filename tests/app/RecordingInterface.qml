@@ -37,6 +37,7 @@ Window {
     function setLeftToRightLanguage(on) { add("leftToRight", [on]) }
     function modifyUiToStateInQML(state) { add("state", [state]) }
     function showMovementText(text) { note("movement", [text]) }
+    function setHoldStill(on) {}
     function showCalibrationStartupText(text) { add("startText", [text]) }
     function showSaveCalibrationText(text) { add("saveText", [text]) }
     function setLightingDialogText(title, text) { note("lighting", [title, text]) }

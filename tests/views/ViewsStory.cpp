@@ -138,6 +138,7 @@ std::vector<Scene> story() {
              stage.tell("setColorCameraDescriptionText", interfaceText(texts::kSecondCamera));
              startAttempt(stage);
              takePhotos(stage, 5);
+             stage.tell("setHoldStill", true);
              stage.tell("showMovementText", interfaceText("Pause to capture a calibration photo."));
          }},
         {"leave-question-second", [](ViewsStage& stage) { stage.press("exitButton"); }},

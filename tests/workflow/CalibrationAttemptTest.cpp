@@ -71,7 +71,10 @@ public:
     std::vector<bool> darkness;
     int captured = 0, howToMove = 0;
 
-    void movementText(const std::string& text) override { movement.push_back(text); }
+    void movementText(const std::string& text, bool holdStill) override {
+        EXPECT_EQ(holdStill, text.rfind("Pause", 0) == 0) << text;
+        movement.push_back(text);
+    }
     void startText(const std::string& text) override { start.push_back(text); }
     void calibrationProgress(double value) override { progress.push_back(value); }
     void returnToWellLitArea(bool needed) override { darkness.push_back(needed); }

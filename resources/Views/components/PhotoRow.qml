@@ -1,12 +1,13 @@
 import QtQuick 2.15
 import "../theme"
 
-// The photos taken, in a row with room for as many as an attempt may take.
+// The photos taken, and places for those to come: four are always needed, and as long as they do not suffice, one more.
 Row {
     id: row
     property int count: 0
     property var sources: []
     property bool complete: false  // no more will come
+    readonly property int usual: 4
     readonly property int limit: 8
     readonly property real slotWidth: Math.min((width - (limit - 1) * spacing) / limit, height * 4 / 3)
     spacing: Theme.smallGap
@@ -15,7 +16,7 @@ Row {
         model: row.limit
         Rectangle {
             readonly property bool taken: index < row.count
-            visible: taken || !row.complete
+            visible: taken || (!row.complete && index < Math.max(row.usual, row.count + 1))
             width: row.slotWidth
             height: width * 3 / 4
             anchors.verticalCenter: parent.verticalCenter

@@ -9,7 +9,6 @@ PairPage {
     signal restarted()
     signal howToMoveWanted()
 
-    readonly property bool still: instruction.text === qsTranslate("Interface", "Pause to capture a calibration photo.")
     function confirmPhoto() {
         flash.restart()
         confirmation.restart()
@@ -38,7 +37,7 @@ PairPage {
             Layout.preferredWidth: Theme.length(72)
             Layout.preferredHeight: Theme.length(72)
             visible: confirmation.running || instruction.text !== ""
-            drawing: confirmation.running ? "done" : screen.still || screen.paused ? "pause" : "move"
+            drawing: confirmation.running ? "done" : screen.status.holdStill || screen.paused ? "pause" : "move"
         }
         ColumnLayout {
             spacing: 0
