@@ -23,14 +23,13 @@ struct CameraExtrinsics {
     std::array<float, 3> translation{0, 0, 0};                 ///< metres
 };
 
-/// What whole-pixel picture sizes leave over when a colour picture is brought into the infrared geometry.
-///
-/// The colour `CameraModel` describes a picture scaled by exactly fx_infrared / fx_colour across and
-/// fy_infrared / fy_colour down. The delivered picture has whole pixels, and its height follows the horizontal
-/// factor. A delivered pixel position p belongs to the model position (p + 0.5) · factor − 0.5, axis by axis.
+/// Corrects for the whole-pixel size of a colour image that was scaled into the infrared geometry.
+/// The colour `CameraModel` describes an image scaled by exactly fx_infrared / fx_colour horizontally and fy_infrared /
+/// fy_colour vertically. The delivered image has a whole number of pixels, and its height follows the horizontal
+/// factor. A delivered pixel position p corresponds to the model position (p + 0.5) · factor − 0.5 along each axis.
 struct ColourScaling {
-    float x = 1;  ///< model pixels per delivered pixel, across; close to 1
-    float y = 1;  ///< the same, down
+    float x = 1;  ///< model pixels per delivered pixel, horizontally; close to 1
+    float y = 1;  ///< the same, vertically
 };
 
 /// A colour camera as the engine and the overlay use it.
@@ -44,7 +43,7 @@ struct ColourCameraParameters {
 struct CameraParameters {
     CameraModel infrared;
     CameraModel depth;
-    PerColourCamera<ColourCameraParameters> colour;  ///< models are all zero for a camera that is not there
+    PerColourCamera<ColourCameraParameters> colour;  ///< the models of an absent camera are all zero
 };
 
 }  // namespace fieldcal

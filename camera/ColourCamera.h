@@ -13,7 +13,7 @@ enum class ColourCamera : std::size_t {
 
 constexpr std::array<ColourCamera, 2> kColourCameras{ColourCamera::Third, ColourCamera::Platform};
 
-/// The camera's name in files and on the command line.
+/// Returns the camera's name in files and on the command line.
 constexpr const char* nameOf(ColourCamera camera) {
     return camera == ColourCamera::Platform ? "platform" : "third";
 }

@@ -6,7 +6,7 @@
 
 namespace fieldcal {
 
-/// Width, height and a packed row-major pixel buffer. Plain value; not synchronised.
+/// Width, height and a packed row-major pixel buffer. A plain value; not synchronised.
 class ImageFrame {
 public:
     explicit ImageFrame(std::uint32_t bytesPerPixel) : bytesPerPixel_(bytesPerPixel) {}
@@ -16,10 +16,10 @@ public:
     std::uint32_t bytesPerPixel() const { return bytesPerPixel_; }
     bool empty() const { return width_ == 0 || height_ == 0; }
 
-    /// Nothing happens when the size is unchanged; otherwise the pixels are undefined afterwards.
+    /// Leaves the frame as it is when the size is unchanged; otherwise the pixels are undefined afterwards.
     void resize(std::uint32_t width, std::uint32_t height);
 
-    /// Replaces size and pixels. `source` holds width x height packed pixels.
+    /// Replaces size and pixels. `source` points to width x height packed pixels.
     void assign(std::uint32_t width, std::uint32_t height, const void* source);
 
     std::uint8_t* bytes() { return buffer_.data(); }

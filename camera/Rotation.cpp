@@ -62,7 +62,7 @@ Angles3 anglesFromRotation(const Matrix3& r) {
 
 double angleBetweenDeg(const Matrix3& a, const Matrix3& b) {
     const Matrix3 d = product(a, transposed(b));
-    // By sine and cosine: the arc cosine alone loses small angles in rounding.
+    // The sine is used together with the cosine, as the arc cosine alone loses small angles to rounding.
     const double sine = std::sqrt(std::pow(d[7] - d[5], 2) + std::pow(d[2] - d[6], 2) + std::pow(d[3] - d[1], 2)) / 2;
     const double cosine = (d[0] + d[4] + d[8] - 1.0) / 2.0;
     return std::atan2(sine, cosine) * kDegreesPerRadian;

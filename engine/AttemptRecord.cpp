@@ -15,7 +15,7 @@ namespace vq {
 namespace {
 
 constexpr double kMatchCauchyPx = 0.3;
-constexpr double kPatchCauchy = 1.5;  ///< deviations
+constexpr double kPatchCauchy = 1.5;  ///< in standard deviations
 constexpr double kNearPx = 12.0;
 constexpr double kMaxDepartureRad = 0.25 / kDegreesPerRadian;
 constexpr double kMaxAlignmentRad = 0.1 / kDegreesPerRadian;
@@ -23,26 +23,27 @@ constexpr std::size_t kMinimumMatches = 30;
 constexpr std::size_t kMinimumPatches = 150;
 constexpr std::size_t kMinimumPatchesOfPair = 50;
 constexpr std::size_t kMinimumPairsToCompare = 3;
-/// How far one pair's rotation about X or Y may lie from the median of all pairs. Photographs scatter by 0.015°.
+/// Largest accepted difference between one pair's rotation about X or Y and the median of all pairs. On photographs
+/// these rotations scatter by 0.015°.
 constexpr double kPairDepartureRad = 0.03 / kDegreesPerRadian;
-/// Motion of the infrared image from one frame to the next that a still hand shows, and how much more than the stillest
-/// pair another one may have. Colour is exposed some milliseconds later than infrared, which turns motion into
-/// rotation.
+/// Motion of the infrared image from one frame to the next that a device held still shows, and the margin over the
+/// stillest pair that another pair may have. Colour is exposed some milliseconds after infrared, so motion between the
+/// exposures appears as rotation.
 constexpr float kStillPx = 0.5F;
 constexpr float kStillShare = 1.5F;
 constexpr std::size_t kMostPerArea = 60;
 
-/// What the fit has to show before it may tell the baseline.
+/// Conditions that a fit has to meet before its estimate of the stereo baseline is used.
 constexpr std::size_t kMinimumForScale = 100;
 constexpr double kLargestScaleDeviation = 0.25;
 constexpr double kSmallestBaselineM = 0.015, kLargestBaselineM = 0.2;
-/// Patches are aligned anew when the scale has moved by this share.
+/// Patches are aligned again when the scale has changed by this share.
 constexpr double kScaleChange = 0.03;
 
 constexpr double kFarInverseDepth = 0.01;
 
-/// At most so many of the matches in each area of the infrared image, spread evenly over what it has: a foreground full
-/// of detail must not outvote the rest of the scene.
+/// Limits the number of matches per area of the infrared image, keeping an even selection within each area. A
+/// foreground full of detail must not outvote the rest of the scene.
 std::vector<MeasuredMatch> balanced(const std::vector<MeasuredMatch>& matches, const fieldcal::CameraModel& infrared) {
     std::array<std::vector<const MeasuredMatch*>, kAreaCount> areas;
     for (const MeasuredMatch& match : matches)
@@ -93,7 +94,7 @@ std::optional<StereoScale> AttemptRecord::workingScale() const {
     return std::nullopt;
 }
 
-/// The matches that the rotation explains or nearly explains; the others only add noise to the fit.
+/// Returns the matches that the rotation explains or nearly explains; the others would only add noise to the fit.
 std::vector<MeasuredMatch> AttemptRecord::matchesNear(const Eigen::Matrix3d& rotation, const StereoScale* scale) const {
     std::vector<MeasuredMatch> all;
     for (const Pair& pair : pairs_) {
@@ -115,7 +116,7 @@ std::vector<MeasuredMatch> AttemptRecord::matchesOfPairNear(const Pair& pair, co
     return near;
 }
 
-/// Those of which it is known how far they are, or that nothing could have told.
+/// Returns the matches whose distance is known. Where no distance could be measured at all, all matches are returned.
 std::vector<MeasuredMatch> AttemptRecord::locatedMatches(const Pair& pair, const StereoScale* scale) {
     std::vector<MeasuredMatch> located;
     for (const MeasuredMatch& match : pair.matches)
@@ -135,7 +136,8 @@ std::optional<Eigen::Matrix3d> AttemptRecord::fitMatches(const Eigen::Matrix3d& 
     return fitted->rotation;
 }
 
-/// Where depth does not tell the scale, distances that vary do.
+/// Estimates the scale from the variation of distances within the scene, for attempts in which the depth image does not
+/// determine it.
 void AttemptRecord::learnScale(const std::vector<MeasuredMatch>& matches, const Eigen::Matrix3d& rotation,
                                double cauchy) {
     const auto scale = workingScale();
@@ -158,8 +160,8 @@ void AttemptRecord::learnScale(const std::vector<MeasuredMatch>& matches, const 
     if (plausible && deviation < kLargestScaleDeviation) meter_.setFittedScale({fitted->pixelMetres, 0, deviation});
 }
 
-/// How much the fitted scale hangs on some of the matches: they come still after still, so that every sixth of the list
-/// left out is a place of its own (jackknife). Pixels times metres.
+/// Returns how much the fitted scale depends on single parts of the scene, in pixels times metres (jackknife). Matches
+/// are listed still after still, so each of the six groups of consecutive matches stands for a part of the scene.
 double AttemptRecord::scaleScatter(const std::vector<MeasuredMatch>& measured, const Eigen::Matrix3d& rotation,
                                    const FitOptions& options) const {
     constexpr std::size_t kParts = 6;
@@ -198,8 +200,8 @@ std::vector<MeasuredMatch> AttemptRecord::alignedPatches(const Eigen::Matrix3d& 
     return all;
 }
 
-/// A pair agrees when its own patches want about the rotation that the pairs want in the median. One that was taken
-/// while the hand still moved shows the colour camera turned by what it moved between the two exposures.
+/// Marks the pairs whose own patches give about the median rotation of all pairs. A pair taken while the device still
+/// moved shows the colour camera rotated by the motion between the two exposures.
 void AttemptRecord::findPairsThatAgree(const Eigen::Matrix3d& rotation, const StereoScale* scale) {
     FitOptions options;
     options.cauchy = kPatchCauchy;

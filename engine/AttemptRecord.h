@@ -14,62 +14,64 @@
 
 namespace vq {
 
-/// A rotation fitted to everything that an attempt has seen.
+/// A rotation fitted to all image pairs of an attempt.
 struct PolishedRotation {
     Eigen::Vector3d anglesRad;
     SolutionQuality quality;
 };
 
-/// What an attempt keeps of its pairs, and the last fit over all of it.
-///
-/// The rounds of the vote see 84 matches at a time. Started at their winner, the last fit first takes the verified
-/// matches at their exact positions with each one's own distance, then aligns patches of the images directly, wherever
-/// both have texture (docs/estimation.md, docs/distances.md). One thread at a time; uses a second one while it works.
+/// Keeps the image pairs of an attempt and computes the final fit over all of them.
+/// Each round of the vote uses 84 matches at most. The final fit starts from the winner of the vote. It first uses all
+/// verified matches at their exact positions, each with its own distance, and then aligns image patches directly
+/// wherever both images have texture (docs/estimation.md, docs/distances.md). Call it from one thread at a time; it
+/// uses a second thread internally.
 class AttemptRecord {
 public:
-    /// One pair: its two 8-bit images, its verified matches, and the textured places that may be aligned.
+    /// One image pair: its two 8-bit images, its verified matches, and the textured places at which patches may be
+    /// aligned.
     struct Pair {
         cv::Mat infrared8, grey;
         std::vector<MeasuredMatch> matches;
         std::vector<MeasuredPlace> places;
-        bool seesDisparities = false;  ///< whether a match without a distance is an exception
-        float motionPx = 0;            ///< how far the infrared image moved to the next frame
+        bool seesDisparities = false;  ///< whether the distances of most matches can be measured
+        float motionPx = 0;            ///< motion of the infrared image to the next frame
     };
 
     explicit AttemptRecord(DistanceMeter& meter) : meter_(meter) {}
 
-    /// `storedRotation`: what the attempt starts from, depth to colour.
+    /// `storedRotation`: depth to colour, the rotation with which the attempt starts.
     void setup(const Projection& projection, const Eigen::Matrix3d& storedRotation);
     void clear();
 
-    /// The images are copied.
+    /// Adds a pair. The images are copied.
     void addPair(Pair pair);
 
-    /// The last fit. None when it fails, when too few matches support it, or when it leaves the winner by more than
-    /// the rounds scatter; the winner then stands.
+    /// Computes the final fit. Returns none, so that the winner of the vote stands, when the fit fails, when too few
+    /// matches support it, or when it differs from the winner by more than the rounds scatter.
     std::optional<PolishedRotation> polish(const Eigen::Vector3d& winnerRad);
 
     ParallaxReport report() const;
-    /// What the last fit was made from; none before there was one.
+    /// The matches and images behind the final fit; none before a fit has succeeded.
     std::optional<SolutionEvidence> evidence() const;
 
 private:
     struct KeptPair : Pair {
         std::vector<MeasuredMatch> aligned;
-        double alignedPixelMetres = -1;  ///< the scale they were aligned with; negative before
-        bool agrees = true;              ///< with the rotation that the pairs want in the median
+        double alignedPixelMetres = -1;  ///< the scale used for the alignment; negative before the first alignment
+        bool agrees = true;              ///< whether the pair's own rotation agrees with the median over the pairs
     };
-    /// What the angles were fitted to last, and how.
+    /// The state of the final fit: its rotation, its options and what it was fitted to.
     struct LastFit {
         Eigen::Matrix3d rotation;
-        FitOptions options;  ///< its scale is `scale`
+        FitOptions options;  ///< `options.scale` points to `scale`
         std::optional<StereoScale> scale;
         bool ofPatches = false;
     };
 
-    /// Whether the hand was still, as far as that can be had: a pair of a moving hand counts when there is no other.
+    /// Returns whether the device was still enough for the pair to take part. When no pair was still, the stillest ones
+    /// count.
     bool isStill(const Pair& pair) const;
-    /// The scale that distances are computed with: a known one, else an assumed one where disparities are seen.
+    /// The scale used to compute distances: a measured one, otherwise an assumed one if disparities are available.
     std::optional<StereoScale> workingScale() const;
     std::vector<MeasuredMatch> matchesNear(const Eigen::Matrix3d& rotation, const StereoScale* scale) const;
     std::vector<MeasuredMatch> matchesOfPairNear(const Pair& pair, const Eigen::Matrix3d& rotation,
@@ -82,7 +84,7 @@ private:
     std::vector<MeasuredMatch> alignedPatches(const Eigen::Matrix3d& rotation, const StereoScale* scale);
     void findPairsThatAgree(const Eigen::Matrix3d& rotation, const StereoScale* scale);
     std::optional<LastFit> fitAll(const Eigen::Matrix3d& winner);
-    /// What a fit takes of one pair; empty when the pair does not take part.
+    /// The matches of one pair that a fit uses; empty when the pair does not take part.
     std::vector<MeasuredMatch> takenOf(const KeptPair& pair, const LastFit& fit) const;
     SolutionQuality judge(const LastFit& fit) const;
 

@@ -10,8 +10,8 @@ struct BriefPair {
     std::int8_t x0, y0, x1, y1;
 };
 
-/// Drawn once from an isotropic Gaussian with deviation 48/5, cut to the 48 x 48 patch, and frozen: descriptors have
-/// to mean the same in every build.
+/// The offsets were drawn once from an isotropic Gaussian with standard deviation 48/5, truncated to the 48 x 48 patch.
+/// They are fixed so that descriptors are the same in every build.
 inline constexpr std::array<BriefPair, 256> kBriefPairs{{
     {12, -8, 2, -21},   {-1, 14, 16, -11},  {-5, -3, 16, 7},    {5, 10, -3, 2},     {8, 7, -5, -12},
     {6, 4, -11, 11},    {6, 4, 1, 5},       {14, -3, 14, 2},    {4, 15, 2, 4},      {-5, 0, 2, -5},

@@ -11,10 +11,10 @@
 
 namespace vq {
 
-/// The engine behind `ICalibrator`. The program has one; tests make their own.
+/// The engine behind `ICalibrator`. The program has one instance; tests create their own.
 class CalibratorInterface : public ICalibrator {
 public:
-    /// Both references must outlive the engine. `parameters` are read by `setCameraParameters`.
+    /// `context` and `parameters` must outlive the engine. `parameters` are read by `setCameraParameters`.
     CalibratorInterface(RegistrationContext& context, const fieldcal::CameraParameters& parameters,
                         const SensorCalibratorParameters& tuning = {}, const AccuracyGoal& goal = {});
 
@@ -50,8 +50,8 @@ private:
     const AccuracyGoal goal_;
     FrameSelector frameSelector_;
     SelectedImages selected_;
-    const fieldcal::ImageFrame16* right_ = nullptr;  ///< of the grab that is about to be fed
-    const fieldcal::ImageFrame16* depth_ = nullptr;  ///< likewise
+    const fieldcal::ImageFrame16* right_ = nullptr;  ///< of the frame set whose infrared and colour frames are fed next
+    const fieldcal::ImageFrame16* depth_ = nullptr;  ///< of the same frame set
     std::int32_t attempts_ = 0;
     std::int32_t featureTotal_ = 0;
     bool firstPass_ = false;

@@ -5,17 +5,19 @@
 
 namespace vq {
 
+/// The answers of the engine. 3 to 5 answer a live pair of frames, the others the processing of a selected pair.
 enum CalibratorStatus : std::int32_t {
-    NeedMoreImages = 0,
-    AddingFramesForConvergence = 2,
-    ProcessImagePair = 3,
-    RotateDevice = 4,
-    RemainStill = 5,
-    SceneTooSimple = 6,
-    SceneTooSimpleRepeated = 7,
-    GoodSolution = 8,
+    NeedMoreImages = 0,              ///< too few areas of the image have matches; take another pair
+    AddingFramesForConvergence = 2,  ///< no solution yet, or one that is not accurate enough; take another pair
+    ProcessImagePair = 3,            ///< a pair has been selected and waits to be processed
+    RotateDevice = 4,                ///< the device must move before the next pair can be selected
+    RemainStill = 5,                 ///< the device must be held still
+    SceneTooSimple = 6,              ///< too few matches on average over at least seven pairs; start over
+    SceneTooSimpleRepeated = 7,      ///< reserved for repeated attempts with too few matches
+    GoodSolution = 8,                ///< the solution is accepted; the attempt is complete
 };
 
+/// The answer of the engine to one call.
 struct CalibratorResult {
     std::int32_t code = NeedMoreImages;  ///< a `CalibratorStatus`
     std::string message;                 ///< may be empty

@@ -7,13 +7,13 @@
 
 namespace vq {
 
-/// The infrared and the colour camera as the engine computes with them.
+/// The models of the infrared and the colour camera as the engine uses them.
 struct CameraPair {
     fieldcal::CameraModel infrared;
     fieldcal::CameraModel colour;
     fieldcal::ColourScaling colourScaling;
 
-    /// A position in the delivered colour picture, in pixels of the colour model, and back.
+    /// Converts a position in the delivered colour image to pixels of the colour model, and back.
     cv::Point2f colourModelPoint(const cv::Point2f& delivered) const {
         return {(delivered.x + 0.5F) * colourScaling.x - 0.5F, (delivered.y + 0.5F) * colourScaling.y - 0.5F};
     }

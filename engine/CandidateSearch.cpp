@@ -10,7 +10,7 @@
 namespace vq {
 namespace {
 
-/// Squared Euclidean distance: orders as the norm itself, and is exact.
+/// Squared Euclidean distance. It has the same order as the norm itself and is exact in integers.
 std::int32_t distance(const std::uint8_t* a, const std::uint8_t* b) {
     std::int32_t sum = 0;
     for (int i = 0; i < kDescriptorBytes; ++i) {

@@ -8,14 +8,14 @@
 
 namespace vq {
 
-/// Target corners sorted into buckets, so that only those inside a search rectangle are compared. Read-only after
-/// construction; keeps a reference to the corners.
+/// Sorts target corners into buckets, so that only those inside a search rectangle are compared. Read-only after
+/// construction. The corners must outlive the search.
 class CandidateSearch {
 public:
     CandidateSearch(const CornerSet& targets, const cv::Size& targetSize);
 
-    /// The target corner inside `area` whose descriptor is nearest by Euclidean norm over the 32 bytes; of equals the
-    /// first. −1 when there is none. `area`: both ends inclusive.
+    /// Returns the index of the target corner inside `area` whose descriptor is nearest by Euclidean norm over the 32
+    /// bytes; on a tie, the first one. Returns −1 when there is none. `area` includes both ends.
     int nearest(const cv::Rect2f& area, const std::uint8_t* descriptor) const;
 
 private:

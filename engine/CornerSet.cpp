@@ -33,8 +33,8 @@ void refine(const cv::Mat& image, std::vector<cv::Point2f>* points) {
     cv::cornerSubPix(image, *points, {3, 3}, {-1, -1}, criteria);
 }
 
-/// Each corner is refined for itself, so two halves side by side give what one call gives. It is most of the time that
-/// a pair of pictures takes.
+/// Refines the corners in two halves on two threads; each corner is refined independently, so the result is that of a
+/// single call. Refinement takes most of the processing time of an image pair.
 void refineInHalves(const cv::Mat& image, std::vector<cv::Point2f>* points) {
     const auto middle = points->begin() + static_cast<std::ptrdiff_t>(points->size() / 2);
     std::vector<cv::Point2f> first(points->begin(), middle), second(middle, points->end());

@@ -6,11 +6,11 @@
 
 namespace vq {
 
-/// Corners of a picture with their descriptors.
+/// Corners of an image with their descriptors.
 struct CornerSet {
     std::vector<cv::Point2f> points;
-    cv::Mat descriptors;  ///< one row a point
-    int detected = 0;     ///< before those without a complete patch were dropped
+    cv::Mat descriptors;  ///< one row per point
+    int detected = 0;     ///< number of corners before those without a complete patch were removed
     double detectionSeconds = 0;
     double descriptionSeconds = 0;
 };

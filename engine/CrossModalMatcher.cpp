@@ -33,7 +33,7 @@ cv::Rect2f searchArea(const PositionTable::Quadrilateral& predicted, const cv::S
             cv::Point2f(clampX(right + kSearchMarginPx), clampY(bottom + kSearchMarginPx))};
 }
 
-/// The area of a place that parallax moves: the perimeter of the table's rectangle, drawn out to both ends.
+/// Extends a search rectangle of the position table by the range of the parallax shift.
 PositionTable::Quadrilateral shifted(const PositionTable::Quadrilateral& area, const ParallaxShift& shift) {
     return {area[0] + shift.low, area[1] + cv::Point2f(shift.high.x, shift.low.y), area[2] + shift.high,
             area[3] + cv::Point2f(shift.low.x, shift.high.y)};

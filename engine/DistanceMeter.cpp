@@ -15,22 +15,22 @@ using fieldcal::logMessage;
 
 constexpr double kTypicalBaselineM = 0.06;
 constexpr double kTypicalDeviation = 0.25;
-/// A baseline from the fit that is less certain is used, but not called known.
+/// A less certain baseline from the fit is used for distances but not reported as known.
 constexpr double kTellableDeviation = 0.05;
 constexpr double kRememberedDeviation = 0.01;
-/// Depths beyond this are not believed, and nearer ones neither; metres.
+/// Depth values outside this range are ignored; metres.
 constexpr float kNearestM = 0.3F, kFarthestM = 15.0F;
-/// How far the coarse disparity and a later one may differ.
+/// Largest accepted difference between the coarse and the refined disparity.
 constexpr float kLargestChangePx = 4.0F;
-/// Grey levels of 1024 below whose deviation an image shows nothing.
+/// An image with a smaller standard deviation counts as blank, in grey levels of 1024.
 constexpr double kBlankDeviation = 2.0;
-/// Disparities this far below zero would lie behind the horizon. More than the given share of them, among enough
-/// places, and the image does not belong to the left one.
+/// Disparities this far below zero are impossible even at infinity. If more than the given share of enough places have
+/// one, the right image does not belong to the left one.
 constexpr float kBehindHorizonPx = -1.5F;
 constexpr double kLargestShareBehind = 0.3;
 constexpr std::size_t kPlacesToJudge = 50;
 constexpr std::size_t kMostSamples = 6000;
-/// How far about a place the depth image is asked whether it shows anything.
+/// Radius around a place within which the depth image is checked for values.
 constexpr int kDepthReachPx = 15;
 /// The depth of a place is the median of 5 x 5 pixels.
 constexpr int kMedianReachPx = 2;
@@ -105,7 +105,7 @@ bool DistanceMeter::isBeyondDepth(const cv::Point2f& infraredPoint) const {
     return inside.empty() || cv::countNonZero(depth16_(inside)) == 0;
 }
 
-/// Of the depths about the place, the median: single pixels are noisy, and some are missing.
+/// Returns the median of the depths around the place, because single pixels are noisy and some are missing.
 float DistanceMeter::inverseDepthAt(const cv::Point2f& infraredPoint) const {
     if (depth16_.empty()) return kUnknownDistance;
     const cv::Point pixel = depthPixelOf(infraredPoint);

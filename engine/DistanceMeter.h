@@ -14,40 +14,42 @@
 
 namespace vq {
 
-/// Measures how far away the places of a pair are: by their disparity in the right infrared image, and by the depth
-/// image where that reaches. Keeps what an attempt learns about the stereo baseline. One thread at a time.
+/// Measures the distance of places in an image pair: from their disparity in the right infrared image, and from the
+/// depth image within its range. Accumulates what an attempt measures of the stereo baseline. One thread at a time.
 class DistanceMeter {
 public:
-    /// Starts over for the given cameras. `rememberedBaselineM`: of an earlier calibration of the module; 0 for none.
+    /// Starts over for the given cameras. `rememberedBaselineM`: the baseline from an earlier calibration of the module
+    /// in metres, 0 for none.
     void setup(const fieldcal::CameraModel& infrared, const fieldcal::CameraModel& depth, double rememberedBaselineM);
-    /// Forgets what was collected, not the cameras.
+    /// Discards the collected samples; the cameras stay.
     void reset();
 
-    /// Takes the images of a pair. CV_16UC1; `right16` and `depth16` are empty where there are none. A right image that
-    /// cannot be the one that belongs to the left one (another size, blank, frozen, a copy of the left one) is logged
-    /// once and left out.
+    /// Sets the images of a pair, CV_16UC1; `right16` and `depth16` are empty where the module has none. A right image
+    /// that cannot belong to the left one (different size, blank, frozen, or a copy of the left one) is logged once and
+    /// ignored.
     void beginPair(const cv::Mat& left16, const cv::Mat& right16, const cv::Mat& depth16);
-    /// False without a usable right image: then distances come from the depth image alone.
+    /// Returns false without a usable right image; distances then come from the depth image alone.
     bool seesDisparities() const { return stereo_ != nullptr; }
 
     bool seesDepth() const { return !depth16_.empty(); }
 
-    /// The disparity to about a pixel, and the depth image's inverse depth, of each place.
+    /// Returns for each place the disparity to about a pixel, and the inverse depth from the depth image.
     std::vector<MeasuredPlace> lookUp(const std::vector<cv::Point2f>& infraredPoints) const;
-    /// Replaces the coarse disparities by sub-pixel ones, where both agree.
+    /// Replaces the coarse disparities by sub-pixel ones where the two agree.
     void refine(std::vector<MeasuredPlace>* places) const;
-    /// Whether there is a depth image and it shows nothing about the place: what is there lies beyond its reach.
+    /// Returns true when there is a depth image and it has no values around the place, so that the surface there is out
+    /// of its range.
     bool isBeyondDepth(const cv::Point2f& infraredPoint) const;
-    /// What refined places tell about the scale between disparity and distance, and whether the right image fits the
-    /// left one at all.
+    /// Updates the scale between disparity and distance from refined places, and checks whether the right image fits
+    /// the left one at all.
     void learnFrom(const std::vector<MeasuredPlace>& places);
 
-    /// The scale of the attempt: from depth, from the last fit, or remembered. Null without one.
+    /// The scale of the attempt: from the depth image, from the last fit, or remembered. Null when it is unknown.
     const StereoScale* scale() const;
-    /// A scale to begin with where none is known: of a baseline as infrared stereo modules usually have it.
+    /// The initial scale when none is known: that of a typical baseline for infrared stereo modules.
     StereoScale assumedScale() const;
-    /// Takes the scale that a fit of the rotation found, and averages it with the remembered or assumed one, each with
-    /// its weight. Depth goes before it.
+    /// Sets the scale found by a fit of the rotation, averaged with the remembered or assumed one according to their
+    /// weights. A scale from the depth image takes precedence.
     void setFittedScale(const StereoScale& fitted);
     BaselineSource source() const;
     std::optional<double> baselineM() const;

@@ -8,22 +8,22 @@
 
 namespace vq {
 
-/// A match prepared for many evaluations.
+/// A match prepared for repeated evaluation.
 struct FitTerm {
-    Eigen::Vector3d ray;  ///< of the infrared place, on the plane Z = 1
+    Eigen::Vector3d ray;  ///< through the infrared place, on the plane Z = 1
     Eigen::Vector2d colour;
     Eigen::Matrix2d information;
-    double inverseDepth;  ///< for a scale that is estimated: the disparity
+    double inverseDepth;  ///< the disparity instead when the scale is estimated
 };
 
-/// A term at one rotation.
+/// A term evaluated at one rotation.
 struct EvaluatedTerm {
     Eigen::Vector3d turned;  ///< the ray in the colour camera's axes
     Eigen::Vector3d point;   ///< with the translation, in units of its distance
     Eigen::Vector2d residualPx;
     Eigen::Matrix<double, 2, 3> pixelsPerPoint;
-    double squared;  ///< residual in deviations, squared
-    double weight;   ///< of the Cauchy loss
+    double squared;  ///< squared residual, in standard deviations
+    double weight;   ///< weight under the Cauchy loss
 
     EvaluatedTerm(const FitTerm& term, const Eigen::Matrix3d& rotation, const Projection& projection,
                   double inverseDepth, double cauchy)
@@ -38,7 +38,7 @@ struct EvaluatedTerm {
         weight = 1 / (1 + squared / (cauchy * cauchy));
     }
 
-    /// Pixels per radian of a small turn of the colour camera's axes.
+    /// Derivative of the projection by a small rotation of the colour camera's axes, in pixels per radian.
     Eigen::Matrix<double, 2, 3> pixelsPerTurn() const {
         Eigen::Matrix3d motion;
         motion << 0, turned.z(), -turned.y(),  //
@@ -48,7 +48,7 @@ struct EvaluatedTerm {
     }
 };
 
-/// The terms of matches; those of unknown distance count as infinitely far.
+/// Prepares the terms of matches. Matches of unknown distance count as infinitely far.
 std::vector<FitTerm> fitTerms(const std::vector<MeasuredMatch>& matches, const Projection& projection,
                               const FitOptions& options);
 

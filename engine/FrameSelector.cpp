@@ -16,7 +16,7 @@ using fieldcal::logMessage;
 
 constexpr const char* kTag = "FrameSelector::shouldUseThisFrame";
 constexpr int kMotionWindowPx = 256, kSmallestMotionWindowPx = 32;
-/// Below it phase correlation has found no common shift.
+/// With a lower response, phase correlation has not found a common shift.
 constexpr double kLeastResponse = 0.1;
 
 cv::Mat viewOf(const fieldcal::ImageFrame& frame, int type) {
@@ -24,7 +24,7 @@ cv::Mat viewOf(const fieldcal::ImageFrame& frame, int type) {
             const_cast<std::uint8_t*>(frame.bytes())};
 }
 
-/// Copies the frame, or empties the image where there is none or none is wanted.
+/// Copies the frame, or clears the image when the frame is empty or not wanted.
 void copyIf(bool wanted, const fieldcal::ImageFrame& frame, int type, cv::Mat* image) {
     if (wanted && !frame.empty()) {
         viewOf(frame, type).copyTo(*image);
@@ -38,7 +38,7 @@ void assign(const cv::Mat& image, int bytesPerPixel, ImagePairRecord* record) {
                    static_cast<std::uint32_t>(bytesPerPixel));
 }
 
-/// Pixels by which the middle of the image moved, by phase correlation (Kuglin and Hines, 1975).
+/// Shift of the central part of the image in pixels, by phase correlation (Kuglin and Hines, 1975).
 float motionBetween(const cv::Mat& earlier, const cv::Mat& later) {
     const int side = std::min({kMotionWindowPx, earlier.cols, earlier.rows});
     if (earlier.size() != later.size() || side < kSmallestMotionWindowPx) return 0;
@@ -60,27 +60,27 @@ void FrameSelector::push(const fieldcal::ImageFrame16& infrared, const fieldcal:
 
 void FrameSelector::push(const fieldcal::ImageFrame16& infrared, const fieldcal::ImageFrame32& colour,
                          const fieldcal::ImageFrame16& right, const fieldcal::ImageFrame16& depth) {
-    Moment moment = takeOldest();
-    // A pair is only ever selected from frames that came after the movement.
+    QueuedFrameSet frameSet = takeOldest();
+    // A pair is selected only from frames that follow a movement.
     const bool mayBeSelected = state_ != WaitingToMove;
-    copyIf(mayBeSelected, infrared, CV_16UC1, &moment.infrared);
-    copyIf(mayBeSelected, colour, CV_8UC4, &moment.colour);
-    copyIf(mayBeSelected, right, CV_16UC1, &moment.right);
-    copyIf(mayBeSelected, depth, CV_16UC1, &moment.depth);
+    copyIf(mayBeSelected, infrared, CV_16UC1, &frameSet.infrared);
+    copyIf(mayBeSelected, colour, CV_8UC4, &frameSet.colour);
+    copyIf(mayBeSelected, right, CV_16UC1, &frameSet.right);
+    copyIf(mayBeSelected, depth, CV_16UC1, &frameSet.depth);
     const cv::Mat colourView = viewOf(colour, CV_8UC4);
-    moment.colourSize = colourView.size();
-    moment.infraredSize = viewOf(infrared, CV_16UC1).size();
+    frameSet.colourSize = colourView.size();
+    frameSet.infraredSize = viewOf(infrared, CV_16UC1).size();
     cv::Mat half;
     cv::pyrDown(colourView, half);
-    cv::pyrDown(half, moment.motion);
-    moments_.push_back(std::move(moment));
+    cv::pyrDown(half, frameSet.motion);
+    queue_.push_back(std::move(frameSet));
     if (state_ == Initial) state_ = WaitingForStill;
 }
 
-FrameSelector::Moment FrameSelector::takeOldest() {
-    if (moments_.size() < 2 * step_ + 1) return {};
-    Moment oldest = std::move(moments_.front());
-    moments_.pop_front();
+FrameSelector::QueuedFrameSet FrameSelector::takeOldest() {
+    if (queue_.size() < 2 * step_ + 1) return {};
+    QueuedFrameSet oldest = std::move(queue_.front());
+    queue_.pop_front();
     return oldest;
 }
 
@@ -108,7 +108,7 @@ float FrameSelector::motionMeasure() const {
 }
 
 float FrameSelector::motionSince(std::size_t index) const {
-    const Moment &earlier = moments_.at(index), &newest = moments_.at(counter_);
+    const QueuedFrameSet &earlier = queue_.at(index), &newest = queue_.at(counter_);
     const bool sizeChanged = earlier.infraredSize != newest.infraredSize || earlier.colourSize != newest.colourSize;
     if (sizeChanged) return std::numeric_limits<float>::max();
     return static_cast<float>(cv::norm(newest.motion, earlier.motion, cv::NORM_L2));
@@ -120,22 +120,22 @@ void FrameSelector::enter(State state) {
 }
 
 void FrameSelector::copySelectedPair(ImagePairRecord* infrared, ImagePairRecord* colour) {
-    const auto kept = static_cast<int>(moments_.size());
+    const auto kept = static_cast<int>(queue_.size());
     logMessage(kInfo, kTag, "Before getting the images from the deques: %d %d", kept, kept);
-    const Moment& selected = moments_.at(counter_ - step_);
+    const QueuedFrameSet& selected = queue_.at(counter_ - step_);
     logMessage(kInfo, kTag, "After");
     assign(selected.infrared, 2, infrared);
     logMessage(kInfo, kTag, "infrared memcpy is finished");
     assign(selected.colour, 4, colour);
     assign(selected.right, 2, &selectedRight_);
     assign(selected.depth, 2, &selectedDepth_);
-    selectedMotionPx_ = motionBetween(selected.infrared, moments_.at(counter_ - step_ + 1).infrared);
+    selectedMotionPx_ = motionBetween(selected.infrared, queue_.at(counter_ - step_ + 1).infrared);
     logMessage(kInfo, kTag, "Found good image pairs!");
 }
 
 void FrameSelector::reset() {
     enter(Initial);
-    moments_.clear();
+    queue_.clear();
 }
 
 }  // namespace vq

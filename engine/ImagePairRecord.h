@@ -6,11 +6,11 @@
 
 namespace vq {
 
-/// The engine's own copy of a selected picture. The buffer is reallocated only when the size changes.
+/// The engine's own copy of a selected image. The buffer is reallocated only when the size changes.
 struct ImagePairRecord {
     std::uint32_t width = 0;
     std::uint32_t height = 0;
-    std::vector<std::uint8_t> pixels;  ///< packed; 2 bytes a pixel for infrared, 4 for colour
+    std::vector<std::uint8_t> pixels;  ///< packed; 2 bytes per pixel for infrared and depth, 4 for colour
 
     void assign(std::uint32_t newWidth, std::uint32_t newHeight, const std::uint8_t* source,
                 std::uint32_t bytesPerPixel) {

@@ -23,7 +23,8 @@ constexpr float kDeviations = 3.0F;
 using Histogram = std::array<std::uint32_t, kLevels>;
 
 Histogram histogramOf(const std::uint16_t* pixels, std::size_t count) {
-    // Four counters a level: neighbouring pixels are alike, and a counter's own last addition would be waited for.
+    // Neighbouring pixels often have the same value. Four interleaved histograms avoid the store-to-load stalls of
+    // repeated additions to one counter.
     std::array<Histogram, 4> parts{};
     const auto add = [](Histogram& part, std::uint16_t value) {
         if (value < kLevels) ++part[value];
@@ -43,7 +44,8 @@ Histogram histogramOf(const std::uint16_t* pixels, std::size_t count) {
     return sum;
 }
 
-/// The first level, walking from `first` by `step`, at which the running sum exceeds `limit`; else `first`.
+/// Returns the first level, stepping from `first` by `step`, at which the running sum exceeds `limit`; otherwise
+/// `first`.
 int cutLevel(const Histogram& histogram, int first, int step, double limit) {
     double sum = 0;
     for (int level = first; level >= 0 && level < kLevels; level += step) {
@@ -65,7 +67,8 @@ double clampedMean(const Histogram& histogram, std::size_t count, int low, int h
     return sum / static_cast<double>(count);
 }
 
-/// Sums over the neighbourhoods of one row, from the integral images of the clamped values and of their squares.
+/// Computes the neighbourhood statistics of one row from the integral images of the clamped values and of their
+/// squares.
 class RowStretch {
 public:
     RowStretch(const cv::Mat& sums, const cv::Mat& squares, int y, int height)

@@ -12,29 +12,29 @@ struct CellCorrespondence {
     float colourX, colourY, infraredX, infraredY;
 };
 
-/// Verified correspondences of an attempt, kept by the area of the infrared image they lie in, so that no part of the
-/// picture outweighs the others. Cells keep their records from pair to pair until `clear`.
-/// Every operation takes the grid's own lock.
+/// Verified correspondences of an attempt, sorted by the area of the infrared image in which they lie, so that no part
+/// of the image outweighs the others. Cells keep their correspondences from pair to pair until `clear`. Every operation
+/// takes the grid's own lock.
 class MatchGrid {
 public:
     MatchGrid(int columns, int rows, int cellMinimum);
 
     /// Zeroes the per-pair counts; the cells stay.
     void beginPair();
-    /// Sorts the pairs into cells of an image of the given size, counts the under-filled cells and cuts each cell that
-    /// holds more than three times the minimum to that many, drawn at random. Points beyond the last whole cell count
-    /// in the last one; points outside the image are ignored.
+    /// Sorts the pairs into the cells of an image of the given size, counts the under-filled cells and reduces each
+    /// cell that holds more than three times the minimum to that number, drawn at random. Points beyond the last whole
+    /// cell are assigned to the last cell; points outside the image are ignored.
     void add(const std::vector<cv::Point2f>& colourPoints, const std::vector<cv::Point2f>& infraredPoints,
              int infraredWidth, int infraredHeight);
     void clear();
 
-    /// Up to `perCell` random correspondences of each cell, row by row.
+    /// Draws up to `perCell` random correspondences from each cell, row by row.
     void sample(int perCell, std::vector<cv::Point2f>* infraredPoints, std::vector<cv::Point2f>* colourPoints) const;
 
     int columns() const { return columns_; }
     int rows() const { return rows_; }
     int underfilledCells() const;
-    std::vector<int> cellCounts() const;  ///< before the cut, row by row
+    std::vector<int> cellCounts() const;  ///< number of correspondences per cell before the reduction, row by row
     std::vector<CellCorrespondence> cell(int column, int row) const;
 
 private:

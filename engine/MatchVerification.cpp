@@ -17,7 +17,7 @@ constexpr int kWindow = kPatch + 2 * kReach;
 constexpr double kFlat = 0.00001;
 constexpr float kMaxShiftPx = 2.0F;
 
-/// What one search gives: the costs, and the correlations that they are the whole numbers of.
+/// The result of one search: integer costs, and the correlations from which they were rounded.
 struct SearchResult {
     std::array<std::int32_t, kSearch * kSearch> costs{};
     std::array<double, kSearch * kSearch> correlations{};
@@ -65,7 +65,7 @@ private:
     }
 };
 
-/// One colour patch against the 225 infrared patches about a corner.
+/// Correlates one colour patch with the 225 infrared patches around a corner.
 class PatchSearch {
 public:
     PatchSearch(const cv::Mat& colour, const cv::Point& colourOrigin, const cv::Mat& infrared,
@@ -106,7 +106,7 @@ public:
 private:
     static double square(std::int32_t value) { return static_cast<double>(value) * value; }
 
-    /// Covariance and variances come multiplied by the 81 pixels; the quotient is the same.
+    /// Covariance and variances are both scaled by the 81 pixels, which cancels in the quotient.
     static double correlation(double covariance, double varianceProduct) {
         const double denominator = std::sqrt(varianceProduct);
         return denominator > kFlat * kPatchArea ? covariance / denominator : -1.0;
@@ -132,7 +132,7 @@ private:
     }
 
     std::array<std::int16_t, kPatchArea> patch_{};
-    // One pixel more than the window: products are computed sixteen at a time, and nobody looks at the last.
+    // One pixel longer than the window: products are computed sixteen at a time, and the last one is not used.
     std::array<std::int16_t, kWindow * kWindow + 1> window_{};
 };
 
@@ -145,15 +145,15 @@ std::size_t indexOf(const Offset& offset, int row, int column) {
     return static_cast<std::size_t>((offset.dy + kReach + row) * kSearch + offset.dx + kReach + column);
 }
 
-/// The first of the smallest costs in scan order.
+/// Returns the first of the smallest costs in scan order.
 Offset bestOffset(const SearchResult& result) {
     const auto& costs = result.costs;
     const auto best = static_cast<int>(std::min_element(costs.begin(), costs.end()) - costs.begin());
     return {best % kSearch - kReach, best / kSearch - kReach};
 }
 
-/// Where the slope of the parabola through the 3 x 3 values about an offset vanishes: one Newton step, in the value's
-/// own precision but for the reciprocal.
+/// Returns the extremum of the parabola through the 3 x 3 values around an offset. It is one Newton step in the
+/// precision of the value, except for the reciprocal.
 template <typename Value, typename Values>
 cv::Point_<Value> newtonStep(const Values& c) {
     const Value gx = (c(0, 1) - c(0, -1)) * Value(0.5);
@@ -171,15 +171,16 @@ bool isShort(const cv::Point_<Value>& step) {
     return std::abs(step.x) <= 1 && std::abs(step.y) <= 1;
 }
 
-/// One Newton step on the 3 x 3 block of costs about the minimum; false when it leads nowhere near.
+/// Takes one Newton step on the 3 x 3 block of costs about the minimum. Returns false when the step leaves the
+/// neighbourhood.
 bool subPixelOffset(const SearchResult& result, const Offset& offset, cv::Point2f* fraction) {
     *fraction = newtonStep<float>(
         [&](int row, int column) { return static_cast<float>(result.costs[indexOf(offset, row, column)]); });
     return isShort(*fraction);
 }
 
-/// The offset at which the correlation itself is largest: near the one of the smallest cost, whose whole numbers many
-/// neighbours can share. Falls back on `rounded` where the correlation has no such place.
+/// Returns the offset of the largest correlation near the smallest cost, because several neighbouring offsets can have
+/// the same integer cost. Returns `rounded` when the correlation has no maximum there.
 cv::Point2d exactOffset(const SearchResult& result, const Offset& smallest, const cv::Point2f& rounded) {
     Offset peak = smallest;
     for (int row = -1; row <= 1; ++row) {
@@ -195,16 +196,17 @@ cv::Point2d exactOffset(const SearchResult& result, const Offset& smallest, cons
     return isShort(step) ? cv::Point2d(peak.dx, peak.dy) + step : cv::Point2d(rounded);
 }
 
-/// The images of a pair, and room for one search.
+/// The images of a pair, and the buffers of one search.
 struct Verifier {
     const cv::Mat& colour;
     const cv::Mat& infrared;
     SearchResult result;
 
-    /// Moves the infrared point of a good match, and tells where it lies exactly; false drops the match.
+    /// Moves the infrared point of a good match and computes its exact position. Returns false when the match is to be
+    /// removed.
     ///
-    /// The offset found is the one between the patches' centres, which are whole pixels. The matched place therefore
-    /// lies as far from the infrared patch's centre as the colour corner does from its own.
+    /// The offset found is that between the patches' centres, which are whole pixels. The matched position therefore
+    /// has the same distance from the infrared patch's centre as the colour corner has from its own.
     bool verify(const cv::Point2f& colourPoint, cv::Point2f* infraredPoint, cv::Point2f* exactInfraredPoint) {
         const cv::Point colourOrigin = patchOrigin(colourPoint);
         const cv::Point infraredOrigin = patchOrigin(*infraredPoint);

@@ -7,14 +7,15 @@
 namespace vq {
 
 /// Checks matches by zero-mean normalised cross-correlation of 9 x 9 patches over offsets of -7..7 pixels, moves each
-/// infrared point to the best-correlating position (one Newton step on the integer costs) and drops the pair when that
-/// lies on the rim of the search area or more than 2 pixels from the corner.
+/// infrared point to the best-correlating position (one Newton step on the integer costs) and removes the pair when
+/// that position lies on the edge of the search area or more than 2 pixels from the corner.
 ///
-/// Both images CV_8UC1; both lists equally long, replaced by the kept pairs in their order. Any thread; uses a
-/// second one while it works.
+/// Both images CV_8UC1. Both lists have the same length and are replaced by the kept pairs in their order. Any thread;
+/// uses a second thread internally.
 ///
-/// The moved infrared points carry what whole-pixel patches and whole-number costs leave over: 0.4 px in each axis.
-/// `exactInfraredPoints` (may be null) gets, for each kept pair, the infrared place without it.
+/// The moved infrared points contain a quantisation error of whole-pixel patches and integer costs of about 0.4 px
+/// along each axis. `exactInfraredPoints` (may be null) receives, for each kept pair, the infrared position without
+/// that error.
 void verifyMatches(const cv::Mat& colour, const cv::Mat& infrared, std::vector<cv::Point2f>* colourPoints,
                    std::vector<cv::Point2f>* infraredPoints, std::vector<cv::Point2f>* exactInfraredPoints = nullptr);
 

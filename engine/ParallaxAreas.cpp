@@ -7,7 +7,7 @@ namespace vq {
 namespace {
 
 constexpr double kNearestInverseDepth = 1 / 1.2;
-constexpr double kCoarsePx = 2.0;  ///< what a coarse disparity may be wrong by
+constexpr double kCoarsePx = 2.0;  ///< largest error of a coarse disparity
 constexpr double kDepthShare = 0.1;
 
 }  // namespace

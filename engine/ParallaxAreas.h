@@ -6,7 +6,7 @@
 
 namespace vq {
 
-/// How far parallax can move a place in the colour image beyond where it would appear at infinity. Pixels.
+/// Range of the parallax shift of a place in the colour image, relative to its position at infinity. Pixels.
 struct ParallaxShift {
     cv::Point2f low{0, 0}, high{0, 0};
 };
@@ -15,8 +15,9 @@ struct ParallaxShift {
 ParallaxShift shiftBetween(const Projection& projection, const Eigen::Matrix3d& rotation, const cv::Point2f& infrared,
                            double smallestInverseDepth, double largestInverseDepth);
 
-/// The shifts that a place can have, for what is known of its distance: by its coarse disparity, by the depth image, or
-/// anything from infinity to 1.2 m where disparities are seen and this place has none. Nothing at all known: none.
+/// The possible shifts of a place. They follow from its coarse disparity or from the depth image. When disparities are
+/// available but this place has none, the range covers everything from 1.2 m to infinity. Without any knowledge of
+/// distances the shift is zero.
 ParallaxShift possibleShift(const Projection& projection, const Eigen::Matrix3d& rotation, const MeasuredPlace& place,
                             const StereoScale* scale, bool seesDisparities);
 

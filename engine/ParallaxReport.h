@@ -4,20 +4,20 @@
 
 namespace vq {
 
-/// Where an attempt's stereo baseline comes from.
+/// The origin of an attempt's stereo baseline.
 enum class BaselineSource {
-    None,        ///< unknown: disparities tell no distances
+    None,        ///< unknown: disparities do not give distances
     Depth,       ///< the module's own depth image
-    Fit,         ///< the fit of the rotation, since the distances vary
+    Fit,         ///< the fit of the rotation, to a scene with varied distances
     Remembered,  ///< an earlier calibration of the same module
 };
 
-/// What an attempt knows about distances.
+/// What an attempt has measured about distances.
 struct ParallaxReport {
-    int withDistance = 0;  ///< verified matches whose distance is known
+    int withDistance = 0;  ///< verified matches of known distance
     std::optional<double> baselineM;
     BaselineSource baselineFrom = BaselineSource::None;
-    std::optional<double> medianDistanceM;  ///< of those matches; none when more than half are too far to tell
+    std::optional<double> medianDistanceM;  ///< of those matches; none when more than half are too far to measure
 };
 
 }  // namespace vq

@@ -20,9 +20,10 @@ constexpr float kMinimumCorrelation = 0.65F;
 constexpr float kMinimumGain = 0.02F;
 constexpr double kLargestMovePx = 3.0;
 constexpr double kConvergedPx = 0.03;
-/// What the gradients of one patch cannot tell: differences between the two kinds of light, in pixels of deviation.
+/// Position error that the gradients of a patch do not reveal, due to the difference between infrared and visible
+/// light: standard deviation in pixels.
 constexpr double kModelDeviationPx = 0.05;
-/// Variance that a patch keeps however well it fits: the rounding of both images to whole grey levels.
+/// Lower bound of the residual variance of a patch: the rounding of both images to whole grey levels.
 constexpr float kLeastVariance = 0.5F;
 
 using Window = Patch<kSize>;
@@ -44,7 +45,7 @@ float variance(const cv::Mat& infrared8, const cv::Point& middle) {
     return static_cast<float>(squares) / kArea - mean * mean;
 }
 
-/// The infrared patch with its gradients, which stay the same in every step.
+/// The infrared patch with its gradients, which are the same in every step.
 class Template {
 public:
     Template(const cv::Mat& infrared8, const cv::Point& middle) {
@@ -62,7 +63,8 @@ public:
         if (!hasTexture()) return;
         for (Window* gradient : {&across_, &down_}) {
             gradient->centre();
-            // Gain is estimated as well: what the gradients share with the patch itself moves the gain, not the patch.
+            // The gain is estimated as well, so the part of the gradients that is proportional to the patch itself must
+            // change the gain and not the position.
             gradient->subtract(value_, gradient->dot(value_) / squares_);
         }
         hessian_ << across_.dot(across_), across_.dot(down_), 0, down_.dot(down_);
@@ -81,7 +83,8 @@ private:
     Eigen::Matrix2f hessian_;
 };
 
-/// Where the patch's pixels lie in the colour image: the middle, and what a step across and down the patch does there.
+/// Positions of the patch's pixels in the colour image: the centre, and the steps in the colour image for one pixel to
+/// the right and one pixel down in the patch.
 struct Placement {
     Eigen::Vector2d middle;
     Eigen::Matrix2d axes;
@@ -109,7 +112,7 @@ public:
             squares = seen.centre();
             gain = patch.value().dot(seen) / patch.squares();
             if (!(gain > kMinimumGain)) return false;
-            // In pixels of the infrared patch; the colour patch moves the other way.
+            // The step is in pixels of the infrared patch; the colour patch moves in the opposite direction.
             const Eigen::Vector2f moved = inverseHessian * patch.gradientProduct(seen) / gain;
             if (!(moved.norm() < 10.0F)) return false;
             const Eigen::Vector2d step = placement.axes * shortened(moved).cast<double>();
@@ -124,7 +127,7 @@ public:
     }
 
 private:
-    /// Long steps overshoot.
+    /// Limits the length of a step, because long steps overshoot.
     static Eigen::Vector2f shortened(const Eigen::Vector2f& step) {
         const float length = step.norm();
         return length > 1.0F ? Eigen::Vector2f(step / length) : step;
@@ -146,7 +149,7 @@ private:
         return placement;
     }
 
-    /// The colour image at the patch's places, bilinear. False where the patch leaves the image.
+    /// Samples the colour image at the patch's pixels, bilinearly. Returns false when the patch leaves the image.
     bool sample(const Placement& placement, Window* out) const {
         const Eigen::Vector2f across = placement.axes.col(0).cast<float>(), down = placement.axes.col(1).cast<float>();
         const Eigen::Vector2f corner = placement.middle.cast<float>() - kReach * (across + down);

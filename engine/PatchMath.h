@@ -5,8 +5,8 @@
 
 namespace vq {
 
-/// The grey values of a square window, and what alignment calculates with them. Sums run in eight lanes side by side,
-/// which vector units take at once; the values beyond the window stay zero.
+/// The grey values of a square window, and the arithmetic that alignment needs. Sums are accumulated in eight lanes for
+/// vector units; the values beyond the window are zero.
 template <int size>
 class Patch {
 public:
@@ -24,7 +24,7 @@ public:
         return total(lanes);
     }
 
-    /// Takes the mean away and gives the sum of squares back.
+    /// Subtracts the mean and returns the sum of squares of the result.
     float centre() {
         std::array<float, kLanes> lanes{};
         for (std::size_t i = 0; i < kPadded; i += kLanes) {

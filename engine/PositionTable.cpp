@@ -11,10 +11,10 @@ namespace vq {
 namespace {
 
 constexpr int kEntryPx = 4;
-/// What the sampled rotations may miss between their nodes: the largest second-order term over a half interval.
+/// Upper bound of what lies between the sampled rotations: the largest second-order term over half a sampling interval.
 constexpr float kMarginPx = 0.5F;
 
-/// Query pixel to target pixel at infinity, for each of the rotations that span the search range.
+/// Homographies from query pixels to target pixels at infinity, for each of the rotations that span the search range.
 std::vector<Eigen::Matrix3d> homographies(const CameraPair& cameras, const Eigen::Vector3d& currentAnglesRad,
                                           const SearchRange& range, bool queryIsInfrared) {
     const Eigen::Matrix3d infraredMatrix = cameraMatrix(cameras.infrared);

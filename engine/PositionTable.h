@@ -12,17 +12,18 @@
 
 namespace vq {
 
-/// For every place of the query picture, the area of the target picture in which it can appear.
+/// Gives, for every position in the query image, the area of the target image in which it can appear.
 ///
-/// The table has one entry for each 4 x 4 pixels of the query picture. An entry holds four points that run around the
-/// perimeter of a rectangle; every pixel of the entry's area lands inside for every rotation of the search range.
-/// Built once a set-up, read by the matcher. Positions are pixels of the delivered pictures.
+/// The table has one entry for each 4 x 4 pixels of the query image. An entry holds four points along the perimeter of
+/// a rectangle; every pixel of the entry's area is projected into that rectangle by every rotation of the search range.
+/// The table is built once per setup and read by the matcher. Positions are pixels of the delivered images.
 class PositionTable {
 public:
     using Quadrilateral = std::array<cv::Point2f, 4>;
 
     PositionTable() = default;
-    /// `queryIsInfrared`: the infrared picture is the query and the colour picture the target, or the other way round.
+    /// `queryIsInfrared`: true when the infrared image is the query and the colour image the target, false the other
+    /// way round.
     PositionTable(const CameraPair& cameras, const Eigen::Vector3d& currentAnglesRad, const SearchRange& range,
                   bool queryIsInfrared);
 
@@ -30,7 +31,7 @@ public:
     int height() const { return height_; }
     bool queryIsInfrared() const { return queryIsInfrared_; }
 
-    /// Null for a position outside the table.
+    /// Returns null for a position outside the table.
     const Quadrilateral* find(const cv::Point2f& queryPoint) const;
 
 private:

@@ -9,9 +9,9 @@
 
 namespace vq {
 
-/// The cameras under calibration, their factory extrinsics and the current registration. One per process; whoever
-/// composes the program owns it and hands it to the engine by reference.
-/// Take `lock` for every access once a second thread is about; it is the innermost of the engine's locks.
+/// The cameras under calibration, their factory extrinsics and the current registration. There is one per process,
+/// owned by the composition root and passed to the engine by reference. As soon as several threads use it, `lock` must
+/// be held for every access; it is the innermost of the engine's locks.
 struct RegistrationContext {
     fieldcal::CameraModel depthModel;
     fieldcal::CameraModel infraredModel;

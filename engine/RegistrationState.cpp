@@ -29,7 +29,7 @@ void RegistrationState::setExtrinsics(const Pose& depthToColour) {
 }
 
 void RegistrationState::resetState() {
-    // An error line on purpose: it has to stand in every log.
+    // The ERROR level is intentional: the line must appear in every log.
     fieldcal::logMessage(fieldcal::kError, "RegistrationState::resetState", "extrinsics in resetState: %s",
                          poseEulerText(pose_).c_str());
     const Eigen::Vector3d anglesRad = anglesFromRotation(pose_.topLeftCorner<3, 3>().cast<double>());

@@ -14,31 +14,32 @@
 namespace vq {
 namespace {
 
-/// A block of fewer matches is left out altogether: its normal equations alone say nothing.
+/// Blocks with fewer matches are ignored, because their normal equations alone are not meaningful.
 constexpr std::size_t kMinimumOfBlock = 10;
 constexpr std::size_t kMinimumBlocks = 4;
-/// Below this, a departure is taken to be real: six of them are looked at in every calibration.
+/// A departure whose probability is lower counts as real. The bound is strict because each calibration tests six
+/// departures.
 constexpr double kImprobable = 1e-5;
 
 constexpr double kLeastScaleDoubt = 0.02;
-constexpr double kFewestPixelsPerMetre = 1e-3;  ///< where nothing tells a translation at all
+constexpr double kFewestPixelsPerMetre = 1e-3;  ///< below this, a translation cannot be observed
 
-/// The unknowns of each departure, and the deviation that scenes without it show beyond what the blocks tell. Shade,
-/// foliage and distances that are off a little bend an image by a tenth of a pixel or two.
+/// The unknowns of each departure, and the standard deviation that scenes without it show beyond the one from the
+/// blocks. Shade, foliage and slightly wrong distances distort an image by a tenth or two of a pixel.
 struct DepartureUnknowns {
     int first, count;
     double leastDeviation;
 };
 constexpr std::array<DepartureUnknowns, kModelDepartureCount> kDepartures{{
-    {3, 1, 5e-4},    // focal length, as a share of it
+    {3, 1, 5e-4},    // focal length, relative
     {4, 2, 0.4},     // principal point, pixels
     {6, 1, 1e-3},    // distortion, k1
-    {7, 3, 0.03},    // translation: pixels that it moves things by, in the mean
+    {7, 3, 0.03},    // translation, as its mean displacement in pixels
     {10, 2, 0.15},   // rolling shear, pixels from top to bottom
     {12, 3, 1.5e-4}  // second rotation, radians
 }};
 
-/// That a chi-squared variable with 1, 2 or 3 degrees of freedom exceeds a Wald statistic.
+/// Probability that a chi-squared variable with 1, 2 or 3 degrees of freedom exceeds a Wald statistic.
 double probabilityAbove(double statistic, int freedom) {
     if (!(statistic > 0)) return 1;
     const double gauss = std::exp(-statistic / 2);
@@ -93,7 +94,7 @@ void ResidualBlocks::addStill(const std::vector<MeasuredMatch>& matches) {
         const EvaluatedTerm at(term, rotation_, projection_, term.inverseDepth, options_.cauchy);
         const auto j = jacobian(at, term.inverseDepth);
         Block& block = quarters[quarterOf(matches[i].place.infrared)];
-        // The curvature of the Cauchy loss, averaged over the directions of the residual: the square of its weight.
+        // The curvature of the Cauchy loss, averaged over the directions of the residual, is the square of its weight.
         block.normal += at.weight * at.weight * j.transpose() * term.information * j;
         block.gradient += at.weight * j.transpose() * term.information * at.residualPx;
         ++block.matches;
@@ -154,8 +155,9 @@ Eigen::Vector3d ResidualBlocks::deviationRad() const {
     return variances.cwiseSqrt();
 }
 
-/// In the units of the departure's unknowns. A translation is granted what moves things by some hundredths of a pixel,
-/// and a share of itself: distances that are all off by that share look like a longer or shorter one.
+/// Lower bound of the standard deviation in the units of the departure's unknowns. For a translation it consists of a
+/// displacement of some hundredths of a pixel and a share of the translation itself, because a common relative error of
+/// all distances looks like a longer or shorter translation.
 double ResidualBlocks::leastDeviation(std::size_t departure) const {
     const double least = kDepartures[departure].leastDeviation;
     if (departure != static_cast<std::size_t>(ModelDeparture::Translation)) return least;

@@ -11,28 +11,28 @@ namespace vq {
 
 struct EvaluatedTerm;
 
-/// What a fit leaves over, in blocks of matches that share what disturbs them: those of one still in one quarter of
-/// the infrared image.
+/// Residuals of a fit in blocks of matches that are likely to share their disturbances: those of one still in one
+/// quarter of the infrared image.
 ///
-/// Matches next to each other err together (shade, foliage, a gust of wind), so their number says little about how well
-/// the angles are known. Leaving out one block after the other does (delete-a-group jackknife; Efron, The Jackknife,
-/// the Bootstrap and Other Resampling Plans, 1982). Each time one Gauss-Newton step of the fit is taken, with the
-/// weights as they are. One thread.
+/// Neighbouring matches have correlated errors (shade, foliage, wind), so the number of matches says little about the
+/// uncertainty of the angles. It is estimated by leaving out one block after the other (delete-a-group jackknife;
+/// Efron, The Jackknife, the Bootstrap and Other Resampling Plans, 1982). Each time one Gauss-Newton step of the fit is
+/// taken with unchanged weights. One thread.
 class ResidualBlocks {
 public:
-    /// About the fitted rotation. The references must outlive it.
+    /// Linearises at the fitted rotation. The references must outlive the object.
     ResidualBlocks(const Projection& projection, const Eigen::Matrix3d& rotation, const FitOptions& options);
 
     /// The matches of one still.
     void addStill(const std::vector<MeasuredMatch>& matches);
 
-    /// One deviation of a turn about each axis of the colour camera, radians: of quarters of stills, or of whole
-    /// stills, whichever is larger. Infinite with fewer than four quarters.
+    /// Standard deviation of a rotation about each axis of the colour camera in radians: from quarters of stills or
+    /// from whole stills, whichever is larger. Infinite with fewer than four quarters.
     Eigen::Vector3d deviationRad() const;
     ModelCheck checkModel() const;
 
 private:
-    /// Unknowns: the turn, then those of each departure in the order of `ModelDeparture`.
+    /// Unknowns: the rotation, then those of each departure in the order of `ModelDeparture`.
     static constexpr int kUnknowns = 3 + 1 + 2 + 1 + 3 + 2 + 3;
     using Vector = Eigen::Matrix<double, kUnknowns, 1>;
     using Matrix = Eigen::Matrix<double, kUnknowns, kUnknowns>;
@@ -42,7 +42,7 @@ private:
         Vector gradient = Vector::Zero();
         std::size_t matches = 0;
     };
-    /// Estimates of some unknowns, with all blocks and their covariance by leaving out blocks.
+    /// Estimates of some unknowns from all blocks, and their covariance from leaving out blocks.
     struct Estimate {
         Eigen::VectorXd value;
         Eigen::MatrixXd covariance;

@@ -8,12 +8,13 @@ namespace vq {
 
 using fieldcal::kDegreesPerRadian;
 
-/// `camera/Rotation.h` in the forms of Eigen.
+/// `camera/Rotation.h` with the matrix types of Eigen.
 ///
-/// R = Rz(a2) · Ry(a1) · Rx(a0), radians.
+/// Returns R = Rz(a2) · Ry(a1) · Rx(a0), radians.
 Eigen::Matrix3d rotationFromAngles(const Eigen::Vector3d& anglesRad);
 
-/// The inverse, radians. The arc tangents are evaluated in 32 bits: exact to about 1e-7.
+/// The inverse of `rotationFromAngles`, radians. The arc tangents are evaluated in single precision and therefore exact
+/// to about 1e-7.
 Eigen::Vector3d anglesFromRotation(const Eigen::Matrix3d& rotation);
 
 }  // namespace vq

@@ -16,7 +16,7 @@ namespace vq {
 namespace {
 
 constexpr float kMinimumDistancePx = 10.0F;
-/// A pair within this distance of the winner's prediction is not a rival's own.
+/// A pair within this distance of the winner's prediction does not count as an inlier of a rival only.
 constexpr double kNearWinnerPx = 4.5;
 
 bool isDegenerate(const std::vector<cv::Point2f>& points, const Sample& sample) {
@@ -32,16 +32,18 @@ bool isDegenerate(const std::vector<cv::Point2f>& points, const Sample& sample) 
 
 /// Unit vectors of a round's matches in both cameras.
 ///
-/// A rotation keeps the distance between two directions. Matches between which it differs by more than two inlier
-/// bounds are therefore never inliers together, and a sample without four that go together is not worth its fit. For
-/// the others the directions alone already give the rotation that the fit will find, to within a few pixels.
+/// A rotation preserves the angle between two directions. Two matches for which it differs by more than twice the
+/// inlier bound can therefore never both be inliers, and a sample without four mutually compatible matches is not worth
+/// a fit. For all other samples the directions already give the rotation that the fit would find to within a few
+/// pixels.
 class DirectionPairs {
 public:
     explicit DirectionPairs(const RotationCost& cost) : tolerance_(2.0 * kInlierPx / cost.focalLengthPx()) {
         cost.directions(&infrared_, &colour_);
     }
 
-    /// Rotation between the directions of a sample's matches that go together (Kabsch, 1976). None without four.
+    /// Returns the rotation between the directions of a sample's compatible matches (Kabsch, 1976); none with fewer
+    /// than four.
     std::optional<Eigen::Vector3d> anglesOf(const Sample& sample) const {
         std::array<int, kSampleSize> conflicts{};
         int total = 0;
@@ -53,7 +55,7 @@ public:
                 ++total;
             }
         }
-        // Leaving out one match must leave no conflict.
+        // At most one match may be left out, and no conflict may remain without it.
         const auto outlier = std::find(conflicts.begin(), conflicts.end(), total);
         if (outlier == conflicts.end()) return std::nullopt;
         Eigen::Matrix3d correlation = Eigen::Matrix3d::Zero();
@@ -84,11 +86,11 @@ private:
 struct Candidate {
     Eigen::Vector3d anglesRad;
     int inlierCount = 0;
-    double error = 0;  ///< as in `Consensus`; infinite when there are fewer inliers than asked for
+    double error = 0;  ///< as in `Consensus`; infinite when there are too few inliers
 };
 
-/// Counts a rotation's inliers among all pairs. The error, which costs more, only of rotations with at least
-/// `soughtInliers` of them. `distancesPx` is room to work in.
+/// Counts a rotation's inliers among all pairs. The error, which is more expensive, is computed only for at least
+/// `soughtInliers` inliers. `distancesPx` is a work buffer.
 Candidate judge(const RotationCost& cost, const Eigen::Vector3d& anglesRad, int soughtInliers,
                 std::vector<double>* distancesPx) {
     Candidate candidate{anglesRad, 0, std::numeric_limits<double>::infinity()};
@@ -116,7 +118,7 @@ void keep(const RotationCost& cost, const Candidate& winner, Consensus* best) {
                    [](double distance) { return distance <= kInlierPx; });
 }
 
-/// Counts pairs that a candidate explains and that lie far from the winner's prediction.
+/// Counts the inliers of each candidate that lie far from the winner's prediction, and returns the largest number.
 int strongestRival(const RotationCost& cost, const std::vector<Candidate>& candidates, const Consensus& winner) {
     std::vector<double> fromWinnerPx, fromRivalPx;
     cost.distancesPx(winner.anglesRad, &fromWinnerPx);

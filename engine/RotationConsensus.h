@@ -18,23 +18,24 @@ using Sample = std::array<int, kSampleSize>;
 /// Draws the samples of one consensus: distinct indices below `pairs`, which must be at least `kSampleSize`.
 std::vector<Sample> drawSamples(int pairs);
 
-/// The rotation that most pairs of a round agree with.
+/// The rotation with the most inliers among the pairs of a round.
 struct Consensus {
     bool found = false;
     Eigen::Vector3d anglesRad;
-    std::vector<char> inliers;  ///< one flag a pair
+    std::vector<char> inliers;  ///< one flag per pair
     int inlierCount = 0;
-    double error = 0;  ///< sum of the squared residual terms of all pairs
-    /// The most pairs that another candidate explains and the winner does not even come near: how much else the pairs
-    /// could mean.
+    double error = 0;  ///< sum of the squared residuals of all pairs
+    /// The largest number of inliers of another candidate that lie far from the winner's prediction. It measures how
+    /// ambiguous the pairs are.
     int rivalInlierCount = 0;
 };
 
-/// Random sample consensus (Fischler and Bolles, 1981) over the given samples. Samples with two infrared points closer
-/// than 10 pixels are left out, and those of which no rotation can explain four. The directions of the others foretell
-/// their rotation; a sample that would win by it is fitted from the initial angles, and judged on all pairs. More
-/// inliers win; of equals the smaller error, then the earlier sample. Ends early, with what it has, when `stop` (may be
-/// null) is set. Any thread.
+/// Random sample consensus (Fischler and Bolles, 1981) over the given samples. A sample is skipped when two of its
+/// infrared points are closer than 10 pixels, or when no rotation can explain four of its pairs. For the others, the
+/// directions of the points give an approximate rotation; only a sample whose approximate rotation would win is fitted,
+/// starting from the initial angles, and evaluated on all pairs. The candidate with the most inliers wins; on a tie the
+/// smaller error decides, then the order of the samples. When `stop` (may be null) becomes true, the search ends early
+/// with the best candidate so far. Any thread.
 Consensus findConsensus(const RotationCost& cost, const std::vector<cv::Point2f>& infraredPoints,
                         const std::vector<Sample>& samples, const Eigen::Vector3d& initialAnglesRad,
                         const std::atomic<bool>* stop = nullptr);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kStepRad = 1e-7;
 
-/// Where the bounded form bends, in pixels.
+/// Scale of the bounded form, in pixels.
 constexpr double kBoundedPx = 2.0;
 
 }  // namespace
@@ -66,7 +66,7 @@ void RotationCost::setForm(ResidualForm form) {
     unit_ = kInlierResidual / (kInlierPx * termFactor(kInlierPx * kInlierPx));
 }
 
-/// Residual per pixel of a difference whose squared length is given.
+/// Residual per pixel for a difference of the given squared length.
 double RotationCost::termFactor(double squaredPx) const {
     switch (form_) {
         case ResidualForm::Pixels:

@@ -16,18 +16,19 @@ constexpr int kRounds = 10;
 constexpr int kMinimumWeight = 1;
 constexpr double kToleranceDeg = 0.1;
 
-// A consensus counts when more pairs agree than chance brings together. Rounds over pictures of different scenes never
+// A consensus is accepted when it has more inliers than chance produces. Rounds over images of different scenes never
 // reach a share of 0.1; rounds over one scene lie between 0.4 and 0.9.
 constexpr double kMinimumInlierShare = 0.2;
 constexpr int kMinimumInliers = 12;
-/// A second rotation that explains this share of what the winner explains makes the scene ambiguous.
+/// The scene is ambiguous when a second rotation explains this share of the winner's inliers.
 constexpr double kRivalShare = 0.25;
 
 Eigen::Vector3d unsetAngles() {
     return Eigen::Vector3d::Constant(std::numeric_limits<double>::quiet_NaN());
 }
 
-/// How well a rotation explains the pairs: 1 minus the mean residual. Stable from round to round.
+/// Evaluates how well a rotation explains the pairs. The score is 1 minus the mean residual, which varies little from
+/// round to round.
 void judgeFit(const RotationCost& cost, const Eigen::Vector3d& anglesRad, float* score, float* error, int* inliers) {
     std::vector<double> residuals;
     cost.residuals(anglesRad, &residuals);
@@ -43,8 +44,8 @@ void judgeFit(const RotationCost& cost, const Eigen::Vector3d& anglesRad, float*
     *error = static_cast<float>(std::sqrt(squares / count));
 }
 
-/// Beyond the searched range the matcher sees only those matches that happen to reach into their areas; what they
-/// agree on is drawn towards the range. Half a degree beyond it the answer is still right.
+/// Outside the searched range the matcher finds only those matches whose search areas happen to include them, and a
+/// consensus of such matches is biased towards the range. Up to half a degree outside, the result is still correct.
 constexpr double kBeyondSearchDeg = 0.5;
 
 bool lieWithin(const SearchRange& range, const Eigen::Vector3d& offsetDeg) {
@@ -63,7 +64,7 @@ bool isMoreThanChance(int inliers, int pairs) {
 
 }  // namespace
 
-/// What one round draws and finds.
+/// The pairs and samples that one round draws from the grid, and the candidate that it estimates from them.
 struct RotationEstimator::Round {
     std::vector<cv::Point2f> infraredPoints, colourPoints;
     std::vector<Sample> samples;
@@ -87,7 +88,7 @@ void RotationEstimator::forgetResults() {
 
 bool RotationEstimator::estimateRotationByVoting(const MatchGrid& grid, int supportCount, Eigen::Vector3d* anglesRad) {
     forgetResults();
-    // All drawing comes first, in the order of the rounds, so that the rounds themselves can run side by side.
+    // All random numbers are drawn first, in the order of the rounds, so that the rounds can then run in parallel.
     std::vector<Round> rounds(kRounds);
     drawRounds(grid, supportCount, &rounds);
     const auto estimateFrom = [&](std::size_t first) {
@@ -143,7 +144,7 @@ bool RotationEstimator::refineRotation(const RotationCost& cost, const Consensus
     if (!lieWithin(search_.range, offsetRad * kDegreesPerRadian)) return false;
     int inliers = 0;
     judgeFit(cost, refinedRad, score, error, &inliers);
-    // The fit over all pairs starts far off, and must have come to where the consensus is.
+    // The fit over all pairs starts far away and must converge to the rotation of the consensus.
     if (2 * inliers < consensus.inlierCount || !isMoreThanChance(inliers, cost.pairs())) return false;
     if (refinementOutput_ == RefinementOutput::OfConsensus) {
         judgeFit(cost, consensus.anglesRad, score, error, &inliers);

@@ -13,37 +13,38 @@
 
 namespace vq {
 
-/// How the rotation is searched; fixed when an attempt is set up.
+/// The configuration of the rotation search, fixed when an attempt is set up.
 struct RotationSearch {
     CameraPair cameras;
     Eigen::Vector3f initialAnglesRad = Eigen::Vector3f::Zero();  ///< starting point of every fit: the factory rotation
-    SearchRange range;                                           ///< what the matcher was allowed to find
+    SearchRange range;                                           ///< the range that the matcher searched
     float stepDeg = 0.15F;
     int workingCount = 30;
 };
 
-/// Which score and error a refinement hands out.
+/// Which score and error a refinement returns.
 enum class RefinementOutput {
     OfFit,        ///< of the refined rotation
     OfConsensus,  ///< of the consensus that it refines
 };
 
-/// Three angles from the correspondences of an attempt: ten rounds, each drawing a fresh subset of the grid and
-/// estimating one candidate robustly; candidates that agree vote for each other.
-/// One thread at a time; uses a second one while it works. With `rand()` seeded alike, the result is the same.
+/// Estimates three angles from the correspondences of an attempt: each of ten rounds draws a fresh subset from the grid
+/// and estimates one candidate robustly; candidates that agree vote for each other. With the same seed of `rand()`, the
+/// result is the same. Call it from one thread at a time; it uses a second thread internally.
 class RotationEstimator {
 public:
     RotationEstimator();
 
     void setup(const RotationSearch& search);
-    /// When the flag becomes true the estimation ends early, without a solution. May be null.
+    /// When the flag becomes true, the estimation ends early without a solution. May be null.
     void setStopFlag(const std::atomic<bool>* stop) { stop_ = stop; }
     bool stopped() const { return stop_ != nullptr && *stop_; }
 
-    /// True when the best cluster has at least `supportCount` votes. `anglesRad` are its angles, NaN without one.
+    /// Returns true when the best cluster has at least `supportCount` votes. `anglesRad` receives its angles, NaN
+    /// without a cluster.
     bool estimateRotationByVoting(const MatchGrid& grid, int supportCount, Eigen::Vector3d* anglesRad);
 
-    /// The winner of the last finished vote, until the next begins. Null without one.
+    /// The winner of the last finished vote, valid until the next vote begins. Null without one.
     const RotationVoteStore::Record* lastBest() const { return hasLastBest_ ? &lastBest_ : nullptr; }
     void forgetResults();
 

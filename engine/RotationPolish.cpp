@@ -13,7 +13,7 @@ namespace {
 constexpr int kMostIterations = 50;
 constexpr double kConvergedRad = 1e-7;
 constexpr std::size_t kMinimumMatches = 6;
-/// Noise of one measured disparity, from things at infinity in rendered worlds.
+/// Standard deviation of a measured disparity, from objects at infinity in rendered worlds.
 constexpr double kDisparityDeviationPx = 0.08;
 
 using Vector4 = Eigen::Matrix<double, 4, 1>;
@@ -30,7 +30,8 @@ Eigen::Matrix3d rotated(const Eigen::Matrix3d& rotation, const Eigen::Vector3d& 
     return Eigen::AngleAxisd(angle, turnRad / angle).toRotationMatrix() * rotation;
 }
 
-/// Normal equations of one step. Unknowns: a small turn of the colour camera (radians), then the inverse scale.
+/// Normal equations of one step. The unknowns are a small rotation of the colour camera (radians) and the inverse
+/// scale.
 class Step {
 public:
     Step(const Projection& projection, const FitOptions& options) : projection_(projection), options_(options) {}
@@ -62,8 +63,8 @@ private:
         normal_ += at.weight * jacobian.transpose() * term.information * jacobian;
         gradient_ += at.weight * jacobian.transpose() * term.information * at.residualPx;
         if (options_.estimateScale) {
-            // A disparity that carries noise of its own draws the slope over it towards zero (regression dilution).
-            // What that noise is expected to contribute is taken out of the normal equations.
+            // Noise in a disparity biases the slope over it towards zero (regression dilution). The expected
+            // contribution of that noise is subtracted from the normal equations.
             const double noise =
                 at.weight * kDisparityDeviationPx * kDisparityDeviationPx * perScale.dot(term.information * perScale);
             normal_(3, 3) -= noise;

@@ -6,10 +6,11 @@
 
 namespace vq {
 
-/// Candidate rotations of the rounds, clustered as they come. A cluster is headed by its first candidate.
+/// Clusters the candidate rotations of the rounds in the order in which they arrive. The first candidate of a cluster
+/// represents it.
 ///
 /// Angles are compared as differences from the reference rotation, so that they never wrap. Component 1 is not
-/// compared: it is the one that the parallax of near things moves.
+/// compared, because the parallax of near objects changes it.
 class RotationVoteStore {
 public:
     struct Record {
@@ -23,10 +24,10 @@ public:
     RotationVoteStore(int minimumWeight, const Eigen::Vector3d& tolerancesDeg);
 
     void setReference(const Eigen::Vector3d& anglesRad) { referenceRad_ = anglesRad; }
-    /// A candidate below the minimum weight is ignored. One that matches the head of a cluster adds its vote to it;
-    /// any other heads a new cluster with one vote.
+    /// Ignores a candidate below the minimum weight. A candidate that matches the representative of a cluster adds a
+    /// vote to it; any other starts a new cluster with one vote.
     void add(const Eigen::Vector3d& anglesRad, float score, float error, int weight);
-    /// The record with the most votes, of equals the first; null when there is none.
+    /// The record with the most votes, on a tie the first one; null when there is none.
     const Record* best() const;
     void clear() { records_.clear(); }
 

@@ -129,7 +129,8 @@ std::vector<ParallaxShift> SensorCalibrator::possibleShifts(const std::vector<cv
     return shifts;
 }
 
-/// Distances of the verified matches at their exact places, and of whatever else may be aligned.
+/// Measures the distances of the verified matches at their exact positions, and of the textured places that may be
+/// aligned.
 void SensorCalibrator::measureDistances(std::vector<MeasuredPlace>* matches,
                                         std::vector<MeasuredPlace>* texturedPlaces) {
     Stopwatch watch;
@@ -165,7 +166,8 @@ void SensorCalibrator::appendToAttempt() {
                                                                 initialRotation_, matches_.infrared[i], inverseDepth));
     }
     if (!meter_.seesDisparities()) {
-        // Without disparities a place of unknown distance counts as infinitely far, which it must then be.
+        // Without disparities, a place of unknown distance counts as infinitely far, so only places that are far may
+        // stay.
         textured.erase(std::remove_if(textured.begin(), textured.end(),
                                       [&](const MeasuredPlace& place) {
                                           return std::isnan(inverseDepthOf(place, scale)) && !isFarAway(place);
@@ -180,8 +182,8 @@ void SensorCalibrator::appendToAttempt() {
     }
 }
 
-/// Whether a match without a distance may count as infinitely far: when nothing could have told its distance, or when
-/// the depth image shows that nothing within its reach is there.
+/// Returns whether a match without a distance may count as infinitely far: when no distance could be measured at all,
+/// or when the depth image shows that nothing is within its range there.
 bool SensorCalibrator::isFarAway(const MeasuredPlace& place) const {
     return meter_.seesDepth() ? meter_.isBeyondDepth(place.infrared) : !meter_.seesDisparities();
 }
@@ -230,7 +232,7 @@ void SensorCalibrator::countFailure() {
     failureStreak_ = 0;
 }
 
-/// A solution that was good stays so: later pairs only make it better.
+/// Once good, a solution stays good; later pairs only improve it.
 void SensorCalibrator::recordSolution() {
     recordingBusy_ = true;
     const RotationVoteStore::Record* best = estimator_.lastBest();
@@ -238,14 +240,14 @@ void SensorCalibrator::recordSolution() {
     Eigen::Vector3d anglesRad = best->anglesRad;
     const float support = static_cast<float>(best->votes) / static_cast<float>(parameters_.supportCount);
     const bool isGood = support >= 1.0F && attemptCount_ >= parameters_.minimumAttempts;
-    // Before that, more pairs come, and the last fit would be thrown away.
+    // Until the solution is good, more pairs follow and the result of the final fit would be discarded.
     const auto polished = isGood ? record_.polish(anglesRad) : std::nullopt;
     const bool stands = polished && isAcceptable(polished->anglesRad);
     if (goodSolution_ && !stands) return;
     quality_.reset();
     if (stands) {
         anglesRad = polished->anglesRad;
-        // Too few blocks of matches tell no deviation.
+        // With too few blocks of matches the deviation cannot be estimated.
         if (std::isfinite(polished->quality.deviationDeg[0])) quality_ = polished->quality;
     }
     const Eigen::Vector3f anglesDeg = (anglesRad * kDegreesPerRadian).cast<float>();

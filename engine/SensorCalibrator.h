@@ -18,44 +18,45 @@
 
 namespace vq {
 
-/// Point lists of one pair; element i of one matches element i of the other. Pixels of the delivered pictures.
+/// Point lists of one pair; element i of one list matches element i of the other. Pixels of the delivered images.
 struct MatchLists {
     std::vector<cv::Point2f> colour;
     std::vector<cv::Point2f> infrared;
-    std::vector<cv::Point2f> exactInfrared;  ///< after verification: without what whole-pixel patches leave over
+    std::vector<cv::Point2f> exactInfrared;  ///< after verification, without the quantisation error of `infrared`
 };
 
-/// The images of a selected pair. Infrared, right infrared and depth: 2 bytes a pixel; colour: 4 bytes. The last two
+/// The images of a selected pair. Infrared, right infrared and depth have 2 bytes per pixel, colour has 4. The last two
 /// are empty where the module has none.
 struct SelectedImages {
     ImagePairRecord infrared, colour, right, depth;
-    float motionPx = 0;  ///< how far the infrared image moved to the next frame
+    float motionPx = 0;  ///< motion of the infrared image to the next frame
 };
 
-/// The core of the engine: turns prepared pairs into correspondences and decides when the rotation they give is stable.
+/// The core of the engine: turns prepared pairs into correspondences and decides when the estimated rotation is stable.
 ///
-/// Locks, taken in this order: the calibrator's own, the grid's, the registration's. The calibrator's is held for a
-/// whole decision; `goodSolution` and `outOfRange` may be read meanwhile from any thread.
+/// Locks are taken in this order: the calibrator's own, the grid's, the registration's. The calibrator's lock is held
+/// for a whole decision; `goodSolution` and `outOfRange` may be read meanwhile from any thread.
 class SensorCalibrator {
 public:
     SensorCalibrator(RegistrationContext& context, const SensorCalibratorParameters& parameters);
 
-    /// Search areas and estimation about the registration's current angles. The grid stays.
+    /// Sets up the search areas and the estimation about the registration's current angles. The grid keeps its matches.
     void setup();
-    /// The stereo baseline that an earlier calibration of the module found, metres; 0 for none. Takes effect with the
+    /// The stereo baseline found by an earlier calibration of the module, metres; 0 for none. Takes effect with the
     /// next `setup`.
     void setRememberedBaseline(double metres) { rememberedBaselineM_ = metres; }
-    /// Converts the selected pair. False when the sizes of infrared or colour are not those of the cameras.
+    /// Converts the selected pair. Returns false when the infrared or colour image does not have the size of its
+    /// camera.
     bool prepare(const SelectedImages& images);
     /// Matches and verifies the prepared pair and adds it to the grid. The lists of the pair are replaced; with `keep`
-    /// set, the lists before and after verification are copied where wanted.
+    /// set, the lists before and after verification are copied to the given pointers, which may be null.
     void generateMatches(bool keep = false, MatchLists* beforeVerification = nullptr,
                          MatchLists* afterVerification = nullptr);
-    /// Whether so few cells are under-filled that an estimation makes sense.
+    /// Returns whether enough cells are filled for an estimation.
     bool hasEnoughFilledCells() const;
-    /// One stability decision; afterwards `goodSolution` tells.
+    /// Makes one stability decision, whose result is read with `goodSolution`.
     void tryDetermineStableSolution();
-    /// Forgets all correspondences, candidates and counters. Camera parameters and registration stay.
+    /// Discards all correspondences, candidates and counters. Camera parameters and registration stay.
     void reset();
 
     void setStopFlag(const std::atomic<bool>* stop) { estimator_.setStopFlag(stop); }
@@ -68,10 +69,11 @@ public:
     bool outOfRange() const { return outOfRange_; }
     bool busy() const { return recordingBusy_ || decisionBusy_; }
     int attemptCount() const { return attemptCount_; }
-    /// How good the recorded solution is; none without one that the last fit has given.
+    /// Quality of the recorded solution; none unless the solution comes from the final fit.
     std::optional<SolutionQuality> quality() const { return quality_; }
     ParallaxReport parallax() const { return record_.report(); }
-    /// What stands behind the recorded solution; none where `quality` has none, or when the pairs were given up since.
+    /// The evidence for the recorded solution; none where `quality` is none, or when the pairs have been discarded
+    /// since.
     std::optional<SolutionEvidence> evidence() const { return quality_ ? record_.evidence() : std::nullopt; }
 
 private:
@@ -91,11 +93,11 @@ private:
     MatchGrid grid_;
     RotationEstimator estimator_;
     Projection projection_;
-    Eigen::Matrix3d initialRotation_ = Eigen::Matrix3d::Identity();  ///< that the attempt started from
+    Eigen::Matrix3d initialRotation_ = Eigen::Matrix3d::Identity();  ///< with which the attempt started
     double rememberedBaselineM_ = 0;
     DistanceMeter meter_;
     AttemptRecord record_{meter_};
-    float motionPx_ = 0;  ///< of the prepared pair
+    float motionPx_ = 0;  ///< motion of the prepared pair
     MatchLists matches_;
     bool frameUsable_ = false;
 

@@ -11,13 +11,13 @@
 
 namespace vq {
 
-/// The areas of the infrared image that matches are counted in, row by row.
+/// The areas of the infrared image in which matches are counted, row by row.
 constexpr int kAreaColumns = 4;
 constexpr int kAreaRows = 3;
 constexpr std::size_t kAreaCount = static_cast<std::size_t>(kAreaColumns) * kAreaRows;
 std::size_t areaOf(const cv::Point2f& point, const fieldcal::CameraModel& infrared);
 
-/// A match that a rotation was fitted to.
+/// A match to which a rotation was fitted.
 struct EvidenceMatch {
     cv::Point2f infrared;
     cv::Point2f colour;      ///< pixels of the colour model
@@ -25,8 +25,8 @@ struct EvidenceMatch {
     int still = 0;           ///< index of its still
 };
 
-/// What stands behind a solution, for people to look at. The two images are those of the still with the most matches:
-/// 8 bit, the infrared image and the grey colour image in the infrared geometry, shared and not copied.
+/// The evidence for a solution, for display and reports. The two images are those of the still with the most matches: 8
+/// bit, the infrared image and the grey colour image in the infrared geometry. They are shared, not copied.
 struct SolutionEvidence {
     Projection projection;
     std::vector<EvidenceMatch> matches;
@@ -34,7 +34,7 @@ struct SolutionEvidence {
     int shownStill = 0;
     cv::Mat infrared, grey;
 
-    /// Between where a rotation puts a match and where it is, pixels of the colour model.
+    /// The residual of a match under a rotation, in pixels of the colour model.
     Eigen::Vector2d residualPx(const EvidenceMatch& match, const Eigen::Matrix3d& rotation) const;
     std::array<int, kAreaCount> matchesPerArea() const;
 };

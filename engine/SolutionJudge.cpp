@@ -12,22 +12,24 @@
 namespace vq {
 namespace {
 
-/// What the stills of an attempt have in common and therefore cannot show: shade and foliage that look different in the
-/// two kinds of light. One deviation about each axis, as measured (docs/uncertainty.md).
+/// Error that the stills of an attempt have in common and that their differences therefore cannot show: shade and
+/// foliage that look different in infrared and visible light. One standard deviation about each axis, as measured
+/// (docs/uncertainty.md).
 const Eigen::Vector3d kUnseenDeviationRad = Eigen::Vector3d(0.0025, 0.0025, 0.002) / kDegreesPerRadian;
-/// What imagers may be misaligned against each other without anybody knowing, in pixels of disparity.
+/// Undetected misalignment of the infrared imagers against each other, in pixels of disparity.
 constexpr double kUnknownOffsetPx = 0.03;
-/// Parallax that nobody has measured scatters the matches along the baseline. Its mean, which turns into an error of
-/// the rotation, is taken to be this many times the scatter; and its slope across the image adds a share of that about
-/// Z.
+/// Unmeasured parallax scatters the matches along the baseline. Its mean, which becomes an error of the rotation, is
+/// assumed to be this many times the scatter; its gradient across the image adds a share of that about Z.
 constexpr double kMeanOverScatter = 2.5;
 constexpr double kShareAboutZ = 0.15;
-/// Scatter that parallax cannot be told from: some pixels of the colour model, and a share of the scatter across.
+/// Scatter from which parallax cannot be distinguished: some pixels of the colour model, and a share of the scatter
+/// across the baseline.
 constexpr double kUnseenScatterPx = 0.025;
 constexpr double kUnseenScatterShare = 0.5;
-/// Matches further from a rotation than this are not its own.
+/// Matches further than this from their prediction do not support a rotation.
 constexpr double kNearPx = 12.0;
-/// Share of a still's verified matches that must lie near a rotation that is right. Chance brings a tenth there.
+/// Share of a still's verified matches that must lie near the prediction of a correct rotation. Chance produces about a
+/// tenth.
 constexpr double kLeastNearShare = 0.2;
 
 std::vector<MeasuredMatch> matchesNear(const JudgedSolution& solution, const JudgedStill& still,
@@ -47,13 +49,13 @@ double scatterOf(std::vector<double> values) {
     return 1.4826 * medianOf(values);
 }
 
-/// A turn that a shift of the whole image along the baseline is taken for; `inverseDepth` in 1/m.
+/// The rotation that is indistinguishable from a shift of the whole image along the baseline; `inverseDepth` in 1/m.
 Eigen::Vector3d turnOfShiftRad(const Projection& projection, double inverseDepth) {
     const Eigen::Vector3d& t = projection.translationM;
     return Eigen::Vector3d(std::abs(t.y()), std::abs(t.x()), 0.0) * inverseDepth;
 }
 
-/// From what is not known about the scale of the disparities.
+/// Uncertainty due to the scale of the disparities.
 Eigen::Vector3d scaleDeviationRad(const JudgedSolution& solution) {
     const StereoScale* scale = solution.options.scale;
     std::vector<double> inverseDepths;
@@ -68,8 +70,8 @@ Eigen::Vector3d scaleDeviationRad(const JudgedSolution& solution) {
     return turnOfShiftRad(solution.projection, std::hypot(ofScale, kUnknownOffsetPx / scale->pixelMetres));
 }
 
-/// From matches without a distance, which count as infinitely far. If they are not, and not all equally near, they
-/// scatter along the baseline more than across it.
+/// Uncertainty due to matches without a distance, which count as infinitely far. If they are not far, and not all at
+/// the same distance, they scatter more along the baseline than across it.
 Eigen::Vector3d unseenParallaxRad(const JudgedSolution& solution) {
     const Projection& projection = solution.projection;
     const Eigen::Vector2d baseline = projection.translationM.head<2>();
@@ -89,7 +91,7 @@ Eigen::Vector3d unseenParallaxRad(const JudgedSolution& solution) {
         }
     }
     if (alongPx.empty()) return Eigen::Vector3d::Zero();
-    // What the depth image does not show is further away, and there is more of it than there are matches.
+    // What the depth image does not show is further away, and covers more of the scene than the matches do.
     const double share =
         std::min(2.0 * static_cast<double>(alongPx.size()) / static_cast<double>(alongPx.size() + known), 1.0);
     const double withoutParallax = (1 + kUnseenScatterShare * kUnseenScatterShare) * std::pow(scatterOf(acrossPx), 2);
@@ -100,8 +102,9 @@ Eigen::Vector3d unseenParallaxRad(const JudgedSolution& solution) {
     return turnRad;
 }
 
-/// Each still in turn is left out of the fit and judged by what the others give. Of its verified matches, which are
-/// partly wrong, those near that rotation count; all of them when there are no more than chance brings there.
+/// Each still in turn is left out of the fit, and its matches are predicted by the rotation fitted to the others. Some
+/// of its verified matches are wrong, so only those near the prediction count; when these are no more than chance
+/// produces, all of them count.
 std::optional<HoldOutProof> prove(const JudgedSolution& solution) {
     std::vector<double> storedPx, newPx;
     HoldOutProof proof;

@@ -6,57 +6,57 @@
 
 namespace vq {
 
-/// How well stills that did not take part in a fit agree with its rotation: the median distance between their matches
-/// and where the rotation puts them, pixels of the colour image.
+/// Agreement of a fit with stills that took no part in it: the median distance between their matches and the
+/// predictions of the rotation, in pixels of the colour image.
 struct HoldOutProof {
-    double storedPx = 0;  ///< with the rotation that the attempt started from
+    double storedPx = 0;  ///< with the rotation with which the attempt started
     double newPx = 0;     ///< with the rotation fitted to the other stills
     int matches = 0;
     int stills = 0;
 
-    /// Whether the new rotation is clearly the better one.
+    /// Returns whether the new rotation is clearly the better one.
     bool isClear() const { return newPx < kClearShare * storedPx; }
 
     static constexpr double kClearShare = 0.8;
 };
 
-/// What may have changed besides the rotation.
+/// What may have changed in the module besides the rotation.
 enum class ModelDeparture : std::int32_t {
     FocalLength,
     PrincipalPoint,
     Distortion,
     Translation,
     RollingShear,    ///< rows of the colour image are displaced in proportion to their height
-    SecondRotation,  ///< the upper half of the image is turned against the lower one
+    SecondRotation,  ///< the upper half of the image is rotated against the lower one
 };
 constexpr std::size_t kModelDepartureCount = 6;
 
-/// Whether a rotation explains the matches.
+/// Whether a rotation alone explains the matches.
 struct ModelCheck {
-    /// Of each departure: how probable it is that a rotation alone leaves residuals that speak for it as much as these.
+    /// For each departure, the probability of residuals at least as indicative of it if only the rotation had changed.
     std::array<double, kModelDepartureCount> probability{1, 1, 1, 1, 1, 1};
 
-    /// The least probable one of all.
+    /// The departure with the smallest probability.
     ModelDeparture strongest() const;
-    /// The strongest departure; none when a rotation explains the matches.
+    /// The departure that counts as real; none when a rotation explains the matches.
     std::optional<ModelDeparture> departure() const;
 };
 
 /// When an attempt takes no more pairs.
 struct AccuracyGoal {
     std::array<double, 3> deviationDeg{0.005, 0.005, 0.01};  ///< about X, Y and Z
-    int leastPairs = 4;  ///< on photographs, three pairs err half as much again as four
-    int mostPairs = 8;   ///< after so many, the solution counts as it is
+    int leastPairs = 4;  ///< on photographs, the error with three pairs is half as large again as with four
+    int mostPairs = 8;   ///< after this number of pairs the solution is accepted as it is
 };
 
-/// What an attempt knows about its solution.
+/// The estimated accuracy of an attempt's solution.
 struct SolutionQuality {
     std::array<double, 3> deviationDeg{};  ///< one standard deviation about X, Y and Z of the colour camera
-    std::array<double, 3> samplingDeg{};   ///< of that, what more pairs can make smaller
-    std::optional<HoldOutProof> proof;     ///< none with fewer than two stills that can be judged
+    std::array<double, 3> samplingDeg{};   ///< the part of it that more pairs can reduce
+    std::optional<HoldOutProof> proof;     ///< none with fewer than two stills that can be evaluated
     ModelCheck model;
 
-    /// Whether more pairs are not needed.
+    /// Returns whether the solution is accurate enough, so that no more pairs are needed.
     bool meets(const AccuracyGoal& goal) const;
 };
 

@@ -16,25 +16,27 @@ namespace {
 
 constexpr float kNone = std::numeric_limits<float>::quiet_NaN();
 
-/// Coarse search, in pixels of the half images. The candidates are a multiple of four for the vector units.
+/// Coarse search, in pixels of the half-size images. The number of candidates is a multiple of four for the vector
+/// units.
 constexpr int kHalfReach = 3;
 constexpr int kHalfWindow = 2 * kHalfReach + 1;
 constexpr int kSmallestHalf = -4;
 constexpr int kCandidates = 32;
-/// The least standard deviation of a window that tells positions apart, in grey levels of 1024.
+/// Smallest standard deviation of a window that allows positions to be distinguished, in grey levels of 1024.
 constexpr float kMinimumDeviation = 4.0F;
 constexpr float kMinimumCoarseCorrelation = 0.6F;
-/// Another local maximum this close to the best one makes the place ambiguous.
+/// A place is ambiguous when another local maximum is this close to the best one.
 constexpr float kAmbiguousCorrelation = 0.06F;
 constexpr int kPeakDistance = 2;
-/// Columns repeated beyond both sides of the half images, so that near the border the candidates inside are still seen.
+/// Padding columns on both sides of the half-size images, so that candidates inside the image are found near its
+/// border.
 constexpr int kPadding = kCandidates + kHalfReach + 1;
 
 constexpr int kReach = 6;
 constexpr int kWindow = 2 * kReach + 1;
 constexpr int kWindowArea = kWindow * kWindow;
 using Window = Patch<kWindow>;
-/// A coarse disparity is right within about a pixel.
+/// A coarse disparity is correct to about a pixel.
 constexpr float kLargestWayPx = 2.5F;
 constexpr float kConvergedPx = 0.02F;
 constexpr float kMinimumFineCorrelation = 0.75F;
@@ -43,13 +45,13 @@ constexpr int kIterations = 8;
 
 using Correlations = std::array<float, kCandidates>;
 
-/// Sums that the correlation of one window with all candidates needs, candidate by candidate.
+/// The sums needed for the correlation of one window with all candidates, one element per candidate.
 struct CandidateSums {
     std::array<float, kCandidates> sum{}, square{}, product{};
     float ownSum = 0, ownSquare = 0;
 };
 
-/// `from` and `to` point at the windows' upper left pixels for the first candidate.
+/// `from` and `to` point at the upper left pixels of the windows for the first candidate.
 CandidateSums sumsOf(const cv::Mat& from, const cv::Point& corner, const cv::Mat& to, int firstColumn) {
     CandidateSums sums;
     for (int y = 0; y < kHalfWindow; ++y) {
@@ -70,8 +72,8 @@ CandidateSums sumsOf(const cv::Mat& from, const cv::Point& corner, const cv::Mat
     return sums;
 }
 
-/// Correlation of the window about `centre` with the windows at the columns firstColumn … firstColumn + 31 of the same
-/// row. False where a window leaves the images or has no texture.
+/// Correlates the window about `centre` with the windows at the columns firstColumn … firstColumn + 31 of the same row.
+/// Returns false where a window leaves the images or has no texture.
 bool correlate(const cv::Mat& from, const cv::Point& centre, const cv::Mat& to, int firstColumn, Correlations* out) {
     constexpr float area = kHalfWindow * kHalfWindow;
     const cv::Point corner(centre.x - kHalfReach, centre.y - kHalfReach);
@@ -103,11 +105,11 @@ bool isAmbiguous(const Correlations& correlations, std::size_t best) {
     return false;
 }
 
-/// A window of the left image with its gradients, prepared for alignment by the inverse compositional method (Baker and
-/// Matthews, IJCV 2004): gradients and their matrix are computed once.
+/// A window of the left image prepared for alignment by the inverse compositional method (Baker and Matthews, IJCV
+/// 2004): its gradients and their matrix are computed once.
 class WindowAlignment {
 public:
-    /// The window is centred on the whole pixel `centre` and must lie inside with a margin of one pixel.
+    /// `centre` is a whole pixel. The window must lie inside the image with a margin of one pixel.
     WindowAlignment(const cv::Mat& left, const cv::Point& centre) {
         std::size_t i = 0;
         for (int y = centre.y - kReach; y <= centre.y + kReach; ++y) {
@@ -122,7 +124,8 @@ public:
         squares_ = value_.centre();
         for (Window* gradient : {&across_, &down_}) {
             gradient->centre();
-            // The gain is solved for as well: what the gradients share with the window itself moves the gain.
+            // The gain is estimated as well, so the part of the gradients that is proportional to the window itself
+            // must change the gain and not the position.
             gradient->subtract(value_, gradient->dot(value_) / std::max(squares_, 1.0F));
         }
         xx_ = across_.dot(across_);
@@ -139,8 +142,8 @@ public:
         cv::Point2f move;
         float correlation;  ///< before the step
     };
-    /// The step that brings the window at `centre` of the right image nearer; none where the two have nothing in
-    /// common.
+    /// The step that moves the window at `centre` in the right image closer to a match; none where the two windows do
+    /// not correlate.
     std::optional<Step> step(const cv::Mat& right, const cv::Point2f& centre) const {
         Window other;
         sample(right, centre, &other);
@@ -174,7 +177,7 @@ private:
     float squares_ = 0, xx_ = 0, xy_ = 0, yy_ = 0;
 };
 
-/// Long steps overshoot.
+/// Limits the length of a step, because long steps overshoot.
 cv::Point2f shortened(const cv::Point2f& step) {
     const auto length = static_cast<float>(cv::norm(step));
     return length > 1.0F ? step / length : step;
@@ -224,7 +227,7 @@ float StereoMatcher::findCoarseAt(const cv::Point2f& leftPoint) const {
     if (!correlate(rightHalf_, match, leftHalf_, match.x + kSmallestHalf, &back)) return kNone;
     const int again = match.x + kSmallestHalf + static_cast<int>(bestOf(back));
     if (std::abs(again - centre.x) > 1) return kNone;
-    // The parabola through the three best correlations tells where between the candidates the best one lies.
+    // The parabola through the three best correlations gives the position of the maximum between the candidates.
     const float before = there[best - 1], after = there[best + 1];
     const float bend = before + after - 2 * there[best];
     const float fraction = bend < 0 ? 0.5F * (before - after) / bend : 0;

@@ -12,18 +12,18 @@ namespace {
 constexpr std::size_t kMinimumPlaces = 40;
 constexpr double kLargestRelativeDeviation = 0.02;
 constexpr int kIterations = 20;
-/// Where the Cauchy loss bends, pixels of disparity.
+/// Scale of the Cauchy loss, pixels of disparity.
 constexpr double kCauchyPx = 0.25;
-/// Neighbouring windows and depths are not independent: so many places count as one.
+/// Neighbouring windows and depths are correlated: this number of places counts as one independent measurement.
 constexpr double kPlacesPerIndependentOne = 10;
-/// The offset counts when the depths vary enough to show it, and when it is one that imagers can have.
+/// The offset is used when the depths vary enough to determine it, and when its value is possible for real imagers.
 constexpr double kLargestOffsetDeviationPx = 0.03;
 constexpr double kLargestOffsetPx = 1.0;
-/// Depths near the end of the depth image's reach are drawn towards it, since what noise takes beyond is missing: only
-/// depths within this share of the farthest one count.
+/// Depths near the end of the depth image's range are biased towards smaller values, because noise beyond the end is
+/// cut off. Only depths within this share of the farthest one count.
 constexpr double kReachShare = 0.93;
 
-/// Inverse depth and disparity of the places that have both.
+/// Pairs of inverse depth and disparity of the places that have both.
 std::vector<Eigen::Vector2d> samplesWithinReach(const std::vector<MeasuredPlace>& places) {
     float farthest = std::numeric_limits<float>::max();
     for (const MeasuredPlace& place : places) {
@@ -42,8 +42,8 @@ struct Line {
     Eigen::Vector2d deviation;
 };
 
-/// Robust line through the samples, started at the median of disparity times depth, which no share of wrong samples
-/// below a half can move far.
+/// Robust line through the samples. It starts at the median of disparity times depth, which is insensitive to any share
+/// of wrong samples below one half.
 Line fitLine(const std::vector<Eigen::Vector2d>& samples, bool withOffset) {
     std::vector<double> products;
     products.reserve(samples.size());

@@ -6,7 +6,7 @@ namespace vq {
 
 class Stopwatch {
 public:
-    /// Seconds since construction or the last call.
+    /// Returns the seconds since construction or since the last call.
     double lap() {
         const auto now = std::chrono::steady_clock::now();
         const double seconds = std::chrono::duration<double>(now - start_).count();

@@ -15,7 +15,7 @@ std::string rotationVectorText(const Eigen::Vector3d& vector, double scalar);
 std::string matrixText(const Eigen::Matrix3d& matrix);
 std::string matrixText(const Eigen::Matrix<double, 3, 4>& matrix);
 std::string vectorText(const Eigen::VectorXd& vector);
-/// A rectified camera has no distortion: the coefficients are printed as zeros.
+/// A rectified camera has no distortion; its coefficients are printed as zeros.
 std::string intrinsicsText(const fieldcal::CameraModel& model);
 
 }  // namespace vq
