@@ -16,7 +16,7 @@ using Block = KXCalibRectParameters;
 using Bytes = std::bitset<sizeof(Block)>;
 using Flash = WriteBackReport::Flash;
 
-/// What a rotation that the module tells may differ from the one that was written: roundings of 32 bit, many times.
+/// Largest difference between a rotation that the module reports and the one written: several roundings to 32 bits.
 constexpr float kToldTolerance = 1e-4F;
 
 constexpr const char* kNotKept =
@@ -33,7 +33,7 @@ Bytes differences(const Block& a, const Block& b) {
     return differing;
 }
 
-/// Numbers are not compared in part: a byte of theirs may happen to be the same.
+/// Numbers are compared as whole words, because single bytes of two different numbers may be equal.
 Bytes wholeWords(const Bytes& bytes) {
     Bytes words;
     for (std::size_t i = 0; i < bytes.size(); ++i)
@@ -57,7 +57,7 @@ void logBytes(const char* what, const Bytes& bytes) {
              static_cast<int>(bytes._Find_first()));
 }
 
-/// The block with a rotation of a camera. The call may be given up, so that it works on its own copies.
+/// Returns the block with one camera's rotation replaced. The call may be abandoned, so it works on its own copies.
 std::optional<Block> turned(ModuleLink& link, KXUpdateRotationFunction function, const std::array<double, 9>& rotation,
                             const Block& block) {
     const auto call = [=, library = link.rotationUpdater()] {
@@ -72,7 +72,7 @@ std::optional<Block> turned(ModuleLink& link, KXUpdateRotationFunction function,
 constexpr std::array<double, 9> kProbe{0.6442, -0.5285, 0.5529, 0.5440, 0.8255, 0.1552, -0.5383, 0.2008, 0.8185};
 constexpr std::array<double, 9> kOtherProbe{-0.1702, -0.6659, 0.7268, 0.7161, 0.4251, 0.5558, -0.6791, 0.6151, 0.4005};
 
-/// The fields of a rotation: where two different ones make different blocks.
+/// Determines the fields of a rotation as the words in which the blocks of two different rotations differ.
 std::optional<Bytes> fieldsOf(ModuleLink& link, KXUpdateRotationFunction function, const Block& block) {
     const auto one = turned(link, function, kProbe, block);
     const auto other = one ? turned(link, function, kOtherProbe, block) : std::nullopt;
@@ -102,8 +102,8 @@ QString flashText(const WriteBackReport& report) {
 CalibrationWriter::CalibrationWriter(ModuleLink& link, KXThirdCamera* third, std::uint32_t serial, QString backupFolder)
     : link_(link), third_(third), serial_(serial), backupFolder_(std::move(backupFolder)), counting_(matrixBytes()) {}
 
-/// A camera whose rotation is the one in the flash is left as it is there: composing it anew would only move it by
-/// rounding, a little further with every save.
+/// A camera whose rotation is unchanged keeps its words in the flash, because composing them again would add a rounding
+/// error with every save.
 bool CalibrationWriter::writeRotations(const StoredRotations& present, const StoredRotations& wanted) {
     const bool third = wanted.third != present.third;
     const bool platform = present.platform && wanted.platform != present.platform;
@@ -168,7 +168,7 @@ bool CalibrationWriter::run(const std::function<bool(QString* why)>& makeWanted)
     return stored;
 }
 
-/// Up to here nothing has been sent to the flash.
+/// Until this function has succeeded, nothing is sent to the flash.
 bool CalibrationWriter::prepare(const std::function<bool(QString* why)>& makeWanted) {
     KXDevice* device = link_.device().get();
     if (!link_.ask([device] { return device->stopCapture(); })) return failed();
@@ -187,10 +187,11 @@ bool CalibrationWriter::prepare(const std::function<bool(QString* why)>& makeWan
     return access_ != nullptr || failed();
 }
 
-/// One camera's rotation in the wanted block, between the raw frames, as the companion library takes it.
+/// Sets one camera's rotation in the wanted block, expressed between the raw frames as the companion library expects
+/// it.
 bool CalibrationWriter::turn(KXUpdateRotationFunction function, const Rotation& rotation, const float* rectifyColour) {
     const auto fields = fieldsOf(link_, function, wanted_);
-    // Raw infrared to rectified, to the colour camera, back to raw colour.
+    // From raw infrared to rectified infrared, to the colour camera, and back to raw colour.
     const Matrix3 raw = product(transposed(widened(rectifyColour)),
                                 product(widened(rotation.data()), widened(previous_.rectificationInfrared)));
     const auto out = fields ? turned(link_, function, raw, wanted_) : std::nullopt;
@@ -223,7 +224,7 @@ bool CalibrationWriter::readAgain() {
     return found.has_value();
 }
 
-/// What is known after a failure, which has been reported.
+/// Determines the content of the flash after a failure that has been reported.
 void CalibrationWriter::readQuietly() {
     KXDevice* device = link_.device().get();
     const auto found = link_.askQuietly([device] { return ModuleLink::filled(device, &KXDevice::rectParameters); });
@@ -243,12 +244,12 @@ void CalibrationWriter::judge(const Block& found) {
     }
 }
 
-/// All calls have succeeded; whether the block is there is another matter.
+/// The flash is read back, because successful calls do not prove that it holds the block.
 bool CalibrationWriter::holdsWanted() {
     return report_.flash == Flash::Written || notKept();
 }
 
-/// What the module makes of the block it has loaded.
+/// Compares the rotations that the module reports after reloading the block.
 bool CalibrationWriter::tellsWanted() {
     if (!rotations_) return true;
     if (!tells("in-module", link_.read(third_, &KXThirdCamera::zToThirdExtrinsics), rotations_->third)) return false;
@@ -272,7 +273,8 @@ bool CalibrationWriter::tells(const char* which, const std::optional<KXCalibExtr
     return notKept();
 }
 
-/// What went wrong has been reported. A module that holds the new block and tells it, or the previous one, is left so.
+/// Called after a failure that has been reported. A module that holds and reports the new block, or that holds the
+/// previous one, is left unchanged.
 void CalibrationWriter::putBack() {
     const bool disagrees = report_.reason == kNotKept && report_.flash != Flash::Previous;
     if (!disagrees && (report_.flash != Flash::Other || !resting_)) return;
@@ -285,7 +287,7 @@ void CalibrationWriter::putBack() {
         [access, sent] { return access->writeRectParameters(sent.get(), true) && access->commitCalibration(); });
 }
 
-/// A module that has failed is left as it is, except for its pictures, which may come back.
+/// A module that has failed is left as it is; only its streams are started again, as they may recover.
 bool CalibrationWriter::resume() {
     if (!std::exchange(resting_, false)) return true;
     const auto call = [device = link_.device().get()] { return device->resumeDevice(); };

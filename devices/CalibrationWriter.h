@@ -11,41 +11,42 @@
 
 namespace fieldcal {
 
-/// The depth-to-colour rotations that the module tells; `platform` only where its calibration can be used.
+/// The depth-to-colour rotations that the module reports; `platform` only where its calibration is usable.
 struct StoredRotations {
     Rotation third{};
     std::optional<Rotation> platform;
 };
 
-/// What a write-back did to the module's flash, by what the module itself says when it is read again.
+/// The result of a write-back, according to the flash as read back from the module.
 struct WriteBackReport {
     enum class Flash {
-        Untouched,  ///< nothing was sent to it
-        Previous,   ///< the block that was there before
-        Written,    ///< the block that was to be written
-        Other,      ///< neither of them; the backup holds the previous one
-        Unknown     ///< it could not be read again
+        Untouched,  ///< nothing was sent to the flash
+        Previous,   ///< the flash holds the previous block
+        Written,    ///< the flash holds the block that was to be written
+        Other,      ///< the flash holds neither of them; the backup holds the previous one
+        Unknown     ///< the flash could not be read back
     };
     Flash flash = Flash::Untouched;
     QString reason;      ///< why it failed, one line; empty after success
-    QString backupFile;  ///< where the previous block was kept; empty when it never came to that
+    QString backupFile;  ///< the file that keeps the previous block; empty if none was written
 };
 
-/// One line for people and logs.
+/// One line for the user and for logs.
 QString flashText(const WriteBackReport& report);
 
-/// Replaces the module's parameter block: keeps the one that is there in a file, writes, reads again, lets the module
-/// load it, and reads again. What counts is what this program means to change: the fields that the companion library
-/// writes, the three matrices, and the rotations that the module then tells. Other bytes belong to the module, which
-/// may keep a checksum, a date or a counter in them; differences there are logged. Where anything that counts
-/// disagrees, one attempt is made to put the previous block back. The sensor's thread; one use.
+/// Replaces the module's parameter block: saves the present block to a file, writes the new one, reads it back, makes
+/// the module reload it, and reads it back again. The comparison covers what this program means to change: the fields
+/// that the companion library writes, the three matrices, and the rotations that the module then reports. All other
+/// bytes belong to the module, which may keep a checksum, a date or a counter in them; differences there are only
+/// logged. If anything in the comparison disagrees, one attempt is made to restore the previous block. Used on the
+/// sensor's thread, for one write.
 class CalibrationWriter {
 public:
     CalibrationWriter(ModuleLink& link, KXThirdCamera* third, std::uint32_t serial, QString backupFolder);
 
-    /// Both are true when the module keeps, and tells, what was to be written; what it holds already is not written. A
-    /// failed call has been reported by the link, and so has a module that does not keep the block; anything else that
-    /// stops the writing is logged.
+    /// Both return true when the module keeps and reports the wanted values. Values that the flash already holds are
+    /// not written again. A failed call, and a module that does not keep the block, have been reported by the link;
+    /// anything else that prevents the write is logged.
     bool writeRotations(const StoredRotations& present, const StoredRotations& wanted);
     bool restore(const KXCalibRectParameters& block);
 
@@ -79,7 +80,7 @@ private:
     Block previous_{};
     Block wanted_{};
     Bytes counting_;                            ///< the bytes of the block that are compared
-    std::optional<StoredRotations> rotations_;  ///< what the module must tell afterwards, if that is known
+    std::optional<StoredRotations> rotations_;  ///< the rotations that the module must report afterwards, if known
     KXPrivate* access_ = nullptr;
     bool resting_ = false;
     bool differencesLogged_ = false;

@@ -52,7 +52,7 @@ bool refuse(ModuleLink& link, const char* line) {
     return false;
 }
 
-/// A calibration for pictures of another size moves every point, and nothing would match.
+/// A calibration for another image size would shift every point, so that nothing would match.
 bool fitsStream(const char* name, const KXCalibIntrinsicsRectified& record, const StreamSize& stream) {
     if (record.w == stream.width && record.h == stream.height) return true;
     qCritical("The %s pictures have %i x %i pixels, but their calibration is for %i x %i.", name, stream.width,
@@ -93,7 +93,7 @@ bool fillModule(ModuleLink& link, const ModuleRecords& records, CameraParameters
     return true;
 }
 
-/// What fails in here is logged, and no fault of the module's; only a camera that does not answer is one.
+/// Failures in this function are logged and are not faults of the module, except for a camera that does not answer.
 void fillPlatform(ModuleLink& link, ModuleCalibration* out) {
     const auto call = [device = link.device().get(), library = link.library(), infrared = out->parameters.infrared] {
         std::optional<PlatformParameters> platform(PlatformParameters{});

@@ -10,19 +10,19 @@
 
 namespace fieldcal {
 
-/// The module's calibration as it is read out once.
+/// The module's calibration, read once.
 struct ModuleCalibration {
-    CameraParameters parameters;  ///< the rear camera's are zero without `platform`
+    CameraParameters parameters;  ///< those of the rear camera are zero without `platform`
     std::optional<PlatformCalibration> platform;
 };
 
-/// Empty: the calibration is invalid, does not fit the streams or could not be read; it has been logged and reported
-/// by the link. Rear-camera data that is missing, cannot be read or is not usable is no failure.
+/// Returns none when the calibration is invalid, does not fit the streams or could not be read; this has been logged
+/// and reported by the link. Missing, unreadable or unusable data of the rear camera is not a failure.
 std::optional<ModuleCalibration> readCalibration(ModuleLink& link, KXThirdCamera* third);
 
-/// Reads the module's factory calibration into `out`, and has the sensor use it. Once, right after `Sensor::open`, on
-/// the sensor's thread. False: `readCalibration` was empty, and `out` is untouched. Without a usable rear camera
-/// `forceSingleCameraCalibration` is called.
+/// Reads the module's factory calibration into `out` and makes the sensor use it. To be called once, right after
+/// `Sensor::open`, on the sensor's thread. Returns false and leaves `out` unchanged when `readCalibration` returned
+/// none. Calls `forceSingleCameraCalibration` when there is no usable rear camera.
 bool readCameraParameters(Sensor& sensor, CameraParameters* out,
                           const std::function<void()>& forceSingleCameraCalibration);
 

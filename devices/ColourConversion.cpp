@@ -12,7 +12,7 @@ std::uint32_t swappedOpaque(std::uint32_t bgra) {
     return 0xFF000000U | (bgra & 0x0000FF00U) | ((bgra >> 16) & 0xFFU) | ((bgra & 0xFFU) << 16);
 }
 
-/// One pass instead of a swap, a copy and a pass for alpha. Blocks of fixed length so that the compiler vectorises.
+/// One pass replaces a swap, a copy and a pass for alpha. Blocks of fixed length allow the compiler to vectorise.
 void swapIntoRecord(const std::uint8_t* bgra, std::size_t pixels, std::uint8_t* rgba) {
     constexpr std::size_t kBlock = 16;
     std::uint32_t block[kBlock];

@@ -8,18 +8,18 @@
 
 namespace fieldcal {
 
-/// Sides of pictures and records lie between 1 and this.
+/// Largest accepted side of images and records; the smallest is 1.
 inline constexpr std::int32_t kLargestPictureSide = 8192;
 
 bool isPlausiblePictureSize(std::int32_t width, std::int32_t height);
 
-/// Brings a BGRA picture into a record: scaled to width x height (bilinear, as `cv::resize`; not at all when it has
-/// that size already), red and blue swapped, alpha 255. `scaled` is working memory to be kept from call to call.
-/// `bgra` is not empty and the size is plausible.
+/// Converts a BGRA image into a record: scales it to width x height (bilinear, as `cv::resize`; no scaling if it has
+/// that size already), swaps red and blue, and sets alpha to 255. `scaled` is a work buffer that the caller keeps from
+/// call to call. `bgra` must not be empty and the size must be plausible.
 void scaleIntoRecord(const cv::Mat& bgra, std::int32_t width, std::int32_t height, cv::Mat* scaled,
                      ImageFrame32* record);
 
-/// NV12 pixels, width x height, to BGRA. Even sides.
+/// Converts NV12 pixels, width x height with even sides, to BGRA.
 void nv12ToBgra(const std::uint8_t* nv12, std::int32_t width, std::int32_t height, cv::Mat* bgra);
 
 }  // namespace fieldcal

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::uint32_t kServiceDoesNotExist = 1060;
 
-/// There is a manager, and no service in it.
+/// A service manager without any services.
 class NoServices : public ServiceControl {
 public:
     Handle openManager(std::uint32_t) override { return this; }

@@ -25,7 +25,7 @@ bool holds(const ImageFrame16& record, std::int32_t width, std::int32_t height, 
            std::memcmp(record.pixels(), pixels, record.byteCount()) == 0;
 }
 
-/// Without pixels the record becomes empty.
+/// Copies the pixels, or empties the record when there are none.
 void copyOrEmpty(ImageFrame16* record, std::int32_t width, std::int32_t height, const std::uint16_t* pixels) {
     if (pixels == nullptr || !isPlausiblePictureSize(width, height)) record->resize(0, 0);
     copy(record, width, height, pixels);

@@ -13,30 +13,30 @@
 namespace fieldcal {
 
 /// The latest frame of every stream. The infrared and depth records have the module's own sizes, the colour records
-/// the sizes of the infrared geometry. Empty until first filled.
+/// have the sizes of the infrared geometry. Empty until first filled.
 struct FrameRecords {
     ImageFrame16 leftInfrared;
-    ImageFrame16 rightInfrared;  ///< of the same grab as the others; empty when that brought none
+    ImageFrame16 rightInfrared;  ///< of the same frame set as the others; empty when that had none
     ImageFrame16 depth;
     PerColourCamera<ImageFrame32> colour;
 };
 
-/// What a grab brought of a stream.
+/// What the last grab delivered for one stream.
 struct StreamNews {
-    bool delivered = false;  ///< a picture
-    bool changed = false;    ///< another one than the grab before
+    bool delivered = false;  ///< an image was delivered
+    bool changed = false;    ///< it differs from that of the grab before
 };
 
-/// Whether the infrared and the colour picture in the records were delivered together. A picture that stands still
-/// while the other one goes on is of another moment, as is every second colour picture, and must not be matched with
-/// it; where both stand still, as in a recording of stills, they stay a pair.
+/// Tracks whether the infrared and the colour image in the records were delivered together. An image that is repeated
+/// while the other stream delivers a new one, as every second colour image is, was taken at another time and must not
+/// be matched with it. When both are repeated, as in a recording of stills, they remain a pair.
 class Pairing {
 public:
     using Clock = std::chrono::steady_clock;
 
     void follow(const StreamNews& infrared, const StreamNews& colour, Clock::time_point infraredAt,
                 Clock::time_point colourAt);
-    /// How old the older picture of the pair is; empty when they are none.
+    /// The age of the older image of the pair; empty when the images are not a pair.
     std::optional<Clock::duration> age(Clock::time_point now) const;
 
 private:
@@ -47,12 +47,13 @@ private:
 /// Copies the module's own streams into the records after a successful device grab. One thread.
 class FrameAcquisition {
 public:
-    /// Gives the infrared, depth and in-module records the module's sizes. False: a size is implausible.
+    /// Gives the infrared, depth and in-module colour records the module's sizes. Returns false when a size is
+    /// implausible.
     bool sizeRecords(KXDevice& device, KXThirdCamera& third);
 
-    /// Skips streams that the settings or the device report as off, or that have no picture; the in-module colour
-    /// also until its scaled size is known. The right infrared record is emptied instead: whoever compares the two
-    /// infrared pictures must not take an old one for a new one.
+    /// Skips streams that the settings or the device report as off, or that have no image, and the in-module colour
+    /// stream until its scaled size is known. The right infrared record is emptied instead of kept, because an old
+    /// right image must not be compared with a new left one.
     void refresh(KXDevice& device, KXThirdCamera* third, const SensorSettings& settings);
 
     FrameRecords records;
@@ -60,8 +61,8 @@ public:
 
 private:
     void refreshThird(KXThirdCamera& third, const SensorSettings& settings);
-    /// The colour camera runs at half the rate of the infrared ones: every other picture is the one before, and
-    /// comparing costs a tenth of scaling. False: nothing new.
+    /// The colour camera runs at half the rate of the infrared cameras, so every other image is a repetition. Comparing
+    /// costs a tenth of scaling. Returns false when the image is a repetition.
     bool keepIfNew(const std::uint8_t* pixels, std::int32_t width, std::int32_t height);
 
     cv::Mat third_;

@@ -10,35 +10,37 @@
 
 namespace fieldcal {
 
-/// One picture of the queue. The pixels belong to the queue.
+/// One image of the queue. The queue owns the pixels.
 struct QueuedPicture {
     const std::uint8_t* pixels = nullptr;
     std::int32_t width = 0;
     std::int32_t height = 0;
     std::uint32_t sequence = 0;
     double timeSeconds = 0;                           ///< the camera's own time stamp
-    std::chrono::steady_clock::time_point arrived{};  ///< here
+    std::chrono::steady_clock::time_point arrived{};  ///< the time of arrival in this program
 };
 
-/// Hands NV12 pictures from the camera's thread to the thread that grabs. The reader always gets the newest one;
-/// a reader that is late loses the oldest. Sequence numbers may wrap around. One producer and one consumer thread.
+/// Passes NV12 images from the camera's thread to the thread that grabs. The consumer always gets the newest image;
+/// when it is late, the oldest images are dropped. Sequence numbers may wrap around. One producer and one consumer
+/// thread.
 class FrameQueue {
 public:
     enum class Mode {
-        Ring,       ///< several pictures may wait
-        SingleSlot  ///< the last picture replaces the one that waits
+        Ring,       ///< several images may wait
+        SingleSlot  ///< a new image replaces the waiting one
     };
 
     explicit FrameQueue(Mode mode = Mode::Ring) : mode_(mode) {}
 
-    /// Producer. Copies the picture; its bytes follow from the size. False: null, or a size without a picture.
+    /// Producer. Copies the image, whose length follows from its size. Returns false for null pixels or an invalid
+    /// size.
     bool push(const QueuedPicture& picture);
 
-    /// Consumer. Drains the queue to its newest picture, waiting at most `waitMs` for one. False: nothing newer than
-    /// the last picture returned, and `out` is untouched. The pixels stay valid until the next call.
+    /// Consumer. Drains the queue to its newest image, waiting at most `waitMs` for one. Returns false and leaves `out`
+    /// unchanged when there is nothing newer than the last image returned. The pixels stay valid until the next call.
     bool latest(std::int32_t waitMs, QueuedPicture* out);
 
-    /// Pictures that wait.
+    /// The number of waiting images.
     std::size_t waiting() const;
 
     static constexpr std::size_t kSlots = 4;
@@ -57,8 +59,8 @@ private:
 
     const Mode mode_;
     std::array<Slot, kSlots> slots_;
-    Slot incoming_;  ///< the producer's own, so that it copies without holding the lock
-    Slot output_;    ///< the consumer's own
+    Slot incoming_;  ///< used by the producer only, so that it copies without holding the lock
+    Slot output_;    ///< used by the consumer only
     std::size_t readIndex_ = 0;
     std::size_t waiting_ = 0;
     mutable std::mutex mutex_;

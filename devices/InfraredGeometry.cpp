@@ -21,7 +21,7 @@ bool isPinhole(const Model& model) {
            isPlausiblePictureSize(model.w, model.h);
 }
 
-/// 0 for what does not fit a picture's side.
+/// Returns 0 when the result is not a valid image side.
 std::int32_t roundedSide(std::int32_t side, double factor) {
     const double scaled = std::round(side * factor);
     return scaled >= 1 && scaled <= kLargestPictureSide ? static_cast<std::int32_t>(scaled) : 0;

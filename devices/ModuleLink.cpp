@@ -60,7 +60,7 @@ ModuleLink::Creation ModuleLink::createDevice() {
     faulted_ = faulted_ || ending != WatchedCalls::Ending::Returned;
     if (faulted_) return Creation::GivenUp;
     if (*created == nullptr) return Creation::NoDevice;
-    // The deleter holds the library, so that its code outlives the device.
+    // The deleter holds the library, so that the library's code outlives the device.
     device_.reset(*created, [library = library_](KXDevice* last) { library->destroy(last); });
     return Creation::Done;
 }
@@ -74,7 +74,8 @@ bool ModuleLink::make(std::function<bool()> call, std::chrono::milliseconds limi
     const auto outcome = std::make_shared<Outcome>();
     const auto watched = [device = device_, call = std::move(call), outcome] {
         outcome->succeeded = call();
-        // At once and on the same thread: the status is that of the last call, and may be the thread's own.
+        // The status is read immediately and on the same thread: it is that of the last call and may be specific to the
+        // thread.
         if (!outcome->succeeded) outcome->status = device->lastStatus();
     };
     switch (calls_.run(watched, limit, stop_)) {

@@ -15,20 +15,20 @@
 
 namespace fieldcal {
 
-/// What the user is told, in the language of the interface, about a failed call of the camera library.
+/// The message to the user, in the language of the interface, about a failed call of the camera library.
 struct StatusNotice {
-    bool missingDevice = false;  ///< the missing-camera notice; `text` is empty then
+    bool missingDevice = false;  ///< selects the missing-camera notice; `text` is then empty
     QString text;                ///< "library's text - message"
 };
 
-/// The link to the camera module: the library, its companion, the device, and every call that reaches it. The calls
-/// are watched, and the first one that fails is fatal: it is reported once, and from then on only quiet calls are made.
-/// One thread.
+/// The link to the camera module: the library, its companion, the device, and every call to it. Calls are monitored for
+/// timeouts. The first failed call is fatal: it is reported once, and from then on only quiet calls are made. One
+/// thread.
 class ModuleLink {
 public:
     struct Limits {
-        std::chrono::milliseconds call{10000};    ///< how long one call may take
-        std::chrono::milliseconds write{120000};  ///< the same for the calls that write the flash
+        std::chrono::milliseconds call{10000};    ///< time limit of one call
+        std::chrono::milliseconds write{120000};  ///< time limit of calls that write the flash
     };
 
     ModuleLink(Limits limits, std::function<void(const StatusNotice&)> report)
@@ -38,32 +38,32 @@ public:
     ModuleLink(const ModuleLink&) = delete;
     ModuleLink& operator=(const ModuleLink&) = delete;
 
-    /// Every call is given up soon after `*stop` becomes true, without a report. Null: nothing stops them. Gives the
-    /// flag that was there before.
+    /// Every call is abandoned soon after `*stop` becomes true, without a report. Null disables this. Returns the
+    /// previous flag.
     const std::atomic<bool>* setStopFlag(const std::atomic<bool>* stop) { return std::exchange(stop_, stop); }
     const std::atomic<bool>* stopFlag() const { return stop_; }
     bool stopRequested() const { return stop_ != nullptr && *stop_; }
 
     void use(std::shared_ptr<const KXLibrary> library, std::shared_ptr<const KXRotationUpdater> updater);
     enum class Creation { Done, NoDevice, GivenUp };
-    /// Has the library make its device. What was given up has been reported, a missing device has not.
+    /// Makes the library create its device. A call that was abandoned has been reported, a missing device has not.
     Creation createDevice();
     void close();
 
-    /// Makes one call of the library. `call` answers something that is true after a success: a bool, a pointer or an
-    /// optional. After a failure, which has been reported with the status that the module gave in that very call, the
-    /// answer is empty. A call that does not return is given up: so it captures values and shared records only, never
-    /// a reference (the device is kept for it).
+    /// Makes one call of the library. `call` returns something that converts to true after a success: a bool, a pointer
+    /// or an optional. After a failure the result is empty, and the failure has been reported with the status that the
+    /// module gave in that very call. A call that does not return is abandoned, so it must capture values and shared
+    /// records only, never a reference; the device is kept alive for it.
     template <typename Call>
     auto ask(Call call) {
         return answered(std::move(call), limits_.call, false);
     }
-    /// The same for calls that write the flash: those may take long.
+    /// The same for calls that write the flash, which may take long.
     template <typename Call>
     auto askPatiently(Call call) {
         return answered(std::move(call), limits_.write, false);
     }
-    /// The same without a report, also after a fault, unless an earlier call was given up.
+    /// The same without a report. It is made even after a fault, unless an earlier call was abandoned.
     template <typename Call>
     auto askQuietly(Call call) {
         return answered(std::move(call), limits_.call, true);
@@ -73,7 +73,7 @@ public:
         return answered(std::move(call), limits_.write, true);
     }
 
-    /// A query that fills a record.
+    /// Makes a query that fills a record.
     template <typename Object, typename Record>
     std::optional<Record> read(Object* object, bool (Object::*query)(Record*)) {
         return ask([object, query] { return filled(object, query); });
@@ -85,17 +85,17 @@ public:
         return record;
     }
 
-    /// Reports a fault that no status tells of: "what - An unknown error has occured."
-    /// `what`: English, marked for translation in the context "Interface".
+    /// Reports a fault without a library status: "what - An unknown error has occured." `what`: English, marked for
+    /// translation in the context "Interface".
     void reportFault(const char* what);
     /// Reports that the module has no valid calibration.
     void reportInvalidCalibration();
 
     bool faulted() const { return faulted_; }
-    /// What the fault was, one line; empty without one.
+    /// The fault in one line; empty without one.
     const QString& faultText() const { return faultText_; }
 
-    /// Null until it is created. Whoever holds the device keeps it alive.
+    /// Null until it is created. Every holder of the device keeps it alive.
     const std::shared_ptr<KXDevice>& device() const { return device_; }
     const std::shared_ptr<const KXLibrary>& library() const { return library_; }
     const std::shared_ptr<const KXRotationUpdater>& rotationUpdater() const { return updater_; }

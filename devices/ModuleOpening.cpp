@@ -68,7 +68,7 @@ bool configureHardware(ModuleLink& link, KXHardwareControl* hardware, const Sens
 bool startStreams(ModuleLink& link, const OpenedModule& module, KXHardwareControl* hardware, const SensorSettings& s,
                   const std::shared_ptr<FrameAcquisition>& frames) {
     KXDevice* device = link.device().get();
-    // A size that no camera has means that the library's answers cannot be trusted.
+    // An implausible size means that the library's results cannot be trusted.
     if (!link.ask([=, third = module.third] { return frames->sizeRecords(*device, *third); })) return false;
     if (!link.ask([=] { return device->startCapture(); })) return false;
     if (s.autoExposure) return true;

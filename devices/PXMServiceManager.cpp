@@ -68,12 +68,13 @@ bool PXMServiceManager::shutdownPXMService() {
     qInfo("PXMServiceManager::_previousServiceStatus = %i in shutdown", decimal(_previousServiceStatus));
     const bool noted = !serviceMissing && rememberStartType();
     if (!changeStartType(kDisabled)) {
-        // Nothing was disabled. A later run must not take the note for what somebody else disabled meanwhile.
+        // Nothing was disabled. The note is removed so that a later run does not undo what another program disabled
+        // meanwhile.
         if (noted) note_.drop();
         return false;
     }
     if (!driveTo(kStopped)) {
-        // Whoever leaves while we wait must not be left with a disabled service.
+        // The service must not stay disabled when the user quits during the wait.
         if (stopRequested()) restoreStartType();
         return false;
     }
@@ -141,7 +142,7 @@ PXMServiceManager::Opened PXMServiceManager::openService(OpenedService* opened, 
 
 std::uint32_t PXMServiceManager::readStartType() {
     OpenedService opened(control_);
-    // A service that cannot be opened here is reported under the manager's name.
+    // Failure to open the service here is reported under the manager's name.
     const Opened result = openService(&opened, kQueryAndChangeConfig, "OpenSCManager");
     if (result != Opened::Yes) return result == Opened::Missing ? 0 : kFailed;
 

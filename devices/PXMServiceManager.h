@@ -11,24 +11,25 @@
 
 namespace fieldcal {
 
-/// Stops and disables the vendor's service that holds the depth camera while it runs, and puts its start type back
-/// afterwards. Restoring does not start the service again: it comes back at the next boot or start request. What a run
-/// that died left disabled, the next one puts back at its end. One thread at a time.
+/// Stops and disables the vendor's service, which would hold the depth camera, and restores its start type afterwards.
+/// Restoring does not start the service again: it starts at the next boot or start request. If a run ended without
+/// restoring the start type, the next run restores it at its end. One thread at a time.
 class PXMServiceManager {
 public:
-    /// The process's own manager, over this system's service control; over an empty one, without a note, in a program
-    /// that uses the simulated libraries. For the composition root, once that is decided.
+    /// The instance of the process. It uses this system's service control; in a program with the simulated libraries it
+    /// uses an empty one without a note. For the composition root, after that choice has been made.
     static PXMServiceManager& instance();
 
-    /// `noteFile` keeps the start type while the service is disabled; without a name nothing is kept.
+    /// `noteFile` keeps the start type while the service is disabled; with an empty name nothing is kept.
     explicit PXMServiceManager(ServiceControl& control, QString noteFile = {})
         : control_(control), note_(std::move(noteFile)) {}
-    /// Restores the start type if nobody has.
+    /// Restores the start type unless that has been done.
     ~PXMServiceManager();
     PXMServiceManager(const PXMServiceManager&) = delete;
     PXMServiceManager& operator=(const PXMServiceManager&) = delete;
 
-    /// A service that is not installed counts as shut down. False: `lastError` says why, or the wait was stopped.
+    /// A service that is not installed counts as shut down. Returns false after a failure, described by `lastError`, or
+    /// when the wait was stopped.
     bool shutdownPXMService();
     bool restorePXMService();
 
@@ -38,7 +39,7 @@ public:
     /// "number: (call) ==> text" of the last failure; empty until something fails.
     QString lastError() const { return lastError_; }
 
-    /// The wait for the service also ends, with failure, once `*stop` is true. Null: nothing stops it.
+    /// The wait for the service also ends, as a failure, once `*stop` is true. Null disables this.
     void setStopFlag(const std::atomic<bool>* stop) { stop_ = stop; }
 
 private:
@@ -47,7 +48,7 @@ private:
 
     Opened openService(OpenedService* opened, std::uint32_t access, const char* nameInError);
     std::uint32_t readStartType();
-    /// Whether the note is this call's own.
+    /// Returns whether this call wrote the note.
     bool rememberStartType();
     bool restoreStartType();
     std::uint32_t readState();

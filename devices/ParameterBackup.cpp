@@ -20,7 +20,7 @@ constexpr int kHeaderBytes = 32;
 constexpr int kBlockBytes = static_cast<int>(sizeof(KXCalibRectParameters));
 constexpr int kHashBytes = 32;
 constexpr int kFileBytes = kHeaderBytes + kBlockBytes + kHashBytes;
-constexpr double kRotationTolerance = 1e-3;              // a factory may store fewer digits than we would
+constexpr double kRotationTolerance = 1e-3;              // a factory may store fewer digits than this program
 constexpr qint64 kLatestMilliseconds = 253402300799999;  // end of the year 9999
 
 QByteArray hashOf(const QByteArray& bytes) {
@@ -45,7 +45,7 @@ QByteArray encoded(const ParameterBackup& backup) {
     return bytes + hashOf(bytes);
 }
 
-/// Null when the bytes are a backup; else what is wrong.
+/// Returns null when the bytes are a backup, otherwise the fault.
 QString decode(const QByteArray& bytes, ParameterBackup* out) {
     const auto number = [&](int at) { return qFromLittleEndian<quint32>(bytes.constData() + at); };
     if (!bytes.startsWith(kMagic)) return "it is no backup of a parameter block";
@@ -109,7 +109,7 @@ bool readBackup(const QString& file, ParameterBackup* out, QString* why) {
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly)) return refuse(file, source.errorString(), why);
     ParameterBackup backup;
-    // One byte more, so that a longer file is noticed and a huge one is not read.
+    // One extra byte detects a longer file without reading a huge one.
     const QString reason = decode(source.read(kFileBytes + 1), &backup);
     if (!reason.isEmpty()) return refuse(file, reason, why);
     *out = backup;

@@ -7,15 +7,15 @@
 
 namespace fieldcal {
 
-/// Size of the rear camera's pictures and of its rectification.
+/// The size of the rear camera's images and of their rectification.
 inline constexpr std::int32_t kPlatformPictureWidth = 1280;
 inline constexpr std::int32_t kPlatformPictureHeight = 720;
 
-/// What the rear camera's rectification needs, as read from the module.
+/// The rear camera's calibration as read from the module, needed to rectify its images.
 struct PlatformCalibration {
     KXCalibIntrinsicsNonRectified kPlatformNonRectIntr{};
     KXCalibIntrinsicsRectified kPlatformRectIntr{};
-    std::vector<std::uint32_t> rectificationTable;  ///< one entry a pixel of the rectified picture; empty until read
+    std::vector<std::uint32_t> rectificationTable;  ///< one entry per pixel of the rectified image; empty until read
 };
 
 }  // namespace fieldcal

@@ -7,8 +7,8 @@
 
 namespace fieldcal {
 
-/// The operating system's side of the tablet's rear camera. `CPlatformCameraControl` calls the operations in the
-/// order in which they stand here. Every one returns false on any failure of the system.
+/// The operating system's interface to the tablet's rear camera. `CPlatformCameraControl` calls the operations in the
+/// order of their declaration. Each returns false on any failure of the system.
 class PlatformCameraBackend {
 public:
     enum class Stream : std::int32_t { Preview = 0, Record = 1, Photo = 2 };
@@ -23,11 +23,12 @@ public:
     /// `framesPerSecond` is 0 for the photo stream. `subtype` is the pixel format's name, "NV12".
     virtual bool setupStream(Stream stream, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond,
                              const std::string& subtype) = 0;
-    /// The record stream's pictures go to `sink`, on a thread of the backend's choice, until the next call; null
-    /// stops them, and when the call returns the old sink is not in use.
+    /// Sends the record stream's images to `sink`, on a thread chosen by the backend, until the next call. Null stops
+    /// them. When the call returns, the previous sink is no longer in use.
     virtual void setSink(RearCameraSink* sink) = 0;
 
-    /// How long the first picture may take after the streams are set up. 0: it arrives while the module grabs.
+    /// Longest time from setting up the streams to the first image. 0 when images arrive during the grabs of the
+    /// module.
     virtual std::int32_t firstPictureMs() const = 0;
 };
 

@@ -10,18 +10,18 @@
 
 namespace fieldcal {
 
-/// The tablet's own rear colour camera. Created empty, then: device selected, opened, streams set up; from the record
-/// stream on, its pictures arrive on the backend's thread and wait in a queue. Everything else on one thread.
-/// Every operation returns false on any failure, and before the step that it needs.
+/// The tablet's own rear colour camera. The sequence is: select the device, open it, set up the streams. From the
+/// record stream on, images arrive on the backend's thread and wait in a queue; all other calls belong to one thread.
+/// Every operation returns false on a failure, or when the preceding step of the sequence is missing.
 class CPlatformCameraControl final : private RearCameraSink {
 public:
     explicit CPlatformCameraControl(std::unique_ptr<PlatformCameraBackend> backend);
-    /// Stops the capture first.
+    /// Stops the capture.
     ~CPlatformCameraControl();
     CPlatformCameraControl(const CPlatformCameraControl&) = delete;
     CPlatformCameraControl& operator=(const CPlatformCameraControl&) = delete;
 
-    /// The first 260 characters of `name` count; an empty name fails.
+    /// Only the first 260 characters of `name` are compared; an empty name fails.
     bool findDevice(const std::string& name);
     bool openCamera();
     bool setAutoFocus(bool on);
@@ -32,15 +32,16 @@ public:
                            const std::string& subtype);
     bool setupPhotoStream(std::int32_t width, std::int32_t height, const std::string& subtype);
 
-    /// The newest NV12 picture of the record stream, valid until the next call; false when there is nothing newer
-    /// than the last one. Waits at most `waitMilliseconds`, and only as long as no picture was ever handed out:
-    /// afterwards the caller has one to keep, and the depth stream must not wait for the rear camera's pace.
+    /// Returns the newest NV12 image of the record stream, valid until the next call; false when there is none newer
+    /// than the last one. Waits at most `waitMilliseconds`, and only until the first image was returned: after that the
+    /// caller has an image to keep, and the depth stream must not be slowed down to the rate of the rear camera.
     bool latestFrame(QueuedPicture* out, std::int32_t waitMilliseconds);
 
-    /// Set once the first picture has arrived.
+    /// Set once the first image has arrived.
     bool frameReady() const { return frameReady_; }
 
-    /// Gives the camera the time it may take to start. False: still no picture, or `*stop` became true (may be null).
+    /// Waits for the time that the camera may take to start. Returns false when there is still no image, or when
+    /// `*stop` (may be null) became true.
     bool awaitFirstFrame(const std::atomic<bool>* stop) const;
 
 private:
@@ -52,7 +53,7 @@ private:
     FrameQueue queue_;
     State state_ = State::Empty;
     bool handedOut_ = false;
-    std::uint32_t frameCounter_ = 0;  ///< the backend's thread only
+    std::uint32_t frameCounter_ = 0;  ///< used on the backend's thread only
     std::atomic<bool> frameReady_{false};
 };
 

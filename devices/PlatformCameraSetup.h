@@ -10,7 +10,7 @@ inline constexpr const char* kPlatformCameraName = "HP Truevision 8MP Rear";
 enum class PlatformSetup {
     Ready,
     Missing,  ///< not found, or not opened
-    Issue     ///< focus or stream set-up failed
+    Issue     ///< setting up the focus or a stream failed
 };
 
 /// Finds, opens and configures the tablet's rear camera. Failures are logged.

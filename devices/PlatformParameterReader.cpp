@@ -94,7 +94,7 @@ bool readPlatformParameters(KXPlatformCamera& camera, const KXLibrary& library, 
                             PlatformParameters* out) {
     qInfo("Reading platform camera calibration from KXAPI...");
     if (!readRectification(camera, library, &out->calibration)) return false;
-    // Both are read, so that the log tells everything that is wrong.
+    // Both are read in any case, so that the log shows all faults.
     const bool hasModel = readModel(camera, &out->model);
     const bool hasPose = readExtrinsics(camera, &out->extrinsics);
     return hasModel && hasPose && scaleModel(infrared, out);

@@ -6,7 +6,7 @@
 
 namespace fieldcal {
 
-/// The rear camera's part of the read-out.
+/// The rear camera's part of the module's calibration.
 struct PlatformParameters {
     PlatformCalibration calibration;
     CameraModel model;  ///< in the infrared geometry
@@ -14,7 +14,7 @@ struct PlatformParameters {
     ColourScaling scaling;
 };
 
-/// False: something could not be read or is not usable; it has been logged.
+/// Returns false when something could not be read or is not usable, which has been logged.
 bool readPlatformParameters(KXPlatformCamera& camera, const KXLibrary& library, const CameraModel& infrared,
                             PlatformParameters* out);
 

@@ -10,7 +10,8 @@ namespace {
 constexpr std::int32_t kLatestFrameWaitMs = 10;
 constexpr std::chrono::milliseconds kLongestSilence{1000};
 constexpr std::chrono::milliseconds kSilenceOfTheDead{3000};
-// Between two grabs the caller may have been busy for seconds; a camera that delivers while we grab was not silent.
+// Largest gap counted between two grabs. The caller may have been busy for seconds, and a camera that delivers during
+// grabs must not count as silent.
 constexpr std::chrono::milliseconds kLongestGap{100};
 
 }  // namespace
@@ -45,7 +46,7 @@ bool PlatformPicture::take(CPlatformCameraControl& camera) {
     nv12_ = newest.pixels;
     const std::uint8_t* end =
         nv12_ + static_cast<std::ptrdiff_t>(kPlatformPictureWidth) * kPlatformPictureHeight * 3 / 2;
-    // A camera without time stamps says 0.
+    // A camera without time stamps reports 0.
     const bool sameTime = newest.timeSeconds != 0 && newest.timeSeconds == lastTimeSeconds_;
     changed_ = !sameTime && !std::equal(nv12_, end, lastNv12_.begin(), lastNv12_.end());
     if (changed_) lastNv12_.assign(nv12_, end);

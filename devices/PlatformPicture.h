@@ -14,30 +14,31 @@
 
 namespace fieldcal {
 
-/// The rear camera's way from its newest NV12 picture into the colour record: conversion, rectification, scaling.
-/// Each picture goes that way once; without a new one the record stays as it is. It turns black when there never was
-/// a picture, or none came during a second of grabbing.
+/// Converts the rear camera's newest NV12 image into the colour record: colour conversion, rectification, scaling. Each
+/// image is converted once; without a new image the record keeps its content. It turns black when there never was an
+/// image, or when none arrived during a second of grabbing.
 class PlatformPicture {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// Takes the newest picture, if any, and rectifies it. `now` never goes back.
+    /// Takes the newest image, if any, and rectifies it. `now` must not decrease.
     void fetch(CPlatformCameraControl& camera, const PlatformCalibration& calibration,
                KXRectifyBGRA8ToBGRA8Function rectify, Clock::time_point now);
 
-    /// The picture that the last `fetch` took, as the camera delivered it; null when it took none. The bytes belong to
-    /// the camera and stay until the next `fetch`.
+    /// The image taken by the last `fetch`, as the camera delivered it; null when it took none. The bytes belong to the
+    /// camera and stay valid until the next `fetch`.
     const std::uint8_t* nv12() const { return nv12_; }
 
-    /// Whether the last `fetch` brought another picture than the one before: with another time stamp and other bytes.
+    /// Returns whether the last `fetch` delivered a different image than the one before, with another time stamp and
+    /// other bytes.
     bool changed() const { return changed_; }
-    /// When the newest picture reached this program.
+    /// The time at which the newest image reached this program.
     Clock::time_point arrived() const { return arrived_; }
 
-    /// The camera delivered once, and then nothing during some seconds of grabbing.
+    /// Returns whether the camera has delivered images, and then none during some seconds of grabbing.
     bool hasDied() const;
 
-    /// Scales what `fetch` left, when that is new, into the record. Nothing happens for an implausible size.
+    /// Scales the image of the last `fetch` into the record if it is new. Has no effect for an implausible size.
     void deliver(std::int32_t width, std::int32_t height, ImageFrame32* record);
 
 private:
@@ -53,7 +54,7 @@ private:
     cv::Mat raw_;
     cv::Mat working_;
     cv::Mat scaled_;
-    bool isNew_ = false;  ///< `working_` holds what the record does not hold yet
+    bool isNew_ = false;  ///< `working_` holds an image that has not been delivered to the record
     bool black_ = false;
     bool everTaken_ = false;
     std::optional<Clock::time_point> lastFetch_;

@@ -7,11 +7,12 @@
 
 namespace fieldcal {
 
-/// The rear camera that a simulated module brings along (see `RearCameraSeam.h`). A library without one behaves like
-/// a tablet without a rear camera: no device is found.
+/// The rear camera provided by a simulated module (see `RearCameraSeam.h`). A library without one behaves like a tablet
+/// without a rear camera: no device is found.
 class RearCameraBackend : public PlatformCameraBackend {
 public:
-    /// Whether the library has a say in the matter: a simulated one has, also for a tablet without a rear camera.
+    /// Returns whether the library decides about the rear camera. A simulated library does, also for a tablet without
+    /// one.
     static bool isIn(const KXLibrary& library);
 
     explicit RearCameraBackend(std::shared_ptr<const KXLibrary> library);
@@ -26,8 +27,8 @@ public:
     std::int32_t firstPictureMs() const override { return 0; }
 
 private:
-    std::shared_ptr<const KXLibrary> library_;  ///< keeps the source's code loaded
-    RearCameraSource* source_ = nullptr;        ///< set once selected
+    std::shared_ptr<const KXLibrary> library_;  ///< keeps the code of the source loaded
+    RearCameraSource* source_ = nullptr;        ///< set once the device is selected
 };
 
 }  // namespace fieldcal

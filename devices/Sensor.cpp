@@ -18,7 +18,7 @@ struct RearCamera {
     PlatformSetup setup = PlatformSetup::Issue;
 };
 
-/// Of the rotation of a camera that stays as it is, whatever it is.
+/// Logs a matrix that is not a rotation. It belongs to a camera that is not written, so it is not an error.
 void logUnlessRotation(const char* which, const Rotation& rotation) {
     if (isRotation(widened(rotation.data()), kRotationTolerance)) return;
     qWarning("The %s rotation in the camera is no rotation within %g; it stays as it is.", which, kRotationTolerance);
@@ -37,7 +37,7 @@ Sensor::Sensor(SensorEnvironment environment)
           }
       }) {}
 
-/// A camera that does not let go must not keep the service from being restored.
+/// The vendor's service must be restored even if the camera does not respond to closing.
 Sensor::~Sensor() {
     closePlatformCamera();
     link_.close();
@@ -97,7 +97,7 @@ bool Sensor::openPlatformCamera() {
         return false;
     }
     platformCamera_ = std::move(rear->camera);
-    // Bounded. Silence is told later, once pictures are missed.
+    // The wait is bounded. A silent camera is reported later, when images are missed.
     platformCamera_->awaitFirstFrame(link_.stopFlag());
     return !link_.stopRequested();
 }
@@ -146,7 +146,7 @@ bool Sensor::fetchPlatformPicture() {
 void Sensor::followPairs() {
     const auto now = environment_.now();
     if (frames_->depthNews.delivered) depthAt_ = now;
-    // Whoever takes the depth with a pair must not take that of another moment.
+    // Depth from another time must not be combined with the pair.
     if (settings_.depthEnabled && now - depthAt_ > kOldest) frames_->records.depth.resize(0, 0);
     pairs_[ColourCamera::Third].follow(frames_->leftNews, frames_->thirdNews, now, now);
     const StreamNews platform{platformNv12_ != nullptr, platformNv12_ != nullptr && platformPicture_.changed()};
@@ -211,7 +211,7 @@ bool Sensor::restoreParameters(const KXCalibRectParameters& block) {
         return refuseToWrite(QString("The given parameter block cannot be used: its %1 is no rotation").arg(wrong));
     }
     const bool restored = write([&](CalibrationWriter& writer) { return writer.restore(block); });
-    // What the module reports from now on has to be read anew before a rotation can be written.
+    // The module's rotations must be read again before another one can be written.
     if (writeBack_.flash != WriteBackReport::Flash::Untouched) rotationsInFlash_.reset();
     return restored;
 }
@@ -228,7 +228,7 @@ bool Sensor::refuseToWrite(const QString& reason) {
     return false;
 }
 
-/// Saving comes after the stop, which must not end it.
+/// Saving takes place after the stop request, which must not end it.
 bool Sensor::write(const std::function<bool(CalibrationWriter&)>& how) {
     const std::atomic<bool>* stop = link_.setStopFlag(nullptr);
     CalibrationWriter writer(link_, module_.third, module_.serial, environment_.dataFolder + "/backups");

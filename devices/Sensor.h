@@ -23,89 +23,90 @@ namespace fieldcal {
 
 struct ModuleCalibration;
 
-/// The one connection to the depth camera module and the tablet's rear camera.
+/// The program's connection to the depth camera module and the tablet's rear camera.
 ///
-/// Built without a device; `open` either completes, or reports what is wrong by one signal and returns false. There is
-/// no second `open`. The first failed call of the camera library is fatal: it is reported once, and from then on the
-/// sensor does nothing more (`faulted`). Created, used and destroyed on one thread; signals are emitted on it. The
-/// thread may hand the sensor over to another one, for good.
+/// It is constructed without a device. `open` either completes, or reports the problem by one signal and returns false;
+/// it cannot be called again. The first failed call of the camera library is fatal: it is reported once, and from then
+/// on the sensor does nothing more (`faulted`). The sensor is created, used and destroyed on one thread, which emits
+/// its signals. The thread may move the sensor to another one permanently.
 class Sensor : public QObject {
     Q_OBJECT
 
 public:
     Sensor();
     explicit Sensor(SensorEnvironment environment);
-    /// Closes the cameras, then restores the vendor's service; a failure of that is reported.
+    /// Closes the cameras, then restores the vendor's service; a failure to restore it is reported.
     ~Sensor() override;
 
-    /// Every wait of the sensor also ends, with failure and without a report, once `*stop` is true. Null: nothing
-    /// stops it. `stop` outlives the sensor.
+    /// Every wait of the sensor also ends, as a failure without a report, once `*stop` is true. Null disables this.
+    /// `stop` must outlive the sensor.
     void setStopFlag(const std::atomic<bool>* stop);
 
     bool open(SensorSettings settings);
     bool opened() const { return opened_; }
     bool faulted() const { return link_.faulted(); }
-    /// What the fault was, one line; empty without one.
+    /// The fault in one line; empty without one.
     QString faultText() const { return link_.faultText(); }
-    /// 0 until `open` has asked for it.
+    /// 0 until `open` has read it.
     std::uint32_t serialNumber() const { return module_.serial; }
 
-    /// One acquisition pass; with `wait` set it waits for the module's next frame set. True: the records were
-    /// refreshed. False: they are as they were, and the fault has been reported, now or before.
-    /// A rear camera that has not delivered a picture yet, or none for three seconds, is reported by
-    /// `signal_reportPlatformCameraIssue` in every pass, and the other records are refreshed all the same. Natively its
-    /// pictures arrive within the pass.
+    /// Makes one acquisition pass; with `wait`, it waits for the module's next frame set. Returns true when the records
+    /// were refreshed. Returns false when they are unchanged; the fault has then been reported, now or earlier. A rear
+    /// camera that has not delivered an image yet, or none for three seconds, is reported by
+    /// `signal_reportPlatformCameraIssue` in every pass; the other records are refreshed nevertheless. The rear camera
+    /// of a simulated module delivers its images within the pass.
     bool grab(bool wait);
 
     const FrameRecords& frames() const { return frames_->records; }
-    /// Whether the infrared picture and that of a colour camera, as they stand in the records, may be matched: they
-    /// were delivered together, and neither is older than a tenth of a second.
+    /// Returns whether the infrared image and that of a colour camera in the records may be matched: they were
+    /// delivered together, and neither is older than a tenth of a second.
     bool isFreshPair(ColourCamera camera) const;
     const SensorSettings& settings() const { return settings_; }
 
-    /// The rear camera's picture that the last `grab` brought, as the camera delivered it (NV12, 1280 x 720); null when
-    /// it brought no new one. Valid until the next `grab`.
+    /// The rear camera's image from the last `grab`, as the camera delivered it (NV12, 1280 x 720); null when there was
+    /// no new one. Valid until the next `grab`.
     const std::uint8_t* platformNv12() const { return platformNv12_; }
 
-    /// Whether `grab` brings the rear camera's pictures into their record; it does unless told otherwise. It costs
-    /// more than the rest of the pass, and nobody looks at them while the in-module camera is worked on. Unwanted, the
-    /// record stays as it is; wanted again, the next pass takes the newest picture.
+    /// Sets whether `grab` updates the record of the rear camera, which is the default. The update costs more than the
+    /// rest of the pass and is not needed while the in-module camera is calibrated. While it is off, the record keeps
+    /// its content; after it is switched on, the next pass takes the newest image.
     void setPlatformPictureWanted(bool wanted) { platformPictureWanted_ = wanted; }
 
-    /// Switches the infrared emitter. False, silently, when it is to be on and the device has none.
+    /// Switches the infrared emitter. Returns false, without a report, when it is to be switched on and the device has
+    /// none.
     bool setEmitter(bool on);
 
-    /// Writes the depth-to-colour rotations into the module's flash. The block that is there is kept in a file before,
-    /// and the flash is read again after; `writeBack` then says what it holds. True: every call succeeded, and the
-    /// module holds and tells the rotations. Refused, without a call, unless the sensor is open, the calibration has
-    /// been read and every rotation that differs from the module's is one within 1e-4. `platform` counts only when the
-    /// platform camera's calibration has been read.
+    /// Writes the depth-to-colour rotations into the module's flash. The present block is saved to a file first, and
+    /// the flash is read back afterwards; `writeBack` then describes its content. Returns true when every call
+    /// succeeded and the module holds and reports the rotations. Refused, without a call, unless the sensor is open,
+    /// the calibration has been read, and every matrix that differs from the module's is a rotation within 1e-4.
+    /// `platform` is used only when the platform camera's calibration has been read.
     bool updateRotation(const Rotation& third, const Rotation& platform);
 
-    /// Writes a whole block, as `ParameterBackup` keeps it, in the same manner. The calibration need not have been
-    /// read.
+    /// Writes a whole block, as kept by `ParameterBackup`, in the same way. The calibration need not have been read.
     bool restoreParameters(const KXCalibRectParameters& block);
 
-    /// About the last `updateRotation` or `restoreParameters`.
+    /// The result of the last `updateRotation` or `restoreParameters`.
     const WriteBackReport& writeBack() const { return writeBack_; }
 
-    /// The module itself, for whoever asks it more than this class does. A call is as described at `ModuleLink::ask`.
+    /// The link to the module, for callers that need more than this class offers. `ask` is described at
+    /// `ModuleLink::ask`.
     ModuleLink& link() { return link_; }
     bool ask(std::function<bool()> call) { return link_.ask(std::move(call)); }
-    /// A query that fills a record; `out` is untouched after a failure.
+    /// Makes a query that fills a record; `out` is unchanged after a failure.
     template <typename Object, typename Record>
     bool read(Object* object, bool (Object::*query)(Record*), Record* out) {
         const auto record = link_.read(object, query);
         if (record) *out = *record;
         return record.has_value();
     }
-    /// Null until `open` has created it. Whoever holds the device keeps it alive.
+    /// Null until `open` has created it. Every holder of the device keeps it alive.
     std::shared_ptr<KXDevice> device() const { return link_.device(); }
-    /// Null until the device is open; valid as long as it.
+    /// Null until the device is open; valid as long as the device.
     KXThirdCamera* thirdCamera() const { return module_.third; }
 
-    /// From now on grabs fill the colour records, in the sizes of this calibration. Without a rear camera in it, the
-    /// sensor goes on without one.
+    /// Makes all further grabs fill the colour records in the sizes of this calibration. If it has no rear camera, the
+    /// sensor continues without one.
     void use(ModuleCalibration calibration);
     const PlatformCalibration& platformCalibration() const { return platformCalibration_; }
 

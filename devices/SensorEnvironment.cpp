@@ -11,7 +11,7 @@ namespace fieldcal {
 
 namespace {
 
-/// A simulated module brings its own rear camera; beside a real one it is the tablet's.
+/// A simulated module provides its own rear camera; with a real module the tablet's is used.
 std::unique_ptr<PlatformCameraBackend> rearCameraBeside(std::shared_ptr<const KXLibrary> library) {
     auto system = RearCameraBackend::isIn(*library) ? nullptr : systemRearCamera();
     if (system != nullptr) return system;

@@ -15,24 +15,24 @@
 
 namespace fieldcal {
 
-/// What a `Sensor` finds outside itself. Every member is set.
+/// The environment of a `Sensor`. Every member must be set.
 struct SensorEnvironment {
-    /// Null, and the reason in `why`, when there is no camera library.
+    /// Return null, with the reason in `why`, when there is no such library.
     std::function<std::shared_ptr<const KXLibrary>(std::string* why)> loadLibrary;
     std::function<std::shared_ptr<const KXRotationUpdater>(std::string* why)> loadRotationUpdater;
-    /// Outlives the sensor.
+    /// Must outlive the sensor.
     PXMServiceManager* services = nullptr;
     std::function<std::unique_ptr<CPlatformCameraControl>(std::shared_ptr<const KXLibrary>)> createPlatformCamera;
     std::function<std::chrono::steady_clock::time_point()> now;
-    /// Where this program keeps what it writes for this user.
+    /// The folder for this user's data of the program.
     QString dataFolder;
     ModuleLink::Limits limits;
 };
 
-/// This user's folder for the program's data; it may not exist yet.
+/// Returns this user's folder for the program's data, which need not exist.
 QString userDataFolder();
 
-/// The real loaders, the process's service manager, this system's rear camera and the user's data folder.
+/// Returns the real loaders, the process's service manager, this system's rear camera and the user's data folder.
 SensorEnvironment systemEnvironment();
 
 }  // namespace fieldcal

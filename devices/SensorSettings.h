@@ -4,7 +4,7 @@
 
 namespace fieldcal {
 
-/// How the cameras are opened and run. A plain value; `Sensor::open` copies it. Sizes in pixels.
+/// Settings with which the cameras are opened and run, copied by `Sensor::open`. Sizes are in pixels.
 struct SensorSettings {
     float exposure = 16.3F;  ///< milliseconds; used only without automatic exposure, as is `gain`
     float exposureMin = 0.1F;
@@ -34,7 +34,8 @@ struct SensorSettings {
     std::int32_t thirdScaledHeight = 0;
     std::int32_t platformScaledWidth = 0;
     std::int32_t platformScaledHeight = 0;
-    std::int32_t attemptLimit = 0;  ///< most photo pairs in one calibration attempt; the sensor does not read it
+    std::int32_t attemptLimit =
+        0;  ///< largest number of photo pairs in one calibration attempt; not used by the sensor
 };
 
 /// The settings with which the application opens the cameras.

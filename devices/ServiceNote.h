@@ -7,15 +7,15 @@
 
 namespace fieldcal {
 
-/// The start type that a service had before this program disabled it, kept in a file until it is put back, so that a
-/// run after one that died can do it. Failures are logged: a note that cannot be kept is no reason not to go on.
+/// Keeps the start type of a service in a file from before this program disables the service until it is restored, so
+/// that the next run can restore it after a crash. Failures are logged, and the program continues without a note.
 class ServiceNote {
 public:
-    /// An empty name keeps nothing.
+    /// With an empty name nothing is kept.
     explicit ServiceNote(QString file) : file_(std::move(file)) {}
 
     void keep(std::uint32_t startType) const;
-    /// None: there is no note, or not one of a start type with which a service can run.
+    /// Returns none when there is no note, or when it does not hold a start type with which a service can run.
     std::optional<std::uint32_t> kept() const;
     void drop() const;
 

@@ -6,7 +6,7 @@
 
 namespace fieldcal {
 
-/// This system's own rear camera; null where this program drives none.
+/// Returns this system's own rear camera; null where the program supports none.
 std::unique_ptr<PlatformCameraBackend> systemRearCamera();
 
 }  // namespace fieldcal

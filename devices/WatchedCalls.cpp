@@ -13,9 +13,9 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kStopCheck{20};
 constexpr std::chrono::milliseconds kGraceAfterStop{333};
-/// While somebody waits for the program to end.
+/// Time limit for releasing an object while the program is about to end.
 constexpr std::chrono::milliseconds kHastyRelease{600};
-/// What one check may count at most: a tablet that slept in between has not waited.
+/// Largest time counted per check, so that the tablet's sleep does not count as waiting.
 constexpr std::chrono::milliseconds kLongestCheck{500};
 
 }  // namespace

@@ -7,16 +7,16 @@
 
 namespace fieldcal {
 
-/// Makes calls that may never return. They run one after the other on a thread of this object's own; the caller waits,
-/// but not for ever. A call that is given up keeps its thread and whatever it captured until it returns, if it ever
-/// does; so a call captures shared or copied values only, and after it every further call is refused. One caller's
-/// thread.
+/// Makes calls that may never return. Calls run one after the other on a thread of this object, and the caller waits
+/// for a limited time. An abandoned call keeps its thread and everything it captured until it returns, if ever; it must
+/// therefore capture shared or copied values only. After an abandoned call, every further call is refused. To be used
+/// from one thread.
 class WatchedCalls {
 public:
     enum class Ending {
         Returned,
-        Stopped,  ///< given up because `*stop` became true
-        Overdue   ///< given up after `limit`, or refused because an earlier one was given up
+        Stopped,  ///< abandoned because `*stop` became true
+        Overdue   ///< abandoned after `limit`, or refused because an earlier call was abandoned
     };
 
     WatchedCalls();
@@ -24,18 +24,18 @@ public:
     WatchedCalls(const WatchedCalls&) = delete;
     WatchedCalls& operator=(const WatchedCalls&) = delete;
 
-    /// `stop` may be null. A call gets a third of a second to return after the stop.
+    /// `stop` may be null. After a stop, a call has a third of a second to return.
     Ending run(std::function<void()> call, std::chrono::milliseconds limit, const std::atomic<bool>* stop);
 
 private:
     struct Worker;
 
-    std::shared_ptr<Worker> worker_;  ///< null before the first call, and after one was given up
+    std::shared_ptr<Worker> worker_;  ///< null before the first call, and after one was abandoned
     bool givenUp_ = false;
 };
 
-/// Lets go of something whose end may take for ever, on a thread of its own: after `limit`, or much earlier when
-/// somebody waits (`inHaste`), it is left to that thread.
+/// Releases an object whose destruction may never end, on a separate thread. After `limit`, or much earlier when the
+/// program is about to end (`inHaste`), the function returns and leaves the object to that thread.
 void letGo(std::shared_ptr<void> last, std::chrono::milliseconds limit, bool inHaste);
 
 }  // namespace fieldcal

@@ -7,25 +7,24 @@
 
 namespace fieldcal {
 
-/// What a calibration attempt tells the user and its driver. Called on the thread that drives the attempt; an
-/// implementation overrides what it shows.
+/// Receives the progress of a calibration attempt, for the user and for the code that drives the attempt. Called on the
+/// thread that drives the attempt. An implementation overrides the calls that it shows.
 class AttemptListener {
 public:
     virtual ~AttemptListener() = default;
 
-    /// The instruction of the moment; an empty text hides the line.
-    /// The instruction of the moment, and whether it is to hold still.
+    /// The current instruction, and whether it asks the user to hold still; an empty text hides the line.
     virtual void movementText(const std::string&, bool /*holdStill*/) {}
-    /// Shown where an attempt is started: why the last one failed.
+    /// The text of the page on which an attempt is started: the reason why the last attempt failed.
     virtual void startText(const std::string&) {}
     /// 0..1.
     virtual void calibrationProgress(double) {}
     virtual void returnToWellLitArea(bool /*needed*/) {}
-    /// A pair is being taken.
+    /// A pair has been selected and is about to be processed.
     virtual void pairCaptured() {}
-    /// What is seen at that moment, told after `pairCaptured`. Valid during the call.
+    /// The two images of the pair, sent after `pairCaptured`. Valid during the call only.
     virtual void pairPictures(const ImageFrame16& /*infrared*/, const ImageFrame32& /*colour*/) {}
-    /// A pair has been matched, and a calibration tried with it.
+    /// A pair has been matched, and a calibration has been tried with it.
     virtual void pairProcessed(const vq::CalibratorResult&) {}
     virtual void offerHowToMove() {}
 };

@@ -11,7 +11,8 @@ namespace fieldcal {
 namespace {
 
 constexpr qint64 kLargestFile = 65536;
-constexpr std::size_t kMostModules = 1000;  ///< far fewer than fill the largest file; the oldest ones go first
+constexpr std::size_t kMostModules = 1000;  ///< far fewer than fit into the largest accepted file; the oldest ones are
+                                            ///< dropped
 constexpr double kSmallestMm = 15.0, kLargestMm = 200.0;
 constexpr char kHeading[] = "# Module serial numbers, and the stereo baselines (mm) that calibrations found for them\n";
 
@@ -22,8 +23,8 @@ struct Line {
     bool isPlausible() const { return serial != 0 && baselineMm >= kSmallestMm && baselineMm <= kLargestMm; }
 };
 
-/// The line of a module. One whose baseline cannot be read is kept as implausible: it is about that module all the
-/// same.
+/// Parses the line of a module. A line with an unreadable baseline is kept as implausible, because it still concerns
+/// that module.
 std::optional<Line> parse(const QByteArray& text) {
     const QList<QByteArray> fields = text.simplified().split(' ');
     Line line;
@@ -36,7 +37,7 @@ std::optional<Line> parse(const QByteArray& text) {
 
 std::vector<Line> readLines(const QString& path) {
     QFile file(path);
-    // Opening a pipe would wait for whoever writes into it.
+    // Opening a pipe would block until another process writes to it.
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return {};
     const QByteArray bytes = file.read(kLargestFile + 1);
     if (bytes.size() > kLargestFile) return {};
@@ -80,7 +81,7 @@ void BaselineMemory::remember(std::uint32_t serial, double metres) const {
 
     const QByteArray text = textOf(lines);
     QSaveFile file(path_);
-    // Flushed before it is committed, which by itself would not notice a disk that is full.
+    // The explicit flush detects a full disk, which `commit` alone does not report.
     const bool written = QDir().mkpath(folder_) && file.open(QIODevice::WriteOnly) && file.write(text) == text.size() &&
                          file.flush() && file.size() == text.size() && file.commit();
     if (!written) {

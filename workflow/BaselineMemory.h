@@ -7,18 +7,18 @@
 
 namespace fieldcal {
 
-/// The stereo baselines that earlier calibrations found, by the module's serial number. They stand in a text file of
-/// the program's data folder, which is only a help: whatever cannot be read of it is not known, and a file that cannot
-/// be written costs one log line.
+/// Stores the stereo baselines found by earlier calibrations, by the module's serial number, in a text file in the
+/// program's data folder. The file is optional: unreadable entries count as unknown, and a failure to write is logged
+/// in one line.
 class BaselineMemory {
 public:
-    /// Takes the program's data folder, which need not be there.
+    /// `folder`: the program's data folder, which need not exist.
     explicit BaselineMemory(const QString& folder);
 
-    /// Metres. None unless the file has exactly one line of the module, with a baseline that an infrared stereo module
-    /// can have. A module without a serial number (0) is not known.
+    /// Returns the baseline in metres. None unless the file has exactly one line for the module with a baseline that is
+    /// plausible for an infrared stereo module. A module without a serial number (0) is never known.
     std::optional<double> find(std::uint32_t serial) const;
-    /// Replaces what is known about the module. A baseline that `find` would not give changes nothing.
+    /// Replaces the baseline of the module. An implausible baseline is ignored.
     void remember(std::uint32_t serial, double metres) const;
 
 private:

@@ -85,7 +85,8 @@ CalibrationAttempt::Outcome CalibrationAttempt::finish() {
     return Outcome::Solved;
 }
 
-/// A solution counts even when the last permitted pair brought it, or when no more pairs are permitted to improve it.
+/// A solution is accepted even when it comes with the last permitted pair, or when no more pairs are permitted to
+/// improve it.
 CalibrationAttempt::Outcome CalibrationAttempt::judge(const vq::CalibratorResult& result) const {
     if (result.code == vq::GoodSolution) {
         qInfo("Found a good solution!");
@@ -98,7 +99,7 @@ CalibrationAttempt::Outcome CalibrationAttempt::judge(const vq::CalibratorResult
     return failed ? Outcome::Failed : Outcome::Continues;
 }
 
-/// Unless it came from memory, which then knows it already.
+/// Stores the measured baseline, unless it came from the stored baselines itself.
 void CalibrationAttempt::rememberBaseline() const {
     const vq::ParallaxReport parallax = calibrator_.parallax();
     const bool measured =

@@ -12,7 +12,8 @@
 
 namespace fieldcal {
 
-/// What an attempt takes of one grab. The right infrared image and the depth may be empty: the module has none.
+/// The images of one frame set that an attempt uses. The right infrared image and the depth image are empty when the
+/// module does not deliver them.
 struct CaptureFrames {
     const ImageFrame16& infrared;
     const ImageFrame32& colour;
@@ -20,37 +21,39 @@ struct CaptureFrames {
     const ImageFrame16& depth;
 };
 
-/// One calibration attempt of one colour camera: light gate, automatic capture, the engine's answers, the limit of
-/// photo pairs. The references must outlive it. One thread.
+/// One calibration attempt for one colour camera: light gate, automatic capture, the engine's results, the limit of
+/// photo pairs. The references must outlive the attempt. One thread.
 class CalibrationAttempt {
 public:
-    /// `pairLimit`: pairs after which an attempt without a solution ends.
+    /// `pairLimit`: number of pairs after which an attempt without a solution ends.
     CalibrationAttempt(vq::ICalibrator& calibrator, AttemptListener& listener, const LightGate& light,
                        std::int32_t pairLimit);
 
-    /// From the next `start` on, what is known about the stereo baseline of the module with this serial number is used,
-    /// and what a solved attempt has measured is remembered. Without this call nothing is.
+    /// From the next `start` on, uses the known stereo baseline of the module with this serial number, and stores the
+    /// one that a solved attempt has measured. Without this call no baseline is read or stored.
     void useMemory(const BaselineMemory& memory, std::uint32_t serial);
 
-    /// Forgets what was collected before, of whichever camera, and starts from the factory rotation of the chosen one.
+    /// Discards everything collected before, for either camera, and starts from the factory rotation of the given
+    /// camera.
     void start(ColourCamera camera);
 
     enum class Outcome {
         Continues,
         Solved,
-        Failed  ///< the scenery is too simple, or the limit is reached; `fail` follows
+        Failed  ///< the scenery is too simple, or the limit is reached; `fail` is to be called next
     };
-    /// Takes one frame set, which must be fresh: it may have been grabbed only once and must not be empty (empty ones
-    /// are ignored). After another outcome than `Continues` nothing happens until an attempt is started.
+    /// Processes one frame set. It must not have been processed before; empty frames are ignored. After any outcome
+    /// other than `Continues`, calls have no effect until the next `start`.
     Outcome processFrame(const CaptureFrames& frames);
-    /// No more frames will come: a solution that could have become more accurate counts as it is.
+    /// Ends the attempt when no more frames will come: an existing solution is accepted even if its accuracy could
+    /// improve.
     Outcome finish();
-    /// Takes no more frames until an attempt is started.
+    /// Stops taking frames until the next `start`.
     void cancel() { running_ = false; }
     /// Ends a failed attempt: resets the engine and tells the user what to try.
     void fail();
 
-    /// Pairs added in this attempt.
+    /// The number of pairs taken in this attempt.
     std::int32_t photoCount() const { return photoCount_; }
 
 private:

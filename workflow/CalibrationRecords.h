@@ -9,24 +9,24 @@
 
 namespace fieldcal {
 
-/// Three rotations for each colour camera: the factory's as read at the start, the one that the engine found, and the
-/// one that the user accepted. Any thread.
+/// Three rotations for each colour camera: the factory rotation read at the start, the rotation estimated by the
+/// engine, and the rotation accepted by the user. Any thread.
 class CalibrationRecords {
 public:
-    /// Forgets everything else.
+    /// Sets the factory rotations and clears all others.
     void setFactory(const Rotation& third, const Rotation& platform);
-    /// Only if `valid` says so; nobody sees the records between the question and the entry.
+    /// Stores the estimate only if `valid` returns true. The check and the store are one atomic step.
     bool setEstimated(ColourCamera camera, const Rotation& rotation, const std::function<bool()>& valid);
     void forgetEstimate(ColourCamera camera);
-    /// Counts only when there is an estimate of this camera; false without one.
+    /// Accepts the rotation only when there is an estimate for this camera; otherwise returns false.
     bool accept(ColourCamera camera, const Rotation& rotation);
-    /// A restart: the camera's estimate, and what was accepted of it, are forgotten.
+    /// Clears the camera's estimated and accepted rotations, for a restart.
     void forget(ColourCamera camera);
 
     std::optional<Rotation> estimated(ColourCamera camera) const;
     std::optional<Rotation> accepted(ColourCamera camera) const;
     bool anyAccepted() const;
-    /// What is written into the module: the accepted rotation, else the factory's.
+    /// The rotation to be written into the module: the accepted one, otherwise the factory's.
     Rotation toStore(ColourCamera camera) const;
 
 private:

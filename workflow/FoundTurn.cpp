@@ -25,7 +25,7 @@ StoredRotation FoundTurn::verdict() const {
 }
 
 FoundTurn foundTurn(const Rotation& stored, const Rotation& found, const std::optional<vq::SolutionQuality>& quality) {
-    // What moves points of the image one way has turned the camera the other way.
+    // The colour camera rotates opposite to the apparent motion of image points.
     const Matrix3 turn = product(widened(stored.data()), transposed(widened(found.data())));
     FoundTurn result{anglesFromRotation(turn), quality};
     for (double& angle : result.anglesDeg)

@@ -4,19 +4,19 @@
 
 namespace fieldcal {
 
-/// Whether the infrared picture is bright enough to show the scene's own texture. Once lit, the threshold falls by
-/// 15 %, so that a passing cloud does not switch back and forth. One thread.
+/// Decides whether the infrared image is bright enough to show the texture of the scene. Once lit, the threshold falls
+/// by 15 %, so that a passing cloud does not toggle the result. One thread.
 class LightGate {
 public:
-    /// What a measurement says while the user looks for light.
+    /// The result of a measurement while the user looks for light.
     struct Reading {
         bool lit;
         double progress;  ///< 0..1; 1 when lit
     };
 
-    /// Brightness exactly at the threshold is dark here. Sets or clears the lit flag.
+    /// Sets or clears the lit flag. A brightness equal to the threshold counts as dark.
     Reading detect(std::uint16_t brightness);
-    /// The same question during capture: exactly at the threshold is lit, and the flag stays as it is.
+    /// The test used during capture: a brightness equal to the threshold counts as lit, and the flag is unchanged.
     bool isLitForCapture(std::uint16_t brightness) const { return brightness >= threshold(); }
 
     bool wellLit() const { return wellLit_; }

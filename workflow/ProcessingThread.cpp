@@ -24,7 +24,8 @@ void ProcessingThread::stop(Stop stop) {
 }
 
 void ProcessingThread::run(Workflow& workflow, QThread* heir) {
-    // The C library's generator belongs to the thread that draws, on some systems.
+    // On some systems each thread has its own state of the C library's random number generator, so it is seeded on the
+    // thread that draws.
     std::srand(std::random_device{}());
     while (!workflow.stopRequested()) {
         if (!workflow.pass()) std::this_thread::sleep_for(kPause);

@@ -8,17 +8,19 @@
 
 namespace fieldcal {
 
-/// Runs a workflow's loop on a thread of its own. The thread that makes this object gets the sensor when the loop ends.
+/// Runs a workflow's loop on its own thread. When the loop ends, the sensor is moved to the thread that created this
+/// object.
 class ProcessingThread {
 public:
-    /// Starts. `workflow` outlives this object.
+    /// Starts the thread. `workflow` must outlive this object.
     explicit ProcessingThread(Workflow& workflow);
-    /// Stops.
+    /// Stops the thread.
     ~ProcessingThread();
     ProcessingThread(const ProcessingThread&) = delete;
     ProcessingThread& operator=(const ProcessingThread&) = delete;
 
-    /// Ends the loop and waits for it. `ToLeave`: less than a second, whatever it is waiting for. Once is enough.
+    /// Ends the loop and waits for it. With `ToLeave`, this takes less than a second, whatever the loop is waiting for.
+    /// Further calls have no effect.
     void stop(Stop stop);
 
 private:

@@ -29,7 +29,7 @@ QString firmwareOf(Sensor& sensor) {
 
 void SaveReport::note(ColourCamera camera, const CameraParameters& stored, const Rotation& found,
                       const vq::SensorCalibrator& engine, Sensor& sensor) {
-    // Now, as a module that fails to store has no more to say.
+    // The firmware version is read now, because a module that fails to store may no longer answer.
     if (firmware_.isEmpty()) firmware_ = firmwareOf(sensor);
     ReportedCamera noted;
     noted.camera = camera;

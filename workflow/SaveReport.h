@@ -14,14 +14,14 @@ class SensorCalibrator;
 
 namespace fieldcal {
 
-/// What the engine knew about each camera's solution when it was found. It is kept until the save, as the engine
-/// forgets it once the other camera is calibrated.
+/// Keeps the engine's data about each camera's solution until the save, because the engine discards it once the other
+/// camera is calibrated.
 class SaveReport {
 public:
     void note(ColourCamera camera, const CameraParameters& stored, const Rotation& found,
               const vq::SensorCalibrator& engine, Sensor& sensor);
-    /// After `storeCalibration`: keeps the report and the history lines of the cameras whose rotation was accepted, in
-    /// the program's data folder.
+    /// To be called after `storeCalibration`. Writes the report and the history lines of the cameras whose rotation was
+    /// accepted into the program's data folder.
     void keep(const QString& dataFolder, const Sensor& sensor, const CalibrationRecords& records, bool stored) const;
 
 private:

@@ -7,8 +7,9 @@
 
 namespace fieldcal {
 
-/// Writes each camera's accepted rotation, or the factory's, into the module. While something accepted is at stake, a
-/// note stands in `dataFolder` from before the write until the module has confirmed it. True: it has.
+/// Writes each camera's accepted rotation, or the factory's, into the module. If any rotation was accepted, a note is
+/// kept in `dataFolder` from before the write until the module has confirmed it. Returns true when the module has
+/// confirmed it.
 bool storeCalibration(Sensor& sensor, const CalibrationRecords& records, const QString& dataFolder);
 
 }  // namespace fieldcal

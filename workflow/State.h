@@ -4,7 +4,7 @@
 
 namespace fieldcal {
 
-/// The workflow's states; the interface holds the same numbers.
+/// The states of the workflow. The interface uses the same numbers.
 enum class State : std::int32_t {
     FirstOpened = 0,
     ShowingIntroduction = 1,

@@ -35,20 +35,21 @@ void Workflow::requestState(State state) {
     } else {
         act(set, nullptr);
     }
-    // Only now, so that a solution which the loop is about to note cannot survive it.
-    if (state == State::ResetCalibration) records_.forget(usersCamera_);
+    // The records are cleared after the state change, so that a solution which the loop is about to record cannot
+    // survive it.
+    if (state == State::ResetCalibration) records_.forget(selectedCamera_);
 }
 
 void Workflow::switchCamera(ColourCamera camera) {
     acceptRefinement();
-    usersCamera_ = camera;
+    selectedCamera_ = camera;
     act([this] { state_.interrupt(); },
         [this, camera] {
             camera_ = camera;
             attempt_.cancel();
             engine_.resetState();
             if (!sensorReady_) return;
-            // Off even if the state still is the refinement, until that is entered again.
+            // The emitter stays off until the refinement is entered again, even if the state still is the refinement.
             emitterState_ = State::RefiningCalibration;
             sensor_->setEmitter(false);
             sensor_->setPlatformPictureWanted(camera_ == ColourCamera::Platform);
@@ -56,19 +57,20 @@ void Workflow::switchCamera(ColourCamera camera) {
     records_.forgetEstimate(camera);
 }
 
-/// The rotation that the finger left, as it is now: whatever comes after may reset the engine.
+/// Accepts the current rotation of the refinement before a later action can reset the engine.
 void Workflow::acceptRefinement() {
     if (state_.state() != State::RefiningCalibration) return;
     Rotation rotation{};
     engine_.getRotationMatrix(rotation.data());
-    records_.accept(usersCamera_, rotation);
+    records_.accept(selectedCamera_, rotation);
 }
 
-/// As one: a loop that sees the change has the work to do, and one that does not loses its transition.
+/// Makes the change and queues the work atomically: a loop that sees the change also has the work, and a loop that does
+/// not see it loses its own transition.
 void Workflow::act(const std::function<void()>& change, std::function<void()> work) {
     const std::lock_guard lock(actionsMutex_);
     change();
-    if (work != nullptr) wanted_.push_back(std::move(work));
+    if (work != nullptr) pendingWork_.push_back(std::move(work));
 }
 
 LeaveReport Workflow::save(Storing storing) {
@@ -83,8 +85,9 @@ LeaveReport Workflow::save(Storing storing) {
     return close(report);
 }
 
-/// Only for what was accepted, and only the module that it was accepted for. False: there is nothing to write to. A
-/// module that cannot be opened refuses the write by itself, which is noted as for any other failed save.
+/// Reopens a failed module, provided that a rotation was accepted. Returns false when a different module is connected
+/// now, so that nothing may be written. If the module cannot be opened, the write itself fails, which is recorded like
+/// any other failed save.
 bool Workflow::reopenAfterFault() {
     if (!sensor_->faulted() || !records_.anyAccepted()) return true;
     const std::uint32_t serial = sensor_->serialNumber();

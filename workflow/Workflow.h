@@ -24,74 +24,75 @@ class QThread;
 
 namespace fieldcal {
 
-/// What a workflow finds outside itself.
+/// The environment of a workflow.
 struct WorkflowEnvironment {
     std::function<std::unique_ptr<Sensor>()> makeSensor;
-    QString dataFolder;  ///< where it is noted that a calibration was not stored, and what is known about modules
+    QString dataFolder;  ///< holds the note about a failed save and the known stereo baselines
 };
 WorkflowEnvironment systemWorkflowEnvironment();
 
 enum class Stop { ToLeave, ToSave };
 
-/// What a save stores of the camera in work.
+/// Which rotation a save stores for the camera that is being worked on.
 enum class Storing {
-    WithRefinement,  ///< what is being refined counts as accepted
-    OnlyAccepted     ///< nothing: only a camera that was accepted before is stored
+    WithRefinement,  ///< the rotation under refinement counts as accepted
+    OnlyAccepted     ///< only a rotation that was accepted earlier is stored
 };
 
-/// How leaving went.
+/// The result of leaving the workflow.
 struct LeaveReport {
     bool stored = false;        ///< the module has confirmed the accepted rotations
-    WriteBackReport writeBack;  ///< of a save that came as far as the module
-    QStringList errors;         ///< what arose while saving and closing, in order
-    QStringList closingErrors;  ///< those of them that came last: the vendor's service was not restored
+    WriteBackReport writeBack;  ///< of a save that reached the module
+    QStringList errors;         ///< the errors during saving and closing, in order
+    QStringList closingErrors;  ///< the last of these, from restoring the vendor's service
 };
 
-/// The calibration workflow without a screen: the states, two cameras in turn, what is stored and saved.
+/// The calibration workflow without a screen: the states, two cameras in turn, accepting and saving.
 ///
-/// Three kinds of calls. The user's (any one thread at a time): they never wait for the loop; a state change counts at
-/// once, and what it needs from the devices is done by the loop in the order in which the user asked. The loop's: one
-/// thread calls `pass` again and again, and `handOver` at its end. The leaver's: after the loop has ended, on the
-/// thread to which it handed over.
+/// There are three groups of functions. User actions, from any one thread at a time, never wait for the loop: a state
+/// change takes effect at once, and the loop does the required work on the devices in the order of the actions. Loop
+/// functions: one thread calls `pass` repeatedly, and `handOver` at the end. Closing functions are called after the
+/// loop has ended, on the thread to which it handed over.
 class Workflow {
 public:
     Workflow(WorkflowListener& listener, WorkflowEnvironment environment);
     ~Workflow();
 
-    // The user's.
+    // User actions.
     void requestState(State state);
-    /// Goes on with the other camera. From the refinement, the rotation as it is now is accepted first.
+    /// Switches to the other camera. During the refinement, the current rotation is accepted first.
     void switchCamera(ColourCamera camera);
-    /// While it is paused, an attempt takes no frames; everything else goes on.
+    /// While paused, an attempt takes no frames; everything else continues.
     void pauseCapture(bool paused) { capturePaused_ = paused; }
-    /// `pass` does nothing from now on. To leave, every wait is given up soon as well; to save, a call of the camera
-    /// library that is under way may take its time, since a camera that was given up can no longer be written.
+    /// Makes `pass` return without doing anything from now on. With `ToLeave`, every wait also ends soon. With
+    /// `ToSave`, a call of the camera library in progress may take its time, because a module whose call was abandoned
+    /// can no longer be written.
     void requestStop(Stop stop);
 
     State state() const { return state_.state(); }
-    /// The camera that the user is working on.
-    ColourCamera camera() const { return usersCamera_; }
+    /// The camera that the user has selected.
+    ColourCamera camera() const { return selectedCamera_; }
     const CalibrationRecords& records() const { return records_; }
     /// For the overlay: rotation and drag, from the interface's thread.
     vq::ICalibrator& engine() { return engine_; }
 
-    // The loop's.
-    /// One pass. False: there was nothing to do, and the caller may pause.
+    // Loop functions.
+    /// Makes one pass. Returns false when there was nothing to do, so that the caller may pause.
     bool pass();
-    /// Moves the sensor to another thread, from the one that ran the loop.
+    /// Moves the sensor to another thread. Called on the thread that ran the loop.
     void handOver(QThread* thread);
     bool stopRequested() const { return stop_; }
 
-    // The leaver's. Both close the camera; nothing but destruction follows.
-    /// Writes each camera's accepted rotation, or the factory's, into the module. A module that has failed is opened
-    /// anew for this.
+    // Closing functions. Both close the camera; afterwards the workflow may only be destroyed.
+    /// Writes each camera's accepted rotation, or the factory's, into the module. A module that has failed is reopened
+    /// for this.
     LeaveReport save(Storing storing);
     LeaveReport leave();
 
 private:
     using Snapshot = WorkflowState::Snapshot;
 
-    // Workflow.cpp: the user's actions and leaving.
+    // Workflow.cpp: the user's actions, saving and closing.
     void acceptRefinement();
     void act(const std::function<void()>& change, std::function<void()> work);
     bool reopenAfterFault();
@@ -103,14 +104,14 @@ private:
     bool refreshViews(const Snapshot& now);
     void step(const Snapshot& now);
     void openCamera(const Snapshot& now);
-    void tellOfLastSave();
+    void reportLastSave();
     void listenTo(Sensor& sensor);
     void report(const QString& error, const std::function<void()>& tell);
     void detectLighting();
     void resetCalibration(const Snapshot& now);
     void startCalibration(const Snapshot& now);
     void processFrame(const Snapshot& now);
-    void tellDetail();
+    void reportDetail();
     void takeSolution(const Snapshot& now);
     bool advance(const Snapshot& from, State to);
     const ImageFrame32& colourFrame() const;
@@ -121,11 +122,11 @@ private:
     std::atomic<bool> giveUpWaiting_{false};
     std::atomic<bool> capturePaused_{false};
     WorkflowState state_;
-    std::atomic<ColourCamera> usersCamera_{ColourCamera::Third};
+    std::atomic<ColourCamera> selectedCamera_{ColourCamera::Third};
     CalibrationRecords records_;
 
     std::mutex actionsMutex_;
-    std::deque<std::function<void()>> wanted_;  ///< what the user's actions leave for the loop to do
+    std::deque<std::function<void()>> pendingWork_;  ///< work that user actions have left for the loop
 
     CameraParameters factory_;
     vq::RegistrationContext context_;
@@ -134,11 +135,11 @@ private:
     CalibrationAttempt attempt_;
     std::unique_ptr<Sensor> sensor_;
     SaveReport solutions_;
-    ColourCamera camera_ = ColourCamera::Third;  ///< the loop's; follows the user's
+    ColourCamera camera_ = ColourCamera::Third;  ///< used by the loop; follows the selected camera
     bool sensorReady_ = false;
-    bool faultTold_ = false;
-    bool platformIssueTold_ = false;
-    State emitterState_ = State::FirstOpened;  ///< the state that the emitter was switched for
+    bool faultReported_ = false;
+    bool platformIssueReported_ = false;
+    State emitterState_ = State::FirstOpened;  ///< the state for which the emitter was last switched
     QStringList leavingErrors_;
 };
 

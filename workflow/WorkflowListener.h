@@ -15,34 +15,35 @@
 
 namespace fieldcal {
 
-/// What the workflow tells whoever shows it. Called on the thread that runs the workflow, without any of its locks.
+/// Receives the output of the workflow for presentation. Called on the thread that runs the workflow, without holding
+/// any of its locks.
 class WorkflowListener : public AttemptListener {
 public:
-    /// The loop's own transitions; those that the user asked for are not echoed.
+    /// A transition made by the loop itself. Transitions requested by the user are not repeated here.
     virtual void stateChanged(State) {}
-    /// A new frame set for the views of the state. Valid during the call.
+    /// A new frame set for the views of the state. Valid during the call only.
     virtual void framesReady(State, ColourCamera, const FrameRecords&) {}
-    /// While the user looks for light.
+    /// A brightness measurement while the user looks for light.
     virtual void lightMeasured(const LightGate::Reading&) {}
-    /// Every pass in which the user refines or is shown how to, after the pass's frames. May wait for the screen, but
-    /// not longer than for the stop.
+    /// Sent after the frames in every pass in which the user refines the rotation or watches the tutorial for it. The
+    /// call may wait for the screen, but must return soon after a stop.
     virtual void refining(State) {}
-    /// After each pair: how much of the detail that is needed each area of the infrared picture has given so far, 0..1,
-    /// row by row, four areas across and three down.
+    /// Sent after each pair: the share of the required detail that each area of the infrared image has provided so far,
+    /// 0..1, row by row, four areas across and three down.
     virtual void detailGathered(const std::vector<double>& /*areas*/) {}
-    /// A rotation was found: what the overlay needs to show it, and how it stands to the stored one.
+    /// A rotation was found: the data that the overlay needs to show it, and its difference from the stored rotation.
     virtual void solutionFound(ColourCamera, const CameraParameters& /*factory*/, const Rotation& /*estimated*/,
                                const FoundTurn&) {}
-    /// The module has no platform camera that could be calibrated.
+    /// The module has no platform camera that can be calibrated.
     virtual void singleCameraOnly() {}
-    /// The last calibration was accepted, but not stored. Told once, when the camera has been opened.
+    /// The last calibration was accepted but not stored. Sent once, when the camera has been opened.
     virtual void lastSaveFailed(const SaveNote&) {}
 
-    /// Faults. After the first one nothing more happens.
+    /// Faults. No further call follows the first one.
     virtual void deviceError(const QString& /*text*/) {}
     virtual void missingModule() {}
     virtual void missingPlatformCamera() {}
-    /// The rear camera delivers nothing. Once; the rest goes on.
+    /// The rear camera delivers no images. Sent once; everything else continues.
     virtual void platformCameraIssue() {}
 };
 

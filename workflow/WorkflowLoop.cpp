@@ -1,4 +1,4 @@
-// The loop's side of `Workflow`.
+// The part of `Workflow` that runs on the loop's thread.
 #include "devices/CameraParameterReader.h"
 #include "engine/Rotation.h"
 #include "engine/TextForms.h"
@@ -31,7 +31,7 @@ void logSolution(const CameraExtrinsics& factory, const Rotation& estimated, con
     qInfo("Default extrinsics:\n%s", vq::matrixText(before).c_str());
     qInfo("Estimated extrinsics:\n%s", vq::matrixText(after).c_str());
     qInfo("Estimated angles:\n%f %f %f", angles[0], angles[1], angles[2]);
-    // Of the rotation, the entries that small angles about X and Z show in.
+    // Small angles about X and Z appear in these entries of the rotation.
     qInfo("Result: %f", std::max({change(0, 1), change(1, 0), change(1, 2), change(2, 1)}));
 }
 
@@ -47,21 +47,22 @@ bool Workflow::pass() {
     return refreshed;
 }
 
-/// The state, and all that the user's actions up to it have left to do, done.
+/// Does the work that the user's actions have queued, and returns the state at that time.
 Workflow::Snapshot Workflow::takeActions() {
-    std::deque<std::function<void()>> wanted;
+    std::deque<std::function<void()>> actions;
     Snapshot now{};
     {
         const std::lock_guard lock(actionsMutex_);
-        wanted.swap(wanted_);
+        actions.swap(pendingWork_);
         now = state_.take();
     }
-    for (const auto& work : wanted)
-        work();
+    for (const auto& action : actions)
+        action();
     return now;
 }
 
-/// Its dots help depth where the user aligns it, and would be matched where the scene's own texture is wanted.
+/// The emitter's dots improve depth where the user aligns it. During capture they would be matched instead of the
+/// texture of the scene, so the emitter is off.
 void Workflow::followEmitter(State state) {
     if (!sensorReady_ || state == emitterState_) return;
     emitterState_ = state;
@@ -107,7 +108,7 @@ void Workflow::openCamera(const Snapshot& now) {
     if (!sensor_->open(applicationSettings()) ||
         !readCameraParameters(*sensor_, &factory_, [this] { listener_.singleCameraOnly(); })) {
         qInfo("Initialize failed.");
-        // What is not a fault of the library is a module without a colour camera.
+        // Faults of the library have already been reported. The remaining case is a module without a colour camera.
         if (!stop_) report("The depth camera was not found.", [this] { listener_.missingModule(); });
         return;
     }
@@ -117,12 +118,12 @@ void Workflow::openCamera(const Snapshot& now) {
     engine_.setCameraParameters(false);
     attempt_.useMemory(BaselineMemory(environment_.dataFolder), sensor_->serialNumber());
     sensorReady_ = true;
-    tellOfLastSave();
+    reportLastSave();
     advance(now, State::ShowingIntroduction);
 }
 
-/// Of this module's, that is; a note about another one waits until that one is connected.
-void Workflow::tellOfLastSave() {
+/// Reports a failed save of this module. A note about a different module is kept until that one is connected.
+void Workflow::reportLastSave() {
     const std::optional<SaveNote> note = readSaveNote(environment_.dataFolder);
     if (!note || (note->serial != 0 && note->serial != sensor_->serialNumber())) return;
     removeSaveNote(environment_.dataFolder);
@@ -138,16 +139,16 @@ void Workflow::listenTo(Sensor& sensor) {
         report("The rear camera was not found.", [this] { listener_.missingPlatformCamera(); });
     });
     QObject::connect(&sensor, &Sensor::signal_reportPlatformCameraIssue, [this] {
-        if (!stop_ && !std::exchange(platformIssueTold_, true)) listener_.platformCameraIssue();
-        faultTold_ = faultTold_ || !sensorReady_;
+        if (!stop_ && !std::exchange(platformIssueReported_, true)) listener_.platformCameraIssue();
+        faultReported_ = faultReported_ || !sensorReady_;
     });
 }
 
-/// One fault, one message. Once the program is to end, it is kept until everything is closed.
+/// Reports only the first fault. While the program is ending, errors are collected until everything is closed.
 void Workflow::report(const QString& error, const std::function<void()>& tell) {
     if (stop_) {
         leavingErrors_.push_back(error);
-    } else if (!std::exchange(faultTold_, true)) {
+    } else if (!std::exchange(faultReported_, true)) {
         tell();
     }
 }
@@ -160,7 +161,7 @@ void Workflow::detectLighting() {
 
 void Workflow::resetCalibration(const Snapshot& now) {
     engine_.resetState();
-    listener_.startText({});  // after whatever the attempt that was given up has told
+    listener_.startText({});  // clears any text that a cancelled attempt has left
     advance(now, State::WaitingToCalibrate);
 }
 
@@ -176,7 +177,7 @@ void Workflow::processFrame(const Snapshot& now) {
     const FrameRecords& frames = sensor_->frames();
     const CalibrationAttempt::Outcome outcome =
         attempt_.processFrame({frames.leftInfrared, colourFrame(), frames.rightInfrared, frames.depth});
-    if (attempt_.photoCount() > photosBefore) tellDetail();
+    if (attempt_.photoCount() > photosBefore) reportDetail();
     switch (outcome) {
         case CalibrationAttempt::Outcome::Continues:
             break;
@@ -191,7 +192,7 @@ void Workflow::processFrame(const Snapshot& now) {
     }
 }
 
-void Workflow::tellDetail() {
+void Workflow::reportDetail() {
     const vq::SensorCalibrator& calibrator = engine_.calibrator();
     std::vector<double> areas;
     for (const int count : calibrator.grid().cellCounts())

@@ -7,11 +7,11 @@
 
 namespace fieldcal {
 
-/// The workflow's state, which the user and the loop move from different threads. What the user does always counts; the
-/// loop's own transition counts only if the user did nothing since the loop looked.
+/// The workflow's state, changed by the user and by the loop from different threads. A change by the user always takes
+/// effect; a transition of the loop takes effect only if the user has not acted since the loop took its snapshot.
 class WorkflowState {
 public:
-    /// The state, and how often the user had acted.
+    /// The state, and the number of user actions so far.
     struct Snapshot {
         State state;
         std::uint32_t userActions;
@@ -20,16 +20,17 @@ public:
     Snapshot take() const { return unpack(word_); }
     State state() const { return take().state; }
 
-    /// The user's. Any thread.
+    /// Sets the state on behalf of the user. Any thread.
     void set(State state) {
         change([state](Snapshot) { return state; });
     }
-    /// An action of the user's that leaves the state as it is, but must win over a transition under way.
+    /// Records a user action that leaves the state unchanged but must cancel a transition in progress.
     void interrupt() {
         change([](Snapshot now) { return now.state; });
     }
 
-    /// The loop's. False, and nothing happens, when the user has acted since the snapshot was taken.
+    /// Makes a transition of the loop. Returns false and changes nothing when the user has acted since the snapshot was
+    /// taken.
     bool advance(const Snapshot& from, State to) {
         std::uint64_t expected = pack(from);
         return word_.compare_exchange_strong(expected, pack({to, from.userActions}));

@@ -8,12 +8,13 @@
 
 namespace fieldcal {
 
-/// Hears what becomes of the capture engine, on a thread of the engine's.
+/// Receives the events of the capture engine, on one of the engine's threads.
 class CaptureEngineEvents final : public ComObject<IMFCaptureEngineOnEventCallback> {
 public:
     HRESULT STDMETHODCALLTYPE OnEvent(IMFMediaEvent* event) override;
 
-    /// Waits, without a limit, until the engine is initialised, has failed, or `giveUp` was called. True: initialised.
+    /// Waits, without a limit, until the engine is initialised, has failed, or `giveUp` was called. Returns true when
+    /// it is initialised.
     bool awaitInitialised();
     void giveUp();
 

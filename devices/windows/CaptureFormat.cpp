@@ -15,7 +15,7 @@ namespace {
 
 using Microsoft::WRL::ComPtr;
 
-constexpr DWORD kMostTypes = 10000;  // of a device that never says that there are no more
+constexpr DWORD kMostTypes = 10000;  // limit for a device that never reports the end of its list
 
 bool subtypeOf(const std::string& name, GUID* out) {
     if (name.size() != sizeof out->Data1) return false;
@@ -24,7 +24,7 @@ bool subtypeOf(const std::string& name, GUID* out) {
     return true;
 }
 
-/// Lower is better; infinite: of no use.
+/// Rates a media type. Lower is better; infinite means unusable.
 double costOf(IMFMediaType& type, const CaptureFormat& wanted, const GUID& subtype) {
     constexpr double kUseless = std::numeric_limits<double>::infinity();
     UINT32 width = 0;
@@ -35,7 +35,7 @@ double costOf(IMFMediaType& type, const CaptureFormat& wanted, const GUID& subty
     UINT32 frames = 0;
     UINT32 seconds = 0;
     if (wanted.framesPerSecond > 0 && SUCCEEDED(MFGetAttributeRatio(&type, MF_MT_FRAME_RATE, &frames, &seconds))) {
-        // 29.97 is as good as 30.
+        // Rounding makes 29.97 as good as 30.
         cost += std::round(std::abs(frames / std::fmax(seconds, 1.0) - wanted.framesPerSecond));
     }
     GUID own{};

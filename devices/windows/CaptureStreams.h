@@ -7,20 +7,20 @@
 
 namespace fieldcal {
 
-/// The streams of an initialised capture engine. Only the record stream is ever started: nobody looks at the preview
-/// or takes a photo, so their sinks are set up and rest. Where a camera has one stream for several purposes, the
-/// record stream's size is the one it gets.
+/// The streams of an initialised capture engine. Only the record stream is ever started. The sinks of the preview and
+/// photo streams are set up but not used. Where a camera has one stream for several purposes, the stream gets the size
+/// of the record stream.
 class CaptureStreams {
 public:
     CaptureStreams(MediaSystem& system, IMFCaptureEngine& engine);
 
     bool setUpPreview(const CaptureFormat& format);
-    /// Its pictures go to `outlet`.
+    /// Its images are sent to `outlet`.
     bool setUpRecord(const CaptureFormat& format, std::shared_ptr<PictureOutlet> outlet);
     bool setUpPhoto(const CaptureFormat& format);
 
     bool start();
-    /// Nothing happens unless it was started.
+    /// Has no effect unless the stream was started.
     void stop();
 
 private:

@@ -7,7 +7,8 @@
 
 namespace fieldcal {
 
-/// What every object that the system calls back needs: it counts its owners, begins with one, and ends with the last.
+/// Base of objects that the system calls back. It counts references, starts with one, and deletes the object with the
+/// last.
 template <typename Interface>
 class ComObject : public Interface {
 public:
@@ -32,7 +33,7 @@ protected:
     ComObject() = default;
     virtual ~ComObject() = default;
 
-    /// Null: the object does not have that interface.
+    /// Returns null when the object does not have that interface.
     virtual void* find(REFIID wanted) {
         const bool own = wanted == __uuidof(Interface) || wanted == __uuidof(IUnknown);
         return own ? static_cast<Interface*>(this) : nullptr;
@@ -42,7 +43,7 @@ private:
     std::atomic<ULONG> owners_{1};
 };
 
-/// A new object with one owner. (`ComPtr::Attach` of this compiler's headers adds another one.)
+/// Creates an object with one reference. (`ComPtr::Attach` of this compiler's headers adds another one.)
 template <typename Object, typename... Arguments>
 Microsoft::WRL::ComPtr<Object> makeCom(Arguments&&... arguments) {
     Microsoft::WRL::ComPtr<Object> made;

@@ -4,7 +4,7 @@
 
 namespace fieldcal {
 
-/// Whether a call of the system succeeded; when it did not, a log line says which.
+/// Returns whether a call of the system succeeded; if it failed, a log line names it.
 bool succeeded(HRESULT result, const char* call);
 
 }  // namespace fieldcal

@@ -7,8 +7,8 @@
 
 namespace fieldcal {
 
-/// A thread in COM's multithreaded apartment, which it enters first and leaves last. What is made on it is used and
-/// released on it, whichever thread asks. Calls run one at a time, in turn.
+/// A thread that stays in COM's multithreaded apartment. Objects created on it are used and released on it, whichever
+/// thread makes the request. Calls run one at a time in the order of the requests.
 class ComThread {
 public:
     ComThread();
@@ -16,7 +16,8 @@ public:
     ComThread(const ComThread&) = delete;
     ComThread& operator=(const ComThread&) = delete;
 
-    /// Runs `call` there and waits for its end. False, and nothing was called: the thread has no apartment.
+    /// Runs `call` on the thread and waits for its end. Returns false without calling it when the thread could not
+    /// enter the apartment.
     bool run(const std::function<bool()>& call);
 
 private:

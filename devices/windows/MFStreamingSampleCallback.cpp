@@ -14,7 +14,7 @@ using Microsoft::WRL::ComPtr;
 
 const HRESULT kInvalidHandle = HRESULT_FROM_WIN32(ERROR_INVALID_HANDLE);
 constexpr double kTicksPerSecond = 1e7;
-/// MFSampleExtension_DeviceTimestamp, which this compiler's headers leave out.
+/// MFSampleExtension_DeviceTimestamp, which this compiler's headers lack.
 const GUID kDeviceTimestamp = {0x8f3e35e7, 0x2dcd, 0x4887, {0x86, 0x22, 0x2a, 0x58, 0xba, 0xa6, 0x52, 0xb0}};
 
 double deviceSeconds(IMFSample& sample) {
@@ -55,7 +55,7 @@ HRESULT MFStreamingSampleCallback::OnSample(IMFSample* sample) {
     return S_OK;
 }
 
-/// A locked buffer is without gaps between its rows, whatever the memory behind it looks like.
+/// A locked buffer has no gaps between its rows, whatever the memory layout behind it.
 void MFStreamingSampleCallback::deliver(IMFMediaBuffer& buffer, double timeSeconds) {
     BYTE* bytes = nullptr;
     DWORD length = 0;

@@ -10,11 +10,11 @@
 
 namespace fieldcal {
 
-/// Where a stream's pictures go. The callbacks share it, so that one that the engine still holds, or calls late, finds
-/// it empty rather than gone. Any thread.
+/// The destination of a stream's images. The callbacks share it, so that a callback that the engine still holds or
+/// calls late finds it empty and not destroyed. Any thread.
 class PictureOutlet {
 public:
-    /// Null: pictures are dropped. When it returns, the old sink is not in use.
+    /// With null, images are dropped. When the call returns, the previous sink is no longer in use.
     void set(RearCameraSink* sink);
     void deliver(const std::uint8_t* nv12, std::int32_t width, std::int32_t height, double timeSeconds);
 
@@ -23,10 +23,10 @@ private:
     RearCameraSink* sink_ = nullptr;
 };
 
-/// Receives the samples of one video stream on a thread of the capture engine's.
+/// Receives the samples of one video stream on one of the capture engine's threads.
 class MFStreamingSampleCallback final : public ComObject<IMFCaptureEngineOnSampleCallback> {
 public:
-    /// The stream's size in pixels.
+    /// `width` and `height`: the stream's size in pixels.
     MFStreamingSampleCallback(std::shared_ptr<PictureOutlet> outlet, std::int32_t width, std::int32_t height);
 
     HRESULT STDMETHODCALLTYPE OnSample(IMFSample* sample) override;

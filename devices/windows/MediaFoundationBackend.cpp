@@ -5,7 +5,7 @@
 namespace fieldcal {
 namespace {
 
-/// From the start of the stream; a camera of this kind needs about one second.
+/// Counted from the start of the stream; such a camera needs about one second.
 constexpr std::int32_t kFirstPictureMs = 3000;
 
 std::wstring wideOf(const std::string& utf8) {

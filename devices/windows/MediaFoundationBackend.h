@@ -9,7 +9,8 @@
 
 namespace fieldcal {
 
-/// The rear camera of this Windows. Any thread may call and end it: the camera itself lives on a COM thread of its own.
+/// The rear camera on Windows. It may be used and destroyed on any thread, because the camera itself lives on its own
+/// COM thread.
 class MediaFoundationBackend final : public PlatformCameraBackend {
 public:
     /// `createSystem` is called on the COM thread.
@@ -29,7 +30,7 @@ private:
     bool run(const std::function<bool()>& call);
 
     const std::shared_ptr<PictureOutlet> outlet_ = std::make_shared<PictureOutlet>();
-    std::unique_ptr<MediaFoundationCamera> camera_;  ///< made, used and ended on the COM thread
+    std::unique_ptr<MediaFoundationCamera> camera_;  ///< created, used and destroyed on the COM thread
     ComThread thread_;
 };
 

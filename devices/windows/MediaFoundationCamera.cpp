@@ -59,7 +59,7 @@ bool MediaFoundationCamera::openCamera() {
 bool MediaFoundationCamera::createEngine() {
     Microsoft::WRL::ComPtr<IMFAttributes> options;
     events_ = makeCom<CaptureEngineEvents>();
-    // Pictures in ordinary memory, and no microphone.
+    // Images are kept in system memory, and no microphone is opened.
     return succeeded(system_->createCaptureEngine(engine_.ReleaseAndGetAddressOf()), "creating the capture engine") &&
            succeeded(system_->createAttributes(2, options.GetAddressOf()), "MFCreateAttributes") &&
            succeeded(options->SetUINT32(MF_CAPTURE_ENGINE_USE_VIDEO_DEVICE_ONLY, TRUE), "IMFAttributes::SetUINT32") &&
@@ -73,7 +73,7 @@ bool MediaFoundationCamera::obtainControls() {
            succeeded(device_.As(&control_), "finding IAMCameraControl");
 }
 
-/// An earlier program may have fixed it.
+/// Returns the brightness to automatic control, which another program may have switched off.
 bool MediaFoundationCamera::releaseBrightness() {
     long value = 0;
     long flags = 0;

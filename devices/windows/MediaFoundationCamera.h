@@ -13,8 +13,9 @@
 
 namespace fieldcal {
 
-/// The tablet's rear camera through Media Foundation's capture engine. Everything, the end included, on one thread of
-/// COM's multithreaded apartment. Every operation returns false, and says which call it was in the log, on any failure.
+/// The tablet's rear camera, through Media Foundation's capture engine. All calls, including the destructor, belong to
+/// one thread of COM's multithreaded apartment. Every operation returns false on a failure and logs the call that
+/// failed.
 class MediaFoundationCamera {
 public:
     explicit MediaFoundationCamera(std::unique_ptr<MediaSystem> system);
@@ -28,7 +29,7 @@ public:
     bool openCamera();
     bool setAutoFocus(bool on);
     bool setFocus(std::int32_t value);
-    /// The record stream starts at once; its pictures go to `outlet`.
+    /// Starts the record stream at once; its images are sent to `outlet`.
     bool setupStream(PlatformCameraBackend::Stream stream, const CaptureFormat& format,
                      const std::shared_ptr<PictureOutlet>& outlet);
 
@@ -47,7 +48,7 @@ private:
     Microsoft::WRL::ComPtr<IMFCaptureEngine> engine_;
     Microsoft::WRL::ComPtr<IAMCameraControl> control_;
     Microsoft::WRL::ComPtr<IAMVideoProcAmp> picture_;
-    std::unique_ptr<CaptureStreams> streams_;  ///< once the camera is open
+    std::unique_ptr<CaptureStreams> streams_;  ///< null until the camera is open
 };
 
 }  // namespace fieldcal

@@ -13,7 +13,7 @@ using Microsoft::WRL::ComPtr;
 constexpr UINT32 kLongestFriendlyName = 260;
 const HRESULT kFunctionMissing = HRESULT_FROM_WIN32(ERROR_PROC_NOT_FOUND);
 
-/// A library of the system's own folder and nowhere else; it stays loaded.
+/// A library loaded from the system folder only; it stays loaded.
 class SystemLibrary {
 public:
     explicit SystemLibrary(const wchar_t* name)
@@ -29,7 +29,7 @@ private:
     HMODULE module_;
 };
 
-/// Frees what MFEnumDeviceSources made.
+/// Releases the array that MFEnumDeviceSources returned.
 class Activations {
 public:
     ~Activations() {
@@ -143,7 +143,7 @@ private:
     decltype(&MFCreateAttributes) createAttributes_ = nullptr;
     decltype(&MFCreateMediaType) createMediaType_ = nullptr;
     decltype(&MFEnumDeviceSources) enumDeviceSources_ = nullptr;
-    /// MFCreateDeviceSourceActivate, which this compiler's headers leave out.
+    /// MFCreateDeviceSourceActivate, which this compiler's headers lack.
     HRESULT(STDAPICALLTYPE* createDeviceSourceActivate_)(IMFAttributes*, IMFActivate**) = nullptr;
 };
 

@@ -13,14 +13,14 @@ struct VideoDevice {
     std::wstring symbolicLink;
 };
 
-/// Where the objects of Media Foundation come from. Everything on one thread, in COM's multithreaded apartment.
-/// What is handed out belongs to the caller.
+/// Creates the objects of Media Foundation. To be used on one thread in COM's multithreaded apartment. The caller owns
+/// the returned objects.
 class MediaSystem {
 public:
     virtual ~MediaSystem() = default;
 
     virtual HRESULT startUp() = 0;
-    /// Once for every `startUp` that succeeded.
+    /// To be called once for every successful `startUp`.
     virtual void shutDown() = 0;
     /// The video capture devices, in the system's order.
     virtual HRESULT enumerate(std::vector<VideoDevice>* devices) = 0;
@@ -30,7 +30,8 @@ public:
     virtual HRESULT createMediaType(IMFMediaType** type) = 0;
 };
 
-/// The one of this Windows. Its functions are looked up when it starts: some editions have no Media Foundation.
+/// Returns the Media Foundation of this Windows. Its functions are resolved at `startUp`, because some editions of
+/// Windows do not have it.
 std::unique_ptr<MediaSystem> windowsMediaSystem();
 
 }  // namespace fieldcal
