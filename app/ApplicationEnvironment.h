@@ -12,18 +12,18 @@
 
 namespace fieldcal {
 
-/// What the application finds outside itself.
+/// The environment of the application.
 struct ApplicationEnvironment {
     WorkflowEnvironment workflow;
     SystemLanguage language;
     QString translations = QStringLiteral(":/Files");
     QUrl rootDocument{QStringLiteral("qrc:/Views/main.qml")};
     UpdateEnvironment update;
-    /// Shows a message with its title and waits until the user has read it.
+    /// Shows a message with its title and waits until the user closes it.
     std::function<void(const QString& title, const QString& text)> showCritical;
-    /// Keeps display and system on, or leaves them to the system again. Main thread.
+    /// Keeps the display and the system awake, or returns control to the system. Main thread.
     std::function<void(bool on)> keepAwake;
-    /// How long the user sees that the calibration is stored, before the program ends.
+    /// How long the confirmation of a stored calibration is shown before the program ends.
     std::chrono::milliseconds savedShownFor{2000};
 };
 

@@ -4,7 +4,7 @@ namespace fieldcal {
 namespace {
 
 constexpr int kWidth = 256;
-constexpr std::size_t kKept = 16;  // two attempts at the limit
+constexpr std::size_t kKept = 16;  // enough for two attempts with the largest number of photos
 
 }  // namespace
 

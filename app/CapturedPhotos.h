@@ -11,13 +11,13 @@
 
 namespace fieldcal {
 
-/// Small pictures of the photos that were taken last. Any thread.
+/// Keeps thumbnails of the most recent photos. Any thread.
 class CapturedPhotos {
 public:
-    /// Keeps a small picture of `colour`. Returns the source under which the interface finds it until so many more have
-    /// come that it is forgotten.
+    /// Adds a thumbnail of `colour`. Returns the source under which the interface finds it until it is displaced by
+    /// newer ones.
     QString add(const ImageFrame32& colour);
-    /// Null when there is no such photo any more.
+    /// Returns null when the photo is no longer kept.
     QImage find(const QString& id) const;
 
 private:
@@ -26,7 +26,7 @@ private:
     int next_ = 0;
 };
 
-/// Hands them to the interface. `photos` must outlive it.
+/// Provides the photos to the interface. `photos` must outlive it.
 class PhotoProvider : public QQuickImageProvider {
 public:
     static QString name() { return QStringLiteral("photos"); }

@@ -17,7 +17,7 @@ int runApplication(int& argc, char** argv, ApplicationEnvironment environment) {
     requestDesktopOpenGL();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     auto manager = std::make_unique<GlobalManager>(argc, argv, std::move(environment));
-    // Not the loop's own result: however it was ended, it is the manager that knows of an error.
+    // The exit code is taken from the manager, which knows of an error whatever has ended the event loop.
     GlobalManager::exec();
     instance.reset();
     const int exitCode = manager->exitCode();

@@ -4,8 +4,8 @@
 
 namespace fieldcal {
 
-/// The whole program. Gives the process's exit code: 1 at once and silently while another copy runs, 1 after a message
-/// about an error of the camera library, else 0.
+/// Runs the whole program. Returns the exit code of the process: 1 immediately and silently while another copy runs, 1
+/// after a message about an error of the camera library, otherwise 0.
 int runApplication(int& argc, char** argv, ApplicationEnvironment environment = systemApplicationEnvironment());
 
 }  // namespace fieldcal

@@ -11,7 +11,7 @@
 
 #include <utility>
 
-// Resources in a static library are left out unless somebody asks for them; outside of any namespace.
+// Resources in a static library are omitted unless they are referenced, which has to be done outside of any namespace.
 static void initResources() {
     Q_INIT_RESOURCE(Pictures);
     Q_INIT_RESOURCE(Translations);
@@ -78,9 +78,9 @@ void GlobalManager::connectSignals() {
     connect(this, &GlobalManager::signal_displayMovementText, this, &GlobalManager::slot_displayMovementText);
     connect(this, &GlobalManager::signal_startCalibrationText, this, &GlobalManager::slot_startCalibrationText);
     connect(this, &GlobalManager::signal_saveCalibrationText, this, &GlobalManager::slot_saveCalibrationText);
-    // At the end of a session the system kills the process right after it has told so, before any destructor.
+    // At the end of a session the system kills the process right after announcing it, before any destructor runs.
     connect(this, &QCoreApplication::aboutToQuit, this, &GlobalManager::closeCamera);
-    // However the window was closed, the program is left as by its own button.
+    // Closing the window in any way leaves the program as its own button does.
     connect(this, &QGuiApplication::lastWindowClosed, this, &GlobalManager::slot_userAskedToExit);
     DepthColorOverlayRenderer* overlay = views_.refinementView();
     connect(window_, SIGNAL(toggleTutorialAnimation(bool)), this, SLOT(slot_toggleTutorialAnimation(bool)));
@@ -105,8 +105,8 @@ void GlobalManager::slot_tellAppToRenderImages() {
 
 void GlobalManager::slot_modifyUiToState(State state) {
     qInfo("changing qml to state %d", static_cast<int>(state));
-    // The loop also leaves the capture for the start page, and a message of its own may still have been on its way
-    // when the user restarted.
+    // The loop also returns from the capture to the start page, and a queued message about that may arrive after the
+    // user has restarted.
     const bool showsOther =
         state == State::WaitingToCalibrate || state == State::RefiningTutorial || state == State::RefiningCalibration;
     if (showsOther) views_.showFor(state);
@@ -169,7 +169,7 @@ void GlobalManager::slot_switchToOOMColorSensor() {
 void GlobalManager::switchCamera(ColourCamera camera, const char* description, const char* instruction) {
     if (ending_) return;
     workflow_.switchCamera(camera);
-    // The other camera's pictures are wanted where the refinement's were.
+    // The page switches from the views of the refinement to those of the other camera.
     views_.showFor(State::WaitingToCalibrate);
     functions_.setColorCameraDescriptionText(interfaceText(description));
     functions_.setCalibrationProgress(0);

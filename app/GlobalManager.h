@@ -22,20 +22,20 @@ class QQuickWindow;
 
 namespace fieldcal {
 
-/// The application object. Builds the interface and the workflow, connects them, starts the processing thread, and
-/// passes on what the one tells the other; both ways out end here. Slots and everything else run on the main thread;
-/// the signals are emitted on the processing thread and queued.
+/// The application object. It builds the interface and the workflow, connects them, starts the processing thread,
+/// forwards messages between the two, and ends the program in either of two ways. Slots and all other functions run on
+/// the main thread; the signals are emitted on the processing thread and queued.
 class GlobalManager : public QApplication {
     Q_OBJECT
 public:
     GlobalManager(int& argc, char** argv, ApplicationEnvironment environment = systemApplicationEnvironment());
-    /// Stops the processing thread and closes the camera, whatever ended the event loop.
+    /// Stops the processing thread and closes the camera, whatever has ended the event loop.
     ~GlobalManager() override;
 
-    /// What the process is to return: 0, or 1 after a message about an error.
+    /// The exit code of the process: 0, or 1 after a message about an error.
     int exitCode() const { return exitCode_; }
 
-    // For tests.
+    // Access for tests.
     Workflow& workflow() { return workflow_; }
     QQuickWindow* window() const { return window_; }
     WorkflowBridge& bridge() { return bridge_; }
@@ -65,15 +65,15 @@ public slots:
     void slot_abortDownloadOfUpdate();
     void slot_networkReplyLatestVersionJsonFinished(QNetworkReply* reply);
     void slot_timeoutNetworkReplyJson();
-    /// The first error counts, and nothing after the user has chosen to leave. Where the first camera is accepted
-    /// already, the program ends only when the user has decided whether it is stored.
+    /// Only the first error counts, and none counts once the user has chosen to leave. If the first camera has already
+    /// been accepted, the program ends only after the user has decided whether to store it.
     void slot_getKXAPIErrorAndQuit(const QString& message);
     void slot_reportMissingQ550Device();
     void slot_reportMissingPlatformCamera();
     void slot_reportPlatformCameraIssue();
 
 protected:
-    /// Swallows the user's input once the program is ending.
+    /// Discards the user's input once the program is ending.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -82,16 +82,16 @@ private:
     void connectSignals();
     void switchCamera(ColourCamera camera, const char* description, const char* instruction);
 
-    /// Nobody touches the screen while photos are taken or the picture is looked at.
+    /// The display stays on while photos are taken or the image is viewed, because nobody touches the screen then.
     void stayAwake(bool on);
 
-    // GlobalManagerEnding.cpp
+    // Implemented in GlobalManagerEnding.cpp.
     bool beginEnding();
     void saveAndQuit(Storing storing);
     void endProcessing(Stop stop);
-    /// Whatever ends the program; once it was closed, nothing.
+    /// Called whatever ends the program; further calls have no effect.
     void closeCamera();
-    /// False: there was something to tell.
+    /// Returns false when there was an error to report.
     bool finishEnding(const char* who, const LeaveReport& report);
 
     const ApplicationEnvironment environment_;
@@ -110,7 +110,7 @@ private:
     std::unique_ptr<ProcessingThread> thread_;
     bool awake_ = false;
     bool ending_ = false;
-    bool failed_ = false;  ///< an error has been shown, and the program is to end
+    bool failed_ = false;  ///< an error has been shown, and the program is about to end
     int exitCode_ = 0;
 };
 

@@ -1,4 +1,4 @@
-// Both ways out, and the one that an error takes.
+// The ways to end the program: saving, leaving, and an error.
 #include "app/GlobalManager.h"
 #include "app/InterfaceTexts.h"
 
@@ -49,7 +49,7 @@ void GlobalManager::slot_getKXAPIErrorAndQuit(const QString& message) {
     const bool storable = workflow_.records().anyAccepted();
     if (!storable) beginEnding();
     endProcessing(storable ? Stop::ToSave : Stop::ToLeave);
-    updates_.release();  // nothing may be installed while the message waits for its reader
+    updates_.release();  // an update must not be installed while the message is shown
     if (!storable) stayAwake(false);
     environment_.showCritical(kErrorTitle, message);
     if (storable) {

@@ -17,27 +17,27 @@ class ColorImageRendererItem;
 class DepthColorOverlayRenderer;
 class InfraredImageRendererItem;
 
-/// The five picture views of the interface: which is shown when, and what it shows. Main thread unless told otherwise.
-/// The views themselves belong to the interface.
+/// The five image views of the interface, which the interface owns. This class decides which one is shown in which
+/// state, and what it shows. Main thread, unless stated otherwise.
 class ImageViews {
 public:
-    /// By object name. A view that is not there is logged as critical, and null.
+    /// Finds the views by object name. A missing view is logged as critical and stays null.
     void findIn(const QObject& root);
     bool complete() const;
-    /// `calibrator` outlives the views.
+    /// `calibrator` must outlive the views.
     void setCalibrator(vq::ICalibrator* calibrator);
     DepthColorOverlayRenderer* refinementView() const { return refinement_; }
 
-    /// What a state shows; states that say nothing about it leave the views as they are.
+    /// Shows the views of a state. States without views of their own leave them unchanged.
     void showFor(State state);
-    /// The introduction shows pictures as soon as there are any.
+    /// Makes the introduction show images once they are available.
     void switchIntroductionOn();
 
-    /// A frame set for the views of the state. One thread, any.
+    /// Sets a frame set for the views of the state. From one thread, which may be any.
     void setFrames(State state, ColourCamera camera, const FrameRecords& frames);
-    /// What was found for a camera. Any thread.
+    /// Sets the result for a camera. Any thread.
     void setCalibration(ColourCamera camera, const CameraParameters& factory, const Rotation& estimated);
-    /// The next step of the demonstration that the tutorial gives. One thread, any.
+    /// Shows the next step of the tutorial's demonstration. From one thread, which may be any.
     void swingTutorial();
     /// Any thread.
     void stopTutorial();

@@ -5,7 +5,7 @@
 namespace fieldcal {
 
 QString interfaceText(const char* english) {
-    // An empty text would give the translation file's own description.
+    // Translating an empty text would return the header of the translation file.
     return *english == '\0' ? QString() : QCoreApplication::translate("Interface", english);
 }
 

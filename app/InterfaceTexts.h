@@ -5,10 +5,10 @@
 
 namespace fieldcal {
 
-/// A text of the interface in the user's language; as it is where there is no translation. Any thread.
+/// Returns a text of the interface in the user's language, or unchanged where there is no translation. Any thread.
 QString interfaceText(const char* english);
 
-/// What the application itself says; the workflow has texts of its own.
+/// Texts of the application; the workflow has its own.
 namespace texts {
 
 constexpr const char* kContinue = QT_TRANSLATE_NOOP("Interface", "Continue");

@@ -9,7 +9,7 @@
 namespace fieldcal {
 namespace {
 
-std::mutex theMutex;  // of the log and its file: a thread may log while the program ends
+std::mutex theMutex;  // guards the log and its file: a thread may log while the program ends
 LogFile* theLog = nullptr;
 
 const char* levelName(QtMsgType type) {
@@ -53,7 +53,7 @@ void LogFile::receive(QtMsgType type, const QMessageLogContext& context, const Q
         previous = theLog->previous_;
         theLog->write(type, text);
     }
-    // Last: after a fatal message it does not return.
+    // This call comes last, because it does not return after a fatal message.
     previous(type, context, text);
 }
 

@@ -6,15 +6,16 @@
 
 namespace fieldcal {
 
-/// While it lives, every message of Qt's also goes into a file, with its time and its level; what is installed already
-/// (standard error) gets it as before. A full file is kept under a number, and the oldest is dropped. One at a time;
-/// messages come from any thread. A file that cannot be written is said once, on standard error.
+/// While an instance exists, every message of Qt is also written to a file with its time and level; the message handler
+/// installed before (standard error) still receives it. A full file is renamed with a number, and the oldest one is
+/// deleted. Only one instance may exist at a time; messages may come from any thread. Failure to write the file is
+/// reported once on standard error.
 class LogFile {
 public:
     static constexpr qint64 kFullBytes = 1024 * 1024;
     static constexpr int kKeptFiles = 3;
 
-    /// `folder/field-calibrator.log`; older ones end in `.1` to `.3`.
+    /// Writes to `folder/field-calibrator.log`; older files end in `.1` to `.3`.
     explicit LogFile(const QString& folder);
     ~LogFile();
     LogFile(const LogFile&) = delete;

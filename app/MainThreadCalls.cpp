@@ -13,7 +13,8 @@ void MainThreadCalls::call(std::function<void()> work) {
         work();
         return;
     }
-    // Together, so that the events come in the order of their work whoever else calls.
+    // Both steps are made under the lock, so that the order of the events matches the order of their work when several
+    // threads call.
     const std::lock_guard lock(mutex_);
     waiting_.push_back(std::move(work));
     QCoreApplication::postEvent(this, new QEvent(QEvent::User));

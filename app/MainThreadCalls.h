@@ -8,8 +8,9 @@
 
 namespace fieldcal {
 
-/// Work for the thread that made this object, from any thread. From its own it is done at once; from another it is
-/// queued and never waited for, in one order with the signals that the other thread emits.
+/// Executes work on the thread that created this object, on behalf of any thread. A call from the same thread is
+/// executed at once; a call from another thread is queued without waiting, in one order with the signals of that
+/// thread.
 class MainThreadCalls : public QObject {
 public:
     void call(std::function<void()> work);
@@ -19,7 +20,7 @@ protected:
 
 private:
     std::mutex mutex_;
-    std::deque<std::function<void()>> waiting_;  ///< one for each event under way
+    std::deque<std::function<void()>> waiting_;  ///< one entry for each posted event
 };
 
 }  // namespace fieldcal

@@ -2,7 +2,8 @@
 
 namespace fieldcal {
 
-/// Keeps a tablet's screen in landscape as long as the program runs. Where the system cannot, an info line says so.
+/// Keeps the screen of a tablet in landscape while the program runs. Where the system does not support it, an info line
+/// is logged.
 void lockOrientation();
 
 }  // namespace fieldcal

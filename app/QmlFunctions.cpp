@@ -121,7 +121,7 @@ void QmlFunctions::showUpdateFailed(const QString& text, bool mayTryAgain) {
     call("showUpdateFailed", {text, mayTryAgain});
 }
 
-// The root belongs to the main thread; another thread does not even look at it.
+// The root belongs to the main thread and must not be accessed from another one.
 void QmlFunctions::call(const char* function, const QVariantList& arguments) {
     mainThread_.call([this, function, arguments] { callNow(function, arguments); });
 }

@@ -11,13 +11,13 @@
 
 namespace fieldcal {
 
-/// The functions of the interface's root document; what each does is told in `docs/interface-map.md`. Any thread: from
-/// another than the main one the calls are queued.
+/// The functions of the interface's root document, described in `docs/interface-map.md`. Any thread: calls from other
+/// threads than the main one are queued.
 class QmlFunctions {
 public:
     explicit QmlFunctions(MainThreadCalls& mainThread) : mainThread_(mainThread) {}
 
-    /// Before any call; main thread.
+    /// To be called before any other function; main thread.
     void setRoot(QObject* root) { root_ = root; }
 
     void setLeftToRightLanguage(bool leftToRight);
@@ -43,7 +43,7 @@ public:
     void showLastSaveFailed(const QString& text);
     void showCapturedPhoto(const QString& source);
     void showDetailMap(const QVariantList& areas);
-    /// Of the camera, upwards, to the right, and clockwise as seen from behind it.
+    /// Rotation of the camera in degrees: upwards, to the right, and clockwise as seen from behind the camera.
     void showFoundTurn(const QVariantList& anglesDeg, const QVariantMap& quality);
     void showUpdateOffer(const QString& version);
     void showUpdateProgress(qint64 receivedBytes, qint64 totalBytes);

@@ -6,19 +6,19 @@
 
 namespace fieldcal {
 
-/// Between the thread that has something to show and the one that shows it: at most one request is on its way.
+/// Limits the render requests from one thread to another: at most one request is pending at a time.
 class RenderPacer {
 public:
-    /// True: no request was on its way, now this one is, and the caller sends it.
+    /// Returns true when no request was pending. The new request is then pending, and the caller must send it.
     bool request() { return !pending_.exchange(true); }
-    /// The request has arrived.
+    /// To be called when the request has arrived.
     void arrived() { pending_ = false; }
-    /// Waits until it has, or until `close`.
+    /// Waits until the pending request has arrived, or until `close`.
     void wait() const {
         while (pending_ && !closed_)
             std::this_thread::sleep_for(std::chrono::milliseconds(3));
     }
-    /// Nobody waits any more.
+    /// Ends all present and future waits.
     void close() { closed_ = true; }
 
 private:

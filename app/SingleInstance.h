@@ -4,8 +4,8 @@
 
 namespace fieldcal {
 
-/// Held by the one running copy of the program, from its start to its end; the system lets go of it when the program
-/// dies. On Windows one copy runs on a machine, elsewhere one in a user's session.
+/// Held by the only running copy of the program, from its start to its end; the system releases it if the program
+/// crashes. On Windows there is one copy per machine, elsewhere one per user session.
 class SingleInstance {
 public:
     SingleInstance();
@@ -13,7 +13,7 @@ public:
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;
 
-    /// False: another copy holds it.
+    /// Returns false when another copy holds it.
     bool isFirst() const;
 
 private:

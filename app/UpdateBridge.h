@@ -7,7 +7,7 @@ namespace fieldcal {
 class GlobalManager;
 class QmlFunctions;
 
-/// Tells the interface of an update, in the user's words, and ends the program when an installer waits for that.
+/// Reports an update to the interface in the user's language, and ends the program when an installer waits for that.
 class UpdateBridge : public UpdateListener {
 public:
     UpdateBridge(GlobalManager& manager, QmlFunctions& functions) : manager_(manager), functions_(functions) {}

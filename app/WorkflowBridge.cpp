@@ -21,8 +21,8 @@ constexpr const char* verdictName(StoredRotation verdict) {
     }
 }
 
-/// As `docs/interface-map.md` tells it.
-QVariantMap told(const FoundTurn& turn) {
+/// The quality of a solution in the form that `docs/interface-map.md` describes.
+QVariantMap qualityMap(const FoundTurn& turn) {
     QVariantMap quality{{"verdict", verdictName(turn.verdict())}};
     if (!turn.quality) return quality;
     const std::array<double, 3>& deviation = turn.quality->deviationDeg;
@@ -46,7 +46,7 @@ void WorkflowBridge::requestRender() {
 }
 
 void WorkflowBridge::stateChanged(State state) {
-    // A last step of the demonstration may have come after the user's restart.
+    // A last step of the demonstration may have arrived after the user's restart.
     if (state == State::WaitingToCalibrate) views_.stopTutorial();
     emit manager_.signal_modifyUiToState(state);
 }
@@ -75,7 +75,7 @@ void WorkflowBridge::refining(State state) {
 void WorkflowBridge::solutionFound(ColourCamera camera, const CameraParameters& factory, const Rotation& estimated,
                                    const FoundTurn& turn) {
     views_.setCalibration(camera, factory, estimated);
-    functions_.showFoundTurn(QVariantList(turn.anglesDeg.begin(), turn.anglesDeg.end()), told(turn));
+    functions_.showFoundTurn(QVariantList(turn.anglesDeg.begin(), turn.anglesDeg.end()), qualityMap(turn));
 }
 
 void WorkflowBridge::singleCameraOnly() {

@@ -13,23 +13,23 @@ class ImageViews;
 class MainThreadCalls;
 class QmlFunctions;
 
-/// Brings what the workflow tells, on the processing thread, to the main thread: as the manager's queued signals, as
-/// queued calls, and as pictures for the views. Waits for the main thread only in `refining`.
+/// Forwards the output of the workflow from the processing thread to the main thread: as the manager's queued signals,
+/// as queued calls, and as images for the views. It waits for the main thread only in `refining`.
 class WorkflowBridge : public WorkflowListener {
 public:
     WorkflowBridge(GlobalManager& manager, MainThreadCalls& mainThread, QmlFunctions& functions, ImageViews& views);
 
-    // The main thread's.
+    // Called on the main thread.
     void renderRequestArrived() { pacer_.arrived(); }
-    /// Before the processing thread is waited for.
+    /// To be called before waiting for the processing thread to end.
     void stopWaiting() { pacer_.close(); }
     void animateTutorial(bool on) { tutorialAnimation_ = on; }
-    /// Until the module says otherwise, there is one.
+    /// True until the module reports that it has none.
     bool platformCameraPresent() const { return platformCamera_; }
-    /// For the interface's engine, which owns what it is given. Once.
+    /// Creates the provider for the interface's engine, which takes ownership. To be called once.
     QQuickImageProvider* makePhotoProvider() { return new PhotoProvider(photos_); }
 
-    // The processing thread's.
+    // Called on the processing thread.
     void stateChanged(State state) override;
     void framesReady(State state, ColourCamera camera, const FrameRecords& frames) override;
     void lightMeasured(const LightGate::Reading& reading) override;

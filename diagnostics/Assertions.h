@@ -13,6 +13,6 @@ namespace fieldcal {
 
 }  // namespace fieldcal
 
-/// For what a caller must guarantee; never for what hardware or files can do.
+/// For conditions that a caller must guarantee, never for failures of hardware or files.
 #define FIELDCAL_ASSERT(condition, ...) \
     ((condition) ? void(0) : ::fieldcal::assertFailure(__func__, __FILE__, __LINE__, #condition, __VA_ARGS__))

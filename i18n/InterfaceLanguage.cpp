@@ -5,7 +5,7 @@
 namespace fieldcal {
 namespace {
 
-/// What may follow the bare language: a script, a dialect, a region.
+/// Removes a script, a dialect or a region that follows the name of the language.
 QString cutVariant(const QString& language) {
     static const QString kSeparators = QStringLiteral("[({-_ ");
     for (int i = 0; i < language.size(); ++i)
@@ -42,7 +42,7 @@ QString nameFor(const SystemLanguage& user) {
 
 QString translationName(const QString& language, const QString& country) {
     QString name = QString(cutVariant(language) + "_" + country).remove(' ');
-    // "Hong Kong SAR China", as some systems say.
+    // Some systems report "Hong Kong SAR China".
     if (name.endsWith(QLatin1String("SARChina"))) name.chop(5);
     return name;
 }

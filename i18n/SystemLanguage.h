@@ -6,7 +6,7 @@
 
 namespace fieldcal {
 
-/// English names of the user's interface language and of its country; none where the system does not say.
+/// English names of the user's interface language and of its country; none where the system does not report them.
 struct SystemLanguage {
     std::optional<QString> language;
     std::optional<QString> country;

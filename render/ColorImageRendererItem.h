@@ -4,7 +4,7 @@
 
 namespace fieldcal {
 
-/// A colour camera's live picture. See `ImageItem` for where it is drawn and on which threads.
+/// The live image of a colour camera. `ImageItem` describes where it is drawn and which threads are involved.
 class ColorImageRendererItem : public ImageItem {
     Q_OBJECT
 public:

@@ -9,20 +9,20 @@
 namespace fieldcal {
 namespace {
 
-/// Of the picture over the depth, where there is depth: edges of both stay visible.
+/// Opacity of the image drawn over the depth, chosen so that edges of both stay visible.
 constexpr float kPictureOpacity = 0.4F;
-/// A little more than the distance between neighbours, which rotation and parallax vary.
+/// Slightly more than the distance between neighbouring points, because rotation and parallax vary that distance.
 constexpr double kPointOverlap = 1.05;
 
-// Share of the picture with depth below which there is too little, and above which there is enough again.
+// Depth is sparse below the first share of the image, and no longer sparse above the second.
 constexpr double kSparseBelow = 0.04;
 constexpr double kEnoughFrom = 0.06;
 
-constexpr float kHintHeight = 0.35F;  ///< of the area
+constexpr float kHintHeight = 0.35F;  ///< share of the area
 constexpr float kHintBottom = 0.9F;
-constexpr float kDragRangeDeg = 4;  ///< that a finger covers with half the width
+constexpr float kDragRangeDeg = 4;  ///< angle of a drag across half the width
 
-/// In addition to the pose's own rotation.
+/// Applies a rotation in addition to the pose's own.
 void turn(const std::array<float, 9>& rotation, OverlayPose* pose) {
     using Matrix = Eigen::Matrix<float, 3, 3, Eigen::RowMajor>;
     pose->topLeftCorner<3, 3>() = Eigen::Map<const Matrix>(rotation.data()) * pose->topLeftCorner<3, 3>().eval();
@@ -62,7 +62,7 @@ void DepthColorOverlayRenderer::setFrames(const ImageFrame32& colour, const Imag
 void DepthColorOverlayRenderer::judgeDepth(std::size_t points, std::size_t pixels) {
     const double share = static_cast<double>(points) / static_cast<double>(pixels);
     const bool sparse = share < (depthSparse_ ? kEnoughFrom : kSparseBelow);
-    // Interfaces listen on the main thread only.
+    // The signal is sent on the main thread, because the interface listens only there.
     if (depthSparse_.exchange(sparse) != sparse)
         QMetaObject::invokeMethod(this, "depthSparseChanged", Qt::QueuedConnection);
 }
@@ -136,12 +136,12 @@ void DepthColorOverlayRenderer::drawContents(FixedFunctionGl& gl) {
     const double pixelSize = depthPixelSize(scene.cameras, area.width(), area.height());
     cloudBuffer_.draw(gl, overlayProjection(scene.cameras, scene.pose),
                       static_cast<float>(std::ceil(kPointOverlap * pixelSize)));
-    // The picture once more on top, instead of transparent points: where points overlap, nothing adds up.
+    // The image is drawn again on top. Transparent points would add up where they overlap.
     texture().draw(gl, kPictureOpacity);
     if (tutorialDrawn_ && hint_.exists()) drawHint(gl, scene.demonstrationDeg);
 }
 
-/// The finger's travel is the one that would turn the overlay as far as it is turned.
+/// The hint moves by the travel of a drag that would rotate the overlay by the demonstrated angle.
 void DepthColorOverlayRenderer::drawHint(FixedFunctionGl& gl, double demonstrationDeg) const {
     const float middle = static_cast<float>(demonstrationDeg) / kDragRangeDeg;
     const float aspect = static_cast<float>(tutorial_.hint.width()) / static_cast<float>(tutorial_.hint.height());

@@ -17,35 +17,36 @@ class ICalibrator;
 
 namespace fieldcal {
 
-/// Depth in colours over a colour camera's picture, and the drag that corrects the rotation between the two.
-/// Hidden at construction. See `ImageItem` for where it is drawn.
+/// Draws coloured depth over a colour camera's image, and handles the drag that corrects the rotation between the two.
+/// Hidden at construction. `ImageItem` describes where it is drawn.
 class DepthColorOverlayRenderer : public ImageItem {
     Q_OBJECT
-    /// Degrees about the vertical axis that the finger has added to the rotation that was found.
+    /// The rotation about the vertical axis that the drag has added to the estimated rotation, in degrees.
     Q_PROPERTY(double correctionDeg READ correctionDeg NOTIFY correctionDegChanged)
-    /// True: depth is shown as the module's stored calibration has it, without the new rotation.
+    /// When true, depth is drawn with the module's stored calibration instead of the new rotation.
     Q_PROPERTY(bool storedShown READ storedShown WRITE setStoredShown NOTIFY storedShownChanged)
-    /// Hardly any of the picture has depth, so that there is nothing to align.
+    /// True when hardly any of the image has depth, so that there is nothing to align.
     Q_PROPERTY(bool depthSparse READ depthSparse NOTIFY depthSparseChanged)
 public:
     explicit DepthColorOverlayRenderer(QQuickItem* parent = nullptr);
 
-    /// The engine that drags and knows the rotation. Must outlive the item; before it is set, and with null, touches do
-    /// nothing. Main thread.
+    /// Sets the engine that handles the drag and provides the rotation. It must outlive the item. Until it is set, and
+    /// with null, touches have no effect. Main thread.
     void setCalibrator(vq::ICalibrator* calibrator) { calibrator_ = calibrator; }
 
-    /// Cameras and rotation to draw with from now on; before, the picture stays without depth. Any thread.
+    /// Sets the cameras and the rotation to draw with. Until it is called, no depth is drawn. Any thread.
     void setCalibration(const OverlayCalibration& calibration);
-    /// Live images; depth is in millimetres. An empty frame changes nothing, and neither does any while the stored
-    /// calibration is shown. One thread, any.
+    /// Sets the live images; depth is in millimetres. An empty frame is ignored, and so is every frame while the stored
+    /// calibration is shown. From one thread, which may be any.
     void setFrames(const ImageFrame32& colour, const ImageFrame16& depth);
 
-    /// The tutorial shows stored pictures and the hint instead of live frames. Where the pictures are missing, which is
-    /// logged, the live ones stay. The first time loads the files. Any thread.
+    /// Shows the tutorial's stored images and the hint instead of live frames. If the images are missing, which is
+    /// logged, the live ones stay. The first call loads the files. Any thread.
     void setTutorialMode(bool on);
-    /// Row-major. Turns the overlay in addition to its rotation until the tutorial mode is switched off. Any thread.
+    /// Sets a row-major rotation that is added to the overlay's own rotation until the tutorial mode is switched off.
+    /// Any thread.
     void setDemonstrationRotation(const std::array<float, 9>& rotation);
-    /// Before the first use of the tutorial mode.
+    /// To be called before the tutorial mode is first used.
     void setTutorialFiles(const TutorialFiles& files) { tutorialFiles_ = files; }
 
     double correctionDeg() const { return correctionDeg_; }
@@ -73,7 +74,7 @@ protected:
     void releaseMore(FixedFunctionGl& gl) override;
 
 private:
-    /// Of one painting.
+    /// The cameras and pose of one paint operation.
     struct Scene {
         OverlayCalibration cameras;
         OverlayPose pose;
@@ -84,7 +85,7 @@ private:
     void showTutorial();
     void judgeDepth(std::size_t points, std::size_t pixels);
     void setCorrectionDeg(double degrees);
-    /// False: without cameras there is no depth to draw.
+    /// Returns false when there are no cameras yet, so that no depth can be drawn.
     bool currentScene(Scene* scene);
     void drawHint(FixedFunctionGl& gl, double demonstrationDeg) const;
 
@@ -95,22 +96,22 @@ private:
     std::atomic<bool> depthSparse_{false};
 
     std::mutex poseLock_;
-    OverlayCalibration calibration_;  ///< this and the next three: under the pose lock
+    OverlayCalibration calibration_;  ///< this and the next three: guarded by the pose lock
     bool calibrated_ = false;
     OverlayPose pose_ = OverlayPose::Identity();
     std::array<float, 9> demonstration_ = kNoRotation;
 
     TutorialFiles tutorialFiles_;
-    TutorialPictures tutorial_;  ///< this and the next six: under the frame lock; loaded once
+    TutorialPictures tutorial_;  ///< this and the next six: guarded by the frame lock; loaded once
     OverlayCalibration tutorialCameras_;
     bool tutorialLoaded_ = false;
-    bool tutorialOn_ = false;  ///< and its pictures are there
+    bool tutorialOn_ = false;  ///< the mode is on and its images are loaded
     std::vector<DepthPoint> cloud_;
     bool newCloud_ = false;
     bool cloudIsTutorial_ = false;
-    std::vector<DepthPoint> freshCloud_;  ///< of the thread that hands frames over
+    std::vector<DepthPoint> freshCloud_;  ///< used on the thread that sets the frames
 
-    DepthCloudBuffer cloudBuffer_;  ///< from here on: render thread
+    DepthCloudBuffer cloudBuffer_;  ///< from here on: used on the render thread
     PictureTexture hint_;
     bool tutorialDrawn_ = false;
 };

@@ -11,7 +11,7 @@ using Rgba = std::array<std::uint8_t, 4>;
 
 constexpr double kDegree = 3.14159265358979323846 / 180;
 
-/// Lightness, chroma and hue in a space whose distances follow the eye (Björn Ottosson's Oklab, 2020).
+/// Lightness, chroma and hue in a perceptually uniform colour space (Björn Ottosson's Oklab, 2020).
 struct PerceivedColour {
     double lightness;
     double chroma;

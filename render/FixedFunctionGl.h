@@ -6,14 +6,15 @@ namespace fieldcal {
 
 using FixedFunctionGl = QOpenGLFunctions_2_1;
 
-/// Asks Qt for desktop OpenGL with depth and stencil. Before the application object is constructed.
+/// Requests desktop OpenGL with depth and stencil buffers from Qt. To be called before the application object is
+/// constructed.
 void requestDesktopOpenGL();
 
-/// The fixed-function pipeline of the current context. Null where it has none, which is logged once as critical.
-/// Render thread.
+/// Returns the fixed-function pipeline of the current context. Returns null where the context has none, which is logged
+/// once as critical. Render thread.
 FixedFunctionGl* fixedFunctionGl();
 
-/// Keeps the attributes, server's and client's, for a scope.
+/// Saves the server's and the client's attributes, and restores them at the end of the scope.
 class GlAttributes {
 public:
     explicit GlAttributes(FixedFunctionGl& gl);

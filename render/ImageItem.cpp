@@ -35,7 +35,8 @@ void ImageItem::followWindow(QQuickWindow* window) {
     if (followed_ != nullptr) followed_->disconnect(this);
     followed_ = window;
     if (window == nullptr) return;
-    // Both come from the render thread; during the first the main thread waits, so that geometry may be read.
+    // Both signals come from the render thread. The main thread waits during the first one, so its geometry may be
+    // read.
     connect(window, &QQuickWindow::beforeSynchronizing, this, &ImageItem::takeGeometry, Qt::DirectConnection);
     connect(window, &QQuickWindow::sceneGraphInvalidated, this, &ImageItem::releaseGraphics, Qt::DirectConnection);
     window->setClearBeforeRendering(false);

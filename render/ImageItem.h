@@ -12,44 +12,44 @@
 
 namespace fieldcal {
 
-/// What the image items share: a picture that is handed over, and its painting underneath the interface.
+/// Base of the image items: receives an image and paints it underneath the interface.
 ///
-/// The picture fills the rectangle of the item's parent. The parent's y, taken as it stands, counts from the window's
-/// lower edge: a parent of height h whose y is y shows its picture between y and y + h above that edge. Where nothing
-/// is painted nothing is cleared either, so the interface has to cover the rest of the window.
-/// An item lives as long as its window. Flags and pictures: any thread.
+/// The image fills the rectangle of the item's parent. The parent's y is interpreted as counting from the lower edge of
+/// the window: a parent of height h at y shows its image between y and y + h above that edge. Areas without a painted
+/// image are not cleared, so the interface has to cover the rest of the window. An item lives as long as its window.
+/// Flags and images: any thread.
 class ImageItem : public QQuickItem {
     Q_OBJECT
 public:
-    /// Painted, with its picture.
+    /// Paints the item with its image.
     void show();
-    /// Not painted, and its rectangle not cleared.
+    /// Neither paints the item nor clears its rectangle.
     void hide();
-    /// Non-zero: painting happens.
+    /// Painting is enabled when the value is not zero.
     void setPaintEnabled(int enabled) { paintEnabled_ = enabled; }
     int paintEnabled() const { return paintEnabled_; }
-    /// False: the rectangle is only cleared to black.
+    /// When false, the rectangle is only cleared to black.
     void setDrawFlag(bool draw) { drawFlag_ = draw; }
     bool drawFlag() const { return drawFlag_; }
 
 protected:
     explicit ImageItem(QQuickItem* parent);
 
-    /// Copies a picture for the next painting; an empty one is ignored. Asks for no repaint: whoever hands pictures
-    /// over asks the window once for all of them.
+    /// Copies an image for the next painting; an empty one is ignored. No repaint is requested, because the caller
+    /// requests one repaint of the window for all images.
     void handOver(const ImageFrame32& picture);
-    /// The same for a caller who holds the frame lock.
+    /// The same for a caller that holds the frame lock.
     void takePicture(const ImageFrame32& picture);
     void requestRepaint();
-    /// Leaves the window that was followed before. Main thread.
+    /// Follows this window instead of the previous one. Main thread.
     void followWindow(QQuickWindow* window);
-    /// Render thread, from `beforeRendering`.
+    /// Called on the render thread from `beforeRendering`.
     void paint();
 
-    /// Steps of `paint` for items that draw more than their picture. The first is called with the frame lock held.
+    /// Steps of `paint` for items that draw more than their image. The first one is called with the frame lock held.
     virtual void uploadMore(FixedFunctionGl&) {}
     virtual void drawContents(FixedFunctionGl& gl);
-    /// The context is about to go, and with it what was made in it.
+    /// Called before the context is destroyed, to release the objects created in it.
     virtual void releaseMore(FixedFunctionGl&) {}
 
     const PictureTexture& texture() const { return texture_; }
@@ -64,8 +64,8 @@ private:
     void clear(FixedFunctionGl& gl) const;
 
     std::mutex frameLock_;
-    ImageFrame32 picture_;   ///< under the lock
-    bool newFrame_ = false;  ///< under the lock
+    ImageFrame32 picture_;   ///< guarded by the lock
+    bool newFrame_ = false;  ///< guarded by the lock
     std::atomic<bool> drawFlag_{true};
     std::atomic<int> paintEnabled_{1};
     PictureTexture texture_;

@@ -4,13 +4,13 @@
 
 namespace fieldcal {
 
-/// The infrared camera's live picture, brightened for the eye. See `ImageItem`.
+/// The infrared camera's live image, brightened for display. See `ImageItem`.
 class InfraredImageRendererItem : public ImageItem {
     Q_OBJECT
 public:
     explicit InfraredImageRendererItem(QQuickItem* parent = nullptr);
 
-    /// 0..1023. One thread, any.
+    /// 0..1023. From one thread, which may be any.
     void setFrame(const ImageFrame16& frame);
 
     Q_SLOT void slot_initializeGL();
@@ -20,7 +20,7 @@ public:
     Q_SLOT void slot_handleWindowChanged(QQuickWindow* window);
 
 private:
-    ImageFrame32 visible_;  ///< kept for its memory
+    ImageFrame32 visible_;  ///< a member so that its memory is reused
 };
 
 }  // namespace fieldcal

@@ -8,13 +8,13 @@ namespace fieldcal {
 
 constexpr std::array<float, 9> kNoRotation{1, 0, 0, 0, 1, 0, 0, 0, 1};
 
-/// What the overlay needs to bring depth into one colour camera's picture.
+/// The calibration that the overlay needs to project depth into one colour camera's image.
 struct OverlayCalibration {
     CameraModel depth;
     CameraModel colour;
     ColourScaling scaling;
-    CameraExtrinsics stored;                       ///< depth to colour, as the module holds it
-    std::array<float, 9> estimated = kNoRotation;  ///< the rotation that was found; row-major
+    CameraExtrinsics stored;                       ///< depth to colour, as stored in the module
+    std::array<float, 9> estimated = kNoRotation;  ///< the estimated rotation; row-major
 };
 
 OverlayCalibration overlayCalibration(const CameraParameters& parameters, ColourCamera camera,

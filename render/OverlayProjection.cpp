@@ -8,7 +8,7 @@
 namespace fieldcal {
 namespace {
 
-/// (x·z, y·z, z, 1) of a depth pixel to the point in space.
+/// Maps (x·z, y·z, z, 1) of a depth pixel to its point in space.
 Eigen::Matrix4d unprojection(const CameraModel& camera) {
     Eigen::Matrix4d matrix = Eigen::Matrix4d::Identity();
     matrix(0, 0) = 1.0 / camera.fx;
@@ -18,8 +18,8 @@ Eigen::Matrix4d unprojection(const CameraModel& camera) {
     return matrix;
 }
 
-/// A point before the colour camera to clip coordinates. The picture's edges lie half a pixel outside the outermost
-/// pixels' centres.
+/// Maps a point in front of the colour camera to clip coordinates. The edges of the image lie half a pixel outside the
+/// centres of the outermost pixels.
 Eigen::Matrix4d projection(const CameraModel& camera, const ColourScaling& scaling) {
     const double width = static_cast<double>(scaling.x) * camera.width;
     const double height = static_cast<double>(scaling.y) * camera.height;

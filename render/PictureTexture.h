@@ -13,14 +13,14 @@ struct QuadCorners {
     float bottom = 1;
 };
 
-/// One OpenGL texture with a picture's pixels. Everything on the render thread, with the context current.
+/// An OpenGL texture with an image's pixels. Everything on the render thread, with the context current.
 class PictureTexture {
 public:
     bool exists() const { return name_ != 0; }
-    /// Creates the texture when there is none, and replaces size and pixels. An empty picture is ignored.
+    /// Creates the texture if needed, and replaces size and pixels. An empty image is ignored.
     void upload(FixedFunctionGl& gl, const ImageFrame32& picture);
-    /// Draws the picture with its first row at the top. Attributes are the caller's to keep; the matrices are changed.
-    /// `opacity` below 1 blends with what is there; below 1 or not, `blend` does it by the picture's own alpha.
+    /// Draws the image with its first row at the top. The caller saves the attributes; the matrices are changed. An
+    /// `opacity` below 1 blends with the present content; `blend` blends by the image's own alpha in addition.
     void draw(FixedFunctionGl& gl, float opacity = 1, bool blend = false, const QuadCorners& corners = {}) const;
     void release(FixedFunctionGl& gl);
 

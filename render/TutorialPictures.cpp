@@ -24,7 +24,7 @@ struct RawPicture {
     QByteArray pixels;
 };
 
-/// Empty when the file is missing, which is logged as `missing`, or is not such a picture.
+/// Returns an empty image when the file does not exist, which is logged as `missing`, or is not valid.
 RawPicture readRaw(const QString& path, qint64 bytesPerPixel, const char* missing) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {

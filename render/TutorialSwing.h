@@ -4,12 +4,12 @@
 
 namespace fieldcal {
 
-constexpr float kSwingStepRad = 0.07F;      ///< phase of the swing that one step of the animation adds
+constexpr float kSwingStepRad = 0.07F;      ///< phase added by one step of the animation
 constexpr float kSwingAmplitudeDeg = 1.5F;  ///< about the vertical axis, to both sides
 
-/// Angle of the demonstration at a step, degrees; 0 at step 0.
+/// Returns the angle of the demonstration at a step, degrees; 0 at step 0.
 float swingAngleDeg(int step);
-/// The same as a row-major rotation about Y.
+/// Returns the same angle as a row-major rotation about Y.
 std::array<float, 9> swingRotation(int step);
 
 }  // namespace fieldcal

@@ -13,17 +13,17 @@ constexpr int kBackgroundWidth = 320;
 constexpr std::size_t kMostVectors = 400;
 constexpr int kMedianColumns = 8, kMedianRows = 6;
 constexpr std::size_t kLeastForMedian = 10;
-/// The length of the vector of a median residual, and the longest one drawn, as shares of the image's width.
+/// Length of the vector of a median residual, and the largest length drawn, as shares of the image's width.
 constexpr double kMedianVectorShare = 0.025, kLongestVectorShare = 0.1;
 constexpr double kSmallestMedianPx = 1e-3;
 
 constexpr int kFirstDecade = -2, kLastDecade = 2, kBarsPerDecade = 8;
 constexpr int kBars = (kLastDecade - kFirstDecade) * kBarsPerDecade;
-/// The pictures without an image behind them, in units of their own.
+/// Size of the figures without an image, in their own units.
 constexpr double kWidth = 400, kHeight = 300, kAxisHeight = 34;
 constexpr double kLegendHeight = 44;
 
-/// Matches in an area below which it is thin, and from which on it is well covered.
+/// An area with fewer matches than the first number is thinly covered; from the second number on it is well covered.
 constexpr int kThinArea = 20, kFullArea = 100;
 
 QString number(double value) {
@@ -41,7 +41,7 @@ std::vector<Vector> vectorsOf(const vq::SolutionEvidence& evidence, const Eigen:
     return vectors;
 }
 
-/// The medians of the parts of the image that have enough matches.
+/// Returns the median vectors of those parts of the image that have enough matches.
 std::vector<Vector> medianVectors(const std::vector<Vector>& vectors, double width, double height) {
     struct Part {
         std::vector<double> x, y;

@@ -9,19 +9,19 @@
 
 namespace fieldcal {
 
-/// Lengths of the residuals that a rotation leaves, pixels.
+/// Returns the lengths of the residuals under a rotation, pixels.
 std::vector<double> residualLengthsPx(const vq::SolutionEvidence& evidence, const Eigen::Matrix3d& rotation);
 double medianPx(std::vector<double> lengthsPx);
 
-/// How much larger than the residuals their vectors are drawn: 1, 2 or 5 times a power of ten.
+/// Returns the factor by which the residuals are enlarged in the drawing: 1, 2 or 5 times a power of ten.
 double exaggeration(const vq::SolutionEvidence& evidence, const Eigen::Matrix3d& rotation);
 
-/// Residuals over the infrared image: some of the matches as thin vectors, and the median of each part of the image as
-/// a thick one.
+/// Draws residuals over the infrared image: some of the matches as thin vectors, and the median of each part of the
+/// image as a thick one.
 void drawResiduals(Markup* out, const vq::SolutionEvidence& evidence, const Eigen::Matrix3d& rotation);
-/// How many matches have residuals of which length, with the stored and with the new rotation.
+/// Draws histograms of the residuals' lengths with the stored and with the new rotation.
 void drawHistogram(Markup* out, const std::vector<double>& storedPx, const std::vector<double>& newPx);
-/// Matches of all stills in each area of the infrared image.
+/// Draws the number of matches of all stills in each area of the infrared image.
 void drawCoverage(Markup* out, const vq::SolutionEvidence& evidence);
 
 }  // namespace fieldcal

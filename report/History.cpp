@@ -50,7 +50,7 @@ QByteArray lineOf(const ServiceReport& report, const ReportedCamera& camera) {
     return fields.join(',').toUtf8() + '\n';
 }
 
-/// What is at the end of the file is whole lines afterwards, whatever happens.
+/// Appends whole lines. On a failure the file is truncated to its previous size.
 bool append(QFile* file, const QByteArray& lines) {
     if (!file->open(QIODevice::ReadWrite)) return false;
     const qint64 size = file->size();
@@ -58,7 +58,7 @@ bool append(QFile* file, const QByteArray& lines) {
     if (size == 0) {
         text.prepend(kHeader);
     } else if (!file->seek(size - 1) || file->read(1) != "\n") {
-        text.prepend('\n');  // after a line that was cut short
+        text.prepend('\n');  // ends a line that an earlier program left incomplete
     }
     if (file->seek(size) && file->write(text) == text.size() && file->flush()) return true;
     file->resize(size);
@@ -73,7 +73,7 @@ bool appendHistory(const QString& folder, const ServiceReport& report) {
         lines += lineOf(report, camera);
     const QString path = folder + "/history.csv";
     QFile file(path);
-    // Opening a pipe would wait for whoever reads from it.
+    // Opening a pipe would block until another process reads from it.
     const bool possible = QDir().mkpath(folder) && (!QFileInfo::exists(path) || QFileInfo(path).isFile());
     if (possible && append(&file, lines)) return true;
     qCritical("%s: the history of calibrations cannot be continued: %s", qUtf8Printable(path),

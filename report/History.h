@@ -4,8 +4,8 @@
 
 namespace fieldcal {
 
-/// Adds one line for each camera of a report to `history.csv` in the program's data folder, whose first line names the
-/// columns. Either all of them are added or none; false after logging why.
+/// Adds one line for each camera of a report to `history.csv` in the program's data folder; the first line of the file
+/// names the columns. Either all lines are added or none. Returns false after logging the reason.
 bool appendHistory(const QString& folder, const ServiceReport& report);
 
 }  // namespace fieldcal

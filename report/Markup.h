@@ -9,8 +9,8 @@
 
 namespace fieldcal {
 
-/// Writes HTML that is well-formed XML, too. Whatever text is given is escaped; characters that no document may hold
-/// are replaced.
+/// Writes HTML that is also well-formed XML. All text is escaped; characters that are not allowed in a document are
+/// replaced.
 class Markup {
 public:
     using Attributes = std::initializer_list<std::pair<const char*, QString>>;
@@ -22,7 +22,7 @@ public:
         writer_.writeStartElement(tag);
         addAttributes(attributes);
     }
-    /// An HTML element that is open must not be written as an empty one.
+    /// A non-void HTML element must not be written as an empty-element tag.
     void close() {
         writer_.writeCharacters("");
         writer_.writeEndElement();
@@ -33,7 +33,7 @@ public:
         text(content);
         close();
     }
-    /// An element of a picture, or one that HTML never closes.
+    /// Writes an SVG element without content, or a void HTML element.
     void leaf(const char* tag, Attributes attributes) {
         writer_.writeEmptyElement(tag);
         addAttributes(attributes);

@@ -10,16 +10,17 @@ namespace fieldcal {
 namespace {
 
 constexpr int kWindowStep = 16;
-/// Distances are interpolated on a coarse grid, from matches weighted by how near they are.
+/// Distances are interpolated on a coarse grid from the matches, weighted by their proximity.
 constexpr int kDistanceStep = 16;
 constexpr double kDistanceReachPx = 24;
 constexpr double kEdgeBlurPx = 0.9;
 constexpr double kContrastReachPx = 14;
-/// The strength of an edge that is drawn full, in mean strengths around it; and what weak surroundings count at least.
+/// The strength of an edge that is drawn at full intensity, relative to the mean strength around it; and the lower
+/// bound of that mean.
 constexpr double kFullEdge = 2.6;
 constexpr double kWeakestContrast = 6;
 
-/// Inverse depths, 1/m, over the whole infrared image.
+/// Interpolates inverse depths, 1/m, over the whole infrared image.
 cv::Mat interpolatedInverseDepth(const vq::SolutionEvidence& evidence) {
     const cv::Size size = evidence.infrared.size();
     cv::Mat coarse((size.height + kDistanceStep - 1) / kDistanceStep, (size.width + kDistanceStep - 1) / kDistanceStep,
@@ -44,7 +45,7 @@ cv::Mat interpolatedInverseDepth(const vq::SolutionEvidence& evidence) {
     return fine(cv::Rect({0, 0}, size));
 }
 
-/// The colour image as the infrared camera would see it.
+/// Projects the colour image into the view of the infrared camera.
 cv::Mat colourInWindow(const vq::SolutionEvidence& evidence, const Eigen::Matrix3d& rotation, const cv::Rect& window) {
     const cv::Mat inverseDepth = interpolatedInverseDepth(evidence);
     cv::Mat places(window.size(), CV_32FC2);
@@ -62,7 +63,7 @@ cv::Mat colourInWindow(const vq::SolutionEvidence& evidence, const Eigen::Matrix
     return seen;
 }
 
-/// The strength of edges, 0 to 255, where the contrast around counts for as much as that of other places.
+/// Returns the strength of edges, 0 to 255, normalised by the contrast around them.
 cv::Mat edgesOf(const cv::Mat& image) {
     cv::Mat smooth, dx, dy, strength, around;
     cv::GaussianBlur(image, smooth, {0, 0}, kEdgeBlurPx);
@@ -72,7 +73,7 @@ cv::Mat edgesOf(const cv::Mat& image) {
     cv::GaussianBlur(strength, around, {0, 0}, kContrastReachPx);
     cv::Mat drawn;
     cv::divide(strength, kFullEdge * (around + kWeakestContrast), drawn);
-    // Squared, so that noise stays pale.
+    // Squaring suppresses noise.
     cv::multiply(drawn, drawn, drawn);
     drawn.convertTo(drawn, CV_8U, 255);
     return drawn;

@@ -7,18 +7,19 @@
 
 namespace fieldcal {
 
-/// The part of the shown still's infrared image, of the given size at most, in which most of its matches lie.
+/// Returns the part of the displayed still's infrared image, at most of the given size, that contains most of its
+/// matches.
 cv::Rect mostDetailedWindow(const vq::SolutionEvidence& evidence, const cv::Size& size);
 
-/// Edges of the infrared image in red and those of the colour image, brought into the infrared geometry by a rotation,
-/// in cyan, on white: where both lie on each other, they are dark. Parallax is taken out by the distances of the
-/// matches around.
+/// Draws on white the edges of the infrared image in red, and those of the colour image, projected into the infrared
+/// geometry with a rotation, in cyan. Coinciding edges appear dark. Parallax is removed with the distances of the
+/// matches nearby.
 QImage edgeOverlay(const vq::SolutionEvidence& evidence, const Eigen::Matrix3d& rotation, const cv::Rect& window);
 
-/// The infrared image, made smaller until it is no wider than `width`.
+/// Returns the infrared image, reduced if it is wider than `width`.
 QImage smallInfrared(const vq::SolutionEvidence& evidence, int width);
 
-/// The image as PNG in a data URI.
+/// Returns the image as PNG in a data URI.
 QString dataUri(const QImage& image);
 
 }  // namespace fieldcal

@@ -12,7 +12,7 @@ namespace fieldcal {
 bool writeReport(const QString& path, const ServiceReport& report, QString* why) {
     const QByteArray page = reportPage(report);
     QSaveFile file(path);
-    // Flushed before it is committed, which by itself would not notice a disk that is full.
+    // The explicit flush detects a full disk, which `commit` alone does not report.
     const bool written = file.open(QIODevice::WriteOnly) && file.write(page) == page.size() && file.flush() &&
                          file.size() == page.size() && file.commit();
     if (!written) *why = path + ": " + file.errorString();

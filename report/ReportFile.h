@@ -4,12 +4,12 @@
 
 namespace fieldcal {
 
-/// Writes the report as one HTML file that needs no other. An earlier file of that name is replaced completely or not
-/// at all. False, and one line in `why`, when it cannot be written.
+/// Writes the report as one self-contained HTML file. An existing file is replaced completely or not at all. Returns
+/// false, with one line in `why`, when the file cannot be written.
 bool writeReport(const QString& path, const ServiceReport& report, QString* why);
 
-/// After a save: the report goes into `reports/` of the program's data folder, named after module and time, and its
-/// cameras into the history. What cannot be written costs a log line each.
+/// To be called after a save: writes the report into `reports/` of the program's data folder, named after module and
+/// time, and adds its cameras to the history. Each failure to write is logged in one line.
 void keepReport(const QString& folder, const ServiceReport& report);
 
 }  // namespace fieldcal

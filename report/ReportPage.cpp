@@ -10,8 +10,8 @@
 namespace fieldcal {
 namespace {
 
-/// Everything has its size in millimetres, so that one camera and two fill one page of A4 or Letter paper. No character
-/// of it may be one that XML escapes, since HTML takes the text of a style as it stands.
+/// All sizes are in millimetres, so that one camera and two fill one page of A4 or Letter paper. The style must not
+/// contain characters that XML escapes, because HTML does not unescape the text of a style element.
 constexpr char kStyle[] = R"(
 @page { margin: 10mm }
 * { box-sizing: border-box }
@@ -58,11 +58,11 @@ svg text { font-size: 19px; fill: #3c4652 } svg text.count { font-size: 30px; fi
 .thin { fill: #f3c1bd } .some { fill: #f6e3a6 } .full { fill: #bfe3ca }
 )";
 
-/// Pixels of the pictures that are made larger on the page.
+/// Size in pixels of the image sections that are enlarged on the page.
 constexpr int kWindowWidth = 320, kWindowHeight = 240;
 constexpr int kSmallWindowWidth = 240, kSmallWindowHeight = 180;
 
-/// Four decimals, and no minus before nothing.
+/// Formats an angle with four decimals, without a minus sign in front of zero.
 QString degrees(double value) {
     const QString text = QString::number(value, 'f', 4);
     return (text == "-0.0000" ? QString("0.0000") : text) + QChar(0xB0);

@@ -6,7 +6,7 @@
 
 namespace fieldcal {
 
-/// The report as an HTML document: one page, English, with its pictures inside, under 2 MB.
+/// Returns the report as an HTML document: one page, in English, with embedded images, under 2 MB.
 QByteArray reportPage(const ServiceReport& report);
 
 }  // namespace fieldcal

@@ -20,7 +20,7 @@ Eigen::Vector3d anglesDegOf(const Eigen::Matrix3d& rotation) {
 }
 
 double turnDeg(const Eigen::Matrix3d& from, const Eigen::Matrix3d& to) {
-    // By way of a quaternion, which keeps small angles.
+    // The quaternion preserves small angles, which the arc cosine of the trace would lose.
     const Eigen::Quaterniond turn(Eigen::Matrix3d(to * from.transpose()));
     return Eigen::AngleAxisd(turn.normalized()).angle() * vq::kDegreesPerRadian;
 }

@@ -15,28 +15,28 @@
 
 namespace fieldcal {
 
-/// What a calibration of one colour camera came to. Rotations: depth to colour.
+/// The result of a calibration of one colour camera. Rotations: depth to colour.
 struct ReportedCamera {
     ColourCamera camera = ColourCamera::Third;
-    Eigen::Matrix3d stored = Eigen::Matrix3d::Identity();    ///< what the module held before
-    Eigen::Matrix3d found = Eigen::Matrix3d::Identity();     ///< what the engine found
-    Eigen::Matrix3d accepted = Eigen::Matrix3d::Identity();  ///< the same, or as the user has moved it
-    std::optional<vq::SolutionQuality> quality;              ///< of the found rotation
+    Eigen::Matrix3d stored = Eigen::Matrix3d::Identity();    ///< as stored in the module before
+    Eigen::Matrix3d found = Eigen::Matrix3d::Identity();     ///< as estimated by the engine
+    Eigen::Matrix3d accepted = Eigen::Matrix3d::Identity();  ///< as accepted by the user, possibly after a drag
+    std::optional<vq::SolutionQuality> quality;              ///< of the estimated rotation
     std::optional<vq::SolutionEvidence> evidence;
     vq::ParallaxReport parallax;
 
     bool movedByHand() const;
 };
 
-/// What a write into the module's flash came to.
+/// The result of a write into the module's flash.
 struct ReportedWrite {
     bool stored = false;  ///< the module has confirmed it
-    QString flash;        ///< what the flash held when it was read again
+    QString flash;        ///< the content of the flash when it was read back
     QString reason;       ///< why it failed; empty otherwise
-    QString backupFile;   ///< where the previous parameter block is kept; may be empty
+    QString backupFile;   ///< file with the previous parameter block; may be empty
 };
 
-/// Everything that a report tells.
+/// The content of a report.
 struct ServiceReport {
     QDateTime time;
     QString program;  ///< name and version
@@ -44,12 +44,12 @@ struct ServiceReport {
     QString firmware;
     QString source;  ///< the recording that was played; empty for the connected module
     std::vector<ReportedCamera> cameras;
-    std::optional<ReportedWrite> write;  ///< none when nothing was to be written
+    std::optional<ReportedWrite> write;  ///< none when there was nothing to write
 };
 
-/// About X, Y and Z, degrees.
+/// Returns the angles about X, Y and Z, degrees.
 Eigen::Vector3d anglesDegOf(const Eigen::Matrix3d& rotation);
-/// The angle of the turn from one rotation to the other, degrees.
+/// Returns the angle of the rotation between the two, degrees.
 double turnDeg(const Eigen::Matrix3d& from, const Eigen::Matrix3d& to);
 
 }  // namespace fieldcal

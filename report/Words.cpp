@@ -101,7 +101,7 @@ QString writeText(const ServiceReport& report) {
     QString text = write.stored ? QString("Written into the camera and read back. ")
                                 : QString("NOT STORED: %1 ").arg(write.reason);
     text += write.flash;
-    // Where the flash is in doubt, its own text names the file.
+    // If the content of the flash is uncertain, its own text already names the file.
     if (!write.backupFile.isEmpty() && !write.flash.contains(write.backupFile))
         text += " The previous calibration is kept in " + write.backupFile;
     return text;

@@ -5,11 +5,11 @@
 namespace fieldcal {
 
 QString cameraName(const ReportedCamera& camera);
-/// How far the camera has turned, and the proof in short.
+/// Describes the rotation of the camera and the hold-out proof in short.
 QString summaryText(const ReportedCamera& camera);
-/// What the proof came to.
+/// Describes the result of the hold-out proof.
 QString proofText(const std::optional<vq::SolutionQuality>& quality);
-/// Whether a rotation explains the photos.
+/// Describes whether a rotation alone explains the photos.
 QString modelText(const vq::ModelCheck& model);
 QString distancesText(const vq::ParallaxReport& parallax);
 QString photosText(const vq::SolutionEvidence& evidence);

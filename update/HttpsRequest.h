@@ -6,7 +6,8 @@ namespace fieldcal {
 
 struct UpdateEnvironment;
 
-/// Follows a few redirects, and only to HTTPS; certificates are verified; what comes is not unpacked on the way.
+/// Creates a request that follows a limited number of redirects, to HTTPS only, verifies certificates, and does not
+/// decompress the content.
 QNetworkRequest httpsRequest(const QUrl& url, const UpdateEnvironment& environment);
 
 }  // namespace fieldcal

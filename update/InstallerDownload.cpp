@@ -20,7 +20,7 @@ int statusOf(const QNetworkReply& reply) {
 constexpr int kOk = 200, kPartialContent = 206;
 constexpr int kRequestTimeout = 408, kRangeRefused = 416, kTooMany = 429, kServerError = 500;
 
-/// An answer that another attempt may change.
+/// Returns whether another attempt may succeed after this answer.
 bool isPassing(int status) {
     return status == kRequestTimeout || status == kRangeRefused || status == kTooMany || status >= kServerError;
 }
@@ -158,10 +158,10 @@ bool InstallerDownload::append(const QByteArray& bytes) {
 
 void InstallerDownload::tryAgain(const QString& why) {
     dropReply();
-    if (file_->size() > furthest_) attempts_ = 0;
-    furthest_ = std::max(furthest_, file_->size());
-    if (attempts_ == environment_.retries) return fail(UpdateFailure::Connection, why);
-    timer_.start(environment_.retryPause * (1 << attempts_++));
+    if (file_->size() > largestSize_) retries_ = 0;
+    largestSize_ = std::max(largestSize_, file_->size());
+    if (retries_ == environment_.retries) return fail(UpdateFailure::Connection, why);
+    timer_.start(environment_.retryPause * (1 << retries_++));
     listener_.downloadInterrupted();
 }
 
@@ -183,7 +183,8 @@ void InstallerDownload::fail(UpdateFailure failure, const QString& why) {
 void InstallerDownload::dropReply() {
     timer_.stop();
     if (reply_ == nullptr) return;
-    // Deleting ends it, too; aborting a reply that is about to tell of an error makes Qt complain in the log.
+    // Deleting the reply also ends it. Aborting a reply that is about to report an error causes a warning of Qt in the
+    // log.
     reply_->disconnect(this);
     reply_->deleteLater();
     reply_ = nullptr;

@@ -18,9 +18,9 @@ namespace fieldcal {
 
 struct UpdateEnvironment;
 
-/// Fetches one installer. A broken connection is taken up again where it broke, if the server says that it is still
-/// the same file, and else from the start. What is refused or given up is removed from the disk before it is told; so
-/// is everything when this goes. Main thread.
+/// Downloads one installer. A broken connection is resumed where it broke, if the server confirms that the file is the
+/// same, otherwise from the start. A refused or abandoned file is removed from the disk before that is reported, and
+/// all files are removed by the destructor. Main thread.
 class InstallerDownload : public QObject {
 public:
     class Listener {
@@ -28,7 +28,8 @@ public:
         virtual ~Listener() = default;
         virtual void downloadProgressed(qint64 receivedBytes, qint64 totalBytes) = 0;
         virtual void downloadInterrupted() = 0;
-        /// None: the whole file is there, and has the digest that was told. Not to be deleted in here.
+        /// Without a failure, the whole file is on the disk and has the expected digest. This object must not be
+        /// deleted during the call.
         virtual void downloadEnded(std::optional<UpdateFailure> failure) = 0;
     };
 
@@ -36,9 +37,9 @@ public:
                       Listener& listener);
     ~InstallerDownload() override { dropReply(); }
 
-    /// Once.
+    /// To be called once.
     void begin();
-    /// After the end without a failure.
+    /// Available after an end without a failure.
     InstallerFile& file() { return *file_; }
 
 private:
@@ -46,7 +47,7 @@ private:
     void receive();
     void replyFinished();
     void timedOut();
-    /// False: this is not the answer that was asked for, and what follows from that is done.
+    /// Returns false when the answer does not fit the request; the consequences have then been handled.
     bool acceptAnswer();
     bool acceptWhole();
     bool acceptRest();
@@ -62,13 +63,14 @@ private:
     Listener& listener_;
     QPointer<QNetworkReply> reply_;
     std::unique_ptr<InstallerFile> file_;
-    QTimer timer_;  ///< with a reply, until it is given up; without, until it is tried again
+    QTimer timer_;  ///< runs during a request as its time limit, and between requests as the pause before the next
+                    ///< attempt
     bool accepted_ = false;
     qint64 total_ = 0;
-    qint64 resumedFrom_ = 0;  ///< by the present reply; 0: it was asked for the whole
-    QByteArray validator_;    ///< by which the server knows the file again; empty: it gave none
-    qint64 furthest_ = 0;
-    int attempts_ = 0;  ///< since there was more than ever before
+    qint64 resumedFrom_ = 0;  ///< by the present reply; 0 when it was asked for the whole file
+    QByteArray validator_;    ///< identifies the file on the server; empty when the server gave none
+    qint64 largestSize_ = 0;
+    int retries_ = 0;  ///< since the last progress
 };
 
 }  // namespace fieldcal

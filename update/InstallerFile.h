@@ -10,29 +10,29 @@
 
 namespace fieldcal {
 
-/// An installer while it arrives, in a folder of its own that only this user can enter. Gone from the disk when this
-/// goes, unless the installer runs.
+/// An installer during its download, in a folder that only this user can access. The destructor removes it from the
+/// disk, unless the installer runs.
 class InstallerFile {
 public:
-    /// Below `temporaryFolder`; what an earlier run had to leave there is removed.
+    /// Creates it below `temporaryFolder`, and removes the files left there by earlier runs.
     explicit InstallerFile(const QString& temporaryFolder);
     InstallerFile(const InstallerFile&) = delete;
     InstallerFile& operator=(const InstallerFile&) = delete;
 
-    /// Empty, and open. False: it cannot be.
+    /// Opens an empty file. Returns false on a failure.
     bool begin();
-    /// False: not all of it could be written; the file is of no use any more.
+    /// Returns false when the data could not be written completely; the file is then unusable.
     bool append(const QByteArray& bytes);
-    /// Everything is on the disk. False: it is not.
+    /// Makes sure that everything is on the disk. Returns false on a failure.
     bool close();
-    /// The system keeps a program's file for as long as it runs; then a later run removes it.
+    /// The system locks a program's file while it runs; a later run then removes it.
     void leaveToInstaller();
 
     qint64 size() const { return size_; }
     QByteArray sha256() const { return hash_.result(); }
     QString path() const { return file_.fileName(); }
 
-    /// Removes what earlier runs had to leave.
+    /// Removes the files that earlier runs could not remove.
     static void removeLeftovers(const QString& temporaryFolder);
 
 private:

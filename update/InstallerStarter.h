@@ -9,15 +9,15 @@
 
 namespace fieldcal {
 
-/// Checks and starts installers; main thread. Every failure is explained in the log by a line of its own.
+/// Checks and starts installers. Main thread. Every failure is explained in the log in one line.
 class InstallerStarter {
 public:
     virtual ~InstallerStarter() = default;
 
-    /// Why this program would not start any installer, whichever it is.
+    /// Returns the reason why this program cannot start any installer at all; none if it can.
     virtual std::optional<UpdateFailure> obstacle() = 0;
-    /// Starts the file as a process of its own, if it is signed by whoever signed the running program. From the check
-    /// to the start nobody else can change it. None: it runs.
+    /// Starts the file as a separate process, if its signer is that of the running program. From the check to the start
+    /// no other program can change the file. Returns none when the installer runs.
     virtual std::optional<UpdateFailure> start(const QString& installer, const QString& arguments) = 0;
 };
 

@@ -7,7 +7,7 @@
 namespace fieldcal {
 namespace {
 
-/// The first thing that is wrong.
+/// Fills the manifest and returns a description of the first fault; empty without one.
 QString readInto(Manifest* manifest, const QJsonObject& object) {
     const std::optional<Version> version = Version::parse(object["version"].toString());
     if (!version) return "\"version\" is no version";

@@ -6,8 +6,8 @@
 
 namespace fieldcal {
 
-/// Of the program that runs: on Windows from the version resource of its file, elsewhere as it was compiled in. None
-/// when it has none.
+/// Returns the version of the running program: on Windows from the version resource of its file, elsewhere as it was
+/// compiled in. None when it has no version.
 std::optional<Version> runningVersion();
 
 }  // namespace fieldcal

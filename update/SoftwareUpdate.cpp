@@ -13,7 +13,8 @@ namespace fieldcal {
 namespace {
 
 constexpr const char* kTooLong = "the answer is too long";
-constexpr int kSeenMs = 100;  // lets it be seen that the installer starts, before the main thread is busy with it
+constexpr int kSeenMs = 100;  // gives the interface time to show that the installer starts, before it blocks the main
+                              // thread
 
 }  // namespace
 
@@ -59,7 +60,7 @@ void SoftwareUpdate::timedOut() {
 }
 
 void SoftwareUpdate::manifestReceived(QNetworkReply* reply) {
-    if (reply != reply_) return;  // given up, or an installer's
+    if (reply != reply_) return;  // an abandoned reply, or one for an installer
     if (reply->error() != QNetworkReply::NoError) {
         endAsking(reply->errorString());
     } else if (reply->bytesAvailable() > environment_.manifestLimitBytes) {
@@ -120,7 +121,7 @@ void SoftwareUpdate::downloadInterrupted() {
 
 void SoftwareUpdate::downloadEnded(std::optional<UpdateFailure> failure) {
     if (failure) {
-        download_->setParent(this);  // should no event loop run any more, it goes with this
+        download_->setParent(this);  // deleted with this object if no event loop runs any more
         download_.release()->deleteLater();
         listener_.updateFailed(*failure);
         return;
@@ -142,7 +143,7 @@ void SoftwareUpdate::startInstaller() {
 }
 
 void SoftwareUpdate::release() {
-    // Deleting a manager that is still asking would tell the owner of an answer.
+    // Deleting a manager with a pending request would send a signal to the owner.
     if (network_ != nullptr) network_->disconnect();
     delete network_;
     delete reply_;

@@ -16,9 +16,8 @@ class QNetworkReply;
 
 namespace fieldcal {
 
-/// Asks once, at the start, which version there is to be had, and fetches and starts its installer when the user wants
-/// it. Until then, whatever goes wrong is a line in the log and nothing else; the user hears only of what he asked
-/// for. Main thread.
+/// Checks once, at the start, for the newest version, and downloads and starts its installer at the user's request.
+/// Failures before that request are only logged; afterwards they are also reported to the user. Main thread.
 class SoftwareUpdate : public QObject, public InstallerDownload::Listener {
 public:
     static constexpr const char* kInstallerArguments = "/S /AUTOSTART";
@@ -26,17 +25,17 @@ public:
     SoftwareUpdate(UpdateEnvironment environment, UpdateListener& listener);
     ~SoftwareUpdate() override { release(); }
 
-    /// `owner` gets the answer in its slots slot_networkReplyLatestVersionJsonFinished(QNetworkReply*) and
-    /// slot_timeoutNetworkReplyJson(), and passes it on.
+    /// `owner` receives the answer in its slots slot_networkReplyLatestVersionJsonFinished(QNetworkReply*) and
+    /// slot_timeoutNetworkReplyJson(), and forwards it.
     void start(QObject* owner);
     void manifestReceived(QNetworkReply* reply);
     void timedOut();
 
-    /// Fetches what was offered, checks it and starts it; nothing while that is under way already.
+    /// Downloads the offered installer, checks it and starts it. Has no effect while that is in progress.
     void download();
-    /// Gives up a download, and removes what there is of it.
+    /// Cancels a download and removes its file.
     void abort();
-    /// Gives everything back, and removes what is on the disk.
+    /// Releases all resources and removes the files from the disk.
     void release();
 
 private:
@@ -57,7 +56,7 @@ private:
     QPointer<QTimer> timeout_;
     std::optional<Manifest> offered_;
     std::unique_ptr<InstallerDownload> download_;
-    QTimer seen_;  ///< from the end of the download to the installer's start
+    QTimer seen_;  ///< runs from the end of the download to the start of the installer
 };
 
 }  // namespace fieldcal

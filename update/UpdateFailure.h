@@ -2,15 +2,15 @@
 
 namespace fieldcal {
 
-/// Why there is no update, once the user has asked for it.
+/// Why an update failed that the user had requested.
 enum class UpdateFailure {
-    Connection,    ///< broken, and not to be had again
-    Server,        ///< an answer that is refused
+    Connection,    ///< the connection broke and could not be restored
+    Server,        ///< the server's answer was refused
     Disk,          ///< the file cannot be written
-    Damaged,       ///< not what the manifest promised
-    Unsigned,      ///< the running program has no signature that an installer's could be compared with
-    NotTrusted,    ///< the installer's signature is missing, broken or somebody else's
-    NoInstallers,  ///< this system has none
+    Damaged,       ///< the file is not what the manifest describes
+    Unsigned,      ///< the running program has no signature with which an installer's could be compared
+    NotTrusted,    ///< the installer's signature is missing, broken or from another signer
+    NoInstallers,  ///< this system has no installers
     NotStarted,
 };
 

@@ -8,13 +8,14 @@
 
 namespace fieldcal {
 
-/// One to four numbers, compared as numbers from the left; what is not there is 0.
+/// One to four numbers, compared numerically from the left; missing ones are 0.
 struct Version {
     std::array<std::uint16_t, 4> parts{};
 
-    /// "1.2.10": numbers from 0 to 65535 without leading zeros, dots between them. Anything else is none.
+    /// Parses "1.2.10": numbers from 0 to 65535 without leading zeros, separated by dots. Returns none for anything
+    /// else.
     static std::optional<Version> parse(const QString& text);
-    /// At least two parts, and no more than are needed.
+    /// Returns at least two parts, and no trailing zeros beyond them.
     QString text() const;
 
     bool operator<(const Version& other) const { return parts < other.parts; }

@@ -1,6 +1,6 @@
-// The program on the simulated module alone, whatever else is installed, and without an administrator's rights. Without
-// KXSIM_SESSION it plays the recording that lies beside the simulated libraries. It is not updated: the installer would
-// start the other program.
+// The program with the simulated module only, whatever else is installed, and without administrator rights. Without
+// KXSIM_SESSION it plays the recording beside the simulated libraries. It does not look for updates, because the
+// installer would start the other program.
 #include "app/EntryPoint.h"
 #include "kxapi/Library.h"
 #include "update/windows/ProgramFile.h"

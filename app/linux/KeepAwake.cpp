@@ -4,7 +4,7 @@
 
 namespace fieldcal {
 
-// The desktops inhibit sleep over D-Bus, which nothing else in this program needs.
+// Linux desktops inhibit sleep over D-Bus, which this program does not use otherwise.
 void keepAwake(bool on) {
     if (on) qInfo("When the display goes off is left to the system's own settings.");
 }

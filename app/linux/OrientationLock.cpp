@@ -2,7 +2,7 @@
 
 namespace fieldcal {
 
-// No such thing here; the window system's own rotation lock does it.
+// Linux has no such function; the rotation lock of the window system is used instead.
 void lockOrientation() {}
 
 }  // namespace fieldcal

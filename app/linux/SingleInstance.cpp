@@ -10,7 +10,7 @@
 namespace fieldcal {
 namespace {
 
-/// In the session's folder, or in one that everybody may write to, under a name of the user's own.
+/// Returns a path in the session's runtime folder, or in a world-writable folder under a name specific to the user.
 std::string lockFile() {
     const char* session = std::getenv("XDG_RUNTIME_DIR");
     if (session != nullptr && *session == '/') return std::string(session) + "/field-calibrator.lock";
@@ -26,7 +26,7 @@ struct SingleInstance::Handle {
 
 SingleInstance::SingleInstance() : handle_(std::make_unique<Handle>()) {
     handle_->file = open(lockFile().c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-    // A folder that cannot be written to must not keep the program from starting.
+    // A folder without write access must not prevent the program from starting.
     handle_->first = handle_->file < 0 || flock(handle_->file, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 

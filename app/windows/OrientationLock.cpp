@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kLandscape = 1;
 
-/// Looked up at run time: not every Windows has it.
+/// The function is resolved at run time, because some versions of Windows do not have it.
 bool setRotationPreference(int orientation) {
     using Function = BOOL(WINAPI*)(int);
     const HMODULE user = GetModuleHandleA("user32.dll");

@@ -6,7 +6,7 @@
 namespace fieldcal {
 namespace {
 
-/// The translations are named after what Windows calls the place.
+/// The translation files use the names that Windows gives to countries.
 QString countryName(QLocale::Country country) {
     return country == QLocale::HongKong ? QStringLiteral("Hong Kong SAR") : QLocale::countryToString(country);
 }
@@ -18,7 +18,7 @@ SystemLanguage systemLanguage() {
     const QLocale locale = wanted.isEmpty() ? QLocale::system() : QLocale(wanted.first());
     SystemLanguage names;
     if (locale.language() == QLocale::AnyLanguage) return names;
-    // Without a language of the user's, the C library's is "C", which is English.
+    // Without a language set by the user, the C library's language is "C", which means English.
     if (locale.language() == QLocale::C) return {QStringLiteral("English"), QStringLiteral("United States")};
     names.language = QLocale::languageToString(locale.language());
     if (locale.country() != QLocale::AnyCountry) names.country = countryName(locale.country());

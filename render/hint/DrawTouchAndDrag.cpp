@@ -1,5 +1,5 @@
-// Draws the hint of the tutorial: a finger on a touched spot, and arrows to both sides.
-//   draw-touch-and-drag FILE.png
+// Draws the tutorial's hint: a finger on the touched spot, and arrows to both sides.
+// Usage: draw-touch-and-drag FILE.png
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kWidth = 640;
 constexpr int kHeight = 560;
-constexpr QPointF kTouched(320, 150);  // where the fingertip is
+constexpr QPointF kTouched(320, 150);  // position of the fingertip
 const QColor kAccent(0xff, 0xb0, 0x30);
 const QColor kOutline(0x10, 0x14, 0x18);
 
@@ -20,7 +20,7 @@ QPainterPath rounded(const QRectF& area, qreal radius) {
     return path;
 }
 
-/// To the right of the touched spot; `direction` -1 turns it to the left.
+/// An arrow to the right of the touched spot; with `direction` -1 to the left.
 QPainterPath arrow(qreal direction) {
     QPainterPath path;
     const auto at = [direction](qreal x, qreal y) { return kTouched + QPointF(direction * x, y); };

@@ -1,6 +1,6 @@
 import QtQuick 2.15
 
-// What the application has told the interface so far.
+// The state of the calibration as received from the application.
 QtObject {
     id: status
 
@@ -9,8 +9,8 @@ QtObject {
         tutorial: 9, refining: 10
     })
     property int state: states.firstOpened
-    property string notice: ""  // the object name of the notice that hides every page
-    property bool failed: false  // the application has told an error: only leaving is left
+    property string notice: ""  // object name of the notice that hides every page
+    property bool failed: false  // the application has reported an error: the user can only leave
     property bool firstCameraAccepted: false
     property bool saving: false
     readonly property bool paged: notice === "" && !failed && !saving
@@ -35,28 +35,28 @@ QtObject {
     property bool holdStill: false  // what the text asks for
     property real progress: 0
     property int photoCount: 0
-    property var photos: []     // of each photo the source of its small picture; may be fewer than were taken
-    property var detail: []     // of each area of the picture 0..1, row by row; empty before the first photo
+    property var photos: []     // the source of each photo's thumbnail; may be fewer than the photos taken
+    property var detail: []     // for each area of the image 0..1, row by row; empty before the first photo
     property var foundTurn: []  // degrees: upwards, to the right, clockwise
-    property var foundQuality: ({})  // as docs/interface-map.md tells it
+    property var foundQuality: ({})  // as described in docs/interface-map.md
     property bool foundRead: false
 
     property string updatePhase: ""  // "offered", "fetching", "starting" or "failed"
     property string updateVersion: ""
     property real updateReceived: 0  // bytes
-    property real updateTotal: 0     // 0 as long as it is not known
+    property real updateTotal: 0     // 0 while it is unknown
     property bool updateInterrupted: false
     property string updateFailure: ""
     property bool updateMayTryAgain: false
 
-    // Its page comes between the capture and what the application shows next.
+    // The page with the result is shown between the capture and the next page of the application.
     readonly property bool foundShown: (state === states.tutorial || state === states.refining) && !foundRead
     readonly property bool somethingToLose: firstCameraStorable || (!saving && notice === ""
         && (secondCamera || state >= states.found || (state >= states.starting && photoCount > 0)))
-    // What was accepted for the first camera, whatever becomes of the second one.
+    // The rotation accepted for the first camera can be stored, whatever happens to the second one.
     readonly property bool firstCameraStorable: firstCameraAccepted && !saving
 
-    // Nobody who has begun is interrupted by an offer.
+    // An offer must not interrupt a calibration in progress.
     readonly property bool updateShown: !saving && (updatePhase === "offered" ? state <= states.introduction
                                                                               : updatePhase !== "")
 

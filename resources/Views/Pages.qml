@@ -3,7 +3,7 @@ import "components"
 import "screens"
 import "theme"
 
-// Which page is shown, what stands on top of it, and the keyboard.
+// Selects the page to show and the layer above it, and handles the keyboard.
 Item {
     id: pages
     property CalibrationStatus status
@@ -12,11 +12,11 @@ Item {
     signal wanted(int state)
     signal begun()
     signal accepted()
-    signal storedKept()  // what was found is not wanted
+    signal storedKept()  // the user keeps the stored calibration and discards the result
     signal left()
     signal updateWanted()
     signal updateGivenUp()
-    signal firstCameraStored()  // only what the first camera's refinement left is to be stored
+    signal firstCameraStored()  // only the result of the first camera's refinement is to be stored
     signal stayed()
 
     readonly property var states: status.states
@@ -31,12 +31,12 @@ Item {
     function askToLeave() { leaveQuestion.visible = true }
     Connections {
         target: pages.status
-        function onNoticeChanged() {  // nothing may lie on top of it
+        function onNoticeChanged() {  // nothing may cover a notice
             howToMove.visible = false
             leaveQuestion.visible = false
             restartQuestion.visible = false
         }
-        function onStateChanged() {  // the attempt has ended by itself: there is nothing left to ask about
+        function onStateChanged() {  // the attempt has ended by itself, so the question no longer applies
             if (pages.status.state <= pages.states.waiting) restartQuestion.visible = false
         }
     }
@@ -48,7 +48,7 @@ Item {
         if (status.somethingToLose) askToLeave()
         else left()
     }
-    // What a notice is about is no reason to lose the first camera's calibration.
+    // A notice must not cause the loss of the first camera's calibration.
     function leaveNotice() {
         if (status.firstCameraStorable) askToLeave()
         else left()
@@ -69,7 +69,7 @@ Item {
     }
     Shortcut {
         sequences: ["Return", "Enter"]
-        autoRepeat: false  // one key that is held must not walk through the pages
+        autoRepeat: false  // holding a key must not skip pages
         enabled: !pages.status.saving
         onActivated: pages.pressMainButton()
     }

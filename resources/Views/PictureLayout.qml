@@ -1,13 +1,13 @@
 import QtQuick 2.15
 import "theme"
 
-// Where the pictures stand on the pages, in pixels of the window counted from its upper edge; pages arrange the rest
-// around them.
+// The positions of the camera images on the pages, in pixels of the window counted from its upper edge. Pages arrange
+// their content around them.
 QtObject {
     property real width: 0
     property real height: 0
     property bool mirrored: false
-    property bool wideColour: false  // the rear camera's pictures are 16:9, all others 4:3
+    property bool wideColour: false  // the rear camera's images are 16:9, all others 4:3
     property real exitSpace: 0       // kept free at the end of every header
 
     readonly property real headerHeight: Math.max(Theme.length(148), Theme.target + Theme.gap)
@@ -20,7 +20,7 @@ QtObject {
         return placed(Theme.margin, (height - w * 3 / 4) / 2, w, w * 3 / 4)
     }
 
-    // Side by side, of one height.
+    // Side by side, at the same height.
     readonly property real colourAspect: wideColour ? 16 / 9 : 4 / 3
     readonly property real pairHeight: Math.min(height - headerHeight - footerHeight - Theme.gap,
                                                 (width - 2 * Theme.margin - Theme.gap) / (colourAspect + 4 / 3))
@@ -30,7 +30,7 @@ QtObject {
     readonly property rect infrared: placed((width + pairWidth) / 2 - pairHeight * 4 / 3, pairTop,
                                             pairHeight * 4 / 3, pairHeight)
 
-    // As wide as the window, so that a finger's way across the window is its way across the picture.
+    // As wide as the window, so that a drag across the window is a drag across the image.
     readonly property rect full: placed(0, (height - width / colourAspect) / 2, width, width / colourAspect)
 
     function placed(x, y, w, h) {

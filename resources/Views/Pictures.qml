@@ -3,8 +3,8 @@ import ImageRenderTypes 1.0
 import "components"
 import "theme"
 
-// The five views, and the ground that covers the window outside of the one or two that the page shows. Views paint
-// underneath everything, each into its parent's rectangle, whose y counts from the window's lower edge.
+// The five views, and the cover over the rest of the window. Views paint underneath everything else, each into the
+// rectangle of its parent, whose y counts from the lower edge of the window.
 Item {
     id: pictures
     property CalibrationStatus status
@@ -59,8 +59,8 @@ Item {
             objectName: "refinementTouchArea"
             property int fromX: 0
             property int fromY: 0
-            property int toldX: 0  // the signal for x comes for vertical movements, too
-            property bool dragging: false  // no longer a tap
+            property int reportedX: 0  // the signal for x is also sent for vertical movements
+            property bool dragging: false  // the touch is no longer a tap
             anchors.fill: parent
             enabled: pictures.refining
             function end(x, y) {
@@ -69,20 +69,21 @@ Item {
             }
             onPressed: {
                 dragging = false
-                fromX = toldX = Math.round(mouse.x)
+                fromX = reportedX = Math.round(mouse.x)
                 fromY = Math.round(mouse.y)
             }
             onReleased: end(Math.round(mouse.x), Math.round(mouse.y))
-            onCanceled: end(toldX, 0)  // by the system, or by a page that came meanwhile
+            onCanceled: end(reportedX, 0)  // by the system, or by a page that has appeared meanwhile
             onMouseXChanged: {
                 const x = Math.round(mouseX)
-                if (!pressed || x === toldX) return
+                if (!pressed || x === reportedX) return
                 if (!dragging) {
                     if (Math.abs(x - fromX) < Theme.tapTravel) return
                     dragging = true
-                    pictures.touchDown(fromX, fromY)  // from where it began: the picture stays under the finger
+                    pictures.touchDown(fromX, fromY)  // the drag starts at the initial touch, so that the image stays
+                                                      // under the finger
                 }
-                toldX = x
+                reportedX = x
                 pictures.touchMove(x, Math.round(mouseY))
             }
         }

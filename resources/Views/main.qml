@@ -2,8 +2,7 @@ import QtQuick 2.15
 import QtQuick.Window 2.15
 import "theme"
 
-// The contract between the interface and the application, which docs/interface-map.md tells; how it looks is told by
-// the screens.
+// The interface's contract with the application, described in docs/interface-map.md. The screens define the appearance.
 Window {
     id: root
     objectName: "root"
@@ -11,7 +10,8 @@ Window {
     height: Screen.height
     visible: true
     visibility: Window.FullScreen
-    property bool _q_has_border_in_fullscreen: true  // on Windows nothing else would be seen above, no message either
+    property bool _q_has_border_in_fullscreen: true  // without it, Windows would show nothing above the program, not
+                                                     // even a message box
     color: Theme.ground
     title: "Field Calibrator"
 
@@ -132,7 +132,7 @@ Window {
     Timer {
         id: saveSoon
         property var wanted
-        interval: 100  // lets the saving page be seen before the main thread is busy
+        interval: 100  // shows the saving page before the main thread is blocked
         onTriggered: wanted()
     }
     PictureLayout {
@@ -142,7 +142,8 @@ Window {
         mirrored: root.mirrored
         wideColour: status.secondCamera
     }
-    // Not the window's content item: with a border in full screen it is larger than the window.
+    // The parent is not the window's content item, which is larger than the window when Qt adds a border in full
+    // screen.
     Pictures {
         id: pictures
         width: root.width

@@ -12,9 +12,9 @@
 namespace fieldcal {
 namespace {
 
-constexpr DWORD kElevationRequired = 740;  // MinGW's headers have no name for it
+constexpr DWORD kElevationRequired = 740;  // MinGW's headers do not define this error
 
-/// A file that nobody can write, rename or remove while this lives.
+/// Keeps a file open such that no other program can write, rename or remove it.
 class HeldFile {
 public:
     explicit HeldFile(const std::wstring& path)
@@ -38,7 +38,8 @@ std::wstring systemFolder() {
     return {path.data(), length};
 }
 
-/// The error of the system, 0: it runs. Not in the folder of the file: an installer would look for libraries there.
+/// Returns the system's error code, 0 on success. The working directory is not that of the file, because an installer
+/// would load libraries from there.
 DWORD createProcess(const std::wstring& installer, const std::wstring& arguments) {
     std::wstring line = L'"' + installer + L"\" " + arguments;
     STARTUPINFOW startup{};
@@ -53,7 +54,7 @@ DWORD createProcess(const std::wstring& installer, const std::wstring& arguments
     return ERROR_SUCCESS;
 }
 
-/// The same for an installer that wants an administrator's rights, which the user is asked for.
+/// The same for an installer that needs administrator rights, for which the system asks the user.
 DWORD createElevatedProcess(const std::wstring& installer, const std::wstring& arguments) {
     const std::wstring folder = systemFolder();
     SHELLEXECUTEINFOW info{};

@@ -4,7 +4,7 @@
 
 namespace fieldcal {
 
-/// Path of the running program; empty where the system does not tell.
+/// Returns the path of the running program; empty where the system does not report it.
 std::wstring programFile();
 
 }  // namespace fieldcal

@@ -9,7 +9,7 @@
 namespace fieldcal {
 namespace {
 
-/// One verification; its state holds the chain of certificates while it lives.
+/// One verification. Its state holds the certificate chain during its lifetime.
 class Verification {
 public:
     Verification(const std::wstring& path, HANDLE file) {
@@ -33,7 +33,7 @@ public:
     Verification& operator=(const Verification&) = delete;
 
     LONG status() const { return status_; }
-    /// The subject of the first signer's certificate.
+    /// Returns the subject of the first signer's certificate.
     QByteArray signer() const {
         CRYPT_PROVIDER_DATA* provider = WTHelperProvDataFromStateData(data_.hWVTStateData);
         CRYPT_PROVIDER_SGNR* signer =

@@ -6,9 +6,10 @@
 
 namespace fieldcal {
 
-/// Who signed a program file: the whole subject of the certificate, as it is encoded in it. Empty, with a reason, when
-/// the signature is missing or broken, does not lead to an authority that the system trusts, or was revoked; also when
-/// it cannot be found out whether it was. `file`: open for reading, or null; `path`: of the same file.
+/// Returns the signer of a program file: the whole subject of the certificate in its encoded form. Empty, with a
+/// reason, when the signature is missing or broken, does not lead to an authority trusted by the system, or was
+/// revoked, and also when its revocation cannot be checked. `file`: open for reading, or null; `path`: of the same
+/// file.
 QByteArray trustedSigner(const std::wstring& path, HANDLE file, QString* why);
 
 }  // namespace fieldcal

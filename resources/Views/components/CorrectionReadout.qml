@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "../theme"
 
-// By how much the finger has turned what was found, and to which side.
+// Shows the angle and the direction of the user's correction.
 Item {
     id: readout
     property real correctionDeg: 0
@@ -17,7 +17,7 @@ Item {
         id: values
         anchors.centerIn: parent
         spacing: Theme.smallGap
-        LayoutMirroring.enabled: false  // left is left
+        LayoutMirroring.enabled: false  // directions are those of the image, in every language
         Arrow { drawing: "chevronLeft"; opacity: readout.none || readout.correctionDeg < 0 ? 1 : 0.15 }
         Words {
             objectName: "correctionText"

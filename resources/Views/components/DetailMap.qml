@@ -1,7 +1,8 @@
 import QtQuick 2.15
 import "../theme"
 
-// Over the infrared picture: which of its areas still need detail. The picture is not mirrored, so neither is this.
+// Shows over the infrared image which of its areas still need detail. The image is not mirrored, so the map is not
+// either.
 Item {
     id: map
     property var areas: []  // 0..1, row by row

@@ -1,11 +1,11 @@
 import QtQuick 2.15
 import "../theme"
 
-// Covers everything but a row of holes with rounded corners, through which pictures are seen. New holes open softly,
-// because the pictures that come first may still be those of the page before.
+// Covers everything except a row of holes with rounded corners, through which the camera images are visible. New holes
+// fade in, because the first images may still be those of the previous page.
 Item {
     id: ground
-    property var holes: []  // rectangles of one top and height, from left to right
+    property var holes: []  // rectangles of the same top and height, from left to right
     property real corner: 0
     readonly property bool open: holes.length > 0
     readonly property real upperEdge: open ? Math.max(0, holes[0].y) : height

@@ -2,7 +2,7 @@ import QtQuick 2.15
 import "drawings.js" as Drawings
 import "../theme"
 
-// One of the line drawings of drawings.js, in the theme's colours.
+// One of the line drawings in drawings.js, in the theme's colours.
 Canvas {
     property string drawing
     property color ink: Theme.text

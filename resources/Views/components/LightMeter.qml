@@ -2,13 +2,13 @@ import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import "../theme"
 
-// How much light there is, with a mark at how much is needed.
+// Shows the amount of light, with a mark at the required amount.
 T.ProgressBar {
     id: meter
     property bool enough: false
-    readonly property real mark: 122 / 130  // just before full, which means lit
+    readonly property real mark: 122 / 130  // slightly before full, which means lit
 
-    locale: Qt.locale("en")  // the direction is the interface's alone
+    locale: Qt.locale("en")  // the direction follows the interface only
     implicitHeight: Math.max(20, Theme.length(36))
     background: Rectangle {
         radius: height / 2

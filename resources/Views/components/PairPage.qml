@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "../theme"
 
-// A page around the two live pictures: what to do now above them, the rest below.
+// A page around the two live images: the instruction above them, everything else below.
 Screen {
     id: page
     default property alias content: footer.data

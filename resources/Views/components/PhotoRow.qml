@@ -1,12 +1,13 @@
 import QtQuick 2.15
 import "../theme"
 
-// The photos taken, and places for those to come: four are always needed, and as long as they do not suffice, one more.
+// The photos taken, in a row with places for those to come: four are always needed, and one more while they do not
+// suffice.
 Row {
     id: row
     property int count: 0
     property var sources: []
-    property bool complete: false  // no more will come
+    property bool complete: false  // no more photos will be taken
     readonly property int usual: 4
     readonly property int limit: 8
     readonly property real slotWidth: Math.min((width - (limit - 1) * spacing) / limit, height * 4 / 3)

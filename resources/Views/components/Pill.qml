@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "../theme"
 
-// A remark over a picture.
+// A short text over an image.
 Rectangle {
     property alias text: words.text
     width: Math.min(words.implicitWidth + 2 * Theme.margin, parent.width - 2 * Theme.margin)

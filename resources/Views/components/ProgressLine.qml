@@ -4,7 +4,7 @@ import "../theme"
 
 T.ProgressBar {
     id: bar
-    locale: Qt.locale("en")  // the direction is the interface's alone
+    locale: Qt.locale("en")  // the direction follows the interface only
     implicitHeight: Math.max(6, Theme.length(10))
     background: Rectangle { radius: height / 2; color: Theme.line }
     contentItem: Item {

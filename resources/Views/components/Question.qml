@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Layouts 1.15
 import "../theme"
 
-// Lies on top of the page until one of its buttons is pressed; they share its width.
+// Covers the page until one of its buttons is pressed. The buttons have equal widths.
 Rectangle {
     id: question
     property Item mainButton: null

@@ -2,7 +2,7 @@ import QtQuick 2.15
 import ".."
 import "../theme"
 
-// One page: comes softly, goes at once. `mainButton` is the one that Return presses.
+// One page. It fades in and disappears at once. `mainButton` is pressed by the Return key.
 Item {
     property CalibrationStatus status
     property PictureLayout layout
@@ -13,7 +13,7 @@ Item {
     anchors.fill: parent
     visible: shown
     opacity: 0
-    enabled: opacity === 1  // a second tap still belongs to the page before
+    enabled: opacity === 1  // a second tap during the fade was meant for the previous page
     onVisibleChanged: opacity = visible ? 1 : 0
     Behavior on opacity {
         enabled: visible && softly

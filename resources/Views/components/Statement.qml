@@ -1,12 +1,12 @@
 import QtQuick 2.15
 import "../theme"
 
-// A text of several lines: what comes first is set large, the rest quiet below it.
+// A text of several lines: the first part is large, the rest below it is smaller.
 Item {
     id: statement
     property string text
     property int size: Theme.headingSize
-    property real share: 0.56  // of the height, for what comes first
+    property real share: 0.56  // of the height, for the first part
     readonly property int breakAt: text.indexOf("\n")
     readonly property bool parted: breakAt >= 0
 

@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "../theme"
 
-// A text that changes only when the new one has lasted a moment, so that it can be read.
+// A text that changes only after the new text has been valid for a moment, so that it can be read.
 Words {
     id: words
     property string wanted: ""

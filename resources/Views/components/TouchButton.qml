@@ -2,11 +2,11 @@ import QtQuick 2.15
 import QtQuick.Templates 2.15 as T
 import "../theme"
 
-// The page's main button stands in the colour of what to do now; the others are quiet.
+// The main button of the page has the colour of the next action; the others are neutral.
 T.Button {
     id: button
     property bool main: false
-    property string drawing: ""  // beside the text
+    property string drawing: ""  // shown beside the text
 
     implicitHeight: main ? Theme.bigTarget : Theme.target
     implicitWidth: Math.max(implicitHeight, label.implicitWidth + leftPadding + rightPadding)

@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "../theme"
 
-// A tablet that looks over scenery, from one side to the other.
+// A tablet that pans over scenery from one side to the other.
 Item {
     id: stage
     property bool running: false

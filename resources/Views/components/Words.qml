@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "../theme"
 
-// Text that wraps, and shrinks rather than being cut off where its height is given.
+// Text that wraps, and shrinks to a given height instead of being cut off.
 Text {
     color: Theme.text
     font.family: Theme.family

@@ -15,7 +15,7 @@ PairPage {
     }
     Timer { id: confirmation; interval: Theme.confirmation }
 
-    // Near the threshold the light comes and goes with every frame; its notice does not.
+    // Near the threshold the light state changes with every frame, and the notice must not flicker.
     readonly property bool lightNeeded: status.lightNeeded
     property bool lightNoticeShown: false
     onLightNeededChanged: {

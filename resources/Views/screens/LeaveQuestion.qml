@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "../components"
 
-// Asked once, and only when something would be lost.
+// Asked only when leaving would lose something.
 Question {
     id: question
     mainButton: stayable ? stayButton : storeButton

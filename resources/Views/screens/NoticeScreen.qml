@@ -3,7 +3,7 @@ import QtQuick.Layouts 1.15
 import "../components"
 import "../theme"
 
-// What is wrong, and what to do about it. Only leaving is left.
+// Describes an error and what to do about it. The user can only leave.
 Screen {
     id: screen
     property string drawing

@@ -19,7 +19,7 @@ Screen {
     component Panel: Rectangle {
         width: screen.width
         color: Qt.rgba(Theme.ground.r, Theme.ground.g, Theme.ground.b, Theme.veil)
-        MouseArea { anchors.fill: parent }  // a finger beside a button drags nothing
+        MouseArea { anchors.fill: parent }  // a touch beside a button must not drag the image
     }
 
     Panel {

@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "../components"
 
-// Asked before photos are given up: its button stands where a thumb may rest.
+// Asked before photos are discarded, because the button lies where a thumb may rest.
 Question {
     id: question
     mainButton: stayButton

@@ -4,7 +4,7 @@ import "../theme"
 
 Screen {
     id: screen
-    softly: false  // the thread that would move it is busy storing
+    softly: false  // storing blocks the thread that would run the animation
     readonly property bool saved: status.savedText !== ""
 
     Column {

@@ -4,7 +4,7 @@ import ".."
 import "../components"
 import "../theme"
 
-// A newer version: offered, fetched, started, or why not. Lies on top of the page, which goes on as it was.
+// A newer version: the offer, its download, its start, or an error. Lies on top of the page, which stays as it is.
 Rectangle {
     id: notice
     property CalibrationStatus status

@@ -1,14 +1,14 @@
 pragma Singleton
 import QtQuick 2.15
 
-// A calm instrument: dark neutral ground, one warm colour for what to do now, one for what is done. Every colour,
-// size and duration of the interface. Sizes follow the window, so that it reads the same on every screen.
+// Every colour, size and duration of the interface: a dark neutral background, one warm colour for the next action and
+// one for completed steps. Sizes are relative to the window, so that the interface looks the same on every screen.
 QtObject {
     property real windowWidth: 1280
     property real windowHeight: 800
     readonly property real unit: Math.min(windowWidth / 1280, windowHeight / 800)
 
-    // Every text colour stands at 7:1 or more on the ground and on a panel: it is read in the sun.
+    // Every text colour has a contrast of 7:1 or more on the ground and on panels, for reading in sunlight.
     readonly property color ground: "#12161a"
     readonly property color panel: "#1c2228"
     readonly property color line: "#3a444d"
@@ -19,9 +19,9 @@ QtObject {
     readonly property color done: "#63d6a4"
     readonly property color textOnColour: "#12161a"
     readonly property color flash: "#ffffff"
-    readonly property real veil: 0.88  // of panels over a picture
+    readonly property real veil: 0.88  // opacity of panels over an image
 
-    // What a language is written in on Windows is told by its translation; elsewhere the desktop knows the language.
+    // On Windows the translation selects the font for its script; other desktops select it by the language.
     //: The font that Windows uses for this language.
     readonly property string windowsFamily: qsTr("Segoe UI")
     readonly property string family: Qt.platform.os === "windows" ? windowsFamily : Qt.application.font.family
@@ -29,25 +29,25 @@ QtObject {
     readonly property int headingSize: size(34, 18)
     readonly property int bodySize: size(23, 14)
     readonly property int captionSize: size(19, 12)
-    readonly property int smallestSize: 11  // to which long translations may shrink
-    readonly property real lineHeight: 1.25  // room for a line, in sizes of its letters
+    readonly property int smallestSize: 11  // down to which long translations may shrink
+    readonly property real lineHeight: 1.25  // line spacing relative to the font size
 
     readonly property real margin: length(24)
     readonly property real gap: length(16)
     readonly property real smallGap: length(8)
     readonly property real radius: length(12)
     readonly property real hairline: Math.max(1, length(2))
-    readonly property int target: size(60, 48)  // of everything that is touched
+    readonly property int target: size(60, 48)  // of every touch target
     readonly property int bigTarget: size(76, 48)
-    readonly property int tapTravel: size(12, 12)  // a finger that moves less does not drag
+    readonly property int tapTravel: size(12, 12)  // a shorter movement is not a drag
 
     readonly property int briefly: 180
     readonly property int calmly: 400
     readonly property int slowly: 1600
     readonly property int confirmation: 1500
-    readonly property int untilDark: 300  // darkness that lasts shorter is not told
-    readonly property int untilLit: 500   // light that lasts shorter does not end it
-    readonly property int steady: 250  // an instruction that lasts shorter is not shown
+    readonly property int untilDark: 300  // shorter darkness is not reported
+    readonly property int untilLit: 500   // shorter light does not end the notice
+    readonly property int steady: 250  // an instruction valid for a shorter time is not shown
 
     function length(atDesignSize) { return Math.round(atDesignSize * unit) }
     function size(atDesignSize, atLeast) { return Math.max(atLeast, length(atDesignSize)) }
