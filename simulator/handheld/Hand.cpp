@@ -12,9 +12,9 @@ using synthesis::rotationFromAngles;
 namespace {
 
 constexpr double mostMovedMetres = 0.05;
-constexpr double tremorDeg = 0.02;  // of the strongest axis
+constexpr double tremorDeg = 0.02;  // about the strongest axis
 
-/// Rotation by a share of the angle about the same axis.
+/// Returns the rotation by a share of the angle about the same axis.
 cv::Matx33d part(const cv::Matx33d& rotation, double share) {
     const double cosine = std::clamp((cv::trace(rotation) - 1) / 2, -1.0, 1.0), angle = std::acos(cosine);
     if (angle < 1e-9) return cv::Matx33d::eye();

@@ -7,20 +7,20 @@
 
 namespace fieldcal::handheld {
 
-/// A view at which the hand rests, and how long it takes to leave it. Frames are 1/30 s.
+/// A pose at which the hand rests, and the durations in frames of 1/30 s.
 struct Rest {
     world::Pose pose;
     int heldFrames = 0;
-    int turnFrames = 0;  ///< from this view to the next
+    int turnFrames = 0;  ///< duration of the turn to the next pose
 };
 
-/// The views that a person would take one after another: each turned on by 10 to 30 degrees, looking a little up or
-/// down, the tablet tilted a little and moved by some centimetres. The way on is as quick as a wrist likes it.
+/// The poses that a user would choose one after another. Each is turned by 10 to 30 degrees from the previous one,
+/// pitched and rolled slightly, and moved by some centimetres. The speed of a turn is that of a human wrist.
 class Hand {
 public:
     Hand(std::uint64_t seed, double lowestPitchDeg, double highestPitchDeg);
 
-    /// Views are counted from 0. One thread.
+    /// Returns a pose by its number, counted from 0. One thread.
     const Rest& rest(int number);
 
 private:
@@ -32,15 +32,15 @@ private:
     std::vector<Rest> rests_;
 };
 
-/// The pose on the way between two views, `way` from 0 to 1: with a soft start and a soft end, as limbs move
-/// (minimum jerk; Flash and Hogan 1985). Outside 0 … 1 it stays at the ends.
+/// Returns the pose between two poses at `way` from 0 to 1, with the smooth start and end of limb movements (minimum
+/// jerk; Flash and Hogan 1985). Outside 0 … 1 it is the nearer end.
 world::Pose poseBetween(const world::Pose& from, const world::Pose& to, double way);
 
-/// Colour is exposed so much later than infrared.
+/// The exposure of colour starts this much later than that of infrared.
 inline constexpr double colourLagSeconds = 0.008;
 inline constexpr double framesPerSecond = 30;
 
-/// How a hand that holds still trembles: a small rotation that repeats after `tremorFrames` frames.
+/// The tremor of a resting hand: a small rotation that repeats after `tremorFrames` frames.
 inline constexpr int tremorFrames = 6;
 cv::Matx33d tremor(std::uint64_t seed, int rest, double frame);
 

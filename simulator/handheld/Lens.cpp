@@ -10,7 +10,7 @@ namespace fieldcal::handheld {
 
 namespace {
 
-/// Distance of the places that are calculated; in between, positions run straight to a hundredth of a pixel.
+/// Spacing of the computed nodes; linear interpolation between them is accurate to a hundredth of a pixel.
 constexpr int cell = 16;
 constexpr double farOutside = -1e4;
 
@@ -30,7 +30,7 @@ Lens::Lens(const session::Intrinsics& camera, cv::Point2d principalPoint,
       fy_(camera.fy),
       principalPoint_(principalPoint),
       distortion_(std::move(distortion)),
-      // One cell more on every side, so that nothing is extrapolated.
+      // One extra cell on every side avoids extrapolation.
       lattice_(size_.height / cell + 3, size_.width / cell + 3) {
     for (int y = 0; y < lattice_.rows; ++y)
         for (int x = 0; x < lattice_.cols; ++x)

@@ -8,8 +8,8 @@
 
 namespace fieldcal::handheld {
 
-/// The way between the pixels of a camera (first centre at 0) and its rays (x/z and y/z), both ways. The platform
-/// camera's pixels are the raw ones, its rays are in its rectified frame.
+/// Converts between the pixels of a camera (first centre at 0) and its rays (x/z and y/z). The platform camera's pixels
+/// are the raw ones, its rays are in its rectified frame.
 class Lens {
 public:
     static Lens ofInfrared(const session::Intrinsics& infrared);
@@ -30,12 +30,13 @@ private:
     double fx_, fy_;
     cv::Point2d principalPoint_;
     std::optional<session::PlatformCamera> distortion_;
-    cv::Mat_<cv::Point2d> lattice_;  ///< rays of pixels here and there, which take long to find through a distortion
+    cv::Mat_<cv::Point2d> lattice_;  ///< rays of sampled pixels, because inverting a distortion is expensive
 };
 
-/// Where each pixel of a camera was, in its own picture, before the camera turned about its centre.
-/// `before_after` takes directions of the turned camera's frame into the one before. Far outside for what was behind.
-/// `step` 2: for a picture of half the size, its pixels made of four.
+/// Returns for each pixel of a camera its position in the image before the camera rotated about its centre.
+/// `before_after` maps directions from the frame of the rotated camera to the previous frame. The result lies far
+/// outside the image for directions behind the camera. `step` 2: for an image of half the size, each of whose pixels
+/// covers four.
 cv::Mat_<cv::Vec2f> pixelsBeforeTurning(const Lens& lens, const cv::Matx33d& before_after, int step = 1);
 
 }  // namespace fieldcal::handheld

@@ -5,13 +5,13 @@
 
 namespace fieldcal::handheld {
 
-/// How much light there is as time goes on, 1 in the sun.
+/// The amount of light over time, 1 in the sun.
 class LightCourse {
 public:
-    /// `sun`, `shade`, `indoors`; `walk-out`: some seconds indoors, then out into the sun; `clouds`: sun and deep
-    /// shade in turn. False for another name.
+    /// `sun`, `shade`, `indoors`; `walk-out`: some seconds indoors, then in the sun; `clouds`: alternately sun and deep
+    /// shade. Returns false for any other name.
     static bool find(const std::string& name, LightCourse* out);
-    /// All names, in the order in which they are listed to people.
+    /// Returns all names in the order in which they are listed to users.
     static std::vector<std::string> names();
 
     double at(double seconds) const;
@@ -20,8 +20,8 @@ private:
     struct Level {
         double seconds, light;
     };
-    std::vector<Level> levels_;  ///< linear in between, the last one holds on
-    bool repeats_ = false;       ///< from the start again after the last one
+    std::vector<Level> levels_;  ///< linearly interpolated; the last one stays
+    bool repeats_ = false;       ///< starts again after the last level
 };
 
 }  // namespace fieldcal::handheld

@@ -4,11 +4,11 @@ namespace fieldcal::handheld {
 
 namespace {
 
-/// In a world that moves a resting view is seen at so many moments, so far apart.
+/// Number of views and their time differences for a keyframe in a moving world.
 constexpr int movingMoments = 3;
 constexpr double momentSeconds = 0.12, restSeconds = 3;
 
-/// Exposure control never finds quite the same level.
+/// Automatic exposure settles at a slightly different level each time.
 synthesis::StillSettings drawSettings(std::uint64_t seed, int number, double darkness) {
     synthesis::Random random(seed + static_cast<std::uint64_t>(number), "exposure");
     synthesis::StillSettings settings;
@@ -20,7 +20,7 @@ synthesis::StillSettings drawSettings(std::uint64_t seed, int number, double dar
 
 }  // namespace
 
-session::FramePictures takeStill(const RestingView& seen, std::uint64_t noise) {
+session::FramePictures takeStill(const Keyframe& seen, std::uint64_t noise) {
     const world::View& view = seen.moments.front().view;
     world::StereoModel stereo;
     stereo.darkness = seen.settings.darkness;
@@ -35,8 +35,8 @@ Studio::Studio(const std::string& world, std::uint64_t seed, const synthesis::Ri
       cameras_(rig),
       hand_(seed, stage_->lowestPitchDeg, stage_->highestPitchDeg) {}
 
-std::shared_ptr<const RestingView> Studio::make(int number, bool withPlatform, world::Interruption* interruption) {
-    auto view = std::make_shared<RestingView>();
+std::shared_ptr<const Keyframe> Studio::make(int number, bool withPlatform, world::Interruption* interruption) {
+    auto view = std::make_shared<Keyframe>();
     view->rest = hand_.rest(number);
     view->settings = drawSettings(seed_, number, stage_->darkness);
     const int moments = stage_->moves ? movingMoments : 1;

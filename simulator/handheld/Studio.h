@@ -11,25 +11,25 @@
 
 namespace fieldcal::handheld {
 
-/// What is seen where the hand rests: once in a world that stands still, at several moments in one that moves.
-struct RestingView {
+/// The views from one pose of the hand: one in a static world, several at different times in a moving one.
+struct Keyframe {
     Rest rest;
-    std::vector<SeenView> moments;
-    synthesis::StillSettings settings;  ///< how the exposure comes out in full light
+    std::vector<RenderedView> moments;
+    synthesis::StillSettings settings;  ///< exposure settings in full light
 };
 
-/// Its pictures in full light, the hand quite still. Equal `noise`, equal bytes.
-session::FramePictures takeStill(const RestingView& seen, std::uint64_t noise);
+/// Returns the images of a keyframe in full light without tremor. The same `noise` gives the same bytes.
+session::FramePictures takeStill(const Keyframe& seen, std::uint64_t noise);
 
-/// A world, the cameras and the hand that leads them: renders what is seen where the hand rests. One thread.
+/// Renders the keyframes of a hand that moves the cameras through a world. One thread.
 class Studio {
 public:
-    /// Builds the world, one of `world::worldNames()`; takes a second or so. `rig` must carry the true rotations.
+    /// Builds the world, one of `world::worldNames()`, which takes about a second. `rig` must carry the true rotations.
     Studio(const std::string& world, std::uint64_t seed, const synthesis::Rig& rig);
 
-    /// Views are counted from 0. All processors work on one. Once `interruption` (may be null) has ended, it returns
-    /// soon, and the view is worth nothing.
-    std::shared_ptr<const RestingView> make(int number, bool withPlatform, world::Interruption* interruption = nullptr);
+    /// Renders a keyframe by its number, counted from 0, on all processors. Once `interruption` (may be null) has
+    /// ended, it returns soon with an incomplete keyframe.
+    std::shared_ptr<const Keyframe> make(int number, bool withPlatform, world::Interruption* interruption = nullptr);
 
 private:
     std::uint64_t seed_;

@@ -10,16 +10,17 @@ namespace fieldcal::handheld {
 struct SynthesisOptions {
     std::string world = "square";  ///< one of `world::worldNames()`
     unsigned seed = 1;
-    int stills = 8;         ///< 1 … 999, the views at which the hand rests
-    bool platform = false;  ///< with pictures of the rear camera
-    /// True minus factory angle about X, Y and Z; within ±20. Without: drawn within 95 % of the search ranges.
+    int stills = 8;         ///< 1 … 999, the number of keyframes
+    bool platform = false;  ///< with images of the rear camera
+    /// True minus factory angle about X, Y and Z, within ±20. If not set, drawn within 95 % of the search ranges.
     std::optional<std::array<double, 3>> thirdDriftDeg, platformDriftDeg;
-    bool baselines = true;  ///< false: all cameras stand at one place, so that there is no parallax
-    int repeat = 26;        ///< grabs that deliver one still, at least 1
+    bool baselines = true;  ///< false: all cameras are at one place, so that there is no parallax
+    int repeat = 26;        ///< number of grabs that deliver one still, at least 1
 };
 
-/// Renders a session with truth into `folder`, which is created. Equal options give equal files. `progress` (may be
-/// empty) is called on this thread after each still. On failure false, and `why` says in one line what is wrong.
+/// Renders a session with its true rotations into `folder`, which is created. Equal options give equal files.
+/// `progress` (may be empty) is called on this thread after each still. Returns false on failure, with one line in
+/// `why`.
 bool synthesize(const std::string& folder, const SynthesisOptions& options,
                 const std::function<void(int done, int total)>& progress, std::string* why);
 

@@ -8,62 +8,62 @@
 
 namespace fieldcal::handheld {
 
-/// A view that was rendered, and from where.
-struct SeenView {
+/// A rendered view with its pose.
+struct RenderedView {
     world::Pose pose;
     world::View view;
 };
 
-/// Where the cameras point now: infrared and depth, and the colour cameras a little later.
+/// The attitude of the module at the exposure of infrared and depth, and at the later exposure of colour.
 struct Attitude {
-    cv::Matx33d infrared, colour;  ///< camera_world of the infrared camera at either time
+    cv::Matx33d infrared, colour;  ///< camera_world of the infrared camera at the two times
 };
 
-/// Makes views of turned cameras out of rendered ones, at a small part of the cost. Exact for cameras that turn about
-/// their centres; that the hand moves by centimetres between two views is left to the rendered ones. One thread.
+/// Computes views of rotated cameras from rendered ones, at a fraction of the cost of rendering. The result is exact
+/// for rotations about the camera centres; the hand's translation appears only in the rendered views. One thread.
 class ViewTurner {
 public:
     /// `rig` must carry the true rotations of its cameras.
     explicit ViewTurner(const synthesis::Rig& rig);
 
-    // Infrared with depth, the right imager's, the third and the platform camera's picture are seen apart: four threads
-    // may do it in the same view. Where a view has no platform picture, none is made.
+    // The images of infrared with depth, of the right imager, and of the third and the platform camera are computed
+    // separately, so that four threads may fill the same view. No platform image is made if the source view has none.
 
-    /// What `seen` shows from an attitude that differs by a tremor, as sharp as it was.
-    void trembledInfrared(const SeenView& seen, const Attitude& now, world::View* view) const;
-    void trembledRight(const SeenView& seen, const Attitude& now, world::View* view) const;
-    void trembledThird(const SeenView& seen, const Attitude& now, world::View* view) const;
-    void trembledPlatform(const SeenView& seen, const Attitude& now, world::View* view) const;
+    /// Computes the view from an attitude that differs by a tremor, without loss of sharpness.
+    void tremorInfrared(const RenderedView& seen, const Attitude& now, world::View* view) const;
+    void tremorRight(const RenderedView& seen, const Attitude& now, world::View* view) const;
+    void tremorThird(const RenderedView& seen, const Attitude& now, world::View* view) const;
+    void tremorPlatform(const RenderedView& seen, const Attitude& now, world::View* view) const;
 
-    /// On the way between two views: what is seen comes from the nearer one, and from the other where that one does
-    /// not reach, blurred by a motion of so many degrees about x and y during the exposure.
-    struct Passage {
-        const SeenView &nearer, &other;
+    /// An attitude between two keyframes. Pixels come from the nearer view, and from the other one where the nearer one
+    /// does not reach. The image is blurred by the given motion in degrees about x and y during the exposure.
+    struct Transition {
+        const RenderedView &nearer, &other;
         Attitude now;
         cv::Point2d motionDeg;
     };
-    void passingInfrared(const Passage& passage, world::View* view) const;
-    void passingRight(const Passage& passage, world::View* view) const;
-    void passingThird(const Passage& passage, world::View* view) const;
-    /// The picture comes in half its size.
-    void passingPlatform(const Passage& passage, world::View* view) const;
+    void transitionInfrared(const Transition& transition, world::View* view) const;
+    void transitionRight(const Transition& transition, world::View* view) const;
+    void transitionThird(const Transition& transition, world::View* view) const;
+    /// The image has half the size.
+    void transitionPlatform(const Transition& transition, world::View* view) const;
 
 private:
     struct Eye {
         Lens lens;
         cv::Matx33d eye_infrared;  ///< rotation
-        /// Takes directions in the eye's frame back into its frame before the infrared camera turned.
+        /// Maps directions in the camera's frame to its frame before the infrared camera rotated.
         cv::Matx33d turn(const cv::Matx33d& before, const cv::Matx33d& now) const;
-        /// Where the pixels, or every `step` of them, were in a picture of `seen`.
-        cv::Mat_<cv::Vec2f> places(const SeenView& seen, const cv::Matx33d& now, int step = 1) const;
+        /// Returns the positions of the pixels, or of every `step`-th one, in an image of `seen`.
+        cv::Mat_<cv::Vec2f> places(const RenderedView& seen, const cv::Matx33d& now, int step = 1) const;
     };
-    /// What one sensor sees from the nearer and from the other view, and where it is put together.
+    /// The images of one sensor in the nearer and in the other view, and the composed image.
     struct Layer {
         cv::Mat near, far, *out;
     };
-    static void paintPassage(const Passage& passage, const Eye& eye, const cv::Matx33d& now,
-                             std::initializer_list<Layer> layers, int interpolation, int step = 1);
-    static void smear(cv::Mat picture, const Eye& eye, cv::Point2d motionDeg);
+    static void paintTransition(const Transition& transition, const Eye& eye, const cv::Matx33d& now,
+                                std::initializer_list<Layer> layers, int interpolation, int step = 1);
+    static void blurMotion(cv::Mat picture, const Eye& eye, cv::Point2d motionDeg);
 
     Eye infrared_, right_, depth_, third_;
     std::optional<Eye> platform_;

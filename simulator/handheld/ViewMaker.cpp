@@ -9,7 +9,7 @@ namespace fieldcal::handheld {
 
 namespace {
 
-/// Frames that are due come first. The threads that help with rendering inherit it.
+/// Lowers the priority of rendering, so that frames that are due come first. Threads started for rendering inherit it.
 void yieldToOthers() {
     setpriority(PRIO_PROCESS, static_cast<id_t>(gettid()), 15);
 }
@@ -37,7 +37,7 @@ void ViewMaker::request(int number, bool withPlatform) {
     changed_.notify_all();
 }
 
-std::shared_ptr<const RestingView> ViewMaker::view(int number, bool withPlatform, std::chrono::milliseconds patience) {
+std::shared_ptr<const Keyframe> ViewMaker::view(int number, bool withPlatform, std::chrono::milliseconds patience) {
     std::unique_lock<std::mutex> lock(mutex_);
     if (!changed_.wait_for(lock, patience, [&] { return isMade(number, withPlatform); })) return nullptr;
     return made_.at(number);
@@ -48,7 +48,7 @@ bool ViewMaker::isMade(int number, bool withPlatform) const {
     return found != made_.end() && (!withPlatform || !found->second->moments.front().view.platform.empty());
 }
 
-/// Waits for something to do; false when it is over.
+/// Waits for a keyframe to render; returns false when the object is being destroyed.
 bool ViewMaker::nextOrder(Order* order) {
     std::unique_lock<std::mutex> lock(mutex_);
     for (;;) {

@@ -12,22 +12,22 @@
 
 namespace fieldcal::handheld {
 
-/// Builds a world and renders the views of a hand ahead of time, on a thread of its own. The other members may be
-/// called from one thread. Destruction stops the rendering.
+/// Builds a world and renders the keyframes of a hand ahead of time, on its own thread. The other members may be called
+/// from one thread. The destructor stops the rendering.
 class ViewMaker {
 public:
-    /// `ahead`: views are made while others are shown, and whoever shows them comes first.
+    /// `ahead`: keyframes are rendered while others are shown, with a lower priority than showing them.
     ViewMaker(std::string world, std::uint64_t seed, const synthesis::Rig& rig, bool ahead);
     ~ViewMaker();
     ViewMaker(const ViewMaker&) = delete;
     ViewMaker& operator=(const ViewMaker&) = delete;
 
-    /// Asks for a view; the one after it is made next. Earlier ones may be forgotten.
+    /// Requests a keyframe; the following one is rendered next. Earlier ones may be discarded.
     void request(int number, bool withPlatform);
-    /// Whether whoever shows views needs the processors for now.
+    /// Pauses rendering while the processors are needed for frames that are due.
     void pause(bool paused) { interruption_.pause(paused); }
-    /// Null while it is not there; `patience` is how long to wait for it at most.
-    std::shared_ptr<const RestingView> view(int number, bool withPlatform, std::chrono::milliseconds patience);
+    /// Returns null if the keyframe is not ready within `patience`.
+    std::shared_ptr<const Keyframe> view(int number, bool withPlatform, std::chrono::milliseconds patience);
 
 private:
     struct Order {
@@ -48,8 +48,8 @@ private:
     bool stop_ = false;
     world::Interruption interruption_;
     Order wanted_{0, false};
-    std::map<int, std::shared_ptr<const RestingView>> made_;
-    std::thread thread_;  ///< last, so that it finds everything else in place
+    std::map<int, std::shared_ptr<const Keyframe>> made_;
+    std::thread thread_;  ///< declared last, because it uses all other members
 };
 
 }  // namespace fieldcal::handheld

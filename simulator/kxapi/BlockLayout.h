@@ -5,11 +5,11 @@
 #include <cstring>
 #include <numeric>
 
-/// What the simulated module keeps in the reserved bytes of its parameter block: for each colour camera the rotation
-/// from the depth camera's raw frame to the camera's raw frame (nine doubles, row-major) and the translation from the
-/// depth camera to the camera's rectified frame (three doubles, millimetres), where the camera's offset says.
-/// All other reserved bytes hold a pattern that nobody but their owner may change. A module whose block lives
-/// (`living-block` in the README) counts its commits in the last reserved bytes and keeps a sum of all others there.
+/// Layout of the reserved bytes in the simulated module's parameter block. For each colour camera, at the camera's
+/// offset: the rotation from the depth camera's raw frame to the camera's raw frame (nine doubles, row-major) and the
+/// translation from the depth camera to the camera's rectified frame (three doubles, millimetres). All other reserved
+/// bytes hold a pattern that only their owner may change. A module with a living block (`living-block` in the README)
+/// counts its commits in the last reserved bytes and keeps a checksum of all others there.
 namespace kxsim {
 
 constexpr std::size_t kThirdOffset = 256;
@@ -36,12 +36,12 @@ inline void loadTranslation(const KXCalibRectParameters& block, std::size_t came
     std::memcpy(translation, block.reserved0 + camera + kRotationBytes, kTranslationBytes);
 }
 
-/// One bit of one byte wrong.
+/// Flips one bit of one byte.
 inline void garble(KXCalibRectParameters* block, std::size_t byte) {
     reinterpret_cast<std::uint8_t*>(block)[byte % sizeof(*block)] ^= 0x40U;
 }
 
-/// What a module with a living block enters into `block` as it replaces `present`.
+/// Enters the commit count and the checksum of a module with a living block into `block`, which replaces `present`.
 inline void enterLife(const KXCalibRectParameters& present, KXCalibRectParameters* block) {
     constexpr std::size_t kCount = sizeof(block->reserved3) - 8;
     constexpr std::size_t kSum = sizeof(block->reserved3) - 4;

@@ -6,7 +6,8 @@
 
 namespace kxsim {
 
-/// The camera inside the module. Whatever size is asked for, the recording's own is served: `thirdWidth` tells.
+/// The colour camera inside the module. Whatever size is requested, images have the recording's own size, as
+/// `thirdWidth` reports.
 class ThirdInterface final : public KXThirdCamera {
 public:
     explicit ThirdInterface(ModuleState* state) : state_(*state) {}
@@ -25,7 +26,8 @@ private:
     ModuleState& state_;
 };
 
-/// The module's calibration of the tablet's rear camera. Raw intrinsics are told in mode 0, rectified ones in mode 1.
+/// The module's calibration of the tablet's rear camera. Raw intrinsics are available in mode 0, rectified ones in mode
+/// 1.
 class PlatformInterface final : public KXPlatformCamera {
 public:
     explicit PlatformInterface(ModuleState* state) : state_(*state) {}

@@ -7,7 +7,7 @@
 
 namespace kxsim {
 
-/// Imager settings and emitter: checked and accepted. A recording's pictures do not follow them.
+/// Imager settings and emitter: checked and accepted, but without effect on the images of a recording.
 class HardwareInterface final : public KXHardwareControl {
 public:
     explicit HardwareInterface(ModuleState* state) : state_(*state) {}
@@ -46,8 +46,8 @@ private:
     bool on_ = false;
 };
 
-/// Writing the calibration. Like the module's own memory it takes any block: one that makes no sense keeps the module
-/// from resuming, and its calibration is then not valid.
+/// Writing of the calibration. Like the memory of the real module it accepts any block: an invalid one prevents the
+/// module from resuming, and its calibration is then not valid.
 class PrivateInterface final : public KXPrivate {
 public:
     explicit PrivateInterface(ModuleState* state) : state_(*state) {}

@@ -41,7 +41,7 @@ constexpr Kind kKinds[] = {
     {"garble", FaultKind::garble, Number::maybe, For::blocks},
 };
 
-/// The whole text as a number that is not negative.
+/// Parses the whole text as a number that is not negative.
 bool takeNumber(const std::string& text, std::uint32_t* out) {
     const char* end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, *out);
@@ -70,7 +70,7 @@ bool fits(For operations, const std::string& operation) {
     return true;
 }
 
-/// Null, or what is wrong with the text.
+/// Returns null on success, otherwise what is wrong with the text.
 const char* parseKind(const std::string& text, const std::string& operation, Fault* out) {
     if (takeNumber(text, &out->number)) return nullptr;
     const std::size_t plus = text.find('+');

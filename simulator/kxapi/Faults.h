@@ -10,49 +10,49 @@ namespace kxsim {
 
 enum class FaultKind {
     status,     ///< the call fails with a status of the library
-    done,       ///< the same, though what was asked for is done
+    done,       ///< the same, although the operation is carried out
     gone,       ///< this call and all that follow fail with status 5
-    goneAfter,  ///< the same, after what was asked for is done
+    goneAfter,  ///< the same, after the operation is carried out
     die,        ///< the process ends
-    dieAfter,   ///< the same, after what was asked for is done
+    dieAfter,   ///< the same, after the operation is carried out
     hang,       ///< the call does not return
-    late,       ///< the call does what it should, but late
-    lie,        ///< the call says that it succeeded and does nothing
+    late,       ///< the call is carried out with a delay
+    lie,        ///< the call reports success without doing anything
     old,        ///< the block before the last commit is read
-    garble,     ///< one bit of the block is wrong
+    garble,     ///< one bit of the block is flipped
 };
 
 struct Fault {
     FaultKind kind = FaultKind::status;
-    std::uint32_t number = 0;  ///< the status, the byte that is hit, or milliseconds
+    std::uint32_t number = 0;  ///< the status, the affected byte, or milliseconds
 };
 
 enum class StreamFaultKind { drop, freeze, late };
 
 struct StreamFault {
     StreamFaultKind kind = StreamFaultKind::drop;
-    std::uint32_t number = 0;  ///< frame sets: by which it is late, or how long it lasts (0: for ever)
+    std::uint32_t number = 0;  ///< frame sets: the delay, or the duration (0: unlimited)
 };
 
-/// Failures on order, as the README lists them: "op:call:kind" makes the given call of an operation of `Operations.h`
-/// (counted from 1) fail, "stream:set:kind" holds a stream's pictures back from that frame set on, and a single word is
-/// a condition that holds all the time.
+/// Injected faults, as listed in the README: "op:call:kind" makes the given call of an operation of `Operations.h`
+/// (counted from 1) fail, "stream:set:kind" affects a stream's images from that frame set on, and a single word is a
+/// permanent condition.
 class Faults {
 public:
-    /// Replaces the orders. On a malformed text false, `why`, and no orders.
+    /// Replaces all faults. On a malformed text returns false with `why`, and has no faults.
     bool parse(const std::string& text, std::string* why);
 
-    /// Counts a call; what must happen to it, if anything.
+    /// Counts a call and returns its fault, if any.
     std::optional<Fault> strike(const char* operation);
 
-    /// What happens to a stream in a frame set, counted from 1.
+    /// Returns the fault of a stream in a frame set, counted from 1.
     std::optional<StreamFault> inStream(const std::string& stream, std::uint64_t set) const;
 
-    /// The module's own count and checksum in its block change with each commit.
+    /// The module changes a count and a checksum of its own in its block with each commit.
     bool livingBlock() const { return conditions_.count("living-block") > 0; }
-    /// A failed call's status is told to the thread that made it, and to no other.
+    /// The status of a failed call is reported only to the thread that made it.
     bool threadBoundStatus() const { return conditions_.count("thread-bound-status") > 0; }
-    /// The infrared calibration is for pictures of another size.
+    /// The infrared calibration is for images of another size.
     bool wrongSize() const { return conditions_.count("wrong-size") > 0; }
 
 private:
@@ -74,11 +74,11 @@ private:
     std::set<std::string> conditions_;
 };
 
-/// What a fault does before the call: waits, for ever or for a while, or ends the process.
+/// Carries out the part of a fault before the call: waits, without or with a limit, or ends the process.
 void beginFault(const Fault& fault);
-/// Ends the process if the fault does that after the call.
+/// Ends the process if the fault does so after the call.
 void endFault(const Fault& fault);
-/// Whether what was asked for is done under the fault.
+/// Returns whether the operation is carried out despite the fault.
 bool isDoneUnder(FaultKind kind);
 
 }  // namespace kxsim

@@ -8,7 +8,7 @@
 
 namespace kxsim {
 
-/// Where a module's pictures come from: a recording, or a world seen by cameras in a hand. One thread.
+/// The source of a module's images: a recording, or a world rendered for hand-held cameras. One thread.
 class FrameSource {
 public:
     FrameSource() = default;
@@ -16,26 +16,26 @@ public:
     FrameSource& operator=(const FrameSource&) = delete;
     virtual ~FrameSource() = default;
 
-    /// The module and its cameras. `truthThird` and `truthPlatform` are nobody's business behind the library.
+    /// The module and its cameras. `truthThird` and `truthPlatform` must not be visible through the library.
     virtual const fieldcal::session::SessionDescription& description() const = 0;
-    /// The same as the factory measured it, with what `description` hides. A new parameter block has its numbers.
+    /// The same as measured by the factory, including what `description` hides. A new parameter block gets its values.
     virtual const fieldcal::session::SessionDescription& factory() const { return description(); }
     virtual double grabsPerSecond() const = 0;
 
-    /// Goes to the next grab. On failure false and `why`; the current frame stays. A source that has nothing new yet
-    /// keeps its frame, too, and answers true.
+    /// Proceeds to the next grab. On failure returns false with `why`; the current frame stays. A source without a new
+    /// frame also keeps its frame, and returns true.
     virtual bool advance(std::string* why) = 0;
 
     /// Null before the first frame. Valid until the next `advance`.
     virtual const fieldcal::session::FramePictures* current() const = 0;
-    /// Whether the rear camera has a new picture, `current()->platform`, with this grab.
+    /// Returns whether the rear camera has a new image, `current()->platform`, with this grab.
     virtual bool hasNewPlatformPicture() const = 0;
-    /// Grabs so far.
+    /// The number of grabs so far.
     virtual std::uint64_t grabs() const = 0;
 
-    /// What the cameras see may depend on it. A recording cannot follow.
+    /// The images of a world depend on the emitter, those of a recording do not.
     virtual void setEmitter(bool on) = 0;
-    /// Whether anybody takes the rear camera's pictures.
+    /// Sets whether the images of the rear camera are used.
     virtual void setPlatformWanted(bool wanted) = 0;
 };
 

@@ -8,14 +8,14 @@
 
 namespace kxsim {
 
-/// The decoded frames of a recording. Frames are decoded when they are first asked for and kept while they fit into a
-/// fixed amount of memory; the others are decoded each time. (A recording is played round and round, where dropping
-/// the frame that was used longest ago would drop exactly the one that is needed next.)
+/// The decoded frames of a recording. Frames are decoded on first use and kept as long as they fit into a fixed amount
+/// of memory; the others are decoded each time. (A recording is played cyclically, so discarding the least recently
+/// used frame would always discard the one needed next.)
 class FrameStore {
 public:
     FrameStore(std::string folder, const fieldcal::session::SessionDescription& description);
 
-    /// Null and `why` when the pictures cannot be read. Valid until the next call.
+    /// Returns null with `why` when the images cannot be read. Valid until the next call.
     const fieldcal::session::FramePictures* pictures(std::size_t index, std::string* why);
 
 private:
@@ -24,7 +24,7 @@ private:
     std::string folder_;
     const fieldcal::session::SessionDescription& description_;
     std::vector<std::unique_ptr<Pictures>> kept_;
-    std::unique_ptr<Pictures> last_;  ///< one that is not kept
+    std::unique_ptr<Pictures> last_;  ///< a frame that is not kept
     std::size_t keptBytes_ = 0;
 };
 

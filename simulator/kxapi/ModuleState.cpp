@@ -45,7 +45,7 @@ Gate ModuleState::pass(const char* operation, Stage atLeast) {
     return open ? Gate::open : Gate::refused;
 }
 
-/// After an operation that was done.
+/// Called after an operation that was carried out.
 bool ModuleState::endsWell() {
     if (!fault_) return true;
     endFault(*fault_);

@@ -10,13 +10,14 @@
 
 namespace kxsim {
 
-/// What a device has been through; each stage allows what the ones before it do.
+/// The stages of a device; each one permits the operations of the previous ones.
 enum class Stage { closed, opened, ready, capturing };
 
-/// What becomes of a call: it fails (the status is noted), is done, or only pretends to be.
+/// The outcome of a call before its operation: it fails with a status, is carried out, or is only reported as a
+/// success.
 enum class Gate { refused, open, lie };
 
-/// The state that the device and its interfaces share, and the gate through which every call passes.
+/// The state that the device and its interfaces share. Every call passes through `enter` or `perform`.
 struct ModuleState {
     Settings settings;
     Stage stage = Stage::closed;
@@ -26,10 +27,10 @@ struct ModuleState {
     std::int32_t lastStatus = KX_STATUS_OK;
     std::thread::id failedOn;  ///< the thread to which `lastStatus` belongs
 
-    Block activeBlock{};                  ///< what the module works with
-    bool blockMakesSense = false;         ///< `activeBlock`
-    std::optional<Block> temporaryBlock;  ///< to be used instead of the committed one from the next resuming
-    bool resting = false;                 ///< `stopCapture` began a rest
+    Block activeBlock{};                  ///< the block that the module works with
+    bool blockMakesSense = false;         ///< whether `activeBlock` is valid
+    std::optional<Block> temporaryBlock;  ///< used instead of the committed one after the next resume
+    bool resting = false;                 ///< set between `stopCapture` and the next resume
 
     bool depthModeSet = false;
     bool thirdModeSet = false;
@@ -38,34 +39,35 @@ struct ModuleState {
     bool rightEnabled = false;
     bool thirdEnabled = false;
 
-    /// Notes the status and returns false.
+    /// Records the status and returns false.
     bool fail(std::int32_t status);
-    /// Whether it did; else reports and notes why not.
+    /// Returns true for a success; otherwise reports and records the failure.
     bool succeeds(const BlockResult& result);
-    /// Takes up the block that is to be used from now on.
+    /// Loads the block that is used from now on.
     bool loadCalibration();
-    /// Counts the call. False with a status when a fault hits it or the device is not that far.
+    /// Counts the call. Returns false with a status when the call has a fault, or when the device has not reached the
+    /// stage.
     bool enter(const char* operation, Stage atLeast) { return pass(operation, atLeast) == Gate::open; }
-    /// The same, and does what the operation does; not when it is ordered to lie.
+    /// The same, and carries out the operation unless the fault is to skip it silently.
     template <typename Action>
     bool perform(const char* operation, Stage atLeast, Action action) {
         const Gate gate = pass(operation, atLeast);
         return gate == Gate::lie || (gate == Gate::open && action() && endsWell());
     }
-    /// What hits the call that is under way.
+    /// The fault of the call in progress.
     const std::optional<Fault>& fault() const { return fault_; }
-    /// For operations that need the capture to rest: ready, but not capturing.
+    /// For operations that require the capture to be stopped: ready, but not capturing.
     template <typename Action>
     bool performAtRest(const char* operation, Action action) {
         return perform(operation, Stage::ready, [&] { return rests() && action(); });
     }
-    /// For what comes from the calibration: status 4 when it is invalid.
+    /// For queries of the calibration: fails with status 4 when it is invalid.
     bool enterCalibration(const char* operation);
 
     bool calibrationValid() const { return blockMakesSense && description().module.calibrationValid; }
 
     const fieldcal::session::SessionDescription& description() const { return source->description(); }
-    /// The current frame, null while nothing was grabbed.
+    /// The current frame; null before the first grab.
     const fieldcal::session::FramePictures* frame() const { return source ? source->current() : nullptr; }
 
 private:

@@ -5,10 +5,10 @@
 
 namespace kxsim {
 
-/// What a caller gets from an operation: `acts` tells only whether it was done, `answers` tells or hands out something.
+/// The result of an operation: `acts` only reports success, `answers` returns data.
 enum class OperationKind { acts, answers };
 
-/// The operations of `KXAPI.h` that can fail and those of the rear camera. Nothing for any other name.
+/// The operations of `KXAPI.h` that can fail, and those of the rear camera. Returns none for any other name.
 std::optional<OperationKind> operationKind(const std::string& name);
 
 }  // namespace kxsim

@@ -6,8 +6,8 @@
 
 namespace kxsim {
 
-/// When the next frame set is there: at the source's rate at speed 1, always at speed 0. A caller that comes late gets
-/// its frame at once and moves the beat; frames are never skipped, so that playing does not depend on timing.
+/// Paces frame sets at the source's rate times the speed; at speed 0 they are always due. A late caller gets its frame
+/// at once and shifts the schedule. Frames are never skipped, so that playback does not depend on timing.
 class Pace {
 public:
     void start(double framesPerSecond, double speed) {
@@ -16,7 +16,7 @@ public:
         due_ = Clock::now();
     }
 
-    /// Whether the next frame set is there; with `wait`, sleeps until it is.
+    /// Returns whether the next frame set is due; with `wait`, sleeps until it is.
     bool frameDue(bool wait) {
         if (period_ == Clock::duration::zero()) return true;
         const Clock::time_point now = Clock::now();

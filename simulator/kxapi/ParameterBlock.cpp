@@ -21,7 +21,8 @@ using Vector = Eigen::Vector3d;
 
 constexpr double kRotationTolerance = 1e-3;
 constexpr double kLargestTranslation = 1e5;
-/// More than a product of three rotations can be off, less than a float can tell of anything but a near zero.
+/// Larger than the rounding error of a product of three rotations, and too small to matter in single precision except
+/// for values near zero.
 constexpr double kRounding = 1e-14;
 
 Matrix widened(const float* values) {
@@ -32,7 +33,7 @@ Matrix matrix(const Matrix3& values) {
     return Eigen::Map<const Matrix>(values.data());
 }
 
-Matrix small(double xDeg, double yDeg, double zDeg) {
+Matrix rotationXyzDeg(double xDeg, double yDeg, double zDeg) {
     const auto about = [](double degrees, const Vector& axis) {
         return Eigen::AngleAxisd(degrees / fieldcal::kDegreesPerRadian, axis);
     };
@@ -50,13 +51,13 @@ Matrix storedRotation(const KXCalibRectParameters& block, std::size_t camera) {
     return rotation;
 }
 
-/// The serial number decides every byte.
+/// Fills the reserved bytes with a pattern determined by the serial number.
 void fillReserved(std::uint32_t serial, std::uint8_t* bytes, std::size_t count) {
     std::mt19937 random(serial);
     std::generate(bytes, bytes + count, [&] { return static_cast<std::uint8_t>(random() >> 24); });
 }
 
-/// The raw rotation with which the block says `rotation`.
+/// Stores the raw rotation that corresponds to `rotation` between rectified frames.
 void storeCamera(KXCalibRectParameters* block, std::size_t camera, const float* rectification, const Matrix3& rotation,
                  const Vector3& translation) {
     const Matrix raw = widened(rectification).inverse() * matrix(rotation) * widened(block->rectificationInfrared);
@@ -76,8 +77,8 @@ bool translationMakesSense(const KXCalibRectParameters& block, std::size_t camer
     return translation.allFinite() && translation.cwiseAbs().maxCoeff() <= kLargestTranslation;
 }
 
-KXCalibExtrinsics told(const KXCalibRectParameters& block, std::size_t camera, const float* rectification,
-                       const Matrix3& recorded) {
+KXCalibExtrinsics reportedExtrinsics(const KXCalibRectParameters& block, std::size_t camera, const float* rectification,
+                                     const Matrix3& recorded) {
     const Matrix product =
         widened(rectification) * storedRotation(block, camera) * widened(block.rectificationInfrared).inverse();
     Matrix3 rotation = recorded;
@@ -94,9 +95,9 @@ KXCalibExtrinsics told(const KXCalibRectParameters& block, std::size_t camera, c
 KXCalibRectParameters factoryBlock(const SessionDescription& session) {
     KXCalibRectParameters block{};
     fillReserved(session.module.serial, reinterpret_cast<std::uint8_t*>(&block), sizeof(block));
-    narrow(small(0.15, -0.3, 0.2), block.rectificationInfrared);
-    narrow(small(-0.25, 0.4, 0.1), block.rectificationThird);
-    narrow(session.platform ? matrix(session.platform->rectification) : small(0.35, 0.1, -0.45),
+    narrow(rotationXyzDeg(0.15, -0.3, 0.2), block.rectificationInfrared);
+    narrow(rotationXyzDeg(-0.25, 0.4, 0.1), block.rectificationThird);
+    narrow(session.platform ? matrix(session.platform->rectification) : rotationXyzDeg(0.35, 0.1, -0.45),
            block.rectificationPlatform);
     const auto& third = session.third;
     storeCamera(&block, kThirdOffset, block.rectificationThird, third.rotation, third.translation);
@@ -124,11 +125,11 @@ bool makesSense(const KXCalibRectParameters& block, std::string* why) {
 }
 
 KXCalibExtrinsics thirdExtrinsics(const KXCalibRectParameters& block, const SessionDescription& session) {
-    return told(block, kThirdOffset, block.rectificationThird, session.third.rotation);
+    return reportedExtrinsics(block, kThirdOffset, block.rectificationThird, session.third.rotation);
 }
 
 KXCalibExtrinsics platformExtrinsics(const KXCalibRectParameters& block, const SessionDescription& session) {
-    return told(block, kPlatformOffset, block.rectificationPlatform, session.platform->rotation);
+    return reportedExtrinsics(block, kPlatformOffset, block.rectificationPlatform, session.platform->rotation);
 }
 
 }  // namespace kxsim

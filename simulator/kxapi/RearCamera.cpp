@@ -61,7 +61,8 @@ std::optional<Fault> RearCamera::strike(const char* operation) {
     return fault;
 }
 
-/// Done under the lock; but a call that hangs must not hold it, or the module would hang with it.
+/// Carries out the action under the lock. A call that hangs does so without the lock, so that the module does not hang
+/// as well.
 template <typename Action>
 bool RearCamera::perform(const char* operation, Action action) {
     const std::optional<Fault> fault = strike(operation);
@@ -91,7 +92,7 @@ bool RearCamera::setupStream(std::int32_t stream, std::int32_t width, std::int32
                              const char* subtype) {
     const bool record = stream == kRecordStream;
     const bool sizeFits = record ? width == kPlatformWidth && height == kPlatformHeight : width > 0 && height > 0;
-    // A photo stream has no rate.
+    // The photo stream has no rate.
     const bool rateFits = framesPerSecond > 0 || stream == kPhotoStream;
     const bool valid = stream >= 0 && stream <= kPhotoStream && sizeFits && rateFits && subtype != nullptr &&
                        std::strcmp(subtype, "NV12") == 0;

@@ -8,15 +8,15 @@
 
 namespace kxsim {
 
-/// The tablet's rear camera: one per process, filled by whichever device grabs. Pictures reach the sink on the grabbing
-/// thread, before `grab` returns, so that playing is deterministic. A sink must not call back into the camera.
+/// The tablet's rear camera: one per process, fed by the device that grabs. Images reach the sink on the grabbing
+/// thread before `grab` returns, so that playback is deterministic. A sink must not call back into the camera.
 class RearCamera final : public RearCameraSource {
 public:
     static RearCamera& instance();
 
-    /// Takes up the environment: the recording's camera name and the faults. False when the tablet has no rear camera.
-    /// It has one with every recording, even one without a platform camera or one that cannot be read (the module then
-    /// says what is wrong with it).
+    /// Reads the environment: the recording's camera name and the faults. Returns false when the tablet has no rear
+    /// camera. It has one with every recording, even with one that has no platform camera or cannot be read; the module
+    /// then reports the fault.
     bool plugIn();
 
     const char* friendlyName() override;
@@ -27,11 +27,11 @@ public:
                      const char* subtype) override;
     void setSink(RearCameraSink* sink) override;
 
-    /// Whether somebody takes the pictures.
+    /// Returns whether the images are being received.
     bool streams();
-    /// Hands a 1280 x 720 NV12 picture to the sink, when there is one and the record stream is set up.
+    /// Sends a 1280 x 720 NV12 image to the sink, if there is one and the record stream is set up.
     void show(const std::uint8_t* nv12, double timeSeconds);
-    /// The same with a black one: a camera that works delivers something before there is anything to see.
+    /// Sends a black image, which a working camera delivers before there is anything to see.
     void showDark();
 
 private:

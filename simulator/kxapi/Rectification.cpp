@@ -33,7 +33,8 @@ Point distorted(const KXCalibIntrinsicsNonRectified& raw, Point p) {
             p.y * radial + raw.p1 * (r2 + 2 * yy) + 2 * raw.p2 * xy};
 }
 
-/// A coordinate in steps of 1/32 pixel, or -1 outside 0 … size - 1. The last pixel's centre moves inside by one step.
+/// Returns a coordinate in steps of 1/32 pixel, or -1 outside 0 … size - 1. The centre of the last pixel is moved
+/// inside by one step.
 int steps(double coordinate, int size) {
     if (!(coordinate >= -0.5 / kSteps && coordinate <= size - 1 + 0.5 / kSteps)) return -1;
     return std::min(static_cast<int>(2 * kSteps * coordinate + 1) / 2, (size - 1) * kSteps - 1);

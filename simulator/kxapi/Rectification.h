@@ -4,17 +4,17 @@
 
 namespace kxsim {
 
-/// A table entry tells where in the raw picture a rectified pixel comes from, to 1/32 pixel:
+/// A table entry tells where in the raw image a rectified pixel comes from, to 1/32 pixel:
 /// bit 31 set when it comes from inside; then x (11 bits), y (10 bits), and the fractions of x and y (5 bits each).
 /// The whole part never is the last column or row, so that the four neighbours always exist. Entry 0: from outside.
 ///
 /// For the rectified pixel (u, v): X = rotationᵀ · K_rectified⁻¹ · (u, v, 1), the radial-tangential distortion of
 /// X / Z, then the raw intrinsics; the first pixel's centre is at 0. By docs/conventions.md a colour camera's principal
 /// point lies ½ · f / f_infrared - ½ further in its own pixels. The infrared focal length is not known here and need
-/// not be: it moves raw and rectified picture by nearly the same angle. What is left is about
+/// not be: it moves raw and rectified image by nearly the same angle. What is left is about
 /// ½ · (f_raw / f_rectified - 1), a hundredth of a pixel.
 ///
-/// Raw pictures of at most 2048 x 1024 pixels; with larger ones, or intrinsics that make no sense, nothing is inside.
+/// Raw images of at most 2048 x 1024 pixels; with larger ones, or intrinsics that make no sense, nothing is inside.
 void fillRectificationTable(const KXCalibIntrinsicsNonRectified& raw, const double* rotation,
                             const KXCalibIntrinsicsRectified& rectified, std::uint32_t* table);
 

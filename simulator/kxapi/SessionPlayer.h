@@ -5,18 +5,18 @@
 
 namespace kxsim {
 
-/// Plays a recorded session: each frame as many times as its `repeat` says, and from the start again at the end.
+/// Plays a recorded session cyclically: each frame as many times as its `repeat` says.
 class SessionPlayer final : public FrameSource {
 public:
-    /// Checks the description and every picture file. Null and `why` (one line) when something is wrong.
+    /// Checks the description and every image file. Returns null with `why` (one line) when something is wrong.
     static std::unique_ptr<SessionPlayer> open(const std::string& folder, std::string* why);
 
     const fieldcal::session::SessionDescription& description() const override { return description_; }
     double grabsPerSecond() const override { return 60; }
     bool advance(std::string* why) override;
-    /// The same pointers while the frame repeats.
+    /// Returns the same pointers while the frame repeats.
     const fieldcal::session::FramePictures* current() const override { return current_; }
-    /// The rear camera runs at half the module's rate, and always shows a new frame with its first grab.
+    /// The rear camera runs at half the module's rate, and always shows a new frame with the frame's first grab.
     bool hasNewPlatformPicture() const override { return !current_->platform.empty() && repetition_ % 2 == 0; }
     std::uint64_t grabs() const override { return grabs_; }
     void setEmitter(bool) override {}
@@ -29,7 +29,7 @@ private:
     FrameStore store_;
     const fieldcal::session::FramePictures* current_ = nullptr;
     std::size_t index_ = 0;
-    int repetition_ = 0;  ///< how often the current frame was delivered before
+    int repetition_ = 0;  ///< number of previous deliveries of the current frame
     std::uint64_t grabs_ = 0;
 };
 

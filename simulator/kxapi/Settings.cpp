@@ -24,7 +24,7 @@ void readSpeed(Settings* out) {
     out->problem = "KXSIM_SPEED: \"" + text.toStdString() + "\": 0 or a number from 0.01 to 1000 expected";
 }
 
-/// `choices`: the names of the values of `Choice`, in their order.
+/// `choices`: the names of the values of `Choice` in their order.
 template <typename Choice>
 void readChoice(const char* variable, const QStringList& choices, Choice* out, std::string* problem) {
     const QString text = qEnvironmentVariable(variable);

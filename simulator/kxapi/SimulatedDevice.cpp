@@ -15,19 +15,20 @@
 namespace kxsim {
 namespace {
 
-/// Whether there is anything to show: a recording, or a world where this build can render one.
+/// Returns whether there is a source of images: a recording, or a world where this build can render one.
 bool hasSource(const Settings& settings) {
     return !settings.session.empty() || canRenderWorlds;
 }
 
-/// The recording or the world that the settings name. Null and `why` (one line) when something is wrong with it.
+/// Opens the recording or the world that the settings name. Returns null with `why` (one line) when something is wrong
+/// with it.
 std::unique_ptr<FrameSource> openSource(const Settings& settings, std::string* why) {
     if (!settings.session.empty()) return SessionPlayer::open(settings.session, why);
     return openWorld(settings, why);
 }
 
-/// Where the module's parameter block lives: as the settings say; else, for a rendered module, a file of its own in
-/// the user's data folder; else nowhere (empty).
+/// Returns the file of the module's parameter block: that of the settings; otherwise, for a rendered module, its own
+/// file in the user's data folder; otherwise none (empty).
 std::string blockFile(const Settings& settings, std::uint32_t serial) {
     if (!settings.flash.empty() || !settings.session.empty()) return settings.flash;
     const QString folder =
@@ -56,7 +57,7 @@ bool SimulatedDevice::openDevice(std::int32_t index) {
     });
 }
 
-/// The module's parts: its pictures and its parameter block.
+/// Creates the module's parts: its images and its parameter block.
 bool SimulatedDevice::plugIn() {
     std::string why;
     std::unique_ptr<FrameSource> source = openSource(state_.settings, &why);
@@ -68,7 +69,7 @@ bool SimulatedDevice::plugIn() {
     BlockStore block(blockFile(state_.settings, description.module.serial));
     const BlockResult loaded = block.open(factoryBlock(source->factory()), &state_.activeBlock);
     state_.blockMakesSense = loaded.ok();
-    // A block that makes no sense is a calibration that is not valid; the module itself works, and can be written.
+    // An invalid block makes the calibration invalid; the module itself works, and its block can be written.
     if (!state_.succeeds(loaded) && !block.read(&state_.activeBlock).ok()) return false;
     const auto& depth = description.depth;
     noDepth_.assign(static_cast<std::size_t>(depth.width) * static_cast<std::size_t>(depth.height), 0);

@@ -7,14 +7,14 @@
 
 namespace kxsim {
 
-/// The simulated module. Strict about order: open, init, modes and streams, capture, grab; anything out of turn fails
-/// with status 1. Where a recording has no right infrared picture there is none, and where it has no depth that is 0.
-/// Whatever size the depth stream is asked for, the recording's own sizes are served.
+/// The simulated module. It enforces the order of calls: open, init, modes and streams, capture, grab; any other order
+/// fails with status 1. A recording without right infrared images gives none, and one without depth gives depth 0.
+/// Whatever size is requested for the depth stream, images have the recording's own sizes.
 class SimulatedDevice final : public KXDevice {
 public:
     explicit SimulatedDevice(Settings settings);
 
-    /// Before destruction; faults may hit it.
+    /// To be called before destruction; it is subject to faults.
     void close();
 
     bool openDevice(std::int32_t index) override;

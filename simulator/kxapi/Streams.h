@@ -8,14 +8,15 @@
 
 namespace kxsim {
 
-/// The pictures of one stream as the module delivers them: those of the source, unless a fault drops, freezes or
-/// delays them.
+/// The images of one stream as the module delivers them: those of the source, unless a fault drops, freezes or delays
+/// them.
 template <typename Picture>
 class Stream {
 public:
     explicit Stream(const char* name) : name_(name) {}
 
-    /// Once for every frame set, counted from 1. `picture` stays until the next call; null: the source has none.
+    /// To be called once for every frame set, counted from 1. `picture` must stay valid until the next call; null when
+    /// the source has none.
     void follow(const Picture* picture, std::uint64_t set, const Faults& faults) {
         const std::optional<StreamFault> fault = faults.inStream(name_, set);
         shown_ = picture;
@@ -25,7 +26,7 @@ public:
         if (fault->kind == StreamFaultKind::late) shown_ = delayed(picture, fault->number);
     }
 
-    /// Null: the frame set has no such picture.
+    /// Returns null when the frame set has no such image.
     const Picture* shown() const { return shown_; }
 
 private:
@@ -42,24 +43,24 @@ private:
 
     const char* name_;
     const Picture* shown_ = nullptr;
-    std::deque<Picture> kept_;  ///< what is delivered later on, the oldest one first
+    std::deque<Picture> kept_;  ///< images to be delivered later, the oldest one first
 };
 
-/// What the module delivers of a frame set.
+/// The images that the module delivers of a frame set.
 class Streams {
 public:
     explicit Streams(RightChoice right) : choice_(right) {}
 
-    /// Once for every frame set that was grabbed, with `frame` current until the next call.
+    /// To be called once for every grabbed frame set. `frame` must stay valid until the next call.
     void follow(const fieldcal::session::FramePictures& frame, bool platformIsNew, const Faults& faults);
 
-    /// Null where the frame set has no such picture.
+    /// Return null where the frame set has no such image.
     const std::uint16_t* depth() const { return pixelsOf(depth_); }
     const std::uint16_t* left() const { return pixelsOf(left_); }
     const std::uint16_t* right() const { return pixelsOf(right_); }
     const std::uint8_t* third() const { return third_.shown() != nullptr ? third_.shown()->bytes() : nullptr; }
     const std::uint8_t* platform() const;
-    /// Whether the source has depth at all; where it has none, that is 0 everywhere.
+    /// Returns whether the source has depth at all; if not, depth is 0 everywhere.
     bool hasDepth() const { return hasDepth_; }
 
 private:

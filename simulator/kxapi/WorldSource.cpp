@@ -1,6 +1,6 @@
 #include "simulator/kxapi/WorldSource.h"
 
-#include "simulator/handheld/Footage.h"
+#include "simulator/handheld/FrameGenerator.h"
 #include "simulator/synthesis/Random.h"
 #include "simulator/synthesis/Rig.h"
 #include "simulator/world/Worlds.h"
@@ -11,15 +11,15 @@
 namespace kxsim {
 namespace {
 
-using fieldcal::handheld::Footage;
+using fieldcal::handheld::FrameGenerator;
 using fieldcal::handheld::LightCourse;
 using fieldcal::session::SessionDescription;
 
-/// How long one grab waits for a view; after that it answers without a new frame, before anybody takes the module for
-/// dead.
+/// Longest wait of one grab for a keyframe. After that the grab returns without a new frame, before a caller gives up
+/// on the module.
 constexpr std::chrono::milliseconds kPatience{8000};
 
-/// An infrared picture of the same view, exposed once more: by a level or none brighter or darker, pixel by pixel.
+/// Exposes an infrared image of the same view again: each pixel becomes brighter or darker by at most one level.
 void exposeAgain(std::uint64_t seed, fieldcal::ImageFrame16* picture) {
     constexpr std::uint16_t kBrightest = 1023;
     std::uint16_t* pixels = picture->pixels();
@@ -31,10 +31,9 @@ void exposeAgain(std::uint64_t seed, fieldcal::ImageFrame16* picture) {
     }
 }
 
-/// The cameras in the hand deliver 30 frame sets a second, the module 60: between two of them come the infrared
-/// pictures of the first one, exposed again, with its depth, and its colour picture once more.
-/// Its world is built, and rendering begins, with the first grab: who asks for texts and calibrations only does not
-/// pay.
+/// The frame generator delivers 30 frame sets a second, the module 60. Every second frame set consists of the infrared
+/// images of the previous one, exposed again, with the same depth and colour image. The world is built, and rendering
+/// begins, with the first grab, because some callers read only texts and calibrations.
 class WorldSource final : public FrameSource {
 public:
     WorldSource(const Settings& settings, fieldcal::synthesis::Rig rig, const LightCourse& light)
@@ -42,7 +41,7 @@ public:
           description_(rig_),
           waits_(settings.speed == 0),
           hasRearCamera_(settings.platform != PlatformChoice::absent),
-          open_([=] { return std::make_unique<Footage>(settings.world, settings.seed, rig_, light, !waits_); }) {
+          open_([=] { return std::make_unique<FrameGenerator>(settings.world, settings.seed, rig_, light, !waits_); }) {
         if (settings.platform != PlatformChoice::calibrated) description_.platform.reset();
     }
 
@@ -54,12 +53,12 @@ public:
             exposeBetween();
             return true;
         }
-        if (footage_ == nullptr) footage_ = open_();
-        footage_->setEmitter(emitter_);
-        footage_->setPlatformWanted(platformWanted_);
-        isNew_ = footage_->advance(waits_ || footage_->current() == nullptr ? kPatience : kPatience * 0);
+        if (generator_ == nullptr) generator_ = open_();
+        generator_->setEmitter(emitter_);
+        generator_->setPlatformWanted(platformWanted_);
+        isNew_ = generator_->advance(waits_ || generator_->current() == nullptr ? kPatience : kPatience * 0);
         if (!isNew_) return true;
-        current_ = footage_->current();
+        current_ = generator_->current();
         ++grabs_;
         return true;
     }
@@ -84,8 +83,8 @@ private:
     fieldcal::synthesis::Rig rig_;
     SessionDescription description_;
     bool waits_, hasRearCamera_;
-    std::function<std::unique_ptr<Footage>()> open_;
-    std::unique_ptr<Footage> footage_;
+    std::function<std::unique_ptr<FrameGenerator>()> open_;
+    std::unique_ptr<FrameGenerator> generator_;
     bool emitter_ = false, platformWanted_ = false;
     bool isNew_ = false;
     std::uint64_t grabs_ = 0;

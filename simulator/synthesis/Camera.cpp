@@ -6,7 +6,7 @@ namespace fieldcal::synthesis {
 
 namespace {
 
-/// `ray` gives x/z and y/z of a place in pixels, the first pixel's centre at 0.
+/// `ray` returns x/z and y/z of a position in pixels, with the centre of the first pixel at 0.
 RayGrid gridOf(cv::Size size, int samplesPerPixel, const std::function<cv::Point2d(cv::Point2d)>& ray) {
     RayGrid grid;
     grid.samplesPerPixel = samplesPerPixel;
@@ -32,7 +32,7 @@ cv::Point2d distorted(const session::RawIntrinsics& k, cv::Point2d p) {
 }
 
 cv::Point2d undistorted(const session::RawIntrinsics& k, cv::Point2d target) {
-    constexpr int rounds = 8;  // each gains more than an order of magnitude for such lenses
+    constexpr int rounds = 8;  // for such lenses each round gains more than an order of magnitude
     cv::Point2d p = target;
     for (int i = 0; i < rounds; ++i) {
         const cv::Point2d missing = target - distorted(k, p);
@@ -51,8 +51,8 @@ cv::Point2d ownPrincipalPoint(const session::Intrinsics& colour, const session::
 
 namespace {
 
-/// Rectified places of raw pixels, calculated at every eighth pixel: in between, lenses like these bend by less than a
-/// hundredth of a pixel.
+/// Rectified positions of raw pixels, computed at every eighth pixel. Linear interpolation is accurate to a hundredth
+/// of a pixel for such lenses.
 class RectifiedLattice {
 public:
     explicit RectifiedLattice(const session::PlatformCamera& platform)
@@ -62,7 +62,7 @@ public:
                 nodes_(y, x) = rectifiedFromRaw(platform, cv::Point2d(x - 1, y - 1) * cell);
     }
 
-    /// A place at most a pixel outside the picture.
+    /// A position at most one pixel outside the image.
     cv::Point2d at(cv::Point2d raw) const {
         const double x = raw.x / cell + 1, y = raw.y / cell + 1;
         const int column = static_cast<int>(x), row = static_cast<int>(y);

@@ -15,10 +15,10 @@ namespace {
 
 using Row = std::vector<float>;
 
-/// Light left at places after the lens, 1 in the middle.
+/// Relative transmission of a lens over the image, 1 in the centre.
 class Vignetting {
 public:
-    /// Every place of a row comes `samples` times.
+    /// Every position of a row occurs `samples` times.
     Vignetting(cv::Size size, double lost, int samples)
         : lost_(static_cast<float>(lost)),
           middle_(static_cast<float>(size.height) * 0.5F),
@@ -40,13 +40,13 @@ private:
     Row acrossSquared_;
 };
 
-/// What a sensor reads where so much arrives: `levels` plus the noise of light and read-out, in the sensor's unit.
+/// Adds photon noise and read-out noise to the expected `levels`, in the sensor's unit.
 void addNoise(float perUnit, float read, const Row& normal, Row& levels) {
     for (std::size_t i = 0; i < levels.size(); ++i)
         levels[i] = levels[i] + std::sqrt(levels[i] * perUnit + read) * normal[i];
 }
 
-/// Mean with the brightest 2 % cut off.
+/// Mean with the brightest 2 % removed.
 float clippedMean(std::vector<float> values) {
     const auto cut = values.begin() + static_cast<std::ptrdiff_t>(values.size() * 49 / 50);
     std::nth_element(values.begin(), cut, values.end());
@@ -56,7 +56,7 @@ float clippedMean(std::vector<float> values) {
     return static_cast<float>(sum / static_cast<double>(values.size()));
 }
 
-/// The exposure metering looks at one pixel of a few.
+/// Exposure metering samples only some of the pixels.
 template <typename Pixel, typename Light>
 float meanLight(const cv::Mat_<Pixel>& picture, Light light) {
     constexpr int step = 3;
@@ -68,7 +68,7 @@ float meanLight(const cv::Mat_<Pixel>& picture, Light light) {
     return std::max(1e-4F, clippedMean(std::move(values)));
 }
 
-/// The usual gamma of displays, from a table that is fine enough for eight bits.
+/// The usual display gamma, from a table with sufficient resolution for eight bits.
 class Gamma {
 public:
     Gamma() {

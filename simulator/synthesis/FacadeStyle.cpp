@@ -50,7 +50,8 @@ Surface paneSurface(const FacadeStyle& style, const Noise& noise, int bay, int f
     const bool curtain = question(25) < 0.3F && std::abs(in.s) > style.windowWidth * 0.22F;
     const Spectrum room = Spectrum{0.035F, 0.03F, 0.03F, 0.04F} * (0.5F + shade);
     pane.reflectance = curtain ? Spectrum{0.40F, 0.40F, 0.38F, 0.42F} : room;
-    // The mirrored sky is blue and so nearly absent in the near infrared; mirrored house fronts are in both.
+    // The reflected sky is blue and therefore nearly absent in the near infrared; reflected house fronts appear in
+    // both.
     const float cut =
         noise.fractal(in.s * 0.8F + 13 * shade, in.h * 0.5F + question(26) * 40, 1.4F, in.footprint, 0.55F);
     const float skyward = smoothStep(-0.1F, 0.2F, cut + (shade - 0.5F) * 1.5F);

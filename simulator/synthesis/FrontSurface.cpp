@@ -6,7 +6,7 @@ namespace fieldcal::synthesis {
 
 namespace {
 
-/// Places relative to the window of their bay: s from the window's middle, h from its sill.
+/// Position relative to the window of its bay: s from the centre of the window, h from its sill.
 struct Bay {
     int column = 0, floor = 0;
     float s = 0, h = 0;
@@ -50,7 +50,7 @@ Spectrum wallReflectance(const FacadeStyle& style, const Noise& noise, FrontPlac
     else
         wall = mottled(style.wall, noise, p.s, p.h, 3.0F, p.footprint);
     if (style.rusticated && p.h < style.storey && p.h - std::floor(p.h / 0.42F) * 0.42F < 0.05F) wall = wall * 0.45F;
-    // Rain leaves streaks, strongest near the ground; dirt absorbs in every band.
+    // Streaks of dirt left by rain, strongest near the ground; dirt absorbs in every band.
     const float streak = noise.fractal(p.s * 3, p.h * 0.35F, 1.5F, p.footprint, 0.7F);
     return wall * (1 - 0.10F * std::max(0.0F, streak) - 0.15F * smoothStep(1.2F, 0.0F, p.h));
 }
@@ -62,7 +62,7 @@ Surface shutterSurface(const FacadeStyle& style, const Noise& noise, FrontPlace 
     return surface;
 }
 
-/// Frame, bars and panes, darkened where the reveal shades them.
+/// Frame, bars and panes, darkened in the shadow of the reveal.
 Surface windowSurface(const FacadeStyle& style, const Noise& noise, const FrontSun& sun, const Bay& bay, FrontPlace p) {
     constexpr float frame = 0.07F;
     const float half = style.windowWidth * 0.5F;
@@ -88,7 +88,7 @@ bool hasBalcony(const FacadeStyle& style, const Bay& bay) {
 /// A slab with a railing in front of the window; returns false where it covers nothing.
 bool balconySurface(const FacadeStyle& style, const FrontSun& sun, const Bay& bay, FrontPlace p, Surface* out) {
     if (!hasBalcony(style, bay) || std::abs(bay.s) > style.bay * 0.46F) return false;
-    const float above = bay.h + style.sill * 0.8F;  // from the slab's upper side
+    const float above = bay.h + style.sill * 0.8F;  // measured from the upper side of the slab
     if (above > -0.18F && above < 0) {
         out->reflectance = style.trim.reflectance;
         return true;
@@ -131,7 +131,7 @@ Surface shopSurface(const FacadeStyle& style, const Noise& noise, FrontPlace p) 
     return surface;
 }
 
-/// Wall, trims and what stands out of the wall, with the shadows that fall on it.
+/// Wall and trims, with the shadows of parts that protrude from the wall.
 Surface wallSurface(const FacadeStyle& style, const Noise& noise, const FrontSun& sun, const Bay& bay, FrontPlace p) {
     Surface surface;
     const float half = style.windowWidth * 0.5F, beside = std::abs(bay.s) - half;
@@ -141,7 +141,7 @@ Surface wallSurface(const FacadeStyle& style, const Noise& noise, const FrontSun
     if (bay.column >= 0 && style.shutters && level && beside > style.surround && beside < half + style.surround)
         return shutterSurface(style, noise, p, bay.h);
     const bool sillSlab = bay.column >= 0 && bay.h < 0 && bay.h > -0.12F && beside < 0.15F;
-    const float string = bay.h + style.sill;  // from the storey's floor
+    const float string = bay.h + style.sill;  // measured from the floor of the storey
     const bool course = string < 0.16F && bay.floor > 0;
     if (sillSlab || course || (bay.column >= 0 && framed))
         surface.reflectance = mottled(style.trim, noise, p.s, p.h, 0.7F, p.footprint);
@@ -180,7 +180,7 @@ Surface frontSurface(const FacadeStyle& style, const Noise& noise, const FrontSu
                           bay.h < style.windowHeight;
     surface = inWindow ? windowSurface(style, noise, sun, bay, p) : wallSurface(style, noise, sun, bay, p);
     balconySurface(style, sun, bay, p, &surface);
-    if (height - p.h < 0.45F + sun.dropBelow(0.45F)) surface.sunlight = 0;  // under the cornice
+    if (height - p.h < 0.45F + sun.dropBelow(0.45F)) surface.sunlight = 0;  // in the shadow of the cornice
     return surface;
 }
 

@@ -12,15 +12,15 @@ namespace fieldcal::synthesis {
 struct Light {
     cv::Vec3f toSun{0.4F, -0.7F, -0.6F};
     Spectrum sun{1.10F, 1.02F, 0.90F, 1.00F};
-    Spectrum sky{0.19F, 0.23F, 0.31F, 0.15F};  ///< shadows are blue, and deeper in the near infrared
+    Spectrum sky{0.19F, 0.23F, 0.31F, 0.15F};  ///< shadows are blue, and darker in the near infrared
 };
 
-/// A point of a surface before light falls on it.
+/// The properties of a surface point, without illumination.
 struct Surface {
     Spectrum reflectance;
     Spectrum gloss;      ///< light added by reflection, as from glass
-    float sunlight = 1;  ///< share of the sun that reaches it, 0 … 1
-    float openness = 1;  ///< share of the sky that it sees, 0 … 1
+    float sunlight = 1;  ///< share of the sun that reaches the point, 0 … 1
+    float openness = 1;  ///< visible share of the sky, 0 … 1
     float relief = 0;    ///< added to the cosine between normal and sun
 };
 

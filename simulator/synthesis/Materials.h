@@ -5,8 +5,8 @@
 
 namespace fieldcal::synthesis {
 
-/// What a surface is made of: its mean reflectance and how strongly it is mottled. Part of the mottling is seen in
-/// every band (dirt, relief), part in the visible alone (pigment), part in the near infrared alone (moisture, binder).
+/// A material: its mean reflectance and the strength of its mottling. Part of the mottling appears in every band (dirt,
+/// relief), part only in the visible bands (pigment), part only in the near infrared (moisture, binder).
 struct Material {
     Spectrum reflectance;
     float shared = 0.1F;    ///< relative deviation common to all bands
@@ -42,8 +42,8 @@ inline constexpr Material metal{{0.20F, 0.20F, 0.21F, 0.19F}, 0.05F, 0.02F, 0.02
 
 }  // namespace materials
 
-/// Reflectance of a material at a place of its surface. Position, `coarse` (the largest mottles) and `footprint`
-/// (what one sample covers) in metres.
+/// Returns the reflectance of a material at a position on its surface. The position, `coarse` (size of the largest
+/// mottles) and `footprint` (size of one sample) are in metres.
 Spectrum mottled(const Material& material, const Noise& noise, float x, float y, float coarse, float footprint);
 
 }  // namespace fieldcal::synthesis

@@ -40,7 +40,7 @@ float Noise::value(float x, float y) const {
 
 float Noise::fractal(float x, float y, float coarse, float footprint, float gain) const {
     constexpr int mostOctaves = 9;
-    constexpr float cosine = 0.8F, sine = 0.6F;  // turned between octaves, so that the lattice does not show
+    constexpr float cosine = 0.8F, sine = 0.6F;  // rotation between octaves, which hides the lattice
     float sum = 0, amplitude = 1, power = 0;
     float u = x / coarse, v = y / coarse, wavelength = coarse;
     for (int octave = 0; octave < mostOctaves && wavelength > 2 * footprint; ++octave) {

@@ -5,20 +5,19 @@
 
 namespace fieldcal::synthesis {
 
-/// Smooth random fields over a plane, the same for the same seed. Any thread.
+/// Smooth random fields over a plane, reproducible for a seed. Any thread.
 class Noise {
 public:
     explicit Noise(std::uint64_t seed);
 
-    /// One octave with wavelength about 1, within −1 … 1.
+    /// One octave with a wavelength of about 1, within −1 … 1.
     float value(float x, float y) const;
 
-    /// Octaves from wavelength `coarse` down to twice `footprint` (the size of what one sample covers), so that
-    /// nothing finer than a sample can alias. Each octave has `gain` times the amplitude of the one before.
-    /// About −1 … 1.
+    /// Sums octaves from the wavelength `coarse` down to twice `footprint` (the size of one sample), so that nothing
+    /// finer than a sample can alias. Each octave has `gain` times the amplitude of the previous one. About −1 … 1.
     float fractal(float x, float y, float coarse, float footprint, float gain = 0.6F) const;
 
-    /// A number in [0, 1) for a cell of a grid; `what` tells different questions about one cell apart.
+    /// Returns a number in [0, 1) for a cell of a grid; `what` selects independent numbers for the same cell.
     static float cell(int column, int row, std::uint32_t what);
 
 private:

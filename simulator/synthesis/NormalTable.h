@@ -7,7 +7,7 @@
 
 namespace fieldcal::synthesis {
 
-/// Normal deviates from a table: a few thousand different ones are enough for noise nobody looks at twice.
+/// Normal deviates from a table: a few thousand different values are sufficient for image noise.
 class NormalTable {
 public:
     explicit NormalTable(Random& random) : random_(random) {
@@ -24,7 +24,7 @@ public:
         --left_;
         return values_[drawn % values_.size()];
     }
-    /// As many calls of the other one, in less time.
+    /// Fills `out` faster than separate calls would.
     void next(std::vector<float>& out) {
         std::size_t i = 0;
         while (i < out.size() && left_ > 0)
@@ -41,7 +41,7 @@ public:
 private:
     Random& random_;
     std::array<float, 8192> values_{};
-    std::uint64_t bits_ = 0;  ///< four numbers are drawn at once
+    std::uint64_t bits_ = 0;  ///< four numbers are drawn from one set of bits
     int left_ = 0;
 };
 

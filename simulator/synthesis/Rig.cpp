@@ -12,7 +12,7 @@ namespace {
 using Angles = std::array<double, 3>;
 
 constexpr Angles searchRangeDeg{4.0, 1.5, 2.0};
-constexpr Angles acceptedRangeDeg{3.9, 3.9, 2.9};  // of the true angles themselves, with a little room
+constexpr Angles acceptedRangeDeg{3.9, 3.9, 2.9};  // range of the true angles themselves, with a small margin
 constexpr double factorySpreadDeg = 0.4;
 
 session::Intrinsics drawIntrinsics(Random& random, cv::Size size, double shortest, double longest) {

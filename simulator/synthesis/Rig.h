@@ -11,19 +11,19 @@ namespace fieldcal::synthesis {
 struct RigWishes {
     bool platform = false;
     std::optional<std::array<double, 3>> thirdDriftDeg, platformDriftDeg;
-    bool baselines = true;  ///< false: all cameras stand at one place, so that there is no parallax
-    /// Pixels by which every disparity between the infrared imagers is too large, as after a blow that bent the module.
+    bool baselines = true;  ///< false: all cameras are at one place, so that there is no parallax
+    /// Offset in pixels of every disparity between the infrared imagers, as in a module bent by an impact.
     std::optional<double> misalignmentPx = {};
 };
 
-/// How the right infrared imager differs from the left one, whose rectified intrinsics it shares.
+/// Differences of the right infrared imager from the left one, whose rectified intrinsics it shares.
 struct RightImager {
-    bool isApart = true;     ///< it stands a baseline to the right; else at the left one's place
+    bool isApart = true;     ///< the imager is one baseline to the right of the left one, otherwise at the same place
     double gain = 1;         ///< of its sensor, at the exposure that both share
-    double rowOffsetPx = 0;  ///< what it sees lies so much lower in its picture than in the left one
-    /// What it sees lies so much further to the right than its place tells: disparities are smaller by as much.
+    double rowOffsetPx = 0;  ///< shift of its image downwards relative to the left one
+    /// Shift of its image to the right, by which disparities are reduced.
     double columnOffsetPx = 0;
-    /// Whether the module's own depth suffers from the column offset. (Its calibration makes up for a small one.)
+    /// Whether the column offset also affects the module's own depth. (A small one is compensated by its calibration.)
     bool deceivesDepth = false;
 };
 
@@ -32,14 +32,14 @@ struct Rig : session::SessionDescription {
     RightImager right;
 };
 
-/// A rig drawn from the seed. What belongs to the platform camera and to the right imager is drawn apart: asking for
-/// it changes nothing else.
+/// Returns a rig drawn from the seed. The platform camera and the right imager are drawn separately, so that requesting
+/// them does not change anything else.
 Rig drawRig(std::uint64_t seed, const RigWishes& wishes);
 
-/// The right imager alone.
+/// Draws the right imager alone.
 RightImager drawRightImager(std::uint64_t seed, const RigWishes& wishes);
 
-/// How it really projects: the left imager's rectified intrinsics with its own offsets.
+/// Returns the actual projection of the right imager: the left imager's rectified intrinsics with its own offsets.
 session::Intrinsics rightIntrinsics(const session::Intrinsics& left, const RightImager& right);
 
 }  // namespace fieldcal::synthesis

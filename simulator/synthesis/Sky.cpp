@@ -26,7 +26,7 @@ Spectrum Backdrop::skyOnly(const cv::Vec3f& d, float footprint, const cv::Vec2f&
     const float up = std::max(0.0F, -d[1]);
     const Spectrum zenith{0.16F, 0.30F, 0.62F, 0.07F}, horizon{0.62F, 0.72F, 0.84F, 0.24F};
     Spectrum sky = mix(horizon, zenith, std::pow(up, 0.55F) * 1.15F);
-    // Clouds lie on a plane overhead, so they shrink towards the horizon.
+    // Clouds lie on a horizontal plane overhead, so they shrink towards the horizon.
     const float reach = 1.0F / (up + 0.12F);
     const float x = d[0] * reach + drift[0], y = d[2] * reach + drift[1];
     const float density = noise_.fractal(x, y * 1.6F, 1.1F, footprint * reach * 2, 0.62F) + (cloudiness_ - 0.5F) * 1.6F;
@@ -48,7 +48,7 @@ Spectrum Backdrop::ridge(int number, float azimuth, float elevation, float footp
 Spectrum Backdrop::radiance(const cv::Vec3f& d, float footprint, const cv::Vec2f& drift) const {
     const float elevation = std::asin(std::clamp(-d[1], -1.0F, 1.0F));
     if (ridgeHeight_ > 0 && elevation < ridgeHeight_ * 2) {
-        const float azimuth = std::abs(std::atan2(d[0], d[2]));  // mirrored, so that it closes behind the viewer
+        const float azimuth = std::abs(std::atan2(d[0], d[2]));  // mirrored, so that it is continuous behind the viewer
         for (int number = 0; number < ridgeCount; ++number)
             if (elevation < ridgeHeight_ * ridgeLine(noise_, number, azimuth, footprint))
                 return ridge(number, azimuth, elevation, footprint);

@@ -12,7 +12,7 @@ struct Spectrum {
         red += o.red, green += o.green, blue += o.blue, infrared += o.infrared;
         return *this;
     }
-    /// The same factor in the three colour bands, another in the infrared.
+    /// Multiplies the three colour bands by one factor and the infrared by another.
     Spectrum scaled(float visible, float nearInfrared) const {
         return {red * visible, green * visible, blue * visible, infrared * nearInfrared};
     }
@@ -28,7 +28,7 @@ inline Spectrum operator*(const Spectrum& a, float k) {
     return a.scaled(k, k);
 }
 
-/// a at t = 0, b at t = 1; t is held within 0 … 1.
+/// Returns a at t = 0 and b at t = 1; t is clamped to 0 … 1.
 inline Spectrum mix(const Spectrum& a, const Spectrum& b, float t) {
     const float k = std::clamp(t, 0.0F, 1.0F);
     return a * (1 - k) + b * k;

@@ -4,10 +4,10 @@
 
 namespace fieldcal::synthesis {
 
-/// Spread of the lenses' blur, pixels.
+/// Standard deviation of the lenses' blur, pixels.
 inline constexpr double infraredLens = 0.55, thirdLens = 0.5, platformLens = 0.8;
 
-/// How the exposure of one still comes out.
+/// The exposure settings of one still.
 struct StillSettings {
     InfraredSensor infrared;
     ColourSensor colour;

@@ -8,7 +8,7 @@
 
 namespace fieldcal::world {
 
-/// What a world is put together in.
+/// The parts from which a world is assembled.
 struct Builder {
     Builder(std::uint64_t seed, const char* name)
         : random(seed, name), noise(std::make_unique<synthesis::Noise>(seed)) {}
@@ -18,7 +18,7 @@ struct Builder {
         materials.push_back(std::make_unique<Kind>(std::forward<Arguments>(arguments)...));
         return static_cast<MaterialId>(materials.size() - 1);
     }
-    /// Daylight with the sun anywhere between 25° and 55° high.
+    /// Draws daylight with the sun between 25° and 55° above the horizon.
     void drawDaylight();
     std::unique_ptr<Stage> finish();
 

@@ -13,7 +13,7 @@ namespace {
 
 const cv::Vec3f up(0, -1, 0);
 
-/// One front of a house while it is built: s metres along it, h above the ground, d out of the wall.
+/// The front of a house: s metres along it, h above the ground, d out of the wall.
 class Front {
 public:
     Front(Builder& builder, const House& house)
@@ -37,7 +37,7 @@ public:
     }
 
 private:
-    /// What stands out of the wall is built, not painted.
+    /// Parts that protrude from the wall are geometry and must not be painted as well.
     synthesis::FacadeStyle paintedStyle() const {
         synthesis::FacadeStyle painted = style_;
         painted.balconies = 0;
@@ -50,7 +50,7 @@ private:
         addQuad(b_.mesh, {at(s0, h0, 0), house_.along * (s1 - s0), up * (h1 - h0), {s0, h0}}, wall_);
     }
 
-    /// A block that stands `out` metres out of the wall.
+    /// A block that protrudes `out` metres from the wall.
     void slab(float s0, float s1, float h0, float h1, float out) {
         const cv::Vec3f along = house_.along * (s1 - s0), rise = up * (h1 - h0), away = out_ * out;
         addQuad(b_.mesh, {at(s0, h0, out), along, rise}, trim_);
@@ -113,7 +113,7 @@ private:
     MaterialId wall_, window_, trim_, metal_;
 };
 
-/// Sides, back and roof, which show no windows.
+/// Sides, back and roof, which have no windows.
 void addShell(Builder& b, const House& house) {
     synthesis::FacadeStyle plain = house.style;
     plain.windows = false;

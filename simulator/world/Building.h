@@ -5,7 +5,7 @@
 
 namespace fieldcal::world {
 
-/// A house whose front rises from `corner` along `along` (unit vector, level); its inside lies to the right of
+/// A house whose front rises from `corner` along `along` (horizontal unit vector). The inside lies to the right of
 /// `along` seen from above, so that `along` × up points out of the front.
 struct House {
     cv::Vec3f corner, along;
@@ -14,7 +14,7 @@ struct House {
     synthesis::FacadeStyle style;
 };
 
-/// Adds the house with windows, sills and balconies in true depth.
+/// Adds the house with windows, sills and balconies as geometry.
 void addHouse(Builder& builder, const House& house);
 
 }  // namespace fieldcal::world

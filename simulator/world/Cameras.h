@@ -6,32 +6,32 @@
 
 namespace fieldcal::world {
 
-/// How many samples a pixel takes across and down where neighbours differ. Fewer are faster and less smooth.
+/// Number of samples per pixel across and down in supersampled pixels. Fewer samples are faster and less smooth.
 struct Sampling {
     int infrared = 2, third = 2, platform = 2;
 };
 
-/// The cameras of one rig, each at its own centre. One thread at a time; all processors work for it.
+/// The cameras of a rig, each at its own centre. One thread at a time; rendering uses all processors.
 class Cameras {
 public:
     /// `rig` must carry the true rotations of its cameras.
     explicit Cameras(const synthesis::Rig& rig, const Sampling& sampling = {});
 
-    /// What stands before the lenses. The left infrared camera, which is the depth camera, has the pose of
-    /// `infraredAndDepth` when infrared is exposed on both imagers, and that of `colour` when the colour cameras are.
-    /// `withPlatform` means nothing on a rig without a platform camera. Once `interruption` (may be null) has ended,
-    /// it returns soon, and the view is worth nothing. Equal arguments, equal pictures on the same
-    /// kind of processor.
+    /// Renders the view of all cameras. The pose of the left infrared camera, which is the depth camera, is that of
+    /// `infraredAndDepth` at the exposure of both infrared imagers, and that of `colour` at the exposure of the colour
+    /// cameras. `withPlatform` has no effect on a rig without a platform camera. Once `interruption` (may be null) has
+    /// ended, the function returns soon with an incomplete view. Equal arguments give equal images on the same kind of
+    /// processor.
     View see(const World& world, const Moment& infraredAndDepth, const Moment& colour, bool withPlatform,
              Interruption* interruption = nullptr) const;
 
-    /// The pictures of all sensors at one moment: `see`, then the functions of `Sensors.h`.
+    /// Returns the images of all sensors at one moment: `see`, followed by the functions of `Sensors.h`.
     session::FramePictures take(const World& world, const Moment& moment, const synthesis::StillSettings& settings,
                                 const StereoModel& stereo, std::uint64_t noiseSeed) const;
 
     Pose rightPose(const Pose& depth) const;
     Pose thirdPose(const Pose& depth) const;
-    /// Only with a platform camera.
+    /// Requires a platform camera.
     Pose platformPose(const Pose& depth) const;
 
 private:

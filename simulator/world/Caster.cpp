@@ -8,10 +8,10 @@ namespace fieldcal::world {
 
 namespace {
 
-constexpr unsigned swaying = 1;  // the geometry of what moves
+constexpr unsigned swaying = 1;  // the geometry of moving objects
 
 struct alignas(32) Lanes {
-    int valid[Rays::most];  // as the library asks: all bits set for a ray in use
+    int valid[Rays::most];  // format of the library: all bits are set for a ray in use
     explicit Lanes(const Rays& rays) {
         for (int i = 0; i < Rays::most; ++i)
             valid[i] = i < rays.count ? -1 : 0;
@@ -39,7 +39,7 @@ struct Caster::Library {
 
     Library(const Mesh& still, const Sway& sway) : stillTriangles(static_cast<std::uint32_t>(still.triangles.size())) {
         const std::lock_guard<std::mutex> lock(startAndEnd());
-        // One thread builds the tree: it then comes out the same every time.
+        // The tree is built by one thread, so that it is the same every time.
         device = rtcNewDevice("threads=1");
         if (device == nullptr) return;
         scene = rtcNewScene(device);
@@ -60,7 +60,7 @@ struct Caster::Library {
     }
 
 private:
-    /// Devices share what the library keeps of itself; nobody promises that two may start at once.
+    /// Devices share state of the library, which does not guarantee that two may be started at once.
     static std::mutex& startAndEnd() {
         static std::mutex mutex;
         return mutex;

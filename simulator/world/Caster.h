@@ -7,13 +7,13 @@
 
 namespace fieldcal::world {
 
-/// Up to eight rays that are followed together. Directions have unit length.
+/// Up to eight rays that are traced together. Directions have unit length.
 struct Rays {
     static constexpr int most = 8;
     int count = 0;
-    float seconds = 0;  ///< time in a world that moves
+    float seconds = 0;  ///< time in a moving world
     std::array<cv::Vec3f, most> origin, direction;
-    std::array<float, most> length;  ///< metres, only looked at by `hidden`
+    std::array<float, most> length;  ///< metres, used only by `hidden`
 
     void add(const cv::Vec3f& from, const cv::Vec3f& towards, float metres = std::numeric_limits<float>::infinity()) {
         origin[count] = from, direction[count] = towards, length[count++] = metres;
@@ -23,10 +23,11 @@ struct Rays {
 struct Hit {
     float distance = std::numeric_limits<float>::infinity();  ///< metres; infinite when nothing was hit
     float u = 0, v = 0;                                       ///< weights of the triangle's second and third corner
-    std::uint32_t triangle = 0;                               ///< of the still mesh, then of what sways
+    std::uint32_t triangle = 0;                               ///< index within the static mesh, then within the swaying
+                                                              ///< one
 };
 
-/// Finds where rays meet a mesh. Built once, then only read: any thread. Wraps the ray-casting library.
+/// Intersects rays with a mesh, using the ray-casting library. Read-only after construction: any thread.
 class Caster {
 public:
     Caster(const Mesh& still, const Sway& sway);
@@ -34,10 +35,10 @@ public:
     Caster(const Caster&) = delete;
     Caster& operator=(const Caster&) = delete;
 
-    /// False when the library could not be started; no ray then hits anything.
+    /// Returns false when the library could not be started; no ray then hits anything.
     bool isValid() const;
     void cast(const Rays& rays, Hit* hits) const;
-    /// One bit for each ray that meets something within its length.
+    /// Returns one bit for each ray that hits something within its length.
     unsigned hidden(const Rays& rays) const;
 
 private:

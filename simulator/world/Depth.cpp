@@ -11,13 +11,13 @@ namespace fieldcal::world {
 
 namespace {
 
-/// Cosine between ray and surface below which the two cameras see it too differently.
+/// Smallest cosine between ray and surface normal at which the two cameras see the surface similarly enough.
 constexpr double slantLimit = 0.12;
-/// Metres beyond which nobody asks for depth; a little more than the module delivers, since noise brings some back.
+/// Largest depth computed, in metres; a little more than the module delivers, because noise reduces some depths.
 constexpr float farthestOfUse = 20;
 
-/// What the stereo of the module makes of an exact depth in metres; millimetres, 0 when nothing is left. `errorPx`: of
-/// the disparity.
+/// Returns the depth measured by the module's stereo for an exact depth in metres: millimetres, 0 when none is
+/// measured. `errorPx`: error of the disparity.
 std::uint16_t measured(double depth, double focalPx, const StereoModel& model, double errorPx) {
     const double disparity = focalPx * stereoBaseline / depth + errorPx;
     const double stepped = std::round(disparity / model.stepPx) * model.stepPx;
@@ -27,11 +27,11 @@ std::uint16_t measured(double depth, double focalPx, const StereoModel& model, d
     return static_cast<std::uint16_t>(std::lround(found * 1000));
 }
 
-/// Texture along the rows around each pixel, as a multiple of what stereo needs against the infrared sensor's noise.
+/// Texture along the rows around each pixel, relative to what stereo needs with the infrared sensor's noise.
 cv::Mat_<float> textureOf(const View& view, double darkness) {
     constexpr double window = 5;   // pixels, of a Gaussian
-    constexpr int coarse = 4;      // pixels to a place at which it is calculated
-    constexpr float gathered = 2;  // how far below the noise a whole window still tells shifts apart
+    constexpr int coarse = 4;      // spacing in pixels of the positions at which it is computed
+    constexpr float gathered = 2;  // a whole window resolves shifts with texture this far below the noise
     constexpr double exposed = 400, stepsPerElectron = 1.0 / 14, readNoise = 2.2;
     cv::Mat_<float> texture, level, slope;
     if (view.infrared.size() == view.depth.size())
@@ -57,7 +57,7 @@ cv::Mat_<float> textureOf(const View& view, double darkness) {
     return texture;
 }
 
-/// Cosine between ray and surface, from the depths to the left and right and above and below.
+/// Cosine between ray and surface normal, from the depths of the four neighbours.
 double slantAt(const cv::Mat_<float>& depth, int x, int y, double focalPx) {
     const int left = std::max(x - 1, 0), right = std::min(x + 1, depth.cols - 1);
     const int above = std::max(y - 1, 0), below = std::min(y + 1, depth.rows - 1);
@@ -101,7 +101,7 @@ void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& sh
 }
 
 ImageFrame16 measureDepth(const View& view, const StereoModel& model, synthesis::Random& random) {
-    constexpr double plenty = 2;  // times the texture that is needed
+    constexpr double plenty = 2;  // multiple of the required texture
     const cv::Mat_<float> texture = textureOf(view, model.darkness);
     const double shiftPx = view.rightImager.deceivesDepth ? -view.rightImager.columnOffsetPx : 0;
     synthesis::NormalTable normal(random);
@@ -110,7 +110,8 @@ ImageFrame16 measureDepth(const View& view, const StereoModel& model, synthesis:
     std::uint16_t* out = frame.pixels();
     for (int y = 0; y < view.depth.rows; ++y)
         for (int x = 0; x < view.depth.cols; ++x, ++out) {
-            const double noise = normal.next();  // drawn for every pixel, so that holes shift nothing
+            const double noise = normal.next();  // drawn for every pixel, so that gaps do not change the noise of other
+                                                 // pixels
             const double z = view.depth(y, x), dots = model.emitter && z > 0 ? 1 / (model.light * z * z) : 0;
             const double seen = std::sqrt(double{texture(y, x)} * texture(y, x) + dots * dots);
             *out = 0;

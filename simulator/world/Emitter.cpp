@@ -12,11 +12,11 @@ namespace fieldcal::world {
 namespace {
 
 constexpr float projectorX = 0.028F;            // metres to the right of the left imager
-constexpr float pitch = 0.014F, dot = 0.0017F;  // radians about: between dots, and a dot's spread
-constexpr float power = 0.12F;                  // of a dot on white at 1 m, sunlit white being 1
+constexpr float pitch = 0.014F, dot = 0.0017F;  // radians: approximate spacing of the dots, and the size of a dot
+constexpr float power = 0.12F;                  // of a dot on white at 1 m, relative to sunlit white
 constexpr float farthest = 8;
 
-/// Light of the pattern in a direction from the projector (x/z and y/z), 1 in the middle of a dot.
+/// Light of the pattern in a direction from the projector (x/z and y/z), 1 in the centre of a dot.
 float pattern(float u, float v) {
     const int column = static_cast<int>(std::floor(u / pitch)), row = static_cast<int>(std::floor(v / pitch));
     float light = 0;
@@ -30,11 +30,11 @@ float pattern(float u, float v) {
     return light;
 }
 
-/// An imager with intrinsics `k`, the projector so far to its right.
+/// Adds the dots to the image of an imager with intrinsics `k` and the projector at the given distance to its right.
 void addDots(double light, const session::Intrinsics& k, float projector, const cv::Mat_<float>& depth,
              cv::Mat_<float>& picture) {
     if (picture.size() != depth.size()) return;
-    cv::Mat_<float> around;  // how bright a surface is tells roughly how much it throws back
+    cv::Mat_<float> around;  // local brightness of the surface, an estimate of its reflectance
     cv::blur(picture, around, {15, 15});
     forEachRow(depth.rows, [&](int y) {
         for (int x = 0; x < depth.cols; ++x) {
@@ -48,8 +48,8 @@ void addDots(double light, const session::Intrinsics& k, float projector, const 
     });
 }
 
-/// The depth of what the right imager sees, put together from what the left one sees; 0 where that is hidden from the
-/// left one. Only as far as dots are seen.
+/// Depth seen by the right imager, computed from the left one's depth; 0 where the left one does not see the surface.
+/// Limited to the range of the dots.
 cv::Mat_<float> rightDepth(const View& view, double apart) {
     const auto f = static_cast<float>(view.depthCamera.fx * apart);
     const auto offset = static_cast<float>(view.rightImager.columnOffsetPx);
@@ -61,7 +61,7 @@ cv::Mat_<float> rightDepth(const View& view, double apart) {
             if (column < 0 || column >= depth.cols) continue;
             if (depth(y, column) == 0 || z < depth(y, column)) depth(y, column) = z;
         }
-        // A slanted surface is wider in the right picture: its pixels leave gaps.
+        // A slanted surface is wider in the right image, which leaves gaps between its pixels.
         for (int x = 1; x + 1 < depth.cols; ++x)
             if (depth(y, x) == 0 && depth(y, x + 1) > 0) depth(y, x) = depth(y, x - 1);
     });

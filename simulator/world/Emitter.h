@@ -4,10 +4,10 @@
 
 namespace fieldcal::world {
 
-/// Adds what both infrared imagers see of the projector's dots: a fixed pattern of directions from 28 mm beside the
-/// left one, fading with the square of the distance. `light`: around the module, 1 in the sun, where dots are seen to
-/// about 1 m; a lit room has about 1/16, and they are seen to 4 m. Nothing is added to a picture whose depth has other
-/// pixels.
+/// Adds the projector's dots to both infrared images: a fixed pattern of directions from 28 mm beside the left imager,
+/// attenuated with the square of the distance. `light`: around the module, 1 in the sun, where dots are visible to
+/// about 1 m; a lit room has about 1/16, where they are visible to 4 m. Images whose depth has a different pixel grid
+/// are left unchanged.
 void addEmitterDots(double light, View* view);
 
 }  // namespace fieldcal::world

@@ -11,7 +11,7 @@ using synthesis::Spectrum;
 
 Look Wall::at(const Place& place) const {
     Look look;
-    // The sun is left out (it casts true shadows here), so that nothing is darkened twice.
+    // The sun is omitted here because it casts geometric shadows, so that nothing is darkened twice.
     look.surface =
         frontSurface(style_, noise_, {}, {place.texture[0], place.texture[1], place.footprint}, length_, height_);
     look.surface.sunlight = 1;
@@ -44,7 +44,7 @@ Look Window::at(const Place& place) const {
     const bool curtain = draw(25) < 0.3F && std::abs(s) > style_.windowWidth * 0.22F;
     const Spectrum room = Spectrum{0.035F, 0.03F, 0.03F, 0.04F} * (0.5F + draw(21));
     look = Glass(curtain ? Spectrum{0.40F, 0.40F, 0.38F, 0.42F} : room).at(place);
-    // Each casement hangs a little differently, and mirrors something else.
+    // Each casement has a slightly different angle and reflects something else.
     const float side = s < 0 ? -1.0F : 1.0F;
     look.tilt += cv::Vec3f(draw(26) - 0.5F, draw(27) - 0.5F, draw(28) - 0.5F) * (0.05F * side);
     return look;

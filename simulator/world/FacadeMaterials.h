@@ -5,8 +5,8 @@
 
 namespace fieldcal::world {
 
-/// The face of a wall, with its trims and joints. Texture: metres along the front and above the ground. Windows are
-/// left to the mesh.
+/// The surface of a wall with its trims and joints. Texture: metres along the front and above the ground. Windows are
+/// part of the mesh.
 class Wall : public Material {
 public:
     Wall(const synthesis::FacadeStyle& style, const synthesis::Noise& noise, float length, float height)
@@ -19,8 +19,8 @@ private:
     float length_, height_;
 };
 
-/// What fills a window opening: frame, bars, glass, blinds and curtains. Texture: metres from the opening's lower left
-/// corner, to which whole multiples of `stride` are added to tell windows apart.
+/// The filling of a window opening: frame, bars, glass, blinds and curtains. Texture: metres from the lower left corner
+/// of the opening, plus whole multiples of `stride` that distinguish the windows.
 class Window : public Material {
 public:
     static constexpr float stride = 16;

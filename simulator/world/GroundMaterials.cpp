@@ -38,14 +38,14 @@ Look Turf::at(const Place& place) const {
     const float x = place.texture[0], z = place.texture[1], seen = place.footprint;
     constexpr synthesis::Material blades{synthesis::materials::grass.reflectance, 0.18F, 0.07F, 0.05F};
     constexpr synthesis::Material grit{synthesis::materials::gravel.reflectance, 0.16F, 0.05F, 0.05F};
-    // Where people walk, the ground is bare and stony.
+    // Worn paths are bare and stony.
     const float worn = smoothStep(0.2F, 0.35F, noise_.fractal(x, z, 9.0F, seen, 0.55F));
     const float tufts = noise_.fractal(x, z, 0.3F, seen, 0.85F);
     const float pebbles = noise_.fractal(z - 17, x + 29, 0.12F, seen, 0.9F);
     Look look;
     look.surface.reflectance = mix(mottled(blades, noise_, x, z, 1.5F, seen) * std::max(0.3F, 1 + 0.4F * tufts),
                                    mottled(grit, noise_, x, z, 1.0F, seen) * std::max(0.4F, 1 + 0.3F * pebbles), worn);
-    // Blades stand on edge, and their shading is deepest where they are thick.
+    // Blades of grass stand upright, so shading is strongest where they are dense.
     look.tilt = cv::Vec3f(tufts, 0, pebbles) * (0.4F - 0.1F * worn);
     look.surface.openness = 0.8F;
     look.smooth = true;
@@ -53,7 +53,7 @@ Look Turf::at(const Place& place) const {
 }
 
 Spectrum Mountainside::rock(const Place& place) const {
-    // Layers that lie slanted, and cracks across them.
+    // Slanted layers with cracks across them.
     const cv::Vec3f& p = place.point;
     const float layers = noise_.fractal(p[0] * 0.15F + p[2] * 0.1F, p[1] + 0.3F * p[0], 30.0F, place.footprint, 0.75F);
     const float ore = noise_.fractal(p[0] * 0.4F, p[1] - 0.3F * p[2], 40.0F, place.footprint, 0.7F);
@@ -68,7 +68,7 @@ Spectrum Mountainside::meadow(const Place& place) const {
 }
 
 Spectrum Mountainside::woods(const Place& place, cv::Vec3f* tilt) const {
-    // Crowns of about eight metres, lit on one side, with dark gaps between them.
+    // Tree crowns of about eight metres, lit from one side, with dark gaps between them.
     const cv::Vec2f slope = bumps(noise_, place.texture, 9.0F, place.footprint);
     *tilt += cv::Vec3f(slope[0], 0, slope[1]) * 0.9F;
     const float gaps = noise_.fractal(place.texture[0], place.texture[1], 10.0F, place.footprint, 0.85F);

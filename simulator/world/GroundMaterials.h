@@ -21,7 +21,7 @@ private:
     const synthesis::Noise& noise_;
 };
 
-/// Mown or wild grass, its blades too fine for triangles. Texture: x and z in metres.
+/// Mown or wild grass, whose blades are too fine for triangles. Texture: x and z in metres.
 class Turf : public Material {
 public:
     explicit Turf(const synthesis::Noise& noise) : noise_(noise) {}
@@ -31,7 +31,7 @@ private:
     const synthesis::Noise& noise_;
 };
 
-/// Mountain ground: woods low down, meadows where it is gentle, rock where it is steep, snow high up.
+/// Mountain ground: woods at low altitude, meadows on gentle slopes, rock on steep ones, snow at high altitude.
 class Mountainside : public Material {
 public:
     /// `treeLine`, `snowLine`: heights in metres.

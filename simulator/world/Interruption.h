@@ -5,10 +5,10 @@
 
 namespace fieldcal::world {
 
-/// Lets others pause or end a long piece of work, which asks between two steps. Any thread.
+/// Allows other threads to pause or end a long computation, which checks it between two steps. Any thread.
 class Interruption {
 public:
-    /// Waits while paused; false once the work is to end.
+    /// Waits while paused; returns false once the computation has to end.
     bool goOn() {
         std::unique_lock<std::mutex> lock(mutex_);
         changed_.wait(lock, [this] { return !paused_ || ended_; });
@@ -19,7 +19,7 @@ public:
         paused_ = paused;
         changed_.notify_all();
     }
-    /// For good, and even while paused.
+    /// Ends the computation permanently, even while paused.
     void end() {
         const std::lock_guard<std::mutex> lock(mutex_);
         ended_ = true;

@@ -8,20 +8,20 @@
 
 namespace fieldcal::world {
 
-/// A place on a surface where a ray has hit.
+/// The point on a surface that a ray has hit.
 struct Place {
     cv::Vec3f point;    ///< metres, in the world
     cv::Vec3f normal;   ///< towards the ray's origin
-    cv::Vec2f texture;  ///< as the mesh has it
-    float footprint;    ///< metres across that one sample covers
+    cv::Vec2f texture;  ///< texture coordinates of the mesh
+    float footprint;    ///< size of one sample, metres
 };
 
-/// What a material shows at a place, before light falls on it.
+/// The appearance of a material at a point, without illumination.
 struct Look {
     synthesis::Surface surface;
     cv::Vec3f tilt{0, 0, 0};    ///< added to the normal: relief too fine for triangles
-    float mirror = 0;           ///< share of the light mirrored when looked at squarely, as by glass or polish
-    float through = 0;          ///< share of the light from behind that passes, as in a leaf
+    float mirror = 0;           ///< reflected share of the light at normal incidence, as by glass
+    float through = 0;          ///< transmitted share of the light from behind, as in a leaf
     float throughInfrared = 0;  ///< the same in the near infrared
     bool smooth = false;        ///< shows nothing finer than the footprint
 };

@@ -41,7 +41,7 @@ Look Leaf::at(const Place& place) const {
     look.surface.reflectance = reflectance_.scaled(shared + 0.3F * draw(62), shared + 0.15F * draw(63));
     look.surface.reflectance.red *= 1 + 0.5F * draw(64);
     look.surface.openness = place.texture[1];
-    // Most of the near infrared passes a leaf and lights the ones behind it: shadows in crowns are shallow there.
+    // Leaves transmit most of the near infrared and light those behind them, so shadows in crowns are weak there.
     look.through = 0.45F;
     look.throughInfrared = 0.65F;
     look.surface.gloss.infrared = 0.05F * reflectance_.infrared * (0.4F + 0.6F * place.texture[1]);
@@ -52,8 +52,8 @@ Look Glass::at(const Place& place) const {
     Look look;
     look.surface.reflectance = inside_;
     look.surface.openness = 0.5F;
-    look.mirror = 0.22F;  // two panes, dirt, and what the room behind lets through again
-    // No pane is quite flat, which is why mirrored houses look bent.
+    look.mirror = 0.22F;  // two panes with dirt, reduced by the light from the room behind
+    // Panes are slightly uneven, so reflected houses appear distorted.
     look.tilt = cv::Vec3f(std::sin(place.texture[0] * 2.1F), std::sin(place.texture[1] * 2.7F), 0) * 0.004F;
     return look;
 }

@@ -13,7 +13,7 @@ public:
     struct Finish {
         float coarse = 1;  ///< size of the largest mottles, metres
         float mirror = 0;
-        float relief = 0;  ///< how far bumps turn the normal, about radians
+        float relief = 0;  ///< approximate tilt of the normal by bumps, radians
     };
     Solid(const synthesis::Material& substance, const synthesis::Noise& noise, const Finish& finish)
         : substance_(substance), noise_(noise), finish_(finish) {}
@@ -25,7 +25,7 @@ private:
     Finish finish_;
 };
 
-/// Shines by itself, alike in every band and from every side.
+/// Emits light, equally in every band and direction.
 class Glow : public Material {
 public:
     explicit Glow(float radiance) : radiance_(radiance) {}
@@ -35,8 +35,8 @@ private:
     float radiance_;
 };
 
-/// Leaves, needles and blades: single triangles or quads. Texture: (a number of the leaf's own, share of the sky
-/// that it sees).
+/// Leaves, needles and blades: single triangles or quads. Texture: (a random number of the leaf, its visible share of
+/// the sky).
 class Leaf : public Material {
 public:
     explicit Leaf(const synthesis::Spectrum& reflectance) : reflectance_(reflectance) {}
@@ -46,7 +46,7 @@ private:
     synthesis::Spectrum reflectance_;
 };
 
-/// Window glass in front of a dim inside.
+/// Window glass in front of a dark interior.
 class Glass : public Material {
 public:
     explicit Glass(const synthesis::Spectrum& inside) : inside_(inside) {}
@@ -66,7 +66,7 @@ private:
     const synthesis::Noise& noise_;
 };
 
-/// A board with lettering in inks of which some are not seen in the near infrared. Texture from its lower left corner.
+/// A board with lettering, some of whose inks are invisible in the near infrared. Texture from its lower left corner.
 class Sign : public Material {
 public:
     Sign(std::uint32_t seed, float height) : seed_(seed), height_(height) {}
@@ -77,7 +77,7 @@ private:
     float height_;
 };
 
-/// Slope of a field of bumps at a place, for tilting normals: two independent numbers of about ±1.
+/// Slope of a random height field at a position, for tilting normals: two independent numbers of about ±1.
 cv::Vec2f bumps(const synthesis::Noise& noise, const cv::Vec2f& at, float coarse, float footprint);
 
 }  // namespace fieldcal::world

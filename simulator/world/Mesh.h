@@ -12,15 +12,15 @@ namespace fieldcal::world {
 /// Index into the materials of a world.
 using MaterialId = std::uint16_t;
 
-/// One corner of a surface. Metres, x right, y down, z forward; `texture` means what the material makes of it,
-/// usually metres along the surface.
+/// A vertex. Metres, x right, y down, z forward; `texture` is interpreted by the material, usually as metres along the
+/// surface.
 struct Vertex {
     cv::Vec3f position;
-    cv::Vec3f normal;  ///< unit length, either side
+    cv::Vec3f normal;  ///< unit length, on either side
     cv::Vec2f texture;
 };
 
-/// Triangles with a material each. A plain value.
+/// Triangles, each with a material. A plain value.
 struct Mesh {
     std::vector<Vertex> vertices;
     std::vector<std::array<std::uint32_t, 3>> triangles;

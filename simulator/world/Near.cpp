@@ -8,7 +8,7 @@
 
 namespace fieldcal::world {
 
-/// A small walled yard full of things, everything within 4 m of the viewer except the sky.
+/// A small walled yard with many objects. Everything except the sky is within 4 m of the viewer.
 std::unique_ptr<Stage> buildNear(std::uint64_t seed) {
     Builder b(seed, "near");
     b.drawDaylight();

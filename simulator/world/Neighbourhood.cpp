@@ -49,7 +49,7 @@ namespace {
 void plantInto(Mesh& mesh, Builder& b, const cv::Vec3f& foot, float height, int leaves) {
     const auto bark = b.material<Solid>(synthesis::materials::bark, *b.noise, Solid::Finish{0.2F, 0, 0.4F});
     const auto leaf = drawLeaf(b);
-    // Fewer leaves are larger, so that far crowns are as dense as near ones.
+    // Fewer leaves are larger, so that distant crowns are as dense as near ones.
     const float size = b.random.between(0.12F, 0.18F) * std::sqrt(9000.0F / static_cast<float>(leaves)) * height / 9;
     addTree(mesh, {foot, height, height * b.random.between(0.24F, 0.36F), leaves, size}, {bark, leaf}, b.random);
 }

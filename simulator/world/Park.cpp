@@ -38,7 +38,7 @@ void plantBushes(Builder& b, const Lawn& lawn, bool swaying) {
     }
 }
 
-/// What moves costs a dozen times what stands still, and has fewer and larger leaves.
+/// Moving plants cost about twelve times as much as static ones, so they have fewer and larger leaves.
 void plantEverything(Builder& b, const Lawn& lawn, bool swaying) {
     const auto anyAngle = [&] { return b.random.between(0, 6.2832F); };
     const auto near = swaying ? plantSwayingTree : plantTree;

@@ -11,8 +11,8 @@ namespace fieldcal::world {
 
 namespace {
 
-/// Relative difference between neighbours from which one sample no longer tells what a pixel shows: a little above
-/// the noise of the sensors. Materials that fade their own details need care only at their shadows and outlines.
+/// Relative difference between neighbours above which a pixel is supersampled: slightly above the noise of the sensors.
+/// Materials that filter their own details need supersampling only at shadows and outlines.
 constexpr float plainLimit = 0.04F, smoothLimit = 0.4F;
 
 cv::Mat_<cv::Vec2f> middleRays(const synthesis::RayGrid& grid, const cv::Vec2f& offset) {
@@ -23,9 +23,9 @@ cv::Mat_<cv::Vec2f> middleRays(const synthesis::RayGrid& grid, const cv::Vec2f& 
     return middle;
 }
 
-class Shooting {
+class PictureRenderer {
 public:
-    Shooting(const World& world, const synthesis::RayGrid& grid, const Shot& shot)
+    PictureRenderer(const World& world, const synthesis::RayGrid& grid, const Shot& shot)
         : world_(world),
           grid_(grid),
           offset_(shot.offset),
@@ -38,24 +38,24 @@ public:
           spread_(spacing()),
           first_(middle_.total()) {}
 
-    Picture take() {
+    Picture render() {
         picture_.light.create(middle_.size());
         picture_.depth.create(middle_.size());
         picture_.reflected.create(middle_.size());
         picture_.light.setTo(0);
         picture_.depth.setTo(0);
         picture_.reflected.setTo(0);
-        const auto everyRow = [this](void (Shooting::*look)(int)) {
+        const auto everyRow = [this](void (PictureRenderer::*step)(int)) {
             forEachRow(
-                middle_.rows, [&](int y) { (this->*look)(y); }, interruption_);
+                middle_.rows, [&](int y) { (this->*step)(y); }, interruption_);
         };
-        everyRow(&Shooting::glance);
-        if (grid_.samplesPerPixel > 1) everyRow(&Shooting::lookCloser);
+        everyRow(&PictureRenderer::sampleOnce);
+        if (grid_.samplesPerPixel > 1) everyRow(&PictureRenderer::supersample);
         return std::move(picture_);
     }
 
 private:
-    struct First {
+    struct FirstSample {
         float level = 0;
         int material = -1;
         cv::Vec3f normal;
@@ -72,8 +72,8 @@ private:
     cv::Vec3f towards(const cv::Vec2f& ray) const { return unit(world_camera_ * cv::Vec3f(ray[0], ray[1], 1)); }
     static cv::Vec4f asVector(const synthesis::Spectrum& s) { return {s.red, s.green, s.blue, s.infrared}; }
 
-    /// One sample for every pixel of a row.
-    void glance(int y) {
+    /// Takes one sample for every pixel of a row.
+    void sampleOnce(int y) {
         std::array<Sample, Rays::most> samples;
         for (int x = 0; x < middle_.cols; x += Rays::most) {
             Rays rays;
@@ -95,7 +95,7 @@ private:
         first_[indexOf(y, x)] = {light.dot(bands_), s.material, s.normal, s.sunlit, s.smooth};
     }
 
-    static bool alike(const First& a, const First& b) {
+    static bool alike(const FirstSample& a, const FirstSample& b) {
         if (a.material != b.material || a.sunlit != b.sunlit) return false;
         const bool smooth = a.smooth && b.smooth && (a.material < 0 || a.normal.dot(b.normal) > 0.98F);
         const float limit = smooth ? smoothLimit : plainLimit;
@@ -109,8 +109,9 @@ private:
         return true;
     }
 
-    /// The samples of the grid for the pixels that need them. The one in the middle counts as one of them.
-    void lookCloser(int y) {
+    /// Supersamples the pixels of a row that differ from their neighbours. The sample in the centre is already
+    /// available.
+    void supersample(int y) {
         Rays rays;
         rays.seconds = seconds_;
         std::array<int, Rays::most> owner{};
@@ -146,7 +147,7 @@ private:
     Interruption* interruption_;
     cv::Vec4f bands_;
     float spread_;
-    std::vector<First> first_;
+    std::vector<FirstSample> first_;
     Picture picture_;
 };
 
@@ -180,7 +181,7 @@ void forEachRow(int rows, const std::function<void(int)>& row, Interruption* int
 }
 
 Picture takePicture(const World& world, const synthesis::RayGrid& grid, const Shot& shot) {
-    Picture picture = Shooting(world, grid, shot).take();
+    Picture picture = PictureRenderer(world, grid, shot).render();
     if (shot.lensSigma > 0)
         cv::GaussianBlur(picture.light, picture.light, cv::Size(), shot.lensSigma, shot.lensSigma,
                          cv::BORDER_REPLICATE);

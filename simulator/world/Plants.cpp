@@ -16,7 +16,7 @@ cv::Vec3f anyDirection(Random& random) {
     return {flat * std::cos(turn), up, flat * std::sin(turn)};
 }
 
-/// A crown: leaves gather around boughs, which fill an ellipsoid.
+/// A crown: leaves are clustered around branches that fill an ellipsoid.
 struct Crown {
     cv::Vec3f centre, radii;
     int leaves = 1000;
@@ -44,7 +44,7 @@ void addLeaves(Mesh& mesh, const Crown& crown, const std::vector<cv::Vec3f>& bou
         const auto& bough = boughs[static_cast<std::size_t>(random.index(static_cast<int>(boughs.size())))];
         const cv::Vec3f out = anyDirection(random) * (0.26F * std::cbrt(random.between(0.05F, 1.0F)));
         const cv::Vec3f place = bough + out;
-        // The sky is seen from the outside and from above; the heart of a crown is dark.
+        // The sky is visible from the outer and upper parts of a crown; its interior is dark.
         const float outside = std::sqrt(place.dot(place));
         const float open = std::clamp(0.12F + 0.75F * outside * outside - 0.25F * place[1], 0.1F, 1.0F);
         const cv::Vec3f normal = unit(unit(out) + anyDirection(random) * 0.8F + cv::Vec3f(0, -0.4F, 0));
@@ -53,7 +53,7 @@ void addLeaves(Mesh& mesh, const Crown& crown, const std::vector<cv::Vec3f>& bou
     }
 }
 
-/// Large leaves deep within the boughs, so that the sky shows only at the rim.
+/// Large leaves in the interior of the clusters, so that the sky is visible only near the outline.
 void addHearts(Mesh& mesh, const Crown& crown, const std::vector<cv::Vec3f>& boughs, MaterialId material,
                Random& random) {
     const int leaves = std::clamp(crown.leaves / 100, 20, 110);

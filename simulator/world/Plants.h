@@ -9,7 +9,7 @@ struct PlantMaterials {
     MaterialId bark = 0, leaf = 0;
 };
 
-/// A broad-leaved tree: a trunk, branches, and a crown of single leaves in clusters. `foot` on the ground; metres.
+/// A broad-leaved tree: a trunk, branches, and a crown of single leaves in clusters. `foot` is on the ground; metres.
 struct Tree {
     cv::Vec3f foot;
     float height = 9, crownRadius = 2.6F;
@@ -18,11 +18,11 @@ struct Tree {
 };
 void addTree(Mesh& mesh, const Tree& tree, const PlantMaterials& materials, synthesis::Random& random);
 
-/// A bush is a crown without a trunk.
+/// Adds a bush, which is a crown without a trunk.
 void addBush(Mesh& mesh, const cv::Vec3f& foot, const cv::Vec3f& radii, int leaves, float leafSize, MaterialId leaf,
              synthesis::Random& random);
 
-/// A conifer of ragged cones, for some hundred metres away.
+/// Adds a conifer made of irregular cones, for distances of some hundred metres.
 void addConifer(Mesh& mesh, const cv::Vec3f& foot, float height, MaterialId needles, synthesis::Random& random);
 
 }  // namespace fieldcal::world

@@ -10,7 +10,7 @@ using synthesis::Random;
 
 namespace {
 
-/// An NV12 picture in the platform camera's size.
+/// Enlarges an NV12 image to the size of the platform camera.
 std::vector<std::uint8_t> enlarged(std::vector<std::uint8_t>& nv12, cv::Size size) {
     const cv::Size whole(session::kPlatformWidth, session::kPlatformHeight);
     std::vector<std::uint8_t> large(static_cast<std::size_t>(whole.area()) * 3 / 2);

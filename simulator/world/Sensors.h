@@ -3,19 +3,19 @@
 #include "simulator/synthesis/StillSettings.h"
 #include "simulator/world/Depth.h"
 
-/// What the sensors of a rig make of a view. Equal arguments, equal bytes.
+/// Convert a view to the images of a rig's sensors. Equal arguments give equal bytes.
 namespace fieldcal::world {
 
-/// Ten bits a pixel.
+/// Ten bits per pixel.
 ImageFrame16 infraredFrame(const View& view, const synthesis::StillSettings& settings, std::uint64_t noiseSeed);
 
-/// The right imager's, at the exposure of the left one.
+/// The right imager's image, with the exposure of the left one.
 ImageFrame16 rightInfraredFrame(const View& view, const synthesis::StillSettings& settings, std::uint64_t noiseSeed);
 
 /// BGRA, alpha 255.
 ImageFrame32 thirdFrame(const View& view, const synthesis::StillSettings& settings, std::uint64_t noiseSeed);
 
-/// NV12, 1280 x 720; empty when the view has no platform picture. One of half the size is enlarged.
+/// NV12, 1280 x 720; empty when the view has no platform image. An image of half the size is enlarged.
 std::vector<std::uint8_t> platformFrame(const View& view, const synthesis::StillSettings& settings,
                                         std::uint64_t noiseSeed);
 

@@ -64,7 +64,7 @@ void addBall(Mesh& mesh, const cv::Vec3f& centre, const cv::Vec3f& radii, int ri
     for (int ring = 0; ring <= rings; ++ring)
         for (int sector = 0; sector <= sectors; ++sector) {
             const float polar = 0.5F * turnAround * static_cast<float>(ring) / static_cast<float>(rings);
-            // The last sector repeats the first exactly, so that no seam opens.
+            // The last sector repeats the first one exactly, so that there is no seam.
             const float around = turnAround * static_cast<float>(sector % sectors) / static_cast<float>(sectors);
             const cv::Vec3f d(std::sin(polar) * std::cos(around), -std::cos(polar), std::sin(polar) * std::sin(around));
             const float r = bump ? bump(d) : 1.0F;

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-/// Builders that append to a mesh. Metres; angles in radians.
+/// Functions that append shapes to a mesh. Metres; angles in radians.
 namespace fieldcal::world {
 
 /// A flat parallelogram. Texture coordinates start at `texture` and grow in metres along both sides.
@@ -14,14 +14,14 @@ struct Quad {
 };
 void addQuad(Mesh& mesh, const Quad& quad, MaterialId material);
 
-/// A box that stands upright: `foot` is the middle of its lower face, `size` its width, height and depth.
+/// An upright box: `foot` is the centre of its lower face, `size` its width, height and depth.
 struct Box {
     cv::Vec3f foot, size;
     float turn = 0;  ///< about the vertical
 };
 void addBox(Mesh& mesh, const Box& box, MaterialId material);
 
-/// An upright round post or cone between two heights.
+/// An upright post or cone of circular section between two heights.
 struct Post {
     cv::Vec3f foot;
     float height = 1, lowerRadius = 0.1F, upperRadius = 0.1F;
@@ -29,14 +29,14 @@ struct Post {
 };
 void addPost(Mesh& mesh, const Post& post, MaterialId material);
 
-/// A ball whose radius is multiplied by `bump` (of the unit direction from the centre). Texture: metres around.
+/// Adds a sphere whose radius is multiplied by `bump` (of the unit direction from the centre). Texture: metres around.
 void addBall(Mesh& mesh, const cv::Vec3f& centre, const cv::Vec3f& radii, int rings, MaterialId material,
              const std::function<float(const cv::Vec3f&)>& bump = {});
 
-/// A point of the ground at (x, z) lies at y = −height(x, z).
+/// The ground at (x, z) has y = −height(x, z).
 using HeightFunction = std::function<float(float x, float z)>;
 
-/// Ground around the origin, in rings that grow with distance. Texture: x and z.
+/// Ground around the origin, in rings whose width grows with distance. Texture: x and z.
 struct PolarField {
     float nearest = 30, farthest = 9000;
     int sectors = 1080, rings = 320;

@@ -70,7 +70,7 @@ std::unique_ptr<Stage> buildSquare(std::uint64_t seed) {
     return build(seed, 0);
 }
 
-/// One window like the next, on all four sides.
+/// All windows on all four sides are equal.
 std::unique_ptr<Stage> buildRepetitive(std::uint64_t seed) {
     Builder b(seed, "repetitive");
     b.drawDaylight();
@@ -78,7 +78,7 @@ std::unique_ptr<Stage> buildRepetitive(std::uint64_t seed) {
     pave(b, eye, {});
     synthesis::FacadeStyle style = synthesis::drawFacadeStyle(b.random);
     style.variety = 0, style.balconies = 0, style.shops = false, style.shutters = false;
-    // Far enough for the next window to lie within what the matcher searches.
+    // The distance between windows is such that the next window lies within the search areas of the matcher.
     style.bay = 2.0F, style.windowWidth = 0.9F, style.windowHeight = 1.3F, style.storey = 2.8F, style.sill = 0.8F;
     const float side = 48 * style.bay, height = style.storey * 14 + 0.8F;
     for (int i = 0; i < 4; ++i)
@@ -88,7 +88,7 @@ std::unique_ptr<Stage> buildRepetitive(std::uint64_t seed) {
     return stage;
 }
 
-/// The square when there is too little light for the cameras: they see little more than the lamps.
+/// The square with too little light for the cameras, which see little more than the lamps.
 std::unique_ptr<Stage> buildNight(std::uint64_t seed) {
     auto stage = build(seed, 60);
     if (stage) stage->darkness = 0.004;

@@ -10,7 +10,7 @@ namespace fieldcal::world {
 
 namespace {
 
-/// Axes of something that stands turned on the ground.
+/// Axes of an object that is rotated on the ground.
 struct Frame {
     cv::Vec3f foot, x, z;
     Frame(const cv::Vec3f& at, float turn)
@@ -21,7 +21,7 @@ struct Frame {
 };
 
 synthesis::Material drawPaint(synthesis::Random& random) {
-    // Dark dyes often let the near infrared through to a bright ground coat; soot black does not.
+    // Dark paints often transmit the near infrared to a bright primer; carbon black does not.
     static const std::array<synthesis::Spectrum, 7> paints{{{0.62F, 0.62F, 0.60F, 0.60F},
                                                             {0.03F, 0.03F, 0.03F, 0.03F},
                                                             {0.03F, 0.03F, 0.035F, 0.38F},
@@ -32,7 +32,7 @@ synthesis::Material drawPaint(synthesis::Random& random) {
     return {paints[random.index(7)], 0.02F, 0.01F, 0.01F};
 }
 
-/// A closed outline in the car's length and height, drawn out to both sides; upper corners lean in.
+/// Adds a closed outline in the car's side view, extended to both sides; upper corners lean inwards.
 void addHull(Mesh& mesh, const Frame& car, const std::vector<cv::Vec2f>& outline, float halfWidth, float lean,
              MaterialId material) {
     const float low = outline.front()[1];

@@ -4,22 +4,23 @@
 
 namespace fieldcal::world {
 
-/// What moves in the wind, over and over again in the same way.
+/// Periodic motion in the wind.
 struct Sway {
     static constexpr float periodSeconds = 6;
-    static constexpr int steps = 12;  ///< between which everything moves along straight lines
+    static constexpr int steps = 12;  ///< number of steps, between which everything moves along straight lines
 
     Mesh mesh;
-    std::vector<float> give;  ///< for each vertex: about how many metres it goes to either side
+    std::vector<float> give;  ///< for each vertex the approximate amplitude in metres
 
-    /// Everything added since there were `first` vertices stands on `foot` and gives `tip` metres at `height` above it.
+    /// Sets the motion of all vertices added since there were `first`: they are rooted at `foot` and move by `tip`
+    /// metres at `height` above it.
     void plant(std::size_t first, const cv::Vec3f& foot, float height, float tip);
 
-    /// Where a vertex is at one of the steps; step 0 and the last are the same.
+    /// Returns the position of a vertex at one of the steps; step 0 and the last one are the same.
     cv::Vec3f positionAt(std::size_t vertex, int step) const;
 };
 
-/// Share of the period that has passed, 0 … 1.
+/// Returns the elapsed share of the period, 0 … 1.
 inline float swayPhase(float seconds) {
     const float turns = seconds / Sway::periodSeconds;
     return turns - std::floor(turns);

@@ -16,7 +16,7 @@ Terrain::Terrain(const synthesis::Noise& noise, synthesis::Random& random)
 
 float Terrain::height(float x, float z) const {
     const float distance = std::sqrt(x * x + z * z);
-    // Ridges: the crests lie where a smooth field crosses zero.
+    // The crests of the ridges lie where a smooth random field crosses zero.
     float ridges = 0, wavelength = 2600, amplitude = 1, steep = 1;
     float u = x + shiftX_, v = z + shiftZ_;
     for (int octave = 0; octave < 9; ++octave) {
@@ -31,7 +31,7 @@ float Terrain::height(float x, float z) const {
     const float away = 0.22F + 0.78F * synthesis::smoothStep(200, 3800, distance);
     const float mountain = away * 620 * ridges * rise_;
     const float hummocks = 34 * noise_.fractal(x + shiftX_, z + shiftZ_, 260, 1, 0.45F);
-    // The eye stands over an edge: the ground beneath it is kept low enough for nothing to come near.
+    // The viewer stands above an edge. The ground below is kept low, so that nothing comes near.
     const float lowest = -108 + 0.9F * std::max(0.0F, distance - 260);
     return std::min(-valley_ + mountain + hummocks, lowest);
 }

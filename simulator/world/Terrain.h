@@ -6,12 +6,12 @@
 
 namespace fieldcal::world {
 
-/// Mountains around a viewer at the origin who looks out over a valley: nothing comes nearer than 100 m to a point
-/// less than 5 m from the origin.
+/// Mountains around a viewer at the origin above a valley. Nothing is nearer than 100 m to any point less than 5 m from
+/// the origin.
 class Terrain {
 public:
     Terrain(const synthesis::Noise& noise, synthesis::Random& random);
-    /// Metres above the viewer's eye, negative below.
+    /// Returns the height in metres above the viewer's eye, negative below it.
     float height(float x, float z) const;
 
 private:

@@ -4,7 +4,7 @@
 
 namespace fieldcal::world {
 
-/// Four plain walls, each 2 m from the viewer, without a mark on them.
+/// Four plain walls without any texture, each 2 m from the viewer.
 std::unique_ptr<Stage> buildWall(std::uint64_t seed) {
     Builder b(seed, "wall");
     b.drawDaylight();

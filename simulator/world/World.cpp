@@ -11,14 +11,14 @@ namespace {
 
 constexpr float stillSpread = 1.0F / 1700;  // radians between the samples of a still
 
-/// How far off a surface secondary rays start, so that they do not hit it again.
+/// Offset of secondary rays from the surface, so that they do not hit it again.
 float liftOff(float distance) {
     return 5e-4F + 2e-5F * distance;
 }
 
 }  // namespace
 
-/// One ray's hit on its way to light.
+/// The hit of one ray while it is being shaded.
 struct World::Shading {
     Hit hit;
     Place place;
@@ -60,7 +60,7 @@ Place World::placeOf(const cv::Vec3f& origin, const cv::Vec3f& direction, const 
     place.texture = a.texture * rest + b.texture * hit.u + c.texture * hit.v;
     place.normal = unit(a.normal * rest + b.normal * hit.u + c.normal * hit.v);
     if (place.normal.dot(direction) > 0) place.normal = -place.normal;
-    // A slanted surface is covered more by one sample, but not in both directions.
+    // On a slanted surface, a sample covers more, but only in one direction.
     const float slant = std::clamp(-place.normal.dot(direction), 0.1F, 1.0F);
     place.footprint = hit.distance * spread / std::sqrt(slant);
     return place;
@@ -91,7 +91,7 @@ Spectrum World::shaded(const Shading& s, bool sunny) const {
     surface.openness *= 0.35F + 0.65F * skyward;
     if (!sunny) surface.sunlight = 0;
     Spectrum out = synthesis::lit(surface, light, s.facing);
-    // Light that the ground throws back, most on what looks down or sideways.
+    // Light reflected by the ground, which mainly reaches surfaces that face down or sideways.
     out += surface.reflectance * light.sun * (0.11F * (1 - skyward) * s.look.surface.openness);
     if (behind > 0)
         out +=

@@ -9,20 +9,21 @@
 
 namespace fieldcal::world {
 
-/// A world with how the cameras are led through it. The eye stands at the origin.
+/// A world with the conditions under which the cameras move through it. The viewer's eye is at the origin.
 struct Stage {
     std::unique_ptr<World> world;
     double lowestPitchDeg = -4, highestPitchDeg = 9;  ///< upwards positive
-    /// Below 1 the cameras cannot reach their exposure: the share of the light they would need.
+    /// Below 1 the cameras cannot reach their exposure: available light relative to that of a full exposure.
     double darkness = 1;
-    /// Whether what is seen depends on the time.
+    /// Whether the view depends on the time.
     bool moves = false;
 };
 
-/// The worlds that can be built, in the order in which they are listed to people.
+/// The available worlds, in the order in which they are listed to users.
 const std::vector<std::string>& worldNames();
 
-/// Null when the name is none of `worldNames()`, or ray casting cannot be started. Takes up to some seconds.
+/// Returns null when the name is not one of `worldNames()`, or when ray casting cannot be started. Takes up to some
+/// seconds.
 std::unique_ptr<Stage> buildWorld(const std::string& name, std::uint64_t seed);
 
 }  // namespace fieldcal::world

@@ -53,7 +53,7 @@ TEST_F(Playback, IsBitExactWithRepeatsAndStartsAgain) {
 }
 
 TEST_F(Playback, AStreamIsDroppedFrozenOrDelayedOnOrder) {
-    // Right pictures that differ, and none in the last frame.
+    // Right images that differ, and none in the last frame.
     session.frames = {session.frames[0], session.frames[0], session.frames[1]};
     session.frames[0].repeat = 4;
     session.frames[1].right = "other.png";

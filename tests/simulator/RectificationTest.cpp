@@ -69,7 +69,7 @@ protected:
     std::shared_ptr<const KXLibrary> library = KXLibrary::load(&why);
 };
 
-/// Where a rectified pixel lies in the raw picture, step by step in double precision.
+/// Where a rectified pixel lies in the raw image, step by step in double precision.
 std::array<double, 2> rawPoint(const KXCalibIntrinsicsNonRectified& k, const Rotation& r,
                                const KXCalibIntrinsicsRectified& rect, int u, int v) {
     const double ray[3] = {(u - double{rect.cx}) / rect.fx, (v - double{rect.cy}) / rect.fy, 1};
@@ -120,7 +120,7 @@ TEST_F(Rectification, AgreesWithASlowReference) {
 }
 
 TEST_F(Rectification, ShiftsNothingOnAverage) {
-    // Steep ramps tell the position; a rounding that leans to one side would shift every picture by half a step.
+    // Steep ramps tell the position; a rounding that leans to one side would shift every image by half a step.
     const KXCalibIntrinsicsNonRectified raw{942.78F, 942.78F, 645.02F, 357.37F, 1280, 720, 0, 0, 0, 0, 0};
     const KXCalibIntrinsicsRectified rect{928, 928, 640, 360, 1280, 720};
     Picture ramps{1280, 720, std::vector<std::uint8_t>(std::size_t{1280} * 720 * 4)};
@@ -146,7 +146,7 @@ TEST_F(Rectification, ShiftsNothingOnAverage) {
 }
 
 TEST_F(Rectification, TheRotationTakesRawToRectified) {
-    // Two degrees about Y move what was in the middle of the raw picture to the right: X_rectified = R · X_raw.
+    // Two degrees about Y move what was in the middle of the raw image to the right: X_rectified = R · X_raw.
     const KXCalibIntrinsicsNonRectified raw{400, 400, 64, 32, 128, 64, 0, 0, 0, 0, 0};
     const KXCalibIntrinsicsRectified rect{400, 400, 64, 32, 128, 64};
     Picture dot{128, 64, std::vector<std::uint8_t>(std::size_t{128} * 64 * 4, 0)};

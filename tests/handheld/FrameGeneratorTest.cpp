@@ -1,4 +1,4 @@
-#include "simulator/handheld/Footage.h"
+#include "simulator/handheld/FrameGenerator.h"
 #include "simulator/synthesis/Rig.h"
 
 #include <gmock/gmock.h>
@@ -48,8 +48,8 @@ double motion(const session::FramePictures& a, const session::FramePictures& b) 
     return cv::norm(quarter(a), quarter(b), cv::NORM_L2);
 }
 
-TEST(Footage, EqualSeedsGiveEqualFramesWhichRestMoveAndRestAgain) {
-    Footage one("mountains", 3, rig(), light("sun"), false), other("mountains", 3, rig(), light("sun"), false);
+TEST(FrameGenerator, EqualSeedsGiveEqualFramesWhichRestMoveAndRestAgain) {
+    FrameGenerator one("mountains", 3, rig(), light("sun"), false), other("mountains", 3, rig(), light("sun"), false);
     std::vector<session::FramePictures> last;
     int still = 0, moving = 0, restsAfterMoving = 0;
     for (int i = 0; i < 150; ++i) {
@@ -68,19 +68,19 @@ TEST(Footage, EqualSeedsGiveEqualFramesWhichRestMoveAndRestAgain) {
     EXPECT_GT(restsAfterMoving, 20);
 }
 
-TEST(Footage, WithTheEmitterOnTheHandStays) {
-    Footage footage("mountains", 3, rig(), light("sun"), false);
-    footage.setEmitter(true);
+TEST(FrameGenerator, WithTheEmitterOnTheHandStays) {
+    FrameGenerator generator("mountains", 3, rig(), light("sun"), false);
+    generator.setEmitter(true);
     std::vector<session::FramePictures> first;
     for (int i = 0; i < 200; ++i) {
-        ASSERT_TRUE(footage.advance(60s));
-        if (first.empty()) first.push_back(*footage.current());
-        ASSERT_LT(motion(first.front(), *footage.current()), 4000) << i;
+        ASSERT_TRUE(generator.advance(60s));
+        if (first.empty()) first.push_back(*generator.current());
+        ASSERT_LT(motion(first.front(), *generator.current()), 4000) << i;
     }
 }
 
-TEST(Footage, DotsAreSeenAsLongAsTheEmitterIsOnAndNotAFrameLonger) {
-    Footage plain("near", 3, rig(), light("indoors"), false), dotted("near", 3, rig(), light("indoors"), false);
+TEST(FrameGenerator, DotsAreSeenAsLongAsTheEmitterIsOnAndNotAFrameLonger) {
+    FrameGenerator plain("near", 3, rig(), light("indoors"), false), dotted("near", 3, rig(), light("indoors"), false);
     dotted.setEmitter(true);
     const auto count = [](const Print& some, const Print& other) {
         int brighter = 0, brighterRight = 0, deeper = 0;
@@ -110,10 +110,10 @@ TEST(Footage, DotsAreSeenAsLongAsTheEmitterIsOnAndNotAFrameLonger) {
 TEST(LightCourse, DarkensAndBrightensWhatIsSeen) {
     // Means of infrared, as the light gate takes them: lit above 130, lost again at 110.
     const auto mean = [](const std::string& name, int frames) {
-        Footage footage("mountains", 3, rig(), light(name), false);
+        FrameGenerator generator("mountains", 3, rig(), light(name), false);
         for (int i = 0; i < frames; ++i)
-            EXPECT_TRUE(footage.advance(60s));
-        const Print print(*footage.current());
+            EXPECT_TRUE(generator.advance(60s));
+        const Print print(*generator.current());
         double sum = 0;
         for (const std::uint16_t value : print.infrared)
             sum += value;
@@ -154,7 +154,7 @@ TEST(ViewTurner, BetweenTwoViewsEachFillsWhatTheOtherLacks) {
     const Lens lens = Lens::ofInfrared(cameras.infrared);
     const Lens rightLens = Lens::ofInfrared(synthesis::rightIntrinsics(cameras.infrared, cameras.right));
     const auto painted = [&](const cv::Matx33d& camera_world) {
-        SeenView seen{{camera_world, {}}, {}};
+        RenderedView seen{{camera_world, {}}, {}};
         seen.view.third = cv::Mat_<cv::Vec3f>(480, 640, cv::Vec3f(1, 1, 1));
         seen.view.unmatched = cv::Mat_<std::uint8_t>(468, 628, std::uint8_t{0});
         seen.view.infrared.create(468, 628);
@@ -179,9 +179,9 @@ TEST(ViewTurner, BetweenTwoViewsEachFillsWhatTheOtherLacks) {
     const cv::Matx33d way = poseBetween({from.pose.camera_world, {}}, {to.pose.camera_world, {}}, 0.5).camera_world;
     const auto wanted = painted(way).view;
     world::View made;
-    const ViewTurner::Passage passage{from, to, {way, way}, {0, 0}};
-    turner.passingInfrared(passage, &made);
-    turner.passingRight(passage, &made);
+    const ViewTurner::Transition transition{from, to, {way, way}, {0, 0}};
+    turner.transitionInfrared(transition, &made);
+    turner.transitionRight(transition, &made);
     for (int y = 20; y < 448; y += 13)
         for (int x = 1; x < 627; x += 13) {
             ASSERT_NEAR(made.infrared(y, x), wanted.infrared(y, x), 2e-3) << x << ' ' << y;
