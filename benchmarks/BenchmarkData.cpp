@@ -96,7 +96,7 @@ std::vector<std::string> recordingFolders() {
 }
 
 double differenceDeg(const Eigen::Matrix3d& a, const Eigen::Matrix3d& b) {
-    // The quaternion keeps small angles, which an arc cosine of the trace would lose.
+    // The quaternion preserves small angles, which the arc cosine of the trace would lose.
     const Eigen::Quaterniond q(a * b.transpose());
     return 2.0 * std::atan2(q.vec().norm(), std::abs(q.w())) * 57.29577951308232;
 }

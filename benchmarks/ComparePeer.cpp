@@ -1,4 +1,4 @@
-// Compares the program's calibration with one made of OpenCV's parts, on the same pictures in the same run.
+// Compares the program's calibration with a reference built from OpenCV, on the same images in the same run.
 //   compare-peer [--subsets N]          (recordings: see README.md; default: 10 choices of three stills each)
 
 #include "benchmarks/ModuleStills.h"
@@ -28,7 +28,7 @@ using Choice = std::array<std::size_t, kStills>;
 
 void discard(QtMsgType, const QMessageLogContext&, const QString&) {}
 
-/// Different choices of three stills, in ascending order; the same for the same numbers.
+/// Different selections of three stills, in ascending order; reproducible for the same arguments.
 std::vector<Choice> chooseStills(std::size_t stills, std::size_t count) {
     std::vector<Choice> all;
     for (std::size_t a = 0; a < stills; ++a)
@@ -93,7 +93,7 @@ std::vector<double> of(const std::vector<Answer>& answers, Value&& value) {
     return values;
 }
 
-/// Median and worst error of those that gave an answer, and how many failed.
+/// Prints the median and the largest error of the solved cases, and the number of failures.
 void printErrors(const std::vector<Answer>& answers, std::size_t failed) {
     std::vector<double> errors;
     for (const Answer& answer : answers)

@@ -1,5 +1,5 @@
-// Prints the table of docs/estimation.md: what the form of the residual does to one round's answer, over the given
-// recordings and seeds.
+// Prints the table of docs/estimation.md: the effect of the form of the residual on the result of one round, over the
+// given recordings and seeds.
 //   compare-residuals SEEDS RECORDING...          add --mismatched to pair infrared with the colour of another still
 
 #include "benchmarks/BenchmarkData.h"

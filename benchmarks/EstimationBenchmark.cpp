@@ -1,4 +1,4 @@
-// The parts of one estimation round on the verified matches of a recording.
+// Benchmarks of the parts of one estimation round, on the verified matches of a recording.
 
 #include "benchmarks/BenchmarkData.h"
 #include "diagnostics/Logger.h"

@@ -1,6 +1,6 @@
-// The rendered module with the loop's work on every frame (grab, brightness, frame selection), as fast as it can: how
-// many frames a second while the hand moves, when it has just come to rest (its first frames are made then) and while
-// it rests, what a frame costs all processors together, and how long it waits for views.
+// Runs the rendered module with the loop's work on every frame (grab, brightness, frame selection) as fast as possible.
+// Prints the frame rate while the hand moves, when it has just come to rest (new frames are made then) and while it
+// rests, the total processor time of a frame, and the time spent waiting for keyframes.
 //
 //   HandheldBenchmark [third|platform] [FRAMES]        (KXSIM_WORLD, KXSIM_SEED as usual)
 
@@ -25,7 +25,7 @@ namespace {
 using namespace fieldcal;
 using Clock = std::chrono::steady_clock;
 
-constexpr double waitMs = 150;  // more than any frame takes that needs no new view
+constexpr double waitMs = 150;  // longer than any frame takes that needs no new keyframe
 
 void discard(QtMsgType, const QMessageLogContext&, const QString&) {}
 
@@ -33,13 +33,13 @@ double millisecondsSince(Clock::time_point start) {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-/// Of all threads.
+/// Processor time of all threads.
 double processorMilliseconds() {
     return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
 struct Frame {
-    std::size_t infrared = 0;  ///< a hash of its picture
+    std::size_t infrared = 0;  ///< a hash of its image
     double ms = 0, processorMs = 0;
 };
 
@@ -61,8 +61,8 @@ std::size_t hashOf(const ImageFrame16& frame) {
     return std::hash<std::string_view>()({reinterpret_cast<const char*>(frame.pixels()), frame.byteCount()});
 }
 
-/// By whether a frame waited for a view, and else by how often its picture was shown: noise makes every moving one
-/// unique, and those of a rest come again.
+/// Prints frames by kind: whether a frame waited for a keyframe, otherwise how often its image occurred. Because of
+/// noise, every image of a moving hand is unique, and those of a resting hand are repeated.
 void printByKind(const std::vector<Frame>& all) {
     std::unordered_map<std::size_t, int> shown, shownBefore;
     for (const Frame& frame : all)
@@ -111,7 +111,7 @@ int main(int argc, char** argv) {
         const double processorsBefore = processorMilliseconds();
         if (!sensor.grab(true)) fatalFailure("grab failed", 1);
         const ImageFrame32& colour = records.colour[platform ? ColourCamera::Platform : ColourCamera::Third];
-        if (records.leftInfrared.empty() || colour.empty()) continue;  // the very first view is not there yet
+        if (records.leftInfrared.empty() || colour.empty()) continue;  // the first keyframe is not rendered yet
         std::uint16_t brightness = 0;
         engine.measureInfraredBrightness(records.leftInfrared, &brightness);
         engine.inputFramesAndCheckMovement(records.leftInfrared, colour);

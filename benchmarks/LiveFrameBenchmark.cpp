@@ -1,4 +1,5 @@
-// One live frame without an accepted pair: grab, brightness, frame selection. And the two parts of it alone.
+// Benchmarks of one live frame without an accepted pair: grab, brightness and frame selection together, and the last
+// two separately.
 
 #include "benchmarks/BenchmarkData.h"
 #include "devices/CameraParameterReader.h"

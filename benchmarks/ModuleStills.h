@@ -9,7 +9,7 @@
 
 namespace fieldcal {
 
-/// One of a module's colour cameras, and the rotation that its calibration has to find.
+/// One of a module's colour cameras with its true rotation.
 struct JudgedCamera {
     ColourCamera camera = ColourCamera::Third;
     vq::CameraPair cameras;
@@ -19,10 +19,11 @@ struct JudgedCamera {
     const char* name() const { return nameOf(camera); }
 };
 
-/// The third camera, then the platform camera, as far as the session has them and tells their truth.
+/// Returns the third and the platform camera, as far as the session has them with their true rotations.
 std::vector<JudgedCamera> judgedCameras(const session::SessionDescription& session, const CameraParameters& parameters);
 
-/// A recording as the program gets it: what the sensor reads from the module, and its records for each frame.
+/// A recording as the program receives it: the calibration that the sensor reads from the module, and the sensor's
+/// records for each frame.
 struct ModuleStills {
     session::SessionDescription session;
     CameraParameters parameters;
@@ -32,13 +33,13 @@ struct ModuleStills {
 /// Plays the recording on the simulated camera library. Ends the program with a message when it cannot be played.
 ModuleStills playStills(const std::string& folder);
 
-/// Brings pictures that lie in no recording into the sensor's records, by the same steps.
+/// Converts images that are not in a recording to the sensor's records, by the same steps.
 class StillConverter {
 public:
     explicit StillConverter(const session::SessionDescription& session);
 
     const CameraParameters& parameters() const { return parameters_; }
-    /// The records of the platform camera and of the right infrared imager stay empty where there is no picture.
+    /// The records of the platform camera and of the right infrared imager are empty where there is no image.
     FrameRecords convert(const session::FramePictures& pictures) const;
 
 private:

@@ -1,5 +1,5 @@
-// One accepted pair, picture to answer, beside the OpenCV corner calls that it cannot do without. The first recording
-// of FIELDCAL_RECORDINGS; distances are measured where it has right infrared images.
+// Benchmark of one accepted pair from images to result, and of the OpenCV corner detection that it includes, for the
+// first recording of FIELDCAL_RECORDINGS. Distances are measured where it has right infrared images.
 
 #include "benchmarks/ModuleStills.h"
 #include "diagnostics/Logger.h"
@@ -52,7 +52,7 @@ void corners(const cv::Mat& image, int maximumCount) {
     benchmark::DoNotOptimize(points.data());
 }
 
-/// The peer: corners of both pictures, one after the other, as OpenCV gives them. All stills of the recording.
+/// The reference: corner detection in both images with OpenCV, one after the other, for all stills of the recording.
 void cornerCalls(benchmark::State& state) {
     std::vector<cv::Mat> infrared, grey;
     for (const vq::SelectedImages& pair : pairsOfRecording()) {

@@ -1,10 +1,10 @@
-// Tries what a calibration has to refuse, and how far beyond the searched ranges its answers stay right.
+// Tests cases that a calibration has to refuse, and how far outside the searched ranges its results are correct.
 //   refusal-trials [pairings] [shifted] [half-wrong] [drift]       (recordings: see README.md; default: all four)
 // pairings: the infrared images of each still with the colour image of each other one, eight times in a row.
-// shifted: all stills of an attempt, the infrared images of each with the colour image of the still before.
-// half-wrong: all stills in random orders, half of them with the infrared images of another still.
-// drift: all stills in random orders, the drift about one axis in steps of 0.1 degrees across each edge of the range.
-// The stills of a recording must show different scenes: two that overlap may be explained by a rotation.
+// shifted: all stills of an attempt, the infrared images of each with the colour image of the previous still.
+// half-wrong: all stills in random order, half of them with the infrared images of another still.
+// drift: all stills in random order, the drift about one axis in steps of 0.1 degrees across each edge of the range.
+// The stills of a recording must show different scenes, because a rotation may explain two that overlap.
 
 #include "benchmarks/ModuleStills.h"
 #include "benchmarks/StillAttempt.h"
@@ -34,18 +34,18 @@ using namespace fieldcal;
 constexpr int kPairLimit = 8;
 constexpr double kWrongDeg = 0.1;
 constexpr unsigned kShiftedSeeds = 10, kHalfWrongOrders = 60;
-/// Tenths of a degree beyond an edge of the range, and where the bands of the table end.
+/// Distance from the edge of the range in tenths of a degree, and the limits of the bands in the table.
 constexpr int kFirstTenth = -5, kLastTenth = 14;
 constexpr std::array<int, 4> kBandEnds{0, 5, 10, kLastTenth};
 
 void discard(QtMsgType, const QMessageLogContext&, const QString&) {}
 
-/// Whose infrared images are shown with whose colour image.
+/// The stills whose infrared and colour images are combined.
 struct Showing {
     std::size_t infrared, colour;
 };
 
-/// One camera of a recording, or the same with another factory rotation.
+/// One camera of a recording, possibly with a different factory rotation.
 struct Subject {
     const ModuleStills& module;
     CameraParameters parameters;
@@ -89,7 +89,7 @@ Tally attempt(const Subject& subject, const std::vector<Showing>& showings, unsi
     return tally;
 }
 
-/// Rows of the table, of one camera or of all of them.
+/// Rows of the table, for one camera or for all of them.
 using Rows = std::vector<std::pair<std::string, Tally>>;
 
 std::vector<std::size_t> shuffledStills(std::size_t count, std::mt19937* random) {
@@ -142,7 +142,7 @@ Rows tryHalfWrong(const Subject& subject) {
     return {{"half of the stills wrong", tally}};
 }
 
-/// The same camera with a factory rotation from which the truth has drifted by the given angles.
+/// Returns the same camera with a factory rotation from which the true one has drifted by the given angles.
 Subject drifted(const Subject& subject, const Eigen::Vector3d& driftDeg) {
     Subject moved = subject;
     const Eigen::Vector3d anglesRad = vq::anglesFromRotation(subject.camera.truth) - driftDeg / vq::kDegreesPerRadian;

@@ -56,7 +56,7 @@ Matches matchStill(const FrameRecords& still, const JudgedCamera& camera) {
     return matches;
 }
 
-/// Adds the matches that agree with one homography, if there is one.
+/// Adds the inliers of one homography, if there is one.
 void addInliers(const Matches& matches, Matches* all) {
     if (matches.infrared.size() < kFewestMatches) return;
     std::vector<std::uint8_t> inlier;

@@ -5,10 +5,10 @@ namespace {
 
 /// The selection takes the ninth frame at the earliest.
 constexpr int kGrabsPerStill = 20;
-/// Frames of a movement: too few to be taken for a rest.
+/// Number of frames of a movement: too few for a selection.
 constexpr int kMovingGrabs = 5;
 
-/// Looks like nothing that the hand could rest at.
+/// Returns an image that differs strongly from every still.
 ImageFrame32 inverted(const ImageFrame32& colour) {
     ImageFrame32 frame = colour;
     for (std::size_t i = 0; i < frame.byteCount(); ++i)
@@ -23,7 +23,7 @@ StillAttempt::StillAttempt(const CameraParameters& parameters, const JudgedCamer
 
 StillAttempt::Outcome StillAttempt::show(const FrameRecords& still) {
     auto outcome = Outcome::Continues;
-    // A hand moves between two rests, however alike the two views are.
+    // The hand must appear to move between two stills, even when the stills are similar.
     const ImageFrame32 moving = inverted(still.colour[camera_.camera]);
     for (int i = 0; i < kMovingGrabs; ++i)
         attempt_.processFrame({still.leftInfrared, moving, still.rightInfrared, still.depth});

@@ -7,28 +7,29 @@
 
 namespace fieldcal {
 
-/// The program's calibration of one colour camera, fed with stills instead of a live camera.
+/// Runs the program's calibration of one colour camera on stills instead of a live camera.
 class StillAttempt {
 public:
     using Outcome = CalibrationAttempt::Outcome;
 
-    /// Both references must outlive it. `pairLimit`: pairs after which an attempt without a solution ends.
+    /// Both references must outlive this object. `pairLimit`: number of pairs after which an attempt without a solution
+    /// ends.
     StillAttempt(const CameraParameters& parameters, const JudgedCamera& camera, int pairLimit);
 
     /// Starts an attempt from the factory rotation.
     void start() { attempt_.start(camera_.camera); }
     /// Shows one still for as long as a hand rests, or until the attempt ends.
     Outcome show(const FrameRecords& still);
-    /// What was found, once an attempt has been solved.
+    /// The results of a solved attempt.
     double errorDeg();
     Eigen::Matrix3d rotation();
     vq::ParallaxReport parallax() const { return engine_.parallax(); }
     std::optional<vq::SolutionQuality> quality() const { return engine_.quality(); }
-    /// No more stills will come.
+    /// To be called when there are no more stills.
     Outcome finish() { return attempt_.finish(); }
 
     int pairs() const { return watch_.pairs; }
-    /// Of all pairs so far, each from its pictures to the engine's answer.
+    /// Mean time of all pairs so far, each from its images to the engine's result.
     double pairSeconds() const { return watch_.seconds; }
 
 private:

@@ -1,7 +1,7 @@
-// Prints how hard pairs of pictures are for the matcher, photographs beside rendered worlds: corners, matches, how many
-// of the verified ones are right, and how alike the two kinds of light look where they show the same thing.
+// Compares the difficulty of image pairs for the matcher between photographs and rendered worlds: corners, matches, the
+// share of correct verified matches, and the similarity of infrared and visible light at corresponding points.
 //   world-realism STILLS SEEDS NAME...      NAME: a folder with a recording, or a world
-//   world-realism --each ...                one line a pair instead of one a name
+//   world-realism --each ...                one line per pair instead of one per name
 
 #include "benchmarks/BenchmarkData.h"
 #include "diagnostics/Logger.h"
@@ -25,7 +25,7 @@ namespace {
 
 using namespace fieldcal;
 
-/// Where the colour camera sees what the infrared camera sees, in pixels of the delivered pictures.
+/// The true mapping from the infrared to the colour image, in pixels of the delivered images.
 struct Truth {
     const BenchmarkData& data;
     Eigen::Vector3d translation = Eigen::Vector3d::Zero();  ///< metres
@@ -43,7 +43,7 @@ struct Truth {
     }
 };
 
-/// What is told of one pair, in the order of the columns.
+/// The figures printed for one pair, in the order of the columns.
 struct Figures {
     double infraredCorners = 0, colourCorners = 0, matched = 0, verified = 0;
     double rightPercent = 0, rightAtInfinityPercent = 0, medianPx = 0;

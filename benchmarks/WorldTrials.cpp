@@ -1,11 +1,12 @@
-// Calibrates both colour cameras in worlds nobody has seen: how often it solves, how wrong it is, and how much of that
-// is parallax.
+// Calibrates both colour cameras in rendered worlds and prints how many attempts are solved, their errors, and the part
+// of the errors that is due to parallax.
 //   world-trials [--no-zero-baseline] [--misaligned] [--no-right] [--no-depth] FIRST_SEED SEEDS WORLD...
-// Each run takes the stills where the hand rests, at most 8 to an attempt and two attempts, as a user would; then again
-// with all cameras at one place, which leaves no parallax, unless that is unwanted: it takes as long again.
-// Registration: pixels between where a surface's own depth puts it in the colour picture and where it is seen, at 1, 2,
-// 5 and 20 m. With --misaligned, the infrared imagers of each rig are misaligned by up to half a pixel of disparity,
-// and the module's depth with them: then registration judges, not the angle.
+// Each run takes the stills of the keyframes, at most 8 per attempt and two attempts, as a user would. It is repeated
+// with all cameras at one place, so that there is no parallax, which doubles the time; --no-zero-baseline omits this.
+// Registration: distance in pixels between the position of a surface in the colour image computed from its measured
+// depth and its actual position, at 1, 2, 5 and 20 m. With --misaligned, the infrared imagers of each rig are
+// misaligned by up to half a pixel of disparity, which also affects the module's depth; the trials are then evaluated
+// by registration and not by the angle.
 
 #include "benchmarks/ModuleStills.h"
 #include "benchmarks/StillAttempt.h"
@@ -57,7 +58,7 @@ struct Trial {
 
 using Trials = std::array<Trial, kCameras>;  ///< of the third and of the platform camera
 
-/// What the hand shows to both cameras; each still is rendered once.
+/// The stills of both cameras; each is rendered only once.
 class StillShow {
 public:
     StillShow(const std::string& world, unsigned seed, const synthesis::Rig& rig, const Options& options)
@@ -82,7 +83,7 @@ private:
     std::vector<FrameRecords> made_;
 };
 
-/// What a module takes for the inverse depth of a surface, if its imagers are misaligned.
+/// Returns the inverse depth that a module with misaligned imagers measures for a surface.
 double ownInverseDepth(double inverseDepth, double misalignmentPx, double focalPx) {
     return inverseDepth + misalignmentPx / (focalPx * world::stereoBaseline);
 }
@@ -137,7 +138,7 @@ Trials tryWorld(const std::string& world, unsigned seed, bool baselines, const O
     return trials;
 }
 
-/// Error and stated deviation about each axis, thousandths of a degree; proof and model check.
+/// Formats error and stated deviation about each axis in thousandths of a degree, hold-out proof and model check.
 std::string qualityText(const Trial& trial) {
     if (!trial.quality) return "";
     const vq::SolutionQuality& quality = *trial.quality;
@@ -170,7 +171,7 @@ std::string told(const Trial& trial) {
     return text + qualityText(trial);
 }
 
-/// How honest the stated deviations are.
+/// Prints how well the stated deviations agree with the actual errors.
 void summarizeDeviations(const std::vector<Trial>& trials) {
     std::array<double, 3> squares{};
     int judged = 0, beyondThree = 0;

@@ -1,6 +1,6 @@
-// Keeps the running program capturing and refining, over and over, and samples how much memory it holds.
+// Keeps the running program capturing and refining in a loop, and samples its memory use.
 //   endurance RECORDING FOLDER MINUTES   (on an X display; the program is the one beside it)
-// MINUTES are the module's own: KXSIM_SPEED times those on the wall. A speed of 0, as fast as it can, has none.
+// MINUTES are time of the module: KXSIM_SPEED times real time. The speed must not be 0, as fast as possible.
 #include "demonstration/WalkThrough.h"
 
 #include <QDir>
@@ -27,7 +27,7 @@ int residentMegabytes(qint64 process) {
     return line.match(QString::fromLatin1(status.readAll())).captured(1).toInt() / 1024;
 }
 
-/// From the start of an attempt through the refinement and its restart to the start page.
+/// Goes from the start of an attempt through the refinement and its restart back to the start page.
 bool round(WalkThrough* user) {
     const auto pressReturn = [user] { user->hand().press(Key::Return); };
     const QSize screen = QGuiApplication::primaryScreen()->size();
@@ -36,7 +36,7 @@ bool round(WalkThrough* user) {
         user->hand().buttonDown();
         user->hand().buttonUp();
     };
-    const auto restart = [&] {  // its button stands in the lower left corner, the one that confirms left of the middle
+    const auto restart = [&] {  // the button is in the lower left corner, and the confirmation is left of the centre
         const double unit = std::min(screen.width() / 1280.0, screen.height() / 800.0);
         press(60, screen.height() - 55);
         user->settle();
@@ -46,9 +46,9 @@ bool round(WalkThrough* user) {
     if (found == 1) return user->actUntil("changing to state 6", pressReturn);
     if (found < 0) return false;
     user->settle();
-    pressReturn();  // what was found
+    pressReturn();  // leaves the page with the result
     user->settle();
-    pressReturn();  // once: a second press might come after the change, and accept
+    pressReturn();  // once only: a second press might arrive after the page has changed, and accept
     if (!user->waitFor("changing to state 10", kCaptureMs)) return false;
     for (int x = -100; x <= 100; x += 5) {
         user->hand().moveTo(screen.width() / 2 + x, screen.height() / 2);

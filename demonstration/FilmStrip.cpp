@@ -1,6 +1,6 @@
-// A picture of every page of the interface, with pictures of a recording in its views and nobody behind it.
+// Takes a picture of every page of the interface without the application, with images of a recording in its views.
 //   film-strip RECORDING FOLDER [WIDTHxHEIGHT] [rtl | LANGUAGE]     (on an X display)
-// LANGUAGE: a name of resources/Files, as Chinese_Taiwan; "rtl": English in the other direction.
+// LANGUAGE: a name of resources/Files, such as Chinese_Taiwan; "rtl": English in the other direction.
 #include "render/FixedFunctionGl.h"
 #include "session/RecordedSession.h"
 #include "tests/views/InterfaceLanguages.h"
@@ -18,7 +18,7 @@ namespace {
 using testing::Scene;
 using testing::ViewsStage;
 
-constexpr int kSettleMs = 2200;  // longer than any text is held back or any confirmation lasts
+constexpr int kSettleMs = 2200;  // longer than any text is delayed or any confirmation is shown
 
 ImageFrame32 colourFrame(const QString& file) {
     const QImage image = QImage(file).convertToFormat(QImage::Format_RGBA8888);
@@ -38,7 +38,7 @@ ImageFrame16 greyFrame(const QString& file) {
     return frame;
 }
 
-/// In the application, the code shows one or two views at a time; here the interface's page tells which.
+/// In the application, code shows one or two views at a time; here the page of the interface decides.
 void fillViews(ViewsStage& stage, const QString& recording) {
     const ImageFrame32 colour = colourFrame(recording + "/000_third.png");
     for (const char* name : {"introImageView", "calibColorView"})
@@ -65,7 +65,7 @@ void showViews(ViewsStage& stage, const QString& page) {
     show("refinementView", refinement);
 }
 
-/// How it is to be looked at, and where the pictures go.
+/// The size and language of the pages, and the folder for their pictures.
 struct Strip {
     QString recording;
     QString folder;

@@ -7,13 +7,13 @@
 namespace fieldcal::demonstration {
 namespace {
 
-constexpr float kPictureShare = 0.4F;  ///< of what is seen where there is depth
+constexpr float kPictureShare = 0.4F;  ///< share of the camera image where there is depth
 constexpr int kReach = 100;            ///< pixels, in either direction
 constexpr double kLeastDifference = 12;
 constexpr double kEdgeScale = 1.5;
 constexpr double kFaintEdge = 30;
 
-/// Between the panels above and below, where the page is nothing but pictures.
+/// The part between the upper and lower panels, where the page shows only the camera image.
 cv::Rect clearPart(const cv::Size& screen) {
     return {0, screen.height * 20 / 100, screen.width, screen.height * 58 / 100};
 }
@@ -25,7 +25,7 @@ cv::Mat toMat(const QImage& image) {
         .clone();
 }
 
-/// As the page shows it: as wide as the screen, the middle of its height.
+/// The image as the page shows it: as wide as the screen, cut to the middle of its height.
 cv::Mat asShown(const cv::Mat& picture, const cv::Size& screen) {
     cv::Mat wide;
     const int height = screen.width * picture.rows / picture.cols;
@@ -41,8 +41,8 @@ cv::Mat texture(const cv::Mat& colours) {
     return fine - smooth;
 }
 
-/// Outlines, whatever their contrast, as vectors of twice their direction: those of opposite contrast are alike, and
-/// those that cross each other are opposites.
+/// Edges independent of their contrast, as vectors with twice their direction: edges of opposite contrast are equal,
+/// and perpendicular edges are opposite.
 cv::Mat edges(const cv::Mat& colours) {
     cv::Mat grey, dx, dy;
     cv::cvtColor(colours, grey, cv::COLOR_BGR2GRAY);
@@ -56,7 +56,7 @@ cv::Mat edges(const cv::Mat& colours) {
     return vectors;
 }
 
-/// The depth's own colours, grey where there is none: what the screen shows without the picture's share.
+/// The colours of the depth alone, grey where there is none: the screen without the share of the camera image.
 cv::Mat depthAlone(const cv::Mat& seen, const cv::Mat& picture) {
     cv::Mat difference, mask, largest;
     cv::absdiff(seen, picture, difference);
@@ -79,7 +79,7 @@ double agreement(const cv::Mat& a, const cv::Mat& b) {
     return a.dot(b) / (cv::norm(a) * cv::norm(b));
 }
 
-/// Of the parabola through three neighbours, from the middle one.
+/// Position of the vertex of the parabola through three neighbours, relative to the middle one.
 double vertex(double before, double at, double after) {
     const double bend = before - 2 * at + after;
     return bend < 0 ? (before - after) / (2 * bend) : 0;
@@ -108,7 +108,7 @@ OverlayOffset measureOverlayOffset(const QImage& screen, const std::vector<cv::M
     at.x = std::clamp(at.x, 1, found.cols - 2);
     at.y = std::clamp(at.y, 1, found.rows - 2);
     const auto value = [&](int x, int y) -> double { return found.at<float>(at.y + y, at.x + x); };
-    // Where the edges belong, seen from where they are drawn.
+    // Offset from the drawn edges to their correct position.
     offset.pixels = {kReach - at.x - vertex(value(-1, 0), value(0, 0), value(1, 0)),
                      kReach - at.y - vertex(value(0, -1), value(0, 0), value(0, 1))};
     return offset;

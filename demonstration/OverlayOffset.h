@@ -8,14 +8,14 @@
 
 namespace fieldcal::demonstration {
 
-/// How far the coloured depth on a picture of the screen stands to the right of and below the edges it belongs to.
+/// The offset of the coloured depth in a screenshot, to the right of and below the image edges to which it belongs.
 struct OverlayOffset {
     std::array<double, 2> pixels{};
-    double correlation = 0;  ///< of the edges of both, at that offset
+    double correlation = 0;  ///< of both sets of edges at that offset
 };
 
-/// `screen`: the refinement page. `pictures`: what the colour camera may just have delivered (BGR); the one that the
-/// screen shows is found among them.
+/// `screen`: the refinement page. `pictures`: the images that the colour camera may just have delivered (BGR), among
+/// which the one on the screen is found.
 OverlayOffset measureOverlayOffset(const QImage& screen, const std::vector<cv::Mat>& pictures);
 
 }  // namespace fieldcal::demonstration

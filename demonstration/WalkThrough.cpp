@@ -24,7 +24,7 @@ bool WalkThrough::start(const QString& recording, const QStringList& command) {
     qputenv("KXSIM_SESSION", recording.toLocal8Bit());
     qputenv("KXSIM_FLASH", (folder_ + "/flash").toLocal8Bit());
     qputenv("XDG_DATA_HOME", (folder_ + "/data").toLocal8Bit());
-    // A session of its own: a copy that runs elsewhere is not in the way.
+    // A separate session prevents a conflict with a copy that runs elsewhere.
     QDir().mkpath(folder_ + "/session");
     QFile::setPermissions(folder_ + "/session", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     qputenv("XDG_RUNTIME_DIR", (folder_ + "/session").toLocal8Bit());

@@ -12,32 +12,32 @@
 
 namespace fieldcal::demonstration {
 
-/// A person at the running program, who reads its log to know where they are: looks (takes a picture of the screen),
-/// acts, and waits for what comes of it.
+/// Simulates a user of the running program: takes screenshots, acts, and follows the program's log to know which page
+/// is shown.
 class WalkThrough {
 public:
-    /// Pictures and the program's log go into `folder`.
+    /// Screenshots and the program's log are written to `folder`.
     explicit WalkThrough(QString folder) : folder_(std::move(folder)), log_(folder_ + "/application.log") {}
 
-    /// Starts the program, playing the recording on a module with a flash of its own. Without a command it is the one
-    /// that lies beside this one; with one it may be another system's, as long as its window is on this display and its
-    /// log on standard error.
+    /// Starts the program, which plays the recording on a module with a separate flash. Without `command` it is the
+    /// program beside this one. A command may start a program of another system, as long as its window is on this
+    /// display and its log on standard error.
     bool start(const QString& recording, const QStringList& command = {});
-    /// Waits for a line of the log that contains `line` and came after the last one that was waited for. False: it did
-    /// not come in time, or the program ended; `problem` says which.
+    /// Waits for a line of the log that contains `line` and follows the last one that was waited for. Returns false
+    /// when it did not appear in time, or when the program ended; `problem` says which.
     bool waitFor(const QString& line, int milliseconds) { return waitForOne({line}, milliseconds) == 0; }
-    /// The same for whichever of some lines comes first; its index, or -1.
+    /// The same for the first of several lines to appear. Returns its index, or -1.
     int waitForOne(const QStringList& lines, int milliseconds);
-    /// Acts, again and again, until the line comes.
+    /// Acts repeatedly until the line appears.
     bool actUntil(const QString& line, const std::function<void()>& action);
-    /// A person waits for what they see.
+    /// `settle` waits until animations have ended; `look` takes a screenshot.
     void settle() const;
     QImage look(const QString& name);
-    /// Acts, and gives the milliseconds until the screen's upper left corner looks different; -1: it never does.
+    /// Acts, and returns the milliseconds until the upper left corner of the screen changes; -1 if it does not.
     double reactionMs(const std::function<void()>& action);
-    /// Whether one of the lines has come since the last one that was waited for.
+    /// Returns whether one of the lines has appeared since the last one that was waited for.
     bool hasCome(const QStringList& lines);
-    /// The program's exit code, once it has ended by itself; -1 when it does not.
+    /// Returns the exit code of the program once it has ended by itself; -1 if it does not.
     int waitForEnd();
 
     X11Hand& hand() { return hand_; }

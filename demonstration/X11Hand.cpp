@@ -9,7 +9,7 @@
 namespace fieldcal::demonstration {
 namespace {
 
-/// No hand is faster, and a system that takes a key for held must see it up again.
+/// No user is faster, and a system that considers a key pressed must see its release.
 constexpr unsigned long kHeldMs = 60;
 constexpr unsigned long kFocusMs = 300;
 
@@ -33,7 +33,7 @@ struct X11Hand::Connection {
 };
 
 X11Hand::X11Hand() : connection_(std::make_unique<Connection>()) {
-    // A key that is held would otherwise count as pressed again and again.
+    // Auto-repeat would report a held key as pressed repeatedly.
     if (connected()) XAutoRepeatOff(connection_->display);
 }
 

@@ -4,15 +4,15 @@
 
 namespace fieldcal::demonstration {
 
-/// Presses keys and drags on the X display that DISPLAY names, as a person would; every other process sees real events.
+/// Presses keys and drags on the X display named by DISPLAY. All other processes receive real events.
 class X11Hand {
 public:
     X11Hand();
     ~X11Hand();
 
     bool connected() const;
-    /// Gives the keyboard to the largest window if none has it; without a window manager nobody else does. A program
-    /// whose own focus is inside its window would take this for the loss of it.
+    /// Gives the keyboard focus to the largest window if no window has it; without a window manager it is not set
+    /// otherwise. If the program's own focus is inside its window, it would treat this as a loss of focus.
     void focusWindow();
     enum class Key { Return, Escape, Tab, Space };
     void press(Key key);

@@ -1,6 +1,6 @@
-// Plays the whole workflow of the running program, from start to saved, by events from outside: with two cameras, or
-// with one when the recording has no more. Says what the simulated module's flash holds afterwards, how far the overlay
-// stood beside the picture, and how soon the interface answered while a photo was being worked on.
+// Plays the whole workflow of the running program, from start to saved, by external events, with one or two cameras as
+// in the recording. Reports the content of the simulated module's flash, the offset between overlay and image, and the
+// reaction time of the interface while a photo was being processed.
 //   walk-through RECORDING FOLDER [COMMAND...]        (on an X display; without a command the program beside it)
 #include "demonstration/OverlayOffset.h"
 #include "demonstration/WalkThrough.h"
@@ -25,19 +25,19 @@ namespace {
 
 using Key = X11Hand::Key;
 
-constexpr int kFlashMs = 400;  // and the confirmation that comes with it stands longer
+constexpr int kFlashMs = 400;  // shorter than the confirmation shown with it
 constexpr int kCaptureMs = 240000;
 constexpr double kLeastCorrelation = 0.05;
 const QString kPairTaken = "Adding new infrared";
 const QStringList kPairDecided{"Continue processing", "Could not get a sample set", "Found a good solution"};
 
-/// What is played, and what came of it.
+/// The recording that is played, and the results.
 struct Walk {
     WalkThrough& user;
     session::SessionDescription played;
     QString recording;
     QJsonObject* result;
-    QJsonArray busyReactionsMs, idleReactionsMs;  ///< while a photo was being worked on, and after
+    QJsonArray busyReactionsMs, idleReactionsMs;  ///< while a photo was being processed, and afterwards
 
     bool twoCameras() const { return played.platform.has_value(); }
 };
@@ -56,12 +56,12 @@ void drag(WalkThrough* user) {
     moveSlowly(middle, middle + screen.width() / 8);
     user->settle();
     user->look("refinement-dragged");
-    moveSlowly(middle + screen.width() / 8, middle);  // the finger's own correction is taken back
+    moveSlowly(middle + screen.width() / 8, middle);  // reverses the correction made before
     user->hand().buttonUp();
     user->settle();
 }
 
-/// The module's own colour pictures.
+/// The colour images of the module.
 std::vector<cv::Mat> playedPictures(const Walk& walk) {
     std::vector<cv::Mat> pictures;
     session::FramePictures frame;
@@ -75,7 +75,7 @@ std::vector<cv::Mat> playedPictures(const Walk& walk) {
     return pictures;
 }
 
-/// By how much the middle of the picture moves on the screen when the stored rotation takes the true one's place.
+/// Returns the motion of the image centre on the screen when the true rotation replaces the stored one.
 QJsonArray expectedOffset(const session::SessionDescription& played, int screenWidth) {
     const session::Matrix3& a = played.third.rotation;
     const session::Matrix3& b = *played.truthThird;
@@ -87,13 +87,13 @@ QJsonArray expectedOffset(const session::SessionDescription& played, int screenW
     return {played.third.fx * ray[0] / ray[2] * scale, played.third.fy * ray[1] / ray[2] * scale};
 }
 
-/// Null where hardly anything has depth.
-QJsonValue told(const OverlayOffset& offset) {
+/// Returns null where hardly anything has depth.
+QJsonValue toJson(const OverlayOffset& offset) {
     if (offset.correlation < kLeastCorrelation) return {};
     return QJsonObject{{"px", QJsonArray{offset.pixels[0], offset.pixels[1]}}, {"correlation", offset.correlation}};
 }
 
-/// With the rotation that was found, and, as long as its button is held, with the stored one.
+/// Measures the overlay with the estimated rotation and, while the button is held, with the stored one.
 void compareWithStored(Walk* walk) {
     WalkThrough& user = walk->user;
     const std::vector<cv::Mat> pictures = playedPictures(*walk);
@@ -105,20 +105,20 @@ void compareWithStored(Walk* walk) {
     const QImage stored = user.look("refinement-stored");
     user.hand().release(Key::Space);
     user.settle();
-    walk->result->insert("overlay", QJsonObject{{"found", told(measureOverlayOffset(found, pictures))},
-                                                {"stored", told(measureOverlayOffset(stored, pictures))},
+    walk->result->insert("overlay", QJsonObject{{"found", toJson(measureOverlayOffset(found, pictures))},
+                                                {"stored", toJson(measureOverlayOffset(stored, pictures))},
                                                 {"driftPx", expectedOffset(walk->played, found.width())}});
 }
 
-/// Asks to leave, and decides to stay, while the photo that has just been taken is being worked on and after.
+/// Asks to leave and cancels, while the photo that has just been taken is being processed, and afterwards.
 void measureReactions(Walk* walk) {
     const auto askToLeave = [walk](bool busy) {
         for (int i = 0; i < 2; ++i) {
             const double milliseconds = walk->user.reactionMs([walk] { walk->user.hand().press(Key::Escape); });
             if (!busy && !walk->user.hasCome({kPairTaken})) walk->idleReactionsMs.append(milliseconds);
             if (busy && !walk->user.hasCome(kPairDecided)) walk->busyReactionsMs.append(milliseconds);
-            // A fade that still runs would count as the answer to the next press, and a question that is about to
-            // open takes no key yet. No photo is taken behind a question that stays open.
+            // A fade in progress would count as the reaction to the next press, and a question that is about to open
+            // does not accept keys yet. No photo is taken while a question is open.
             walk->user.settle();
         }
     };
@@ -126,7 +126,7 @@ void measureReactions(Walk* walk) {
     if (walk->user.waitForOne(kPairDecided, kCaptureMs) < 2) askToLeave(false);
 }
 
-/// From the first photo to the page that tells what was found.
+/// From the first photo to the page with the result.
 bool capture(Walk* walk, const char* name, const char* foundLine) {
     WalkThrough& user = walk->user;
     if (!user.waitFor(kPairTaken, 60000)) return false;
@@ -138,7 +138,7 @@ bool capture(Walk* walk, const char* name, const char* foundLine) {
         if (line == 0) measureReactions(walk);
     }
     if (line < 0) return false;
-    // Its page comes before the next state's, which the log does not tell.
+    // The page is shown before the next state, which is not logged.
     user.settle();
     user.look(QString("found-%1").arg(name));
     user.hand().press(Key::Return);
@@ -175,7 +175,7 @@ QJsonObject judge(const Matrix3& before, const Matrix3& after, const Matrix3& tr
     return {{"errorBeforeDeg", angleBetweenDeg(before, truth)}, {"errorAfterDeg", angleBetweenDeg(after, truth)}};
 }
 
-/// What the module's flash holds now, against the recording's truth.
+/// Compares the content of the module's flash with the recording's true rotation.
 bool judgeFlash(const Walk& walk, QString* why) {
     session::SessionDescription stored;
     ConnectedModule module;

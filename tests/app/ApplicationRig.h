@@ -21,7 +21,7 @@ namespace fieldcal::testing {
 
 constexpr qint64 kPatienceMs = 120000;
 
-/// The application over the simulated module, with an interface that writes down what it is told.
+/// The application with the simulated module and an interface that records the calls that it receives.
 class ApplicationTest : public ::testing::Test, protected SimulatedModule {
 protected:
     ApplicationTest() {
@@ -33,7 +33,7 @@ protected:
     }
     ~ApplicationTest() override { end(); }
 
-    /// Starts the program anew. `change` may alter what it finds outside itself.
+    /// Restarts the program. `change` may modify its environment.
     void start(const QString& faults = {}, const std::function<void(ApplicationEnvironment&)>& change = nullptr) {
         end();
         set("KXSIM_FAULTS", faults);
@@ -58,7 +58,7 @@ protected:
         services.reset();
     }
 
-    /// What the interface was told so far.
+    /// The calls that the interface has received so far.
     std::vector<std::string> calls() const {
         std::vector<std::string> texts;
         for (const QVariant& call : manager->window()->property("calls").toList())
@@ -80,14 +80,14 @@ protected:
         }
         return true;
     }
-    /// Waits for it, and forgets what was told up to it.
+    /// Waits for a call, and discards all calls up to it.
     bool waitFor(const std::string& call) {
         if (!waitUntil([&] { return wasTold(call); })) return false;
         forget();
         return true;
     }
 
-    // What the interface does when the user presses something.
+    // The actions of the user in the interface.
     void press(const char* signal) { QMetaObject::invokeMethod(manager->window(), signal); }
     void goTo(State state) {
         QMetaObject::invokeMethod(manager->window(), "stateChanged", Q_ARG(int, static_cast<int>(state)));
@@ -95,12 +95,12 @@ protected:
     void touch(const char* signal, int x, int y) {
         QMetaObject::invokeMethod(manager->window(), signal, Q_ARG(int, x), Q_ARG(int, y));
     }
-    /// From the start page or later to where a found rotation is shown.
+    /// Goes from the start page or a later one to the display of an estimated rotation.
     bool solve(const std::string& shown) {
         goTo(State::StartingCalibration);
         return waitFor(shown);
     }
-    /// Runs the event loop until the program ends by itself, after `action`. Milliseconds that it took.
+    /// Runs the event loop until the program ends by itself after `action`. Returns the elapsed milliseconds.
     qint64 runUntilEnd(const std::function<void()>& action) {
         QElapsedTimer timer;
         QTimer once, watchdog;
@@ -132,7 +132,7 @@ protected:
     FakeServiceControl control;
     std::unique_ptr<PXMServiceManager> services;
     std::vector<std::string> boxes;
-    std::vector<bool> awake;  ///< each time that the system was told
+    std::vector<bool> awake;  ///< the requests to the system to stay awake, in order
     std::unique_ptr<GlobalManager> manager;
 };
 

@@ -33,7 +33,7 @@ protected:
         ASSERT_TRUE(solve("state|9"));
         QMetaObject::invokeMethod(manager->window(), "toggleTutorialAnimation", Q_ARG(bool, true));
     }
-    /// Through the tutorial to the first camera's refinement.
+    /// Goes through the tutorial to the first camera's refinement.
     void refineFirst() {
         openCamera();
         findFirst();
@@ -44,7 +44,7 @@ protected:
         touch("touchMove", toX, toY);
         touch("touchUp", toX, toY);
     }
-    /// Leaves the program in the middle of a state, from a pass or two into it.
+    /// Leaves the program a pass or two after it has entered a state.
     void driveTo(State state) {
         if (state == State::FirstOpened) return;
         openCamera();
@@ -52,7 +52,7 @@ protected:
         if (state != State::RefiningTutorial && state != State::ShowingIntroduction) goTo(state);
         QTest::qWait(30);
     }
-    /// From the light check on, and not beyond the end.
+    /// From the light check on, until before the end.
     static std::vector<bool> awakeUpTo(State state) {
         return state < State::DetectingLighting ? std::vector<bool>() : std::vector<bool>{true, false};
     }
@@ -141,7 +141,7 @@ TEST_F(EndingTest, EveryStateIsLeftWithinASecondAndWithoutAWrite) {
     QTest::qWait(100);
     EXPECT_LT(runUntilEnd([this] { press("userAskedToExit"); }), 1000);
 
-    // The session ends: all that the system gives the program is this signal.
+    // At the end of a session, this signal is the only notice that the program receives.
     for (const State state : statesToLeave()) {
         start();
         driveTo(state);

@@ -15,7 +15,7 @@ constexpr const char* kLit = "lighting|Sufficient Sunlight|It's bright enough he
 
 class InterfaceBridgeTest : public ApplicationTest {
 protected:
-    /// One letter for each view that is shown, in the order of their names in the interface.
+    /// One letter for each visible view, in the order of their names in the interface.
     std::string shownViews() const {
         std::string shown;
         const std::pair<const char*, char> views[] = {{"introImageView", 'i'},
@@ -142,7 +142,7 @@ TEST_F(InterfaceBridgeTest, AnArabicInterfaceReadsFromTheRightAndSpeaksArabic) {
     EXPECT_EQ(QCoreApplication::translate("Interface", "Continue"), "متابعة");
 }
 
-/// The product's own interface: what the application calls is there.
+/// The product's own interface provides every function that the application calls.
 TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
     const LogCapture log;
     start("openDevice:1:5", [](ApplicationEnvironment& environment) {

@@ -7,7 +7,7 @@
 namespace fieldcal::testing {
 namespace {
 
-/// One core, two faces: what the application runs on its thread, and what the command line does.
+/// The application's thread and the command line run the same engine and must give the same result.
 TEST(SameAnswerTest, TheApplicationAndTheCommandLineFindTheSameRotation) {
     const QString recording = mountainRecording();
     qputenv("KXSIM_SESSION", recording.toLocal8Bit());

@@ -12,7 +12,7 @@ namespace {
 using ::testing::Contains;
 using ::testing::IsEmpty;
 
-/// A server outlives applications, and so needs an event loop that is none of theirs.
+/// The server outlives the applications of the test, so it needs its own event loop.
 class ServerThread : public QThread {
 public:
     ServerThread() {
@@ -25,7 +25,7 @@ public:
     }
     QUrl url(const QString& path) const { return QUrl(base_ + path); }
 
-    // Before anything is asked for.
+    // To be called before anything is requested.
     QByteArray manifest;
     bool unending = false;
 

@@ -25,7 +25,7 @@ struct Period {
     Clock::time_point begin, end;
 };
 
-/// When the loop worked on photos, as its log tells.
+/// The times at which the loop processed photos, according to its log.
 class DecisionWatch {
 public:
     DecisionWatch() { previous() = qInstallMessageHandler(&DecisionWatch::watch); }
@@ -65,7 +65,7 @@ private:
     }
 };
 
-/// Notes whenever the main thread comes round to its events.
+/// Records every time that the main thread processes its events.
 class Heartbeat {
 public:
     Heartbeat() {
@@ -73,7 +73,7 @@ public:
         QObject::connect(&timer_, &QTimer::timeout, [this] { beats_.push_back(Clock::now()); });
         timer_.start(2);
     }
-    /// Within a period.
+    /// Counted within a period.
     double longestGapMs(const Period& period) const {
         Clock::duration longest{};
         for (std::size_t i = 1; i < beats_.size(); ++i)
@@ -86,7 +86,7 @@ private:
     std::vector<Clock::time_point> beats_;
 };
 
-/// The product's own interface in a window that is drawn, over a module that plays at its own pace.
+/// The product's own interface in a window that is drawn, with a module that plays at its own rate.
 class WholeRunTest : public ApplicationTest {
 protected:
     WholeRunTest() {
@@ -104,7 +104,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(manager->window()));
     }
     QQuickItem* find(const char* name) const { return manager->window()->findChild<QQuickItem*>(name); }
-    /// Sleeps between events, so that the loop under test has the processor.
+    /// Sleeps between events, so that the loop under test gets the processor.
     template <typename Condition>
     static bool comes(Condition condition) {
         QElapsedTimer timer;
@@ -117,7 +117,7 @@ protected:
         return comes([&] { return find(item)->isVisible(); });
     }
     void pressReturn() { QTest::keyClick(manager->window(), Qt::Key_Return); }
-    /// Small pictures of photos that the interface has loaded, within an item.
+    /// The thumbnails of photos that the interface has loaded, within an item.
     static int photosSeen(const QQuickItem* item) {
         const bool photo = item->property("source").toString().startsWith("image://photos/");
         int count = photo && item->property("status") == 1 ? 1 : 0;
@@ -172,7 +172,7 @@ TEST_F(WholeRunTest, TheInterfaceAnswersWhilePhotosAreWorkedOnAndTwoCamerasAreSt
         shares.push_back(gaps.back() / lengths.back());
     }
     ASSERT_GE(lengths.size(), 5U);
-    // What waits for a decision waits for each of them; a machine that is busy otherwise disturbs a few.
+    // A delay caused by a decision would appear in each of them; a busy machine delays only a few.
     EXPECT_LT(median(shares), 0.6) << ::testing::PrintToString(shares);
     std::printf(
         "Longest gap between the main thread's events: %.0f ms in all, %.0f ms in the worst and %.0f ms in the "

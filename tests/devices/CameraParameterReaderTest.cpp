@@ -95,7 +95,7 @@ TEST_F(CameraParameterReaderTest, UnusablePlatformDataMeansNoPlatformCamera) {
         [](auto& d) { d.rectified.fx = 0; },
         [](auto& d) { d.rectified.w = 4000; },  // the table would not fit
         [](auto& d) { d.zToPlatform.rotation[4] = kNan; },
-        [](auto& d) { d.rectified.fx = 1e-3F; },  // a picture of 742400000 columns
+        [](auto& d) { d.rectified.fx = 1e-3F; },  // an image with 742400000 columns
     };
     int number = 0;
     for (const Damage& damage : damages) {
@@ -123,7 +123,7 @@ TEST_F(CameraParameterReaderTest, UnusableModuleDataIsRefusedAndReportedOnce) {
         [](auto& d) { d.third.fx = 10; },    // 37120 columns
         [](auto& d) { d.third.fx = 1e9F; },  // none
         [](auto& d) { d.leftRight.cx = kNan; },
-        [](auto& d) { d.leftRight.w = 640; },  // another size than that of the pictures
+        [](auto& d) { d.leftRight.w = 640; },  // a different size from that of the images
         [](auto& d) { d.z.h = 480; },
         [](auto& d) { d.third.h = 720; },
         [](auto& d) { d.zToThird.translation[2] = kNan; },

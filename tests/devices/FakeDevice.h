@@ -20,7 +20,7 @@ using NonRectified = KXCalibIntrinsicsNonRectified;
 using int32 = std::int32_t;
 
 /// A camera module with all its interfaces that records every call that can change or start something, in order, and
-/// fails on request. `calls` holds "operation(arguments)"; the plain getters of sizes, pictures and flags are not
+/// fails on request. `calls` holds "operation(arguments)"; the plain getters of sizes, images and flags are not
 /// recorded.
 class FakeKxDevice final : public KXDevice,
                            public KXThirdCamera,
@@ -71,7 +71,7 @@ public:
     bool rectifiedLRIntrinsics(Rectified* out) override { return give("rectifiedLRIntrinsics", leftRight, out); }
     bool zIntrinsics(Rectified* out) override { return give("zIntrinsics", z, out); }
     bool rectParameters(KXCalibRectParameters* out) override { return give("rectParameters", flash, out); }
-    /// The module takes up the rotations that its block holds, once a companion has entered some.
+    /// The module uses the rotations of its block once a companion has entered some.
     bool resumeDevice() override {
         load(flash.reserved0, flash.rectificationThird, &zToThird);
         load(flash.reserved0 + 72, flash.rectificationPlatform, &zToPlatform);
@@ -145,7 +145,7 @@ public:
     KXCalibRectParameters flash = unitBlock();
     KXCalibRectParameters written = flash;
 
-    /// Recognisable bytes around three identities.
+    /// Returns a block of recognisable bytes around three identity matrices.
     static KXCalibRectParameters unitBlock() {
         KXCalibRectParameters block{};
         std::memset(&block, 0x5A, sizeof(block));
@@ -195,7 +195,7 @@ private:
     std::map<std::string, int> counts_;
 };
 
-/// The library around the fake device `current`. Its rectification copies the picture; `rectifyCalls` counts it.
+/// The library around the fake device `current`. Its rectification copies the image; `rectifyCalls` counts it.
 struct FakeLibrary {
     FakeLibrary() {
         rectifyCalls = 0;

@@ -8,21 +8,21 @@
 
 namespace fieldcal::testing {
 
-/// What a test keeps of the rear camera: it outlives the backend, which the control owns.
+/// The state of the rear camera in a test. It outlives the backend, which the control owns.
 struct FakeRearCamera {
     std::string name = "HP Truevision 8MP Rear";
     std::string failing;  ///< the call, as recorded, that fails
     std::vector<std::string> calls;
     RearCameraSink* sink = nullptr;
     std::int32_t firstPictureMs = 0;
-    std::function<void()> onAwaited = [] {};  ///< its first picture is being waited for
+    std::function<void()> onAwaited = [] {};  ///< called while the first image is awaited
 
     bool call(const std::string& record) {
         calls.push_back(record);
         return record != failing;
     }
 
-    /// One 1280 x 720 picture of a single colour.
+    /// One 1280 x 720 image of a single colour.
     void deliver(std::uint8_t luma, std::uint8_t u, std::uint8_t v, std::int32_t width = 1280) const {
         std::vector<std::uint8_t> nv12(static_cast<std::size_t>(width) * 720, luma);
         for (std::int32_t i = 0; i < width * 360; ++i)

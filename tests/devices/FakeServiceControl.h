@@ -10,8 +10,8 @@
 
 namespace fieldcal::testing {
 
-/// An installed service as a script. `calls` records the operations in order; `failing` gives an operation's n-th
-/// call an error number.
+/// A scripted service. `calls` records the operations in order; `failing` gives an operation's n-th call an error
+/// number.
 class FakeServiceControl : public ServiceControl {
 public:
     Handle openManager(std::uint32_t access) override {
@@ -52,7 +52,7 @@ public:
     void fail(const std::string& operation, int n, std::uint32_t error) { failing_[operation] = {n, error}; }
 
     std::uint32_t startType = 2;
-    std::deque<std::uint32_t> states{4, 4, 3, 1};  ///< given one after the other; the last one stays
+    std::deque<std::uint32_t> states{4, 4, 3, 1};  ///< returned one after the other; the last one stays
     std::vector<std::string> calls;
     std::function<void()> onSleep;
 

@@ -6,7 +6,7 @@
 namespace fieldcal::testing {
 namespace {
 
-/// Of the quaternion (1, x, y, z), brought to length 1.
+/// Returns the rotation of the normalised quaternion (1, x, y, z).
 Rotation rotationOf(double x, double y, double z) {
     const double s = 2 / (1 + x * x + y * y + z * z);
     const double r[9] = {1 - s * (y * y + z * z), s * (x * y - z),         s * (x * z + y),
@@ -60,7 +60,7 @@ TEST_F(FlashRoundTripTest, AHundredSavesOfOneCameraLeaveTheOtherAlone) {
         reopen();
         ASSERT_EQ(platform(), atFirst) << "save " << i;
     }
-    // The other way round, within one run as well.
+    // A second write in the same run must be possible, too.
     const Rotation last = third();
     for (int i = 0; i < 20; ++i)
         ASSERT_TRUE(sensor->updateRotation(last, rotationOf(0.01, 1e-4 * i, 0)));

@@ -16,7 +16,7 @@ using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-/// The straightforward way: resize, swap pixel by pixel, alpha.
+/// A straightforward reference implementation: resize, swap pixel by pixel, set alpha.
 std::vector<std::uint8_t> slowReference(const cv::Mat& bgra, int width, int height) {
     cv::Mat scaled = bgra.clone();
     if (scaled.size() != cv::Size(width, height)) cv::resize(bgra, scaled, {width, height}, 0, 0, cv::INTER_LINEAR);
@@ -74,12 +74,12 @@ protected:
     }
     void deliverRed(std::int32_t width = 1280) const { rearCamera.deliver(81, 90, 240, width); }
 
-    /// The rear record's first pixel; empty when the record is.
+    /// Returns the rear record's first pixel; empty when the record is empty.
     std::vector<int> rearPixel() {
         const ImageFrame32& record = sensor->frames().colour[ColourCamera::Platform];
         return record.empty() ? std::vector<int>{} : std::vector<int>(record.bytes(), record.bytes() + 4);
     }
-    /// Paints the rear record, to see whether a grab writes it.
+    /// Fills the rear record, so that the test sees whether a grab writes to it.
     void markRearRecord() {
         const auto& record = sensor->frames().colour[ColourCamera::Platform];
         std::fill_n(const_cast<std::uint8_t*>(record.bytes()), record.byteCount(), std::uint8_t{99});

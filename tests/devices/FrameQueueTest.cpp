@@ -9,13 +9,13 @@
 namespace fieldcal {
 namespace {
 
-/// A 2 x 2 picture whose bytes all say `value`.
+/// Pushes a 2 x 2 image whose bytes all are `value`.
 bool push(FrameQueue& queue, std::uint32_t sequence, std::uint8_t value) {
     const std::vector<std::uint8_t> bytes(6, value);
     return queue.push({bytes.data(), 2, 2, sequence, 0.0});
 }
 
-/// The value of the newest picture; -1 when there is nothing newer.
+/// Returns the value of the newest image; -1 when there is nothing newer.
 int take(FrameQueue& queue) {
     QueuedPicture picture;
     return queue.latest(0, &picture) ? picture.pixels[5] : -1;
@@ -24,7 +24,7 @@ int take(FrameQueue& queue) {
 TEST(FrameQueue, DrainsToTheNewestAndDropsTheOldest) {
     FrameQueue queue;
     EXPECT_EQ(take(queue), -1);
-    // Further than around the ring, with reads in between, so that the indices wrap.
+    // More pushes than the ring has slots, with reads in between, so that the indices wrap.
     std::uint8_t number = 0;
     for (const std::size_t pushed : {3, 7, 1, 7, 2, 7}) {
         for (std::size_t i = 0; i < pushed; ++i, ++number)

@@ -12,8 +12,8 @@
 
 namespace fieldcal::testing {
 
-/// Collects what is logged through Qt while it lives, and prints it only if the test has failed. Critical lines start
-/// with "CRITICAL ". One at a time.
+/// Collects everything that is logged through Qt during its lifetime, and prints it only if the test has failed.
+/// Critical lines start with "CRITICAL ". Only one instance at a time.
 class LogCapture {
 public:
     LogCapture() {
@@ -39,7 +39,7 @@ public:
         const std::lock_guard lock(mutex());
         return std::count(lines().begin(), lines().end(), line) > 0;
     }
-    /// The last line that starts like this.
+    /// Returns the last line that starts with `start`.
     static std::string last(const std::string& start) {
         const std::lock_guard lock(mutex());
         const auto startsSo = [&](const std::string& line) { return line.compare(0, start.size(), start) == 0; };

@@ -15,7 +15,7 @@ using Flash = WriteBackReport::Flash;
 /// 0.57 degrees about Z.
 constexpr Rotation kTurned{0.99995F, -0.0099998F, 0, 0.0099998F, 0.99995F, 0, 0, 0, 1};
 
-/// Long for a call that does nothing, even on a busy machine.
+/// Long enough for a call that does nothing, even on a busy machine.
 constexpr std::chrono::milliseconds kShort{250};
 
 class ModuleFaultsTest : public ModuleRig {
@@ -23,14 +23,15 @@ protected:
     void expectReport(int status) const {
         EXPECT_THAT(reports, ElementsAre(EndsWith(status == 5 ? "MissingQ550" : " - " + userText(status))));
     }
-    /// Closes the sensor; the vendor's service must be as it was.
+    /// Closes the sensor and checks that the vendor's service is restored.
     void close() {
         sensor.reset();
         EXPECT_EQ(control.startType, 2U);
     }
 };
 
-/// Every operation that opening, reading out and grabbing use, with the call that comes first there.
+/// Every operation that is used for opening, reading the calibration and grabbing, with the number of its first call
+/// there.
 constexpr const char* kFatal[] = {"openDevice:1",
                                   "initDevice:1",
                                   "serialNumber:1",
@@ -52,7 +53,7 @@ constexpr const char* kFatal[] = {"openDevice:1",
                                   "rectifiedLRIntrinsics:1",
                                   "zIntrinsics:1",
                                   "zToThirdExtrinsics:1"};
-/// What fails here costs a stream, a text or the rear camera, and is no fault of the module's.
+/// Failures of these operations cost a stream, a text or the rear camera, and are not faults of the module.
 constexpr const char* kHarmless[] = {"firmwareVersionText:1",
                                      "softwareVersionText:1",
                                      "emitterControl:1",
@@ -161,7 +162,7 @@ TEST_F(ModuleFaultsTest, ACalibrationForPicturesOfAnotherSizeIsNamed) {
         LogCapture::has("CRITICAL The infrared pictures have 6 x 4 pixels, but their calibration is for 8 x 4."));
 }
 
-/// The calls of a write-back, with the number that each has after opening and reading out.
+/// The calls of a write-back, numbered after opening and reading the calibration.
 const std::string kWriting[] = {
     "stopCapture:1",  "rectParameters:1", "privateInterface:1", "writeRectParameters:1", "commitCalibration:1",
     "resumeDevice:1", "rectParameters:2", "rectParameters:3",   "zToThirdExtrinsics:2",  "zToPlatformExtrinsics:2"};
@@ -176,7 +177,8 @@ protected:
         EXPECT_NE(turned, factory);
         sensor.reset();
     }
-    /// A write with this fault, from a fresh flash. Checks what must hold whatever happened, and gives the result.
+    /// Makes a write with this fault on a fresh flash, checks the conditions that must always hold, and returns the
+    /// result.
     bool tryWriting(const std::string& fault) {
         QFile::remove(flashFile);
         reopen(QString::fromStdString(fault));
@@ -191,7 +193,7 @@ protected:
         EXPECT_EQ(firstReports.size(), stored ? 0U : 1U) << ::testing::PrintToString(firstReports);
         return stored;
     }
-    /// Old or new, as the report says; and the backup brings the old one back.
+    /// The flash holds the old or the new block as reported, and the backup restores the old one.
     void checkFlash() {
         const QByteArray found = stored();
         holdsNew = found == turned;
@@ -302,7 +304,7 @@ TEST_F(WriteFaultsTest, ABlockThatArrivedWrongIsPutBackBeforeItIsLoaded) {
     EXPECT_FALSE(tryWriting(kNonsense));
     EXPECT_EQ(said.flash, Flash::Previous) << "it was put back while the module rested";
 
-    // Twice: the module is left with the nonsense, and says so at the next start. The backup brings it back to life.
+    // Twice: the module is left with an invalid block and reports it at the next start. The backup repairs it.
     QFile::remove(flashFile);
     reopen(kNonsense + QString(",writeRectParameters:2:garble+1275"));
     EXPECT_FALSE(sensor->updateRotation(kTurned, parameters.colour[ColourCamera::Platform].fromDepth.rotation));

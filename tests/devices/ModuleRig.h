@@ -16,7 +16,7 @@
 
 namespace fieldcal::testing {
 
-/// The simulated module behind a real sensor: a tiny recording, a file for its parameter block, a scripted vendor's
+/// The simulated module with a real sensor: a tiny recording, a file for its parameter block, a scripted vendor's
 /// service.
 class ModuleRig : public session::SessionFolder, protected SimulatedModule {
 protected:
@@ -29,7 +29,7 @@ protected:
         set("KXSIM_FLASH", flashFile);
     }
 
-    /// From here on the recording has no platform camera, whose read-out takes long.
+    /// Removes the platform camera, which takes long to read, from the recording.
     void dropPlatform() {
         std::string why;
         session::SessionDescription description;
@@ -41,7 +41,7 @@ protected:
         QFile::remove(flashFile);
     }
 
-    /// A new program on a tablet that was just switched on.
+    /// Starts a new program on a tablet that has just been switched on.
     void start(const QString& faults = {}) {
         set("KXSIM_FAULTS", faults);
         sensor.reset();
@@ -62,7 +62,7 @@ protected:
         start(faults);
         ASSERT_TRUE(open()) << ::testing::PrintToString(reports);
     }
-    /// The block in the flash as a program finds it that starts now.
+    /// Returns the block in the flash as a newly started program reads it.
     QByteArray stored() {
         reopen();
         KXCalibRectParameters block{};
@@ -80,7 +80,7 @@ protected:
     std::unique_ptr<Sensor> sensor;
 };
 
-/// What follows the library's own text in the report of a status; 5 has none.
+/// The text that follows the library's own text in the report of a status; 5 has none.
 inline std::string userText(int status) {
     switch (status) {
         case 1:

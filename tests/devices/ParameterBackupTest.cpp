@@ -114,7 +114,7 @@ TEST_F(ParameterBackupTest, MutatedFilesAreReadOrRefused) {
     for (int i = 0; i < 2000; ++i) {
         QByteArray bytes = whole;
         for (int n = below(3); n >= 0; --n) {
-            // Half of the damage goes where the meaning is.
+            // Half of the damaged bytes are in the fields with a meaning.
             const int at = below(2) == 0 ? below(bytes.size()) : below(2) == 0 ? below(32) : 32 + 1272 + below(252);
             bytes[at] = static_cast<char>(below(256));
         }

@@ -17,7 +17,7 @@
 
 namespace fieldcal::testing {
 
-/// A sensor over fakes. `emitted` is what it reports.
+/// A sensor with fake devices. `emitted` collects its reports.
 class SensorTest : public ::testing::Test {
 protected:
     SensorTest() { renew(); }

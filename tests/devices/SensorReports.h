@@ -7,7 +7,7 @@
 
 namespace fieldcal::testing {
 
-/// Adds to `reports` whatever the sensor emits: the error's text, or the signal's short name.
+/// Adds all signals of the sensor to `reports`: the text of an error, or the short name of the signal.
 inline void collectReports(const Sensor& sensor, std::vector<std::string>* reports) {
     const auto add = [reports](const char* name) { return [reports, name] { reports->emplace_back(name); }; };
     QObject::connect(&sensor, &Sensor::signal_reportKXAPIError,

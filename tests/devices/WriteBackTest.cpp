@@ -21,7 +21,7 @@ using ::testing::Not;
 using ::testing::StartsWith;
 using Flash = WriteBackReport::Flash;
 
-// Quarter turns: every product can be checked by hand.
+// Quarter turns, so that every product can be checked by hand.
 constexpr Rotation kIdentity{1, 0, 0, 0, 1, 0, 0, 0, 1};
 constexpr Rotation kAboutX{1, 0, 0, 0, 0, -1, 0, 1, 0};
 constexpr Rotation kAboutY{0, 0, 1, 0, 1, 0, -1, 0, 0};
@@ -124,7 +124,7 @@ TEST_F(WriteBackTest, RefusesWithoutTouchingTheDevice) {
 TEST_F(WriteBackTest, WithoutAPlatformCalibrationItsRotationDoesNotMatter) {
     device->failCall("platformCamera", 1, 0);
     open();
-    // Nobody has ever written that camera's place; it must neither hinder the write nor the backup.
+    // This camera's part of the block was never written, which must prevent neither the write nor the backup.
     std::memset(device->flash.rectificationPlatform, 0xFF, sizeof(device->flash.rectificationPlatform));
     ASSERT_TRUE(sensor->updateRotation(kAboutY, Rotation{})) << reason();
     EXPECT_EQ(device->flash.reserved0[72], 0x5A);

@@ -33,7 +33,7 @@ void append(std::string* bytes, std::uint32_t word) {
         bytes->push_back(static_cast<char>(word >> shift & 0xFFU));
 }
 
-/// Every field different; among the coefficients a quiet and a signalling NaN with payloads, −0 and a denormal.
+/// Every field is different; the coefficients include a quiet and a signalling NaN with payloads, −0 and a denormal.
 CameraRecord oddRecord(int base) {
     const auto number = static_cast<float>(base);
     return {base,          -base,         number + 0.1F,         number + 0.2F,
@@ -48,7 +48,7 @@ CalibrationState oddState() {
     return state;
 }
 
-/// The file of `oddState`, laid out by hand.
+/// The file of `oddState`, written out by hand.
 std::string oddBytes() {
     std::string bytes;
     for (const int base : {628, 640, 1280}) {
@@ -77,7 +77,7 @@ protected:
         std::ifstream file(path_, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
-    /// What the state's file would hold.
+    /// Returns the bytes of the state's file.
     std::string bytesOf(const CalibrationState& state) const {
         EXPECT_TRUE(state.writeToFile(path_));
         return stored();

@@ -10,7 +10,7 @@ namespace vq::testing {
 
 using RowMajor3f = Eigen::Matrix<float, 3, 3, Eigen::RowMajor>;
 
-/// An engine of its own with two small cameras, and what a user does with it.
+/// An engine with two small cameras, and the actions of a user.
 class CalibratorRig {
 public:
     explicit CalibratorRig(const Eigen::Vector3d& factoryDeg) {
@@ -32,12 +32,12 @@ public:
         return engine.inputFramesAndCheckMovement(frameOf<fieldcal::ImageFrame16>(still.infrared),
                                                   frameOf<fieldcal::ImageFrame32>(still.colour));
     }
-    /// Turns away, shows the still until the engine takes it, and lets it try.
+    /// Moves the cameras, shows the still until the engine selects it, and tries a calibration.
     CalibratorResult calibrateOn(const ScenePair& still) {
         std::int32_t code = show(still).code;
         for (int i = 0; i < 60 && code != ProcessImagePair; ++i) {
             ScenePair shown = still;
-            // Levels that differ over four and over eight frames.
+            // Brightness levels that differ over four and over eight frames.
             const cv::Mat elsewhere(still.colour.size(), CV_8UC4, cv::Scalar::all(i * 97 % 256));
             if (code == RotateDevice) shown.colour = elsewhere;
             code = show(shown).code;

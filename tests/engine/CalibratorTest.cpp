@@ -34,7 +34,7 @@ protected:
     CalibratorRig rig_{kFactoryDeg};
 };
 
-/// Nothing to see from `corner` to the right and from it downwards, in both pictures. Infrared pixels.
+/// Removes the texture to the right of and below `corner` in both images. Infrared pixels.
 ScenePair blankedFrom(const ScenePair& still, const cv::Point& corner, const cv::Point& colourOffset) {
     const auto blanked = [](const cv::Mat& picture, const cv::Point& from, const cv::Scalar& with) {
         cv::Mat result(picture.size(), picture.type(), with);
@@ -93,7 +93,7 @@ TEST_F(Calibrator, SolvesWithTheThirdDecisionImprovesWithMoreAndStaysSolvedUntil
     EXPECT_EQ(evidence->infrared.size(), cv::Size(320, 240));
     const auto areas = evidence->matchesPerArea();
     EXPECT_EQ(std::accumulate(areas.begin(), areas.end(), std::size_t{0}), evidence->matches.size());
-    // A wall does not take the solution away.
+    // A plain wall does not invalidate the solution.
     const ScenePair wall = blankedFrom(rig_.scene(kTrueDeg, 1), {8, 8}, {0, 0});
     for (int i = 0; i < 5; ++i)
         EXPECT_EQ(rig_.calibrateOn(wall).code, 8);
@@ -125,7 +125,7 @@ TEST_F(Calibrator, EstimatesWhenHalfOfTheCellsAreFilled) {
 }
 
 TEST_F(Calibrator, SeventhAttemptOnAverageBelowThirtyIsTooSimple) {
-    // Stills with more and more to see, by how many matches each one gives.
+    // Stills with more and more texture, by the number of matches in each one.
     std::map<int, ScenePair> stills;
     const ScenePair full = rig_.scene(kTrueDeg, 1);
     for (int fromX = 40; fromX <= 80; fromX += 2) {
@@ -134,7 +134,7 @@ TEST_F(Calibrator, SeventhAttemptOnAverageBelowThirtyIsTooSimple) {
         stills.emplace(rig_.verified(), still);
         rig_.engine.resetState();
     }
-    // Sums that seven of them can reach, and how.
+    // Sums that seven of them can reach, with the stills of each sum.
     std::map<int, std::vector<int>> reached{{0, {}}};
     for (int step = 0; step < 7; ++step) {
         std::map<int, std::vector<int>> next;
@@ -146,7 +146,7 @@ TEST_F(Calibrator, SeventhAttemptOnAverageBelowThirtyIsTooSimple) {
     }
     for (const auto& [sum, lastCodeIsSix] : {std::pair{209, true}, {210, false}}) {
         ASSERT_EQ(reached[sum].size(), 7U);
-        rig_.engine.setup();  // counts anew, as a reset does
+        rig_.engine.setup();  // counts from zero again, as after a reset
         CalibratorResult result;
         for (const int count : reached[sum]) {
             EXPECT_NE(result.code, 6) << "not before the seventh";
@@ -158,7 +158,7 @@ TEST_F(Calibrator, SeventhAttemptOnAverageBelowThirtyIsTooSimple) {
 }
 
 TEST_F(Calibrator, FourthFailureInARowEmptiesTheGrid) {
-    // Right, and inside the search range about the factory angles, but outside of what may be accepted.
+    // A correct rotation within the search range about the factory angles, but outside the acceptance range.
     CalibratorRig rig({3.0, 0, 0});
     const Eigen::Matrix3d factory = rig.rotation();
     for (int decision = 1; decision <= 9; ++decision) {

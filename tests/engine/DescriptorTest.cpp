@@ -24,7 +24,7 @@ cv::Mat slowDescriptor(const cv::Mat& image, const cv::Point& centre) {
 TEST(Descriptor, AgreesWithBoxSumsTakenOneByOne) {
     cv::RNG random(1);
     const cv::Mat image = randomImage(random, {120, 90}, CV_8UC1);
-    // Each belongs to the pixel whose centre is nearest.
+    // Each corner belongs to the pixel whose centre is nearest.
     std::vector<cv::Point2f> corners{{28, 28}, {91, 61}, {60.4F, 40.4F}, {60.6F, 40.6F}, {33.3F, 58.8F}};
     const std::vector<cv::Point> pixels{{28, 28}, {91, 61}, {60, 40}, {61, 41}, {33, 59}};
     cv::Mat descriptors;
@@ -39,7 +39,7 @@ TEST(Descriptor, AgreesWithBoxSumsTakenOneByOne) {
 TEST(Descriptor, DropsCornersWithoutACompletePatchFromBothLists) {
     cv::RNG random(2);
     const cv::Mat image = randomImage(random, {120, 90}, CV_8UC1);
-    // Pixels 28..91 across and 28..61 down have all they need.
+    // Pixels 28..91 across and 28..61 down have a complete patch.
     std::vector<cv::Point2f> corners{{27.4F, 40}, {27.6F, 40}, {91.4F, 40}, {91.6F, 40}, {50, 27.4F},   {50, 27.6F},
                                      {50, 61.4F}, {50, 61.6F}, {-1, 40},    {50, 300},   {91.4F, 61.4F}};
     const std::vector<cv::Point2f> kept{{27.6F, 40}, {91.4F, 40}, {50, 27.6F}, {50, 61.4F}, {91.4F, 61.4F}};
@@ -52,7 +52,7 @@ TEST(Descriptor, DropsCornersWithoutACompletePatchFromBothLists) {
     EXPECT_TRUE(corners.empty() && descriptors.empty()) << "too small for any";
 }
 
-/// What a brute-force matcher makes of the corners inside the area.
+/// Reference: a brute-force search among the corners inside the area.
 int bruteForce(const CornerSet& targets, const cv::Rect2f& area, const cv::Mat& query) {
     cv::Mat inside;
     std::vector<int> indices;
@@ -73,12 +73,12 @@ TEST(CandidateSearch, FindsWhatBruteForceFinds) {
     const cv::Size size(310, 205);
     CornerSet targets;
     for (int i = 0; i < 400; ++i) {
-        // Whole pixels among them, so that some lie exactly on an edge.
+        // Some positions are whole pixels and lie exactly on an edge.
         const cv::Point2f place = randomPoint(places, {0, 0, 310, 205});
         targets.points.push_back(i % 2 ? place : cv::Point2f(std::floor(place.x), std::floor(place.y)));
     }
     targets.descriptors = randomImage(random, {kDescriptorBytes, 400}, CV_8UC1);
-    // Twins far apart in the list, so that ties are decided.
+    // Equal descriptors far apart in the list test the rule for ties.
     for (int i = 0; i < 100; ++i)
         targets.descriptors.row(i).copyTo(targets.descriptors.row(399 - i));
     const CandidateSearch search(targets, size);

@@ -24,8 +24,8 @@ double median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-/// A texture as the left and the right imager see it, the right one at the given disparity, with a gain and noise of
-/// its own and rows that lie a little apart.
+/// A texture in the left and the right image, with the given disparity, a different gain and independent noise in the
+/// right image, and rows that are slightly offset.
 struct StereoScene {
     cv::Mat left16, right16;
 
@@ -123,7 +123,7 @@ TEST(StereoScale, ComesFromDepthWithItsConstantOffset) {
     EXPECT_FALSE(scaleFromDepth(places)) << "too few";
 }
 
-/// Matches of things at 1.5 to 30 m, with noise, as a camera that stands beside the infrared one sees them.
+/// Matches of objects at 1.5 to 30 m, with noise, for a camera beside the infrared one.
 struct NearScene {
     Projection projection{kCameras, {-0.06, 0.001, 0.002}};
     Eigen::Matrix3d truth = rotationFromAngles(Eigen::Vector3d(1.5, -0.8, 1.1) * kDeg);
@@ -163,7 +163,7 @@ TEST(RotationPolish, FitsRotationAndBaselineWithTheExactGeometry) {
     EXPECT_NEAR(both->pixelMetres, kPixelMetres, 0.005 * kPixelMetres);
     EXPECT_LT(Eigen::AngleAxisd(both->rotation * scene.truth.transpose()).angle(), 0.01 * kDeg);
 
-    // Freed of its parallax, a place lies where the same thing at infinity would.
+    // With its parallax removed, a place lies where an object at infinity would appear.
     const cv::Point2f place(200, 150);
     const cv::Point2f freed = scene.projection.withoutParallax(scene.truth, place, 0.4);
     EXPECT_LT(
@@ -172,7 +172,7 @@ TEST(RotationPolish, FitsRotationAndBaselineWithTheExactGeometry) {
         1e-3);
 }
 
-/// One texture in two kinds of light, the colour image of a camera that is turned.
+/// One texture in infrared and visible light; the colour camera is rotated.
 struct LitScene {
     Eigen::Vector3d truthRad = Eigen::Vector3d(0.7, -0.4, 1.2) * kDeg;
     cv::Mat infrared8, grey;
@@ -184,7 +184,7 @@ struct LitScene {
         cv::extractChannel(scene.colour, grey, 1);
         places = texturedPlaces(infrared8);
     }
-    /// Pixels between where a match's infrared place belongs in the colour image and where it was found.
+    /// Distance in pixels between the true position of a match in the colour image and the position found.
     double errorPx(const cv::Point2f& infrared, const cv::Point2f& colour) const {
         return cv::norm(mapped(colourFromInfrared(kCameras, truthRad), infrared) - colour);
     }

@@ -24,7 +24,7 @@ constexpr unsigned kTrials = 200;
 struct PointPairs {
     std::vector<cv::Point2f> infrared, colour;
 
-    /// Right ones, with Gaussian noise on the infrared point.
+    /// Adds correct matches with Gaussian noise on the infrared point.
     void addRight(const Eigen::Vector3d& anglesRad, int count, double noisePx, std::mt19937& random) {
         std::normal_distribution<float> noise(0.0F, 1.0F);
         for (int i = 0; i < count; ++i) {
@@ -33,7 +33,8 @@ struct PointPairs {
             colour.push_back(mapped(colourFromInfrared(kCameras, anglesRad), exact));
         }
     }
-    /// Wrong ones as the matcher lets them through: each where some rotation of the search range could take it.
+    /// Adds wrong matches of the kind that the matcher lets pass: each is consistent with some rotation of the search
+    /// range.
     void addWrong(int count, std::mt19937& random) {
         for (int i = 0; i < count; ++i) {
             const Eigen::Vector3d offsetDeg(uniform(random, -4, 4), uniform(random, -1.5, 1.5), uniform(random, -2, 2));
@@ -79,7 +80,7 @@ TEST_F(Estimation, RefusesRandomMatchesInsideTheSearchAreas) {
     for (unsigned seed = 1; seed <= kTrials; ++seed) {
         std::mt19937 random(seed);
         PointPairs pairs;
-        pairs.addWrong(12 + static_cast<int>(seed * 400 / kTrials), random);  // from hardly anything to full cells
+        pairs.addWrong(12 + static_cast<int>(seed * 400 / kTrials), random);  // from hardly any to full cells
         Eigen::Vector3d anglesRad;
         EXPECT_FALSE(vote(pairs, seed, &anglesRad)) << seed;
     }
@@ -156,7 +157,7 @@ TEST(RotationFit, ConvergesFromTheFarCorners) {
 }
 
 TEST(RotationFit, LeavesTheRotationAloneWhenItFails) {
-    // With these numbers the identity predicts without any rounding: every term is exactly zero at the start.
+    // With these numbers the identity predicts without rounding, so every residual is exactly zero at the start.
     const fieldcal::CameraModel camera{640, 480, 512, 512, 320, 240};
     const std::vector<cv::Point2f> points{{64, 112}, {320, 240}, {448, 368}, {576, 48}, {192, 432}};
     const Eigen::Vector3d untouched(7, 8, 9);

@@ -18,7 +18,7 @@ protected:
                        frameOf<fieldcal::ImageFrame32>(cv::Mat(colour, CV_8UC4, cv::Scalar(red, green, 7, 255))));
         return selector_.shouldUseThisFrame(&infrared_, &colour_);
     }
-    /// Number of the first of forty still pushes that is answered with true, 0 for none.
+    /// Returns the number of the first of forty still pushes after which a pair is selected, 0 for none.
     int pushesUntilSelected(int red) {
         for (int i = 1; i <= 40; ++i) {
             if (push(red)) return i;
@@ -74,7 +74,7 @@ TEST_F(Selection, KeepsTestingTheSlidingRunOfNine) {
 
 TEST_F(Selection, ThresholdsAreExclusive) {
     struct Case {
-        int red, green;  // against a black picture: 50 · √(red² + green²)
+        int red, green;  // against a black image: 50 · √(red² + green²)
         bool moves, isStill;
     };
     const Case cases[] = {{79, 0, false, true},   {80, 0, false, false},  {80, 1, false, false},
@@ -92,7 +92,7 @@ TEST_F(Selection, ThresholdsAreExclusive) {
 }
 
 TEST_F(Selection, CountsAChangeOfFrameSizeAsMovement) {
-    // Colour, infrared. 199 pixels also reduce to 50: the motion pictures could still be compared.
+    // Colour, infrared. 199 pixels are also reduced to 50, so the motion images could still be compared.
     const std::pair<cv::Size, cv::Size> cases[] = {{{240, 200}, {6, 4}}, {{199, 200}, {6, 4}}, {kSize, {4, 6}}};
     for (const auto& [colour, infrared] : cases) {
         selector_.reset();

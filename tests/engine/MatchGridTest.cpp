@@ -11,7 +11,7 @@ namespace {
 
 class Grid : public ::testing::Test {
 protected:
-    /// Distinct points inside a cell of a picture of 628 x 468; the colour point's x tells each from all others.
+    /// Adds distinct points inside a cell of an image of 628 x 468; the colour point's x identifies each of them.
     void prepare(int column, int row, int count) {
         for (int i = 0; i < count; ++i) {
             infrared_.emplace_back(cv::Point(column * 157 + i % 10, row * 156 + i / 10));
@@ -43,7 +43,7 @@ TEST(RandomIndices, AreDistinctUniformAndComeFromRand) {
 
 TEST_F(Grid, CutsACellOnlyBeyondThirtyAndCountsBefore) {
     int held = 0;
-    // What each pair adds to the cell, and what the cell holds afterwards.
+    // The number of matches that each pair adds to the cell, and the number in the cell afterwards.
     for (const auto& [added, kept] : {std::pair{9, 9}, {1, 10}, {20, 30}, {1, 30}, {200, 30}}) {
         colour_.clear(), infrared_.clear();
         prepare(2, 1, added);
@@ -68,7 +68,7 @@ TEST_F(Grid, PutsPointsIntoTheirCellAndTheRestIntoTheLast) {
         cv::Point2f point;
         int column, row;
     };
-    // 630 x 470 in 4 x 3 gives cells of 157 x 156, and a rest of two pixels each way.
+    // 630 x 470 in 4 x 3 gives cells of 157 x 156, with a remainder of two pixels in each direction.
     const Case cases[] = {{{0, 0}, 0, 0},   {{156.9F, 155.9F}, 0, 0}, {{157, 156}, 1, 1}, {{627.9F, 467.9F}, 3, 2},
                           {{628, 0}, 3, 0}, {{629.9F, 469.9F}, 3, 2}, {{0, 469}, 0, 2}};
     for (const Case& test : cases) {

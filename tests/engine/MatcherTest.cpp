@@ -11,7 +11,7 @@ namespace {
 
 const Eigen::Vector3d kCurrentRad = Eigen::Vector3d(0.6, -0.9, 1.1) * kDeg;
 
-/// Where a query pixel really lands; both positions in delivered pixels.
+/// Returns the true position of a query pixel in the target image; both in delivered pixels.
 cv::Point2f landing(const CameraPair& cameras, const Eigen::Vector3d& anglesRad, bool queryIsInfrared,
                     const cv::Point2f& query) {
     const Eigen::Matrix3d homography = colourFromInfrared(cameras, anglesRad);
@@ -19,7 +19,7 @@ cv::Point2f landing(const CameraPair& cameras, const Eigen::Vector3d& anglesRad,
     return mapped(homography.inverse(), cameras.colourModelPoint(query));
 }
 
-/// Within the search range, its ends as often as what lies between.
+/// Returns an offset within the search range; its ends are as frequent as values in between.
 Eigen::Vector3d randomOffsetRad(std::mt19937& random) {
     const auto offset = [&](double end) { return std::clamp(uniform(random, -2.0 * end, 2.0 * end), -end, end); };
     return Eigen::Vector3d(offset(4.0), offset(1.5), offset(2.0)) * kDeg;
@@ -33,7 +33,7 @@ TEST(PositionTable, BoundsEveryLandingAndLittleMore) {
             const fieldcal::CameraModel& query = queryIsInfrared ? cameras.infrared : cameras.colour;
             for (int pixel = 0; pixel < 300; ++pixel) {
                 cv::Point2f point = randomPoint(random, {0, 0, query.width - 0.1F, query.height - 0.1F});
-                // Half of them on the corner of an entry, where its bounds are tightest.
+                // Half of the points are on the corner of an entry, where the margin of its area is smallest.
                 if (pixel % 2 == 0) point = {std::floor(point.x / 4) * 4, std::floor(point.y / 4) * 4};
                 const auto* area = table.find(point);
                 ASSERT_NE(area, nullptr);
@@ -90,7 +90,7 @@ TEST(Matcher, FindsAScenesTwinsOnlyWhereTheSearchMayLook) {
                 right += cv::norm(truth - matched.colour.at(i)) < 1.5 ? 1 : 0;
             }
             EXPECT_TRUE(isReached ? right > 250 : right == 0) << driftDeg.transpose() << ": " << right;
-            // The target picture gives at most 1000 corners, the query as many as it has.
+            // The target image provides at most 1000 corners, the query image all of its corners.
             const PairStatistics& s = matched.statistics;
             EXPECT_EQ(queryIsInfrared ? s.colourCorners : s.infraredCorners, 1000);
             EXPECT_GT(queryIsInfrared ? s.infraredCorners : s.colourCorners, 1000);
@@ -98,7 +98,7 @@ TEST(Matcher, FindsAScenesTwinsOnlyWhereTheSearchMayLook) {
     }
 }
 
-/// How far a point lies outside the upright rectangle that the four points make; 0 inside.
+/// Returns the distance of a point from the axis-aligned rectangle of the four points; 0 inside.
 double pixelsOutside(const PositionTable::Quadrilateral& area, const cv::Point2f& point) {
     const double across = std::max({area[0].x - point.x, point.x - area[2].x, 0.0F});
     return std::hypot(across, std::max({area[0].y - point.y, point.y - area[2].y, 0.0F}));
@@ -109,7 +109,7 @@ TEST(Matcher, KeepsWhatLiesAtMostOnePixelOutside) {
     const ScenePair scene = renderScene(cameras, kCurrentRad + Eigen::Vector3d(0, 1.0, 0) * kDeg, 3);
     const Matched all = match(cameras, scene, {}, true);
     int barelyInside = 0, barelyOutside = 0;
-    // Search areas that end more and more to the left of the matches.
+    // Search areas that end further and further to the left of the matches.
     for (int step = 0; step < 15; ++step) {
         SearchRange range;
         range.maxDeg[1] = 1.0 - 0.1 * step;

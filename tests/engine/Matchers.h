@@ -19,7 +19,7 @@ MATCHER_P2(NearRotation, truth, toleranceRad, "is near the rotation") {
     return errorRad <= toleranceRad;
 }
 
-/// Of three angles in radians.
+/// Compares three angles in radians.
 MATCHER_P2(NearAngles, truthRad, toleranceRad, "are the angles of a near rotation") {
     const Eigen::Matrix3d truth = rotationFromAngles(truthRad);
     return ExplainMatchResult(NearRotation(truth, toleranceRad), rotationFromAngles(arg), result_listener);

@@ -10,12 +10,12 @@
 namespace vq::testing {
 namespace {
 
-/// Whether a byte is the given real number truncated; single precision may fall beside a whole number.
+/// Returns whether a byte is the given real number truncated; near a whole number, single precision may give either.
 bool isTruncated(int value, double exact) {
     return value <= exact + 1e-3 && value > exact - 1.0 - 1e-3;
 }
 
-/// The stretch as it is described, pixel by pixel.
+/// A slow reference implementation of the local stretch, pixel by pixel.
 class SlowStretch {
 public:
     explicit SlowStretch(const cv::Mat& raw) {
@@ -55,7 +55,7 @@ private:
     cv::Mat_<double> clamped_;
 };
 
-/// A slope of brightness under noise.
+/// A brightness gradient with noise.
 cv::Mat slope(cv::RNG& random, const cv::Size& size, int low, int high) {
     cv::Mat image = randomImage(random, size, CV_16UC1, low, low + (high - low) / 3);
     for (int x = 0; x < size.width; ++x)
@@ -89,7 +89,7 @@ TEST(InfraredStretch, AgreesWithTheSlowOne) {
 }
 
 TEST(InfraredStretch, ClipsTheTailsOnlyBeyondTwoPercent) {
-    // Of 100 pixels two may be clipped at either end, the third is the cut.
+    // Of 100 pixels two may be clipped at either end; the third one is the cut.
     std::vector<std::uint16_t> pixels(100, 400);
     pixels[0] = pixels[1] = 10;
     pixels[98] = pixels[99] = 1000;
@@ -98,7 +98,7 @@ TEST(InfraredStretch, ClipsTheTailsOnlyBeyondTwoPercent) {
     pixels[97] = 900;
     EXPECT_EQ(clippedMean(pixels.data(), 10, 10), (3 * 20 + 94 * 400 + 3 * 900) / 100);
     EXPECT_EQ(clippedMean(pixels.data(), 0, 10), 0);
-    // Nearly everything beyond the histogram: the cuts cross at 30 and 10, and the upper one wins.
+    // Nearly all values lie beyond the histogram: the cuts cross at 30 and 10, and the upper one wins.
     pixels.assign(100, 2000);
     pixels[0] = 10, pixels[1] = 20, pixels[2] = 30;
     EXPECT_EQ(clippedMean(pixels.data(), 10, 10), 10);

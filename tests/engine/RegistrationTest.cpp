@@ -27,7 +27,7 @@ RegistrationState stateAt(const Eigen::Vector3d& anglesDeg) {
 
 TEST(Rotation, TurnsAboutXThenYThenZAndSurvivesTheRoundTrip) {
     constexpr double kQuarter = 1.5707963267948966;
-    // Nothing, next to nothing, the ends of the ranges, about and at the gimbal, half turns.
+    // Zero, nearly zero, the ends of the ranges, near and at gimbal lock, and half turns.
     const Eigen::Vector3d cases[] = {{0, 0, 0},        {1e-9, -1e-9, 1e-9},  {0.07, -0.07, 0.05},
                                      {0.1, 1.57, 0.2}, {0.1, kQuarter, -.3}, {-0.4, -kQuarter, 0.0},
                                      {3.1, 0.2, -3.1}, {2 * kQuarter, 0, 0}, {0, 0, -2 * kQuarter}};
@@ -80,7 +80,7 @@ TEST(Registration, LogsTheResetAsAnErrorAndEveryRangeTest) {
 }
 
 TEST(Drag, MovesTheSecondAngleAndPullsTheOthersIntoTheirRanges) {
-    // Start of the second angle, where the finger goes, what comes of it; it came down at 100 in an area of 400.
+    // The initial second angle, the end of the drag, and the result, for a drag that starts at 100 in an area of 400.
     const std::array<float, 3> cases[] = {{0, 100, 0},   {0, 300, 4},  {0.5F, 300, 4}, {0, 150, 1},
                                           {0, -900, -4}, {-1, 200, 1}, {2, 0, 0}};
     for (const auto& [startDeg, x, expectedDeg] : cases) {
@@ -88,7 +88,7 @@ TEST(Drag, MovesTheSecondAngleAndPullsTheOthersIntoTheirRanges) {
         state.setValues(5.5F, startDeg, -3.5F);
         state.setDragAreaSize(400, 300);
         state.beginDrag(100, 50);
-        state.drag(x / 3.0F);  // where it was in between does not matter
+        state.drag(x / 3.0F);  // intermediate positions of the drag have no effect
         state.drag(x);
         EXPECT_THAT(state.values(), ElementsAre(4.0F, FloatNear(expectedDeg, 1e-6F), -3.0F)) << x;
     }

@@ -11,16 +11,16 @@
 
 namespace vq::testing {
 
-/// Two cameras of different size and principal point, as a module's are; the colour picture not quite in scale.
+/// Two cameras of different size and principal point; the scale of the colour image differs slightly.
 inline CameraPair smallCameras() {
     return {{320, 240, 300, 300, 161.5F, 117.25F}, {336, 252, 300, 300, 165.0F, 128.5F}, {1.0031F, 0.9962F}};
 }
-/// As large as the real ones.
+/// Cameras of the real size.
 inline CameraPair fullCameras() {
     return {{628, 468, 600, 600, 312.0F, 238.5F}, {634, 474, 600, 600, 322.5F, 231.0F}, {}};
 }
 
-/// Infrared pixels to pixels of the colour model, for things at infinity.
+/// Maps infrared pixels to pixels of the colour model, for objects at infinity.
 inline Eigen::Matrix3d colourFromInfrared(const CameraPair& cameras, const Eigen::Vector3d& anglesRad) {
     return cameraMatrix(cameras.colour) * rotationFromAngles(anglesRad) * cameraMatrix(cameras.infrared).inverse();
 }
@@ -47,7 +47,7 @@ Frame frameOf(const cv::Mat& image) {
     return frame;
 }
 
-/// Every value a random number in low..high.
+/// Returns an image of random numbers in low..high.
 inline cv::Mat randomImage(cv::RNG& random, const cv::Size& size, int type, int low = 0, int high = 255) {
     cv::Mat image(size, type);
     random.fill(image, cv::RNG::UNIFORM, low, high + 1);
@@ -59,7 +59,7 @@ struct ScenePair {
     cv::Mat colour;    ///< CV_8UC4, as delivered
 };
 
-/// Rich texture, much larger than a small picture. Grey values from 10 to 245.
+/// Rich texture, much larger than a small image. Grey values from 10 to 245.
 inline cv::Mat texture(int seed) {
     cv::RNG random(static_cast<std::uint64_t>(seed));
     cv::Mat fine(700, 900, CV_32F), coarse(116, 150, CV_32F), image;
@@ -71,7 +71,7 @@ inline cv::Mat texture(int seed) {
     return image;
 }
 
-/// One scene at infinity as the two cameras see it, in two kinds of light.
+/// Renders one scene at infinity for the two cameras, in infrared and visible light.
 inline ScenePair renderScene(const CameraPair& cameras, const Eigen::Vector3d& anglesRad, int seed) {
     const auto see = [scene = texture(seed)](const fieldcal::CameraModel& camera, const Eigen::Matrix3d& fromInfrared) {
         Eigen::Matrix3d infraredFromScene = Eigen::Matrix3d::Identity();

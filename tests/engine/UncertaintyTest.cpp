@@ -15,13 +15,14 @@ namespace {
 const Eigen::Vector3d kStoredRad = Eigen::Vector3d(0.3, -0.2, 0.1) * kDeg;
 const Eigen::Vector3d kTrueRad = Eigen::Vector3d(1.3, -1.2, 0.4) * kDeg;
 
-/// Matches of several stills: noise of each one's own, and noise that the matches of a quarter of a still share.
+/// Generates matches of several stills with independent noise and with noise common to the matches of a quarter of a
+/// still.
 struct MatchMaker {
     std::mt19937 random;
     double ownPx = 0.2, sharedPx = 0.1;
     bool tellsDistances = true;
     Projection projection{fullCameras(), {0.025, 0.0005, -0.0003}};
-    /// Applied to each colour point; gets the direction on the plane Z = 1 and the inverse depth.
+    /// Applied to each colour point; receives the direction on the plane Z = 1 and the inverse depth.
     std::function<Eigen::Vector2d(const Eigen::Vector2d&, const Eigen::Vector2d&, double)> departure;
 
     explicit MatchMaker(unsigned seed) : random(seed) {}
@@ -108,7 +109,7 @@ TEST(Uncertainty, TheProofJudgesEachStillByTheOthers) {
     EXPECT_NEAR(proof->storedPx, 13, 3) << "a turn of one degree about X and Y";
     EXPECT_NEAR(proof->newPx, 0.26, 0.05) << "the median of noise of 0.2 px along both axes, and a little more";
     EXPECT_TRUE(proof->isClear());
-    // Stills whose matches have nothing to do with the rotation that is fitted.
+    // Stills whose matches are unrelated to the fitted rotation.
     std::uniform_real_distribution<float> anywhere(-40, 40);
     for (JudgedStill& still : solution.stills)
         for (MeasuredMatch& match : still.verified)
@@ -148,7 +149,7 @@ TEST(ModelCheck, TellsARotationFromAChangedLensAndATranslation) {
         maker.departure = change;
         const auto found = judgeSolution(maker.solution(5)).model.departure();
         ASSERT_TRUE(found) << static_cast<int>(departure);
-        // A little distortion is much like another focal length.
+        // A small distortion is similar to a different focal length.
         if (departure != ModelDeparture::Distortion) {
             EXPECT_EQ(*found, departure);
         }

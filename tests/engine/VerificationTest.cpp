@@ -16,7 +16,7 @@ cv::Point patchOrigin(const cv::Point2f& p) {
     return {static_cast<int>(std::trunc(p.x - 4.5F)), static_cast<int>(std::trunc(p.y - 4.5F))};
 }
 
-/// Cost of two 9 x 9 patches with the given first pixels. Sums in whole numbers, so that exact values stay exact.
+/// Cost of two 9 x 9 patches with the given first pixels. The sums are integers, so that exact values stay exact.
 int slowCost(const cv::Mat& colour, const cv::Point& a, const cv::Mat& infrared, const cv::Point& b) {
     std::int64_t sumA = 0, sumB = 0, squareA = 0, squareB = 0, product = 0;
     for (int i = 0; i < 81; ++i) {
@@ -27,11 +27,11 @@ int slowCost(const cv::Mat& colour, const cv::Point& a, const cv::Mat& infrared,
     const auto whole = [](std::int64_t value) { return static_cast<long double>(value); };
     const long double denominator = std::sqrt(whole(81 * squareA - sumA * sumA) * whole(81 * squareB - sumB * sumB));
     const long double zncc = denominator / 81.0L > 1e-5L ? whole(81 * product - sumA * sumB) / denominator : -1.0L;
-    // Long division leaves dust on whole numbers that double precision does not have.
+    // Division in extended precision gives tiny deviations from whole numbers that double precision does not have.
     return static_cast<int>(std::max((1.0L - zncc) * 81.0L + 1e-9L, 0.0L));
 }
 
-/// The refined infrared point of a pair that is kept, step by step as it is described.
+/// Reference for the refined infrared point of a kept pair, step by step.
 std::optional<cv::Point2f> slowVerify(const cv::Mat& colour, const cv::Mat& infrared, const cv::Point2f& c,
                                       const cv::Point2f& r) {
     const auto fits = [](const cv::Point& o, const cv::Mat& image) {
@@ -83,7 +83,7 @@ TEST(Verification, AgreesWithTheSlowOneInOrder) {
     cv::Mat binary, periodic = texture.clone(), halfFlat = texture.clone();
     cv::threshold(texture, binary, 128, 255, cv::THRESH_BINARY);
     halfFlat.colRange(0, 45) = 77;
-    // Equal costs every four columns: the first in scan order wins, and is too far.
+    // Equal costs every four columns: the first one in scan order wins, and it is too far away.
     for (int x = 4; x < size.width; ++x)
         periodic.col(x - 4).copyTo(periodic.col(x));
     const std::pair<cv::Mat, cv::Mat> scenes[] = {{texture, 255 - texture},
@@ -114,7 +114,7 @@ TEST(Verification, AgreesWithTheSlowOneInOrder) {
     EXPECT_GT(keptInAll, 200U);
 }
 
-/// One pair alone.
+/// Verifies a single pair.
 std::optional<cv::Point2f> verify(const cv::Mat& colour, const cv::Mat& infrared, const cv::Point2f& c,
                                   const cv::Point2f& r) {
     std::vector<cv::Point2f> colourPoints{c}, infraredPoints{r};
@@ -126,7 +126,7 @@ TEST(Verification, NeedsTheWholeSearchAreaInBothPictures) {
     const cv::Mat image = smoothNoise(2, {100, 80}, 1.5);
     cv::Mat padded;
     cv::copyMakeBorder(image, padded, 20, 20, 20, 20, cv::BORDER_REFLECT_101);
-    // The first pixel of the patch lies at trunc(x - 4.5); from 7 to size - 17 there is room.
+    // The first pixel of the patch is at trunc(x - 4.5); positions from 7 to size - 17 leave enough space.
     const std::pair<cv::Point2f, bool> cases[] = {{{11, 40}, false},    {{11.49F, 40}, false}, {{11.5F, 40}, true},
                                                   {{88.49F, 40}, true}, {{88.5F, 40}, false},  {{50, 11.49F}, false},
                                                   {{50, 11.5F}, true},  {{50, 68.49F}, true},  {{50, 68.5F}, false}};
@@ -137,7 +137,8 @@ TEST(Verification, NeedsTheWholeSearchAreaInBothPictures) {
     }
 }
 
-/// The same on all four sides of a centre: costs about the right offset are symmetric, the fraction exactly zero.
+/// An image that is symmetric about a centre in both directions: the costs around the correct offset are symmetric, and
+/// the fraction is exactly zero.
 cv::Mat symmetricAbout(const cv::Point& centre) {
     const cv::Mat quarter = smoothNoise(3, {128, 128}, 1.0);
     cv::Mat image(128, 128, CV_8UC1);

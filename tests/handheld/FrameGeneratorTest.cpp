@@ -23,7 +23,7 @@ synthesis::Rig rig() {
     return synthesis::drawRig(3, {});
 }
 
-/// What tells whether two frame sets are the same.
+/// A fingerprint by which frame sets are compared.
 struct Print {
     std::vector<std::uint16_t> infrared, right, depth;
     std::vector<std::uint8_t> third;
@@ -37,7 +37,7 @@ struct Print {
     }
 };
 
-/// The motion that the frame selection measures: differences of colour pictures at a quarter of the size.
+/// The motion measured by the frame selection: differences of colour images at a quarter of the size.
 double motion(const session::FramePictures& a, const session::FramePictures& b) {
     const auto quarter = [](const session::FramePictures& p) {
         cv::Mat small = cv::Mat(480, 640, CV_8UC4, const_cast<std::uint8_t*>(p.third.bytes())).clone();
@@ -108,7 +108,7 @@ TEST(FrameGenerator, DotsAreSeenAsLongAsTheEmitterIsOnAndNotAFrameLonger) {
 }
 
 TEST(LightCourse, DarkensAndBrightensWhatIsSeen) {
-    // Means of infrared, as the light gate takes them: lit above 130, lost again at 110.
+    // Means of infrared, as used by the light gate: lit above 130, lost again at 110.
     const auto mean = [](const std::string& name, int frames) {
         FrameGenerator generator("mountains", 3, rig(), light(name), false);
         for (int i = 0; i < frames; ++i)
@@ -132,7 +132,7 @@ TEST(LightCourse, DarkensAndBrightensWhatIsSeen) {
     EXPECT_FALSE(LightCourse::find("disco", &none));
 }
 
-/// Pixels that are found again after turning must lie on rays that differ by exactly that rotation, in every camera.
+/// The ray of a pixel before and after the rotation must differ by exactly that rotation, in every camera.
 TEST(Lens, TurningMovesPixelsToTheRaysOfTheTurnedCamera) {
     const auto cameras = synthesis::drawRig(5, {true, {}, {}});
     const cv::Matx33d before_after = poseBetween({cv::Matx33d::eye(), {}}, {tremor(1, 1, 1.5), {}}, 1).camera_world;
@@ -148,7 +148,7 @@ TEST(Lens, TurningMovesPixelsToTheRaysOfTheTurnedCamera) {
 }
 
 TEST(ViewTurner, BetweenTwoViewsEachFillsWhatTheOtherLacks) {
-    // Both views show the same scene: a place's radiance is a function of its direction.
+    // Both views show the same scene, whose radiance is a function of the direction.
     const auto cameras = rig();
     const ViewTurner turner(cameras);
     const Lens lens = Lens::ofInfrared(cameras.infrared);
@@ -169,7 +169,7 @@ TEST(ViewTurner, BetweenTwoViewsEachFillsWhatTheOtherLacks) {
                 const cv::Vec3d direction = directionOf(lens), right = directionOf(rightLens);
                 seen.view.right(y, x) = static_cast<float>(right[0] / cv::norm(right) + 2);
                 seen.view.infrared(y, x) = static_cast<float>(direction[0] / cv::norm(direction) + 2);
-                // A sphere of five metres around the eye.
+                // A sphere of five metres around the camera.
                 seen.view.depth(y, x) = static_cast<float>(5 / cv::norm(direction));
             }
         return seen;

@@ -9,7 +9,7 @@
 namespace fieldcal::testing {
 namespace {
 
-/// A translation file without a text, as small as the format allows.
+/// A translation file without texts, of the smallest size that the format allows.
 void writeTranslation(const QString& path) {
     static const QByteArray kBytes = QByteArray::fromHex(
         "3cb86418caef9c95cd211cbf60a1bddd"  // magic

@@ -35,7 +35,7 @@ Translations readTranslations(const QString& path) {
     return found;
 }
 
-/// What a translation may not change: places for values, and the line that is set large.
+/// The parts of a text that a translation must keep: placeholders, and the line break after the heading.
 QStringList fixedParts(const QString& text) {
     static const QRegularExpression kPart(QStringLiteral("%L?[n\\d]+|\\n"));
     QStringList parts;

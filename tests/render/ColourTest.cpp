@@ -9,7 +9,7 @@
 namespace fieldcal {
 namespace {
 
-/// CIE L*a*b*: another measure of what the eye sees than the one the colours are made with.
+/// CIE L*a*b*: a perceptual measure that is independent of the one from which the colours are made.
 std::array<double, 3> lab(const std::array<std::uint8_t, 4>& rgba) {
     const auto linear = [](int value) {
         const double v = value / 255.0;

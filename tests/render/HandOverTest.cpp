@@ -55,7 +55,7 @@ TEST_F(HandOver, PicturesAndPosesChangeWhileOthersPaint) {
     stop = true;
     loop.join();
 
-    // What was handed over last is what is seen.
+    // The last image that was handed over is the one shown.
     infrared.setDrawFlag(true);
     infrared.setFrame(plainDepth(8, 8, 1023));
     overlay.setTutorialMode(false);

@@ -14,7 +14,7 @@ constexpr QRgb kBlue = qRgb(0, 0, 255);
 constexpr QRgb kWhite = qRgb(255, 255, 255);
 constexpr QRgb kBlack = qRgb(0, 0, 0);
 
-/// The whole window in one colour, to see what is drawn over it, and an item inside an area at (40, 100).
+/// The window in one colour, against which drawing is visible, and an item inside an area at (40, 100).
 const char* const kPage = R"(
     Item { anchors.fill: parent
         ColorImageRendererItem { objectName: "ground" } }
@@ -54,7 +54,7 @@ TEST_F(ImageItems, PictureFillsItsParentWhoseYCountsFromBelow) {
     EXPECT_EQ(seenAt(200, 139), kWhite);
     EXPECT_EQ(seenAt(200, 380), kWhite);
     EXPECT_EQ(seenAt(310, 200), qRgb(0, 255, 255)) << "the interface stands before the picture";
-    // In the middle, where the quarters meet.
+    // In the centre, where the quarters meet.
     EXPECT_EQ(seenAt(190, 250), kRed);
     EXPECT_EQ(seenAt(210, 270), kBlack);
 }

@@ -15,7 +15,7 @@ using test::plainPicture;
 constexpr QRgb kGrey = qRgb(100, 100, 100);
 constexpr double kPixel = 1;  ///< tolerance of a centre on the screen: points are drawn at whole pixels
 
-/// No two numbers alike, so that nothing can be mistaken for another. The colour picture is stretched unequally.
+/// All numbers are different, so that none can be confused. The colour image is scaled unequally in the two directions.
 CameraParameters testCameras() {
     CameraParameters cameras;
     cameras.depth = {160, 120, 130, 132, 78, 61};
@@ -38,7 +38,7 @@ void fill(ImageFrame16* depth, const QRect& area, int millimetres) {
         std::fill_n(depth->pixels() + y * 160 + area.left(), area.width(), static_cast<std::uint16_t>(millimetres));
 }
 
-/// Where the point in the middle of a depth area is seen in a window of 640 x 480 that the picture fills.
+/// Returns the screen position of the centre of a depth area in a window of 640 x 480 that the image fills.
 QPointF expectedCentre(const CameraParameters& cameras, const Eigen::Matrix3d& rotation, const QRect& area,
                        int millimetres) {
     const CameraModel& from = cameras.depth;
@@ -55,7 +55,7 @@ QPointF expectedCentre(const CameraParameters& cameras, const Eigen::Matrix3d& r
     return {deliveredX * 640 / to.width, deliveredY * 480 / to.height};
 }
 
-/// What depth of this colour looks like under the grey picture.
+/// Returns the colour of depth under the grey image.
 QRgb overGrey(int millimetres) {
     const auto colour = depthColour(static_cast<std::uint16_t>(millimetres));
     const auto mixed = [](int value) { return static_cast<int>(std::lround(0.6 * value + 0.4 * 100)); };
@@ -152,7 +152,8 @@ TEST_F(Overlay, NearDepthHidesWhatIsBehindIt) {
     overlay_->setFrames(plainPicture(200, 150, kGrey), depth);
     look();
     const Eigen::Matrix3d none = Eigen::Matrix3d::Identity();
-    // Seen from the colour camera the square covers a part of the wall, and bares one that depth could not see.
+    // From the colour camera, the square hides a part of the wall, and another part is visible that the depth camera
+    // did not see.
     const auto isNear = [](QRgb colour) { return alike(colour, overGrey(1000)); };
     expectNear(centreOf(isNear), expectedCentre(cameras_, none, square, 1000));
     const auto edge = [&](const QRect& strip, int millimetres) {
@@ -189,7 +190,7 @@ TEST_F(Overlay, DragTurnsTheOverlayUnderTheFinger) {
     QCoreApplication::processEvents();
     EXPECT_GT(changes.count(), 0);
 
-    // The stored calibration to compare with, and back.
+    // Switches to the stored calibration and back.
     overlay_->setStoredShown(true);
     expectDepthAt({0, 0, 0});
     const QPointF before = centreOfDepth();
@@ -198,7 +199,7 @@ TEST_F(Overlay, DragTurnsTheOverlayUnderTheFinger) {
     overlay_->setStoredShown(false);
     expectDepthAt({0.5, -4, -0.5});
 
-    // Nobody to tell.
+    // There is no engine.
     overlay_->setCalibrator(nullptr);
     overlay_->slot_touchDown(0, 0);
     overlay_->slot_touchMove(50, 0);

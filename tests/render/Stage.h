@@ -77,7 +77,7 @@ private:
     QImage seen_;
 };
 
-/// A picture of one colour.
+/// An image of one colour.
 inline ImageFrame32 plainPicture(int width, int height, QRgb colour) {
     ImageFrame32 picture;
     picture.resize(static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height));

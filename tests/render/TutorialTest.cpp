@@ -90,7 +90,7 @@ TEST_F(Tutorial, ShowsStoredPicturesThatSwingWithTheHint) {
     look();
     const QPointF hintAtRest = centreOf(isHint);
     const QPointF depthAtRest = centreOf(isDepth);
-    // Half a pixel off the axis of depth; the colour camera stands 25 mm beside it.
+    // Half a pixel off the depth camera's axis; the colour camera is 25 mm beside it.
     const double colourFocal = 0.73 * 640;
     EXPECT_NEAR(depthAtRest.x(), 320 + colourFocal * (0.5 / (0.94 * 160) + 0.025 / 2.5), 1);
     EXPECT_NEAR(depthAtRest.y(), 240 + colourFocal * 0.5 / (0.94 * 160), 1);

@@ -17,7 +17,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::StartsWith;
 
-/// What a browser would show and load.
+/// The text that a browser shows, and the addresses that it would load.
 struct Page {
     explicit Page(const QByteArray& html) {
         QXmlStreamReader reader(html);
@@ -51,7 +51,7 @@ double meanColour(const QImage& image) {
 }
 
 TEST(ReportPageTest, StandsAloneAndStaysSmall) {
-    // Noise is what compresses worst.
+    // Noise is the content that compresses worst.
     std::vector<ReportedCamera> cameras{cameraOf(ColourCamera::Third), cameraOf(ColourCamera::Platform)};
     for (ReportedCamera& camera : cameras)
         for (cv::Mat* image : {&camera.evidence->infrared, &camera.evidence->grey})
@@ -130,7 +130,7 @@ TEST(ReportPageTest, EdgesLieOnEachOtherWithTheRightRotationAlone) {
     const Eigen::Matrix3d nearly = camera.found * rotationOfDeg(0, 0.1, 0);
     EXPECT_LT(aligned, 0.8 * meanColour(edgeOverlay(*camera.evidence, nearly, window))) << "one pixel shows";
 
-    // Everything at four metres, 3.75 px nearer to the baseline: the distances of the matches put it right.
+    // Everything is at four metres, shifted by 3.75 px along the baseline, which the distances of the matches correct.
     vq::SolutionEvidence near = *camera.evidence;
     for (vq::EvidenceMatch& match : near.matches)
         match.inverseDepth = 0.25F;

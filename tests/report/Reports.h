@@ -11,7 +11,7 @@ inline Eigen::Matrix3d rotationOfDeg(double x, double y, double z) {
     return vq::rotationFromAngles(Eigen::Vector3d(x, y, z) / vq::kDegreesPerRadian);
 }
 
-/// One still of blobs at infinity, seen by two cameras that are turned against each other, and a grid of its matches.
+/// One still of blobs at infinity for two cameras that are rotated against each other, and a grid of its matches.
 inline vq::SolutionEvidence evidenceOf(const Eigen::Matrix3d& truth) {
     vq::SolutionEvidence evidence;
     const CameraModel infrared{640, 480, 600, 601, 318, 242}, colour{640, 470, 600, 601, 322, 236};

@@ -1,5 +1,5 @@
-// The OpenGL driver is unloaded before leaks are looked for, and what its variables point to would count as lost,
-// without a name that could be excepted. So it stays.
+// Keeps the OpenGL driver loaded. If it were unloaded before the search for leaks, memory referenced by its variables
+// would be reported as lost, without a symbol name that a suppression could use.
 #include <dlfcn.h>
 
 namespace {

@@ -12,7 +12,7 @@ namespace {
 using fieldcal::session::Matrix3;
 using fieldcal::session::writeFile;
 
-/// Where the simulated block keeps the rotations.
+/// The positions of the rotations in the simulated block.
 constexpr int kThirdRotation = 256;
 constexpr int kPlatformRotation = 512;
 
@@ -22,14 +22,14 @@ Matrix widened(const float* values) {
     return Eigen::Map<const Eigen::Matrix<float, 3, 3, Eigen::RowMajor>>(values).cast<double>();
 }
 
-/// The rotation of the quaternion (w, x, y, z), brought to length 1.
+/// Returns the rotation of the normalised quaternion (w, x, y, z).
 Matrix3 rotation(double w, double x, double y, double z) {
     Matrix3 out{};
     Eigen::Map<Matrix>(out.data()) = Eigen::Quaterniond(w, x, y, z).normalized().toRotationMatrix();
     return out;
 }
 
-/// What a block says with its third camera turned like this.
+/// Returns the extrinsics of a block with the given rotation of the third camera.
 Matrix toldBy(const KXCalibRectParameters& block, const Matrix& third) {
     return widened(block.rectificationThird) * third * widened(block.rectificationInfrared).transpose();
 }
@@ -57,10 +57,10 @@ protected:
         EXPECT_TRUE(device->rectParameters(&block)) << device->lastStatus();
         return block;
     }
-    /// What a device that is plugged in now reads.
+    /// Returns the block that a newly connected device reads.
     QByteArray stored() const { return bytesOf(blockOf(createReady().get())); }
 
-    /// The block with this third rotation, a small one about Z.
+    /// Returns the block with this third rotation, a small one about Z.
     KXCalibRectParameters turned(const KXCalibRectParameters& block, double angle) const {
         const double rotation[9] = {std::cos(angle), -std::sin(angle), 0, std::sin(angle), std::cos(angle), 0, 0, 0, 1};
         KXCalibRectParameters out{};

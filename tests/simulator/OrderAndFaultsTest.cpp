@@ -10,7 +10,7 @@ namespace {
 
 enum class Stage { created, opened, ready, capturing };
 
-/// An operation, the stage from which on it succeeds, and whether it may be called a second time there.
+/// An operation, the stage from which on it succeeds, and whether it may be called again in that stage.
 struct Call {
     std::string name;
     Stage from;
@@ -123,7 +123,7 @@ TEST_F(Order, EveryOperationSucceedsInItsTurnOnly) {
         const std::shared_ptr<KXDevice> early = create();
         ASSERT_TRUE(bring(early.get(), static_cast<Stage>(static_cast<int>(call.from) - 1)));
         EXPECT_FALSE(call.call(*early)) << "too early";
-        // "No" is an answer of a stream that was not enabled, not a failure.
+        // A false result of a stream that was not enabled is an answer, not a failure.
         const bool isQuestion = call.name.find("Enabled") != std::string::npos && call.name[0] != 's';
         EXPECT_EQ(early->lastStatus(), isQuestion ? 0 : 1);
     }

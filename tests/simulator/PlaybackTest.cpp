@@ -186,9 +186,9 @@ TEST_F(Playback, KeepsThePaceItIsAskedFor) {
     const Clock::time_point start = Clock::now();
     for (int i = 0; i < 13; ++i)
         ASSERT_TRUE(device->grab(true));
-    // Some systems' clocks are a little behind their sleep.
+    // On some systems the clock is slightly behind the sleep.
     EXPECT_GE(std::chrono::duration<double>(Clock::now() - start).count(), 12 / 120.0 - 0.005);
-    // Without waiting, a grab before its time leaves the current frame.
+    // Without waiting, an early grab keeps the current frame.
     int grabs = 13;
     for (; device->depthImage()[0] != 0; ++grabs)
         ASSERT_TRUE(device->grab(false));
@@ -212,7 +212,7 @@ TEST_F(Playback, DevicesComeAndGoAndReadTheEnvironmentAtBirth) {
 
 #if !defined(_WIN32)
 TEST(Loader, AnAdapterBesideTheProgramComesFirst) {
-    // A name of its own, since other programs run from this folder at the same time.
+    // A unique name, because other programs run from this folder at the same time.
     const QString folder = QFileInfo(QFile::symLinkTarget("/proc/self/exe")).path();
     const std::string name = "AdapterProbe" + std::to_string(getpid());
     const QString adapter = folder + "/lib" + QString::fromStdString(name) + "Adapter.so";

@@ -36,7 +36,7 @@ struct Picture {
     std::uint8_t at(int x, int y, int c) const { return bgra[std::size_t{4} * (std::size_t{1} * y * width + x) + c]; }
 };
 
-/// Smooth, different in every channel, alpha 255.
+/// A smooth image, different in every channel, alpha 255.
 Picture smoothPicture(int width, int height) {
     Picture out{width, height, {}};
     for (int y = 0; y < height; ++y) {
@@ -69,7 +69,7 @@ protected:
     std::shared_ptr<const KXLibrary> library = KXLibrary::load(&why);
 };
 
-/// Where a rectified pixel lies in the raw image, step by step in double precision.
+/// Reference for the raw position of a rectified pixel, step by step in double precision.
 std::array<double, 2> rawPoint(const KXCalibIntrinsicsNonRectified& k, const Rotation& r,
                                const KXCalibIntrinsicsRectified& rect, int u, int v) {
     const double ray[3] = {(u - double{rect.cx}) / rect.fx, (v - double{rect.cy}) / rect.fy, 1};
@@ -120,7 +120,7 @@ TEST_F(Rectification, AgreesWithASlowReference) {
 }
 
 TEST_F(Rectification, ShiftsNothingOnAverage) {
-    // Steep ramps tell the position; a rounding that leans to one side would shift every image by half a step.
+    // Steep ramps reveal the position; biased rounding would shift every image by half a step.
     const KXCalibIntrinsicsNonRectified raw{942.78F, 942.78F, 645.02F, 357.37F, 1280, 720, 0, 0, 0, 0, 0};
     const KXCalibIntrinsicsRectified rect{928, 928, 640, 360, 1280, 720};
     Picture ramps{1280, 720, std::vector<std::uint8_t>(std::size_t{1280} * 720 * 4)};
@@ -146,7 +146,7 @@ TEST_F(Rectification, ShiftsNothingOnAverage) {
 }
 
 TEST_F(Rectification, TheRotationTakesRawToRectified) {
-    // Two degrees about Y move what was in the middle of the raw image to the right: X_rectified = R · X_raw.
+    // Two degrees about Y move the centre of the raw image to the right: X_rectified = R · X_raw.
     const KXCalibIntrinsicsNonRectified raw{400, 400, 64, 32, 128, 64, 0, 0, 0, 0, 0};
     const KXCalibIntrinsicsRectified rect{400, 400, 64, 32, 128, 64};
     Picture dot{128, 64, std::vector<std::uint8_t>(std::size_t{128} * 64 * 4, 0)};
@@ -170,7 +170,7 @@ TEST_F(Rectification, NonsenseGivesBlack) {
                                 rectified(source, good, rotation(0, 180, 0), rect), rectified(source, good, {}, rect)};
     for (const Picture& picture : pictures)
         EXPECT_EQ(picture.at(64, 40, 0) + picture.at(5, 5, 1), 0);
-    // A table of noise reads nothing outside the source.
+    // A table of random entries must not read outside the source.
     std::mt19937 random(5);
     std::vector<std::uint32_t> table(std::size_t{128} * 64);
     for (std::uint32_t& entry : table)

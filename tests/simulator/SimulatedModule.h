@@ -4,7 +4,8 @@
 
 namespace fieldcal::testing {
 
-/// What tells the simulated module about itself. While a test lives only what it sets is set, and nothing afterwards.
+/// Sets the environment variables of the simulated module. During a test only its own variables are set, and none
+/// afterwards.
 class SimulatedModule {
 protected:
     SimulatedModule() { forget(); }

@@ -19,7 +19,7 @@ protected:
 
     std::shared_ptr<KXDevice> create() const { return {library->create(0), library->destroy}; }
 
-    /// Opens a device; what that says on standard error, and the status (0: opened).
+    /// Opens a device. Returns its output on standard error and the status (0: opened).
     std::pair<std::string, int> opening() const {
         const std::shared_ptr<KXDevice> device = create();
         ::testing::internal::CaptureStderr();
@@ -47,7 +47,7 @@ protected:
         return device;
     }
 
-    /// The rear camera, opened, with its streams set up.
+    /// The opened rear camera with its streams set up.
     RearCameraSource* openRearCamera() const {
         RearCameraSource* rear = plugInRearCamera();
         EXPECT_TRUE(rear != nullptr && rear->openCamera() && rear->setAutoFocus(false) && rear->setFocus(1700));

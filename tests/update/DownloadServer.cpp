@@ -29,7 +29,7 @@ QByteArray headOf(const HttpAnswer& answer) {
     return head + "\r\n";
 }
 
-/// Sends the body piece by piece, each once the one before is gone.
+/// Sends the body in pieces, each one after the previous one has been sent.
 struct Sending {
     HttpAnswer answer;
     qint64 sent = 0;

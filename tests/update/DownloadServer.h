@@ -16,7 +16,7 @@ namespace fieldcal::testing {
 struct HttpRequest {
     QByteArray path;
     QByteArray head;
-    /// Of "Range: bytes=N-"; -1: none.
+    /// The N of "Range: bytes=N-"; -1 without such a header.
     qint64 rangeStart() const;
 };
 
@@ -24,15 +24,15 @@ struct HttpAnswer {
     QByteArray status = "200 OK";
     QByteArray headers;  ///< each with its line end
     QByteArray body;
-    qint64 announced = -1;   ///< other Content-Length than the body's
-    qint64 breakAfter = -1;  ///< bytes of the body, and the connection is closed
-    bool endless = false;    ///< the body goes on with zeros for ever; in chunks, unless a length is announced
-    bool silent = false;     ///< after the body nothing more comes, the rest of what was announced
-    bool none = false;       ///< not even a status
+    qint64 announced = -1;   ///< a Content-Length that differs from the body's
+    qint64 breakAfter = -1;  ///< number of bytes of the body after which the connection is closed
+    bool endless = false;    ///< the body continues with zeros without end; in chunks, unless a length is announced
+    bool silent = false;     ///< nothing is sent after the body, although more was announced
+    bool none = false;       ///< no answer at all
 };
 
-/// A server for HTTPS on this machine, under the name "localhost". Its certificate is trusted by `authority()` alone.
-/// Lives on the event loop of the thread that made it.
+/// An HTTPS server on this machine with the name "localhost". Its certificate is trusted by `authority()` only. It uses
+/// the event loop of the thread that created it.
 class DownloadServer : public QTcpServer {
 public:
     DownloadServer();

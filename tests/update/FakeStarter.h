@@ -8,7 +8,7 @@
 
 namespace fieldcal::testing {
 
-/// Writes down what it is asked to start.
+/// Records the installers that it is asked to start.
 class FakeStarter : public InstallerStarter {
 public:
     std::optional<UpdateFailure> obstacle() override { return obstacleFound; }

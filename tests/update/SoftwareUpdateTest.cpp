@@ -34,7 +34,7 @@ QByteArray theInstaller() {
 HttpAnswer failure(const char* status) {
     return {status, "", kHtml};
 }
-/// Zeros for ever; in chunks, unless a length is announced.
+/// Zeros without end; in chunks, unless a length is announced.
 HttpAnswer endless(qint64 announced = -1, const char* status = "200 OK") {
     return {status, "", "", announced, -1, true};
 }
@@ -47,7 +47,7 @@ HttpAnswer redirect(const QUrl& target) {
     return {"302 Found", "Location: " + target.toEncoded() + "\r\n", ""};
 }
 
-/// What the server has, and the environment of the program that asks it.
+/// The server's files and the environment of the program.
 struct Course {
     DownloadServer server;
     std::shared_ptr<FakeStarter> starter = std::make_shared<FakeStarter>();
@@ -81,7 +81,7 @@ struct Course {
         const QByteArray told = range.arg(from).arg(installer.size() - 1).arg(installer.size()).toLatin1();
         return {"206 Partial Content", whole().headers + told, installer.mid(static_cast<int>(from))};
     }
-    /// The first half, and whatever the program asks for after that.
+    /// The first half, followed by whatever the program requests.
     HttpAnswer halfThenRest(const HttpRequest& request) const {
         return request.rangeStart() > 0 ? rest(request.rangeStart()) : half();
     }
@@ -113,7 +113,7 @@ struct Case {
     const char* name;
     Arrange arrange;
     std::vector<std::string> told;
-    const char* logged;  ///< in its last line, and before an offer there is no other
+    const char* logged;  ///< in its last line; before an offer there is no other line
 };
 void PrintTo(const Case& one, std::ostream* out) {
     *out << one.name;
@@ -325,7 +325,7 @@ TEST_F(SoftwareUpdateTest, AfterAFailureItCanBeTriedAgain) {
     installer(course.whole())(course);
     owner.ended = false;
     update->download();
-    update->download();  // is under way
+    update->download();  // has no effect during a download
     ASSERT_TRUE(waitUntil([&] { return owner.ended; }));
     EXPECT_EQ(owner.told.back(), "started");
     ASSERT_EQ(onDisk().size(), 1) << "the installer needs it";

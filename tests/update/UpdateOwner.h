@@ -7,7 +7,7 @@
 
 namespace fieldcal::testing {
 
-/// The application and its user, who wants every update.
+/// The application with a user who accepts every update.
 class Owner : public QObject, public UpdateListener {
     Q_OBJECT
 public:

@@ -48,7 +48,7 @@ TEST_F(ActionsTest, LeavingAsksOnlyWhenSomethingWouldBeLost) {
     takePhoto();
     stage.press("exitButton");
     EXPECT_TRUE(shown("leaveQuestion"));
-    pressReturn();  // stays
+    pressReturn();  // stays in the program
     EXPECT_FALSE(shown("leaveQuestion"));
     EXPECT_EQ(exits.size(), 5);
     stage.press("exitButton");
@@ -57,7 +57,7 @@ TEST_F(ActionsTest, LeavingAsksOnlyWhenSomethingWouldBeLost) {
 
     stage.press("stayButton");
     stage.press("captureRestartButton");
-    stage.press("restartConfirmButton");  // gives the photos up
+    stage.press("restartConfirmButton");  // discards the photos
     stage.press("exitButton");
     EXPECT_EQ(exits.size(), 7);
     stage.enter(9);
@@ -75,7 +75,7 @@ TEST_F(ActionsTest, ARestartAsksBeforeItDiscardsPhotos) {
     takePhoto();
     stage.press("captureRestartButton");
     EXPECT_TRUE(shown("restartQuestion"));
-    pressReturn();  // stays
+    pressReturn();  // stays in the program
     EXPECT_FALSE(shown("restartQuestion"));
     stage.press("captureRestartButton");
     stage.enter(5);
@@ -151,7 +151,7 @@ TEST_F(ActionsTest, AWindowThatIsClosedAsksOnce) {
     takePhoto();
     EXPECT_FALSE(stage.window()->close());
     EXPECT_TRUE(shown("leaveQuestion"));
-    pressReturn();  // stays, and is asked again the next time
+    pressReturn();  // stays, and the question is asked again the next time
     EXPECT_FALSE(stage.window()->close());
     EXPECT_TRUE(shown("leaveQuestion"));
     EXPECT_TRUE(stage.window()->close());
@@ -279,10 +279,10 @@ TEST_F(ActionsTest, TheFingerDragsWhereThePictureIsTapsForNothingAndHoldsToCompa
     send(QEvent::MouseButtonRelease, 400, 400);
     EXPECT_EQ(downs.size() + moves.size() + ups.size(), 0) << "a tap";
     send(QEvent::MouseButtonPress, 400.6, 400);
-    send(QEvent::MouseMove, 400.6, 300);  // up only
+    send(QEvent::MouseMove, 400.6, 300);  // vertical movement only
     EXPECT_TRUE(moves.isEmpty());
     send(QEvent::MouseMove, 500.6, 300);
-    send(QEvent::MouseMove, 405.6, 300);  // back to near where it began, as a drag may
+    send(QEvent::MouseMove, 405.6, 300);  // back to near the start, which a drag permits
     send(QEvent::MouseButtonRelease, 405.6, 300);
     ASSERT_EQ(downs.size(), 1);
     EXPECT_EQ(downs[0][0], 401);
@@ -308,14 +308,14 @@ TEST_F(ActionsTest, AnUpdateIsFetchedGivenUpOrLeftForLater) {
     stage.enter(1);
     stage.tell("showUpdateOffer", "1.10");
     EXPECT_TRUE(shown("updateNotice"));
-    escape();  // later
+    escape();  // postpones the update
     EXPECT_FALSE(shown("updateNotice"));
     stage.tell("showUpdateOffer", "1.10");
     pressReturn();
     EXPECT_EQ(wanted.size(), 1);
     stage.tell("showUpdateProgress", 20.0, 80.0);
     EXPECT_EQ(stage.find("updateProgress")->property("value"), 0.25);
-    pressReturn();  // there is nothing to do but wait
+    pressReturn();  // has no effect: the user can only wait
     EXPECT_EQ(states.size(), 0) << "the page below is out of reach";
     escape();
     EXPECT_EQ(givenUp.size(), 1);
@@ -324,10 +324,10 @@ TEST_F(ActionsTest, AnUpdateIsFetchedGivenUpOrLeftForLater) {
     stage.tell("showUpdateOffer", "1.10");
     pressReturn();
     stage.tell("showUpdateFailed", "Because.", true);
-    pressReturn();  // again
+    pressReturn();  // tries again
     EXPECT_EQ(wanted.size(), 3);
     stage.tell("showUpdateStarting");
-    escape();  // too late
+    escape();  // too late to cancel
     EXPECT_TRUE(shown("updateNotice"));
     EXPECT_EQ(givenUp.size(), 1);
     EXPECT_EQ(exits.size(), 0);

@@ -14,7 +14,7 @@ namespace {
 constexpr int kSmallestTarget = 48;
 constexpr double kSmallestShrink = 0.6;  // of a text that would not fit otherwise
 
-/// Every text longer by what languages need that need more than English.
+/// Lengthens every text by the amount that verbose languages need over English.
 class LongWinded : public QTranslator {
 public:
     QString translate(const char* /*context*/, const char* source, const char* /*comment*/, int /*n*/) const override {
@@ -27,7 +27,7 @@ public:
 struct Look {
     QSize size;
     bool leftToRight;
-    QString language = {};  ///< none: English, made longer
+    QString language = {};  ///< empty: lengthened English
 };
 void PrintTo(const Look& look, std::ostream* out) {
     *out << look.size.width() << 'x' << look.size.height() << (look.leftToRight ? "" : " right to left");
@@ -46,9 +46,9 @@ protected:
     }
     ~FitTest() override { QLocale::setDefault(QLocale::c()); }
 
-    /// What a person sees of the page: no text and no button that is cut off, too small or under another.
+    /// Checks what a user sees: no text or button may be cut off, too small or covered by another.
     static void check(ViewsStage& stage, const char* name) {
-        stage.window()->grabWindow();  // everything is in its place then
+        stage.window()->grabWindow();  // afterwards everything is at its place
         QQuickItem* instruction = stage.find("movementText");
         ASSERT_TRUE(QTest::qWaitFor([&] { return instruction->property("text") == instruction->property("wanted"); }));
         const QQuickItem* slides = stage.find("howToMoveView");
@@ -114,7 +114,7 @@ TEST_P(FitTest, NothingIsCutOffOnAnyPage) {
     }
 }
 
-// The third is what the largest screen has at two device pixels to one.
+// The third one is the largest screen with two device pixels per pixel.
 INSTANTIATE_TEST_SUITE_P(Looks, FitTest,
                          ::testing::Values(Look{{1024, 600}, true}, Look{{1024, 600}, false}, Look{{1368, 912}, true},
                                            Look{{2736, 1824}, true}, Look{{2736, 1824}, false}));

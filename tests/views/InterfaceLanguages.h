@@ -4,7 +4,7 @@
 
 #include <QLocale>
 
-// Outside of any namespace, as Qt wants it.
+// Qt requires this call to be outside of any namespace.
 inline void initTranslations() {
     Q_INIT_RESOURCE(Translations);
 }
@@ -19,7 +19,8 @@ inline const QStringList kInterfaceLanguages =
         "Thai Turkish")
         .split(' ');
 
-/// The interface speaks `language` from now on, and writes numbers as it does. False: from right to left.
+/// Makes the interface use the texts and the number format of `language`. Returns false when it reads from right to
+/// left.
 inline bool speak(const QString& language, QTranslator* translator) {
     initTranslations();
     const SystemLanguage user{language.section('_', 0, 0), language.section('_', 1)};

@@ -15,7 +15,7 @@
 
 namespace fieldcal::testing {
 
-/// The interface as it is in the sources, with nobody behind it: told what the application would tell it.
+/// The interface from the sources without the application; the test makes the calls that the application would make.
 class ViewsStage {
 public:
     ViewsStage() {
@@ -40,7 +40,7 @@ public:
         QMetaObject::invokeMethod(window_.get(), function, one ? Q_ARG(QVariant, first) : QGenericArgument(),
                                   two ? Q_ARG(QVariant, second) : QGenericArgument());
     }
-    /// In the application, the loop has moved on.
+    /// In the application, the loop has made further transitions.
     void enter(int state) { tell("modifyUiToStateInQML", state); }
     void press(const char* button) { QMetaObject::invokeMethod(find(button), "clicked"); }
     QQuickItem* find(const char* name) const { return window_->findChild<QQuickItem*>(name); }

@@ -7,15 +7,15 @@
 
 namespace fieldcal::testing {
 
-/// A page as it looks in the middle of things.
+/// A page in a typical situation.
 struct Scene {
     const char* name;
     std::function<void(ViewsStage&)> enter;
 };
 
-/// Every page once, in the order of the workflow, each entered from the one before, as the application does it.
+/// Every page once, in the order of the workflow, each entered from the previous one as in the application.
 std::vector<Scene> story();
-/// When something is wrong. No page follows these, so they need a stage of their own.
+/// The pages of errors. No page follows them, so each needs a new stage.
 std::vector<Scene> endings();
 
 }  // namespace fieldcal::testing

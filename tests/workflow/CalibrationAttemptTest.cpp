@@ -18,15 +18,15 @@ using Outcome = CalibrationAttempt::Outcome;
 constexpr const char* kMoveText = "Move the device to capture a different calibration photo.";
 constexpr const char* kPauseText = "Pause to capture a calibration photo.";
 
-/// Answers as it is told and notes what it is asked.
+/// Returns scripted results and records its calls.
 class ScriptedCalibrator : public vq::ICalibrator {
 public:
     std::uint16_t brightness = 500;
-    std::deque<std::int32_t> movementCodes;  ///< empty: every frame is a pair
+    std::deque<std::int32_t> movementCodes;  ///< empty: every frame is selected
     std::deque<std::int32_t> pairCodes;      ///< empty: code 2
     vq::ParallaxReport report;
     bool solution = false;
-    std::string calls;  ///< a remembered baseline in tenths of a millimetre
+    std::string calls;  ///< a remembered baseline appears in tenths of a millimetre
 
     std::int32_t setup() override { return note("setup ", 0); }
     vq::CalibratorResult inputFramesAndCheckMovement(const ImageFrame16&, const ImageFrame32&) override {
@@ -89,7 +89,7 @@ protected:
         colour.resize(5, 4);
         attempt.start(ColourCamera::Third);
     }
-    /// The outcome of the last frame. A failed attempt is ended as its owner would.
+    /// Returns the outcome of the last frame. A failed attempt is ended as its owner would do.
     Outcome feed(int frames) {
         Outcome outcome = Outcome::Continues;
         for (int i = 0; i < frames; ++i)
@@ -188,7 +188,7 @@ TEST_F(CalibrationAttemptTest, DarkAndEmptyFramesNeverReachTheEngine) {
     EXPECT_THAT(notes.darkness, ElementsAre(true, true));
     EXPECT_THAT(notes.movement, ElementsAre("", ""));
 
-    calibrator.brightness = 130;  // exactly at the threshold is lit during capture
+    calibrator.brightness = 130;  // exactly at the threshold counts as lit during capture
     attempt.processFrame({infrared, ImageFrame32(), none, none});
     attempt.processFrame({none, colour, none, none});
     EXPECT_EQ(calibrator.calls, "");

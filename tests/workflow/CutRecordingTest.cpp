@@ -12,7 +12,7 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using Stills = std::vector<session::FramePictures>;
 
-/// The workflow over a recording that goes wrong in the middle.
+/// Tests the workflow on a recording that becomes faulty in the middle.
 class CutRecordingTest : public WorkflowTest {
 protected:
     void play(const std::function<std::vector<EditedFrame>(const Stills&)>& cut) {
@@ -37,7 +37,7 @@ TEST_F(CutRecordingTest, LightThatIsLostIsAwaitedAndWhatWasTakenBeforeCounts) {
             EditedFrame dark{stills[i]};
             for (std::size_t k = 0; k < dark.pictures.infrared.byteCount() / 2; ++k)
                 dark.pictures.infrared.pixels()[k] /= 8;
-            dark.pictures.third.bytes()[0] ^= 1U;  // no colour camera delivers the same picture in another light
+            dark.pictures.third.bytes()[0] ^= 1U;  // a colour camera never delivers the same image in different light
             frames.push_back(dark);
         }
         return frames;
@@ -51,7 +51,7 @@ TEST_F(CutRecordingTest, LightThatIsLostIsAwaitedAndWhatWasTakenBeforeCounts) {
 }
 
 TEST_F(CutRecordingTest, AnAttemptThatFailsIsFollowedByOneThatSucceeds) {
-    // Infrared and colour of different views, twelve times; then those that belong together.
+    // Infrared and colour of different views, twelve times; then matching ones.
     play([](const Stills& stills) {
         std::vector<EditedFrame> frames;
         for (std::size_t i = 0; i < 18; ++i) {
@@ -77,7 +77,7 @@ TEST_F(CutRecordingTest, AnAttemptThatFailsIsFollowedByOneThatSucceeds) {
 }
 
 TEST_F(CutRecordingTest, ARearCameraThatDiesDuringItsCaptureIsToldOnceAndTheFlashIsKept) {
-    set("KXSIM_SPEED", "2");  // its silence is counted in seconds
+    set("KXSIM_SPEED", "2");  // its silence is measured in seconds
     play([](const Stills& stills) {
         std::vector<EditedFrame> frames;
         frames.reserve(13);

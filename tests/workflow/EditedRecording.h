@@ -9,13 +9,14 @@
 
 namespace fieldcal::testing {
 
-/// A frame of a recording that is made out of another.
+/// A frame of a recording that is derived from another one.
 struct EditedFrame {
     session::FramePictures pictures;
     int repeat = 26;
 };
 
-/// The mountains, cut anew: `cut` is given their stills and says what is played. Written into `folder`.
+/// The recording of the mountains, edited: `cut` receives its stills and returns the frames to play. Written into
+/// `folder`.
 inline void cutMountains(
     const QString& folder,
     const std::function<std::vector<EditedFrame>(const std::vector<session::FramePictures>&)>& cut) {

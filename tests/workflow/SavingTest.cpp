@@ -64,7 +64,7 @@ TEST_F(SavingTest, ANoteThatCannotBeReadStillCounts) {
     EXPECT_FALSE(readSaveNote(data.path()));
 }
 
-/// A whole workflow over the fake module.
+/// A complete workflow with the fake module.
 class EndingTest : public SensorTest {
 protected:
     struct Listener : WorkflowListener {

@@ -44,10 +44,10 @@ inline session::SessionDescription describe(const QString& recording) {
     return description;
 }
 
-/// The person in front of the screen: sees what the workflow tells, and can wait for it.
+/// The user: receives the output of the workflow, and can wait for it.
 class User : public WorkflowListener {
 public:
-    /// Waits until `condition` holds; false after a time in which everything should have happened.
+    /// Waits until `condition` holds; returns false after a time within which everything should have happened.
     bool waitUntil(const std::function<bool()>& condition) {
         std::unique_lock lock(mutex);
         return changed.wait_for(lock, std::chrono::seconds(400), condition);
@@ -99,7 +99,7 @@ public:
     int darkReadings = 0;
     int rearCameraIssues = 0;
     std::string events;      ///< of the captures: P photo, D too dark, L lit (again), F failed
-    std::set<State> dotted;  ///< states in which frames came while the emitter was on
+    std::set<State> dotted;  ///< states in which frames arrived while the emitter was on
     std::vector<std::int32_t> codes;
     std::vector<std::string> errors;
     std::optional<SaveNote> lastSave;
@@ -107,7 +107,7 @@ public:
     std::function<void()> onPair;
 
 private:
-    /// Holds the lock for the expression in which it stands, and wakes who waits.
+    /// Holds the lock during the expression in which it is used, and wakes waiting threads.
     struct Note {
         explicit Note(User& of) : user(of), lock(of.mutex) {}
         ~Note() { user.changed.notify_all(); }
@@ -119,7 +119,7 @@ private:
     Note note() { return Note(*this); }
 };
 
-/// A workflow on its thread, over the simulated module with a flash file.
+/// A workflow on its thread, with the simulated module and a flash file.
 class WorkflowTest : public ::testing::Test, protected SimulatedModule {
 protected:
     explicit WorkflowTest(const QString& recording = mountainRecording()) {
@@ -132,7 +132,7 @@ protected:
         workflow.reset();
     }
 
-    /// Starts the program anew. `user` is a new one, too.
+    /// Restarts the program, with a new `user`.
     void start(const QString& faults = {}) {
         thread.reset();
         workflow.reset();
@@ -148,7 +148,7 @@ protected:
         workflow = std::make_unique<Workflow>(*user, WorkflowEnvironment{makeSensor, folder.filePath("data")});
         thread = std::make_unique<ProcessingThread>(*workflow);
     }
-    /// From the start to a found rotation; leaves the workflow where it shows it.
+    /// From the start to an estimated rotation; the workflow stays in the state that shows it.
     void solve(State shown = State::RefiningTutorial) {
         workflow->requestState(State::StartingCalibration);
         ASSERT_TRUE(user->waitFor(shown)) << ::testing::PrintToString(user->errors);

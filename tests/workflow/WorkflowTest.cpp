@@ -45,7 +45,7 @@ TEST_F(WorkflowTest, TwoCamerasFromTheFirstScreenToTheFlash) {
     ASSERT_TRUE(user->waitUntil([&] { return !user->dotted.empty(); })) << "depth is to reach further";
     dragBy(1.0F);
 
-    // The restart comes before the loop has seen the switch; it is about the second camera all the same.
+    // The restart is requested before the loop has seen the switch; it concerns the second camera nevertheless.
     workflow->switchCamera(kSecond);
     workflow->requestState(State::ResetCalibration);
     ASSERT_TRUE(user->waitFor(State::WaitingToCalibrate));
@@ -90,7 +90,7 @@ TEST_F(WorkflowTest, LeavingKeepsTheFlashAndACameraThatFailsIsOpenedAnewToStoreT
     workflow->leave();
     EXPECT_EQ(flash(), before);
 
-    // The module fails while the second camera's rotation is looked at. It is opened anew for the save.
+    // The module fails while the second camera's rotation is shown. It is reopened for the save.
     start("grab:3000:7");
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     const Rotation factorySecond = workflow->records().toStore(kSecond);
@@ -112,7 +112,7 @@ TEST_F(WorkflowTest, ARestartDuringADecisionWins) {
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     int inThisAttempt = 0, restartFrom = 0;
-    // Pressed by another thread while the loop decides; from the fourth pair on a solution may come.
+    // Called by another thread while the loop decides; from the fourth pair on a solution is possible.
     user->onPair = [&] {
         if (++inThisAttempt < restartFrom) return;
         std::thread([&] { workflow->requestState(State::ResetCalibration); }).join();

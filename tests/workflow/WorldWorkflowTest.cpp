@@ -6,7 +6,8 @@
 namespace fieldcal::testing {
 namespace {
 
-/// The workflow over the rendered module: a hand that moves and trembles, and frames that come when they are ready.
+/// Tests the workflow with the rendered module: a hand that moves and trembles, and frames that arrive when they are
+/// ready.
 class WorldWorkflowTest : public WorkflowTest {
 protected:
     WorldWorkflowTest() : WorkflowTest(QString()) {
@@ -23,7 +24,7 @@ TEST_F(WorldWorkflowTest, BothCamerasAreCalibratedOutOfAMovingHandWhichWalksOutI
     wishes.thirdDriftDeg = {{2.5, -1, 1.2}};
     const auto rig = synthesis::drawRig(5, wishes);
     set("KXSIM_LIGHT", "walk-out");
-    // Without a file of its own the flash lives in the user's data folder.
+    // Without a configured file, the flash is in the user's data folder.
     set("KXSIM_FLASH", {});
     set("XDG_DATA_HOME", folder.path());
     start();

@@ -20,7 +20,8 @@ synthesis::StillSettings noiseless() {
     return s;
 }
 
-/// A light that fades smoothly from its middle, so that few samples a pixel find its centroid. Texture in deviations.
+/// A light that fades smoothly from its centre, so that few samples per pixel determine its centroid. Texture in
+/// standard deviations.
 class SoftDot : public Material {
 public:
     Look at(const Place& place) const override {
@@ -31,7 +32,7 @@ public:
     }
 };
 
-/// Dots of known position before an even background, some near and some far, so that baselines show.
+/// Dots of known position in front of a uniform background, some near and some far, so that baselines are visible.
 struct Dots {
     Pose pose;
     std::vector<cv::Vec3d> centres;
@@ -54,7 +55,7 @@ struct Dots {
     }
 
 private:
-    /// A small square across the camera's axis, ten deviations wide.
+    /// A small square perpendicular to the camera's axis, ten standard deviations wide.
     void add(Mesh& mesh, const cv::Vec3d& there, MaterialId material) {
         const cv::Matx33d world_camera = pose.camera_world.t();
         const cv::Vec3f x(world_camera * cv::Vec3d(1, 0, 0)), y(world_camera * cv::Vec3d(0, 1, 0)), z = x.cross(y);
@@ -70,7 +71,7 @@ private:
     }
 };
 
-/// Centroid of what exceeds the background around `guess`; NaN near a border.
+/// Centroid of the intensity above the background around `guess`; NaN near a border.
 cv::Point2d centroid(const cv::Mat_<float>& picture, cv::Point2d guess) {
     constexpr int reach = 10;
     const int cx = cvRound(guess.x), cy = cvRound(guess.y);
@@ -90,7 +91,7 @@ cv::Point2d centroid(const cv::Mat_<float>& picture, cv::Point2d guess) {
 
 using Projection = std::function<cv::Point2d(const cv::Vec3d&)>;
 
-/// Every dot that `project` puts inside the picture is found there.
+/// Checks that every dot that `project` maps inside the image is found there.
 void expectDots(const Dots& dots, const cv::Mat_<float>& picture, const Projection& project) {
     int found = 0;
     cv::Point2d sum(0, 0);
@@ -113,7 +114,7 @@ cv::Vec3d moved(const session::Matrix3& rotation, const session::Vector3& millim
     return cv::Matx33d(rotation.data()) * point + cv::Vec3d(millimetres.data()) / 1000;
 }
 
-/// Pixel of a colour camera's point, from the contract: (cx, cy) is the principal point times s after scaling by s.
+/// Pixel of a point in a colour camera, by the conventions: (cx, cy) is the principal point times s after scaling by s.
 cv::Point2d colourPixel(const session::Intrinsics& k, const session::Intrinsics& infrared, const cv::Vec3d& p) {
     const double sx = infrared.fx / k.fx, sy = infrared.fy / k.fy;
     return {(infrared.fx * p[0] / p[2] + sx * k.cx + 0.5) / sx - 0.5,
@@ -142,7 +143,7 @@ cv::Mat_<float> lumaOf(const std::vector<std::uint8_t>& nv12) {
     return out - 16;
 }
 
-/// The rear camera's picture as the tablet's software rectifies it.
+/// The rear camera's image after rectification by the tablet's software.
 cv::Mat_<float> rectified(const session::PlatformCamera& camera, const std::vector<std::uint8_t>& nv12) {
     const auto f = [](double v) { return static_cast<float>(v); };
     const auto& r = camera.raw;
@@ -219,7 +220,7 @@ TEST(WorldCameras, EachInfraredImagerHasItsOwnNoiseAtOneExposure) {
     cv::Scalar mean, apart, same;
     cv::meanStdDev(right * (1 / 0.8) - left, mean, apart);
     EXPECT_NEAR(mean[0], 0, 0.5);
-    // The light's noise is about 5.3 steps in either, a little more in the one that gets less.
+    // The photon noise is about 5.3 levels in both images, slightly more in the one with less light.
     EXPECT_GT(apart[0], 6.5);
     EXPECT_LT(apart[0], 9.5);
 }
@@ -273,7 +274,7 @@ View depthView(const World& world, const synthesis::Rig& rig) {
     return view;
 }
 
-/// Where dots give plain surfaces all the texture they need.
+/// Where dots provide all the texture that plain surfaces lack.
 StereoModel inADimRoom() {
     StereoModel model;
     model.emitter = true, model.light = 0.02;
@@ -294,7 +295,7 @@ TEST(WorldCameras, DepthIsAlongTheAxisOfTheInfraredCameraAndHoldsTheRangeOfTheMo
             const double truth = plane.depth(rays.rays(y, x));
             ASSERT_NEAR(view.depth(y, x), truth, 1e-4 + truth * 1e-5);
             const int measured = frame.pixels()[y * view.depth.cols + x];
-            // One step and five deviations of disparity, taken back to depth.
+            // One quantisation step and five standard deviations of disparity, converted to depth.
             const double blur =
                 1000 * truth * truth / (rig.depth.fx * stereoBaseline) * (model.stepPx + 5 * model.noisePx);
             if (truth < 3.3) {
@@ -344,7 +345,7 @@ TEST(WorldCameras, TheSecondInfraredCameraMissesAStripBesideNearThings) {
     const auto at = [&](double x) {
         return frame.pixels()[frame.width() * 200 + static_cast<unsigned>(std::lround(rig.depth.cx + x))];
     };
-    // The strip is as wide as the difference of the disparities, left of the near thing.
+    // The strip is as wide as the difference of the disparities, to the left of the near object.
     const double edge = -0.2 * rig.depth.fx, width = rig.depth.fx * stereoBaseline * (1 - 0.25);
     EXPECT_NEAR(at(edge + 6), 1000, 30);
     EXPECT_EQ(at(edge - width / 2), 0);
@@ -368,7 +369,7 @@ TEST(WorldCameras, PlainSurfacesHaveNoDepthUntilDotsFallOnThem) {
     EXPECT_LT(found(sun), 10);
     EXPECT_LT(found(sunAndDots), 10);
     EXPECT_GT(found(room), 80);
-    // The dots themselves: clearly seen in the room, hardly in the sun.
+    // The dots themselves: clearly visible in the room, hardly in the sun.
     cv::Scalar mean, plain, sunny, dotted;
     const View before = view;
     cv::meanStdDev(view.infrared, mean, plain);

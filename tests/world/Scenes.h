@@ -7,7 +7,7 @@
 
 namespace fieldcal::world {
 
-/// A world put together from one mesh and materials, under a clear sky with the sun high on the left.
+/// A world made of one mesh with its materials, under a clear sky with the sun high on the left.
 struct TestScene {
     std::unique_ptr<synthesis::Noise> noise = std::make_unique<synthesis::Noise>(5);
     Mesh mesh;

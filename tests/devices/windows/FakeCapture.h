@@ -19,7 +19,7 @@ namespace fieldcal::testing {
 
 using Microsoft::WRL::ComPtr;
 
-/// A camera as a script, and what was asked of it. It outlives everything that is made of it.
+/// A scripted camera with a record of the calls. It outlives all objects created from it.
 struct FakeCapture {
     enum class Answer { Initialised, InitialisedWithFailure, Error };
     struct Type {
@@ -29,7 +29,7 @@ struct FakeCapture {
         UINT32 framesPerSecond;
     };
 
-    /// Notes the call; fails when it is the one that shall fail.
+    /// Records the call, and fails if it is the selected one.
     HRESULT call(const std::string& name, const std::string& detail = {}) {
         calls.push_back(detail.empty() ? name : name + ' ' + detail);
         threads.push_back(std::this_thread::get_id());
@@ -44,7 +44,7 @@ struct FakeCapture {
 
     std::vector<std::string> calls;
     std::vector<std::thread::id> threads;
-    std::atomic<int> alive{0};  ///< objects that somebody owns
+    std::atomic<int> alive{0};  ///< number of objects with an owner
     ComPtr<IMFCaptureEngineOnSampleCallback> recordCallback;
 };
 
@@ -248,7 +248,7 @@ public:
         if (audio != nullptr || video == nullptr || count != 2) return E_INVALIDARG;
         const HRESULT result = camera_.call("Initialize");
         if (FAILED(result)) return result;
-        // The engine answers later, from a thread of its own.
+        // The engine answers asynchronously, on its own thread.
         answer_ = std::thread([answer = camera_.answer, callback = ComPtr<IMFCaptureEngineOnEventCallback>(events)] {
             const bool error = answer == FakeCapture::Answer::Error;
             send(callback.Get(), MF_CAPTURE_ENGINE_PREVIEW_STOPPED, S_OK);
@@ -285,7 +285,7 @@ private:
     std::thread answer_;
 };
 
-/// Media types and attributes are Windows' own.
+/// Media types and attributes are those of Windows.
 class FakeMediaSystem final : public MediaSystem {
 public:
     explicit FakeMediaSystem(FakeCapture& camera) : camera_(camera) { ++camera_.alive; }

@@ -69,7 +69,7 @@ TEST_F(MediaFoundationTest, FindsOpensStreamsAndEndsOnOneThread) {
     camera.calls.clear();
     const ComPtr<IMFCaptureEngineOnSampleCallback> late = camera.recordCallback;
     camera.recordCallback.Reset();
-    // Pictures come on a thread of the engine's, and more of them than are taken.
+    // Images arrive on a thread of the engine, and more of them than are taken.
     std::thread([&] {
         for (int i = 1; i <= 200; ++i)
             EXPECT_EQ(late->OnSample(sampleOf(1280 * 720 * 3 / 2, static_cast<BYTE>(i)).Get()), S_OK);
@@ -181,7 +181,7 @@ TEST_F(MediaFoundationTest, SamplesCarryTheDevicesTime) {
     EXPECT_EQ(::testing::internal::GetCapturedStdout(), "Failed to get the media buffer 3\n");
 }
 
-/// Wine has Media Foundation, but no device, no way to open one, and no capture engine.
+/// Wine has Media Foundation, but it can neither list nor open devices and has no capture engine.
 TEST_F(MediaFoundationTest, TheSystemsOwnIsReachedAsFarAsItGoes) {
     ComThread thread;
     const auto system = windowsMediaSystem();

@@ -1,5 +1,5 @@
-// The service manager on the system's own service control, with a service of the vendor's name that is installed for
-// the test. Needs the right to install one, and refuses to touch one that is there already.
+// Tests the service manager on the system's own service control, with a service of the vendor's name that is installed
+// for the test. The test needs the right to install a service, and does not touch an existing one.
 #include "devices/PXMServiceManager.h"
 #include "kxapi/Library.h"
 
@@ -87,8 +87,8 @@ private:
     bool installed_ = false;
 };
 
-/// One run of a program that uses the manager: how the service is while it runs. `ending`: "end", "error" or "die";
-/// "play" ends like "end", with the simulated libraries.
+/// Runs a program that uses the manager, and returns the state of the service meanwhile. `ending`: "end", "error" or
+/// "die"; "play" ends like "end", with the simulated libraries.
 std::string during(const QString& ending, const QString& data) {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

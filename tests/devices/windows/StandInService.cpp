@@ -1,4 +1,4 @@
-// A service that can be started and stopped, and does nothing else.
+// A service without any function, which can be started and stopped.
 #include <windows.h>
 
 namespace {
@@ -28,7 +28,7 @@ void WINAPI serve(DWORD, LPSTR*) {
     theService = RegisterServiceCtrlHandlerExA("DeepvanePXMQ550", control, nullptr);
     report(SERVICE_RUNNING);
     WaitForSingleObject(theEnd, INFINITE);
-    Sleep(200);  // long enough that somebody must wait for it
+    Sleep(200);  // long enough that a caller has to wait for it
     report(SERVICE_STOPPED);
 }
 

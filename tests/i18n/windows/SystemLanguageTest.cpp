@@ -5,7 +5,7 @@
 namespace fieldcal::testing {
 namespace {
 
-/// Which language the system speaks cannot be chosen from inside; whoever chose it says what to expect.
+/// A program cannot select the language of the system, so the environment specifies the expected result.
 TEST(SystemLanguageTest, TheUsersLanguageIsNamedInEnglish) {
     const QString expected = qEnvironmentVariable("FIELDCAL_EXPECTED_LANGUAGE");
     const SystemLanguage names = systemLanguage();

@@ -12,7 +12,7 @@ namespace {
 using ::testing::Each;
 using ::testing::StartsWith;
 
-/// What the installer wrote down when it ran.
+/// The arguments and the folder that the installer recorded.
 QByteArray toldBy(const QString& installer) {
     QFile note(installer + ".txt");
     for (int i = 0; i < 100 && note.size() == 0; ++i)
@@ -20,7 +20,7 @@ QByteArray toldBy(const QString& installer) {
     return note.open(QIODevice::ReadOnly) ? note.readAll().trimmed() : QByteArray();
 }
 
-/// Needs what ./test-windows signs: this program, and installers in the folder FIELDCAL_SIGNED.
+/// Requires the files that ./test-windows signs: this program, and installers in the folder FIELDCAL_SIGNED.
 TEST(SignedInstallerTest, OnlyWhatTheProgramsOwnSignerSignedIsStarted) {
     if (!qEnvironmentVariableIsSet("FIELDCAL_SIGNED")) GTEST_SKIP() << "nothing signed is here";
     const QDir folder(qEnvironmentVariable("FIELDCAL_SIGNED"));

@@ -1,4 +1,4 @@
-// Writes down beside itself with which arguments and in which folder it was started.
+// Writes its arguments and its working directory to a file beside itself.
 #include <fstream>
 #include <string>
 #include <windows.h>
