@@ -1,4 +1,4 @@
-# Libraries that are headers only, each as a target that sees nothing but the library's own folder: nlohmann_json and
+# Header-only libraries, each as a target with access to the library's own folder only: nlohmann_json and
 # CLI11. The folder is linked into the build tree, so that a cross-build may use the headers of the machine it runs on
 # without finding the rest of /usr/include.
 include_guard()

@@ -1,9 +1,9 @@
-# One room of the house: a target `fieldcal_<name>` with the alias `fieldcal::<name>`, our warnings and nothing else.
+# One room: a target `fieldcal_<name>` with the alias `fieldcal::<name>`, and our warnings.
 #
 #   fieldcal_library(session SOURCES Description.cpp LINKS fieldcal::camera Qt5::Core [KIND SHARED|INTERFACE])
 #   fieldcal_executable(fieldcal-session SOURCES main.cpp LINKS fieldcal::workflow)
 #   fieldcal_test(session_refusal SOURCES PictureRefusalTest.cpp LINKS fieldcal::session)      (ctest name: session_refusal)
-#   fieldcal_test(... SCREEN)                   runs on a display of its own, drawn in software
+#   fieldcal_test(... SCREEN)                   runs on a separate display with software rendering
 include_guard()
 
 function(fieldcal_warnings target)
@@ -26,7 +26,7 @@ function(fieldcal_library name)
         target_link_libraries(${target} PUBLIC ${ARG_LINKS} PRIVATE ${ARG_PRIVATE_LINKS})
         set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
         if(WIN32 AND ARG_KIND STREQUAL "SHARED")
-            # The loader asks for NAME.dll; MinGW would make libNAME.dll of it.
+            # The loader searches for NAME.dll; MinGW would name it libNAME.dll.
             set_target_properties(${target} PROPERTIES PREFIX "")
         endif()
         fieldcal_warnings(${target})
@@ -54,7 +54,7 @@ function(fieldcal_test name)
     fieldcal_executable(test_${name} SOURCES ${ARG_SOURCES} LINKS ${ARG_LINKS} GTest::gmock_main)
     set(command test_${name})
     if(ARG_SCREEN)
-        # Not the developer's display: windows there would steal the focus, and the pixels be those of its driver.
+        # Not the developer's display: its windows would take the focus, and its driver would affect the pixels.
         if(FIELDCAL_SANITIZE)
             target_sources(test_${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/screen/KeepDriver.cpp)
         endif()

@@ -1,7 +1,7 @@
 # The translations in resources/Files, compiled and as one source file: a Qt resource `Translations` with :/Files/NAME.qm.
 include_guard()
 
-# From the Linguist tools of Qt 5 or 6, whose files are the same. Cross-builds use the one of the machine they run on.
+# The Linguist tools of Qt 5 and 6 produce the same files. Cross-builds use those of the build machine.
 find_program(FIELDCAL_LRELEASE NAMES lrelease HINTS /usr/lib/qt6/bin /usr/lib/qt5/bin REQUIRED)
 
 function(fieldcal_translations source)

@@ -1,4 +1,4 @@
-# What Windows reads from a program before it starts it: version, manifest, and the rights it needs.
+# The resources that Windows reads before it starts a program: version, manifest, and the rights it needs.
 #
 #   fieldcal_windows_program(field-calibrator "Field Calibrator" requireAdministrator)      (or asInvoker)
 include_guard()

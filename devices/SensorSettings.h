@@ -34,8 +34,8 @@ struct SensorSettings {
     std::int32_t thirdScaledHeight = 0;
     std::int32_t platformScaledWidth = 0;
     std::int32_t platformScaledHeight = 0;
-    std::int32_t attemptLimit =
-        0;  ///< largest number of photo pairs in one calibration attempt; not used by the sensor
+    /// Largest number of photo pairs in one calibration attempt; not used by the sensor.
+    std::int32_t attemptLimit = 0;
 };
 
 /// The settings with which the application opens the cameras.

@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Window 2.15
 import ImageRenderTypes 1.0
 
-// An interface without pages: writes down what the application tells it.
+// An interface without pages, which records the calls of the application.
 Window {
     id: root
     width: 800
@@ -28,7 +28,7 @@ Window {
     signal abortDownloadingUpdate()
 
     function add(name, values) { calls.push([name].concat(values).join("|")) }
-    // What is told in every pass counts only when it changes.
+    // Calls that are repeated in every pass are recorded only when their values change.
     function note(name, values) {
         if (latest[name] !== String(values)) add(name, values)
         latest[name] = String(values)

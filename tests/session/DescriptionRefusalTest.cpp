@@ -15,7 +15,7 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-/// One edit of the valid description's text, and what must be said about it.
+/// One edit of the valid description's text, and the expected message.
 struct BadText {
     std::string from;
     std::string to;
@@ -50,14 +50,14 @@ std::string nested(std::size_t levels) {
            kSessionText.substr(1);
 }
 
-/// The path of something nested deeply, as refusals name it.
+/// The path of a deeply nested value, as it appears in messages.
 std::string cut(std::string key) {
     while (key.size() < 200)
         key += "[0]";
     return key.substr(0, 200) + "...";
 }
 
-/// The path of a value as refusals name it.
+/// The path of a value, as it appears in messages.
 std::string keyOf(const json::json_pointer& pointer) {
     std::string out;
     for (json::json_pointer rest = pointer; !rest.empty(); rest.pop_back()) {
@@ -92,7 +92,7 @@ protected:
     }
 
     const json valid = json::parse(kSessionText);
-    std::vector<json::json_pointer> nodes;  ///< every value, whole ones before their parts
+    std::vector<json::json_pointer> nodes;  ///< every value; objects and arrays before their elements
 
 private:
     void collect(const json::json_pointer& at) {
@@ -137,7 +137,7 @@ TEST_F(DescriptionRefusal, EveryValueHasItsTypeAndStandsOnce) {
         } else {
             parent.erase(node.back());
             json twice = valid;
-            twice[node.parent_pointer()]["@"] = nullptr;  // It is written before the key itself.
+            twice[node.parent_pointer()]["@"] = nullptr;  // The duplicate is written before the key itself.
             std::string text = twice.dump();
             expectRefused(text.replace(text.find('@'), 1, node.back()), key, "the key stands twice");
         }
@@ -152,7 +152,7 @@ TEST_F(DescriptionRefusal, EveryValueHasItsTypeAndStandsOnce) {
     }
 }
 
-/// What the numbers behind a key may be; rotations have a test of their own.
+/// The valid values of the numbers of each key; rotations have a separate test.
 struct Range {
     std::vector<std::string> ends;
     double lowest;

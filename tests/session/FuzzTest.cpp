@@ -9,7 +9,8 @@
 namespace fieldcal::session {
 namespace {
 
-/// Seeded damage: bytes changed, cut out, doubled or cut off, sometimes a piece of the file's own put elsewhere.
+/// Seeded damage: bytes are changed, removed, duplicated or truncated, and sometimes a part of the file is copied
+/// elsewhere.
 class Damage {
 public:
     explicit Damage(unsigned seed) : random_(seed) {}
@@ -47,7 +48,7 @@ private:
     std::mt19937 random_;
 };
 
-/// Makes the checksums of a PNG file's chunks right again, as far as the chunks can be followed.
+/// Corrects the checksums of a PNG file's chunks, as far as the chunks can be parsed.
 QByteArray withChecksums(QByteArray bytes) {
     const auto length = [&](int at) { return qFromBigEndian<quint32>(bytes.constData() + at); };
     for (int at = 8; at + 12 <= bytes.size() && length(at) <= static_cast<quint32>(bytes.size() - at - 12);) {
@@ -88,7 +89,7 @@ TEST_F(Fuzz, DamagedPicturesAreReadOrRefused) {
     Damage damage(2);
     int reached = 0;
     for (int i = 0; i < 2000; ++i) {
-        // Every other file has right checksums, so that the damage reaches the decoder.
+        // Every other file has correct checksums, so that the damage reaches the decoder.
         const auto spoilt = [&](const QByteArray& whole) {
             return i % 2 == 0 ? damage(whole) : withChecksums(damage(whole));
         };

@@ -6,7 +6,7 @@
 namespace fieldcal::session {
 namespace {
 
-/// Largest difference of a colour channel when `bgra` goes to NV12 and comes back as the application takes it.
+/// Largest difference of a colour channel after a conversion of `bgra` to NV12 and back by the application.
 int worstDifference(const cv::Mat& bgra) {
     cv::Mat nv12(bgra.rows * 3 / 2, bgra.cols, CV_8UC1);
     nv12FromBgra(bgra.data, bgra.cols, bgra.rows, nv12.data);
@@ -57,7 +57,7 @@ TEST(Nv12, OwnInverseAgreesWithTheApplicationsConversion) {
         cv::cvtColor(nv12, expected, cv::COLOR_YUV2BGRA_NV12);
         cv::Mat own(8, 8, CV_8UC4);
         bgraFromNv12(nv12.data, 8, 8, own.data);
-        // Below black and above white the two may clamp in another order.
+        // Below black and above white the two may clamp in a different order.
         cv::Mat sane;
         cv::inRange(nv12.rowRange(0, 8), 16, 235, sane);
         EXPECT_LE(cv::norm(own, expected, cv::NORM_INF, sane), 1);

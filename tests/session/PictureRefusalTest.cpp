@@ -14,7 +14,7 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-/// The system's own words for a file that does not exist.
+/// The system's own message for a file that does not exist.
 std::string missingFile() {
     QFile file(QDir::tempPath() + "/no file has this name");
     return file.open(QIODevice::ReadOnly) ? "" : file.errorString().toStdString();
@@ -48,8 +48,7 @@ QImage colour(int width, int height, QImage::Format format, const QColor& fill =
     return image;
 }
 
-/// A picture of the session, what must be said about it, and what is put in its place: a picture, or its own bytes
-/// changed.
+/// An image of the session, the expected message, and its replacement: another image, or its own bytes changed.
 struct BadPicture {
     std::string file;
     std::string key;

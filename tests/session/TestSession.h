@@ -11,7 +11,7 @@
 
 namespace fieldcal::session {
 
-/// A valid session.json by hand: tiny module pictures, a rear camera, two frames.
+/// A valid session.json written by hand: tiny module images, a rear camera, two frames.
 inline const std::string kSessionText = R"({ "version": 1,
  "module": {"serial": 550101, "firmware": "1.27.11", "software": "2.2.0", "calibrationValid": true},
  "infrared": {"width": 6, "height": 4, "fx": 580.25, "fy": 580.5, "cx": 3.1, "cy": 2.2},
@@ -41,8 +41,8 @@ inline QByteArray readFile(const std::string& path) {
     return file.readAll();
 }
 
-/// Pictures that fit `session`, every pixel different from its neighbours. `complete`: with depth, the right infrared
-/// and the platform camera's picture.
+/// Images that fit `session`, with every pixel different from its neighbours. `complete`: with depth, the right
+/// infrared and the platform camera's image.
 inline FramePictures testPictures(const SessionDescription& session, bool complete) {
     FramePictures out;
     const auto size = [](ImageFrame* frame, const Intrinsics& camera) {

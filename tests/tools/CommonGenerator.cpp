@@ -1,5 +1,5 @@
-// One `rand()` for every system, in place of the C library's own: the same recording and seed then give the same
-// angles wherever the program runs.
+// One `rand()` for every system, in place of the C library's own: the same recording and seed then give the same angles
+// on every system.
 #include <cstdlib>
 
 namespace {

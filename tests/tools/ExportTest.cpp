@@ -21,9 +21,9 @@ using Eigen::Vector3d;
 using RowMajor3d = Eigen::Matrix<double, 3, 3, Eigen::RowMajor>;
 
 constexpr double kLargestDifferencePx = 0.01;
-constexpr double kLargestRawDifferencePx = 0.03;  // no model of the raw picture is exact, see docs/exports.md
+constexpr double kLargestRawDifferencePx = 0.03;  // no model of the raw image is exact, see docs/exports.md
 
-/// The numbers of a YAML file by their keys, joined with dots. It knows maps in block style and lists in flow style.
+/// The numbers of a YAML file by their keys, joined with dots. Supports maps in block style and lists in flow style.
 class Yaml {
 public:
     explicit Yaml(const QByteArray& text) {
@@ -107,14 +107,14 @@ Matrix3d cameraMatrix(const session::Intrinsics& camera) {
     return k;
 }
 
-/// A pixel of the delivered picture, and what is seen there.
+/// A pixel of the delivered image, and the point that it shows.
 struct Sight {
     Vector2d pixel;
     Vector3d inInfrared;
     Vector3d inColour;
 };
 
-/// What the program itself sees at pixels all over the picture, by its models in the infrared geometry, at 1 to 20 m.
+/// The program's own projections at pixels over the whole image, by its models in the infrared geometry, at 1 to 20 m.
 std::vector<Sight> sights(const session::SessionDescription& session, bool isPlatform) {
     const auto model = [](const session::Intrinsics& camera) {
         const auto narrow = [](double number) { return static_cast<float>(number); };

@@ -5,7 +5,7 @@
 namespace fieldcal::testing {
 namespace {
 
-/// The verbs that write the simulated module's flash.
+/// Tests of the commands that write the simulated module's flash.
 class FlashToolTest : public SessionToolTest {
 protected:
     FlashToolTest() {

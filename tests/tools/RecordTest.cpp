@@ -10,7 +10,7 @@ std::vector<std::uint8_t> bytesOf(const ImageFrame& frame) {
     return {frame.bytes(), frame.bytes() + frame.byteCount()};
 }
 
-/// What one grab brings; `platform` is the newest picture by then.
+/// The images of one grab; `platform` is the newest image at that time.
 struct Delivered {
     std::vector<std::uint8_t> infrared, right, depth, third, platform;
     bool operator==(const Delivered& other) const {
@@ -19,7 +19,7 @@ struct Delivered {
     }
 };
 
-/// Plays a recording round and round.
+/// Plays a recording cyclically.
 std::vector<Delivered> play(const QString& folder, int grabs) {
     session::SessionDescription session;
     std::string why;
@@ -34,7 +34,7 @@ std::vector<Delivered> play(const QString& folder, int grabs) {
         now.right = bytesOf(pictures.right);
         now.third = bytesOf(pictures.third);
         now.depth = bytesOf(pictures.depth);
-        // No depth picture is one without depth.
+        // A missing depth image equals one without depth.
         now.depth.resize(std::size_t{2} * session.depth.width * session.depth.height);
         if (!pictures.platform.empty()) now.platform = pictures.platform;
         out.insert(out.end(), session.frames[index].repeat, now);
@@ -45,7 +45,7 @@ std::vector<Delivered> play(const QString& folder, int grabs) {
 
 class RecordTest : public SessionToolTest {
 protected:
-    /// The name of a folder that does not exist, or no longer.
+    /// The name of a folder that does not exist.
     static QString target() {
         QDir(path("recorded")).removeRecursively();
         return path("recorded");
@@ -57,8 +57,8 @@ protected:
 };
 
 TEST_F(RecordTest, EveryGrabIsPlayedBackAsItWasDelivered) {
-    // Frame 1 lacks the rear picture, frame 2 depth, frame 3 is frame 2 again, and frame 4 the same without the right
-    // one.
+    // Frame 1 lacks the rear image, frame 2 depth, frame 3 is frame 2 again, and frame 4 the same without the right
+    // image.
     const QString source = changed("varied", [](session::SessionDescription* session, const QString&) {
         const int repeats[] = {3, 1, 2, 2, 1};
         session->frames[1].platform.clear();
@@ -69,7 +69,7 @@ TEST_F(RecordTest, EveryGrabIsPlayedBackAsItWasDelivered) {
             session->frames[i].repeat = repeats[i];
     });
     const QString copy = target();
-    const int grabs = 3 + 1 + 2 + 2 + 1 + 2;  // on into the second round
+    const int grabs = 3 + 1 + 2 + 2 + 1 + 2;  // continues into the second cycle
     const Result made = record(source, copy, grabs);
     ASSERT_EQ(made.status, 0) << made.error.constData();
     EXPECT_THAT(made.out.toStdString(), HasSubstr("recorded 11 frame sets as 5 frames, with the rear camera"));
@@ -84,7 +84,8 @@ TEST_F(RecordTest, EveryGrabIsPlayedBackAsItWasDelivered) {
         EXPECT_TRUE(before[i] == after[i]) << "grab " << i;
 }
 
-/// A description as the library can tell it: with numbers of 32 bits, without its frames and what no module knows.
+/// The description as reported by the library: with numbers of 32 bits, without frames and without data unknown to a
+/// module.
 QJsonValue asTold(const QJsonValue& value) {
     if (value.isDouble()) return static_cast<double>(static_cast<float>(value.toDouble()));
     QJsonArray array = value.toArray();

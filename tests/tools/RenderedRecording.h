@@ -7,8 +7,8 @@
 
 namespace fieldcal::testing {
 
-/// A rendered recording, made on first use and gone when the program ends. A build that renders no worlds finds it in
-/// the folder FIELDCAL_RECORDINGS, under the same name.
+/// A rendered recording, created on first use and removed when the program ends. A build that cannot render worlds
+/// finds it in the folder FIELDCAL_RECORDINGS, under the same name.
 inline QString renderedRecording(const QString& name, const QStringList& options) {
     const QString prepared = qEnvironmentVariable("FIELDCAL_RECORDINGS");
     if (!prepared.isEmpty()) return prepared + '/' + name;
@@ -24,7 +24,7 @@ inline QString renderedRecording(const QString& name, const QStringList& options
 inline QString mountainRecording() {
     return renderedRecording("mountains", {"--world", "mountains", "--seed", "10", "--stills", "6", "--platform"});
 }
-/// Three stills of the square by the same module, whose depth reaches what stands there.
+/// Three stills of the square by the same module, where depth reaches some of the objects.
 inline QString squareRecording() {
     return renderedRecording("square", {"--world", "square", "--seed", "10", "--stills", "3"});
 }

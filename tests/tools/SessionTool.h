@@ -13,7 +13,7 @@
 
 #include <map>
 
-/// The command line as people and scripts use it: the real binary, on recordings it made itself.
+/// The command line as users and scripts run it: the real binary, on recordings that it has made.
 namespace fieldcal::testing {
 
 struct Result {
@@ -23,7 +23,7 @@ struct Result {
     int errorLines() const { return static_cast<int>(error.count('\n')); }
 };
 
-/// `knobs` are for the simulated module: "FAULTS" stands for KXSIM_FAULTS.
+/// `knobs` are options of the simulated module: "FAULTS" stands for KXSIM_FAULTS.
 inline Result run(const QStringList& arguments, const std::map<QString, QString>& knobs = {}) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -44,7 +44,7 @@ protected:
     SessionToolTest() { qputenv("XDG_DATA_HOME", data.path().toLocal8Bit()); }
     ~SessionToolTest() override { qunsetenv("XDG_DATA_HOME"); }
 
-    /// A path in a folder that goes when the program ends.
+    /// A path in a folder that is removed when the program ends.
     static QString path(const QString& name) {
         static const QTemporaryDir folder;
         return folder.filePath(name);
