@@ -41,12 +41,12 @@ constexpr std::array<int, 4> kBandEnds{0, 5, 10, kLastTenth};
 void discard(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 /// The stills whose infrared and colour images are combined.
-struct Showing {
+struct StillCombination {
     std::size_t infrared, colour;
 };
 
 /// One camera of a recording, possibly with a different factory rotation.
-struct Subject {
+struct TestedCamera {
     const ModuleStills& module;
     CameraParameters parameters;
     JudgedCamera camera;
@@ -65,20 +65,20 @@ struct Tally {
     }
 };
 
-FrameRecords recordsOf(const ModuleStills& module, const Showing& showing) {
-    FrameRecords records = module.stills[showing.infrared];
-    records.colour[ColourCamera::Third] = module.stills[showing.colour].colour[ColourCamera::Third];
-    records.colour[ColourCamera::Platform] = module.stills[showing.colour].colour[ColourCamera::Platform];
+FrameRecords recordsOf(const ModuleStills& module, const StillCombination& combination) {
+    FrameRecords records = module.stills[combination.infrared];
+    records.colour[ColourCamera::Third] = module.stills[combination.colour].colour[ColourCamera::Third];
+    records.colour[ColourCamera::Platform] = module.stills[combination.colour].colour[ColourCamera::Platform];
     return records;
 }
 
-Tally attempt(const Subject& subject, const std::vector<Showing>& showings, unsigned seed) {
-    StillAttempt attempt(subject.parameters, subject.camera, kPairLimit);
+Tally attempt(const TestedCamera& tested, const std::vector<StillCombination>& combinations, unsigned seed) {
+    StillAttempt attempt(tested.parameters, tested.camera, kPairLimit);
     std::srand(seed);
     attempt.start();
     auto outcome = StillAttempt::Outcome::Continues;
-    for (std::size_t i = 0; i < showings.size() && outcome == StillAttempt::Outcome::Continues; ++i)
-        outcome = attempt.show(recordsOf(subject.module, showings[i]));
+    for (std::size_t i = 0; i < combinations.size() && outcome == StillAttempt::Outcome::Continues; ++i)
+        outcome = attempt.show(recordsOf(tested.module, combinations[i]));
     Tally tally;
     tally.attempts = 1;
     tally.pairs = attempt.pairs();
@@ -100,54 +100,54 @@ std::vector<std::size_t> shuffledStills(std::size_t count, std::mt19937* random)
     return order;
 }
 
-Rows tryPairings(const Subject& subject) {
+Rows tryPairings(const TestedCamera& tested) {
     Tally tally;
-    const std::size_t stills = subject.module.stills.size();
+    const std::size_t stills = tested.module.stills.size();
     for (std::size_t infrared = 0; infrared < stills; ++infrared) {
         for (std::size_t colour = 0; colour < stills; ++colour) {
             if (infrared == colour) continue;
-            const std::vector<Showing> showings(kPairLimit, {infrared, colour});
-            tally.add(attempt(subject, showings, static_cast<unsigned>(infrared * stills + colour)));
+            const std::vector<StillCombination> combinations(kPairLimit, {infrared, colour});
+            tally.add(attempt(tested, combinations, static_cast<unsigned>(infrared * stills + colour)));
         }
     }
     return {{"wrong pairing, eight times", tally}};
 }
 
-Rows tryShifted(const Subject& subject) {
+Rows tryShifted(const TestedCamera& tested) {
     Tally tally;
-    const std::size_t stills = subject.module.stills.size();
-    std::vector<Showing> showings;
+    const std::size_t stills = tested.module.stills.size();
+    std::vector<StillCombination> combinations;
     for (std::size_t colour = 0; colour < stills; ++colour)
-        showings.push_back({(colour + 1) % stills, colour});
+        combinations.push_back({(colour + 1) % stills, colour});
     for (unsigned seed = 1; seed <= kShiftedSeeds; ++seed)
-        tally.add(attempt(subject, showings, seed));
+        tally.add(attempt(tested, combinations, seed));
     return {{"infrared of the next still", tally}};
 }
 
-Rows tryHalfWrong(const Subject& subject) {
+Rows tryHalfWrong(const TestedCamera& tested) {
     Tally tally;
-    const std::size_t stills = subject.module.stills.size();
+    const std::size_t stills = tested.module.stills.size();
     for (unsigned seed = 1; seed <= kHalfWrongOrders; ++seed) {
         std::mt19937 random(seed);
-        std::vector<Showing> showings;
+        std::vector<StillCombination> combinations;
         for (const std::size_t colour : shuffledStills(stills, &random))
-            showings.push_back({colour, colour});
+            combinations.push_back({colour, colour});
         const auto positions = shuffledStills(stills, &random);
         for (std::size_t i = 0; i < stills / 2; ++i) {
-            Showing& wrong = showings[positions[i]];
+            StillCombination& wrong = combinations[positions[i]];
             wrong.infrared = (wrong.colour + 1 + random() % (stills - 1)) % stills;
         }
-        tally.add(attempt(subject, showings, seed));
+        tally.add(attempt(tested, combinations, seed));
     }
     return {{"half of the stills wrong", tally}};
 }
 
 /// Returns the same camera with a factory rotation from which the true one has drifted by the given angles.
-Subject drifted(const Subject& subject, const Eigen::Vector3d& driftDeg) {
-    Subject moved = subject;
-    const Eigen::Vector3d anglesRad = vq::anglesFromRotation(subject.camera.truth) - driftDeg / vq::kDegreesPerRadian;
+TestedCamera drifted(const TestedCamera& tested, const Eigen::Vector3d& driftDeg) {
+    TestedCamera moved = tested;
+    const Eigen::Vector3d anglesRad = vq::anglesFromRotation(tested.camera.truth) - driftDeg / vq::kDegreesPerRadian;
     moved.camera.factory = vq::rotationFromAngles(anglesRad);
-    auto& extrinsics = moved.parameters.colour[subject.camera.camera].fromDepth;
+    auto& extrinsics = moved.parameters.colour[tested.camera.camera].fromDepth;
     Eigen::Map<Eigen::Matrix<float, 3, 3, Eigen::RowMajor>> stored(extrinsics.rotation.data());
     stored = moved.camera.factory.cast<float>();
     return moved;
@@ -157,7 +157,7 @@ double within(double low, double high, std::mt19937* random) {
     return low + (high - low) * static_cast<double>((*random)()) / static_cast<double>(std::mt19937::max());
 }
 
-Rows tryDrift(const Subject& subject) {
+Rows tryDrift(const TestedCamera& tested) {
     Rows rows{{"drift 0.5 ... 0.0 inside the range", {}},
               {"drift 0.1 ... 0.5 beyond", {}},
               {"drift 0.6 ... 1.0 beyond", {}},
@@ -173,18 +173,18 @@ Rows tryDrift(const Subject& subject) {
                     driftDeg[static_cast<Eigen::Index>(i)] = within(range.minDeg[i], range.maxDeg[i], &random);
                 driftDeg[static_cast<Eigen::Index>(axis)] =
                     upper ? range.maxDeg[axis] + 0.1 * tenth : range.minDeg[axis] - 0.1 * tenth;
-                std::vector<Showing> showings;
-                for (const std::size_t still : shuffledStills(subject.module.stills.size(), &random))
-                    showings.push_back({still, still});
+                std::vector<StillCombination> combinations;
+                for (const std::size_t still : shuffledStills(tested.module.stills.size(), &random))
+                    combinations.push_back({still, still});
                 const auto band = std::lower_bound(kBandEnds.begin(), kBandEnds.end(), tenth) - kBandEnds.begin();
-                rows[static_cast<std::size_t>(band)].second.add(attempt(drifted(subject, driftDeg), showings, seed));
+                rows[static_cast<std::size_t>(band)].second.add(attempt(drifted(tested, driftDeg), combinations, seed));
             }
         }
     }
     return rows;
 }
 
-using Case = std::pair<const char*, std::function<Rows(const Subject&)>>;
+using Case = std::pair<const char*, std::function<Rows(const TestedCamera&)>>;
 
 const std::array<Case, 4>& allCases() {
     static const std::array<Case, 4> cases{

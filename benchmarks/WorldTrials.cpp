@@ -59,9 +59,9 @@ struct Trial {
 using Trials = std::array<Trial, kCameras>;  ///< of the third and of the platform camera
 
 /// The stills of both cameras; each is rendered only once.
-class StillShow {
+class StillSource {
 public:
-    StillShow(const std::string& world, unsigned seed, const synthesis::Rig& rig, const Options& options)
+    StillSource(const std::string& world, unsigned seed, const synthesis::Rig& rig, const Options& options)
         : seed_(seed), options_(options), studio_(world, seed, rig), converter_(rig) {}
 
     const CameraParameters& parameters() const { return converter_.parameters(); }
@@ -88,15 +88,15 @@ double ownInverseDepth(double inverseDepth, double misalignmentPx, double focalP
     return inverseDepth + misalignmentPx / (focalPx * world::stereoBaseline);
 }
 
-Trial tryCamera(const JudgedCamera& camera, unsigned seed, double misalignmentPx, StillShow* show) {
-    StillAttempt attempt(show->parameters(), camera, kPairLimit);
+Trial tryCamera(const JudgedCamera& camera, unsigned seed, double misalignmentPx, StillSource* source) {
+    StillAttempt attempt(source->parameters(), camera, kPairLimit);
     std::srand(seed);
     Trial trial;
     for (int i = 0; i < kAttempts && !trial.solved; ++i) {
         attempt.start();
         auto outcome = StillAttempt::Outcome::Continues;
         for (int shown = 0; shown < kPairLimit && outcome == StillAttempt::Outcome::Continues; ++shown)
-            outcome = attempt.show(show->still(trial.stills++));
+            outcome = attempt.show(source->still(trial.stills++));
         if (outcome == StillAttempt::Outcome::Continues) outcome = attempt.finish();
         trial.solved = outcome == StillAttempt::Outcome::Solved;
     }
@@ -106,7 +106,7 @@ Trial tryCamera(const JudgedCamera& camera, unsigned seed, double misalignmentPx
     trial.quality = attempt.quality();
     const Eigen::AngleAxisd turn(attempt.rotation() * camera.truth.transpose());
     trial.turnDeg = turn.axis() * turn.angle() * 180 / CV_PI;
-    const auto& extrinsics = show->parameters().colour[camera.camera].fromDepth;
+    const auto& extrinsics = source->parameters().colour[camera.camera].fromDepth;
     const vq::Projection projection{camera.cameras,
                                     Eigen::Map<const Eigen::Vector3f>(extrinsics.translation.data()).cast<double>()};
     for (std::size_t i = 0; i < kDistancesM.size(); ++i) {
@@ -130,11 +130,11 @@ Trials tryWorld(const std::string& world, unsigned seed, bool baselines, const O
         wishes.misalignmentPx = misalignmentPx;
     }
     const auto rig = synthesis::drawRig(seed, wishes);
-    StillShow show(world, seed, rig, options);
-    const auto cameras = judgedCameras(rig, show.parameters());
+    StillSource source(world, seed, rig, options);
+    const auto cameras = judgedCameras(rig, source.parameters());
     Trials trials;
     for (std::size_t i = 0; i < kCameras; ++i)
-        trials[i] = tryCamera(cameras.at(i), seed, misalignmentPx, &show);
+        trials[i] = tryCamera(cameras.at(i), seed, misalignmentPx, &source);
     return trials;
 }
 

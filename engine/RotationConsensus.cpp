@@ -16,7 +16,7 @@ namespace vq {
 namespace {
 
 constexpr float kMinimumDistancePx = 10.0F;
-/// A pair within this distance of the winner's prediction does not count as an inlier of a rival only.
+/// A pair within this distance of the winner's prediction does not count as an inlier of a rival.
 constexpr double kNearWinnerPx = 4.5;
 
 bool isDegenerate(const std::vector<cv::Point2f>& points, const Sample& sample) {

@@ -13,15 +13,15 @@ namespace fieldcal {
 namespace {
 
 constexpr const char* kTooLong = "the answer is too long";
-constexpr int kSeenMs = 100;  // gives the interface time to show that the installer starts, before it blocks the main
-                              // thread
+constexpr int kStartDelayMs = 100;  // gives the interface time to show that the installer starts, before it blocks the
+                                    // main thread
 
 }  // namespace
 
 SoftwareUpdate::SoftwareUpdate(UpdateEnvironment environment, UpdateListener& listener)
     : environment_(std::move(environment)), listener_(listener) {
-    seen_.setSingleShot(true);
-    connect(&seen_, &QTimer::timeout, this, &SoftwareUpdate::startInstaller);
+    startDelay_.setSingleShot(true);
+    connect(&startDelay_, &QTimer::timeout, this, &SoftwareUpdate::startInstaller);
 }
 
 void SoftwareUpdate::start(QObject* owner) {
@@ -107,7 +107,7 @@ void SoftwareUpdate::download() {
 
 void SoftwareUpdate::abort() {
     if (download_ != nullptr) qInfo("The update was given up by the user.");
-    seen_.stop();
+    startDelay_.stop();
     download_.reset();
 }
 
@@ -127,7 +127,7 @@ void SoftwareUpdate::downloadEnded(std::optional<UpdateFailure> failure) {
         return;
     }
     listener_.updateReceived();
-    seen_.start(kSeenMs);
+    startDelay_.start(kStartDelayMs);
 }
 
 void SoftwareUpdate::startInstaller() {
@@ -147,7 +147,7 @@ void SoftwareUpdate::release() {
     if (network_ != nullptr) network_->disconnect();
     delete network_;
     delete reply_;
-    seen_.stop();
+    startDelay_.stop();
     download_.reset();
     delete timeout_;
 }

@@ -56,7 +56,7 @@ private:
     QPointer<QTimer> timeout_;
     std::optional<Manifest> offered_;
     std::unique_ptr<InstallerDownload> download_;
-    QTimer seen_;  ///< runs from the end of the download to the start of the installer
+    QTimer startDelay_;  ///< runs from the end of the download to the start of the installer
 };
 
 }  // namespace fieldcal

@@ -23,14 +23,14 @@ void ProcessingThread::stop(Stop stop) {
     if (thread_.joinable()) thread_.join();
 }
 
-void ProcessingThread::run(Workflow& workflow, QThread* heir) {
+void ProcessingThread::run(Workflow& workflow, QThread* finalThread) {
     // On some systems each thread has its own state of the C library's random number generator, so it is seeded on the
     // thread that draws.
     std::srand(std::random_device{}());
     while (!workflow.stopRequested()) {
         if (!workflow.pass()) std::this_thread::sleep_for(kPause);
     }
-    workflow.handOver(heir);
+    workflow.handOver(finalThread);
 }
 
 }  // namespace fieldcal

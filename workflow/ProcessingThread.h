@@ -24,7 +24,7 @@ public:
     void stop(Stop stop);
 
 private:
-    static void run(Workflow& workflow, QThread* heir);
+    static void run(Workflow& workflow, QThread* finalThread);
 
     Workflow& workflow_;
     std::thread thread_;

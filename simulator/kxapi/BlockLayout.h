@@ -42,7 +42,7 @@ inline void garble(KXCalibRectParameters* block, std::size_t byte) {
 }
 
 /// Enters the commit count and the checksum of a module with a living block into `block`, which replaces `present`.
-inline void enterLife(const KXCalibRectParameters& present, KXCalibRectParameters* block) {
+inline void updateLivingBytes(const KXCalibRectParameters& present, KXCalibRectParameters* block) {
     constexpr std::size_t kCount = sizeof(block->reserved3) - 8;
     constexpr std::size_t kSum = sizeof(block->reserved3) - 4;
     std::uint32_t count = 0;

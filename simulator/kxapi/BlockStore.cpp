@@ -64,7 +64,7 @@ BlockResult BlockStore::commit(bool living) {
     Block block = *std::exchange(written_, std::nullopt);
     Block present;
     if (BlockResult result = read(&present); !result.ok()) return result;
-    if (living) enterLife(present, &block);
+    if (living) updateLivingBytes(present, &block);
     if (BlockResult result = put(block); !result.ok()) return result;
     previous_ = present;
     return {};

@@ -24,15 +24,15 @@ synthesis::Rig rig() {
 }
 
 /// A fingerprint by which frame sets are compared.
-struct Print {
+struct Fingerprint {
     std::vector<std::uint16_t> infrared, right, depth;
     std::vector<std::uint8_t> third;
-    explicit Print(const session::FramePictures& p)
+    explicit Fingerprint(const session::FramePictures& p)
         : infrared(p.infrared.pixels(), p.infrared.pixels() + p.infrared.byteCount() / 2),
           right(p.right.pixels(), p.right.pixels() + p.right.byteCount() / 2),
           depth(p.depth.pixels(), p.depth.pixels() + p.depth.byteCount() / 2),
           third(p.third.bytes(), p.third.bytes() + p.third.byteCount()) {}
-    bool operator==(const Print& other) const {
+    bool operator==(const Fingerprint& other) const {
         return infrared == other.infrared && right == other.right && depth == other.depth && third == other.third;
     }
 };
@@ -54,7 +54,7 @@ TEST(FrameGenerator, EqualSeedsGiveEqualFramesWhichRestMoveAndRestAgain) {
     int still = 0, moving = 0, restsAfterMoving = 0;
     for (int i = 0; i < 150; ++i) {
         ASSERT_TRUE(one.advance(60s) && other.advance(60s));
-        ASSERT_TRUE(i % 7 != 0 || Print(*one.current()) == Print(*other.current())) << i;
+        ASSERT_TRUE(i % 7 != 0 || Fingerprint(*one.current()) == Fingerprint(*other.current())) << i;
         last.push_back(*one.current());
         if (last.size() < 9) continue;
         const double most = std::max(motion(last[4], last[8]), motion(last[0], last[8]));
@@ -82,7 +82,7 @@ TEST(FrameGenerator, WithTheEmitterOnTheHandStays) {
 TEST(FrameGenerator, DotsAreSeenAsLongAsTheEmitterIsOnAndNotAFrameLonger) {
     FrameGenerator plain("near", 3, rig(), light("indoors"), false), dotted("near", 3, rig(), light("indoors"), false);
     dotted.setEmitter(true);
-    const auto count = [](const Print& some, const Print& other) {
+    const auto count = [](const Fingerprint& some, const Fingerprint& other) {
         int brighter = 0, brighterRight = 0, deeper = 0;
         for (std::size_t i = 0; i < some.infrared.size(); ++i) {
             brighter += some.infrared[i] > other.infrared[i] + 60 ? 1 : 0;
@@ -94,7 +94,7 @@ TEST(FrameGenerator, DotsAreSeenAsLongAsTheEmitterIsOnAndNotAFrameLonger) {
     for (int i = 0; i < 30; ++i) {
         dotted.setEmitter(i < 12);
         ASSERT_TRUE(plain.advance(60s) && dotted.advance(60s));
-        const Print without(*plain.current()), with(*dotted.current());
+        const Fingerprint without(*plain.current()), with(*dotted.current());
         if (i >= 12) {
             ASSERT_TRUE(with == without) << i;
             continue;
@@ -113,11 +113,11 @@ TEST(LightCourse, DarkensAndBrightensWhatIsSeen) {
         FrameGenerator generator("mountains", 3, rig(), light(name), false);
         for (int i = 0; i < frames; ++i)
             EXPECT_TRUE(generator.advance(60s));
-        const Print print(*generator.current());
+        const Fingerprint fingerprint(*generator.current());
         double sum = 0;
-        for (const std::uint16_t value : print.infrared)
+        for (const std::uint16_t value : fingerprint.infrared)
             sum += value;
-        return sum / static_cast<double>(print.infrared.size());
+        return sum / static_cast<double>(fingerprint.infrared.size());
     };
     EXPECT_GT(mean("sun", 1), 200);
     EXPECT_LT(mean("shade", 1), 100);
