@@ -114,7 +114,7 @@ TEST_P(FitTest, NothingIsCutOffOnAnyPage) {
     }
 }
 
-// The third one is the largest screen with two device pixels per pixel.
+// The third one is the largest screen with two device pixels per logical pixel.
 INSTANTIATE_TEST_SUITE_P(Looks, FitTest,
                          ::testing::Values(Look{{1024, 600}, true}, Look{{1024, 600}, false}, Look{{1368, 912}, true},
                                            Look{{2736, 1824}, true}, Look{{2736, 1824}, false}));

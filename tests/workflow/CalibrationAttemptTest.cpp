@@ -23,7 +23,7 @@ class ScriptedCalibrator : public vq::ICalibrator {
 public:
     std::uint16_t brightness = 500;
     std::deque<std::int32_t> movementCodes;  ///< empty: every frame is selected
-    std::deque<std::int32_t> pairCodes;      ///< empty: code 2
+    std::deque<std::int32_t> pairCodes;      ///< empty: `AddingFramesForConvergence`
     vq::ParallaxReport report;
     bool solution = false;
     std::string calls;  ///< a remembered baseline appears in tenths of a millimetre
