@@ -1,13 +1,14 @@
 #pragma once
 
 #include "camera/Rotation.h"
+#include "devices/BlockChange.h"
 #include "devices/ModuleLink.h"
 
 #include <QString>
 
-#include <bitset>
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace fieldcal {
 
@@ -34,6 +35,11 @@ struct WriteBackReport {
 /// One line for people and logs.
 QString flashText(const WriteBackReport& report);
 
+/// Told once the backup is on the disk, before the first call that reaches the flash, also where no byte has to change.
+/// False, and one line in `why`, when
+/// nothing may be written.
+using BeforeWrite = std::function<bool(const BlockChange& change, const QString& backupFile, QString* why)>;
+
 /// Replaces the module's parameter block: keeps the one that is there in a file, writes, reads again, lets the module
 /// load it, and reads again. What counts is what this program means to change: the fields that the companion library
 /// writes, the three matrices, and the rotations that the module then tells. Other bytes belong to the module, which
@@ -42,6 +48,8 @@ QString flashText(const WriteBackReport& report);
 class CalibrationWriter {
 public:
     CalibrationWriter(ModuleLink& link, KXThirdCamera* third, std::uint32_t serial, QString backupFolder);
+
+    void setBeforeWrite(BeforeWrite before) { beforeWrite_ = std::move(before); }
 
     /// Both are true when the module keeps, and tells, what was to be written; what it holds already is not written. A
     /// failed call has been reported by the link, and so has a module that does not keep the block; anything else that
@@ -53,11 +61,12 @@ public:
 
 private:
     using Block = KXCalibRectParameters;
-    using Bytes = std::bitset<sizeof(Block)>;
+    using Bytes = BlockBytes;
 
     bool run(const std::function<bool(QString* why)>& makeWanted);
     bool prepare(const std::function<bool(QString* why)>& makeWanted);
     bool turn(KXUpdateRotationFunction function, const Rotation& rotation, const float* rectifyColour);
+    bool announce();
     bool write();
     bool readAgain();
     void readQuietly();
@@ -75,6 +84,7 @@ private:
     KXThirdCamera* third_;
     const std::uint32_t serial_;
     const QString backupFolder_;
+    BeforeWrite beforeWrite_;
     WriteBackReport report_;
     Block previous_{};
     Block wanted_{};

@@ -35,7 +35,7 @@ public:
     /// Stops (1) or starts (4) the service and waits until it has that state.
     bool driveTo(std::uint32_t wantedState);
 
-    /// "number: (call) ==> text" of the last failure; empty until something fails.
+    /// "number: (call) ==> text" of the last failure, or which file could not be kept; empty until something fails.
     QString lastError() const { return lastError_; }
 
     /// The wait for the service also ends, with failure, once `*stop` is true. Null: nothing stops it.
@@ -47,8 +47,8 @@ private:
 
     Opened openService(OpenedService* opened, std::uint32_t access, const char* nameInError);
     std::uint32_t readStartType();
-    /// Whether the note is this call's own.
-    bool rememberStartType();
+    /// False: it is on no disk. `noted`: the note is this call's own.
+    bool rememberStartType(bool* noted);
     bool restoreStartType();
     std::uint32_t readState();
     bool changeStartType(std::uint32_t startType);

@@ -18,7 +18,8 @@ struct ParameterBackup {
     KXCalibRectParameters block{};
 };
 
-/// Writes a new file into `folder`, which is created: a temporary file, synced, then renamed, then read again. `file`
+/// Writes a new file into `folder`, which is created: a temporary file, synced, renamed, its folder
+/// synced, and read again. `file`
 /// gets its path, made of the serial number and the date. False, and `why` ("FILE: reason").
 bool keepBackup(const QString& folder, const ParameterBackup& backup, QString* file, QString* why);
 

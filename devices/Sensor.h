@@ -80,7 +80,7 @@ public:
     /// module holds and tells the rotations. Refused, without a call, unless the sensor is open, the calibration has
     /// been read and every rotation that differs from the module's is one within 1e-4. `platform` counts only when the
     /// platform camera's calibration has been read.
-    bool updateRotation(const Rotation& third, const Rotation& platform);
+    bool updateRotation(const Rotation& third, const Rotation& platform, const BeforeWrite& beforeWrite = {});
 
     /// Writes a whole block, as `ParameterBackup` keeps it, in the same manner. The calibration need not have been
     /// read.

@@ -1,6 +1,7 @@
 #include "engine/CalibrationState.h"
 
 #include "diagnostics/Logger.h"
+#include "files/SafeFile.h"
 
 #include <array>
 #include <cstring>
@@ -68,18 +69,14 @@ CameraRecord recordOf(const fieldcal::CameraModel& model) {
 
 bool CalibrationState::writeToFile(const std::string& path) const {
     constexpr const char* kOperation = "CalibrationState::writeToFile";
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    if (!file.is_open()) {
-        logMessage(kError, kOperation, "Could not open file");
-        return false;
-    }
-    visitState(*this, [&file](const std::string&, const auto& field) {
+    std::string content, why;
+    visitState(*this, [&content](const std::string&, const auto& field) {
         const FieldBytes bytes = littleEndian(field);
-        return static_cast<bool>(file.write(bytes.data(), bytes.size()));
+        content.append(bytes.data(), bytes.size());
+        return true;
     });
-    file.close();
-    if (file) return true;
-    logMessage(kError, kOperation, "%s: cannot be written", path.c_str());
+    if (fieldcal::writeFile(path, content.data(), content.size(), &why)) return true;
+    logMessage(kError, kOperation, "%s", why.c_str());
     return false;
 }
 

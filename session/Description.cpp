@@ -118,9 +118,10 @@ FrameEntry frameEntry(const JsonKey& key, bool hasPlatform) {
 std::vector<FrameEntry> frameList(const JsonKey& key, bool hasPlatform) {
     std::vector<FrameEntry> out;
     double grabs = 0;
-    for (const JsonKey& item : key.elements()) {
+    for (const JsonKey& item : key.elements(kMostFrames)) {
         out.push_back(frameEntry(item, hasPlatform));
         grabs += out.back().repeat;
+        if (key.anyFault()) return out;
     }
     if (out.empty()) key.refuse("no frame");
     if (grabs > kLargestGrabCount) key.refuse("more than 1000000000 grabs together");
@@ -226,7 +227,11 @@ bool readDescription(const std::string& folder, SessionDescription* out, std::st
     const std::string name = descriptionFile(folder);
     QFile file;
     if (!openInput(name, {}, kLargestFile, &file, why)) return false;
-    return parseDescription(file.readAll().toStdString(), name, out, why);
+    std::string text(static_cast<std::size_t>(file.size()), '\0');
+    if (file.read(text.data(), static_cast<qint64>(text.size())) != static_cast<qint64>(text.size())) {
+        return refuse(why, name, {}, "cannot be read");
+    }
+    return parseDescription(text, name, out, why);
 }
 
 bool writeDescription(const std::string& folder, const SessionDescription& session, std::string* why) {

@@ -2,6 +2,8 @@
 
 #include "devices/CameraParameterReader.h"
 #include "devices/PlatformCameraSetup.h"
+#include "kxapi/Library.h"
+#include "tools/Console.h"
 
 #include <algorithm>
 #include <iterator>
@@ -54,6 +56,11 @@ void makeOpaque(ImageFrame32* picture) {
 }  // namespace
 
 bool ConnectedModule::open(bool rearCamera, QString* why) {
+    if (!usesSimulatedLibraries()) instance_ = std::make_unique<SingleInstance>();
+    if (instance_ != nullptr && !instance_->isFirst()) {
+        *why = kAnotherProgram;
+        return false;
+    }
     SensorSettings settings = applicationSettings();
     settings.usePlatformCamera = rearCamera;
     if (tryToOpen(settings)) return true;

@@ -3,6 +3,7 @@
 #include "devices/CameraParameterReader.h"
 #include "engine/RegistrationError.h"
 #include "engine/Rotation.h"
+#include "workflow/Saving.h"
 
 #include <QDir>
 
@@ -51,6 +52,7 @@ bool RecordingCalibration::run(QString* why) {
             CalibrationAttempt attempt(engine_, *this, light_, sensor.settings().attemptLimit);
             if (memory_) attempt.useMemory(*memory_, sensor.serialNumber());
             bool solved = false;
+            if (writing_) tellOfLastSave(sensor);
             played = play(sensor, attempt, &solved);
             finish(solved);
             if (writing_ && solved) played = write(sensor, why) && played;
@@ -140,12 +142,20 @@ std::map<int, double> RecordingCalibration::registrationErrors(const Matrix3& tr
     return errorsPx;
 }
 
+/// Now, as the note about it makes way for the one about this write.
+void RecordingCalibration::tellOfLastSave(Sensor& sensor) {
+    const auto last = settleLastSave(sensor, userDataFolder());
+    if (!last) return;
+    report_.lastSave = lastSaveText(*last);
+    if (say_) say_(report_.lastSave);
+}
+
 bool RecordingCalibration::write(Sensor& sensor, QString* why) {
     Rotation rotation{};
     engine_.getRotationMatrix(rotation.data());
     const Rotation& third = platformCamera_ ? parameters_.depthToInModule.rotation : rotation;
     const Rotation& platform = platformCamera_ ? rotation : parameters_.depthToOutOfModule.rotation;
-    report_.written = sensor.updateRotation(third, platform);
+    report_.written = storeRotations(sensor, third, platform, userDataFolder()).stored;
     const WriteBackReport& done = sensor.writeBack();
     writeBack_ = done;
     if (*report_.written) {

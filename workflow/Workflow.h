@@ -6,7 +6,6 @@
 #include "workflow/CalibrationAttempt.h"
 #include "workflow/CalibrationRecords.h"
 #include "workflow/LightGate.h"
-#include "workflow/SaveNote.h"
 #include "workflow/SaveReport.h"
 #include "workflow/WorkflowListener.h"
 #include "workflow/WorkflowState.h"
@@ -42,6 +41,7 @@ enum class Storing {
 /// How leaving went.
 struct LeaveReport {
     bool stored = false;        ///< the module has confirmed the accepted rotations
+    bool told = true;           ///< it has, or the next start says that it has not
     WriteBackReport writeBack;  ///< of a save that came as far as the module
     QStringList errors;         ///< what arose while saving and closing, in order
     QStringList closingErrors;  ///< those of them that came last: the vendor's service was not restored

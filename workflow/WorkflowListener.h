@@ -6,7 +6,7 @@
 #include "workflow/CalibrationRecords.h"
 #include "workflow/FoundTurn.h"
 #include "workflow/LightGate.h"
-#include "workflow/SaveNote.h"
+#include "workflow/Saving.h"
 #include "workflow/State.h"
 
 #include <QString>
@@ -35,8 +35,8 @@ public:
                                const FoundTurn&) {}
     /// The module has no platform camera that could be calibrated.
     virtual void singleCameraOnly() {}
-    /// The last calibration was accepted, but not stored. Told once, when the camera has been opened.
-    virtual void lastSaveFailed(const SaveNote&) {}
+    /// The last save did not come to its end; what became of it. Told once, when the camera has been opened.
+    virtual void lastSaveSettled(const LastSave&) {}
 
     /// Faults. After the first one nothing more happens.
     virtual void deviceError(const QString& /*text*/) {}

@@ -2,6 +2,7 @@
 #include "devices/CameraParameterReader.h"
 #include "engine/Rotation.h"
 #include "engine/TextForms.h"
+#include "workflow/Saving.h"
 #include "workflow/Workflow.h"
 
 #include <QThread>
@@ -122,10 +123,7 @@ void Workflow::openCamera(const Snapshot& now) {
 
 /// Of this module's, that is; a note about another one waits until that one is connected.
 void Workflow::tellOfLastSave() {
-    const std::optional<SaveNote> note = readSaveNote(environment_.dataFolder);
-    if (!note || (note->serial != 0 && note->serial != sensor_->serialNumber())) return;
-    removeSaveNote(environment_.dataFolder);
-    listener_.lastSaveFailed(*note);
+    if (const auto last = settleLastSave(*sensor_, environment_.dataFolder)) listener_.lastSaveSettled(*last);
 }
 
 void Workflow::listenTo(Sensor& sensor) {

@@ -12,6 +12,7 @@
 namespace fieldcal::testing {
 namespace {
 
+constexpr std::uint32_t kSerial = 550101;
 constexpr Rotation kAboutY{0, 0, 1, 0, 1, 0, -1, 0, 0};
 
 class SavingTest : public SensorTest {
@@ -19,7 +20,7 @@ protected:
     SavingTest() {
         EXPECT_TRUE(sensor->open(applicationSettings()) && readCameraParameters(*sensor, &parameters, [] {}));
         records.setFactory(parameters.depthToInModule.rotation, parameters.depthToOutOfModule.rotation);
-        device->onWrite = [this] { noteAtWrite = readSaveNote(data.path()); };
+        device->onWrite = [this] { noteAtWrite = readSaveNote(data.path(), kSerial); };
     }
     void accept() {
         records.setEstimated(ColourCamera::InModule, kAboutY, [] { return true; });
@@ -33,34 +34,34 @@ protected:
 
 TEST_F(SavingTest, ANoteStandsOnDiskWhileTheOutcomeIsOpen) {
     accept();
-    EXPECT_TRUE(storeCalibration(*sensor, records, data.path()));
+    EXPECT_TRUE(storeCalibration(*sensor, records, data.path()).stored);
     ASSERT_TRUE(noteAtWrite) << "whatever ends the program here must be known at the next start";
-    EXPECT_EQ(noteAtWrite->serial, 550101U);
-    EXPECT_FALSE(readSaveNote(data.path()));
+    EXPECT_EQ(noteAtWrite->serial, kSerial);
+    EXPECT_FALSE(readSaveNote(data.path(), kSerial));
 
     device->failCall("commitCalibration", 2, 6);
     records.accept(ColourCamera::InModule, parameters.depthToInModule.rotation);
-    EXPECT_FALSE(storeCalibration(*sensor, records, data.path()));
-    EXPECT_EQ(readSaveNote(data.path())->reason, sensor->writeBack().reason);
+    EXPECT_FALSE(storeCalibration(*sensor, records, data.path()).stored);
+    EXPECT_EQ(readSaveNote(data.path(), kSerial)->reason, sensor->writeBack().reason);
     EXPECT_TRUE(LogCapture::has("Failed to store calibration information to flash."));
 }
 
 TEST_F(SavingTest, WithoutAnythingAcceptedBothRecordsArePassedAndNothingIsNoted) {
-    EXPECT_TRUE(storeCalibration(*sensor, records, data.path()));
+    EXPECT_TRUE(storeCalibration(*sensor, records, data.path()).stored);
     EXPECT_EQ(device->calls.back(), "zToPlatformExtrinsics()");
     EXPECT_FALSE(noteAtWrite);
 }
 
 TEST_F(SavingTest, ANoteThatCannotBeReadStillCounts) {
-    QFile file(data.filePath("save-note.json"));
+    QFile file(data.filePath("save-note-550101.json"));
     for (const char* text : {"", "{", "[1]", R"({"version": 2})", R"({"version": 1, "serial": -5e99, "begun": 7})"}) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text);
         file.close();
-        EXPECT_TRUE(readSaveNote(data.path())) << text;
+        EXPECT_TRUE(readSaveNote(data.path(), kSerial)) << text;
     }
-    EXPECT_TRUE(removeSaveNote(data.path()));
-    EXPECT_FALSE(readSaveNote(data.path()));
+    EXPECT_TRUE(removeSaveNote(data.path(), kSerial));
+    EXPECT_FALSE(readSaveNote(data.path(), kSerial));
 }
 
 /// A whole workflow over the fake module.
