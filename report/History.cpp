@@ -57,12 +57,10 @@ bool appendHistory(const QString& folder, const ServiceReport& report) {
     QByteArray lines;
     for (const ReportedCamera& camera : report.cameras)
         lines += lineOf(report, camera);
+    const std::string path = (folder + "/history.csv").toStdString();
     std::string why;
-    if (makeFolders(folder.toStdString(), &why) &&
-        appendLines((folder + "/history.csv").toStdString(), kHeader, lines.toStdString(), &why)) {
-        return true;
-    }
-    qCritical("The history of calibrations cannot be continued: %s", why.c_str());
+    if (makeFolders(folder.toStdString(), &why) && appendLines(path, kHeader, lines.toStdString(), &why)) return true;
+    qCritical("%s: the history of calibrations cannot be continued: %s", path.c_str(), why.c_str());
     return false;
 }
 

@@ -83,7 +83,10 @@ void BaselineMemory::remember(std::uint32_t serial, double metres) const {
     std::string why;
     const bool written = makeFolders(folder_.toStdString(), &why) &&
                          writeFile(path_.toStdString(), text.constData(), static_cast<std::size_t>(text.size()), &why);
-    if (!written) qCritical("The stereo baseline of module %u cannot be kept: %s", serial, why.c_str());
+    if (!written) {
+        qCritical("%s: the stereo baseline of module %u cannot be kept: %s", qUtf8Printable(path_), serial,
+                  why.c_str());
+    }
 }
 
 }  // namespace fieldcal
