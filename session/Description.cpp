@@ -10,6 +10,8 @@ namespace {
 using nlohmann::json;
 
 constexpr double kLargestSize = 8192;
+/// Of one picture. A frame has up to five, and they are decoded by way of copies.
+constexpr std::int64_t kMostPixels = 8 << 20;
 constexpr double kSmallestFocalLength = 1;
 constexpr double kLargestFocalLength = 1e5;
 constexpr double kLargestPrincipalPoint = 1e5;
@@ -22,6 +24,9 @@ constexpr qint64 kLargestFile = 64 << 20;
 void readIntrinsics(const JsonKey& key, Intrinsics* out) {
     out->width = static_cast<int>(key["width"].integer(1, kLargestSize));
     out->height = static_cast<int>(key["height"].integer(1, kLargestSize));
+    if (std::int64_t{out->width} * out->height > kMostPixels) {
+        key.refuse("more than " + std::to_string(kMostPixels) + " pixels");
+    }
     out->fx = key["fx"].number(kSmallestFocalLength, kLargestFocalLength);
     out->fy = key["fy"].number(kSmallestFocalLength, kLargestFocalLength);
     out->cx = key["cx"].number(-kLargestPrincipalPoint, kLargestPrincipalPoint);
