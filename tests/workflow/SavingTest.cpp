@@ -4,6 +4,7 @@
 #include "workflow/SaveNote.h"
 #include "workflow/Saving.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <atomic>
@@ -44,6 +45,43 @@ TEST_F(SavingTest, ANoteStandsOnDiskWhileTheOutcomeIsOpen) {
     EXPECT_FALSE(storeCalibration(*sensor, records, data.path()).stored);
     EXPECT_EQ(readSaveNote(data.path(), kSerial)->reason, sensor->writeBack().reason);
     EXPECT_TRUE(LogCapture::has("Failed to store calibration information to flash."));
+}
+
+TEST_F(SavingTest, TheNextStartDecidesByTheModulesBlock) {
+    using Outcome = LastSave::Outcome;
+    accept();
+    const KXCalibRectParameters before = device->flash;
+    ASSERT_TRUE(storeCalibration(*sensor, records, data.path()).stored);
+    ASSERT_TRUE(noteAtWrite && noteAtWrite->change);
+    EXPECT_TRUE(QFile::exists(noteAtWrite->backupFile));
+    const KXCalibRectParameters after = device->flash;
+    KXCalibRectParameters other = before;
+    other.rectificationThird[4] += 1;
+    for (const auto& [block, outcome] : {std::pair(after, Outcome::Stored), std::pair(before, Outcome::NotStored),
+                                         std::pair(other, Outcome::Neither)}) {
+        ASSERT_TRUE(writeSaveNote(data.path(), *noteAtWrite));
+        device->flash = block;
+        const auto last = settleLastSave(*sensor, data.path());
+        ASSERT_TRUE(last);
+        EXPECT_EQ(last->outcome, outcome);
+        EXPECT_FALSE(settleLastSave(*sensor, data.path())) << "told once";
+    }
+    ASSERT_TRUE(writeSaveNote(data.path(), *noteAtWrite));
+    device->failCall("rectParameters", 3 + 3 + 1, 6);
+    EXPECT_FALSE(settleLastSave(*sensor, data.path())) << "nothing is known, so nothing is said";
+    EXPECT_TRUE(readSaveNote(data.path(), kSerial)) << "it waits";
+    EXPECT_FALSE(sensor->faulted());
+}
+
+TEST_F(SavingTest, WithoutANoteOnTheDiskNothingIsWritten) {
+    accept();
+    ASSERT_TRUE(QDir(data.path()).mkpath("save-note-550101.json"));
+    const SaveResult result = storeCalibration(*sensor, records, data.path());
+    EXPECT_FALSE(result.stored);
+    EXPECT_FALSE(result.told);
+    EXPECT_FALSE(noteAtWrite) << "no call has reached the flash";
+    EXPECT_EQ(sensor->writeBack().flash, WriteBackReport::Flash::Untouched);
+    EXPECT_FALSE(sensor->faulted());
 }
 
 TEST_F(SavingTest, WithoutAnythingAcceptedBothRecordsArePassedAndNothingIsNoted) {

@@ -157,6 +157,7 @@ TEST_F(WorkflowTest, AFailedSaveIsNotedAndToldAtTheNextStart) {
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     ASSERT_TRUE(user->lastSave);
+    EXPECT_EQ(user->lastSave->outcome, LastSave::Outcome::NotStored);
     EXPECT_EQ(user->lastSave->note.reason, report.errors[0]);
     EXPECT_EQ(user->lastSave->note.flash, "The camera's flash holds the previous calibration.");
     EXPECT_TRUE(QFile::exists(user->lastSave->note.backupFile));
