@@ -2,6 +2,7 @@
 // program at the N-th call of a kind, and keeps a journal from which the folder can be rebuilt as a power cut leaves it.
 //
 //   FAILIO_FOLDERS   the folders, separated by ':'; absolute, without symbolic links
+//   FAILIO_WITNESSED folders whose calls come into the journal, too, and never fail
 //   FAILIO_KIND      open (for writing), write, fsync, rename, unlink, mkdir, or any
 //   FAILIO_NTH       which call of that kind, from 1; 0: none
 //   FAILIO_ACTION    a number: the call fails with it; die, die-after: the program ends (137) before or after the call
@@ -41,6 +42,7 @@ std::string setting(const char* name) {
 /// Never changed once it is made, so that any thread may read it.
 struct Settings {
     std::string folders = setting("FAILIO_FOLDERS") + ':', kind = setting("FAILIO_KIND");
+    std::string witnessed = folders + setting("FAILIO_WITNESSED") + ':';
     std::string action = setting("FAILIO_ACTION"), journal = setting("FAILIO_JOURNAL");
     int nth = std::atoi(setting("FAILIO_NTH").c_str());
     bool once = std::getenv("FAILIO_ONCE") != nullptr;
@@ -52,8 +54,7 @@ const Settings& settings() {
     return *made;
 }
 
-bool isWatched(const std::string& path) {
-    const std::string& folders = settings().folders;
+bool isBelow(const std::string& folders, const std::string& path) {
     for (std::size_t start = 0, end = 0; (end = folders.find(':', start)) != std::string::npos; start = end + 1) {
         const std::string folder = folders.substr(start, end - start);
         if (!folder.empty() && path.compare(0, folder.size(), folder) == 0 &&
@@ -62,6 +63,14 @@ bool isWatched(const std::string& path) {
         }
     }
     return false;
+}
+
+bool isWatched(const std::string& path) {
+    return isBelow(settings().folders, path);
+}
+
+bool isNoted(const std::string& path) {
+    return isBelow(settings().witnessed, path);
 }
 
 std::string absolute(int folder, const char* path) {
@@ -121,9 +130,9 @@ void keepSynced(const std::string& path) {
 /// One call on a watched file: counted, and acted upon when it is its turn.
 class Call {
 public:
-    Call(const char* kind, const std::string& path) : watched_(isWatched(path)) {
+    Call(const char* kind, const std::string& path) {
         const Settings& s = settings();
-        if (!watched_ || s.nth == 0 || (s.kind != "any" && s.kind != kind)) return;
+        if (!isWatched(path) || s.nth == 0 || (s.kind != "any" && s.kind != kind)) return;
         static std::atomic<int> count{0};
         const int number = ++count;
         hit_ = number == s.nth;
@@ -137,7 +146,6 @@ public:
     Call(const Call&) = delete;
     Call& operator=(const Call&) = delete;
 
-    bool watched() const { return watched_; }
     bool fails() const {
         if (settings().error() == 0 || !(hit_ || after_)) return false;
         errno = settings().error();
@@ -149,7 +157,6 @@ public:
     }
 
 private:
-    const bool watched_;
     bool hit_ = false;
     bool after_ = false;
 };
@@ -160,7 +167,7 @@ bool isForWriting(int flags) {
 
 template <typename Open>
 int openWatched(const std::string& path, int flags, const Open& open) {
-    if (!isForWriting(flags) || !isWatched(path)) return open();
+    if (!isForWriting(flags) || !isNoted(path)) return open();
     const Call call("open", path);
     if (call.fails()) return -1;
     const bool wasThere = exists(path);
@@ -182,7 +189,7 @@ int syncWatched(int descriptor, const Sync& sync) {
     const Call call("fsync", path);
     if (call.fails()) return -1;
     const int status = sync(descriptor);
-    if (call.watched() && status == 0) keepSynced(path);
+    if (status == 0 && isNoted(path)) keepSynced(path);
     return status;
 }
 
@@ -191,7 +198,7 @@ int changeWatched(const char* kind, const std::string& path, const std::string& 
     const Call call(kind, path);
     if (call.fails()) return -1;
     const int status = change();
-    if (call.watched() && status == 0) note(line);
+    if (status == 0 && isNoted(path)) note(line);
     return status;
 }
 

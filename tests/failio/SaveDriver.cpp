@@ -4,7 +4,8 @@
 //                                     does, and keeps report and history; status 0: it says that it is stored
 //   save-driver look DATA SERVICE     the next start: prints stored, not-stored, neither or none
 //
-// SERVICE is a file with the start type of the vendor's service, which is not on the disk that fails.
+// SERVICE is a file with the start type of the vendor's service, which is not on the disk that fails. SERVICE.unnoted
+// appears when the service is disabled without a note.
 #include "camera/Rotation.h"
 #include "devices/CameraParameterReader.h"
 #include "report/ReportFile.h"
@@ -20,18 +21,24 @@ namespace fieldcal::testing {
 namespace {
 
 constexpr double kTurnRad = 0.0174;
+constexpr int kAutomatic = 2, kDisabled = 4;
 
 class ServiceInFile : public FakeServiceControl {
 public:
-    explicit ServiceInFile(std::string file) : file_(std::move(file)) { std::ifstream(file_) >> startType; }
+    ServiceInFile(std::string file, std::string note) : file_(std::move(file)), note_(std::move(note)) {
+        std::ifstream(file_) >> startType;
+    }
     bool changeConfig(Handle service, std::uint32_t type, std::uint32_t start, std::uint32_t errorControl) override {
         if (!FakeServiceControl::changeConfig(service, type, start, errorControl)) return false;
         std::ofstream(file_) << startType;
+        int noted = 0;
+        std::ifstream(note_) >> noted;
+        if (startType == kDisabled && noted != kAutomatic) std::ofstream(file_ + ".unnoted") << "disabled";
         return true;
     }
 
 private:
-    const std::string file_;
+    const std::string file_, note_;
 };
 
 Rotation turned(const Rotation& rotation) {
@@ -69,8 +76,9 @@ int look(Sensor& sensor, const QString& data) {
 
 int run(const QStringList& arguments) {
     const QString data = arguments[2];
-    ServiceInFile control(arguments[3].toStdString());
-    PXMServiceManager services(control, data + "/service-note");
+    const QString note = data + "/service-note";
+    ServiceInFile control(arguments[3].toStdString(), note.toStdString());
+    PXMServiceManager services(control, note);
     SensorEnvironment environment = systemEnvironment();
     environment.services = &services;
     environment.dataFolder = data;
