@@ -5,8 +5,8 @@
 namespace fieldcal {
 
 /// Held by the one program that uses the module, its service and the notes about both, from its start to its end; the
-/// system lets go of it when the program dies. So a note that is there while this is held is a dead program's. On Windows
-/// one runs on a machine, elsewhere one in a user's session.
+/// system lets go of it when the program dies. So a note that is there while this is held is a dead program's. On
+/// Windows one runs on a machine, elsewhere one in a user's session.
 class SingleInstance {
 public:
     SingleInstance();

@@ -16,7 +16,8 @@ struct JsonFault {
 };
 
 /// Parses a JSON text. It returns false and the fault when the text is no JSON, when a key stands twice in its object,
-/// where it would be ambiguous, when the nesting is too deep, or when there are more than a million values. The fault's key is a path as in `JsonKey`.
+/// where it would be ambiguous, when the nesting is too deep, or when there are more than a million values. The fault's
+/// key is a path as in `JsonKey`.
 bool parseJson(const std::string& text, nlohmann::json* out, JsonFault* fault);
 
 /// One value of a JSON document with its key path ("frames[3].infrared"). Every accessor checks type and range. The

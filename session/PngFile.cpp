@@ -13,7 +13,7 @@
 namespace fieldcal::session {
 namespace {
 
-constexpr qint64 kLargestFile = 48 << 20;  ///< the largest picture, not compressed at all
+constexpr qint64 kLargestFile = 48 << 20;      ///< the largest picture, not compressed at all
 constexpr int kGrey = 0, kRgb = 2, kRgba = 6;  ///< colour types
 constexpr std::uint8_t kSignature[8] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1a, '\n'};
 constexpr std::size_t kFrame = 12;  ///< length, type and checksum around a chunk's data

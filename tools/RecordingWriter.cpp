@@ -118,8 +118,8 @@ bool RecordingWriter::canBePlayed(const session::FramePictures& pictures, std::s
 }
 
 bool RecordingWriter::finish(std::string* why) {
-    finished_ = session::syncPictures(folder_, description_, why) &&
-                session::writeDescription(folder_, description_, why);
+    finished_ =
+        session::syncPictures(folder_, description_, why) && session::writeDescription(folder_, description_, why);
     return finished_;
 }
 

@@ -11,13 +11,14 @@
 namespace fieldcal {
 
 /// That a calibration was to be stored. It stands on disk from before the write until the module has confirmed it; a
-/// note that is found at a start means that a save did not come to its end, and the module's block says how far it came.
+/// note that is found at a start means that a save did not come to its end, and the module's block says how far it
+/// came.
 struct SaveNote {
     std::uint32_t serial = 0;
     QDateTime begun;
-    QString reason;      ///< why it failed; empty when the program ended before it knew
-    QString flash;       ///< what the module said its flash held
-    QString backupFile;  ///< the block that was there before; may be empty
+    QString reason;                     ///< why it failed; empty when the program ended before it knew
+    QString flash;                      ///< what the module said its flash held
+    QString backupFile;                 ///< the block that was there before; may be empty
     std::optional<BlockChange> change;  ///< none: nothing had been sent to the flash
 };
 

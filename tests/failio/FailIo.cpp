@@ -1,5 +1,6 @@
 // A library to be preloaded: the disk under a program, as far as files below some folders go. It fails or ends the
-// program at the N-th call of a kind, and keeps a journal from which the folder can be rebuilt as a power cut leaves it.
+// program at the N-th call of a kind, and keeps a journal from which the folder can be rebuilt as a power cut leaves
+// it.
 //
 //   FAILIO_FOLDERS   the folders, separated by ':'; absolute, without symbolic links
 //   FAILIO_WITNESSED folders whose calls come into the journal, too, and never fail

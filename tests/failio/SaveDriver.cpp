@@ -1,6 +1,7 @@
 // The application's save without its screen, on the simulated module, for a disk that fails:
 //
-//   save-driver save DATA SERVICE     opens the module, turns the in-module camera by a degree, stores as the application
+//   save-driver save DATA SERVICE     opens the module, turns the in-module camera by a degree, stores as the
+//   application
 //                                     does, and keeps report and history; status 0: it says that it is stored
 //   save-driver look DATA SERVICE     the next start: prints stored, not-stored, neither or none
 //
