@@ -2,6 +2,7 @@
 
 #include "devices/CameraParameterReader.h"
 #include "devices/PlatformCameraSetup.h"
+#include "devices/ServiceControl.h"
 #include "kxapi/Library.h"
 #include "tools/Console.h"
 
@@ -56,7 +57,8 @@ void makeOpaque(ImageFrame32* picture) {
 }  // namespace
 
 bool ConnectedModule::open(bool rearCamera, QString* why) {
-    if (!usesSimulatedLibraries()) instance_ = std::make_unique<SingleInstance>();
+    const bool disablesService = !usesSimulatedLibraries() && !serviceNoteFile().isEmpty();
+    if (disablesService) instance_ = std::make_unique<SingleInstance>();
     if (instance_ != nullptr && !instance_->isFirst()) {
         *why = kAnotherProgram;
         return false;

@@ -47,7 +47,7 @@ private:
     bool describePlatform(session::PlatformCamera* out);
     bool failed(QString* why, const char* otherwise) const;
 
-    std::unique_ptr<SingleInstance> instance_;  ///< not with the simulated module, of which everybody has one
+    std::unique_ptr<SingleInstance> instance_;  ///< where the vendor's service is disabled meanwhile, and noted
     SensorReports reports_;
     std::unique_ptr<Sensor> sensor_;
 };

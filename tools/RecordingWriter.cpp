@@ -70,7 +70,7 @@ RecordingWriter::~RecordingWriter() {
             if (!name.empty()) QFile::remove(folder + QString::fromStdString(name));
         }
     }
-    QFile::remove(folder + "session.json");
+    if (describing_) QFile::remove(folder + "session.json");
     if (madeFolder_) QDir().rmdir(folder);
 }
 
@@ -118,8 +118,9 @@ bool RecordingWriter::canBePlayed(const session::FramePictures& pictures, std::s
 }
 
 bool RecordingWriter::finish(std::string* why) {
-    finished_ =
-        session::syncPictures(folder_, description_, why) && session::writeDescription(folder_, description_, why);
+    if (!session::syncPictures(folder_, description_, why)) return false;
+    describing_ = true;
+    finished_ = session::writeDescription(folder_, description_, why);
     return finished_;
 }
 
