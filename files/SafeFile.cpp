@@ -97,9 +97,9 @@ bool appendLines(const std::string& file, const std::string& heading, const std:
 bool syncFiles(const std::string& folder, const std::vector<std::string>& names, std::string* why) {
     for (const std::string& name : names) {
         SystemFile file;
-        if (!file.openToSync(folder + '/' + name) || !file.sync() || !file.close()) {
-            return refuse(folder + '/' + name, file.reason(), why);
-        }
+        std::string path = folder;
+        path.append("/").append(name);
+        if (!file.openToSync(path) || !file.sync() || !file.close()) return refuse(path, file.reason(), why);
     }
     std::string reason;
     return syncFolder(folder, &reason) || refuse(folder, reason, why);

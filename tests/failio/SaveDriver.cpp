@@ -76,7 +76,7 @@ int look(Sensor& sensor, const QString& data) {
 }
 
 int run(const QStringList& arguments) {
-    const QString data = arguments[2];
+    const QString& data = arguments[2];
     const QString note = data + "/service-note";
     ServiceInFile control(arguments[3].toStdString(), note.toStdString());
     PXMServiceManager services(control, note);
