@@ -5,7 +5,9 @@
 
 #include <array>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
+#include <system_error>
 
 namespace vq {
 namespace {
@@ -61,6 +63,14 @@ void fromLittleEndian(const FieldBytes& bytes, Field* field) {
     std::memcpy(field, &bits, sizeof bits);
 }
 
+/// Whether a file of this name can be at all: its folder is there, and it is no folder itself.
+bool hasPlace(const std::string& path) {
+    std::error_code error;
+    const auto file = std::filesystem::u8path(path);
+    const auto folder = file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
+    return std::filesystem::is_directory(folder, error) && !std::filesystem::is_directory(file, error);
+}
+
 CameraRecord recordOf(const fieldcal::CameraModel& model) {
     return {model.width, model.height, model.fx, model.fy, model.cx, model.cy};
 }
@@ -76,7 +86,11 @@ bool CalibrationState::writeToFile(const std::string& path) const {
         return true;
     });
     if (fieldcal::writeFile(path, content.data(), content.size(), &why)) return true;
-    logMessage(kError, kOperation, "%s", why.c_str());
+    if (hasPlace(path)) {
+        logMessage(kError, kOperation, "%s", why.c_str());
+    } else {
+        logMessage(kError, kOperation, "Could not open file");
+    }
     return false;
 }
 
