@@ -2,7 +2,7 @@
 
 #include "app/GlobalManager.h"
 #include "app/LogFile.h"
-#include "app/SingleInstance.h"
+#include "devices/SingleInstance.h"
 #include "render/FixedFunctionGl.h"
 
 #include <memory>

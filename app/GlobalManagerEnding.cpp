@@ -28,6 +28,11 @@ void GlobalManager::saveAndQuit(Storing storing) {
     endProcessing(Stop::ToSave);
     const LeaveReport report = workflow_.save(storing);
     const bool quiet = finishEnding("slot_saveAndQuit", report);
+    if (!report.stored && !report.told) {
+        // Nothing on the disk will say so at the next start.
+        exitCode_ = 1;
+        environment_.showCritical(kErrorTitle, interfaceText(texts::kLastSaveFailed));
+    }
     if (!report.stored || !quiet) {
         QCoreApplication::quit();
         return;

@@ -83,9 +83,19 @@ void WorkflowBridge::singleCameraOnly() {
     functions_.forceSingleCameraCalibration();
 }
 
-void WorkflowBridge::lastSaveFailed(const SaveNote& note) {
-    qInfo("The last calibration was not stored: %s %s", qUtf8Printable(note.reason), qUtf8Printable(note.flash));
-    functions_.showLastSaveFailed(interfaceText(texts::kLastSaveFailed));
+void WorkflowBridge::lastSaveSettled(const LastSave& last) {
+    const auto textOf = [](LastSave::Outcome outcome) {
+        switch (outcome) {
+            case LastSave::Outcome::Stored:
+                return texts::kSaved;
+            case LastSave::Outcome::Neither:
+                return texts::kLastSaveGarbled;
+            case LastSave::Outcome::NotStored:
+                break;
+        }
+        return texts::kLastSaveFailed;
+    };
+    functions_.showLastSaveFailed(interfaceText(textOf(last.outcome)));
 }
 
 void WorkflowBridge::deviceError(const QString& text) {

@@ -37,7 +37,7 @@ public:
     void solutionFound(ColourCamera camera, const CameraParameters& factory, const Rotation& estimated,
                        const FoundTurn& turn) override;
     void singleCameraOnly() override;
-    void lastSaveFailed(const SaveNote& note) override;
+    void lastSaveSettled(const LastSave& last) override;
     void deviceError(const QString& text) override;
     void missingModule() override;
     void missingPlatformCamera() override;

@@ -13,7 +13,7 @@ namespace fieldcal {
 namespace {
 
 using Block = KXCalibRectParameters;
-using Bytes = std::bitset<sizeof(Block)>;
+using Bytes = BlockBytes;
 using Flash = WriteBackReport::Flash;
 
 /// Largest difference between a rotation that the module reports and the one written: several roundings to 32 bits.
@@ -184,7 +184,7 @@ bool CalibrationWriter::prepare(const std::function<bool(QString* why)>& makeWan
     qInfo("The present calibration is kept in %s", qUtf8Printable(report_.backupFile));
     if (!makeWanted(&why)) return refuse(why);
     access_ = link_.ask([device] { return device->privateInterface(); });
-    return access_ != nullptr || failed();
+    return access_ != nullptr ? announce() : failed();
 }
 
 /// Sets one camera's rotation in the wanted block, expressed between the raw frames as the companion library expects
@@ -201,6 +201,13 @@ bool CalibrationWriter::turn(KXUpdateRotationFunction function, const Rotation& 
     counting_ |= *fields;
     wanted_ = *out;
     return true;
+}
+
+bool CalibrationWriter::announce() {
+    QString why;
+    const BlockChange change = BlockChange::between(previous_, wanted_, counting_);
+    return !beforeWrite_ || beforeWrite_(change, report_.backupFile, &why) ||
+           refuse("Nothing is written to the camera: " + why);
 }
 
 bool CalibrationWriter::write() {

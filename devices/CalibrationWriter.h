@@ -1,13 +1,14 @@
 #pragma once
 
 #include "camera/Rotation.h"
+#include "devices/BlockChange.h"
 #include "devices/ModuleLink.h"
 
 #include <QString>
 
-#include <bitset>
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace fieldcal {
 
@@ -34,6 +35,10 @@ struct WriteBackReport {
 /// One line for the user and for logs.
 QString flashText(const WriteBackReport& report);
 
+/// Called when the backup is on the disk, before the first call that reaches the flash; also when no byte has to
+/// change. Returns false, with one line in `why`, when nothing may be written.
+using BeforeWrite = std::function<bool(const BlockChange& change, const QString& backupFile, QString* why)>;
+
 /// Replaces the module's parameter block: saves the present block to a file, writes the new one, reads it back, makes
 /// the module reload it, and reads it back again. The comparison covers what this program means to change: the fields
 /// that the companion library writes, the three matrices, and the rotations that the module then reports. All other
@@ -43,6 +48,8 @@ QString flashText(const WriteBackReport& report);
 class CalibrationWriter {
 public:
     CalibrationWriter(ModuleLink& link, KXThirdCamera* third, std::uint32_t serial, QString backupFolder);
+
+    void setBeforeWrite(BeforeWrite before) { beforeWrite_ = std::move(before); }
 
     /// Both return true when the module keeps and reports the wanted values. Values that the flash already holds are
     /// not written again. A failed call, and a module that does not keep the block, have been reported by the link;
@@ -54,11 +61,12 @@ public:
 
 private:
     using Block = KXCalibRectParameters;
-    using Bytes = std::bitset<sizeof(Block)>;
+    using Bytes = BlockBytes;
 
     bool run(const std::function<bool(QString* why)>& makeWanted);
     bool prepare(const std::function<bool(QString* why)>& makeWanted);
     bool turn(KXUpdateRotationFunction function, const Rotation& rotation, const float* rectifyColour);
+    bool announce();
     bool write();
     bool readAgain();
     void readQuietly();
@@ -76,6 +84,7 @@ private:
     KXThirdCamera* third_;
     const std::uint32_t serial_;
     const QString backupFolder_;
+    BeforeWrite beforeWrite_;
     WriteBackReport report_;
     Block previous_{};
     Block wanted_{};

@@ -66,7 +66,8 @@ bool PXMServiceManager::shutdownPXMService() {
     _previousServiceStatus = readState();
     if (_previousServiceStatus == kFailed) return false;
     qInfo("PXMServiceManager::_previousServiceStatus = %i in shutdown", decimal(_previousServiceStatus));
-    const bool noted = !serviceMissing && rememberStartType();
+    bool noted = false;
+    if (!serviceMissing && !rememberStartType(&noted)) return false;
     if (!changeStartType(kDisabled)) {
         // Nothing was disabled. The note is removed so that a later run does not undo what another program disabled
         // meanwhile.
@@ -101,16 +102,17 @@ bool PXMServiceManager::restorePXMService() {
     return true;
 }
 
-bool PXMServiceManager::rememberStartType() {
+bool PXMServiceManager::rememberStartType(bool* noted) {
     if (_previousServiceStartType != kDisabled) {
-        note_.keep(_previousServiceStartType);
-        return true;
+        *noted = note_.keep(_previousServiceStartType, &lastError_);
+        if (!*noted) note_.drop();
+        return *noted;
     }
     if (const std::optional<std::uint32_t> kept = note_.kept()) {
         qInfo("An earlier run left the service disabled; its start type was %i", decimal(*kept));
         _previousServiceStartType = *kept;
     }
-    return false;
+    return true;
 }
 
 bool PXMServiceManager::restoreStartType() {

@@ -36,7 +36,7 @@ public:
     /// Stops (1) or starts (4) the service and waits until it has that state.
     bool driveTo(std::uint32_t wantedState);
 
-    /// "number: (call) ==> text" of the last failure; empty until something fails.
+    /// "number: (call) ==> text" of the last failure, or which file could not be kept; empty until something fails.
     QString lastError() const { return lastError_; }
 
     /// The wait for the service also ends, as a failure, once `*stop` is true. Null disables this.
@@ -48,8 +48,8 @@ private:
 
     Opened openService(OpenedService* opened, std::uint32_t access, const char* nameInError);
     std::uint32_t readStartType();
-    /// Returns whether this call wrote the note.
-    bool rememberStartType();
+    /// Returns false when the note is not on the disk. `noted` receives whether this call wrote it.
+    bool rememberStartType(bool* noted);
     bool restoreStartType();
     std::uint32_t readState();
     bool changeStartType(std::uint32_t startType);

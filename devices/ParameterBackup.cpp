@@ -1,15 +1,15 @@
 #include "devices/ParameterBackup.h"
 
 #include "camera/Rotation.h"
+#include "files/SafeFile.h"
 
 #include <QCryptographicHash>
-#include <QDir>
 #include <QFile>
-#include <QSaveFile>
 #include <QtEndian>
 
 #include <algorithm>
 #include <cstring>
+#include <string>
 
 namespace fieldcal {
 namespace {
@@ -80,7 +80,11 @@ const char* matrixThatIsNoRotation(const KXCalibRectParameters& block, bool with
 }
 
 bool keepBackup(const QString& folder, const ParameterBackup& backup, QString* file, QString* why) {
-    if (!QDir().mkpath(folder)) return refuse(folder, "the folder cannot be made", why);
+    std::string reason;
+    if (!makeFolders(folder.toStdString(), &reason)) {
+        *why = QString::fromStdString(reason);
+        return false;
+    }
     const QString stem =
         folder + '/' + QString::number(backup.serial) + backup.taken.toUTC().toString("'-'yyyyMMdd'T'HHmmsszzz'Z'");
     QString free = stem + ".fcbackup";
@@ -94,12 +98,15 @@ bool keepBackup(const QString& folder, const ParameterBackup& backup, QString* f
 bool writeBackup(const QString& file, const ParameterBackup& backup, QString* why) {
     if (QFile::exists(file)) return refuse(file, "there is a file already", why);
     const QByteArray bytes = encoded(backup);
-    QSaveFile target(file);
-    if (!target.open(QIODevice::WriteOnly) || target.write(bytes) != bytes.size() || !target.commit()) {
-        return refuse(file, target.errorString(), why);
+    std::string reason;
+    if (!fieldcal::writeFile(file.toStdString(), bytes.constData(), static_cast<std::size_t>(bytes.size()), &reason)) {
+        *why = QString::fromStdString(reason);
+        QFile::remove(file);  // which was not there, and may not stay
+        return false;
     }
     QFile written(file);
     if (!written.open(QIODevice::ReadOnly) || written.readAll() != bytes) {
+        written.remove();
         return refuse(file, "it does not hold what was written", why);
     }
     return true;

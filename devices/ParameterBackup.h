@@ -18,8 +18,9 @@ struct ParameterBackup {
     KXCalibRectParameters block{};
 };
 
-/// Writes a new file into `folder`, which is created if needed: a temporary file is written, synced, renamed and read
-/// back. `file` receives its path, made of the serial number and the date. Returns false with the reason in `why`
+/// Writes a new file into `folder`, which is created if needed: a temporary file is written, synced and renamed, its
+/// folder is synced, and the file is read back. `file` receives its path, made of the serial number and the date.
+/// Returns false with the reason in `why`
 /// ("FILE: reason").
 bool keepBackup(const QString& folder, const ParameterBackup& backup, QString* file, QString* why);
 

@@ -183,7 +183,7 @@ void Sensor::closePlatformCamera() {
     letGo(std::move(platformCamera_), environment_.limits.call, link_.stopRequested());
 }
 
-bool Sensor::updateRotation(const Rotation& third, const Rotation& platform) {
+bool Sensor::updateRotation(const Rotation& third, const Rotation& platform, const BeforeWrite& beforeWrite) {
     writeBack_ = {};
     if (!mayWrite()) return false;
     if (!rotationsInFlash_) return refuseToWrite("its parameters have not been read");
@@ -199,7 +199,11 @@ bool Sensor::updateRotation(const Rotation& third, const Rotation& platform) {
         return refuseToWrite("the out-of-module rotation is no rotation");
     }
     const StoredRotations wanted{third, present.platform ? std::optional(platform) : std::nullopt};
-    if (!write([&](CalibrationWriter& writer) { return writer.writeRotations(present, wanted); })) return false;
+    const auto writeBoth = [&](CalibrationWriter& writer) {
+        writer.setBeforeWrite(beforeWrite);
+        return writer.writeRotations(present, wanted);
+    };
+    if (!write(writeBoth)) return false;
     rotationsInFlash_ = wanted;
     return true;
 }

@@ -81,7 +81,7 @@ public:
     /// succeeded and the module holds and reports the rotations. Refused, without a call, unless the sensor is open,
     /// the calibration has been read, and every matrix that differs from the module's is a rotation within 1e-4.
     /// `platform` is used only when the platform camera's calibration has been read.
-    bool updateRotation(const Rotation& third, const Rotation& platform);
+    bool updateRotation(const Rotation& third, const Rotation& platform, const BeforeWrite& beforeWrite = {});
 
     /// Writes a whole block, as kept by `ParameterBackup`, in the same way. The calibration need not have been read.
     bool restoreParameters(const KXCalibRectParameters& block);

@@ -1,9 +1,11 @@
 #include "devices/ServiceNote.h"
 
-#include <QDir>
+#include "files/SafeFile.h"
+
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+
+#include <string>
 
 namespace fieldcal {
 namespace {
@@ -14,13 +16,15 @@ constexpr qint64 kLargestNote = 16;
 
 }  // namespace
 
-void ServiceNote::keep(std::uint32_t startType) const {
-    if (file_.isEmpty()) return;
-    const QByteArray text = QByteArray::number(startType) + '\n';
-    QSaveFile file(file_);
-    const bool written = QDir().mkpath(QFileInfo(file_).path()) && file.open(QIODevice::WriteOnly) &&
-                         file.write(text) == text.size() && file.commit();
-    if (!written) qCritical("%s: %s", qUtf8Printable(file_), qUtf8Printable(file.errorString()));
+bool ServiceNote::keep(std::uint32_t startType, QString* why) const {
+    if (file_.isEmpty()) return true;
+    const std::string text = std::to_string(startType) + '\n';
+    std::string reason;
+    const bool written = makeFolders(QFileInfo(file_).path().toStdString(), &reason) &&
+                         writeFile(file_.toStdString(), text.data(), text.size(), &reason);
+    *why = QString::fromStdString(reason);
+    if (!written) qCritical("%s", reason.c_str());
+    return written;
 }
 
 std::optional<std::uint32_t> ServiceNote::kept() const {
@@ -34,9 +38,9 @@ std::optional<std::uint32_t> ServiceNote::kept() const {
 }
 
 void ServiceNote::drop() const {
-    QFile file(file_);
-    if (file_.isEmpty() || !file.exists() || file.remove()) return;
-    qCritical("%s: %s", qUtf8Printable(file_), qUtf8Printable(file.errorString()));
+    std::string why;
+    if (file_.isEmpty() || removeFile(file_.toStdString(), &why)) return;
+    qCritical("%s", why.c_str());
 }
 
 }  // namespace fieldcal

@@ -1,10 +1,13 @@
 #include "engine/CalibrationState.h"
 
 #include "diagnostics/Logger.h"
+#include "files/SafeFile.h"
 
 #include <array>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
+#include <system_error>
 
 namespace vq {
 namespace {
@@ -60,6 +63,14 @@ void fromLittleEndian(const FieldBytes& bytes, Field* field) {
     std::memcpy(field, &bits, sizeof bits);
 }
 
+/// Whether a file of this name can be at all: its folder is there, and it is no folder itself.
+bool hasPlace(const std::string& path) {
+    std::error_code error;
+    const auto file = std::filesystem::u8path(path);
+    const auto folder = file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
+    return std::filesystem::is_directory(folder, error) && !std::filesystem::is_directory(file, error);
+}
+
 CameraRecord recordOf(const fieldcal::CameraModel& model) {
     return {model.width, model.height, model.fx, model.fy, model.cx, model.cy};
 }
@@ -68,18 +79,18 @@ CameraRecord recordOf(const fieldcal::CameraModel& model) {
 
 bool CalibrationState::writeToFile(const std::string& path) const {
     constexpr const char* kOperation = "CalibrationState::writeToFile";
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    if (!file.is_open()) {
-        logMessage(kError, kOperation, "Could not open file");
-        return false;
-    }
-    visitState(*this, [&file](const std::string&, const auto& field) {
+    std::string content, why;
+    visitState(*this, [&content](const std::string&, const auto& field) {
         const FieldBytes bytes = littleEndian(field);
-        return static_cast<bool>(file.write(bytes.data(), bytes.size()));
+        content.append(bytes.data(), bytes.size());
+        return true;
     });
-    file.close();
-    if (file) return true;
-    logMessage(kError, kOperation, "%s: cannot be written", path.c_str());
+    if (fieldcal::writeFile(path, content.data(), content.size(), &why)) return true;
+    if (hasPlace(path)) {
+        logMessage(kError, kOperation, "%s", why.c_str());
+    } else {
+        logMessage(kError, kOperation, "Could not open file");
+    }
     return false;
 }
 

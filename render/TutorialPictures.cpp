@@ -1,10 +1,13 @@
 #include "render/TutorialPictures.h"
 
+#include "files/SafeFile.h"
+
 #include <QDebug>
 #include <QFile>
 #include <QImage>
-#include <QSaveFile>
 #include <QtEndian>
+
+#include <string>
 
 namespace fieldcal {
 namespace {
@@ -81,10 +84,10 @@ bool write(const QString& path, const ImageFrame& frame, const QByteArray& pixel
     QByteArray header(kHeaderBytes, '\0');
     qToLittleEndian(static_cast<qint32>(frame.width()), header.data());
     qToLittleEndian(static_cast<qint32>(frame.height()), header.data() + 4);
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(header + pixels) == kHeaderBytes + pixels.size() && file.commit())
-        return true;
-    qCritical("Could not write %s: %s", qPrintable(path), qPrintable(file.errorString()));
+    const QByteArray bytes = header + pixels;
+    std::string why;
+    if (writeFile(path.toStdString(), bytes.constData(), static_cast<std::size_t>(bytes.size()), &why)) return true;
+    qCritical("Could not write %s", why.c_str());
     return false;
 }
 

@@ -1,9 +1,10 @@
 #include "report/History.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include "files/SafeFile.h"
+
 #include <QStringList>
+
+#include <string>
 
 namespace fieldcal {
 namespace {
@@ -50,34 +51,16 @@ QByteArray lineOf(const ServiceReport& report, const ReportedCamera& camera) {
     return fields.join(',').toUtf8() + '\n';
 }
 
-/// Appends whole lines. On a failure the file is truncated to its previous size.
-bool append(QFile* file, const QByteArray& lines) {
-    if (!file->open(QIODevice::ReadWrite)) return false;
-    const qint64 size = file->size();
-    QByteArray text = lines;
-    if (size == 0) {
-        text.prepend(kHeader);
-    } else if (!file->seek(size - 1) || file->read(1) != "\n") {
-        text.prepend('\n');  // ends a line that an earlier program left incomplete
-    }
-    if (file->seek(size) && file->write(text) == text.size() && file->flush()) return true;
-    file->resize(size);
-    return false;
-}
-
 }  // namespace
 
 bool appendHistory(const QString& folder, const ServiceReport& report) {
     QByteArray lines;
     for (const ReportedCamera& camera : report.cameras)
         lines += lineOf(report, camera);
-    const QString path = folder + "/history.csv";
-    QFile file(path);
-    // Opening a pipe would block until another process reads from it.
-    const bool possible = QDir().mkpath(folder) && (!QFileInfo::exists(path) || QFileInfo(path).isFile());
-    if (possible && append(&file, lines)) return true;
-    qCritical("%s: the history of calibrations cannot be continued: %s", qUtf8Printable(path),
-              qUtf8Printable(file.errorString()));
+    const std::string path = (folder + "/history.csv").toStdString();
+    std::string why;
+    if (makeFolders(folder.toStdString(), &why) && appendLines(path, kHeader, lines.toStdString(), &why)) return true;
+    qCritical("%s: the history of calibrations cannot be continued: %s", path.c_str(), why.c_str());
     return false;
 }
 

@@ -1,30 +1,29 @@
 #include "report/ReportFile.h"
 
+#include "files/SafeFile.h"
 #include "report/History.h"
 #include "report/ReportPage.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QSaveFile>
+#include <string>
 
 namespace fieldcal {
 
 bool writeReport(const QString& path, const ServiceReport& report, QString* why) {
     const QByteArray page = reportPage(report);
-    QSaveFile file(path);
-    // The explicit flush detects a full disk, which `commit` alone does not report.
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(page) == page.size() && file.flush() &&
-                         file.size() == page.size() && file.commit();
-    if (!written) *why = path + ": " + file.errorString();
+    std::string reason;
+    const bool written =
+        writeFile(path.toStdString(), page.constData(), static_cast<std::size_t>(page.size()), &reason);
+    *why = QString::fromStdString(reason);
     return written;
 }
 
 void keepReport(const QString& folder, const ServiceReport& report) {
     const QString name =
         QString::number(report.serial) + report.time.toUTC().toString("'-'yyyyMMdd'T'HHmmsszzz'Z.html'");
-    QDir().mkpath(folder + "/reports");
-    QString why;
-    if (!writeReport(folder + "/reports/" + name, report, &why))
+    std::string reason;
+    const bool possible = makeFolders((folder + "/reports").toStdString(), &reason);
+    QString why = QString::fromStdString(reason);
+    if (!possible || !writeReport(folder + "/reports/" + name, report, &why))
         qCritical("The report of the calibration cannot be kept: %s", qUtf8Printable(why));
     appendHistory(folder, report);
 }

@@ -10,6 +10,8 @@ namespace {
 using nlohmann::json;
 
 constexpr double kLargestSize = 8192;
+/// Of one picture. A frame has up to five, and they are decoded by way of copies.
+constexpr std::int64_t kMostPixels = 8 << 20;
 constexpr double kSmallestFocalLength = 1;
 constexpr double kLargestFocalLength = 1e5;
 constexpr double kLargestPrincipalPoint = 1e5;
@@ -22,6 +24,9 @@ constexpr qint64 kLargestFile = 64 << 20;
 void readIntrinsics(const JsonKey& key, Intrinsics* out) {
     out->width = static_cast<int>(key["width"].integer(1, kLargestSize));
     out->height = static_cast<int>(key["height"].integer(1, kLargestSize));
+    if (std::int64_t{out->width} * out->height > kMostPixels) {
+        key.refuse("more than " + std::to_string(kMostPixels) + " pixels");
+    }
     out->fx = key["fx"].number(kSmallestFocalLength, kLargestFocalLength);
     out->fy = key["fy"].number(kSmallestFocalLength, kLargestFocalLength);
     out->cx = key["cx"].number(-kLargestPrincipalPoint, kLargestPrincipalPoint);
@@ -119,9 +124,10 @@ FrameEntry frameEntry(const JsonKey& key, bool hasPlatform) {
 std::vector<FrameEntry> frameList(const JsonKey& key, bool hasPlatform) {
     std::vector<FrameEntry> out;
     double grabs = 0;
-    for (const JsonKey& item : key.elements()) {
+    for (const JsonKey& item : key.elements(kMostFrames)) {
         out.push_back(frameEntry(item, hasPlatform));
         grabs += out.back().repeat;
+        if (key.anyFault()) return out;
     }
     if (out.empty()) key.refuse("no frame");
     if (grabs > kLargestGrabCount) key.refuse("more than 1000000000 grabs together");
@@ -228,7 +234,11 @@ bool readDescription(const std::string& folder, SessionDescription* out, std::st
     const std::string name = descriptionFile(folder);
     QFile file;
     if (!openInput(name, {}, kLargestFile, &file, why)) return false;
-    return parseDescription(file.readAll().toStdString(), name, out, why);
+    std::string text(static_cast<std::size_t>(file.size()), '\0');
+    if (file.read(text.data(), static_cast<qint64>(text.size())) != static_cast<qint64>(text.size())) {
+        return refuse(why, name, {}, "cannot be read");
+    }
+    return parseDescription(text, name, out, why);
 }
 
 bool writeDescription(const std::string& folder, const SessionDescription& session, std::string* why) {

@@ -1,18 +1,24 @@
 #include "session/Files.h"
 
-#include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace fieldcal::session {
 
-bool refuse(std::string* why, const std::string& file, const std::string& key, const std::string& reason) {
+namespace {
+
+bool refuseLine(std::string* why, const std::string& line) {
     if (why == nullptr) return false;
-    *why = file + ": " + (key.empty() ? std::string() : key + ": ") + reason;
+    *why = line;
     for (char& c : *why) {
         if (static_cast<unsigned char>(c) < 0x20 || c == 0x7f) c = '?';
     }
     return false;
+}
+
+}  // namespace
+
+bool refuse(std::string* why, const std::string& file, const std::string& key, const std::string& reason) {
+    return refuseLine(why, file + ": " + (key.empty() ? std::string() : key + ": ") + reason);
 }
 
 bool openInput(const std::string& name, const std::string& key, qint64 largestBytes, QFile* file, std::string* why) {
@@ -24,18 +30,15 @@ bool openInput(const std::string& name, const std::string& key, qint64 largestBy
            refuse(why, name, key, "larger than " + std::to_string(largestBytes >> 20) + " MiB");
 }
 
-bool writeOutput(const std::string& name, const void* bytes, std::size_t size, std::string* why) {
-    QSaveFile file(QString::fromStdString(name));
-    const auto length = static_cast<qint64>(size);
-    if (file.open(QIODevice::WriteOnly) && file.write(static_cast<const char*>(bytes), length) == length &&
-        file.commit()) {
-        return true;
-    }
-    return refuse(why, name, {}, file.errorString().toStdString());
+bool writeOutput(const std::string& name, const void* bytes, std::size_t size, std::string* why,
+                 Durability durability) {
+    std::string reason;
+    return fieldcal::writeFile(name, bytes, size, &reason, durability) || refuseLine(why, reason);
 }
 
 bool makeFolder(const std::string& folder, std::string* why) {
-    return QDir().mkpath(QString::fromStdString(folder)) || refuse(why, folder, {}, "the folder cannot be created");
+    std::string reason;
+    return makeFolders(folder, &reason) || refuseLine(why, reason);
 }
 
 }  // namespace fieldcal::session

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "files/SafeFile.h"
+
 #include <QFile>
 
 #include <string>
@@ -14,8 +16,10 @@ bool refuse(std::string* why, const std::string& file, const std::string& key, c
 /// never answer and a device never end. A failure returns false and `why`.
 bool openInput(const std::string& name, const std::string& key, qint64 largestBytes, QFile* file, std::string* why);
 
-/// Writes a whole file. When that fails, a file of this name stays as it was, and false and `why` are returned.
-bool writeOutput(const std::string& name, const void* bytes, std::size_t size, std::string* why);
+/// Writes a whole file as `fieldcal::writeFile` does. When that fails, a file of this name stays as it was, and false
+/// and `why` are returned.
+bool writeOutput(const std::string& name, const void* bytes, std::size_t size, std::string* why,
+                 Durability durability = Durability::Now);
 
 /// Makes the folder and its missing parents. Returns false and `why` when that fails.
 bool makeFolder(const std::string& folder, std::string* why);

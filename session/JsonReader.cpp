@@ -15,6 +15,8 @@ using nlohmann::json;
 constexpr double kRotationTolerance = 1e-4;
 /// A recording needs five levels; a hostile text may have millions.
 constexpr std::size_t kDeepest = 1024;
+/// The largest recording has fewer. A value may take a hundred bytes of memory, and a hostile text has two bytes each.
+constexpr std::size_t kMostValues = 1000000;
 constexpr std::size_t kLongestKey = 200;  ///< that a refusal names in full
 constexpr int kNumberOverflow = 406;      ///< as the library numbers its errors
 
@@ -33,12 +35,12 @@ class DocumentBuilder final : public json::json_sax_t {
 public:
     DocumentBuilder(json* root, JsonFault* fault) : root_(root), fault_(fault) {}
 
-    bool null() override { return put(nullptr) != nullptr; }
-    bool boolean(bool value) override { return put(value) != nullptr; }
-    bool number_integer(std::int64_t value) override { return put(value) != nullptr; }
-    bool number_unsigned(std::uint64_t value) override { return put(value) != nullptr; }
-    bool number_float(double value, const std::string&) override { return put(value) != nullptr; }
-    bool string(std::string& value) override { return put(std::move(value)) != nullptr; }
+    bool null() override { return add(nullptr); }
+    bool boolean(bool value) override { return add(value); }
+    bool number_integer(std::int64_t value) override { return add(value); }
+    bool number_unsigned(std::uint64_t value) override { return add(value); }
+    bool number_float(double value, const std::string&) override { return add(value); }
+    bool string(std::string& value) override { return add(std::move(value)); }
     bool binary(json::binary_t&) override { return refuse("not JSON: binary data"); }
     bool start_object(std::size_t) override { return open(json::object()); }
     bool start_array(std::size_t) override { return open(json::array()); }
@@ -62,6 +64,12 @@ private:
         std::string key;  ///< of the member that is being read
     };
 
+    bool mayHoldMore() {
+        return ++values_ <= kMostValues || refuse("more than " + std::to_string(kMostValues) + " values");
+    }
+
+    bool add(json value) { return mayHoldMore() && put(std::move(value)) != nullptr; }
+
     /// Puts a value where the next one belongs; gives its place.
     json* put(json value) {
         if (open_.empty()) {
@@ -80,6 +88,7 @@ private:
 
     bool open(json value) {
         if (open_.size() == kDeepest) return refuse("not JSON: nested deeper than " + std::to_string(kDeepest));
+        if (!mayHoldMore()) return false;
         open_.push_back({put(std::move(value)), {}});
         return true;
     }
@@ -112,6 +121,7 @@ private:
     json* root_;
     JsonFault* fault_;
     std::vector<Level> open_;
+    std::size_t values_ = 0;
 };
 
 std::string shown(double value) {
@@ -156,9 +166,17 @@ bool JsonKey::has(const char* name) const {
     return expect(&json::is_object, "an object") && value_->contains(name);
 }
 
-std::vector<JsonKey> JsonKey::elements() const {
+std::size_t JsonKey::size() const {
+    return expect(&json::is_array, "a list") ? value_->size() : 0;
+}
+
+std::vector<JsonKey> JsonKey::elements(std::size_t most) const {
     std::vector<JsonKey> out;
     if (!expect(&json::is_array, "a list")) return out;
+    if (value_->size() > most) {
+        refuse("more than " + std::to_string(most) + " elements");
+        return out;
+    }
     out.reserve(value_->size());
     for (const json& element : *value_)
         out.push_back({&element, fault_, path_ + "[" + std::to_string(out.size()) + "]"});

@@ -17,7 +17,8 @@ struct JsonFault {
 };
 
 /// Parses a JSON text. It returns false and the fault when the text is no JSON, when a key stands twice in its object,
-/// where it would be ambiguous, or when the nesting is too deep. The fault's key is a path as in `JsonKey`.
+/// where it would be ambiguous, when the nesting is too deep, or when there are more than a million values. The fault's
+/// key is a path as in `JsonKey`.
 bool parseJson(const std::string& text, nlohmann::json* out, JsonFault* fault);
 
 /// One value of a JSON document with its key path ("frames[3].infrared"). Every accessor checks type and range. The
@@ -31,8 +32,8 @@ public:
     JsonKey operator[](const char* name) const;
     /// Whether an object has the key; a fault when this is no object.
     bool has(const char* name) const;
-    /// The elements of an array.
-    std::vector<JsonKey> elements() const;
+    /// The elements of an array; none, and a fault, when there are more than `most`.
+    std::vector<JsonKey> elements(std::size_t most) const;
 
     double number(double lowest, double highest) const;
     /// A whole number.
@@ -46,21 +47,26 @@ public:
     template <std::size_t n>
     std::array<double, n> numbers(double lowest, double highest) const {
         std::array<double, n> out{};
-        const std::vector<JsonKey> items = elements();
-        if (items.size() != n) refuse(std::to_string(n) + " numbers expected, not " + std::to_string(items.size()));
-        for (std::size_t i = 0; i < n && items.size() == n; ++i)
+        const std::size_t count = size();
+        if (count != n) refuse(std::to_string(n) + " numbers expected, not " + std::to_string(count));
+        const std::vector<JsonKey> items = count == n ? elements(n) : std::vector<JsonKey>();
+        for (std::size_t i = 0; i < items.size(); ++i)
             out[i] = items[i].number(lowest, highest);
         return out;
     }
 
     /// Records a fault of this value, unless one is known already.
     void refuse(const std::string& reason) const;
+    /// Whether the document has a fault; nothing more needs to be read then.
+    bool anyFault() const { return fault_->found(); }
 
 private:
     JsonKey(const nlohmann::json* value, JsonFault* fault, std::string path)
         : value_(value), fault_(fault), path_(std::move(path)) {}
     /// Whether the value is there and of the expected type; a fault otherwise.
     bool expect(bool (nlohmann::json::*isOfType)() const noexcept, const char* expected) const;
+    /// Of an array; 0, and a fault, when this is none.
+    std::size_t size() const;
 
     const nlohmann::json* value_;  ///< null when the key is missing
     JsonFault* fault_;

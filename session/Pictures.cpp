@@ -101,7 +101,7 @@ bool checkFrame(const FrameFiles& files, std::string* why) {
 
 bool writePlatform(const std::string& name, const std::vector<std::uint8_t>& nv12, std::string* why) {
     if (nv12.size() != kNv12Bytes) return refuse(why, name, {}, "the platform picture has the wrong size");
-    if (isRaw(name)) return writeOutput(name, nv12.data(), nv12.size(), why);
+    if (isRaw(name)) return writeOutput(name, nv12.data(), nv12.size(), why, Durability::Later);
     ImageFrame32 colour;
     colour.resize(kPlatformWidth, kPlatformHeight);
     bgraFromNv12(nv12.data(), kPlatformWidth, kPlatformHeight, colour.bytes());
@@ -151,6 +151,16 @@ bool writePictures(const std::string& folder, const FrameEntry& entry, const Fra
     if (!entry.depth.empty() && !writeGreyPng(prefix + entry.depth, pictures.depth, why)) return false;
     if (!entry.right.empty() && !writeGreyPng(prefix + entry.right, pictures.right, why)) return false;
     return entry.platform.empty() || writePlatform(prefix + entry.platform, pictures.platform, why);
+}
+
+bool syncPictures(const std::string& folder, const SessionDescription& session, std::string* why) {
+    std::vector<std::string> names;
+    for (const FrameEntry& frame : session.frames) {
+        for (const std::string& name : {frame.infrared, frame.third, frame.depth, frame.right, frame.platform}) {
+            if (!name.empty()) names.push_back(name);
+        }
+    }
+    return syncFiles(folder, names, why);
 }
 
 }  // namespace fieldcal::session

@@ -13,7 +13,7 @@
 namespace fieldcal::session {
 namespace {
 
-constexpr qint64 kLargestFile = 256 << 20;
+constexpr qint64 kLargestFile = 48 << 20;      ///< the largest picture, not compressed at all
 constexpr int kGrey = 0, kRgb = 2, kRgba = 6;  ///< colour types
 constexpr std::uint8_t kSignature[8] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1a, '\n'};
 constexpr std::size_t kFrame = 12;  ///< length, type and checksum around a chunk's data
@@ -170,8 +170,13 @@ bool write(const std::string& file, const ImageFrame& picture, QImage::Format fo
     const std::size_t rowBytes = std::size_t{picture.width()} * picture.bytesPerPixel();
     for (int y = 0; y < image.height(); ++y)
         std::memcpy(image.scanLine(y), picture.bytes() + y * rowBytes, rowBytes);
-    QImageWriter writer(QString::fromStdString(file), "png");
-    return writer.write(image) || refuse(why, file, {}, writer.errorString().toStdString());
+    // Not into the file itself, whose last bytes nobody would miss on a full disk.
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, "png");
+    if (!writer.write(image)) return refuse(why, file, {}, writer.errorString().toStdString());
+    return writeOutput(file, bytes.constData(), static_cast<std::size_t>(bytes.size()), why, Durability::Later);
 }
 
 }  // namespace

@@ -63,6 +63,9 @@ struct FrameEntry {
     std::optional<std::int64_t> timeNs = {};  ///< when the infrared image was taken, from any epoch, nanoseconds
 };
 
+/// The most frames of one recording.
+inline constexpr std::size_t kMostFrames = 100000;
+
 /// The contents of session.json, version 1.
 struct SessionDescription {
     ModuleInfo module;
@@ -105,6 +108,10 @@ bool verify(const std::string& folder, std::string* why);
 /// platform name ending in .nv12; the PNG of a platform picture is its RGB, so only .nv12 keeps it bit-exact).
 /// The folder is created.
 bool writePictures(const std::string& folder, const FrameEntry& entry, const FramePictures& pictures, std::string* why);
+
+/// Brings every picture that the description names to the disk, which `writePictures` leaves to the system. It comes
+/// before `writeDescription`, so that a description never stands on the disk without its pictures.
+bool syncPictures(const std::string& folder, const SessionDescription& session, std::string* why);
 
 /// Writes session.json; the folder is created. Numbers keep their full precision. What reading would refuse is not
 /// written, with the same reason.

@@ -1,3 +1,4 @@
+#include "devices/SingleInstance.h"
 #include "kxapi/Library.h"
 #include "report/History.h"
 #include "report/ReportFile.h"
@@ -8,6 +9,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <random>
 
 namespace fieldcal {
@@ -34,6 +36,9 @@ int run(const CalibrateOptions& options) {
     if (options.camera == ColourCamera::Platform && !session.platform)
         return refuseUsage("the recording has no platform camera");
     result.describe(cameraPair(session, options.camera));
+    std::optional<SingleInstance> instance;
+    if (options.write) instance.emplace();
+    if (instance && !instance->isFirst()) return result.fail(kAnotherProgram);
 
     // Only the simulated library plays recordings; the pictures of a real camera would be taken for the recording's.
     if (!useSimulatedLibraries()) return result.fail("The folder with the simulated libraries is missing.");
@@ -46,11 +51,12 @@ int run(const CalibrateOptions& options) {
     const CalibrationReport& report = calibration.report();
     const bool done = calibration.run(&why);
     // Also of a rotation that could not be written into the module.
-    if (report.written) appendHistory(userDataFolder(), calibration.serviceReport());
+    const bool remembered = !report.written || appendHistory(userDataFolder(), calibration.serviceReport());
     QString reportWhy;
     const bool reported = writeReportFile(options.reportFile, calibration, &reportWhy);
     if (!done) return result.fail(why, &report);
     if (!reported) return result.fail(reportWhy, &report);
+    if (!remembered) return result.fail("The history of calibrations cannot be continued.", &report);
     if (!options.stateFile.empty() && !calibration.engineState().writeToFile(options.stateFile)) {
         return result.fail(QString::fromStdString(options.stateFile) + ": cannot be written", &report);
     }

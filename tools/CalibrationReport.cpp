@@ -147,6 +147,7 @@ QJsonObject reportJson(const CalibrationReport& report) {
     if (!report.registrationPx.empty()) object.insert("registrationPx", jsonRegistration(report.registrationPx));
     if (report.quality && report.quality->proof) object.insert("proof", jsonProof(*report.quality->proof));
     if (report.quality) object.insert("model", jsonModel(report.quality->model));
+    if (!report.lastSave.isEmpty()) object.insert("lastSave", report.lastSave);
     if (report.written) object.insert("written", *report.written);
     return object;
 }

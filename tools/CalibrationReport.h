@@ -38,6 +38,7 @@ struct CalibrationReport {
     std::map<int, double> registrationPx;
     vq::ParallaxReport parallax;    ///< of the attempt that took the last pair
     std::vector<PairReport> pairs;  ///< of all attempts
+    QString lastSave;               ///< what became of an earlier save that did not come to its end, if there was one
     std::optional<bool> written;    ///< whether the flash holds the rotation; unset when writing was not asked for
     double totalSeconds = 0;
     double frameSeconds = 0;  ///< grabbing, brightness and frame selection of all frames

@@ -2,6 +2,9 @@
 
 #include "devices/CameraParameterReader.h"
 #include "devices/PlatformCameraSetup.h"
+#include "devices/ServiceControl.h"
+#include "kxapi/Library.h"
+#include "tools/Console.h"
 
 #include <algorithm>
 #include <iterator>
@@ -54,6 +57,12 @@ void makeOpaque(ImageFrame32* picture) {
 }  // namespace
 
 bool ConnectedModule::open(bool rearCamera, QString* why) {
+    const bool disablesService = !usesSimulatedLibraries() && !serviceNoteFile().isEmpty();
+    if (disablesService) instance_ = std::make_unique<SingleInstance>();
+    if (instance_ != nullptr && !instance_->isFirst()) {
+        *why = kAnotherProgram;
+        return false;
+    }
     SensorSettings settings = applicationSettings();
     settings.usePlatformCamera = rearCamera;
     if (tryToOpen(settings)) return true;

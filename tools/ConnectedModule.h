@@ -2,6 +2,7 @@
 
 #include "devices/ParameterBackup.h"
 #include "devices/Sensor.h"
+#include "devices/SingleInstance.h"
 #include "session/RecordedSession.h"
 #include "tools/SensorReports.h"
 
@@ -46,6 +47,7 @@ private:
     bool describePlatform(session::PlatformCamera* out);
     bool failed(QString* why, const char* otherwise) const;
 
+    std::unique_ptr<SingleInstance> instance_;  ///< where the vendor's service is disabled meanwhile, and noted
     SensorReports reports_;
     std::unique_ptr<Sensor> sensor_;
 };

@@ -3,6 +3,7 @@
 #include "devices/CameraParameterReader.h"
 #include "engine/RegistrationError.h"
 #include "engine/Rotation.h"
+#include "workflow/Saving.h"
 
 #include <QDir>
 
@@ -40,6 +41,7 @@ bool RecordingCalibration::run(QString* why) {
             CalibrationAttempt attempt(engine_, *this, light_, sensor.settings().attemptLimit);
             if (memory_) attempt.useMemory(*memory_, sensor.serialNumber());
             bool solved = false;
+            if (writing_) tellOfLastSave(sensor);
             played = play(sensor, attempt, &solved);
             finish(solved);
             if (writing_ && solved) played = write(sensor, why) && played;
@@ -127,13 +129,22 @@ std::map<int, double> RecordingCalibration::registrationErrors(const Matrix3& tr
     return errorsPx;
 }
 
+/// Now, as the note about it makes way for the one about this write.
+void RecordingCalibration::tellOfLastSave(Sensor& sensor) {
+    const auto last = settleLastSave(sensor, userDataFolder());
+    if (!last) return;
+    report_.lastSave = lastSaveText(*last);
+    if (say_) say_(report_.lastSave);
+}
+
 bool RecordingCalibration::write(Sensor& sensor, QString* why) {
     Rotation rotation{};
     engine_.getRotationMatrix(rotation.data());
     PerColourCamera<Rotation> wanted;
     for (const ColourCamera camera : kColourCameras)
         wanted[camera] = camera == camera_ ? rotation : parameters_.colour[camera].fromDepth.rotation;
-    report_.written = sensor.updateRotation(wanted[ColourCamera::Third], wanted[ColourCamera::Platform]);
+    report_.written =
+        storeRotations(sensor, wanted[ColourCamera::Third], wanted[ColourCamera::Platform], userDataFolder()).stored;
     const WriteBackReport& done = sensor.writeBack();
     writeBack_ = done;
     if (*report_.written) {

@@ -46,6 +46,7 @@ private:
     bool play(Sensor& sensor, CalibrationAttempt& attempt, bool* solved);
     void finish(bool solved);
     std::map<int, double> registrationErrors(const Matrix3& truth) const;
+    void tellOfLastSave(Sensor& sensor);
     bool write(Sensor& sensor, QString* why);
     void pairProcessed(const vq::CalibratorResult& result) override;
     void pairCaptured() override;

@@ -1,5 +1,7 @@
 #include "tools/RecordingWriter.h"
 
+#include "files/SafeFile.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -68,6 +70,7 @@ RecordingWriter::~RecordingWriter() {
             if (!name.empty()) QFile::remove(folder + QString::fromStdString(name));
         }
     }
+    if (describing_) QFile::remove(folder + "session.json");
     if (madeFolder_) QDir().rmdir(folder);
 }
 
@@ -78,9 +81,7 @@ bool RecordingWriter::start(std::string* why) {
         return false;
     }
     madeFolder_ = !folder.exists();
-    if (QDir().mkpath(folder.path())) return true;
-    *why = folder_ + ": the folder cannot be created";
-    return false;
+    return makeFolders(folder_, why);
 }
 
 bool RecordingWriter::add(session::FramePictures pictures, std::string* why, const Timing& timing) {
@@ -88,6 +89,10 @@ bool RecordingWriter::add(session::FramePictures pictures, std::string* why, con
     if (repeatsLast(pictures)) {
         description_.frames.back().repeat += timing.repeat;
         return true;
+    }
+    if (frameCount() == session::kMostFrames) {
+        *why = folder_ + ": more than " + std::to_string(session::kMostFrames) + " frames cannot be played";
+        return false;
     }
     description_.frames.push_back(entryFor(frameCount(), pictures));
     description_.frames.back().repeat = timing.repeat;
@@ -115,6 +120,8 @@ bool RecordingWriter::canBePlayed(const session::FramePictures& pictures, std::s
 }
 
 bool RecordingWriter::finish(std::string* why) {
+    if (!session::syncPictures(folder_, description_, why)) return false;
+    describing_ = true;
     finished_ = session::writeDescription(folder_, description_, why);
     return finished_;
 }

@@ -44,6 +44,7 @@ private:
     session::FramePictures last_;
     bool madeFolder_ = false;
     bool finished_ = false;
+    bool describing_ = false;  ///< session.json may be there, and is ours
 };
 
 }  // namespace fieldcal

@@ -1,10 +1,16 @@
 #include "tools/CommandLine.h"
+#include "tools/Console.h"
 
 #include <QCoreApplication>
+
+#include <cstdio>
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     int status = fieldcal::kSolved;
     const auto command = fieldcal::parseCommandLine(QCoreApplication::arguments().mid(1), &status);
-    return command ? fieldcal::runCommand(*command) : status;
+    if (command) status = fieldcal::runCommand(*command);
+    // What was printed into a file may find the disk full only now.
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
+    return status == fieldcal::kSolved ? fieldcal::fail("standard output cannot be written") : status;
 }

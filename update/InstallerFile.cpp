@@ -1,6 +1,10 @@
 #include "update/InstallerFile.h"
 
+#include "files/SafeFile.h"
+
 #include <QDir>
+
+#include <string>
 
 namespace fieldcal {
 namespace {
@@ -29,7 +33,11 @@ bool InstallerFile::append(const QByteArray& bytes) {
 
 bool InstallerFile::close() {
     file_.close();
-    return file_.error() == QFileDevice::NoError && QFile(path()).size() == size_;
+    std::string why;
+    const bool whole = file_.error() == QFileDevice::NoError && QFile(path()).size() == size_ &&
+                       syncFiles(folder_.path().toStdString(), {kFile}, &why);
+    if (!why.empty()) qWarning("%s", why.c_str());
+    return whole;
 }
 
 void InstallerFile::leaveToInstaller() {

@@ -1,10 +1,11 @@
 #include "workflow/BaselineMemory.h"
 
-#include <QDir>
+#include "files/SafeFile.h"
+
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
+#include <string>
 #include <vector>
 
 namespace fieldcal {
@@ -80,13 +81,12 @@ void BaselineMemory::remember(std::uint32_t serial, double metres) const {
     if (lines.size() > kMostModules) lines.erase(lines.begin(), lines.end() - kMostModules);
 
     const QByteArray text = textOf(lines);
-    QSaveFile file(path_);
-    // The explicit flush detects a full disk, which `commit` alone does not report.
-    const bool written = QDir().mkpath(folder_) && file.open(QIODevice::WriteOnly) && file.write(text) == text.size() &&
-                         file.flush() && file.size() == text.size() && file.commit();
+    std::string why;
+    const bool written = makeFolders(folder_.toStdString(), &why) &&
+                         writeFile(path_.toStdString(), text.constData(), static_cast<std::size_t>(text.size()), &why);
     if (!written) {
         qCritical("%s: the stereo baseline of module %u cannot be kept: %s", qUtf8Printable(path_), serial,
-                  qUtf8Printable(file.errorString()));
+                  why.c_str());
     }
 }
 

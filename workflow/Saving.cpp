@@ -1,26 +1,91 @@
 #include "workflow/Saving.h"
 
-#include "workflow/SaveNote.h"
-
 namespace fieldcal {
+namespace {
 
-bool storeCalibration(Sensor& sensor, const CalibrationRecords& records, const QString& dataFolder) {
-    const bool matters = records.anyAccepted();
-    SaveNote note{sensor.serialNumber(), QDateTime::currentDateTimeUtc(), {}, {}, {}};
-    if (matters) writeSaveNote(dataFolder, note);
-    const bool stored =
-        sensor.updateRotation(records.toStore(ColourCamera::Third), records.toStore(ColourCamera::Platform));
-    if (!stored) qInfo("Failed to store calibration information to flash.");
-    if (!matters) return stored;
-    if (stored) {
-        removeSaveNote(dataFolder);
-    } else {
-        note.reason = sensor.writeBack().reason;
-        note.flash = flashText(sensor.writeBack());
-        note.backupFile = sensor.writeBack().backupFile;
-        writeSaveNote(dataFolder, note);
+/// Quietly, as a module that does not tell its block may do everything else.
+std::optional<KXCalibRectParameters> presentBlock(Sensor& sensor) {
+    const std::shared_ptr<KXDevice> device = sensor.device();
+    if (device == nullptr) return std::nullopt;
+    return sensor.link().askQuietly(
+        [device = device.get()] { return ModuleLink::filled(device, &KXDevice::rectParameters); });
+}
+
+LastSave::Outcome outcomeOf(BlockChange::Held held) {
+    switch (held) {
+        case BlockChange::Held::Wanted:
+            return LastSave::Outcome::Stored;
+        case BlockChange::Held::Previous:
+            return LastSave::Outcome::NotStored;
+        case BlockChange::Held::Neither:
+            break;
     }
-    return stored;
+    return LastSave::Outcome::Neither;
+}
+
+}  // namespace
+
+SaveResult storeRotations(Sensor& sensor, const Rotation& third, const Rotation& platform, const QString& dataFolder) {
+    SaveNote note{sensor.serialNumber(), QDateTime::currentDateTimeUtc(), {}, {}, {}, {}};
+    bool noted = writeSaveNote(dataFolder, note);
+    const auto beforeWrite = [&](const BlockChange& change, const QString& backupFile, QString* why) {
+        note.change = change;
+        note.backupFile = backupFile;
+        const bool written = writeSaveNote(dataFolder, note);
+        noted = noted || written;
+        *why = "The note about it cannot be kept in " + dataFolder;
+        return written;
+    };
+    if (sensor.updateRotation(third, platform, beforeWrite)) {
+        removeSaveNote(dataFolder, note.serial);
+        return {true, true};
+    }
+    note.reason = sensor.writeBack().reason;
+    note.flash = flashText(sensor.writeBack());
+    note.backupFile = sensor.writeBack().backupFile;
+    // The note before it says less, but nothing wrong.
+    const bool complete = writeSaveNote(dataFolder, note);
+    return {false, complete || noted};
+}
+
+SaveResult storeCalibration(Sensor& sensor, const CalibrationRecords& records, const QString& dataFolder) {
+    const Rotation third = records.toStore(ColourCamera::Third);
+    const Rotation platform = records.toStore(ColourCamera::Platform);
+    const SaveResult result = records.anyAccepted() ? storeRotations(sensor, third, platform, dataFolder)
+                                                    : SaveResult{sensor.updateRotation(third, platform), true};
+    if (!result.stored) qInfo("Failed to store calibration information to flash.");
+    return result;
+}
+
+QString lastSaveText(const LastSave& last) {
+    switch (last.outcome) {
+        case LastSave::Outcome::Stored:
+            return "The last calibration is stored in the camera, although its save did not come to its end.";
+        case LastSave::Outcome::Neither:
+            return "The camera holds neither the last calibration nor the one before, which is kept in " +
+                   last.note.backupFile;
+        case LastSave::Outcome::NotStored:
+            break;
+    }
+    return QString("The last calibration was not stored: %1 %2").arg(last.note.reason, last.note.flash).trimmed();
+}
+
+std::optional<LastSave> settleLastSave(Sensor& sensor, const QString& dataFolder) {
+    const std::uint32_t serial = sensor.serialNumber();
+    const std::optional<SaveNote> note = readSaveNote(dataFolder, serial);
+    if (!note) return std::nullopt;
+    LastSave last{LastSave::Outcome::NotStored, *note};
+    if (note->change) {
+        const auto block = presentBlock(sensor);
+        if (!block) {
+            qWarning("What became of the last save is not known, as the camera does not tell its parameter block.");
+            return std::nullopt;
+        }
+        last.outcome = outcomeOf(note->change->heldIn(*block));
+    }
+    removeSaveNote(dataFolder, serial);
+    qInfo("%s", qUtf8Printable(lastSaveText(last)));
+    return last;
 }
 
 }  // namespace fieldcal

@@ -2,14 +2,43 @@
 
 #include "devices/Sensor.h"
 #include "workflow/CalibrationRecords.h"
+#include "workflow/SaveNote.h"
 
 #include <QString>
 
 namespace fieldcal {
 
-/// Writes each camera's accepted rotation, or the factory's, into the module. If any rotation was accepted, a note is
-/// kept in `dataFolder` from before the write until the module has confirmed it. Returns true when the module has
-/// confirmed it.
-bool storeCalibration(Sensor& sensor, const CalibrationRecords& records, const QString& dataFolder);
+/// The outcome of a save.
+struct SaveResult {
+    bool stored = false;  ///< the module has confirmed the rotations
+    bool told = true;     ///< confirmed, or a note on the disk reports the failure at the next start
+};
+
+/// Writes the rotations into the module. A note is kept in `dataFolder` from before the write until the module has
+/// confirmed them. Before the first call that reaches the flash, the note identifies the old and the new block and is
+/// on the disk together with the backup; if that fails, nothing is written.
+SaveResult storeRotations(Sensor& sensor, const Rotation& third, const Rotation& platform, const QString& dataFolder);
+
+/// Writes each camera's accepted rotation, or the factory's. A note is kept only if any rotation was accepted.
+SaveResult storeCalibration(Sensor& sensor, const CalibrationRecords& records, const QString& dataFolder);
+
+/// The outcome of a save that was interrupted.
+struct LastSave {
+    enum class Outcome {
+        NotStored,  ///< the module holds the previous calibration
+        Stored,     ///< the module holds the calibration that was to be stored
+        Neither     ///< the module holds a different one
+    };
+    Outcome outcome = Outcome::NotStored;
+    SaveNote note;
+};
+
+/// One line for logs and the command line.
+QString lastSaveText(const LastSave& last);
+
+/// Looks for a note about the open module, determines the outcome from the block that the module holds, and removes the
+/// note. Returns none when there is no note, or when the block cannot be read; the note is then kept for the next
+/// start.
+std::optional<LastSave> settleLastSave(Sensor& sensor, const QString& dataFolder);
 
 }  // namespace fieldcal

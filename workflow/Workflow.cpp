@@ -78,7 +78,9 @@ LeaveReport Workflow::save(Storing storing) {
     LeaveReport report;
     requestStop(Stop::ToSave);
     if (sensor_ != nullptr && reopenAfterFault()) {
-        report.stored = storeCalibration(*sensor_, records_, environment_.dataFolder);
+        const SaveResult saved = storeCalibration(*sensor_, records_, environment_.dataFolder);
+        report.stored = saved.stored;
+        report.told = saved.told;
         report.writeBack = sensor_->writeBack();
         solutions_.keep(environment_.dataFolder, *sensor_, records_, report.stored);
     }

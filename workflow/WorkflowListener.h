@@ -6,7 +6,7 @@
 #include "workflow/CalibrationRecords.h"
 #include "workflow/FoundTurn.h"
 #include "workflow/LightGate.h"
-#include "workflow/SaveNote.h"
+#include "workflow/Saving.h"
 #include "workflow/State.h"
 
 #include <QString>
@@ -36,8 +36,8 @@ public:
                                const FoundTurn&) {}
     /// The module has no platform camera that can be calibrated.
     virtual void singleCameraOnly() {}
-    /// The last calibration was accepted but not stored. Sent once, when the camera has been opened.
-    virtual void lastSaveFailed(const SaveNote&) {}
+    /// The outcome of a save that was interrupted. Sent once, when the camera has been opened.
+    virtual void lastSaveSettled(const LastSave&) {}
 
     /// Faults. No further call follows the first one.
     virtual void deviceError(const QString& /*text*/) {}

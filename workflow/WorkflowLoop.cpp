@@ -2,6 +2,7 @@
 #include "devices/CameraParameterReader.h"
 #include "engine/Rotation.h"
 #include "engine/TextForms.h"
+#include "workflow/Saving.h"
 #include "workflow/Workflow.h"
 
 #include <QThread>
@@ -122,12 +123,9 @@ void Workflow::openCamera(const Snapshot& now) {
     advance(now, State::ShowingIntroduction);
 }
 
-/// Reports a failed save of this module. A note about a different module is kept until that one is connected.
+/// Reports an interrupted save of this module. A note about a different module is kept until that one is connected.
 void Workflow::reportLastSave() {
-    const std::optional<SaveNote> note = readSaveNote(environment_.dataFolder);
-    if (!note || (note->serial != 0 && note->serial != sensor_->serialNumber())) return;
-    removeSaveNote(environment_.dataFolder);
-    listener_.lastSaveFailed(*note);
+    if (const auto last = settleLastSave(*sensor_, environment_.dataFolder)) listener_.lastSaveSettled(*last);
 }
 
 void Workflow::listenTo(Sensor& sensor) {

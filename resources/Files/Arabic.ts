@@ -202,6 +202,12 @@ Please calibrate again.</source>
 يُرجى المعايرة مرة أخرى.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>لا تحتوي الكاميرا على المعايرة الأخيرة ولا على المعايرة السابقة.
+يرجى المعايرة مرة أخرى.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>حرّك الجهاز لالتقاط صورة معايرة أخرى.</translation>
     </message>

@@ -202,6 +202,12 @@ Please calibrate again.</source>
 请重新校准。</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>摄像头中既没有上一次的校准，也没有之前的校准。
+请重新校准。</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>请移动设备以拍摄另一张校准照片。</translation>
     </message>

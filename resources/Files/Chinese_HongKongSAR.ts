@@ -202,6 +202,12 @@ Please calibrate again.</source>
 請重新校準。</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>鏡頭中既沒有上一次的校準，也沒有之前的校準。
+請重新校準。</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>請移動裝置以拍攝另一張校準相片。</translation>
     </message>

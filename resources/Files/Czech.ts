@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Proveďte kalibraci znovu.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>V kameře není ani poslední, ani předchozí kalibrace.
+Proveďte kalibraci znovu.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Pohněte zařízením, aby se pořídil jiný kalibrační snímek.</translation>
     </message>

@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Kalibrér igen.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>Kameraet indeholder hverken den seneste eller den forrige kalibrering.
+Kalibrér igen.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Flyt enheden for at tage et andet kalibreringsfoto.</translation>
     </message>

@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Kalibreer opnieuw.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>De camera bevat noch de laatste, noch de vorige kalibratie.
+Kalibreer opnieuw.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Beweeg het apparaat om een andere kalibratiefoto te maken.</translation>
     </message>

@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Please calibrate again.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Move the device to capture a different calibration photo.</translation>
     </message>

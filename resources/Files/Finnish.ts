@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Kalibroi uudelleen.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>Kamerassa ei ole viimeisintä eikä edellistä kalibrointia.
+Kalibroi uudelleen.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Ota toinen kalibrointikuva siirtämällä laitetta.</translation>
     </message>

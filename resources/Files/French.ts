@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Veuillez recommencer l’étalonnage.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>La caméra ne contient ni le dernier étalonnage ni le précédent.
+Veuillez recommencer l’étalonnage.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Déplacez l’appareil pour prendre une autre photo d’étalonnage.</translation>
     </message>

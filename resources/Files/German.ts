@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Bitte kalibrieren Sie erneut.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>Die Kamera enthält weder die letzte noch die vorherige Kalibrierung.
+Bitte kalibrieren Sie erneut.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Bewegen Sie das Gerät, um ein anderes Kalibrierfoto aufzunehmen.</translation>
     </message>

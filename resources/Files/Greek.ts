@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Εκτελέστε ξανά τη βαθμονόμηση.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>Η κάμερα δεν περιέχει ούτε την τελευταία ούτε την προηγούμενη βαθμονόμηση.
+Εκτελέστε ξανά τη βαθμονόμηση.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Μετακινήστε τη συσκευή για να ληφθεί άλλη φωτογραφία βαθμονόμησης.</translation>
     </message>

@@ -202,6 +202,12 @@ Please calibrate again.</source>
 יש לכייל שוב.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>המצלמה אינה מכילה את הכיול האחרון וגם לא את הכיול הקודם.
+יש לכייל שוב.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>יש להזיז את המכשיר כדי לצלם תמונת כיול אחרת.</translation>
     </message>

@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Eseguire di nuovo la calibrazione.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>La fotocamera non contiene né l&apos;ultima calibrazione né quella precedente.
+Eseguire di nuovo la calibrazione.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Spostare il dispositivo per scattare un’altra foto di calibrazione.</translation>
     </message>

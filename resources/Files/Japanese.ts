@@ -202,6 +202,12 @@ Please calibrate again.</source>
 もう一度キャリブレーションを行ってください。</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>カメラには前回のキャリブレーションもその前のキャリブレーションも保存されていません。
+もう一度キャリブレーションしてください。</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>デバイスを動かして、別のキャリブレーション用の写真を撮影してください。</translation>
     </message>

@@ -202,6 +202,12 @@ Please calibrate again.</source>
 다시 보정하십시오.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>카메라에 마지막 보정도 이전 보정도 들어 있지 않습니다.
+다시 보정하십시오.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>다른 보정 사진을 촬영하려면 장치를 움직이십시오.</translation>
     </message>

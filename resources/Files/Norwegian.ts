@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Kalibrer på nytt.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>Kameraet inneholder verken den siste eller den forrige kalibreringen.
+Kalibrer på nytt.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Flytt enheten for å ta et annet kalibreringsbilde.</translation>
     </message>

@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Przeprowadź kalibrację ponownie.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>Kamera nie zawiera ani ostatniej, ani poprzedniej kalibracji.
+Przeprowadź kalibrację ponownie.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Porusz urządzeniem, aby wykonać inne zdjęcie kalibracyjne.</translation>
     </message>

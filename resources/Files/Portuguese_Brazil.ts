@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Calibre novamente.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>A câmera não contém a última calibração nem a anterior.
+Calibre novamente.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Mova o dispositivo para tirar outra foto de calibração.</translation>
     </message>

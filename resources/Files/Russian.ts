@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Выполните калибровку ещё раз.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>В камере нет ни последней, ни предыдущей калибровки.
+Выполните калибровку ещё раз.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Переместите устройство, чтобы сделать другой калибровочный снимок.</translation>
     </message>

@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Vykonajte kalibráciu znova.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>V kamere nie je ani posledná, ani predchádzajúca kalibrácia.
+Vykonajte kalibráciu znova.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Pohnite zariadením, aby sa zhotovila iná kalibračná snímka.</translation>
     </message>

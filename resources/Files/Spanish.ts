@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Calibre de nuevo.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>La cámara no contiene ni la última calibración ni la anterior.
+Calibre de nuevo.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Mueva el dispositivo para tomar otra foto de calibración.</translation>
     </message>

@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Kalibrera igen.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>Kameran innehåller varken den senaste eller den föregående kalibreringen.
+Kalibrera igen.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Flytta enheten för att ta ett annat kalibreringsfoto.</translation>
     </message>

@@ -202,6 +202,12 @@ Please calibrate again.</source>
 โปรด​ปรับเทียบ​อีกครั้ง</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>กล้องไม่มีทั้งการปรับเทียบครั้งล่าสุดและครั้งก่อนหน้า
+โปรดปรับเทียบอีกครั้ง</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>เคลื่อน​อุปกรณ์​เพื่อ​ถ่ายภาพ​ปรับเทียบ​อีกภาพ</translation>
     </message>

@@ -202,6 +202,12 @@ Please calibrate again.</source>
 Lütfen yeniden kalibre edin.</translation>
     </message>
     <message>
+        <source>The camera holds neither the last calibration nor the one before.
+Please calibrate again.</source>
+        <translation>Kamerada ne son kalibrasyon ne de önceki kalibrasyon var.
+Lütfen yeniden kalibre edin.</translation>
+    </message>
+    <message>
         <source>Move the device to capture a different calibration photo.</source>
         <translation>Farklı bir kalibrasyon fotoğrafı çekmek için cihazı hareket ettirin.</translation>
     </message>

@@ -71,7 +71,7 @@ bool synthesize(const std::string& folder, const SynthesisOptions& options,
             return false;
         if (progress) progress(i + 1, options.stills);
     }
-    return session::writeDescription(folder, rig, why);
+    return session::syncPictures(folder, rig, why) && session::writeDescription(folder, rig, why);
 }
 
 }  // namespace fieldcal::handheld

@@ -1,11 +1,11 @@
 #include "simulator/kxapi/BlockStore.h"
 
+#include "files/SafeFile.h"
 #include "session/Files.h"
 #include "simulator/kxapi/BlockLayout.h"
 #include "simulator/kxapi/ParameterBlock.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <utility>
 
@@ -75,10 +75,9 @@ BlockResult BlockStore::put(const Block& block) {
         memory_ = block;
         return {};
     }
-    QSaveFile file(QString::fromStdString(file_));
-    const bool stored = file.open(QIODevice::WriteOnly) &&
-                        file.write(reinterpret_cast<const char*>(&block), kBlockBytes) == kBlockBytes && file.commit();
-    return stored ? BlockResult{} : failure(file_, file.errorString().toStdString());
+    std::string why;
+    if (fieldcal::writeFile(file_, &block, sizeof(block), &why)) return {};
+    return {KX_STATUS_DEVICE_ERROR, why};
 }
 
 }  // namespace kxsim

@@ -5,7 +5,7 @@
 namespace kxsim {
 namespace {
 
-constexpr std::size_t kMostBytes = std::size_t{256} << 20;
+constexpr std::size_t kMostBytes = std::size_t{160} << 20;
 
 std::size_t byteCount(const fieldcal::session::FramePictures& frame) {
     return frame.infrared.byteCount() + frame.right.byteCount() + frame.depth.byteCount() + frame.third.byteCount() +

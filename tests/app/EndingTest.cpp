@@ -120,6 +120,17 @@ TEST_F(EndingTest, AFailedSaveEndsQuietlyAndIsSaidAtTheNextStart) {
                                   "again."));
 }
 
+TEST_F(EndingTest, AFailedSaveThatCannotBeNotedIsSaidAtOnce) {
+    start();
+    refineFirst();
+    ASSERT_TRUE(QDir().mkpath(dataFolder() + "/save-note-700010.json")) << "a folder in the note's place";
+    runUntilEnd([this] { press("quit"); });
+    EXPECT_THAT(calls(), Not(Contains(kSaved)));
+    EXPECT_THAT(boxes, ElementsAre("KXAPI ERROR: The last calibration was not stored in the camera.\nPlease calibrate "
+                                   "again."));
+    EXPECT_EQ(manager->exitCode(), 1);
+}
+
 TEST_F(EndingTest, EveryStateIsLeftWithinASecondAndWithoutAWrite) {
     for (const bool closedBySystem : {false, true}) {
         for (const State state : statesToLeave()) {

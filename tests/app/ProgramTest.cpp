@@ -1,5 +1,5 @@
 #include "app/LogFile.h"
-#include "app/SingleInstance.h"
+#include "devices/SingleInstance.h"
 
 #include <QDir>
 #include <QElapsedTimer>

@@ -208,6 +208,12 @@ TEST_F(PXMServiceManagerTest, ANoteStaysOnlyWhenTheServiceIsDisabled) {
     left.fail("changeConfig", 1, 5);
     EXPECT_FALSE(PXMServiceManager(left, note).shutdownPXMService());
     EXPECT_TRUE(QFile::exists(note)) << "an earlier run's, and the service is still disabled";
+
+    FakeServiceControl untouched;
+    PXMServiceManager noteless(untouched, note + "/there/is/a/file/above");
+    EXPECT_FALSE(noteless.shutdownPXMService());
+    EXPECT_EQ(untouched.startType, 2U) << "nobody could put it back after a crash";
+    EXPECT_TRUE(noteless.lastError().contains("start-type")) << noteless.lastError().toStdString();
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "devices/SingleInstance.h"
 #include "tests/tools/SessionTool.h"
 
 #include <QDirIterator>
@@ -92,6 +93,21 @@ TEST_F(FlashToolTest, ATabletThatLosesPowerLeavesTheOldOrTheNewCalibration) {
     }
     EXPECT_EQ(calibrateAndWrite("third", "commitCalibration:1:die-after").status, 137);
     EXPECT_NE(info(), before);
+    // The note was still there.
+    const Result next = calibrateAndWrite("third");
+    EXPECT_EQ(next.status, 0) << next.error.constData();
+    EXPECT_TRUE(next.json()["lastSave"].toString().startsWith("The last calibration is stored in the camera"));
+    EXPECT_FALSE(calibrateAndWrite("third").json().contains("lastSave"));
+}
+
+TEST_F(FlashToolTest, NothingIsWrittenBesideAProgramThatUsesTheCamera) {
+    const QByteArray before = info();
+    const auto running = std::make_unique<SingleInstance>();
+    ASSERT_TRUE(running->isFirst());
+    const Result refused = calibrateAndWrite("third");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.error, "Another program uses the camera. Close the Field Calibrator and try again.\n");
+    EXPECT_EQ(info(), before);
 }
 
 }  // namespace

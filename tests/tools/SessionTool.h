@@ -41,8 +41,14 @@ inline Result run(const QStringList& arguments, const std::map<QString, QString>
 /// One recording for all tests, and a data folder for each.
 class SessionToolTest : public ::testing::Test {
 protected:
-    SessionToolTest() { qputenv("XDG_DATA_HOME", data.path().toLocal8Bit()); }
-    ~SessionToolTest() override { qunsetenv("XDG_DATA_HOME"); }
+    SessionToolTest() {
+        qputenv("XDG_DATA_HOME", data.path().toLocal8Bit());
+        qputenv("XDG_RUNTIME_DIR", data.path().toLocal8Bit());
+    }
+    ~SessionToolTest() override {
+        qunsetenv("XDG_DATA_HOME");
+        qunsetenv("XDG_RUNTIME_DIR");
+    }
 
     /// A path in a folder that is removed when the program ends.
     static QString path(const QString& name) {

@@ -4,6 +4,7 @@
 #include "workflow/SaveNote.h"
 #include "workflow/Saving.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <atomic>
@@ -12,6 +13,7 @@
 namespace fieldcal::testing {
 namespace {
 
+constexpr std::uint32_t kSerial = 550101;
 constexpr Rotation kAboutY{0, 0, 1, 0, 1, 0, -1, 0, 0};
 
 class SavingTest : public SensorTest {
@@ -20,7 +22,7 @@ protected:
         EXPECT_TRUE(sensor->open(applicationSettings()) && readCameraParameters(*sensor, &parameters, [] {}));
         records.setFactory(parameters.colour[ColourCamera::Third].fromDepth.rotation,
                            parameters.colour[ColourCamera::Platform].fromDepth.rotation);
-        device->onWrite = [this] { noteAtWrite = readSaveNote(data.path()); };
+        device->onWrite = [this] { noteAtWrite = readSaveNote(data.path(), kSerial); };
     }
     void accept() {
         records.setEstimated(ColourCamera::Third, kAboutY, [] { return true; });
@@ -34,34 +36,71 @@ protected:
 
 TEST_F(SavingTest, ANoteStandsOnDiskWhileTheOutcomeIsOpen) {
     accept();
-    EXPECT_TRUE(storeCalibration(*sensor, records, data.path()));
+    EXPECT_TRUE(storeCalibration(*sensor, records, data.path()).stored);
     ASSERT_TRUE(noteAtWrite) << "whatever ends the program here must be known at the next start";
-    EXPECT_EQ(noteAtWrite->serial, 550101U);
-    EXPECT_FALSE(readSaveNote(data.path()));
+    EXPECT_EQ(noteAtWrite->serial, kSerial);
+    EXPECT_FALSE(readSaveNote(data.path(), kSerial));
 
     device->failCall("commitCalibration", 2, 6);
     records.accept(ColourCamera::Third, parameters.colour[ColourCamera::Third].fromDepth.rotation);
-    EXPECT_FALSE(storeCalibration(*sensor, records, data.path()));
-    EXPECT_EQ(readSaveNote(data.path())->reason, sensor->writeBack().reason);
+    EXPECT_FALSE(storeCalibration(*sensor, records, data.path()).stored);
+    EXPECT_EQ(readSaveNote(data.path(), kSerial)->reason, sensor->writeBack().reason);
     EXPECT_TRUE(LogCapture::has("Failed to store calibration information to flash."));
 }
 
+TEST_F(SavingTest, TheNextStartDecidesByTheModulesBlock) {
+    using Outcome = LastSave::Outcome;
+    accept();
+    const KXCalibRectParameters before = device->flash;
+    ASSERT_TRUE(storeCalibration(*sensor, records, data.path()).stored);
+    ASSERT_TRUE(noteAtWrite && noteAtWrite->change);
+    EXPECT_TRUE(QFile::exists(noteAtWrite->backupFile));
+    const KXCalibRectParameters after = device->flash;
+    KXCalibRectParameters other = before;
+    other.rectificationThird[4] += 1;
+    for (const auto& [block, outcome] : {std::pair(after, Outcome::Stored), std::pair(before, Outcome::NotStored),
+                                         std::pair(other, Outcome::Neither)}) {
+        ASSERT_TRUE(writeSaveNote(data.path(), *noteAtWrite));
+        device->flash = block;
+        const auto last = settleLastSave(*sensor, data.path());
+        ASSERT_TRUE(last);
+        EXPECT_EQ(last->outcome, outcome);
+        EXPECT_FALSE(settleLastSave(*sensor, data.path())) << "told once";
+    }
+    ASSERT_TRUE(writeSaveNote(data.path(), *noteAtWrite));
+    device->failCall("rectParameters", 3 + 3 + 1, 6);
+    EXPECT_FALSE(settleLastSave(*sensor, data.path())) << "nothing is known, so nothing is said";
+    EXPECT_TRUE(readSaveNote(data.path(), kSerial)) << "it waits";
+    EXPECT_FALSE(sensor->faulted());
+}
+
+TEST_F(SavingTest, WithoutANoteOnTheDiskNothingIsWritten) {
+    accept();
+    ASSERT_TRUE(QDir(data.path()).mkpath("save-note-550101.json"));
+    const SaveResult result = storeCalibration(*sensor, records, data.path());
+    EXPECT_FALSE(result.stored);
+    EXPECT_FALSE(result.told);
+    EXPECT_FALSE(noteAtWrite) << "no call has reached the flash";
+    EXPECT_EQ(sensor->writeBack().flash, WriteBackReport::Flash::Untouched);
+    EXPECT_FALSE(sensor->faulted());
+}
+
 TEST_F(SavingTest, WithoutAnythingAcceptedBothRecordsArePassedAndNothingIsNoted) {
-    EXPECT_TRUE(storeCalibration(*sensor, records, data.path()));
+    EXPECT_TRUE(storeCalibration(*sensor, records, data.path()).stored);
     EXPECT_EQ(device->calls.back(), "zToPlatformExtrinsics()");
     EXPECT_FALSE(noteAtWrite);
 }
 
 TEST_F(SavingTest, ANoteThatCannotBeReadStillCounts) {
-    QFile file(data.filePath("save-note.json"));
+    QFile file(data.filePath("save-note-550101.json"));
     for (const char* text : {"", "{", "[1]", R"({"version": 2})", R"({"version": 1, "serial": -5e99, "begun": 7})"}) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text);
         file.close();
-        EXPECT_TRUE(readSaveNote(data.path())) << text;
+        EXPECT_TRUE(readSaveNote(data.path(), kSerial)) << text;
     }
-    EXPECT_TRUE(removeSaveNote(data.path()));
-    EXPECT_FALSE(readSaveNote(data.path()));
+    EXPECT_TRUE(removeSaveNote(data.path(), kSerial));
+    EXPECT_FALSE(readSaveNote(data.path(), kSerial));
 }
 
 /// A complete workflow with the fake module.

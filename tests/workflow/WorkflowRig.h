@@ -88,7 +88,7 @@ public:
     void missingModule() override { note(), errors.emplace_back("missing module"); }
     void missingPlatformCamera() override { note(), errors.emplace_back("missing platform camera"); }
     void platformCameraIssue() override { note(), ++rearCameraIssues; }
-    void lastSaveFailed(const SaveNote& text) override { note(), lastSave = text; }
+    void lastSaveSettled(const LastSave& last) override { note(), lastSave = last; }
 
     std::mutex mutex;
     std::condition_variable changed;
@@ -102,7 +102,7 @@ public:
     std::set<State> dotted;  ///< states in which frames arrived while the emitter was on
     std::vector<std::int32_t> codes;
     std::vector<std::string> errors;
-    std::optional<SaveNote> lastSave;
+    std::optional<LastSave> lastSave;
     FoundTurn found;
     std::function<void()> onPair;
 

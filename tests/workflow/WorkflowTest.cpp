@@ -157,11 +157,12 @@ TEST_F(WorkflowTest, AFailedSaveIsNotedAndToldAtTheNextStart) {
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     ASSERT_TRUE(user->lastSave);
-    EXPECT_EQ(user->lastSave->reason, report.errors[0]);
-    EXPECT_EQ(user->lastSave->flash, "The camera's flash holds the previous calibration.");
-    EXPECT_TRUE(QFile::exists(user->lastSave->backupFile));
+    EXPECT_EQ(user->lastSave->outcome, LastSave::Outcome::NotStored);
+    EXPECT_EQ(user->lastSave->note.reason, report.errors[0]);
+    EXPECT_EQ(user->lastSave->note.flash, "The camera's flash holds the previous calibration.");
+    EXPECT_TRUE(QFile::exists(user->lastSave->note.backupFile));
     EXPECT_EQ(read(folder.filePath("data/history.csv")).count(",not stored: "), 1);
-    EXPECT_EQ(user->lastSave->serial, 700010U);
+    EXPECT_EQ(user->lastSave->note.serial, 700010U);
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
     EXPECT_FALSE(user->lastSave) << "told once";

@@ -1,4 +1,4 @@
-#include "app/SingleInstance.h"
+#include "devices/SingleInstance.h"
 
 #include <windows.h>
 

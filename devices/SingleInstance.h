@@ -4,8 +4,9 @@
 
 namespace fieldcal {
 
-/// Held by the only running copy of the program, from its start to its end; the system releases it if the program
-/// crashes. On Windows there is one copy per machine, elsewhere one per user session.
+/// Held by the only program that uses the module, its service and the notes about both, from its start to its end; the
+/// system releases it if the program crashes. A note found while it is held was therefore left by a program that
+/// crashed. On Windows there is one holder per machine, elsewhere one per user session.
 class SingleInstance {
 public:
     SingleInstance();

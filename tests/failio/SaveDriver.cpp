@@ -1,0 +1,104 @@
+// The application's save without its screen, on the simulated module, for a disk that fails:
+//
+//   save-driver save DATA SERVICE     opens the module, turns the in-module camera by a degree, stores as the
+//   application
+//                                     does, and keeps report and history; status 0: it says that it is stored
+//   save-driver look DATA SERVICE     the next start: prints stored, not-stored, neither or none
+//
+// SERVICE is a file with the start type of the vendor's service, which is not on the disk that fails. SERVICE.unnoted
+// appears when the service is disabled without a note.
+#include "camera/Rotation.h"
+#include "devices/CameraParameterReader.h"
+#include "report/ReportFile.h"
+#include "tests/devices/FakeServiceControl.h"
+#include "workflow/Saving.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+#include <fstream>
+
+namespace fieldcal::testing {
+namespace {
+
+constexpr double kTurnRad = 0.0174;
+constexpr int kAutomatic = 2, kDisabled = 4;
+
+class ServiceInFile : public FakeServiceControl {
+public:
+    ServiceInFile(std::string file, std::string note) : file_(std::move(file)), note_(std::move(note)) {
+        std::ifstream(file_) >> startType;
+    }
+    bool changeConfig(Handle service, std::uint32_t type, std::uint32_t start, std::uint32_t errorControl) override {
+        if (!FakeServiceControl::changeConfig(service, type, start, errorControl)) return false;
+        std::ofstream(file_) << startType;
+        int noted = 0;
+        std::ifstream(note_) >> noted;
+        if (startType == kDisabled && noted != kAutomatic) std::ofstream(file_ + ".unnoted") << "disabled";
+        return true;
+    }
+
+private:
+    const std::string file_, note_;
+};
+
+Rotation turned(const Rotation& rotation) {
+    const Matrix3 wide = product(rotationFromAngles({0, kTurnRad, 0}), widened(rotation.data()));
+    Rotation out{};
+    for (std::size_t i = 0; i < out.size(); ++i)
+        out[i] = static_cast<float>(wide[i]);
+    return out;
+}
+
+int save(Sensor& sensor, const CameraParameters& parameters, const QString& data) {
+    CalibrationRecords records;
+    const Rotation& factory = parameters.colour[ColourCamera::Third].fromDepth.rotation;
+    records.setFactory(factory, parameters.colour[ColourCamera::Platform].fromDepth.rotation);
+    records.setEstimated(ColourCamera::Third, turned(factory), [] { return true; });
+    records.accept(ColourCamera::Third, turned(factory));
+    const SaveResult result = storeCalibration(sensor, records, data);
+    ServiceReport report;
+    report.time = QDateTime::currentDateTimeUtc();
+    report.serial = sensor.serialNumber();
+    report.cameras.emplace_back();
+    const WriteBackReport& written = sensor.writeBack();
+    report.write = ReportedWrite{result.stored, flashText(written), written.reason, written.backupFile};
+    keepReport(data, report);
+    std::printf("%s %s\n", result.stored ? "stored" : "failed", result.told ? "told" : "untold");
+    return result.stored ? 0 : 1;
+}
+
+int look(Sensor& sensor, const QString& data) {
+    const auto last = settleLastSave(sensor, data);
+    const char* words[] = {"not-stored", "stored", "neither"};
+    std::printf("%s\n", last ? words[static_cast<int>(last->outcome)] : "none");
+    return 0;
+}
+
+int run(const QStringList& arguments) {
+    const QString& data = arguments[2];
+    const QString note = data + "/service-note";
+    ServiceInFile control(arguments[3].toStdString(), note.toStdString());
+    PXMServiceManager services(control, note);
+    SensorEnvironment environment = systemEnvironment();
+    environment.services = &services;
+    environment.dataFolder = data;
+    Sensor sensor(environment);
+    CameraParameters parameters;
+    if (!sensor.open(applicationSettings()) || !readCameraParameters(sensor, &parameters, [] {})) {
+        std::printf("closed\n");
+        return 2;
+    }
+    return arguments[1] == "save" ? save(sensor, parameters, data) : look(sensor, data);
+}
+
+}  // namespace
+}  // namespace fieldcal::testing
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() == 4) return fieldcal::testing::run(arguments);
+    std::fprintf(stderr, "usage: save-driver save|look DATA SERVICE\n");
+    return 2;
+}
