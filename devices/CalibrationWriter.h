@@ -1,11 +1,11 @@
 #pragma once
 
 #include "camera/Rotation.h"
+#include "devices/BlockFields.h"
 #include "devices/ModuleLink.h"
 
 #include <QString>
 
-#include <bitset>
 #include <functional>
 #include <optional>
 
@@ -48,15 +48,18 @@ public:
     /// stops the writing is logged.
     bool writeRotations(const StoredRotations& present, const StoredRotations& wanted);
     bool restore(const KXCalibRectParameters& block);
+    /// Writes the present block once more, as it is: what a module that was never written does with a block.
+    bool rewrite();
 
     const WriteBackReport& report() const { return report_; }
 
 private:
     using Block = KXCalibRectParameters;
-    using Bytes = std::bitset<sizeof(Block)>;
+    using Bytes = BlockBytes;
 
     bool run(const std::function<bool(QString* why)>& makeWanted);
     bool prepare(const std::function<bool(QString* why)>& makeWanted);
+    bool takeWhole(const Block& block, QString* why);
     bool turn(KXUpdateRotationFunction function, const Rotation& rotation, const float* rectifyColour);
     bool write();
     bool readAgain();
@@ -82,6 +85,7 @@ private:
     std::optional<StoredRotations> rotations_;  ///< what the module must tell afterwards, if that is known
     KXPrivate* access_ = nullptr;
     bool resting_ = false;
+    bool alsoUnchanged_ = false;  ///< a block is also written when no byte changes
     bool differencesLogged_ = false;
 };
 

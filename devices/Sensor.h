@@ -85,6 +85,8 @@ public:
     /// Writes a whole block, as `ParameterBackup` keeps it, in the same manner. The calibration need not have been
     /// read.
     bool restoreParameters(const KXCalibRectParameters& block);
+    /// Writes the block that the module holds once more, unchanged.
+    bool rewriteParameters();
 
     /// About the last `updateRotation` or `restoreParameters`.
     const WriteBackReport& writeBack() const { return writeBack_; }

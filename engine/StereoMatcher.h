@@ -27,12 +27,18 @@ public:
     std::vector<float> refine(const std::vector<cv::Point2f>& leftPoints,
                               const std::vector<float>& coarseDisparitiesPx) const;
 
+    /// Rows between the same places and where the right image shows them, positive where it shows them lower.
+    std::vector<float> refineRows(const std::vector<cv::Point2f>& leftPoints,
+                                  const std::vector<float>& coarseDisparitiesPx) const;
+
     /// Disparities from a little below zero to things at 0.6 m before an imager pair of 55 mm and 580 px.
     static constexpr float kLargestDisparityPx = 54.0F;
 
 private:
     float findCoarseAt(const cv::Point2f& leftPoint) const;
-    float refineAt(const cv::Point2f& leftPoint, float coarsePx) const;
+    std::vector<cv::Point2f> refineWays(const std::vector<cv::Point2f>& leftPoints,
+                                        const std::vector<float>& coarseDisparitiesPx) const;
+    cv::Point2f refineWayAt(const cv::Point2f& leftPoint, float coarsePx) const;
 
     cv::Mat left_, right_;          ///< CV_32FC1
     cv::Mat leftHalf_, rightHalf_;  ///< CV_32FC1, half the size, padded on the left and right

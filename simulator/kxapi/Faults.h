@@ -48,6 +48,8 @@ public:
     /// What happens to a stream in a frame set, counted from 1.
     std::optional<StreamFault> inStream(const std::string& stream, std::uint64_t set) const;
 
+    /// Whether a condition of the README holds.
+    bool holds(const char* condition) const { return conditions_.count(condition) > 0; }
     /// The module's own count and checksum in its block change with each commit.
     bool livingBlock() const { return conditions_.count("living-block") > 0; }
     /// A failed call's status is told to the thread that made it, and to no other.
