@@ -74,7 +74,10 @@ void followCompanion(ModuleLink& link, const Block& block, const CompanionCamera
         out->companionAnswers = false;
         return;
     }
-    *told << QString("%1: %2 as told, %3 transposed").arg(camera.name).arg(asTold->change, 0, 'g', 2).arg(transposed->change, 0, 'g', 2);
+    *told << QString("%1: %2 as told, %3 transposed")
+                 .arg(camera.name)
+                 .arg(asTold->change, 0, 'g', 2)
+                 .arg(transposed->change, 0, 'g', 2);
     if (asTold->outside.any()) {
         *told << QString("%1: it changes %2 bytes outside of the rotation, the first one at %3")
                      .arg(camera.name)
@@ -129,8 +132,10 @@ BlockFindings checkBlock(ConnectedModule& module) {
     found.block = first;
     const BlockBytes differing = differences(first.block, second.block);
     line.verdict = verdictOf(differing.none());
-    line.text = differing.none() ? QString("%1 bytes").arg(differing.size())
-                                 : QString("%1 bytes differ, the first one at %2").arg(differing.count()).arg(differing._Find_first());
+    line.text =
+        differing.none()
+            ? QString("%1 bytes").arg(differing.size())
+            : QString("%1 bytes differ, the first one at %2").arg(differing.count()).arg(differing._Find_first());
     found.lines.push_back(line);
     CheckLine matrices{"block-matrices", "the block's matrices are rotations", Verdict::Fits, ""};
     const bool platform = module.sensor().device()->platformCamera() != nullptr;
@@ -174,7 +179,9 @@ CheckLine writeBackUnchanged(ConnectedModule& module, const ParameterBackup& bef
     const BlockBytes differing = differences(before.block, after.block);
     line.verdict = Verdict::Fits;
     line.text = differing.none() ? QString("written, committed, resumed and read: no byte differs")
-                                 : QString("the module changed %1 bytes of its own, the first one at %2").arg(differing.count()).arg(differing._Find_first());
+                                 : QString("the module changed %1 bytes of its own, the first one at %2")
+                                       .arg(differing.count())
+                                       .arg(differing._Find_first());
     return line;
 }
 

@@ -5,7 +5,6 @@
 
 #include <Eigen/Core>
 
-#include <array>
 #include <optional>
 #include <vector>
 
@@ -17,6 +16,7 @@ struct StillSolution {
     std::optional<vq::SolutionQuality> quality;
     std::vector<vq::EvidenceMatch> matches;  ///< that it was fitted to
     vq::Projection projection;
+    double cauchy = 0;  ///< where the loss of the fit bends
     vq::ParallaxReport parallax;
     double medianPx = 0;  ///< of the residuals
 };
@@ -25,9 +25,16 @@ struct StillSolution {
 std::optional<StillSolution> solveStills(const std::vector<vq::SelectedImages>& stills,
                                          const CameraParameters& parameters, bool platformCamera);
 
-/// By how many deviations the matches of both solutions speak for the first model of the cameras and against the
-/// second, where each model has the rotation that fits it best. Quarters of stills are the blocks whose scatter tells
-/// the deviation. None where too few blocks have matches.
-std::optional<double> deviationsFor(const StillSolution& first, const StillSolution& second);
+/// How far matches want a model of the cameras to be moved towards another one: 0 for the first one, 1 for the second.
+struct Preference {
+    double share = 0;
+    double deviation = 0;  ///< of the share
+};
+
+/// Estimates that share together with the rotation. `matches`: of solutions under either model. Its deviation is told
+/// by leaving out one still, or one quarter of a still, after the other; whichever scatters more. None where too few of
+/// them have matches or the estimate does not converge.
+std::optional<Preference> preferenceBetween(const std::vector<vq::EvidenceMatch>& matches, const StillSolution& told,
+                                            const vq::Projection& other);
 
 }  // namespace fieldcal

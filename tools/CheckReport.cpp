@@ -33,21 +33,21 @@ QJsonObject operationJson(const OperationRecord& record) {
 }
 
 QJsonObject streamJson(std::size_t stream, const StreamStatistics& seen) {
-    return {{"name", StreamWatch::nameOf(stream)}, {"width", seen.width},
-            {"height", seen.height},               {"delivered", seen.delivered},
-            {"changes", seen.changes},             {"newPerSecond", seen.newPerSecond},
+    return {{"name", StreamWatch::nameOf(stream)}, {"width", seen.width},      {"height", seen.height},
+            {"delivered", seen.delivered},         {"changes", seen.changes},  {"newPerSecond", seen.newPerSecond},
             {"jitterMs", seen.jitterMs},           {"oldestMs", seen.oldestMs}};
 }
 
 }  // namespace
 
 QString findingsText(const ModuleFindings& findings) {
-    QString text = QString("\nmodule %1, firmware %2, software %3\n\n")
-                       .arg(findings.module.serial)
-                       .arg(QString::fromStdString(findings.module.firmware),
-                            QString::fromStdString(findings.module.software));
+    QString text =
+        QString("\nmodule %1, firmware %2, software %3\n\n")
+            .arg(findings.module.serial)
+            .arg(QString::fromStdString(findings.module.firmware), QString::fromStdString(findings.module.software));
     for (const CheckLine& line : findings.lines)
-        text += QString("%1  %2  %3\n").arg(nameOf(line.verdict), -12).arg(line.name, -46).arg(line.text).trimmed() + '\n';
+        text +=
+            QString("%1  %2  %3\n").arg(nameOf(line.verdict), -12).arg(line.name, -46).arg(line.text).trimmed() + '\n';
     text += "\noperation                     calls  failed   first ms  longest ms\n";
     for (const OperationRecord& record : findings.operations) {
         text += QString("%1 %2 %3 %4 %5\n")
@@ -64,8 +64,8 @@ QString findingsText(const ModuleFindings& findings) {
 QJsonObject findingsJson(const ModuleFindings& findings) {
     QJsonArray lines, operations, streams;
     for (const CheckLine& line : findings.lines) {
-        lines.append(QJsonObject{
-            {"id", line.id}, {"name", line.name}, {"verdict", nameOf(line.verdict)}, {"text", line.text}});
+        lines.append(
+            QJsonObject{{"id", line.id}, {"name", line.name}, {"verdict", nameOf(line.verdict)}, {"text", line.text}});
     }
     for (const OperationRecord& record : findings.operations)
         operations.append(operationJson(record));

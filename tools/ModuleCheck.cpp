@@ -15,12 +15,13 @@ constexpr int kTimedSets = 180;
 constexpr int kMostSets = 3600;
 constexpr int kStillRepeats = 26;
 constexpr int kSetsAfterStills = 60;
+constexpr int kPatientSets = 1200;  ///< without a new still
 constexpr int kLargestStatus = 12;
 constexpr int kUnknownStatus = 77;
 constexpr double kLongestCallMs = 3000;
-constexpr int kNamedStatuses[] = {KX_STATUS_OK,           KX_STATUS_FAILED,      KX_STATUS_NOT_CALIBRATED,
-                                  KX_STATUS_NO_DEVICE,    KX_STATUS_DEVICE_ERROR, KX_STATUS_DEVICE_BUSY,
-                                  KX_STATUS_FIRMWARE_TOO_OLD};
+constexpr int kNamedStatuses[] = {
+    KX_STATUS_OK,           KX_STATUS_FAILED,      KX_STATUS_NOT_CALIBRATED,  KX_STATUS_NO_DEVICE,
+    KX_STATUS_DEVICE_ERROR, KX_STATUS_DEVICE_BUSY, KX_STATUS_FIRMWARE_TOO_OLD};
 constexpr std::int32_t kBothImagers = 3;
 
 bool fits(const char* name, const std::optional<KXCalibIntrinsicsRectified>& record, std::int32_t width,
@@ -94,7 +95,8 @@ bool ModuleCheck::checkSizes() {
     const auto infrared = link.read(device, &KXDevice::rectifiedLRIntrinsics);
     const auto depth = link.read(device, &KXDevice::zIntrinsics);
     const auto colour = link.read(third, &KXThirdCamera::rectifiedThirdIntrinsics);
-    CheckLine line{"intrinsics", "intrinsics are for the pictures' sizes", Verdict::CannotTell, "they could not be read"};
+    CheckLine line{"intrinsics", "intrinsics are for the pictures' sizes", Verdict::CannotTell,
+                   "they could not be read"};
     if (infrared && depth && colour) {
         QStringList told;
         const bool left = fits("infrared", infrared, device->lrWidth(), device->lrHeight(), &told);
@@ -132,7 +134,7 @@ bool ModuleCheck::capture() {
     const auto wanted = static_cast<std::size_t>(options_.stills);
     captures.emplace_back(false, wanted);
     if (withRear) captures.emplace_back(true, wanted);
-    int setsLeft = kMostSets;
+    int setsLeft = kPatientSets;
     for (int i = 0; i < setsLeft; ++i) {
         session::FramePictures pictures;
         if (!module_.grabWhatIsThere(&pictures, &why)) return stop(why);
@@ -143,6 +145,7 @@ bool ModuleCheck::capture() {
             complete = complete && captures[c].isComplete();
         }
         if (taken) keepStill(pictures);
+        if (taken) setsLeft = std::min(kMostSets, i + kPatientSets);
         if (complete) setsLeft = std::min(setsLeft, i + kSetsAfterStills);
         const StillCapture& slower = captures.back().isComplete() ? captures.front() : captures.back();
         say(QString("%1 of %2 stills. %3").arg(slower.stills().size()).arg(options_.stills).arg(slower.advice()));
@@ -193,13 +196,13 @@ void ModuleCheck::checkRest() {
     KXDevice* device = module_.sensor().device().get();
     KXHardwareControl* hardware = link.ask([device] { return device->hardwareControl(); });
     const SensorSettings settings = applicationSettings();
-    const bool good =
-        hardware != nullptr && link.ask([=] { return hardware->setAutoExposure(kBothImagers, false); }) &&
-        link.ask([=] { return hardware->setGain(settings.gain, kBothImagers); }) &&
-        link.ask([=] { return hardware->setExposure(settings.exposure, kBothImagers); }) &&
-        link.ask([=] { return hardware->setAutoExposure(kBothImagers, true); }) &&
-        link.ask([=] { return device->privateInterface(); }) != nullptr &&
-        link.ask([=] { return device->stopCapture(); }) && link.ask([=] { return device->resumeDevice(); });
+    const bool good = hardware != nullptr && link.ask([=] { return hardware->setAutoExposure(kBothImagers, false); }) &&
+                      link.ask([=] { return hardware->setGain(settings.gain, kBothImagers); }) &&
+                      link.ask([=] { return hardware->setExposure(settings.exposure, kBothImagers); }) &&
+                      link.ask([=] { return hardware->setAutoExposure(kBothImagers, true); }) &&
+                      link.ask([=] { return device->privateInterface(); }) != nullptr &&
+                      link.ask([=] { return device->stopCapture(); }) &&
+                      link.ask([=] { return device->resumeDevice(); });
     session::FramePictures pictures;
     QString why;
     CheckLine line{"resume", "pictures go on after a rest", Verdict::CannotTell, ""};
@@ -226,8 +229,8 @@ void ModuleCheck::finish() {
 CheckLine ModuleCheck::operationLine() const {
     CheckLine line{"operations", "every operation answers", Verdict::Fits, ""};
     const std::set<QString> ofWriting{"writeRectParameters", "commitCalibration"};
-    const std::set<QString> ofRearCamera{"setPlatformMode",         "nonRectifiedIntrinsics", "rectifiedIntrinsics",
-                                         "rectificationRotation",   "zToPlatformExtrinsics",  "KXRectificationTable",
+    const std::set<QString> ofRearCamera{"setPlatformMode",       "nonRectifiedIntrinsics", "rectifiedIntrinsics",
+                                         "rectificationRotation", "zToPlatformExtrinsics",  "KXRectificationTable",
                                          "KXRectifyBGRA8ToBGRA8"};
     QStringList failed, uncalled;
     for (const OperationRecord& record : found_.operations) {
@@ -251,12 +254,13 @@ CheckLine ModuleCheck::operationLine() const {
 
 CheckLine ModuleCheck::timeLine() const {
     CheckLine line{"call-times", "calls return in time", Verdict::CannotTell, "none was made"};
-    const auto slowest = std::max_element(
-        found_.operations.begin(), found_.operations.end(),
-        [](const OperationRecord& a, const OperationRecord& b) { return a.longestMs < b.longestMs; });
+    const auto slowest =
+        std::max_element(found_.operations.begin(), found_.operations.end(),
+                         [](const OperationRecord& a, const OperationRecord& b) { return a.longestMs < b.longestMs; });
     if (slowest == found_.operations.end() || slowest->longestMs <= 0) return line;
     line.verdict = verdictOf(slowest->longestMs <= kLongestCallMs);
-    line.text = QString("%1 took longest, %2 ms").arg(QString::fromStdString(slowest->name)).arg(slowest->longestMs, 0, 'f', 1);
+    line.text =
+        QString("%1 took longest, %2 ms").arg(QString::fromStdString(slowest->name)).arg(slowest->longestMs, 0, 'f', 1);
     return line;
 }
 

@@ -13,7 +13,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <functional>
+#include <iterator>
+#include <utility>
 
 namespace fieldcal {
 namespace {
@@ -29,6 +30,16 @@ constexpr double kMetresToMillimetres = 1000;
 /// A rotation is one of two when it is nearer to it than this share of what lies between them.
 constexpr double kNearShare = 0.25;
 constexpr double kLargestMedianPx = 1.0;
+/// What parts of an image that err together leave in doubt, in the camera's own pixels: with it, photographs and
+/// rendered squares whose principal point is known scatter as they should.
+constexpr double kPrincipalPointDoubtPx = 0.05;
+constexpr const char* kNoRotation = "the scene gave no rotation";
+
+/// Where a principal point may be meant, in pixels of the camera's own picture along both axes.
+struct Convention {
+    const char* name;
+    double shiftPx;
+};
 
 cv::Mat asMatrix(const vq::ImagePairRecord& record, int type) {
     if (record.width == 0) return {};
@@ -76,7 +87,8 @@ StereoEvidence stereoEvidence(const std::vector<vq::SelectedImages>& stills, int
 }
 
 CheckLine orderLine(const std::vector<vq::SelectedImages>& stills, int rows) {
-    CheckLine line{"imagers", "the left imager stands to the left", Verdict::CannotTell, "nothing near was seen by both"};
+    CheckLine line{"imagers", "the left imager stands to the left", Verdict::CannotTell,
+                   "nothing near was seen by both"};
     const std::size_t asTold = stereoEvidence(stills, rows, false).inFront;
     const std::size_t swapped = stereoEvidence(stills, -rows, true).inFront;
     if (std::max(asTold, swapped) < kLeastPlaces) return line;
@@ -88,7 +100,8 @@ CheckLine orderLine(const std::vector<vq::SelectedImages>& stills, int rows) {
 
 /// The rows by which the right image has to be raised for most places to be found again.
 int bestRows(const std::vector<vq::SelectedImages>& stills, bool swapped) {
-    const std::vector<vq::SelectedImages> some(stills.begin(), stills.begin() + std::min<std::ptrdiff_t>(2, static_cast<std::ptrdiff_t>(stills.size())));
+    const std::vector<vq::SelectedImages> some(
+        stills.begin(), stills.begin() + std::min<std::ptrdiff_t>(2, static_cast<std::ptrdiff_t>(stills.size())));
     int best = 0;
     std::size_t most = 0;
     for (int rows = -kMostRows; rows <= kMostRows; ++rows) {
@@ -185,8 +198,8 @@ public:
 private:
     CheckLine line(const QString& id, Verdict verdict, const QString& text) const {
         const QString camera = platform_ ? "rear" : "third";
-        const QString what = id == "translation"      ? "direction of the translation, %1 camera"
-                             : id == "rotation"       ? "direction of the rotation, %1 camera"
+        const QString what = id == "translation"       ? "direction of the translation, %1 camera"
+                             : id == "rotation"        ? "direction of the rotation, %1 camera"
                              : id == "principal-point" ? "principal point, %1 camera"
                                                        : "pictures are as calibrated, %1 camera";
         return {id + '-' + camera, what.arg(camera), verdict, text};
@@ -199,11 +212,10 @@ private:
         return platform_ ? parameters.outOfModuleColour : parameters.inModuleColour;
     }
 
-    /// Compares the solution with one under other parameters. Positive speaks for those that were told.
-    std::optional<double> against(const CameraParameters& other, std::optional<StillSolution>* otherSolution) const {
-        *otherSolution = solveStills(stills_, other, platform_);
-        if (!solution_ || !*otherSolution) return std::nullopt;
-        return deviationsFor(*solution_, **otherSolution);
+    vq::Projection withPose(const CameraExtrinsics& other) const {
+        vq::Projection projection = solution_->projection;
+        projection.translationM = Eigen::Map<const Eigen::Vector3f>(other.translation.data()).cast<double>();
+        return projection;
     }
 
     /// The opposite direction is taken from here on where the scene shows it, so that nothing else is blamed for it.
@@ -211,33 +223,44 @@ private:
         CameraParameters other = parameters_;
         for (float& metres : pose(other).translation)
             metres = -metres;
-        std::optional<StillSolution> opposite;
-        const auto deviations = against(other, &opposite);
-        if (!deviations) {
-            return line("translation", Verdict::CannotTell, "the scene gave no rotation to compare with");
+        const std::optional<StillSolution> opposite = solveStills(stills_, other, platform_);
+        if (!solution_ && !opposite) return line("translation", Verdict::CannotTell, kNoRotation);
+        std::vector<vq::EvidenceMatch> matches;
+        for (const auto& solved : {solution_, opposite}) {
+            if (solved) matches.insert(matches.end(), solved->matches.begin(), solved->matches.end());
         }
-        const QString text = QString("%1 deviations for the one that is told").arg(*deviations, 0, 'f', 1);
-        if (std::abs(*deviations) < kSignificant) {
+        const bool begunAsTold = solution_.has_value();
+        if (!begunAsTold) solution_ = opposite;
+        const auto found =
+            preferenceBetween(matches, *solution_, withPose(begunAsTold ? pose(other) : pose(parameters_)));
+        if (!found) return line("translation", Verdict::CannotTell, "nothing near enough was seen");
+        // From +1 for the translation that is told to -1 for the opposite one.
+        const double along = (begunAsTold ? 1 : -1) * (1 - 2 * found->share), deviation = 2 * found->deviation;
+        const QString text = QString("%1 ± %2 of the one that is told").arg(along, 0, 'f', 2).arg(deviation, 0, 'f', 2);
+        const bool isTold = along / deviation >= kSignificant, isOpposite = -along / deviation >= kSignificant;
+        if (!isTold && !isOpposite)
             return line("translation", Verdict::CannotTell, text + ": nothing near enough was seen");
+        if (isOpposite) {
+            parameters_ = other;
+            solution_ = opposite;
         }
-        if (*deviations > 0) return line("translation", Verdict::Fits, text);
-        parameters_ = other;
-        solution_ = opposite;
-        return line("translation", Verdict::DoesNotFit, text + ": the opposite one fits the scene");
+        return line("translation", verdictOf(isTold), text);
     }
 
     CheckLine rotationLine(Direction* direction) {
         *direction = Direction::Unknown;
-        if (!solution_ || !solution_->quality) return line("rotation", Verdict::CannotTell, "the scene gave no rotation");
+        if (!solution_ || !solution_->quality) return line("rotation", Verdict::CannotTell, kNoRotation);
         const Eigen::Matrix3d told = rotationOf(pose(parameters_));
         const double asTold = angleDeg(solution_->rotation, told);
         const double transposed = angleDeg(solution_->rotation, told.transpose());
         const double between = angleDeg(told, told.transpose());
         const auto& deviation = solution_->quality->deviationDeg;
-        const double deviationDeg = std::sqrt(deviation[0] * deviation[0] + deviation[1] * deviation[1] + deviation[2] * deviation[2]);
+        const double deviationDeg =
+            std::sqrt(deviation[0] * deviation[0] + deviation[1] * deviation[1] + deviation[2] * deviation[2]);
         const double deviations = (transposed - asTold) / deviationDeg;
-        const QString text = QString("the scene shows it %1° from the one that is told and %2° from its transpose "
-                                     "(%3 deviations)")
+        const QString text = QString(
+                                 "the scene shows it %1° from the one that is told and %2° from its transpose "
+                                 "(%3 deviations)")
                                  .arg(asTold, 0, 'f', 3)
                                  .arg(transposed, 0, 'f', 3)
                                  .arg(deviations, 0, 'f', 1);
@@ -250,35 +273,31 @@ private:
     }
 
     CheckLine principalPointLine() {
-        if (!solution_) return line("principal-point", Verdict::CannotTell, "the scene gave no rotation to compare with");
+        if (!solution_) return line("principal-point", Verdict::CannotTell, kNoRotation);
         const float scale = pixelScale();
-        struct Convention {
-            const char* name;
-            float shift;  ///< of the principal point in the scaled image
-        };
-        const Convention others[] = {{"counted from the corner of the first pixel", -0.5F * scale},
-                                     {"half a pixel smaller than it is", 0.5F * scale},
-                                     {"that of the picture before it is scaled", 0.5F * (scale - 1)}};
-        QStringList told;
-        double least = 1e9;
-        QString best;
-        for (const Convention& convention : others) {
-            CameraParameters other = parameters_;
-            model(other).cx += convention.shift;
-            model(other).cy += convention.shift;
-            std::optional<StillSolution> solved;
-            const auto deviations = against(other, &solved);
-            if (!deviations) continue;
-            told << QString("%1 against '%2'").arg(*deviations, 0, 'f', 1).arg(convention.name);
-            if (*deviations < least) {
-                least = *deviations;
-                best = convention.name;
-            }
+        vq::Projection other = solution_->projection;
+        other.cameras.colour.cx += scale;
+        other.cameras.colour.cy += scale;
+        const auto found = preferenceBetween(solution_->matches, *solution_, other);
+        if (!found) return line("principal-point", Verdict::CannotTell, kNoRotation);
+        const double deviationPx = std::hypot(found->deviation, kPrincipalPointDoubtPx);
+        QString text =
+            QString("%1 ± %2 px from where it is told").arg(found->share, 0, 'f', 3).arg(deviationPx, 0, 'f', 3);
+        const Convention conventions[] = {
+            {"as it is told", 0},
+            {"told from the corner of the first pixel", -0.5},
+            {"told half a pixel too small", 0.5},
+            {"told for the unscaled picture", 0.5 * (static_cast<double>(scale) - 1) / static_cast<double>(scale)}};
+        std::array<bool, std::size(conventions)> isPossible{};
+        for (std::size_t i = 0; i < isPossible.size(); ++i) {
+            const double deviations = std::abs(found->share - conventions[i].shiftPx) / deviationPx;
+            isPossible[i] = deviations < kSignificant;
+            text += QString("; '%1' is %2 deviations away").arg(conventions[i].name).arg(deviations, 0, 'f', 1);
         }
-        const QString text = "deviations for the one that is told: " + told.join(", ");
-        if (least <= -kSignificant) return line("principal-point", Verdict::DoesNotFit, text + ": it is " + best);
-        const bool tells = told.size() == 3 && least >= kSignificant;
-        return line("principal-point", tells ? Verdict::Fits : Verdict::CannotTell, text);
+        // The last one differs so little that its being possible, too, is told and changes nothing.
+        if (!isPossible[0]) return line("principal-point", Verdict::DoesNotFit, text);
+        const bool isOther = isPossible[1] || isPossible[2];
+        return line("principal-point", isOther ? Verdict::CannotTell : Verdict::Fits, text);
     }
 
     /// Scaled pixels per pixel of the camera's own picture.
@@ -290,7 +309,7 @@ private:
     }
 
     CheckLine modelLine() const {
-        if (!solution_) return line("model", Verdict::CannotTell, "the scene gave no rotation");
+        if (!solution_) return line("model", Verdict::CannotTell, kNoRotation);
         QString text = QString("%1 matches, residual %2 px in the median")
                            .arg(solution_->matches.size())
                            .arg(solution_->medianPx, 0, 'f', 2);
@@ -299,10 +318,14 @@ private:
         const auto departure = check.departure();
         bool fits = solution_->medianPx <= kLargestMedianPx;
         if (departure) {
-            const char* names[] = {"focal length", "principal point", "distortion", "translation", "rolling shear", "two halves"};
+            const char* names[] = {"focal length", "principal point", "distortion",
+                                   "translation",  "rolling shear",   "two halves"};
             const auto index = static_cast<std::size_t>(*departure);
-            text += QString("; departs in %1 (probability of chance %2)").arg(names[index]).arg(check.probability[index], 0, 'g', 2);
-            const bool judgedElsewhere = *departure == vq::ModelDeparture::PrincipalPoint || *departure == vq::ModelDeparture::Translation;
+            text += QString("; departs in %1 (probability of chance %2)")
+                        .arg(names[index])
+                        .arg(check.probability[index], 0, 'g', 2);
+            const bool judgedElsewhere =
+                *departure == vq::ModelDeparture::PrincipalPoint || *departure == vq::ModelDeparture::Translation;
             fits = fits && judgedElsewhere;
         }
         return line("model", verdictOf(fits), text);
@@ -333,9 +356,11 @@ CheckLines checkStereo(const std::vector<vq::SelectedImages>& stills, const Came
 CheckLine checkTranslations(const CameraParameters& parameters, bool withPlatform) {
     CheckLine line{"translation-unit", "translations in millimetres", Verdict::Fits, ""};
     QStringList lengths;
-    for (const auto& [name, pose] : {std::pair{"third", parameters.depthToInModule}, {"rear", parameters.depthToOutOfModule}}) {
+    for (const auto& [name, pose] :
+         {std::pair{"third", parameters.depthToInModule}, {"rear", parameters.depthToOutOfModule}}) {
         if (QString(name) == "rear" && !withPlatform) continue;
-        const double lengthMm = Eigen::Map<const Eigen::Vector3f>(pose.translation.data()).cast<double>().norm() * kMetresToMillimetres;
+        const double lengthMm =
+            Eigen::Map<const Eigen::Vector3f>(pose.translation.data()).cast<double>().norm() * kMetresToMillimetres;
         lengths << QString("%1 %2 mm").arg(name).arg(lengthMm, 0, 'f', 2);
         if (!(lengthMm >= kShortestMm && lengthMm <= kLongestMm)) line.verdict = Verdict::DoesNotFit;
     }

@@ -26,6 +26,8 @@ public:
     const std::vector<vq::SelectedImages>& stills() const { return stills_; }
 
 private:
+    bool showsSomethingNew(const vq::SelectedImages& still) const;
+
     const bool platformCamera_;
     const std::size_t wanted_;
     LightGate light_;

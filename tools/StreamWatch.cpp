@@ -228,7 +228,8 @@ CheckLine StreamWatch::streamLine(std::size_t stream) const {
     const double leastShare = stream == kRear ? kLeastDeliveredShare / 4 : kLeastDeliveredShare;
     if (seen.delivered == 0) return line(Verdict::DoesNotFit, "it brings no pictures");
     if (share < leastShare) {
-        return line(Verdict::DoesNotFit, QString("only %1 % of the frame sets have a picture").arg(100 * share, 0, 'f', 0));
+        return line(Verdict::DoesNotFit,
+                    QString("only %1 % of the frame sets have a picture").arg(100 * share, 0, 'f', 0));
     }
     if (stream != kDepth && !seen.showsSomething) return line(Verdict::DoesNotFit, "its pictures show nothing");
     if (stream == kRight && followed.equalsLeft) return line(Verdict::DoesNotFit, "its pictures are the left ones");

@@ -67,8 +67,7 @@ const std::uint16_t* ConventionalPicture::withLowerRows(const fieldcal::ImageFra
     return pixels16(withPaddedRows(&changed_, faults));
 }
 
-const std::uint16_t* ConventionalPicture::inCentimetres(const fieldcal::ImageFrame16* picture,
-                                                                const Faults& faults) {
+const std::uint16_t* ConventionalPicture::inCentimetres(const fieldcal::ImageFrame16* picture, const Faults& faults) {
     const bool other = picture != nullptr && !picture->empty() && faults.holds("depth-in-centimetres");
     if (!other) return pixels16(withPaddedRows(picture, faults));
     changed_ = *picture;
