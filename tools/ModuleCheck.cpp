@@ -57,9 +57,10 @@ bool ModuleCheck::look() {
     found_.block = block.block;
     for (const CheckLine& line : block.lines)
         add(line);
-    if (timeStreams() && sizesFit && capture()) checkScene();
+    const bool captured = timeStreams() && sizesFit && capture();
     for (const CheckLine& line : watch_->lines())
         add(line);
+    if (captured) checkScene();
     add(companionLine(block, shown_));
     checkRest();
     if (options_.writeBackUnchanged && block.block) add(writeBackUnchanged(module_, *block.block));
@@ -177,15 +178,20 @@ void ModuleCheck::keepStill(const session::FramePictures& pictures) {
 void ModuleCheck::checkScene() {
     say("Comparing the cameras. This takes some seconds.");
     add(checkTranslations(module_.parameters(), cameras_.size() > 1));
-    CheckLines trusted = found_.lines;
-    for (const CheckLine& line : checkStereo(cameras_.front().stills, module_.parameters())) {
-        add(line);
-        trusted.push_back(line);
-    }
+    QStringList foundations{"stream-left", "stream-right", "stream-depth", "packed-rows", "same-moment"};
+    for (const CheckLine& line : checkStereo(cameras_.front().stills, module_.parameters()))
+        add(unblamed(line, found_.lines, foundations));
+    const CheckLines trusted = found_.lines;
+    foundations << "stream-third"
+                << "stream-rear"
+                << "translation-unit"
+                << "imagers"
+                << "stereo-rows"
+                << "baseline";
     for (const CameraStills& camera : cameras_) {
         Direction direction = Direction::Unknown;
         for (const CheckLine& line : checkCamera(camera, module_.parameters(), trusted, &direction))
-            add(line);
+            add(unblamed(line, trusted, foundations));
         if (direction != Direction::Unknown && shown_ == Direction::Unknown) shown_ = direction;
     }
 }
@@ -206,7 +212,9 @@ void ModuleCheck::checkRest() {
     session::FramePictures pictures;
     QString why;
     CheckLine line{"resume", "pictures go on after a rest", Verdict::CannotTell, ""};
-    if (good) line.verdict = verdictOf(module_.grabWhatIsThere(&pictures, &why) && !pictures.infrared.empty());
+    if (good)
+        line.verdict = verdictOf(module_.grabWhatIsThere(&pictures, &why) &&
+                                 !(pictures.infrared.empty() && pictures.third.empty()));
     add(line);
 }
 

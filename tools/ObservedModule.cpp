@@ -154,7 +154,7 @@ public:
                         framesPerSecond, pixelFormat);
     }
     bool setThirdEnabled(bool on) override { return observed("setThirdEnabled", &KXThirdCamera::setThirdEnabled, on); }
-    bool thirdEnabled() override { return observed("thirdEnabled", &KXThirdCamera::thirdEnabled); }
+    bool thirdEnabled() override { return noteless("thirdEnabled", &KXThirdCamera::thirdEnabled); }
     const std::uint8_t* thirdImage() override { return noteless("thirdImage", &KXThirdCamera::thirdImage); }
     std::int32_t thirdWidth() override { return observed("thirdWidth", &KXThirdCamera::thirdWidth); }
     std::int32_t thirdHeight() override { return observed("thirdHeight", &KXThirdCamera::thirdHeight); }
@@ -253,11 +253,11 @@ public:
                         pixelFormat);
     }
     bool setDepthEnabled(bool on) override { return observed("setDepthEnabled", &KXDevice::setDepthEnabled, on); }
-    bool depthEnabled() override { return observed("depthEnabled", &KXDevice::depthEnabled); }
+    bool depthEnabled() override { return noteless("depthEnabled", &KXDevice::depthEnabled); }
     bool setLeftEnabled(bool on) override { return observed("setLeftEnabled", &KXDevice::setLeftEnabled, on); }
-    bool leftEnabled() override { return observed("leftEnabled", &KXDevice::leftEnabled); }
+    bool leftEnabled() override { return noteless("leftEnabled", &KXDevice::leftEnabled); }
     bool setRightEnabled(bool on) override { return observed("setRightEnabled", &KXDevice::setRightEnabled, on); }
-    bool rightEnabled() override { return observed("rightEnabled", &KXDevice::rightEnabled); }
+    bool rightEnabled() override { return noteless("rightEnabled", &KXDevice::rightEnabled); }
     bool setStreamOption(bool on) override { return observed("setStreamOption", &KXDevice::setStreamOption, on); }
     bool startCapture() override { return observed("startCapture", &KXDevice::startCapture); }
     bool stopCapture() override { return observed("stopCapture", &KXDevice::stopCapture); }

@@ -30,6 +30,8 @@ constexpr int kRowStep = 8;
 constexpr int kMostRowPictures = 6;
 constexpr double kTexturedShare = 0.8;  ///< cost of the best shift, of the mean of all, above which rows show nothing
 
+constexpr int kLeastTimedSets = 60;
+
 constexpr int kMotionStep = 8;
 constexpr int kMostLag = 14;
 constexpr int kTolerableLag = 2;
@@ -222,7 +224,7 @@ CheckLine StreamWatch::streamLine(std::size_t stream) const {
     const auto line = [&](Verdict verdict, const QString& text) {
         return CheckLine{kIds[stream], QString("pictures of the %1 stream").arg(kNames[stream]), verdict, text};
     };
-    if (sets_ == 0) return line(Verdict::CannotTell, "no frame set was grabbed");
+    if (timedSets_ < kLeastTimedSets) return line(Verdict::CannotTell, "too few frame sets were grabbed");
     const QString size = QString("%1 x %2").arg(seen.width).arg(seen.height);
     const double share = static_cast<double>(seen.delivered) / sets_;
     const double leastShare = stream == kRear ? kLeastDeliveredShare / 4 : kLeastDeliveredShare;

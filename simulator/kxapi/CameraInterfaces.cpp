@@ -76,7 +76,7 @@ bool PlatformInterface::nonRectifiedIntrinsics(KXCalibIntrinsicsNonRectified* ou
 
 bool PlatformInterface::rectifiedIntrinsics(KXCalibIntrinsicsRectified* out) {
     if (!enterInMode("rectifiedIntrinsics", 1)) return false;
-    *out = inConvention(kxsim::rectifiedIntrinsics(state_.description().platform->rectified), state_.settings.faults);
+    *out = kxsim::rectifiedIntrinsics(state_.description().platform->rectified);
     return true;
 }
 
