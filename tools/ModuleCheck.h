@@ -45,8 +45,8 @@ private:
     bool look();
     void checkTexts();
     bool checkSizes();
-    bool timeStreams();
-    bool capture();
+    bool timeStreams(bool described);
+    bool capture(session::SessionDescription description);
     bool startRecording(const session::SessionDescription& description);
     void keepStill(const session::FramePictures& pictures);
     void checkScene();

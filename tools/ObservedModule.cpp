@@ -384,7 +384,11 @@ void OperationLog::end(const char* name, Clock::time_point begun, bool failed) {
     const std::lock_guard guard(mutex_);
     OperationRecord& record = records_[name];
     record.underWay = false;
-    if (record.calls == 1) record.firstMs = ms;
+    if (record.calls == 1) {
+        record.firstMs = ms;
+    } else {
+        record.longestLaterMs = std::max(record.longestLaterMs, ms);
+    }
     record.longestMs = std::max(record.longestMs, ms);
     if (!failed) return;
     ++record.failures;

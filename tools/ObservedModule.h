@@ -21,7 +21,8 @@ struct OperationRecord {
     std::optional<std::int32_t> status;  ///< that the library told after the first failure, where it was asked
     double firstMs = 0;
     double longestMs = 0;
-    bool underWay = false;  ///< a call has not returned
+    double longestLaterMs = 0;  ///< of all calls but the first one
+    bool underWay = false;      ///< a call has not returned
 };
 
 /// Counts and times the calls that a program makes of the camera library. Any thread.

@@ -33,6 +33,7 @@ constexpr double kLargestMedianPx = 1.0;
 /// What parts of an image that err together leave in doubt, in the camera's own pixels: with it, photographs and
 /// rendered squares whose principal point is known scatter as they should.
 constexpr double kPrincipalPointDoubtPx = 0.05;
+constexpr float kOtherSizes[] = {0.97F, 1.03F, 0.94F, 1.06F};
 constexpr const char* kNoRotation = "the scene gave no rotation";
 
 /// Where a principal point may be meant, in pixels of the camera's own picture along both axes.
@@ -180,7 +181,7 @@ public:
         : platform_(camera.platformCamera), parameters_(parameters), stills_(trustedStills(camera, trusted)) {}
 
     CheckLines lines(Direction* direction) {
-        solution_ = solveStills(stills_, parameters_, platform_);
+        solve();
         CheckLines all{translationLine()};
         all.push_back(rotationLine(direction));
         all.push_back(principalPointLine());
@@ -205,6 +206,25 @@ private:
         return {id + '-' + camera, what.arg(camera), verdict, text};
     }
 
+    /// Where nothing is found as the cameras are told, the search starts from the transposed rotation, and then takes
+    /// the pictures for smaller or larger ones.
+    void solve() {
+        solution_ = solveStills(stills_, parameters_, platform_);
+        if (solution_ || stills_.empty()) return;
+        CameraParameters other = parameters_;
+        std::array<float, 9>& rotation = pose(other).rotation;
+        for (const auto& [upper, lower] : {std::pair<std::size_t, std::size_t>{1, 3}, {2, 6}, {5, 7}})
+            std::swap(rotation[upper], rotation[lower]);
+        solution_ = solveStills(stills_, other, platform_);
+        for (const float factor : kOtherSizes) {
+            if (solution_ || otherSize_) return;
+            other = parameters_;
+            model(other).fx *= factor;
+            model(other).fy *= factor;
+            if (solveStills(stills_, other, platform_)) otherSize_ = factor;
+        }
+    }
+
     CameraExtrinsics& pose(CameraParameters& parameters) const {
         return platform_ ? parameters.depthToOutOfModule : parameters.depthToInModule;
     }
@@ -223,7 +243,8 @@ private:
         CameraParameters other = parameters_;
         for (float& metres : pose(other).translation)
             metres = -metres;
-        const std::optional<StillSolution> opposite = solveStills(stills_, other, platform_);
+        std::optional<StillSolution> opposite;
+        if (!otherSize_) opposite = solveStills(stills_, other, platform_);
         if (!solution_ && !opposite) return line("translation", Verdict::CannotTell, kNoRotation);
         std::vector<vq::EvidenceMatch> matches;
         for (const auto& solved : {solution_, opposite}) {
@@ -309,6 +330,12 @@ private:
     }
 
     CheckLine modelLine() const {
+        if (otherSize_) {
+            const double percent = 100 * (static_cast<double>(*otherSize_) - 1);
+            return line("model", Verdict::DoesNotFit,
+                        QString("the scene gives a rotation only for focal lengths that differ by about %1 %")
+                            .arg(percent, 0, 'f', 0));
+        }
         if (!solution_) return line("model", Verdict::CannotTell, kNoRotation);
         QString text = QString("%1 matches, residual %2 px in the median")
                            .arg(solution_->matches.size())
@@ -335,6 +362,7 @@ private:
     CameraParameters parameters_;
     const std::vector<vq::SelectedImages> stills_;
     std::optional<StillSolution> solution_;
+    std::optional<float> otherSize_;  ///< under which alone the scene gives a rotation
 };
 
 }  // namespace

@@ -15,8 +15,9 @@ namespace {
 
 constexpr const char* kNames[] = {"left infrared", "right infrared", "depth", "third colour", "rear camera"};
 constexpr const char* kIds[] = {"stream-left", "stream-right", "stream-depth", "stream-third", "stream-rear"};
-/// New pictures a second that the program needs of each stream, a tenth less than asked for.
-constexpr double kLeastRates[] = {54, 54, 27, 27, 27};
+/// New pictures a second that the program needs of each stream. Infrared and colour have a tenth less than is asked
+/// for; depth may come with every other infrared picture, and the rear camera may expose twice as long.
+constexpr double kLeastRates[] = {54, 54, 27, 27, 13};
 /// A picture older than this is not matched with another one.
 constexpr double kOldestMs = 100;
 constexpr double kTolerableOldShare = 0.02;
@@ -240,7 +241,7 @@ CheckLine StreamWatch::streamLine(std::size_t stream) const {
     if (isFrozen) return line(Verdict::DoesNotFit, "its picture stands still while others go on");
 
     const double timed = static_cast<double>(followed.timedMs.size());
-    if (timed < kMovingShare / (stream == kLeft || stream == kRight ? 1 : 2) * timedSets_) {
+    if (timed < kMovingShare * kLeastRates[stream] / kLeastRates[kLeft] * timedSets_) {
         return line(Verdict::CannotTell, size + ", but its pictures repeat themselves, so that they tell no rate");
     }
     int old = 0;

@@ -41,21 +41,34 @@ private:
 
 class AdaptedHardwareControl final : public Adapted<KXHardwareControl> {
 public:
-    bool setAutoExposure(std::int32_t imagers, bool on) override { return call(library().hardware.setAutoExposure, imagers, on); }
-    bool setGain(float value, std::int32_t imagers) override { return call(library().hardware.setGain, value, imagers); }
-    bool setExposure(float milliseconds, std::int32_t imagers) override { return call(library().hardware.setExposure, milliseconds, imagers); }
-    bool setHardwareOption(bool on, std::int32_t value) override { return call(library().hardware.setHardwareOption, on, value); }
+    bool setAutoExposure(std::int32_t imagers, bool on) override {
+        return call(library().hardware.setAutoExposure, imagers, on);
+    }
+    bool setGain(float value, std::int32_t imagers) override {
+        return call(library().hardware.setGain, value, imagers);
+    }
+    bool setExposure(float milliseconds, std::int32_t imagers) override {
+        return call(library().hardware.setExposure, milliseconds, imagers);
+    }
+    bool setHardwareOption(bool on, std::int32_t value) override {
+        return call(library().hardware.setHardwareOption, on, value);
+    }
 };
 
 class AdaptedThirdCamera final : public Adapted<KXThirdCamera> {
 public:
-    bool setThirdStreamMode(bool rectified, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond, std::int32_t pixelFormat) override { return call(library().third.setThirdStreamMode, rectified, width, height, framesPerSecond, pixelFormat); }
+    bool setThirdStreamMode(bool rectified, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond,
+                            std::int32_t pixelFormat) override {
+        return call(library().third.setThirdStreamMode, rectified, width, height, framesPerSecond, pixelFormat);
+    }
     bool setThirdEnabled(bool on) override { return call(library().third.setThirdEnabled, on); }
     bool thirdEnabled() override { return call(library().third.thirdEnabled); }
     const std::uint8_t* thirdImage() override { return call(library().third.thirdImage); }
     std::int32_t thirdWidth() override { return call(library().third.thirdWidth); }
     std::int32_t thirdHeight() override { return call(library().third.thirdHeight); }
-    bool rectifiedThirdIntrinsics(KXCalibIntrinsicsRectified* out) override { return call(library().third.rectifiedThirdIntrinsics, out); }
+    bool rectifiedThirdIntrinsics(KXCalibIntrinsicsRectified* out) override {
+        return call(library().third.rectifiedThirdIntrinsics, out);
+    }
     bool zToThirdExtrinsics(KXCalibExtrinsics* out) override { return call(library().third.zToThirdExtrinsics, out); }
 };
 
@@ -66,16 +79,26 @@ public:
 
 class AdaptedPlatformCamera final : public Adapted<KXPlatformCamera> {
 public:
-    bool setPlatformMode(std::int32_t rectified, std::int32_t width, std::int32_t height) override { return call(library().platform.setPlatformMode, rectified, width, height); }
-    bool nonRectifiedIntrinsics(KXCalibIntrinsicsNonRectified* out) override { return call(library().platform.nonRectifiedIntrinsics, out); }
-    bool rectifiedIntrinsics(KXCalibIntrinsicsRectified* out) override { return call(library().platform.rectifiedIntrinsics, out); }
+    bool setPlatformMode(std::int32_t rectified, std::int32_t width, std::int32_t height) override {
+        return call(library().platform.setPlatformMode, rectified, width, height);
+    }
+    bool nonRectifiedIntrinsics(KXCalibIntrinsicsNonRectified* out) override {
+        return call(library().platform.nonRectifiedIntrinsics, out);
+    }
+    bool rectifiedIntrinsics(KXCalibIntrinsicsRectified* out) override {
+        return call(library().platform.rectifiedIntrinsics, out);
+    }
     const double* rectificationRotation() override { return call(library().platform.rectificationRotation); }
-    bool zToPlatformExtrinsics(KXCalibExtrinsics* out) override { return call(library().platform.zToPlatformExtrinsics, out); }
+    bool zToPlatformExtrinsics(KXCalibExtrinsics* out) override {
+        return call(library().platform.zToPlatformExtrinsics, out);
+    }
 };
 
 class AdaptedPrivate final : public Adapted<KXPrivate> {
 public:
-    bool writeRectParameters(const KXCalibRectParameters* parameters, bool permanent) override { return call(library().access.writeRectParameters, parameters, permanent); }
+    bool writeRectParameters(const KXCalibRectParameters* parameters, bool permanent) override {
+        return call(library().access.writeRectParameters, parameters, permanent);
+    }
     bool commitCalibration() override { return call(library().access.commitCalibration); }
 };
 
@@ -89,10 +112,17 @@ public:
     const char* firmwareVersionText() override { return call(library().device.firmwareVersionText); }
     const char* softwareVersionText() override { return call(library().device.softwareVersionText); }
     bool serialNumber(std::uint32_t* out) override { return call(library().device.serialNumber, out); }
-    KXHardwareControl* hardwareControl() override { return hardware_.around(call(library().device.hardwareControl), missing()); }
+    KXHardwareControl* hardwareControl() override {
+        return hardware_.around(call(library().device.hardwareControl), missing());
+    }
     KXThirdCamera* thirdCamera() override { return third_.around(call(library().device.thirdCamera), missing()); }
-    KXEmitterControl* emitterControl() override { return emitter_.around(call(library().device.emitterControl), missing()); }
-    bool setDepthStreamMode(bool rectified, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond, std::int32_t pixelFormat) override { return call(library().device.setDepthStreamMode, rectified, width, height, framesPerSecond, pixelFormat); }
+    KXEmitterControl* emitterControl() override {
+        return emitter_.around(call(library().device.emitterControl), missing());
+    }
+    bool setDepthStreamMode(bool rectified, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond,
+                            std::int32_t pixelFormat) override {
+        return call(library().device.setDepthStreamMode, rectified, width, height, framesPerSecond, pixelFormat);
+    }
     bool setDepthEnabled(bool on) override { return call(library().device.setDepthEnabled, on); }
     bool depthEnabled() override { return call(library().device.depthEnabled); }
     bool setLeftEnabled(bool on) override { return call(library().device.setLeftEnabled, on); }
@@ -112,11 +142,17 @@ public:
     std::int32_t lrHeight() override { return call(library().device.lrHeight); }
     std::int32_t lastStatus() override { return statusOf(library().device.lastStatus); }
     bool calibrationValid() override { return call(library().device.calibrationValid); }
-    bool rectifiedLRIntrinsics(KXCalibIntrinsicsRectified* out) override { return call(library().device.rectifiedLRIntrinsics, out); }
+    bool rectifiedLRIntrinsics(KXCalibIntrinsicsRectified* out) override {
+        return call(library().device.rectifiedLRIntrinsics, out);
+    }
     bool zIntrinsics(KXCalibIntrinsicsRectified* out) override { return call(library().device.zIntrinsics, out); }
     bool rectParameters(KXCalibRectParameters* out) override { return call(library().device.rectParameters, out); }
-    KXPlatformCamera* platformCamera() override { return platform_.around(call(library().device.platformCamera), missing()); }
-    KXPrivate* privateInterface() override { return access_.around(call(library().device.privateInterface), missing()); }
+    KXPlatformCamera* platformCamera() override {
+        return platform_.around(call(library().device.platformCamera), missing());
+    }
+    KXPrivate* privateInterface() override {
+        return access_.around(call(library().device.privateInterface), missing());
+    }
     bool resumeDevice() override { return call(library().device.resumeDevice); }
 
 private:

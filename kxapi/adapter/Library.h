@@ -18,7 +18,8 @@ struct HardwareControlFunctions {
 };
 
 struct ThirdCameraFunctions {
-    bool (*setThirdStreamMode)(void* handle, bool rectified, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond, std::int32_t pixelFormat);
+    bool (*setThirdStreamMode)(void* handle, bool rectified, std::int32_t width, std::int32_t height,
+                               std::int32_t framesPerSecond, std::int32_t pixelFormat);
     bool (*setThirdEnabled)(void* handle, bool on);
     bool (*thirdEnabled)(void* handle);
     const std::uint8_t* (*thirdImage)(void* handle);
@@ -52,9 +53,10 @@ struct DeviceFunctions {
     const char* (*softwareVersionText)(void* handle);
     bool (*serialNumber)(void* handle, std::uint32_t* out);
     void* (*hardwareControl)(void* handle);  ///< the interface's handle; null: the module has none
-    void* (*thirdCamera)(void* handle);  ///< the interface's handle; null: the module has none
-    void* (*emitterControl)(void* handle);  ///< the interface's handle; null: the module has none
-    bool (*setDepthStreamMode)(void* handle, bool rectified, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond, std::int32_t pixelFormat);
+    void* (*thirdCamera)(void* handle);      ///< the interface's handle; null: the module has none
+    void* (*emitterControl)(void* handle);   ///< the interface's handle; null: the module has none
+    bool (*setDepthStreamMode)(void* handle, bool rectified, std::int32_t width, std::int32_t height,
+                               std::int32_t framesPerSecond, std::int32_t pixelFormat);
     bool (*setDepthEnabled)(void* handle, bool on);
     bool (*depthEnabled)(void* handle);
     bool (*setLeftEnabled)(void* handle, bool on);
@@ -77,7 +79,7 @@ struct DeviceFunctions {
     bool (*rectifiedLRIntrinsics)(void* handle, KXCalibIntrinsicsRectified* out);
     bool (*zIntrinsics)(void* handle, KXCalibIntrinsicsRectified* out);
     bool (*rectParameters)(void* handle, KXCalibRectParameters* out);
-    void* (*platformCamera)(void* handle);  ///< the interface's handle; null: the module has none
+    void* (*platformCamera)(void* handle);    ///< the interface's handle; null: the module has none
     void* (*privateInterface)(void* handle);  ///< the interface's handle; null: the module has none
     bool (*resumeDevice)(void* handle);
 };

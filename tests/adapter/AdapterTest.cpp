@@ -31,7 +31,8 @@ TEST_F(AdapterTest, PicturesAndCalibrationArriveAsTheModuleHasThem) {
 
     EXPECT_EQ(parameters.infrared.cx, static_cast<float>(told.infrared.cx));
     for (std::size_t i = 0; i < 3; ++i)
-        EXPECT_FLOAT_EQ(parameters.depthToInModule.translation[i], static_cast<float>(told.third.translation[i] / 1000));
+        EXPECT_FLOAT_EQ(parameters.depthToInModule.translation[i],
+                        static_cast<float>(told.third.translation[i] / 1000));
     for (std::size_t i = 0; i < 9; ++i) {
         EXPECT_NEAR(parameters.depthToInModule.rotation[i], told.third.rotation[i], 1e-6);
         EXPECT_NEAR(device.platformCamera()->rectificationRotation()[i], told.platform->rectification[i], 1e-12);

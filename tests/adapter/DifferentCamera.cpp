@@ -20,9 +20,8 @@ constexpr double kMicrosecondsPerMillisecond = 1000;
 constexpr std::int32_t kBothImagers = 3;
 constexpr std::int32_t kOption = 16;
 constexpr std::int32_t kRearWidth = 1280, kRearHeight = 720;
-constexpr std::array<int, 12> kResults{
-    DC_OK,          -1001, -1002, -1003, DC_UNCALIBRATED, DC_NO_CAMERA, DC_HARDWARE, DC_IN_USE, -1008, -1009, -1010,
-    DC_OLD_FIRMWARE};
+constexpr std::array<int, 12> kResults{DC_OK,       -1001,     -1002, -1003, DC_UNCALIBRATED, DC_NO_CAMERA,
+                                       DC_HARDWARE, DC_IN_USE, -1008, -1009, -1010,           DC_OLD_FIRMWARE};
 
 void* inModule(const char* file, const char* name) {
     // By name alone the adapter itself would be found.
@@ -286,7 +285,8 @@ int dcColourPose(void* handle, DcPose* out) {
 int dcRearLens(void* handle, DcLens* raw) {
     Camera& camera = cameraOf(handle);
     KXCalibIntrinsicsNonRectified k{};
-    const bool good = camera.rear->setPlatformMode(0, kRearWidth, kRearHeight) && camera.rear->nonRectifiedIntrinsics(&k);
+    const bool good =
+        camera.rear->setPlatformMode(0, kRearWidth, kRearHeight) && camera.rear->nonRectifiedIntrinsics(&k);
     *raw = {pinhole(k.fx, k.fy, k.cx, k.cy, k.w, k.h), {k.k1, k.k2, k.k3}, {k.p1, k.p2}};
     return camera.done(good);
 }
@@ -320,9 +320,17 @@ void dcRearTable(const DcLens* raw, const double* rectificationColumns, const Dc
     static const auto fill = simulated<KXRectificationTableFunction>("KXRectificationTable");
     const KXCalibIntrinsicsRectified k = rectified(raw->pinhole);
     const auto narrow = [](double number) { return static_cast<float>(number); };
-    const KXCalibIntrinsicsNonRectified lens{k.fx, k.fy, k.cx, k.cy, k.w, k.h, narrow(raw->radial[0]),
-                                             narrow(raw->radial[1]), narrow(raw->tangential[0]),
-                                             narrow(raw->tangential[1]), narrow(raw->radial[2])};
+    const KXCalibIntrinsicsNonRectified lens{k.fx,
+                                             k.fy,
+                                             k.cx,
+                                             k.cy,
+                                             k.w,
+                                             k.h,
+                                             narrow(raw->radial[0]),
+                                             narrow(raw->radial[1]),
+                                             narrow(raw->tangential[0]),
+                                             narrow(raw->tangential[1]),
+                                             narrow(raw->radial[2])};
     std::array<double, 9> rows{};
     columns(rectificationColumns, rows.data());
     const KXCalibIntrinsicsRectified out = rectified(*rectifiedPinhole);

@@ -225,8 +225,17 @@ kxadapter::PlatformCameraFunctions platformFunctions() {
         if (!ok(dcRearLens(cameraOf(d), &lens))) return false;
         const KXCalibIntrinsicsRectified k = intrinsics(lens.pinhole);
         const auto narrow = [](double number) { return static_cast<float>(number); };
-        *out = {k.fx, k.fy, k.cx, k.cy, k.w, k.h, narrow(lens.radial[0]), narrow(lens.radial[1]),
-                narrow(lens.tangential[0]), narrow(lens.tangential[1]), narrow(lens.radial[2])};
+        *out = {k.fx,
+                k.fy,
+                k.cx,
+                k.cy,
+                k.w,
+                k.h,
+                narrow(lens.radial[0]),
+                narrow(lens.radial[1]),
+                narrow(lens.tangential[0]),
+                narrow(lens.tangential[1]),
+                narrow(lens.radial[2])};
         return true;
     };
     f.rectifiedIntrinsics = [](void* d, KXCalibIntrinsicsRectified* out) {
@@ -258,9 +267,10 @@ kxadapter::PrivateFunctions privateFunctions() {
 
 void fillTable(const KXCalibIntrinsicsNonRectified* raw, const double* rotation,
                const KXCalibIntrinsicsRectified* rectified, std::uint32_t* table) {
-    const DcLens lens{pinhole(raw->fx, raw->fy, raw->cx, raw->cy, raw->w, raw->h), {raw->k1, raw->k2, raw->k3},
-                      {raw->p1, raw->p2}};
-    const DcPinhole out = pinhole(rectified->fx, rectified->fy, rectified->cx, rectified->cy, rectified->w, rectified->h);
+    const DcLens lens{
+        pinhole(raw->fx, raw->fy, raw->cx, raw->cy, raw->w, raw->h), {raw->k1, raw->k2, raw->k3}, {raw->p1, raw->p2}};
+    const DcPinhole out =
+        pinhole(rectified->fx, rectified->fy, rectified->cx, rectified->cy, rectified->w, rectified->h);
     std::array<double, 9> columns{};
     transpose(rotation, columns.data());
     dcRearTable(&lens, columns.data(), &out, table);
@@ -276,9 +286,8 @@ kxadapter::Library adapted() {
     all.statusText = [](std::int32_t status) { return dcResultText(resultOf(status)); };
     all.rectificationTable = fillTable;
     all.rectifyBGRA8ToBGRA8 = [](const std::uint32_t* table, const std::uint8_t* source, std::int32_t pitch,
-                                 std::int32_t w, std::int32_t h, std::uint8_t* destination) {
-        dcRectify(table, source, pitch, w, h, destination);
-    };
+                                 std::int32_t w, std::int32_t h,
+                                 std::uint8_t* destination) { dcRectify(table, source, pitch, w, h, destination); };
     all.device = deviceFunctions();
     addStreams(&all.device);
     all.hardware = hardwareFunctions();
