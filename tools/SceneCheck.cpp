@@ -162,6 +162,12 @@ double angleDeg(const Eigen::Matrix3d& a, const Eigen::Matrix3d& b) {
     return std::atan2(axis.norm(), turn.trace() - 1) * kDegreesPerRadian;
 }
 
+/// Whether an estimate is one of two values that lie on both sides of zero, and not the other one.
+bool isAbout(double estimate, double deviation, double value) {
+    const double otherDeviations = std::abs(estimate + value) / deviation;
+    return std::abs(estimate - value) < kNearShare && otherDeviations >= kSignificant;
+}
+
 /// Pictures without the streams that are not to be trusted.
 std::vector<vq::SelectedImages> trustedStills(const CameraStills& camera, const CheckLines& trusted) {
     std::vector<vq::SelectedImages> stills = camera.stills;
@@ -258,9 +264,10 @@ private:
         // From +1 for the translation that is told to -1 for the opposite one.
         const double along = (begunAsTold ? 1 : -1) * (1 - 2 * found->share), deviation = 2 * found->deviation;
         const QString text = QString("%1 ± %2 of the one that is told").arg(along, 0, 'f', 2).arg(deviation, 0, 'f', 2);
-        const bool isTold = along / deviation >= kSignificant, isOpposite = -along / deviation >= kSignificant;
-        if (!isTold && !isOpposite)
+        const bool isTold = isAbout(along, deviation, 1), isOpposite = isAbout(along, deviation, -1);
+        if (!isTold && !isOpposite) {
             return line("translation", Verdict::CannotTell, text + ": nothing near enough was seen");
+        }
         if (isOpposite) {
             parameters_ = other;
             solution_ = opposite;
