@@ -61,24 +61,19 @@ TEST_F(CheckTest, EverythingFitsButWhatARecordingCannotTell) {
     EXPECT_EQ(check("", {"--out", home}).status, 1) << "nothing is overwritten";
 }
 
+/// Faults that do not touch each other share a run.
 TEST_F(CheckTest, EachFaultIsBlamedOnItsOwnLine) {
     const std::pair<const char*, std::set<std::string>> faults[] = {
-        {"padded-rows", {"packed-rows"}},
+        {"padded-rows,hardwareControl:2:6", {"operations", "packed-rows"}},
         {"swapped-imagers", {"imagers"}},
         {"lower-right-rows", {"stereo-rows"}},
-        {"depth-in-centimetres", {"baseline"}},
-        {"corner-pixels", {"principal-point-third"}},
+        {"depth-in-centimetres,rectParameters:2:garble+300", {"baseline", "block-twice"}},
+        {"corner-pixels,meddling-companion,setGain:1:late+3500", {"call-times", "companion", "principal-point-third"}},
         {"transposed-rotation", {"rotation-rear", "rotation-third"}},
         {"opposite-translation", {"translation-rear", "translation-third"}},
-        {"metre-translation", {"translation-unit"}},
+        {"metre-translation,right:1:late+6", {"same-moment", "translation-unit"}},
         {"other-rear-lens", {"model-rear"}},
-        {"wrong-size", {"intrinsics"}},
-        {"meddling-companion", {"companion"}},
-        {"right:1:late+6", {"same-moment"}},
-        {"third:1:freeze", {"stream-third"}},
-        {"rectParameters:2:garble+300", {"block-twice"}},
-        {"setGain:1:late+3500", {"call-times"}},
-        {"hardwareControl:2:6", {"operations"}},
+        {"wrong-size,third:1:freeze", {"intrinsics", "stream-third"}},
     };
     for (const auto& [fault, ids] : faults) {
         const Result result = check(fault);
