@@ -13,7 +13,7 @@ using ::testing::ElementsAre;
 
 /// Five stills of the square with the rear camera, by a module that has not drifted.
 QString undriftedRecording() {
-    const QString folder =
+    QString folder =
         renderedRecording("undrifted", {"--world", "square", "--seed", "11", "--stills", "5", "--platform"});
     session::SessionDescription session;
     std::string why;
