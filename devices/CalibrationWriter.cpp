@@ -1,5 +1,6 @@
 #include "devices/CalibrationWriter.h"
 
+#include "devices/BlockFields.h"
 #include "devices/ParameterBackup.h"
 
 #include <QtGlobal>
@@ -22,25 +23,6 @@ constexpr float kToldTolerance = 1e-4F;
 constexpr const char* kNotKept =
     QT_TRANSLATE_NOOP("Interface", "The camera said that it stored the calibration, but it did not");
 
-const std::uint8_t* bytesOf(const Block& block) {
-    return reinterpret_cast<const std::uint8_t*>(&block);
-}
-
-Bytes differences(const Block& a, const Block& b) {
-    Bytes differing;
-    for (std::size_t i = 0; i < differing.size(); ++i)
-        differing[i] = bytesOf(a)[i] != bytesOf(b)[i];
-    return differing;
-}
-
-/// Numbers are compared as whole words, because single bytes of two different numbers may be equal.
-Bytes wholeWords(const Bytes& bytes) {
-    Bytes words;
-    for (std::size_t i = 0; i < bytes.size(); ++i)
-        words[i] = (bytes >> (i / 4 * 4) & Bytes(0xF)).any();
-    return words;
-}
-
 Bytes matrixBytes() {
     Bytes bytes;
     for (const std::size_t start : {offsetof(Block, rectificationInfrared), offsetof(Block, rectificationThird),
@@ -55,29 +37,6 @@ void logBytes(const char* what, const Bytes& bytes) {
     if (bytes.none()) return;
     qWarning("%s %d bytes, the first one at %d", what, static_cast<int>(bytes.count()),
              static_cast<int>(bytes._Find_first()));
-}
-
-/// Returns the block with one camera's rotation replaced. The call may be abandoned, so it works on its own copies.
-std::optional<Block> turned(ModuleLink& link, KXUpdateRotationFunction function, const std::array<double, 9>& rotation,
-                            const Block& block) {
-    const auto call = [=, library = link.rotationUpdater()] {
-        std::optional<Block> out(block);
-        function(&block, rotation.data(), &*out);
-        return out;
-    };
-    return link.ask(call);
-}
-
-/// Two rotations that differ in every number.
-constexpr std::array<double, 9> kProbe{0.6442, -0.5285, 0.5529, 0.5440, 0.8255, 0.1552, -0.5383, 0.2008, 0.8185};
-constexpr std::array<double, 9> kOtherProbe{-0.1702, -0.6659, 0.7268, 0.7161, 0.4251, 0.5558, -0.6791, 0.6151, 0.4005};
-
-/// Determines the fields of a rotation as the words in which the blocks of two different rotations differ.
-std::optional<Bytes> fieldsOf(ModuleLink& link, KXUpdateRotationFunction function, const Block& block) {
-    const auto one = turned(link, function, kProbe, block);
-    const auto other = one ? turned(link, function, kOtherProbe, block) : std::nullopt;
-    if (!other) return std::nullopt;
-    return wholeWords(differences(*one, *other));
 }
 
 }  // namespace
@@ -130,19 +89,26 @@ bool CalibrationWriter::writeRotations(const StoredRotations& present, const Sto
 }
 
 bool CalibrationWriter::restore(const Block& block) {
-    return run([&](QString* why) {
-        wanted_ = block;
-        const KXRotationUpdater& updater = *link_.rotationUpdater();
-        for (const auto function : {updater.updateThirdCamera, updater.updatePlatformCamera}) {
-            const auto fields = fieldsOf(link_, function, block);
-            if (!fields) {
-                *why = link_.faultText();
-                return false;
-            }
-            counting_ |= *fields;
+    return run([&](QString* why) { return takeWhole(block, why); });
+}
+
+bool CalibrationWriter::rewrite() {
+    alsoUnchanged_ = true;
+    return run([this](QString* why) { return takeWhole(previous_, why); });
+}
+
+bool CalibrationWriter::takeWhole(const Block& block, QString* why) {
+    wanted_ = block;
+    const KXRotationUpdater& updater = *link_.rotationUpdater();
+    for (const auto function : {updater.updateThirdCamera, updater.updatePlatformCamera}) {
+        const auto fields = rotationFields(link_, function, block);
+        if (!fields) {
+            *why = link_.faultText();
+            return false;
         }
-        return true;
-    });
+        counting_ |= *fields;
+    }
+    return true;
 }
 
 bool CalibrationWriter::run(const std::function<bool(QString* why)>& makeWanted) {
@@ -150,7 +116,7 @@ bool CalibrationWriter::run(const std::function<bool(QString* why)>& makeWanted)
         resume();
         return false;
     }
-    if (differences(wanted_, previous_).none()) {
+    if (!alsoUnchanged_ && differences(wanted_, previous_).none()) {
         qInfo("The camera holds this calibration already. Nothing is written.");
         report_.flash = Flash::Written;
         return resume() && tellsWanted();
@@ -190,10 +156,8 @@ bool CalibrationWriter::prepare(const std::function<bool(QString* why)>& makeWan
 /// Sets one camera's rotation in the wanted block, expressed between the raw frames as the companion library expects
 /// it.
 bool CalibrationWriter::turn(KXUpdateRotationFunction function, const Rotation& rotation, const float* rectifyColour) {
-    const auto fields = fieldsOf(link_, function, wanted_);
-    // From raw infrared to rectified infrared, to the colour camera, and back to raw colour.
-    const Matrix3 raw = product(transposed(widened(rectifyColour)),
-                                product(widened(rotation.data()), widened(previous_.rectificationInfrared)));
+    const auto fields = rotationFields(link_, function, wanted_);
+    const Matrix3 raw = rawRotation(rotation, rectifyColour, previous_.rectificationInfrared);
     const auto out = fields ? turned(link_, function, raw, wanted_) : std::nullopt;
     if (!out) return false;
     const Bytes meant = *fields & ~matrixBytes();

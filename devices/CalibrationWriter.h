@@ -2,6 +2,7 @@
 
 #include "camera/Rotation.h"
 #include "devices/BlockChange.h"
+#include "devices/BlockFields.h"
 #include "devices/ModuleLink.h"
 
 #include <QString>
@@ -56,6 +57,8 @@ public:
     /// anything else that prevents the write is logged.
     bool writeRotations(const StoredRotations& present, const StoredRotations& wanted);
     bool restore(const KXCalibRectParameters& block);
+    /// Writes the present block once more, as it is: what a module that was never written does with a block.
+    bool rewrite();
 
     const WriteBackReport& report() const { return report_; }
 
@@ -65,6 +68,7 @@ private:
 
     bool run(const std::function<bool(QString* why)>& makeWanted);
     bool prepare(const std::function<bool(QString* why)>& makeWanted);
+    bool takeWhole(const Block& block, QString* why);
     bool turn(KXUpdateRotationFunction function, const Rotation& rotation, const float* rectifyColour);
     bool announce();
     bool write();
@@ -92,6 +96,7 @@ private:
     std::optional<StoredRotations> rotations_;  ///< the rotations that the module must report afterwards, if known
     KXPrivate* access_ = nullptr;
     bool resting_ = false;
+    bool alsoUnchanged_ = false;  ///< a block is also written when no byte changes
     bool differencesLogged_ = false;
 };
 

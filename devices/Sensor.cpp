@@ -220,6 +220,11 @@ bool Sensor::restoreParameters(const KXCalibRectParameters& block) {
     return restored;
 }
 
+bool Sensor::rewriteParameters() {
+    writeBack_ = {};
+    return mayWrite() && write([](CalibrationWriter& writer) { return writer.rewrite(); });
+}
+
 bool Sensor::mayWrite() {
     if (faulted()) return refuseToWrite("the camera has failed before");
     if (!opened_) return refuseToWrite("the camera is not open");

@@ -85,6 +85,8 @@ public:
 
     /// Writes a whole block, as kept by `ParameterBackup`, in the same way. The calibration need not have been read.
     bool restoreParameters(const KXCalibRectParameters& block);
+    /// Writes the block that the module holds once more, unchanged.
+    bool rewriteParameters();
 
     /// The result of the last `updateRotation` or `restoreParameters`.
     const WriteBackReport& writeBack() const { return writeBack_; }

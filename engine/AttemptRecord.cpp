@@ -279,6 +279,7 @@ std::optional<SolutionEvidence> AttemptRecord::evidence() const {
     if (!lastFit_) return std::nullopt;
     SolutionEvidence evidence;
     evidence.projection = projection_;
+    evidence.cauchy = lastFit_->options.cauchy;
     int most = 0;
     for (const KeptPair& pair : pairs_) {
         const int index = static_cast<int>(evidence.matchesPerStill.size());
@@ -286,7 +287,8 @@ std::optional<SolutionEvidence> AttemptRecord::evidence() const {
         for (const MeasuredMatch& match : taken) {
             const double inverseDepth = inverseDepthOf(match.place, lastFit_->options.scale);
             evidence.matches.push_back({match.place.infrared, match.colour,
-                                        std::isnan(inverseDepth) ? 0.0F : static_cast<float>(inverseDepth), index});
+                                        std::isnan(inverseDepth) ? 0.0F : static_cast<float>(inverseDepth), index,
+                                        match.information});
         }
         const int fitted = static_cast<int>(taken.size());
         evidence.matchesPerStill.push_back(fitted);

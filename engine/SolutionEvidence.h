@@ -23,6 +23,8 @@ struct EvidenceMatch {
     cv::Point2f colour;      ///< pixels of the colour model
     float inverseDepth = 0;  ///< 1/m; 0 also where no distance is known
     int still = 0;           ///< index of its still
+    /// Inverse covariance of the colour point, 1/px².
+    Eigen::Matrix2d information = Eigen::Matrix2d::Identity();
 };
 
 /// The evidence for a solution, for display and reports. The two images are those of the still with the most matches: 8
@@ -32,6 +34,7 @@ struct SolutionEvidence {
     std::vector<EvidenceMatch> matches;
     std::vector<int> matchesPerStill;  ///< 0 when the still was left out
     int shownStill = 0;
+    double cauchy = 0.3;  ///< where the loss of the fit bends, in deviations of a match
     cv::Mat infrared, grey;
 
     /// The residual of a match under a rotation, in pixels of the colour model.

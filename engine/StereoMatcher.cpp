@@ -236,41 +236,60 @@ float StereoMatcher::findCoarseAt(const cv::Point2f& leftPoint) const {
 
 std::vector<float> StereoMatcher::refine(const std::vector<cv::Point2f>& leftPoints,
                                          const std::vector<float>& coarseDisparitiesPx) const {
-    std::vector<float> refined(leftPoints.size(), kNone);
+    std::vector<float> refined;
+    refined.reserve(leftPoints.size());
+    for (const cv::Point2f& way : refineWays(leftPoints, coarseDisparitiesPx))
+        refined.push_back(-way.x);
+    return refined;
+}
+
+std::vector<float> StereoMatcher::refineRows(const std::vector<cv::Point2f>& leftPoints,
+                                             const std::vector<float>& coarseDisparitiesPx) const {
+    std::vector<float> refined;
+    refined.reserve(leftPoints.size());
+    for (const cv::Point2f& way : refineWays(leftPoints, coarseDisparitiesPx))
+        refined.push_back(way.y);
+    return refined;
+}
+
+/// From each place to where the right image shows it.
+std::vector<cv::Point2f> StereoMatcher::refineWays(const std::vector<cv::Point2f>& leftPoints,
+                                                   const std::vector<float>& coarseDisparitiesPx) const {
+    std::vector<cv::Point2f> ways(leftPoints.size(), {kNone, kNone});
     const auto refineFrom = [&](std::size_t first) {
         for (std::size_t i = first; i < leftPoints.size(); i += 2) {
-            if (!std::isnan(coarseDisparitiesPx[i])) refined[i] = refineAt(leftPoints[i], coarseDisparitiesPx[i]);
+            if (!std::isnan(coarseDisparitiesPx[i])) ways[i] = refineWayAt(leftPoints[i], coarseDisparitiesPx[i]);
         }
     };
     auto odd = std::async(std::launch::async, refineFrom, 1);
     refineFrom(0);
     odd.get();
-    return refined;
+    return ways;
 }
 
-float StereoMatcher::refineAt(const cv::Point2f& leftPoint, float coarsePx) const {
+cv::Point2f StereoMatcher::refineWayAt(const cv::Point2f& leftPoint, float coarsePx) const {
     const cv::Point centre(cvRound(leftPoint.x), cvRound(leftPoint.y));
     const cv::Point2f start(static_cast<float>(centre.x) - coarsePx, static_cast<float>(centre.y));
     constexpr float reach = kLargestWayPx;
     if (!windowFits(left_, centre) || !windowFits(right_, start - cv::Point2f(reach, 0)) ||
         !windowFits(right_, start + cv::Point2f(reach, 0))) {
-        return kNone;
+        return {kNone, kNone};
     }
     const WindowAlignment window(left_, centre);
-    if (!window.hasTexture()) return kNone;
+    if (!window.hasTexture()) return {kNone, kNone};
     cv::Point2f place = start;
     float correlation = -1.0F;
     for (int i = 0; i < kIterations; ++i) {
         const auto step = window.step(right_, place);
-        if (!step) return kNone;
+        if (!step) return {kNone, kNone};
         correlation = step->correlation;
         place += shortened(step->move);
         const cv::Point2f way = place - start;
-        if (!(std::abs(way.x) < kLargestWayPx && std::abs(way.y) < kLargestRowOffsetPx)) return kNone;
+        if (!(std::abs(way.x) < kLargestWayPx && std::abs(way.y) < kLargestRowOffsetPx)) return {kNone, kNone};
         if (std::abs(step->move.x) < kConvergedPx && std::abs(step->move.y) < kConvergedPx) break;
     }
-    if (correlation < kMinimumFineCorrelation) return kNone;
-    return static_cast<float>(centre.x) - place.x;
+    if (correlation < kMinimumFineCorrelation) return {kNone, kNone};
+    return {place.x - static_cast<float>(centre.x), place.y - static_cast<float>(centre.y)};
 }
 
 }  // namespace vq

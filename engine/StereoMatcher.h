@@ -28,13 +28,19 @@ public:
     std::vector<float> refine(const std::vector<cv::Point2f>& leftPoints,
                               const std::vector<float>& coarseDisparitiesPx) const;
 
+    /// Returns the rows between each place and its position in the right image, positive where that is lower.
+    std::vector<float> refineRows(const std::vector<cv::Point2f>& leftPoints,
+                                  const std::vector<float>& coarseDisparitiesPx) const;
+
     /// The search range: from a little below zero up to objects at 0.6 m for a baseline of 55 mm and a focal length of
     /// 580 px.
     static constexpr float kLargestDisparityPx = 54.0F;
 
 private:
     float findCoarseAt(const cv::Point2f& leftPoint) const;
-    float refineAt(const cv::Point2f& leftPoint, float coarsePx) const;
+    std::vector<cv::Point2f> refineWays(const std::vector<cv::Point2f>& leftPoints,
+                                        const std::vector<float>& coarseDisparitiesPx) const;
+    cv::Point2f refineWayAt(const cv::Point2f& leftPoint, float coarsePx) const;
 
     cv::Mat left_, right_;          ///< CV_32FC1
     cv::Mat leftHalf_, rightHalf_;  ///< CV_32FC1, half the size, padded on the left and right

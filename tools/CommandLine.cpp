@@ -11,6 +11,7 @@ namespace {
 constexpr const char* kProgram = "fieldcal-session";
 constexpr unsigned kLargestSeed = std::numeric_limits<unsigned>::max();
 constexpr unsigned kMostStills = 999;
+constexpr unsigned kMostCheckedStills = 32;
 constexpr unsigned kMostFrames = 1000000;
 
 /// A validator returns what is wrong with the value, as a text that follows the name of the option.
@@ -61,7 +62,8 @@ public:
         app_.require_subcommand(1);
         app_.footer(
             "Exit status: 0 solved or done, 1 unreadable recording or device failure, 2 wrong usage,\n"
-            "3 played to the end without a good solution.");
+            "3 played to the end without a good solution; of check: 0 all fits, 1 something does not, 3 something "
+            "cannot be told.");
         addCalibrate();
         addSynthesize();
         addRecord();
@@ -70,6 +72,7 @@ public:
         addRestore();
         addExport();
         addImport();
+        addCheck();
     }
 
     /// Returns false, and the exit status, when there is no command to run.
@@ -228,6 +231,21 @@ private:
             ->capture_default_str();
     }
 
+    void addCheck() {
+        CLI::App* verb = addVerb("check", "Ask the connected module everything and see whether it fits", check_);
+        lastCounts(verb->add_option("--json", check_.jsonFile, "Write the findings as JSON; -: in place of the table"))
+            ->type_name("FILE|-");
+        lastCounts(verb->add_option("--out", check_.folder, "Keep recording, block, log and report, to be sent home"))
+            ->check(isGiven)
+            ->type_name("FOLDER");
+        lastCounts(verb->add_option("--stills", check_.stills, "Stills to compare the cameras with"))
+            ->transform(wholeNumber(3, kMostCheckedStills))
+            ->type_name("N")
+            ->capture_default_str();
+        lastCounts(verb->add_flag("--write-back-unchanged", check_.writeBackUnchanged,
+                                  "Also write the block into the flash, as it is"));
+    }
+
     /// The help of the verb that was named, or of the program.
     std::string help() const { return app_.help(); }
 
@@ -263,6 +281,7 @@ private:
     RestoreOptions restore_;
     ExportOptions export_;
     ImportOptions import_;
+    CheckOptions check_;
     Command command_;
 };
 

@@ -74,8 +74,15 @@ struct ExportOptions {
     std::string outFile = "-";
 };
 
+struct CheckOptions {
+    std::string jsonFile;             ///< empty: none; "-": standard output, instead of the table
+    std::string folder;               ///< where recording, block, log and report go; empty: nowhere
+    int stills = 8;                   ///< of each colour camera
+    bool writeBackUnchanged = false;  ///< write the block as it is
+};
+
 using Command = std::variant<CalibrateOptions, SynthesizeOptions, RecordOptions, InfoOptions, BackupOptions,
-                             RestoreOptions, ExportOptions, ImportOptions>;
+                             RestoreOptions, ExportOptions, ImportOptions, CheckOptions>;
 
 /// Parses the arguments. There is no command when the program has to end with `status`, because help or the version was
 /// printed or because the usage was wrong and the reason was printed.
@@ -94,5 +101,6 @@ int run(const BackupOptions& options);
 int run(const RestoreOptions& options);
 int run(const ExportOptions& options);
 int run(const ImportOptions& options);
+int run(const CheckOptions& options);
 
 }  // namespace fieldcal

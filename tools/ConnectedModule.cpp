@@ -12,6 +12,8 @@
 namespace fieldcal {
 namespace {
 
+constexpr const char* kNothing = "The camera delivers no pictures.";
+
 std::string textOf(const char* libraryText) {
     return libraryText != nullptr ? libraryText : "";
 }
@@ -72,7 +74,7 @@ bool ConnectedModule::open(bool rearCamera, QString* why) {
 }
 
 bool ConnectedModule::tryToOpen(const SensorSettings& settings) {
-    sensor_ = std::make_unique<Sensor>();
+    sensor_ = environment_ ? std::make_unique<Sensor>(*environment_) : std::make_unique<Sensor>();
     reports_.listenTo(*sensor_);
     return sensor_->open(settings);
 }
@@ -85,8 +87,7 @@ session::ModuleInfo ConnectedModule::info() {
 
 bool ConnectedModule::describe(session::SessionDescription* out, QString* why) {
     constexpr const char* kUnreadable = "The calibration cannot be read.";
-    CameraParameters parameters;
-    if (!readCameraParameters(*sensor_, &parameters, [] {})) return failed(why, kUnreadable);
+    if (!readCameraParameters(*sensor_, &parameters_, [] {})) return failed(why, kUnreadable);
     out->module = info();
     if (!describeModule(out)) return failed(why, kUnreadable);
     if (sensor_->platformCalibration().rectificationTable.empty()) return true;
@@ -163,7 +164,11 @@ bool ConnectedModule::restoreBlock(const ParameterBackup& backup, QString* why) 
 }
 
 bool ConnectedModule::grab(session::FramePictures* out, QString* why) {
-    constexpr const char* kNothing = "The camera delivers no pictures.";
+    if (!grabWhatIsThere(out, why)) return false;
+    return (!out->infrared.empty() && !out->third.empty()) || failed(why, kNothing);
+}
+
+bool ConnectedModule::grabWhatIsThere(session::FramePictures* out, QString* why) {
     if (!sensor_->grab(true) || !reports_.first().isEmpty()) return failed(why, kNothing);
     KXDevice& device = *sensor_->device();
     KXThirdCamera& third = *sensor_->thirdCamera();
@@ -171,7 +176,6 @@ bool ConnectedModule::grab(session::FramePictures* out, QString* why) {
     takeBytes(device.rightImage(), device.lrWidth(), device.lrHeight(), &out->right);
     takeBytes(device.depthImage(), device.depthWidth(), device.depthHeight(), &out->depth);
     takeBytes(third.thirdImage(), third.thirdWidth(), third.thirdHeight(), &out->third);
-    if (out->infrared.empty() || out->third.empty()) return failed(why, kNothing);
     makeOpaque(&out->third);
     out->platform.clear();
     if (const std::uint8_t* nv12 = sensor_->platformNv12(); nv12 != nullptr) {

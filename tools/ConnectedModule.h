@@ -1,5 +1,6 @@
 #pragma once
 
+#include "camera/CameraParameters.h"
 #include "devices/ParameterBackup.h"
 #include "devices/Sensor.h"
 #include "devices/SingleInstance.h"
@@ -9,6 +10,8 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
+#include <utility>
 
 namespace fieldcal {
 
@@ -16,6 +19,10 @@ namespace fieldcal {
 /// and one line in `why`. All calls come from one thread.
 class ConnectedModule {
 public:
+    ConnectedModule() = default;
+    /// A module that is found in another way than usual.
+    explicit ConnectedModule(SensorEnvironment environment) : environment_(std::move(environment)) {}
+
     /// With `rearCamera`, the tablet's rear camera is opened, too, where there is one.
     bool open(bool rearCamera, QString* why);
 
@@ -25,10 +32,17 @@ public:
     /// Reads the calibration, so that grabs bring every picture, and describes it as a recording does, with the numbers
     /// of the camera library and without frames. `platform` is set when the module has a usable calibration of it.
     bool describe(session::SessionDescription* out, QString* why);
+    /// The calibration that was read then, as the engine uses it.
+    const CameraParameters& parameters() const { return parameters_; }
 
     /// Grabs the next frame set, as the library delivers it. `platform` is empty when the rear camera had no new
     /// picture.
     bool grab(session::FramePictures* out, QString* why);
+    /// The same, also where some of the streams have no picture.
+    bool grabWhatIsThere(session::FramePictures* out, QString* why);
+
+    /// The opened sensor, for whoever asks it more than this class does.
+    Sensor& sensor() { return *sensor_; }
 
     /// Returns whether grabs bring the rear camera's pictures.
     bool hasRearCamera() const { return sensor_->settings().usePlatformCamera; }
@@ -48,6 +62,8 @@ private:
     bool failed(QString* why, const char* otherwise) const;
 
     std::unique_ptr<SingleInstance> instance_;  ///< where the vendor's service is disabled meanwhile, and noted
+    std::optional<SensorEnvironment> environment_;
+    CameraParameters parameters_;
     SensorReports reports_;
     std::unique_ptr<Sensor> sensor_;
 };

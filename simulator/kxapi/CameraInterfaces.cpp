@@ -1,6 +1,7 @@
 #include "simulator/kxapi/CameraInterfaces.h"
 
 #include "simulator/kxapi/Calibration.h"
+#include "simulator/kxapi/OtherConventions.h"
 #include "simulator/kxapi/ParameterBlock.h"
 
 namespace kxsim {
@@ -43,13 +44,13 @@ std::int32_t ThirdInterface::thirdHeight() {
 
 bool ThirdInterface::rectifiedThirdIntrinsics(KXCalibIntrinsicsRectified* out) {
     if (!state_.enterCalibration("rectifiedThirdIntrinsics")) return false;
-    *out = rectifiedIntrinsics(state_.description().third);
+    *out = inConvention(rectifiedIntrinsics(state_.description().third), state_.settings.faults);
     return true;
 }
 
 bool ThirdInterface::zToThirdExtrinsics(KXCalibExtrinsics* out) {
     if (!state_.enterCalibration("zToThirdExtrinsics")) return false;
-    *out = thirdExtrinsics(state_.activeBlock, state_.description());
+    *out = inConvention(thirdExtrinsics(state_.activeBlock, state_.description()), state_.settings.faults);
     return true;
 }
 
@@ -69,7 +70,7 @@ bool PlatformInterface::enterInMode(const char* operation, std::int32_t mode) {
 
 bool PlatformInterface::nonRectifiedIntrinsics(KXCalibIntrinsicsNonRectified* out) {
     if (!enterInMode("nonRectifiedIntrinsics", 0)) return false;
-    *out = rawIntrinsics(state_.description().platform->raw);
+    *out = inConvention(rawIntrinsics(state_.description().platform->raw), state_.settings.faults);
     return true;
 }
 
@@ -86,7 +87,7 @@ const double* PlatformInterface::rectificationRotation() {
 
 bool PlatformInterface::zToPlatformExtrinsics(KXCalibExtrinsics* out) {
     if (!state_.enterCalibration("zToPlatformExtrinsics")) return false;
-    *out = platformExtrinsics(state_.activeBlock, state_.description());
+    *out = inConvention(platformExtrinsics(state_.activeBlock, state_.description()), state_.settings.faults);
     return true;
 }
 

@@ -48,6 +48,8 @@ public:
     /// Returns the fault of a stream in a frame set, counted from 1.
     std::optional<StreamFault> inStream(const std::string& stream, std::uint64_t set) const;
 
+    /// Whether a condition of the README is in force.
+    bool holds(const char* condition) const { return conditions_.count(condition) > 0; }
     /// The module changes a count and a checksum of its own in its block with each commit.
     bool livingBlock() const { return conditions_.count("living-block") > 0; }
     /// The status of a failed call is reported only to the thread that made it.

@@ -20,6 +20,17 @@ void Streams::follow(const FramePictures& frame, bool platformIsNew, const Fault
     right_.follow(chosenRight(frame), sets_, faults);
     third_.follow(&frame.third, sets_, faults);
     platform_.follow(platformIsNew ? &frame.platform : nullptr, sets_, faults);
+    deliver(faults);
+}
+
+void Streams::deliver(const Faults& faults) {
+    const bool swapped = faults.holds("swapped-imagers");
+    const Picture16* left = swapped ? right_.shown() : left_.shown();
+    const Picture16* right = swapped ? left_.shown() : right_.shown();
+    depthPixels_ = depthDelivered_.inCentimetres(depth_.shown(), faults);
+    leftPixels_ = reinterpret_cast<const std::uint16_t*>(leftDelivered_.withPaddedRows(left, faults));
+    rightPixels_ = rightDelivered_.withLowerRows(right, faults);
+    thirdPixels_ = thirdDelivered_.withPaddedRows(third_.shown(), faults);
 }
 
 const fieldcal::ImageFrame16* Streams::chosenRight(const FramePictures& frame) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/RecordedSession.h"
+#include "simulator/kxapi/OtherConventions.h"
 #include "simulator/kxapi/Settings.h"
 
 #include <deque>
@@ -55,19 +56,17 @@ public:
     void follow(const fieldcal::session::FramePictures& frame, bool platformIsNew, const Faults& faults);
 
     /// Return null where the frame set has no such image.
-    const std::uint16_t* depth() const { return pixelsOf(depth_); }
-    const std::uint16_t* left() const { return pixelsOf(left_); }
-    const std::uint16_t* right() const { return pixelsOf(right_); }
-    const std::uint8_t* third() const { return third_.shown() != nullptr ? third_.shown()->bytes() : nullptr; }
+    const std::uint16_t* depth() const { return depthPixels_; }
+    const std::uint16_t* left() const { return leftPixels_; }
+    const std::uint16_t* right() const { return rightPixels_; }
+    const std::uint8_t* third() const { return thirdPixels_; }
     const std::uint8_t* platform() const;
     /// Returns whether the source has depth at all; if not, depth is 0 everywhere.
     bool hasDepth() const { return hasDepth_; }
 
 private:
     using Picture16 = fieldcal::ImageFrame16;
-    static const std::uint16_t* pixelsOf(const Stream<Picture16>& stream) {
-        return stream.shown() == nullptr || stream.shown()->empty() ? nullptr : stream.shown()->pixels();
-    }
+    void deliver(const Faults& faults);
     const Picture16* chosenRight(const fieldcal::session::FramePictures& frame);
 
     RightChoice choice_;
@@ -75,6 +74,9 @@ private:
     Stream<Picture16> depth_{"depth"}, left_{"left"}, right_{"right"};
     Stream<fieldcal::ImageFrame32> third_{"third"};
     Stream<std::vector<std::uint8_t>> platform_{"platform"};
+    ConventionalPicture depthDelivered_, leftDelivered_, rightDelivered_, thirdDelivered_;
+    const std::uint16_t *depthPixels_ = nullptr, *leftPixels_ = nullptr, *rightPixels_ = nullptr;
+    const std::uint8_t* thirdPixels_ = nullptr;
     std::uint64_t sets_ = 0;
     bool hasDepth_ = false;
 };

@@ -1,0 +1,79 @@
+#include "simulator/kxapi/OtherConventions.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace kxsim {
+namespace {
+
+/// From one row to the next there are so many pixels more than a row has.
+constexpr std::size_t kPaddingPixels = 12;
+constexpr std::size_t kLowerRows = 3;
+constexpr int kMillimetresPerCentimetre = 10;
+constexpr float kCorner = 0.5F;
+constexpr float kOtherLens = 1.03F;
+constexpr float kMetresPerMillimetre = 0.001F;
+
+const std::uint16_t* pixels16(const std::uint8_t* bytes) {
+    return reinterpret_cast<const std::uint16_t*>(bytes);
+}
+
+}  // namespace
+
+KXCalibIntrinsicsRectified inConvention(KXCalibIntrinsicsRectified colour, const Faults& faults) {
+    if (!faults.holds("corner-pixels")) return colour;
+    colour.cx += kCorner;
+    colour.cy += kCorner;
+    return colour;
+}
+
+KXCalibIntrinsicsNonRectified inConvention(KXCalibIntrinsicsNonRectified raw, const Faults& faults) {
+    if (!faults.holds("other-rear-lens")) return raw;
+    raw.fx *= kOtherLens;
+    raw.fy *= kOtherLens;
+    return raw;
+}
+
+KXCalibExtrinsics inConvention(KXCalibExtrinsics pose, const Faults& faults) {
+    if (faults.holds("transposed-rotation")) {
+        for (const auto& [upper, lower] : {std::pair{1, 3}, {2, 6}, {5, 7}})
+            std::swap(pose.rotation[upper], pose.rotation[lower]);
+    }
+    float factor = faults.holds("opposite-translation") ? -1.0F : 1.0F;
+    if (faults.holds("metre-translation")) factor *= kMetresPerMillimetre;
+    for (float& entry : pose.translation)
+        entry *= factor;
+    return pose;
+}
+
+const std::uint8_t* ConventionalPicture::withPaddedRows(const fieldcal::ImageFrame* picture, const Faults& faults) {
+    if (picture == nullptr || picture->empty()) return nullptr;
+    if (!faults.holds("padded-rows")) return picture->bytes();
+    const std::size_t row = std::size_t{picture->width()} * picture->bytesPerPixel();
+    const std::size_t pitch = row + kPaddingPixels * picture->bytesPerPixel();
+    padded_.assign(pitch * picture->height(), 0);
+    for (std::size_t y = 0; y < picture->height(); ++y)
+        std::memcpy(padded_.data() + y * pitch, picture->bytes() + y * row, row);
+    return padded_.data();
+}
+
+const std::uint16_t* ConventionalPicture::withLowerRows(const fieldcal::ImageFrame16* picture, const Faults& faults) {
+    const bool lower = picture != nullptr && picture->height() > kLowerRows && faults.holds("lower-right-rows");
+    if (!lower) return pixels16(withPaddedRows(picture, faults));
+    changed_ = *picture;
+    const std::size_t row = std::size_t{picture->width()} * picture->bytesPerPixel();
+    std::memcpy(changed_.bytes() + kLowerRows * row, picture->bytes(), picture->byteCount() - kLowerRows * row);
+    return pixels16(withPaddedRows(&changed_, faults));
+}
+
+const std::uint16_t* ConventionalPicture::inCentimetres(const fieldcal::ImageFrame16* picture, const Faults& faults) {
+    const bool other = picture != nullptr && !picture->empty() && faults.holds("depth-in-centimetres");
+    if (!other) return pixels16(withPaddedRows(picture, faults));
+    changed_ = *picture;
+    std::transform(picture->pixels(), picture->pixels() + picture->byteCount() / 2, changed_.pixels(),
+                   [](std::uint16_t depth) { return static_cast<std::uint16_t>(depth / kMillimetresPerCentimetre); });
+    return pixels16(withPaddedRows(&changed_, faults));
+}
+
+}  // namespace kxsim

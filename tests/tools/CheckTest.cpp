@@ -1,0 +1,108 @@
+#include "tests/tools/SessionTool.h"
+
+#include <QFile>
+
+#include <set>
+#include <string>
+
+namespace fieldcal::testing {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+
+/// Five stills of the square with the rear camera, by a module that has not drifted.
+QString undriftedRecording() {
+    QString folder =
+        renderedRecording("undrifted", {"--world", "square", "--seed", "11", "--stills", "5", "--platform"});
+    session::SessionDescription session;
+    std::string why;
+    EXPECT_TRUE(session::readDescription(folder.toStdString(), &session, &why)) << why;
+    session.third.rotation = *session.truthThird;
+    session.platform->rotation = *session.truthPlatform;
+    EXPECT_TRUE(session::writeDescription(folder.toStdString(), session, &why)) << why;
+    return folder;
+}
+
+class CheckTest : public SessionToolTest {
+protected:
+    Result check(const QString& faults, const QStringList& options = {}) {
+        QFile::remove(flash);
+        return run(QStringList{"check", "--stills", "5", "--json", "-"} + options,
+                   {{"SESSION", undriftedRecording()}, {"SPEED", "0"}, {"FLASH", flash}, {"FAULTS", faults}});
+    }
+    static std::set<std::string> withVerdict(const Result& result, const char* verdict) {
+        std::set<std::string> ids;
+        for (const QJsonValue line : result.json()["lines"].toArray()) {
+            if (line["verdict"].toString() == verdict) ids.insert(line["id"].toString().toStdString());
+        }
+        return ids;
+    }
+
+    const QString flash = path("checked-flash");
+};
+
+TEST_F(CheckTest, EverythingFitsButWhatARecordingCannotTell) {
+    const QString home = path("home");
+    const Result good = check("", {"--out", home, "--write-back-unchanged"});
+    EXPECT_EQ(good.status, 3) << good.error.constData();
+    EXPECT_THAT(withVerdict(good, "does not fit"), ElementsAre());
+    EXPECT_THAT(withVerdict(good, "cannot tell"),
+                ElementsAre("stream-depth", "stream-left", "stream-rear", "stream-right", "stream-third"))
+        << "it repeats its pictures";
+    EXPECT_EQ(good.json()["serial"].toInt(), 700011);
+    for (const QJsonValue operation : good.json()["operations"].toArray())
+        EXPECT_GT(operation["calls"].toInt(), 0) << operation["name"].toString().toStdString();
+    // What is sent home can be calibrated there.
+    const Result again = run({"calibrate", home + "/recording", "--seed", "1", "--json", "-"});
+    EXPECT_EQ(again.status, 0) << again.error.constData();
+    for (const char* file : {"/block.fcbackup", "/report.json", "/report.txt", "/check.log"})
+        EXPECT_GT(QFile(home + file).size(), 0) << file;
+    EXPECT_EQ(check("", {"--out", home}).status, 1) << "nothing is overwritten";
+}
+
+/// Faults that do not touch each other share a run.
+TEST_F(CheckTest, EachFaultIsBlamedOnItsOwnLine) {
+    const std::pair<const char*, std::set<std::string>> faults[] = {
+        {"padded-rows,hardwareControl:2:6", {"operations", "packed-rows"}},
+        {"swapped-imagers", {"imagers"}},
+        {"lower-right-rows", {"stereo-rows"}},
+        {"depth-in-centimetres,rectParameters:2:garble+300", {"baseline", "block-twice"}},
+        {"corner-pixels,meddling-companion,setGain:1:late+3500", {"call-times", "companion", "principal-point-third"}},
+        {"transposed-rotation", {"rotation-rear", "rotation-third"}},
+        {"opposite-translation", {"translation-rear", "translation-third"}},
+        {"metre-translation,right:1:late+6", {"same-moment", "translation-unit"}},
+        {"other-rear-lens", {"model-rear"}},
+        {"wrong-size,third:1:freeze", {"intrinsics", "stream-third"}},
+    };
+    for (const auto& [fault, ids] : faults) {
+        const Result result = check(fault);
+        EXPECT_EQ(result.status, 1) << fault;
+        EXPECT_EQ(withVerdict(result, "does not fit"), ids) << fault;
+    }
+}
+
+TEST_F(CheckTest, AnUnchangedBlockThatIsNotKeptIsNamed) {
+    EXPECT_THAT(withVerdict(check("rectParameters:5:garble+300", {"--write-back-unchanged"}), "does not fit"),
+                ElementsAre("write-back"));
+    const Result living = check("living-block", {"--write-back-unchanged"});
+    EXPECT_THAT(withVerdict(living, "fits"), Contains("write-back")) << "the module's own bytes may change";
+    EXPECT_TRUE(living.out.contains("the module changed 5 bytes of its own, the first one at 2040"));
+}
+
+/// A module that has drifted shows neither direction of its rotation.
+TEST_F(CheckTest, WhatCannotBeToldIsNotClaimed) {
+    const Result far = run({"check", "--stills", "6", "--json", "-"}, {{"SESSION", recording()}, {"SPEED", "0"}});
+    EXPECT_THAT(withVerdict(far, "does not fit"), ElementsAre());
+    EXPECT_EQ(far.status, 3) << far.error.constData();
+    const auto untold = withVerdict(far, "cannot tell");
+    for (const char* id : {"rotation-third", "rotation-rear", "translation-third", "imagers", "baseline"})
+        EXPECT_THAT(untold, Contains(id));
+    const Result none = run({"check"}, {{"FAULTS", "openDevice:1:5"}});
+    EXPECT_EQ(none.status, 1);
+    EXPECT_EQ(none.error, "The depth camera was not found.\n");
+    EXPECT_EQ(run({"check", "--stills", "2"}).status, 2);
+}
+
+}  // namespace
+}  // namespace fieldcal::testing

@@ -1,0 +1,314 @@
+#include "tools/StreamWatch.h"
+
+#include <QStringList>
+#include <opencv2/imgproc.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <numeric>
+#include <optional>
+
+namespace fieldcal {
+namespace {
+
+constexpr const char* kNames[] = {"left infrared", "right infrared", "depth", "third colour", "rear camera"};
+constexpr const char* kIds[] = {"stream-left", "stream-right", "stream-depth", "stream-third", "stream-rear"};
+/// New pictures a second that the program needs of each stream. Infrared and colour have a tenth less than is asked
+/// for; depth may come with every other infrared picture, and the rear camera may expose twice as long.
+constexpr double kLeastRates[] = {54, 54, 27, 27, 13};
+/// A picture older than this is not matched with another one.
+constexpr double kOldestMs = 100;
+constexpr double kTolerableOldShare = 0.02;
+constexpr double kLeastDeliveredShare = 0.9;
+constexpr double kMovingShare = 0.4;  ///< of new pictures among all, below which a scene or a recording stands still
+constexpr double kBlankDeviation = 2.0;
+constexpr int kLargestInfrared = 1023;
+
+constexpr int kLargestShift = 48;
+constexpr int kRowStep = 8;
+constexpr int kMostRowPictures = 6;
+constexpr double kTexturedShare = 0.8;  ///< cost of the best shift, of the mean of all, above which rows show nothing
+
+constexpr int kLeastTimedSets = 60;
+
+constexpr int kMotionStep = 8;
+constexpr int kMostLag = 14;
+constexpr int kTolerableLag = 2;
+constexpr double kLeastCorrelation = 0.6;
+constexpr int kLeastMovingSets = 4;
+
+/// Two streams of pictures that are handed over without their own owner.
+cv::Mat matOf(const ImageFrame& picture, int type) {
+    if (picture.empty()) return {};
+    return {static_cast<int>(picture.height()), static_cast<int>(picture.width()), type,
+            const_cast<std::uint8_t*>(picture.bytes())};
+}
+
+bool same(const cv::Mat& a, const cv::Mat& b) {
+    return a.size() == b.size() && a.type() == b.type() && std::memcmp(a.data, b.data, a.total() * a.elemSize()) == 0;
+}
+
+/// A single channel at every so many pixels, of an infrared, depth, colour (green) or luma picture.
+cv::Mat sparse(const cv::Mat& picture, int step) {
+    cv::Mat out(picture.rows / step, picture.cols / step, CV_32FC1);
+    for (int y = 0; y < out.rows; ++y) {
+        for (int x = 0; x < out.cols; ++x) {
+            const int row = y * step, column = x * step;
+            out.at<float>(y, x) = picture.type() == CV_16UC1  ? picture.at<std::uint16_t>(row, column)
+                                  : picture.type() == CV_8UC4 ? picture.at<cv::Vec4b>(row, column)[1]
+                                                              : picture.at<std::uint8_t>(row, column);
+        }
+    }
+    return out;
+}
+
+double meanDifference(const cv::Mat& a, const cv::Mat& b) {
+    return a.size() == b.size() ? cv::norm(a, b, cv::NORM_L1) / static_cast<double>(a.total()) : 0;
+}
+
+/// For each shift, how much every eighth row differs from the next one moved by it.
+void addRowCosts(const cv::Mat& picture, std::vector<double>* costs) {
+    const cv::Mat values = sparse(picture, 1);
+    costs->resize(2 * kLargestShift + 1, 0);
+    const cv::Rect inside(kLargestShift, 0, values.cols - 2 * kLargestShift, 1);
+    if (inside.width <= 0) return;
+    for (int y = 0; y + 1 < values.rows; y += kRowStep) {
+        const cv::Mat row = values.row(y)(inside);
+        for (int shift = -kLargestShift; shift <= kLargestShift; ++shift) {
+            const cv::Mat moved = values.row(y + 1)(inside + cv::Point(shift, 0));
+            (*costs)[static_cast<std::size_t>(shift + kLargestShift)] += cv::norm(row, moved, cv::NORM_L1);
+        }
+    }
+}
+
+/// Motion over three frame sets, so that streams of half the rate compare with the others.
+std::vector<double> smoothed(const std::vector<float>& motion) {
+    std::vector<double> out(motion.size(), 0);
+    for (std::size_t i = 1; i + 1 < motion.size(); ++i)
+        out[i] = std::sqrt(static_cast<double>(motion[i - 1] + motion[i] + motion[i + 1]));
+    return out;
+}
+
+double correlation(const std::vector<double>& a, const std::vector<double>& b, int lag) {
+    double sumA = 0, sumB = 0, squaresA = 0, squaresB = 0, product = 0, count = 0;
+    for (std::size_t i = kMostLag; i + kMostLag < a.size(); ++i) {
+        const double x = a[i], y = b[static_cast<std::size_t>(static_cast<std::ptrdiff_t>(i) + lag)];
+        sumA += x;
+        sumB += y;
+        squaresA += x * x;
+        squaresB += y * y;
+        product += x * y;
+        ++count;
+    }
+    const double varianceA = squaresA - sumA * sumA / count, varianceB = squaresB - sumB * sumB / count;
+    return varianceA > 0 && varianceB > 0 ? (product - sumA * sumB / count) / std::sqrt(varianceA * varianceB) : 0;
+}
+
+bool movesEnough(const std::vector<double>& motion) {
+    if (motion.size() < 4 * kMostLag) return false;
+    const double largest = *std::max_element(motion.begin(), motion.end());
+    const auto moving =
+        std::count_if(motion.begin(), motion.end(), [largest](double value) { return value > 0.3 * largest; });
+    const double mean = std::accumulate(motion.begin(), motion.end(), 0.0) / static_cast<double>(motion.size());
+    return moving >= kLeastMovingSets && largest > 2 * mean;
+}
+
+/// Frame sets by which the second stream comes after the first; none where motion does not tell.
+std::optional<int> lagBetween(const std::vector<double>& first, const std::vector<double>& second) {
+    if (first.size() != second.size() || !movesEnough(first) || !movesEnough(second)) return std::nullopt;
+    int best = 0;
+    double highest = -1;
+    for (int lag = -kMostLag; lag <= kMostLag; ++lag) {
+        const double value = correlation(first, second, lag);
+        if (value > highest) {
+            highest = value;
+            best = lag;
+        }
+    }
+    if (highest < kLeastCorrelation) return std::nullopt;
+    return best;
+}
+
+}  // namespace
+
+const char* StreamWatch::nameOf(std::size_t stream) {
+    return kNames[stream];
+}
+
+void StreamWatch::setTiming(bool on) {
+    timing_ = on;
+    if (on) timedFrom_ = Clock::now();
+}
+
+void StreamWatch::take(const session::FramePictures& pictures, Clock::time_point now) {
+    ++sets_;
+    if (timing_) {
+        ++timedSets_;
+        timedTo_ = now;
+    }
+    follow(kLeft, matOf(pictures.infrared, CV_16UC1), now);
+    follow(kRight, matOf(pictures.right, CV_16UC1), now);
+    follow(kDepth, matOf(pictures.depth, CV_16UC1), now);
+    follow(kThird, matOf(pictures.third, CV_8UC4), now);
+    cv::Mat luma;
+    if (!pictures.platform.empty()) {
+        luma = cv::Mat(session::kPlatformHeight, session::kPlatformWidth, CV_8UC1,
+                       const_cast<std::uint8_t*>(pictures.platform.data()));
+    }
+    follow(kRear, luma, now);
+    if (!same(streams_[kLeft].last, streams_[kRight].last)) streams_[kRight].equalsLeft = false;
+}
+
+void StreamWatch::follow(std::size_t stream, const cv::Mat& picture, Clock::time_point now) {
+    Followed& followed = streams_[stream];
+    followed.motion.push_back(0);
+    if (picture.empty()) return;
+    StreamStatistics& seen = followed.seen;
+    ++seen.delivered;
+    seen.width = picture.cols;
+    seen.height = picture.rows;
+    if (!followed.last.empty() && same(picture, followed.last)) return;
+    const cv::Mat before = followed.last.empty() ? cv::Mat() : sparse(followed.last, kMotionStep);
+    picture.copyTo(followed.last);
+    if (timing_) followed.timedMs.push_back(std::chrono::duration<double, std::milli>(now - timedFrom_).count());
+    const cv::Mat present = sparse(picture, kMotionStep);
+    if (!before.empty()) {
+        ++seen.changes;
+        followed.motion.back() = static_cast<float>(meanDifference(before, present));
+    }
+    cv::Scalar mean, deviation;
+    cv::meanStdDev(present, mean, deviation);
+    seen.showsSomething = seen.showsSomething || deviation[0] >= kBlankDeviation;
+    if (stream == kLeft || stream == kRight) {
+        double largest = 0;
+        cv::minMaxLoc(picture, nullptr, &largest);
+        seen.largest = std::max(seen.largest, static_cast<int>(largest));
+    }
+    if (followed.rowPictures < kMostRowPictures && !timing_) {
+        ++followed.rowPictures;
+        addRowCosts(picture, &followed.rowCosts);
+    }
+}
+
+StreamStatistics StreamWatch::statistics(std::size_t stream) const {
+    const Followed& followed = streams_[stream];
+    StreamStatistics seen = followed.seen;
+    const std::vector<double>& times = followed.timedMs;
+    if (times.size() < 2) return seen;
+    const double count = static_cast<double>(times.size() - 1), mean = (times.back() - times.front()) / count;
+    double squares = 0;
+    for (std::size_t i = 1; i < times.size(); ++i) {
+        squares += std::pow(times[i] - times[i - 1] - mean, 2);
+        seen.oldestMs = std::max(seen.oldestMs, times[i] - times[i - 1]);
+    }
+    seen.newPerSecond = 1000 / mean;
+    seen.jitterMs = std::sqrt(squares / count);
+    return seen;
+}
+
+CheckLines StreamWatch::lines() const {
+    CheckLines all;
+    for (std::size_t stream = 0; stream < kStreamCount; ++stream) {
+        if (stream != kRear || hasRearCamera_) all.push_back(streamLine(stream));
+    }
+    all.push_back(levelLine());
+    all.push_back(rowLine());
+    all.push_back(momentLine());
+    return all;
+}
+
+CheckLine StreamWatch::streamLine(std::size_t stream) const {
+    const StreamStatistics seen = statistics(stream);
+    const Followed& followed = streams_[stream];
+    const auto line = [&](Verdict verdict, const QString& text) {
+        return CheckLine{kIds[stream], QString("pictures of the %1 stream").arg(kNames[stream]), verdict, text};
+    };
+    if (timedSets_ < kLeastTimedSets) return line(Verdict::CannotTell, "too few frame sets were grabbed");
+    const QString size = QString("%1 x %2").arg(seen.width).arg(seen.height);
+    const double share = static_cast<double>(seen.delivered) / sets_;
+    const double leastShare = stream == kRear ? kLeastDeliveredShare / 4 : kLeastDeliveredShare;
+    if (seen.delivered == 0) return line(Verdict::DoesNotFit, "it brings no pictures");
+    if (share < leastShare) {
+        return line(Verdict::DoesNotFit,
+                    QString("only %1 % of the frame sets have a picture").arg(100 * share, 0, 'f', 0));
+    }
+    if (stream != kDepth && !seen.showsSomething) return line(Verdict::DoesNotFit, "its pictures show nothing");
+    if (stream == kRight && followed.equalsLeft) return line(Verdict::DoesNotFit, "its pictures are the left ones");
+    const int others = std::max(streams_[kLeft].seen.changes, streams_[kThird].seen.changes);
+    const bool isFrozen = seen.changes == 0 && others > 0 && (stream != kDepth || seen.showsSomething);
+    if (isFrozen) return line(Verdict::DoesNotFit, "its picture stands still while others go on");
+
+    const double timed = static_cast<double>(followed.timedMs.size());
+    if (timed < kMovingShare * kLeastRates[stream] / kLeastRates[kLeft] * timedSets_) {
+        return line(Verdict::CannotTell, size + ", but its pictures repeat themselves, so that they tell no rate");
+    }
+    int old = 0;
+    for (std::size_t i = 1; i < followed.timedMs.size(); ++i)
+        old += followed.timedMs[i] - followed.timedMs[i - 1] > kOldestMs ? 1 : 0;
+    const bool isOld = old > kTolerableOldShare * timed;
+    const QString text = QString("%1, %2 new a second, jitter %3 ms, oldest %4 ms")
+                             .arg(size)
+                             .arg(seen.newPerSecond, 0, 'f', 1)
+                             .arg(seen.jitterMs, 0, 'f', 1)
+                             .arg(seen.oldestMs, 0, 'f', 0);
+    return line(verdictOf(seen.newPerSecond >= kLeastRates[stream] && !isOld), text);
+}
+
+CheckLine StreamWatch::levelLine() const {
+    CheckLine line{"infrared-levels", "infrared values of ten bits", Verdict::CannotTell, "no infrared picture"};
+    const int largest = std::max(streams_[kLeft].seen.largest, streams_[kRight].seen.largest);
+    if (largest == 0) return line;
+    line.verdict = verdictOf(largest <= kLargestInfrared);
+    line.text = QString("the largest value is %1").arg(largest);
+    return line;
+}
+
+/// Pixels by which each row stands to the right of the one before; the largest integer where nothing can be told.
+int StreamWatch::rowShift(const Followed& stream) const {
+    const std::vector<double>& costs = stream.rowCosts;
+    if (costs.empty()) return std::numeric_limits<int>::max();
+    const auto best = std::min_element(costs.begin(), costs.end());
+    const double mean = std::accumulate(costs.begin(), costs.end(), 0.0) / static_cast<double>(costs.size());
+    if (!(*best < kTexturedShare * mean)) return std::numeric_limits<int>::max();
+    return static_cast<int>(best - costs.begin()) - kLargestShift;
+}
+
+CheckLine StreamWatch::rowLine() const {
+    CheckLine line{"packed-rows", "rows without gaps", Verdict::CannotTell, "no picture has enough texture"};
+    QStringList packed, shifted;
+    for (std::size_t stream = 0; stream < kStreamCount; ++stream) {
+        const int shift = rowShift(streams_[stream]);
+        if (shift == std::numeric_limits<int>::max()) continue;
+        if (shift == 0) packed << kNames[stream];
+        if (shift != 0) shifted << QString("%1 (by %2 pixels a row)").arg(kNames[stream]).arg(std::abs(shift));
+    }
+    if (!shifted.isEmpty()) {
+        line.verdict = Verdict::DoesNotFit;
+        line.text = "rows have gaps: " + shifted.join(", ");
+    } else if (packed.contains(kNames[kLeft]) && packed.contains(kNames[kThird])) {
+        line.verdict = Verdict::Fits;
+        line.text = "packed: " + packed.join(", ");
+    }
+    return line;
+}
+
+CheckLine StreamWatch::momentLine() const {
+    CheckLine line{"same-moment", "streams show the same moment", Verdict::CannotTell, "too little motion was seen"};
+    const std::vector<double> left = smoothed(streams_[kLeft].motion);
+    QStringList told;
+    bool late = false;
+    for (const std::size_t stream : {kRight, kDepth, kThird, kRear}) {
+        const std::optional<int> lag = lagBetween(left, smoothed(streams_[stream].motion));
+        if (!lag) continue;
+        told << QString("%1 %2").arg(kNames[stream]).arg(*lag);
+        late = late || std::abs(*lag) > kTolerableLag;
+    }
+    if (told.isEmpty()) return line;
+    line.verdict = verdictOf(!late);
+    line.text = "frame sets after the left infrared stream: " + told.join(", ");
+    return line;
+}
+
+}  // namespace fieldcal
