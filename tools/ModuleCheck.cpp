@@ -171,12 +171,9 @@ bool ModuleCheck::startRecording(const session::SessionDescription& description)
 void ModuleCheck::keepStill(const session::FramePictures& pictures) {
     if (recording_ == nullptr) return;
     std::string why;
-    for (int i = 0; i < kStillRepeats; ++i) {
-        if (recording_->add(pictures, &why)) continue;
-        stop(QString::fromStdString(why));
-        recording_.reset();
-        return;
-    }
+    if (recording_->add(pictures, &why, {kStillRepeats, {}})) return;
+    stop(QString::fromStdString(why));
+    recording_.reset();
 }
 
 void ModuleCheck::checkScene() {
