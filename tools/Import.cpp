@@ -1,4 +1,5 @@
 #include "devices/PlatformCameraSetup.h"
+#include "session/Files.h"
 #include "tools/CameraInfoFile.h"
 #include "tools/CommandLine.h"
 #include "tools/Console.h"
@@ -26,10 +27,7 @@ bool findImages(const std::string& source, const std::string& name, TimedImages*
         bool isTime = false;
         const qint64 timeNs = file.chopped(4).toLongLong(&isTime);
         const std::string path = name + '/' + file.toStdString();
-        if (!isTime) {
-            *why = source + '/' + path + ": the name is not a time in nanoseconds";
-            return false;
-        }
+        if (!isTime) return session::refuse(why, source + '/' + path, {}, "the name is not a time in nanoseconds");
         out->emplace(timeNs, path);
     }
     return true;
