@@ -38,6 +38,7 @@ constexpr const char* kSaved = QT_TRANSLATE_NOOP("Interface", "The calibration i
 constexpr const char* kLastSaveFailed =
     QT_TRANSLATE_NOOP("Interface", "The last calibration was not stored in the camera.\nPlease calibrate again.");
 
+constexpr const char* kLastCalibrated = QT_TRANSLATE_NOOP("Interface", "Last calibrated on %1.");
 constexpr const char* kLastSaveGarbled = QT_TRANSLATE_NOOP(
     "Interface", "The camera holds neither the last calibration nor the one before.\nPlease calibrate again.");
 

@@ -85,6 +85,10 @@ void QmlFunctions::offerFirstCamera() {
     call("offerFirstCamera");
 }
 
+void QmlFunctions::showLastCalibration(const QString& text) {
+    call("showLastCalibration", {text});
+}
+
 void QmlFunctions::showLastSaveFailed(const QString& text) {
     call("showLastSaveFailed", {text});
 }

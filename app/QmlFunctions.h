@@ -41,6 +41,7 @@ public:
     void displayPlatformCameraIssue();
     void offerFirstCamera();
     void showLastSaveFailed(const QString& text);
+    void showLastCalibration(const QString& text);
     void showCapturedPhoto(const QString& source);
     void showDetailMap(const QVariantList& areas);
     /// Rotation of the camera in degrees: upwards, to the right, and clockwise as seen from behind the camera.

@@ -5,6 +5,8 @@
 #include "app/InterfaceTexts.h"
 #include "app/QmlFunctions.h"
 
+#include <QLocale>
+
 #include <array>
 
 namespace fieldcal {
@@ -96,6 +98,11 @@ void WorkflowBridge::lastSaveSettled(const LastSave& last) {
         return texts::kLastSaveFailed;
     };
     functions_.showLastSaveFailed(interfaceText(textOf(last.outcome)));
+}
+
+void WorkflowBridge::lastCalibration(const QDateTime& stored) {
+    const QString date = QLocale().toString(stored.toLocalTime().date(), QLocale::ShortFormat);
+    functions_.showLastCalibration(interfaceText(texts::kLastCalibrated).arg(date));
 }
 
 void WorkflowBridge::deviceError(const QString& text) {

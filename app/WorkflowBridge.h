@@ -38,6 +38,7 @@ public:
                        const FoundTurn& turn) override;
     void singleCameraOnly() override;
     void lastSaveSettled(const LastSave& last) override;
+    void lastCalibration(const QDateTime& stored) override;
     void deviceError(const QString& text) override;
     void missingModule() override;
     void missingPlatformCamera() override;

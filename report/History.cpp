@@ -2,6 +2,8 @@
 
 #include "files/SafeFile.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 
 #include <string>
@@ -12,6 +14,10 @@ namespace {
 constexpr char kHeader[] =
     "time,serial,camera,before_x_deg,before_y_deg,before_z_deg,after_x_deg,after_y_deg,after_z_deg,"
     "deviation_x_deg,deviation_y_deg,deviation_z_deg,proof_stored_px,proof_new_px,result\n";
+
+constexpr const char* kStored = "stored";  ///< the result of a save that succeeded
+constexpr qint64 kLargestHistory = 64 << 20;
+constexpr int kFewestFields = 3;
 
 QString quoted(QString field) {
     field.replace('\n', ' ').replace('\r', ' ');
@@ -27,7 +33,7 @@ void addAngles(QStringList* fields, const Angles& anglesDeg) {
 
 QString resultText(const ServiceReport& report) {
     if (!report.write) return "not written";
-    return report.write->stored ? QString("stored") : "not stored: " + report.write->reason;
+    return report.write->stored ? QString(kStored) : "not stored: " + report.write->reason;
 }
 
 QByteArray lineOf(const ServiceReport& report, const ReportedCamera& camera) {
@@ -62,6 +68,20 @@ bool appendHistory(const QString& folder, const ServiceReport& report) {
     if (makeFolders(folder.toStdString(), &why) && appendLines(path, kHeader, lines.toStdString(), &why)) return true;
     qCritical("%s: the history of calibrations cannot be continued: %s", path.c_str(), why.c_str());
     return false;
+}
+
+QDateTime lastStored(const QString& folder, std::uint32_t serial) {
+    QFile file(folder + "/history.csv");
+    if (!QFileInfo(file).isFile() || file.size() > kLargestHistory || !file.open(QIODevice::ReadOnly)) return {};
+    QDateTime last;
+    for (const QByteArray& line : file.readAll().split('\n')) {
+        const QList<QByteArray> fields = line.split(',');
+        if (fields.size() < kFewestFields || fields[1] != QByteArray::number(serial) || fields.last() != kStored)
+            continue;
+        const QDateTime time = QDateTime::fromString(QString::fromLatin1(fields[0]), Qt::ISODate);
+        if (time.isValid()) last = time;
+    }
+    return last;
 }
 
 }  // namespace fieldcal

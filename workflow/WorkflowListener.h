@@ -9,6 +9,7 @@
 #include "workflow/Saving.h"
 #include "workflow/State.h"
 
+#include <QDateTime>
 #include <QString>
 
 #include <vector>
@@ -38,6 +39,9 @@ public:
     virtual void singleCameraOnly() {}
     /// The outcome of a save that was interrupted. Sent once, when the camera has been opened.
     virtual void lastSaveSettled(const LastSave&) {}
+    /// When a calibration of this module was last stored. Sent once, when the camera has been opened and the history
+    /// has one.
+    virtual void lastCalibration(const QDateTime& /*stored*/) {}
 
     /// Faults. No further call follows the first one.
     virtual void deviceError(const QString& /*text*/) {}

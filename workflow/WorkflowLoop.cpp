@@ -2,6 +2,7 @@
 #include "devices/CameraParameterReader.h"
 #include "engine/Rotation.h"
 #include "engine/TextForms.h"
+#include "report/History.h"
 #include "workflow/Saving.h"
 #include "workflow/Workflow.h"
 
@@ -120,6 +121,8 @@ void Workflow::openCamera(const Snapshot& now) {
     attempt_.useMemory(BaselineMemory(environment_.dataFolder), sensor_->serialNumber());
     sensorReady_ = true;
     reportLastSave();
+    const QDateTime stored = lastStored(environment_.dataFolder, sensor_->serialNumber());
+    if (stored.isValid()) listener_.lastCalibration(stored);
     advance(now, State::ShowingIntroduction);
 }
 

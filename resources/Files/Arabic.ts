@@ -202,6 +202,10 @@ Please calibrate again.</source>
 يُرجى المعايرة مرة أخرى.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>آخر معايرة بتاريخ %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>لا تحتوي الكاميرا على المعايرة الأخيرة ولا على المعايرة السابقة.

@@ -202,6 +202,10 @@ Please calibrate again.</source>
 请重新校准。</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>上次校准日期：%1。</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>摄像头中既没有上一次的校准，也没有之前的校准。

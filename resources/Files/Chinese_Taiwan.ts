@@ -202,6 +202,10 @@ Please calibrate again.</source>
 請重新校正。</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>上次校正日期：%1。</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>攝影機中既沒有上一次的校正，也沒有之前的校正。

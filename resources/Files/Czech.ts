@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Proveďte kalibraci znovu.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Poslední kalibrace: %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>V kameře není ani poslední, ani předchozí kalibrace.

@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Kalibrér igen.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Senest kalibreret %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>Kameraet indeholder hverken den seneste eller den forrige kalibrering.

@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Kalibreer opnieuw.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Laatst gekalibreerd op %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>De camera bevat noch de laatste, noch de vorige kalibratie.

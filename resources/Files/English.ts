@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Please calibrate again.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Last calibrated on %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>The camera holds neither the last calibration nor the one before.

@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Kalibroi uudelleen.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Viimeksi kalibroitu %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>Kamerassa ei ole viimeisintä eikä edellistä kalibrointia.

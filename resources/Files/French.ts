@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Veuillez recommencer l’étalonnage.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Dernier étalonnage le %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>La caméra ne contient ni le dernier étalonnage ni le précédent.

@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Bitte kalibrieren Sie erneut.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Zuletzt kalibriert am %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>Die Kamera enthält weder die letzte noch die vorherige Kalibrierung.

@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Εκτελέστε ξανά τη βαθμονόμηση.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Τελευταία βαθμονόμηση στις %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>Η κάμερα δεν περιέχει ούτε την τελευταία ούτε την προηγούμενη βαθμονόμηση.

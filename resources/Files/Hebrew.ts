@@ -202,6 +202,10 @@ Please calibrate again.</source>
 יש לכייל שוב.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>הכיול האחרון: %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>המצלמה אינה מכילה את הכיול האחרון וגם לא את הכיול הקודם.

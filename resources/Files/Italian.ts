@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Eseguire di nuovo la calibrazione.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Ultima calibrazione: %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>La fotocamera non contiene né l&apos;ultima calibrazione né quella precedente.

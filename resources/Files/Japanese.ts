@@ -202,6 +202,10 @@ Please calibrate again.</source>
 もう一度キャリブレーションを行ってください。</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>前回のキャリブレーション：%1</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>カメラには前回のキャリブレーションもその前のキャリブレーションも保存されていません。

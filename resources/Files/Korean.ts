@@ -202,6 +202,10 @@ Please calibrate again.</source>
 다시 보정하십시오.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>마지막 보정: %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>카메라에 마지막 보정도 이전 보정도 들어 있지 않습니다.

@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Kalibrer på nytt.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Sist kalibrert %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>Kameraet inneholder verken den siste eller den forrige kalibreringen.

@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Przeprowadź kalibrację ponownie.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Ostatnia kalibracja: %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>Kamera nie zawiera ani ostatniej, ani poprzedniej kalibracji.

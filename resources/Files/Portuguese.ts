@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Calibre novamente.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Última calibração em %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>A câmara não contém nem a última calibração nem a anterior.

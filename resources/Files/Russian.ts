@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Выполните калибровку ещё раз.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Последняя калибровка: %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>В камере нет ни последней, ни предыдущей калибровки.

@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Vykonajte kalibráciu znova.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Posledná kalibrácia: %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>V kamere nie je ani posledná, ani predchádzajúca kalibrácia.

@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Calibre de nuevo.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Última calibración: %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>La cámara no contiene ni la última calibración ni la anterior.

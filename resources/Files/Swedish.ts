@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Kalibrera igen.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Senast kalibrerad %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>Kameran innehåller varken den senaste eller den föregående kalibreringen.

@@ -202,6 +202,10 @@ Please calibrate again.</source>
 โปรด​ปรับเทียบ​อีกครั้ง</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>ปรับเทียบครั้งล่าสุดเมื่อ %1</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>กล้องไม่มีทั้งการปรับเทียบครั้งล่าสุดและครั้งก่อนหน้า

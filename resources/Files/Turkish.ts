@@ -202,6 +202,10 @@ Please calibrate again.</source>
 Lütfen yeniden kalibre edin.</translation>
     </message>
     <message>
+        <source>Last calibrated on %1.</source>
+        <translation>Son kalibrasyon: %1.</translation>
+    </message>
+    <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>Kamerada ne son kalibrasyon ne de önceki kalibrasyon var.

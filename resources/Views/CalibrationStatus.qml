@@ -19,6 +19,7 @@ QtObject {
     property string cameraName: ""
 
     property string lastSaveFailedText: ""
+    property string lastCalibrationText: ""
     property string startText: ""
     property bool howToMoveOffered: false
     property string refinementText: ""

@@ -69,6 +69,7 @@ Window {
     function displayPlatformCameraIssue() { status.notice = "platformCameraIssuePage" }
     function offerFirstCamera() { status.failed = true; pages.askToLeave() }
     function showLastSaveFailed(message) { status.lastSaveFailedText = message }
+    function showLastCalibration(message) { status.lastCalibrationText = message }
     function showCapturedPhoto(source) { status.photos = status.photos.concat([source]) }
     function showDetailMap(areas) { status.detail = areas }
     function showFoundTurn(anglesDeg, quality) { status.foundTurn = anglesDeg; status.foundQuality = quality }

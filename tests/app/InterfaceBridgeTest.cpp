@@ -156,6 +156,7 @@ TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
         functions.modifyUiToStateInQML(static_cast<State>(state));
     functions.showMovementText("a");
     functions.setHoldStill(true);
+    functions.showLastCalibration("a");
     functions.showCalibrationStartupText("a");
     functions.showSaveCalibrationText("a");
     functions.setLightingDialogText("a", "b");

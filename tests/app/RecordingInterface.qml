@@ -55,6 +55,7 @@ Window {
     function displayPlatformCameraIssue() { add("platformCameraIssue", []) }
     function offerFirstCamera() { add("offerFirstCamera", []) }
     function showLastSaveFailed(text) { add("lastSaveFailed", [text]) }
+    function showLastCalibration(text) { add("lastCalibration", [text]) }
     function showCapturedPhoto(source) { add("photo", [source]) }
     function showDetailMap(areas) { add("detail", areas.map(area => area.toFixed(1))) }
     function showFoundTurn(anglesDeg, quality) {

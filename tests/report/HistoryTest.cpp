@@ -49,6 +49,12 @@ TEST_F(HistoryTest, ALineForEachCameraAndTheColumnsOnce) {
                     "2026-07-01T12:34:56Z,550101,platform," + angles + ",,,,,\"not stored: 7: \"\"full\"\", again\"",
                     ""));
     EXPECT_EQ(QString::fromStdString(lines()[0]).count(','), QString::fromStdString(lines()[1]).count(','));
+
+    failed.time = failed.time.addDays(1);
+    EXPECT_TRUE(appendHistory(folder, failed));
+    EXPECT_EQ(lastStored(folder, 550101).toString(Qt::ISODate), "2026-07-01T12:34:56Z") << "the later one failed";
+    EXPECT_FALSE(lastStored(folder, 550102).isValid());
+    EXPECT_FALSE(lastStored(folder + "/none", 550101).isValid());
 }
 
 TEST_F(HistoryTest, WhatIsThereStands) {

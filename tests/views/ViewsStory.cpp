@@ -41,6 +41,7 @@ std::vector<Scene> story() {
         {"introduction",
          [](ViewsStage& stage) {
              stage.tell("showLastSaveFailed", interfaceText(texts::kLastSaveFailed));
+             stage.tell("showLastCalibration", interfaceText(texts::kLastCalibrated).arg("12/31/2026"));
              stage.enter(1);
          }},
         {"update-offered", [](ViewsStage& stage) { stage.tell("showUpdateOffer", "1.10"); }},

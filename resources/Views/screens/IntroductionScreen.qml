@@ -73,6 +73,13 @@ Screen {
         Step { drawing: "align"; text: qsTr("Check the result with one finger, and store it in the camera.") }
         Item { Layout.fillHeight: true }
         Words {
+            objectName: "lastCalibrationText"
+            Layout.fillWidth: true
+            visible: text !== ""
+            color: Theme.quietText
+            text: screen.status.lastCalibrationText
+        }
+        Words {
             Layout.fillWidth: true
             color: Theme.quietText
             text: screen.status.singleCamera ? qsTr("Takes about three minutes.")
