@@ -9,8 +9,9 @@
 #include <string>
 #include <vector>
 
-/// Recorded sessions. Folder names are UTF-8. A function that fails returns false and sets `why` to one line "file:
-/// key: reason" (without the key where the file as a whole is meant). Outputs are valid after success only. Any thread.
+/// Recorded sessions. Folder names are UTF-8. A function that fails returns false and sets `why` to one line of the
+/// form "file: key: reason" (without the key where the file as a whole is meant). Outputs are valid after success only.
+/// Any thread.
 namespace fieldcal::session {
 
 /// Intrinsics as stored in the session file: 64 bit, in pixels. See docs/conventions.md for the principal point.
