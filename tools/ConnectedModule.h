@@ -61,8 +61,7 @@ private:
     bool describePlatform(session::PlatformCamera* out);
     bool failed(QString* why, const char* otherwise) const;
 
-    std::unique_ptr<SingleInstance>
-        instance_;  ///< held on systems where the vendor's service is disabled and noted while the module is open
+    std::unique_ptr<SingleInstance> instance_;  ///< held where the vendor's service is disabled
     std::optional<SensorEnvironment> environment_;
     CameraParameters parameters_;
     SensorReports reports_;

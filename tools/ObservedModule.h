@@ -18,8 +18,7 @@ struct OperationRecord {
     std::string name;
     int calls = 0;
     int failures = 0;
-    std::optional<std::int32_t>
-        status;  ///< status that the library reported after the first failure, if it was asked for
+    std::optional<std::int32_t> status;  ///< of the first failure; none when not asked for
     double firstMs = 0;
     double longestMs = 0;
     double longestLaterMs = 0;  ///< of all calls except the first
