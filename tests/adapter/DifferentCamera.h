@@ -103,5 +103,5 @@ DC_EXPORT int dcMakeValid(void* camera);
 /// Replaces the rotation of the colour camera (0) or the rear camera (1) in a block. `columns`: from raw depth to raw
 /// colour, column by column.
 DC_EXPORT void dcTurn(const std::uint8_t* in, int camera, const double* columns, std::uint8_t* out);
-/// Returns the simulated rear camera; it is not part of this library.
+/// Returns the simulated rear camera, which is not part of the modelled library.
 DC_EXPORT void* dcRearCamera();
