@@ -19,6 +19,7 @@ struct BlockChange {
     QByteArray previous;  ///< SHA-256 of the compared bytes before the write
     QByteArray wanted;    ///< SHA-256 of the compared bytes after a successful write
 
+    /// `counting`: the bytes to compare.
     static BlockChange between(const KXCalibRectParameters& previous, const KXCalibRectParameters& wanted,
                                const BlockBytes& counting);
     /// Returns whether all three arrays have their proper length, which is not so after reading a damaged file.

@@ -28,7 +28,7 @@ class JsonKey {
 public:
     JsonKey(const nlohmann::json& document, JsonFault* fault) : value_(&document), fault_(fault) {}
 
-    /// A required key of an object.
+    /// Returns the value of a required key of an object. A missing key is a fault when the value is accessed.
     JsonKey operator[](const char* name) const;
     /// Returns whether an object has the key. A value that is not an object is a fault.
     bool has(const char* name) const;

@@ -30,8 +30,9 @@ bool readGreyPng(const PngExpectation& expected, ImageFrame16* out, std::string*
 /// BGRA in storage order, alpha 255.
 bool readColourPng(const PngExpectation& expected, ImageFrame32* out, std::string* why);
 
+/// Writes the file without syncing it to the disk.
 bool writeGreyPng(const std::string& file, const ImageFrame16& picture, std::string* why);
-/// `picture`: BGRA in storage order.
+/// `picture`: BGRA in storage order; alpha is not stored.
 bool writeColourPng(const std::string& file, const ImageFrame32& picture, std::string* why);
 
 }  // namespace fieldcal::session

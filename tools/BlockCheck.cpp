@@ -55,7 +55,8 @@ std::optional<Entered> enter(ModuleLink& link, KXUpdateRotationFunction function
     return entered;
 }
 
-/// The results of the companion library for one camera.
+/// A colour camera with its function in the companion library, the rotation that the module reports (depth to colour),
+/// and the camera's rectification matrix in the block.
 struct CompanionCamera {
     const char* name;
     KXUpdateRotationFunction function;

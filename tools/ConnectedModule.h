@@ -36,9 +36,10 @@ public:
     /// Returns the calibration read by `describe`, in the form that the engine uses.
     const CameraParameters& parameters() const { return parameters_; }
 
-    /// Grabs the next frame set as the library delivers it. `platform` is empty when the rear camera had no new image.
+    /// Grabs the next frame set as the library delivers it, with the alpha of colour set to 255. A missing left
+    /// infrared or third colour image is a failure. `platform` is empty when the rear camera had no new image.
     bool grab(session::FramePictures* out, QString* why);
-    /// The same, but a stream without an image is not a failure.
+    /// The same, but missing images are no failure.
     bool grabWhatIsThere(session::FramePictures* out, QString* why);
 
     /// Returns the opened sensor, for operations that this class does not cover.

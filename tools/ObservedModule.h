@@ -31,8 +31,9 @@ public:
     using Clock = std::chrono::steady_clock;
 
     void begin(const char* name);
-    /// Returns whether the call failed.
+    /// `begun`: time of `begin`; `failed`: the call returned a failure.
     void end(const char* name, Clock::time_point begun, bool failed);
+    /// Records the status of the operation that failed last, if that operation has none yet.
     void noteStatus(std::int32_t status);
 
     /// Returns one record for every operation of `KXAPI.h` in slot order, including those never called.

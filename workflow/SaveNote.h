@@ -26,8 +26,8 @@ struct SaveNote {
 /// false after logging the reason. After writing, the note and its folder are on the disk.
 bool writeSaveNote(const QString& folder, const SaveNote& note);
 bool removeSaveNote(const QString& folder, std::uint32_t serial);
-/// Returns none when there is no note. A note that cannot be read is logged and returned without content: a calibration
-/// was not stored, but no details are known.
+/// Returns none when there is no note. A note that cannot be read is logged and returned with the serial number only: a
+/// calibration was not stored, but no details are known.
 std::optional<SaveNote> readSaveNote(const QString& folder, std::uint32_t serial);
 
 }  // namespace fieldcal
