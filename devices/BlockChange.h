@@ -10,20 +10,21 @@ namespace fieldcal {
 
 using BlockBytes = std::bitset<sizeof(KXCalibRectParameters)>;
 
-/// By what a parameter block is known again after the program that was to replace it has died: digests of the bytes
-/// that count, before and after.
+/// Digests of a parameter block before and after a write. They identify the block that a module holds after the writing
+/// program was interrupted. Only some bytes of the block are compared.
 struct BlockChange {
     enum class Held { Previous, Wanted, Neither };
 
-    QByteArray counting;  ///< one bit for each byte of the block, the lowest first
-    QByteArray previous;  ///< SHA-256 of the bytes that count
-    QByteArray wanted;
+    QByteArray counting;  ///< one bit for each byte of the block, lowest bit first: the bytes that are compared
+    QByteArray previous;  ///< SHA-256 of the compared bytes before the write
+    QByteArray wanted;    ///< SHA-256 of the compared bytes after a successful write
 
+    /// `counting`: the bytes to compare.
     static BlockChange between(const KXCalibRectParameters& previous, const KXCalibRectParameters& wanted,
                                const BlockBytes& counting);
-    /// Whether it is one, and not what a damaged file has made of it.
+    /// Returns whether all three arrays have their proper length, which is not so after reading a damaged file.
     bool isWhole() const;
-    /// Which of both a module holds.
+    /// Returns which of the two a module's block equals.
     Held heldIn(const KXCalibRectParameters& block) const;
 };
 

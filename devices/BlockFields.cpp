@@ -5,11 +5,11 @@ namespace {
 
 using Block = KXCalibRectParameters;
 
-/// Two rotations that differ in every number.
+/// Two rotations that differ in every entry.
 constexpr Matrix3 kProbe{0.6442, -0.5285, 0.5529, 0.5440, 0.8255, 0.1552, -0.5383, 0.2008, 0.8185};
 constexpr Matrix3 kOtherProbe{-0.1702, -0.6659, 0.7268, 0.7161, 0.4251, 0.5558, -0.6791, 0.6151, 0.4005};
 
-/// Numbers are not compared in part: a byte of theirs may happen to be the same.
+/// Extends a set of bytes to whole 4-byte words, because single bytes of two different numbers may be equal.
 BlockBytes wholeWords(const BlockBytes& bytes) {
     BlockBytes words;
     for (std::size_t i = 0; i < bytes.size(); ++i)
@@ -29,11 +29,11 @@ BlockBytes differences(const Block& a, const Block& b) {
 }
 
 Matrix3 rawRotation(const Rotation& rotation, const float* rectifyColour, const float* rectifyInfrared) {
-    // Raw infrared to rectified, to the colour camera, back to raw colour.
+    // Read from right to left: raw infrared to rectified infrared, to rectified colour, to raw colour.
     return product(transposed(widened(rectifyColour)), product(widened(rotation.data()), widened(rectifyInfrared)));
 }
 
-/// The call may be given up, so that it works on its own copies.
+/// The call works on copies, because it may be abandoned and then outlive the arguments.
 std::optional<Block> turned(ModuleLink& link, KXUpdateRotationFunction function, const Matrix3& rotation,
                             const Block& block) {
     const auto call = [=, library = link.rotationUpdater()] {

@@ -8,20 +8,22 @@
 
 namespace fieldcal {
 
-/// Bytes of a parameter block.
+/// A set of byte positions in a parameter block.
 using BlockBytes = std::bitset<sizeof(KXCalibRectParameters)>;
 
 BlockBytes differences(const KXCalibRectParameters& a, const KXCalibRectParameters& b);
 
-/// The rotation between the raw frames, as the companion library takes it, for one between the rectified frames.
-/// The other two are matrices of the block, raw to rectified.
+/// Converts a rotation between the rectified frames to one between the raw frames, as the companion library expects it.
+/// `rectifyColour` and `rectifyInfrared` are matrices of the block (3 x 3, row-major, raw to rectified).
 Matrix3 rawRotation(const Rotation& rotation, const float* rectifyColour, const float* rectifyInfrared);
 
-/// The block with another rotation of a camera. Empty: the call was given up.
+/// Returns the block with the camera's rotation replaced by `rotation`, which is between raw frames. Returns none when
+/// the call was abandoned.
 std::optional<KXCalibRectParameters> turned(ModuleLink& link, KXUpdateRotationFunction function,
                                             const Matrix3& rotation, const KXCalibRectParameters& block);
 
-/// The fields of a camera's rotation: the words in which two different rotations make different blocks.
+/// Returns the bytes that hold a camera's rotation: the 4-byte words that differ between the blocks made with two
+/// different rotations. Returns none when a call was abandoned.
 std::optional<BlockBytes> rotationFields(ModuleLink& link, KXUpdateRotationFunction function,
                                          const KXCalibRectParameters& block);
 

@@ -22,7 +22,8 @@ bool isSeparator(char c) {
 #endif
 }
 
-/// Without the separator; "." for a name alone, and "/" for what stands in it.
+/// Returns the folder without the final separator: "." for a name without a folder, and the separator itself for a file
+/// in the root folder.
 std::string folderOf(const std::string& file) {
     std::size_t end = file.size();
     while (end > 0 && !isSeparator(file[end - 1]))
@@ -31,7 +32,7 @@ std::string folderOf(const std::string& file) {
     return end == 1 ? file.substr(0, 1) : file.substr(0, end - 1);
 }
 
-/// A new file beside `file`, open for writing.
+/// Creates a new file beside `file` and opens it for writing.
 bool createBeside(const std::string& file, SystemFile* out, std::string* name) {
     static std::atomic<unsigned> count{0};
     for (int i = 0; i < kMostNames; ++i) {
@@ -113,7 +114,7 @@ bool makeFolders(const std::string& folder, std::string* why) {
         if (isSeparator(part.back()) || part.back() == ':') continue;
         bool made = false;
         if (!makeFolder(part, &made, &reason)) return refuse(folder, "the folder cannot be created: " + reason, why);
-        // A folder that a power cut takes away takes its files along.
+        // If a power cut removed the new folder, the files in it would be lost as well.
         if (made && !syncFolder(folderOf(part), &reason)) return refuse(folder, reason, why);
     }
     return true;

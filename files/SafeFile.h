@@ -6,31 +6,33 @@
 
 namespace fieldcal {
 
-/// All names are UTF-8. Every function returns true once everything is done and, unless told otherwise, on the disk,
-/// the folder's entry included. Otherwise it returns false and one line in `why`: "FILE: reason".
+/// All file names are UTF-8. Every function returns true when its work is complete and, unless stated otherwise, on the
+/// disk, including the entry in the folder. Otherwise it returns false and sets `why` to one line "FILE: reason". Any
+/// thread.
 
 enum class Durability {
-    Now,   ///< a power cut after the call leaves the new file
-    Later  ///< the file is whole, but stays for `syncFiles` to bring to the disk
+    Now,   ///< a power cut after the call does not lose the new file
+    Later  ///< the file is complete, but only `syncFiles` guarantees that it is on the disk
 };
 
-/// Writes a whole file, through a temporary one beside it which is flushed, measured and renamed. After a failure a
-/// file of this name is still as it was; only when the folder itself cannot be synced at the end it may be the new one.
-/// What is there and is no regular file is refused. Access rights are kept; a symbolic link is followed.
+/// Writes a whole file: writes a temporary file beside it, syncs it, checks its size and renames it. After a failure,
+/// an existing file of this name is unchanged, except when only the final sync of the folder failed: the new file may
+/// then be in place. Anything at this name that is not a regular file is refused. Access rights are kept; a symbolic
+/// link is followed.
 bool writeFile(const std::string& file, const void* bytes, std::size_t size, std::string* why,
                Durability durability = Durability::Now);
 
-/// Appends whole lines to a text file. A file that is empty or not there begins with `heading`, and after a last line
-/// that was cut short the new ones begin on a line of their own. After a failure the file has its former length.
+/// Appends whole lines to a text file. If the file is empty or missing, `heading` is written first. If the last line is
+/// incomplete, the new lines start on a line of their own. After a failure the file is truncated to its former length.
 bool appendLines(const std::string& file, const std::string& heading, const std::string& lines, std::string* why);
 
-/// Brings files and the entries of their folder to the disk.
+/// Syncs files of a folder, and the folder's entries, to the disk.
 bool syncFiles(const std::string& folder, const std::vector<std::string>& names, std::string* why);
 
-/// Makes a folder and those above it.
+/// Creates a folder and its missing parents.
 bool makeFolders(const std::string& folder, std::string* why);
 
-/// Removes a file; one that is not there counts as removed.
+/// Removes a file. A file that does not exist counts as removed.
 bool removeFile(const std::string& file, std::string* why);
 
 }  // namespace fieldcal

@@ -1,21 +1,22 @@
 #pragma once
 
-/// The depth camera's library as this project sees it: one exported interface version, a few functions, and pure
-/// abstract classes whose operations stand in slot order. No virtual destructors, no overloads, plain records and
-/// `const char*` only, so that the tables agree whatever compiler built either side. Never add an operation except
-/// at the end of a class, and raise `KX_INTERFACE_VERSION` when you do.
+/// The interface of the depth camera's library as this project uses it: a version number, a few exported functions, and
+/// pure abstract classes whose operations are in slot order. There are no virtual destructors and no overloads, and
+/// parameters are plain records or `const char*` only, so that the function tables agree whichever compilers built the
+/// two sides. New operations may be added only at the end of a class, and `KX_INTERFACE_VERSION` must then be raised.
 ///
-/// Units: pixels for intrinsics, millimetres for translations. Matrices are row-major. Pointers that an operation
-/// returns stay valid until the device is destroyed; pixel pointers until the next `grab`.
-/// Threads: one thread at a time per device.
+/// Units: pixels for intrinsics, millimetres for translations. Matrices are row-major. Pointers returned by an
+/// operation stay valid until the device is destroyed, pointers to pixels until the next `grab`. An operation that
+/// returns bool returns false on failure; `KXDevice::lastStatus` then gives the reason.
+/// Threads: a device may be used by one thread at a time.
 
 #include <cstddef>
 #include <cstdint>
 
 constexpr std::int32_t KX_INTERFACE_VERSION = 1;
 
-/// Status of the last failed call (`KXDevice::lastStatus`). Values without a name occur; their text comes from the
-/// library.
+/// Status of the last failed call (`KXDevice::lastStatus`). A library may return other values, too; it provides the
+/// text of each (`KXStatusString`).
 enum KXStatus : std::int32_t {
     KX_STATUS_OK = 0,
     KX_STATUS_FAILED = 1,
@@ -50,8 +51,8 @@ struct KXCalibExtrinsics {
     float translation[3];
 };
 
-/// The rectification parameter block as the flash stores it. Only the three matrices are ours to read and write;
-/// each takes a raw camera's coordinates into its rectified frame.
+/// The rectification parameter block as stored in the flash. Only the three matrices may be read and written by this
+/// project; each of them rotates a raw camera's coordinates into its rectified frame. The other bytes must be kept.
 struct KXCalibRectParameters {
     std::uint8_t reserved0[1272];
     float rectificationInfrared[9];
@@ -95,7 +96,7 @@ public:
     virtual bool setEmitter(bool on) = 0;
 };
 
-/// Calibration of the tablet's own rear camera; its pictures do not come through this library.
+/// Calibration of the tablet's own rear camera. Its images are not delivered by this library.
 class KXPlatformCamera {
 public:
     virtual bool setPlatformMode(std::int32_t rectified, std::int32_t width, std::int32_t height) = 0;
@@ -107,13 +108,14 @@ public:
     virtual bool zToPlatformExtrinsics(KXCalibExtrinsics* out) = 0;
 };
 
-/// Writing the calibration. The capture must rest (`stopCapture`).
+/// Writing the calibration. Capture must be stopped (`stopCapture`).
 class KXPrivate {
 public:
-    /// Hands a block over. `permanent`: into the spare half of the flash, where it does not count before
-    /// `commitCalibration`; else until the module is switched off.
+    /// Transfers a block to the module. `permanent`: the block is written into the spare half of the flash, where it
+    /// has no effect before `commitCalibration`; otherwise it is used until the module is switched off.
     virtual bool writeRectParameters(const KXCalibRectParameters* parameters, bool permanent) = 0;
-    /// Makes the block written last the valid one, in one step: a loss of power leaves the old or the new one valid.
+    /// Makes the block that was written last the valid one, atomically: after a loss of power either the old or the new
+    /// block is valid.
     virtual bool commitCalibration() = 0;
 };
 
@@ -138,10 +140,10 @@ public:
     virtual bool setStreamOption(bool on) = 0;
     virtual bool startCapture() = 0;
     virtual bool stopCapture() = 0;
-    /// With `wait` set, returns when the next frame set is there.
+    /// With `wait` set, blocks until the next frame set is available.
     virtual bool grab(bool wait) = 0;
-    /// Pictures of the grabbed frame set, both infrared ones of the same moment and size. Null when the stream is off
-    /// or this frame set has no such picture.
+    /// Images of the grabbed frame set. Both infrared images have the same time and size. Null when the stream is off
+    /// or the frame set has no such image.
     virtual const std::uint16_t* depthImage() = 0;
     virtual const std::uint16_t* leftImage() = 0;
     virtual const std::uint16_t* rightImage() = 0;
@@ -153,12 +155,13 @@ public:
     virtual bool calibrationValid() = 0;
     virtual bool rectifiedLRIntrinsics(KXCalibIntrinsicsRectified* out) = 0;
     virtual bool zIntrinsics(KXCalibIntrinsicsRectified* out) = 0;
-    /// The valid block, read from the flash in every call.
+    /// The valid block; it is read from the flash in every call.
     virtual bool rectParameters(KXCalibRectParameters* out) = 0;
     /// Null when the module has no calibrated platform camera.
     virtual KXPlatformCamera* platformCamera() = 0;
     virtual KXPrivate* privateInterface() = 0;
-    /// Ends a rest begun by `stopCapture`: the module loads the valid block, works with it from now on, and captures.
+    /// Ends the interruption that `stopCapture` began: the module loads the valid block, uses it from now on, and
+    /// captures.
     virtual bool resumeDevice() = 0;
 };
 
@@ -168,17 +171,18 @@ using KXInterfaceVersionFunction = std::int32_t (*)();
 using KXCreateFunction = KXDevice* (*)(std::int32_t platform);
 using KXDestroyFunction = void (*)(KXDevice* device);
 using KXStatusStringFunction = const char* (*)(std::int32_t status);
-/// `rotation`: nine doubles, X_rectified = rotation · X_raw. `table`: w x h entries of the rectified picture.
+/// `rotation`: nine doubles, X_rectified = rotation · X_raw. `table`: w x h entries, one for each pixel of the
+/// rectified image.
 using KXRectificationTableFunction = void (*)(const KXCalibIntrinsicsNonRectified* raw, const double* rotation,
                                               const KXCalibIntrinsicsRectified* rectified, std::uint32_t* table);
-/// `pitchPixels`: pixels from one row to the next in both pictures. `source` and `destination` must not overlap.
+/// `pitchPixels`: pixels from one row to the next in both images. `source` and `destination` must not overlap.
 using KXRectifyBGRA8ToBGRA8Function = void (*)(const std::uint32_t* table, const std::uint8_t* source,
                                                std::int32_t pitchPixels, std::int32_t width, std::int32_t height,
                                                std::uint8_t* destination);
 
 /// Exported by the companion library `CalibRectParamUpdater` as `KXUpdateThirdCameraRotation` and
-/// `KXUpdatePlatformCameraRotation`: `out` is `in` with another rotation of that colour camera. `rotation`: nine
-/// doubles, from the depth camera's raw frame to the colour camera's raw frame. `in` and `out` may be the same.
+/// `KXUpdatePlatformCameraRotation`: sets `out` to `in` with the rotation of that colour camera replaced. `rotation`:
+/// nine doubles, from the depth camera's raw frame to the colour camera's raw frame. `in` and `out` may be the same.
 using KXUpdateRotationFunction = void (*)(const KXCalibRectParameters* in, const double* rotation,
                                           KXCalibRectParameters* out);
 }

@@ -5,11 +5,13 @@
 #include <memory>
 #include <string>
 
-/// The shared library `KXAPI`, loaded at run time by name: the program's own folder first, then the system's way.
-/// The program never knows whether a vendor's adapter or the simulated module answers.
+/// The shared library `KXAPI`, loaded at run time by name: from the program's own folder if it is there, otherwise by
+/// the system's search. The program does not depend on whether the library is a vendor's adapter or the simulated
+/// module.
 class KXLibrary {
 public:
-    /// Null when the library is missing, lacks a function or has another interface version; `why` then says which.
+    /// Returns null when the library is missing, lacks a function or has another interface version, and states the
+    /// reason in `why`.
     static std::shared_ptr<const KXLibrary> load(std::string* why);
 
     ~KXLibrary();
@@ -22,10 +24,10 @@ public:
     KXRectificationTableFunction rectificationTable = nullptr;
     KXRectifyBGRA8ToBGRA8Function rectifyBGRA8ToBGRA8 = nullptr;
 
-    /// A further exported function by name; null when the library has none. For optional extensions.
+    /// Returns another exported function by name, for optional extensions; null when the library has none.
     void* symbol(const char* name) const;
 
-    /// For tests: a library whose functions the caller fills in.
+    /// For tests: a library whose functions are set by the caller.
     KXLibrary() = default;
 
 private:
@@ -34,10 +36,10 @@ private:
     void* handle_ = nullptr;
 };
 
-/// From now on both libraries are looked for in the folder `simulated` beside the program and nowhere else, so that a
-/// demonstration never reaches a real camera. False, and nothing changes: there is no such folder, and on this system
-/// there must be one. Natively the simulated libraries lie beside the program itself, too. Before the first library is
-/// loaded.
+/// Restricts the search for both libraries to the folder `simulated` beside the program, so that a demonstration never
+/// reaches a real camera. Returns false and changes nothing when that folder is missing on a system that requires it.
+/// On Linux it is not required, because the simulated libraries lie beside the program itself. To be called before the
+/// first library is loaded.
 bool useSimulatedLibraries();
-/// Whether that was asked for, with success.
+/// Returns whether `useSimulatedLibraries` was called successfully.
 bool usesSimulatedLibraries();

@@ -2,15 +2,15 @@
 
 #include <cstdint>
 
-/// The seam through which the simulated module hands out the pictures of the tablet's rear camera where there is no
-/// rear camera of the operating system. It is an optional extension of the shared library `KXAPI`: one exported
-/// function, `KXSimRearCamera`, that gives the rear camera or null when the tablet has none. A vendor's library does
-/// not export it. Same rules for the table as in `kxapi/KXAPI.h`.
+/// The interface through which the simulated module delivers the images of the tablet's rear camera when the operating
+/// system has no such camera. It is an optional extension of the shared library `KXAPI`: one exported function,
+/// `KXSimRearCamera`, returns the rear camera, or null when the tablet has none. A vendor's library does not export it.
+/// The rules for function tables are those of `kxapi/KXAPI.h`.
 
-/// Receives pictures. Called on the source's thread, which may be the one that grabs.
+/// Receives images. It is called on the thread of the source, which may be the thread that grabs.
 class RearCameraSink {
 public:
-    /// `nv12`: width x height luma bytes, then half as many of interleaved U and V. Valid during the call only.
+    /// `nv12`: width x height luma bytes, then half as many of interleaved U and V, valid during the call only.
     virtual void onPicture(const std::uint8_t* nv12, std::int32_t width, std::int32_t height, double timeSeconds) = 0;
 };
 
@@ -20,10 +20,10 @@ public:
     virtual bool openCamera() = 0;
     virtual bool setAutoFocus(bool on) = 0;
     virtual bool setFocus(std::int32_t value) = 0;
-    /// `stream`: 0 preview, 1 record, 2 photo. Only the record stream delivers pictures.
+    /// `stream`: 0 preview, 1 record, 2 photo. Only the record stream delivers images.
     virtual bool setupStream(std::int32_t stream, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond,
                              const char* subtype) = 0;
-    /// Pictures go to `sink` until the next call; null stops them. When it returns, the old sink is not in use.
+    /// Sets the receiver of images; null stops delivery. When the call returns, the previous sink is no longer in use.
     virtual void setSink(RearCameraSink* sink) = 0;
 };
 

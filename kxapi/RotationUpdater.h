@@ -5,11 +5,11 @@
 #include <memory>
 #include <string>
 
-/// The companion library `CalibRectParamUpdater`, which knows where a parameter block keeps the cameras' rotations.
-/// Found as `KXAPI` is.
+/// The companion library `CalibRectParamUpdater`, which contains the layout of the cameras' rotations in a parameter
+/// block. It is found in the same way as `KXAPI`.
 class KXRotationUpdater {
 public:
-    /// Null when the library or one of its functions is missing; `why` then says which.
+    /// Returns null when the library or one of its functions is missing, and states the reason in `why`.
     static std::shared_ptr<const KXRotationUpdater> load(std::string* why);
 
     ~KXRotationUpdater();
@@ -19,7 +19,7 @@ public:
     KXUpdateRotationFunction updateThirdCamera = nullptr;
     KXUpdateRotationFunction updatePlatformCamera = nullptr;
 
-    /// For tests: a library whose functions the caller fills in.
+    /// For tests: a library whose functions are set by the caller.
     KXRotationUpdater() = default;
 
 private:

@@ -1,6 +1,6 @@
 -- The results of scripts/evaluate: one row for each run, with the JSON that calibrate wrote.
 CREATE TABLE result (
-    name TEXT PRIMARY KEY,  -- of the run's files
+    name TEXT PRIMARY KEY,  -- name of the run's files without extension
     document TEXT NOT NULL CHECK (json_valid(document))
 );
 
@@ -40,7 +40,7 @@ FROM (SELECT *, count(errorDeg) OVER (PARTITION BY camera) AS known,
       FROM run)
 GROUP BY camera ORDER BY camera DESC;
 
--- By error where the truth is known, else by the largest deviation.
+-- Sorted by error if the truth is known, otherwise by the largest standard deviation.
 CREATE VIEW worst AS
 SELECT recording, camera, seed, round(errorDeg, 4) AS errorDeg,
        round(max(deviationXDeg, deviationYDeg, deviationZDeg), 4) AS deviationDeg, round(proofAfterPx, 2) AS proofAfterPx,

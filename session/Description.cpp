@@ -10,7 +10,7 @@ namespace {
 using nlohmann::json;
 
 constexpr double kLargestSize = 8192;
-/// Of one picture. A frame has up to five, and they are decoded by way of copies.
+/// Limit for one image. A frame has up to five images, and decoding makes copies of them.
 constexpr std::int64_t kMostPixels = 8 << 20;
 constexpr double kSmallestFocalLength = 1;
 constexpr double kLargestFocalLength = 1e5;
@@ -93,7 +93,7 @@ bool climbsOut(const std::string& name) {
     return false;
 }
 
-/// A name inside the session's folder, on any operating system.
+/// Reads a file name that is valid inside the session's folder on every operating system.
 std::string fileName(const JsonKey& key) {
     std::string name = key.text();
     if (name.empty()) {
@@ -150,7 +150,7 @@ SessionDescription sessionDescription(const JsonKey& root) {
     return out;
 }
 
-/// Parses and checks the bytes of a session.json; `file` is its name for `why`.
+/// Parses and checks the content of a session.json. `file` is its name for `why`.
 bool parseDescription(const std::string& text, const std::string& file, SessionDescription* out, std::string* why) {
     json document;
     JsonFault fault;
@@ -213,7 +213,7 @@ std::string writtenDescription(const SessionDescription& session) {
     if (session.platform) out["platform"] = writtenPlatformCamera(*session.platform);
     if (session.truthThird) out["truth"]["third"] = *session.truthThird;
     if (session.truthPlatform) out["truth"]["platform"] = *session.truthPlatform;
-    // Bytes that are no UTF-8 are replaced; the default is an exception.
+    // Invalid UTF-8 is replaced; by default the library would throw an exception.
     return out.dump(4, ' ', false, json::error_handler_t::replace) + '\n';
 }
 

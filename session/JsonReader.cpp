@@ -13,14 +13,14 @@ namespace {
 using nlohmann::json;
 
 constexpr double kRotationTolerance = 1e-4;
-/// A recording needs five levels; a hostile text may have millions.
+/// A recording needs five levels; a malicious text may have millions.
 constexpr std::size_t kDeepest = 1024;
-/// The largest recording has fewer. A value may take a hundred bytes of memory, and a hostile text has two bytes each.
+/// The largest recording has fewer. A value may take a hundred bytes of memory but only two bytes of a malicious text.
 constexpr std::size_t kMostValues = 1000000;
-constexpr std::size_t kLongestKey = 200;  ///< that a refusal names in full
-constexpr int kNumberOverflow = 406;      ///< as the library numbers its errors
+constexpr std::size_t kLongestKey = 200;  ///< longest key that a refusal quotes in full
+constexpr int kNumberOverflow = 406;      ///< error number of nlohmann/json
 
-/// The library's message about a syntax error, without its prefix and without the text that it read last, which may be
+/// Returns the library's message about a syntax error, without its prefix and without the last text read, which may be
 /// long.
 std::string syntaxReason(const json::exception& error) {
     if (error.id == kNumberOverflow) return "illegal number";
@@ -30,7 +30,7 @@ std::string syntaxReason(const json::exception& error) {
     return reason.substr(0, lastRead);
 }
 
-/// Builds the document from the parser's calls. It knows the key of the value that is being read.
+/// Builds the document from the parser's callbacks and keeps track of the key of the value being read.
 class DocumentBuilder final : public json::json_sax_t {
 public:
     DocumentBuilder(json* root, JsonFault* fault) : root_(root), fault_(fault) {}
@@ -58,10 +58,10 @@ public:
     }
 
 private:
-    /// An object or a list that is not closed yet.
+    /// An object or array that is not yet closed.
     struct Level {
         json* value;
-        std::string key;  ///< of the member that is being read
+        std::string key;  ///< key of the member being read
     };
 
     bool mayHoldMore() {
@@ -70,7 +70,7 @@ private:
 
     bool add(json value) { return mayHoldMore() && put(std::move(value)) != nullptr; }
 
-    /// Puts a value where the next one belongs; gives its place.
+    /// Adds a value at the present position and returns a pointer to it.
     json* put(json value) {
         if (open_.empty()) {
             *root_ = std::move(value);
@@ -98,7 +98,8 @@ private:
         return true;
     }
 
-    /// A list or object that is open is in its parent list already; any other element is added after it was read.
+    /// Returns the key path of the value being read. An open array or object is already an element of its parent array;
+    /// any other element is added after it has been read.
     std::string path() const {
         std::string out;
         for (const Level& level : open_) {
@@ -133,7 +134,7 @@ std::string shown(double value) {
 }  // namespace
 
 bool parseJson(const std::string& text, json* out, JsonFault* fault) {
-    // The library would take a zero byte for the end of the text.
+    // The library would treat a zero byte as the end of the text.
     const std::size_t zero = text.find('\0');
     if (zero != std::string::npos) {
         *fault = {{}, "not JSON: a zero character at byte " + std::to_string(zero + 1)};

@@ -9,30 +9,30 @@
 
 namespace fieldcal::session {
 
-/// The first thing that is wrong with a document, and where.
+/// The first fault found in a document: the path of the key and the reason.
 struct JsonFault {
     std::string key;
     std::string reason;
     bool found() const { return !reason.empty(); }
 };
 
-/// Parses a JSON text. It returns false and the fault when the text is no JSON, when a key stands twice in its object,
-/// where it would be ambiguous, when the nesting is too deep, or when there are more than a million values. The fault's
-/// key is a path as in `JsonKey`.
+/// Parses a JSON text. Returns false and the fault when the text is not JSON, when a key occurs twice in an object
+/// (which would be ambiguous), when the nesting is too deep, or when there are more than a million values. The key in
+/// the fault is a path as in `JsonKey`.
 bool parseJson(const std::string& text, nlohmann::json* out, JsonFault* fault);
 
-/// One value of a JSON document with its key path ("frames[3].infrared"). Every accessor checks type and range. The
-/// first failure is kept in the fault, and the accessor then returns a valid default, so that a reader is a plain list
-/// of assignments which looks at the fault once at its end. The document has to outlive its keys.
+/// One value of a JSON document with its key path ("frames[3].infrared"). Every accessor checks type and range. On
+/// failure it returns a valid default and, if no fault was recorded before, records this one. A reader is therefore a
+/// plain list of assignments that checks the fault once at its end. The document has to outlive its keys.
 class JsonKey {
 public:
     JsonKey(const nlohmann::json& document, JsonFault* fault) : value_(&document), fault_(fault) {}
 
-    /// A required key of an object.
+    /// Returns the value of a required key of an object. A missing key is a fault when the value is accessed.
     JsonKey operator[](const char* name) const;
-    /// Whether an object has the key; a fault when this is no object.
+    /// Returns whether an object has the key. A value that is not an object is a fault.
     bool has(const char* name) const;
-    /// The elements of an array; none, and a fault, when there are more than `most`.
+    /// Returns the elements of an array; more than `most` elements are a fault, and none are returned.
     std::vector<JsonKey> elements(std::size_t most) const;
 
     double number(double lowest, double highest) const;
@@ -55,17 +55,17 @@ public:
         return out;
     }
 
-    /// Records a fault of this value, unless one is known already.
+    /// Records a fault of this value, unless a fault was recorded before.
     void refuse(const std::string& reason) const;
-    /// Whether the document has a fault; nothing more needs to be read then.
+    /// Returns whether a fault has been recorded; nothing more needs to be read then.
     bool anyFault() const { return fault_->found(); }
 
 private:
     JsonKey(const nlohmann::json* value, JsonFault* fault, std::string path)
         : value_(value), fault_(fault), path_(std::move(path)) {}
-    /// Whether the value is there and of the expected type; a fault otherwise.
+    /// Returns whether the value exists and has the expected type; records a fault otherwise.
     bool expect(bool (nlohmann::json::*isOfType)() const noexcept, const char* expected) const;
-    /// Of an array; 0, and a fault, when this is none.
+    /// Returns the number of elements of an array. A value that is not an array is a fault, and 0 is returned.
     std::size_t size() const;
 
     const nlohmann::json* value_;  ///< null when the key is missing

@@ -30,7 +30,8 @@ std::uint8_t luma(const std::uint8_t* bgra) {
     return static_cast<std::uint8_t>((r * bgra[2] + g * bgra[1] + b * bgra[0] + offset) >> kShift);
 }
 
-/// `sums`: blue, green and red of four pixels. The weights of each row add up to zero, so grey gives exactly 128.
+/// `sums`: the sums of blue, green and red over four pixels. The weights of each row add up to zero, so grey gives
+/// exactly 128.
 void chroma(const int sums[3], std::uint8_t* uv) {
     constexpr int uRed = fixed(-kChroma * kRed / (1 - kBlue));
     constexpr int uBlue = fixed(kChroma);

@@ -15,7 +15,7 @@ bool isRaw(const std::string& name) {
     return QString::fromStdString(name).endsWith(QLatin1String(".nv12"));
 }
 
-/// The files of one frame, each with what it must be.
+/// The files of one frame, each with the format that it must have.
 struct FrameFiles {
     PngExpectation infrared;
     PngExpectation third;

@@ -13,13 +13,13 @@
 namespace fieldcal::session {
 namespace {
 
-constexpr qint64 kLargestFile = 48 << 20;      ///< the largest picture, not compressed at all
+constexpr qint64 kLargestFile = 48 << 20;      ///< the largest image without compression
 constexpr int kGrey = 0, kRgb = 2, kRgba = 6;  ///< colour types
 constexpr std::uint8_t kSignature[8] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1a, '\n'};
 constexpr std::size_t kFrame = 12;  ///< length, type and checksum around a chunk's data
 constexpr std::size_t kHeaderData = 13;
 
-/// What the header of a PNG file says.
+/// The fields of a PNG header that are used.
 struct Header {
     std::uint32_t width = 0;
     std::uint32_t height = 0;
@@ -78,8 +78,8 @@ bool takeHeader(const Chunk& chunk, Header* out, std::string* reason) {
     return true;
 }
 
-/// Walks the chunks from the signature to IEND and checks their lengths and checksums, so that a file that was cut or
-/// damaged is recognised before it is decoded. Returns false and the reason when one is wrong.
+/// Walks through the chunks from the signature to IEND and checks their lengths and checksums, so that a truncated or
+/// damaged file is recognised before it is decoded. Returns false and the reason when a chunk is wrong.
 bool readStructure(const std::uint8_t* bytes, std::size_t size, Header* out, std::string* reason) {
     if (size < sizeof(kSignature) || std::memcmp(bytes, kSignature, sizeof(kSignature)) != 0) {
         *reason = "not a PNG picture";
@@ -170,7 +170,8 @@ bool write(const std::string& file, const ImageFrame& picture, QImage::Format fo
     const std::size_t rowBytes = std::size_t{picture.width()} * picture.bytesPerPixel();
     for (int y = 0; y < image.height(); ++y)
         std::memcpy(image.scanLine(y), picture.bytes() + y * rowBytes, rowBytes);
-    // Not into the file itself, whose last bytes nobody would miss on a full disk.
+    // Encoded in memory, not directly into the file: an error while the last bytes are written to a full disk would not
+    // be noticed.
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -189,7 +190,8 @@ bool checkPng(const PngExpectation& expected, std::string* why) {
 bool readGreyPng(const PngExpectation& expected, ImageFrame16* out, std::string* why) {
     QImage image;
     if (!decode(expected, &image, why)) return false;
-    // The decoder chooses another format for a file with, for instance, a transparent key colour, which is refused.
+    // The decoder produces another format for a file with, for instance, a transparent key colour. Such a file is
+    // refused.
     if (image.format() != QImage::Format_Grayscale16) return refused(why, expected, "not a plain 16-bit grey picture");
     copyRows(image, out);
     return true;

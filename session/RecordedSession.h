@@ -9,11 +9,12 @@
 #include <string>
 #include <vector>
 
-/// Recorded sessions. Folder names are UTF-8. Reading fails with false and `why`, one line "file: key: reason"
-/// (without the key where a file as a whole is meant). Outputs are valid after success only. Any thread.
+/// Recorded sessions. Folder names are UTF-8. A function that fails returns false and sets `why` to one line of the
+/// form "file: key: reason" (without the key where the file as a whole is meant). Outputs are valid after success only.
+/// Any thread.
 namespace fieldcal::session {
 
-/// Intrinsics as the session file holds them: 64 bit, pixels. See docs/conventions.md for the principal point.
+/// Intrinsics as stored in the session file: 64 bit, in pixels. See docs/conventions.md for the principal point.
 struct Intrinsics {
     int width = 0;
     int height = 0;
@@ -39,7 +40,7 @@ struct ThirdCamera : Intrinsics {
     Vector3 translation{};  ///< millimetres
 };
 
-/// The rear camera's pictures, raw and rectified, are always 1280 x 720.
+/// The rear camera's images, raw and rectified, are always 1280 x 720.
 inline constexpr int kPlatformWidth = 1280;
 inline constexpr int kPlatformHeight = 720;
 
@@ -58,12 +59,12 @@ struct FrameEntry {
     std::string third;
     std::string depth;
     std::string platform;
-    int repeat = 1;                           ///< grabs that deliver this frame, 1 to 1,000,000
-    std::string right = {};                   ///< the second infrared imager's picture, of the size of `infrared`
-    std::optional<std::int64_t> timeNs = {};  ///< when the infrared image was taken, from any epoch, nanoseconds
+    int repeat = 1;                           ///< number of grabs that deliver this frame, 1 to 1,000,000
+    std::string right = {};                   ///< image of the second infrared imager, of the size of `infrared`
+    std::optional<std::int64_t> timeNs = {};  ///< time of the infrared image in nanoseconds from an arbitrary epoch
 };
 
-/// The most frames of one recording.
+/// The largest number of frames in one recording.
 inline constexpr std::size_t kMostFrames = 100000;
 
 /// The contents of session.json, version 1.
@@ -74,47 +75,49 @@ struct SessionDescription {
     ThirdCamera third;
     std::optional<PlatformCamera> platform;
     std::vector<FrameEntry> frames;
-    std::optional<Matrix3> truthThird;     ///< for judging only
-    std::optional<Matrix3> truthPlatform;  ///< for judging only
+    std::optional<Matrix3> truthThird;     ///< true rotation, used for evaluation only
+    std::optional<Matrix3> truthPlatform;  ///< true rotation, used for evaluation only
 
-    /// Grabs from the first frame to the last: the sum of the repeats, at most 1,000,000,000 after reading.
+    /// Returns the number of grabs from the first frame to the last: the sum of the repeats, at most 1,000,000,000
+    /// after reading.
     int grabCount() const;
 };
 
-/// The pictures of one frame, decoded.
+/// The decoded images of one frame.
 struct FramePictures {
     ImageFrame16 infrared;
     ImageFrame16 depth;                  ///< empty when the frame has none
-    ImageFrame32 third;                  ///< raw module picture, *BGRA* in storage order, alpha 255
+    ImageFrame32 third;                  ///< image as the module delivers it, *BGRA* in storage order, alpha 255
     std::vector<std::uint8_t> platform;  ///< NV12, 1280 x 720, unrectified; empty when the frame has none
-    ImageFrame16 right;                  ///< the second infrared imager's; empty when the frame has none
+    ImageFrame16 right;                  ///< image of the second infrared imager; empty when the frame has none
 };
 
-/// Reads and checks session.json, not the pictures.
+/// Reads and checks session.json, but not the images.
 bool readDescription(const std::string& folder, SessionDescription* out, std::string* why);
 
-/// Reads and checks the pictures of one frame.
+/// Reads and checks the images of one frame.
 bool readPictures(const std::string& folder, const SessionDescription& session, std::size_t frameIndex,
                   FramePictures* out, std::string* why);
 
-/// Checks that every picture file is there, whole and of the right size and kind, without decoding it: what a player
-/// can afford before it starts. Values (infrared above 1023, transparent pixels) are checked by `readPictures` alone.
+/// Checks without decoding that every image file exists, is complete and has the right size and kind. This is fast
+/// enough to be done before playback starts. Pixel values (infrared above 1023, transparent pixels) are checked only by
+/// `readPictures`.
 bool checkPictureFiles(const std::string& folder, const SessionDescription& session, std::string* why);
 
-/// Reads and checks everything: the description and every picture.
+/// Reads and checks everything: the description and every image.
 bool verify(const std::string& folder, std::string* why);
 
-/// Writes one frame's pictures under the names of `entry`, which must fit the pictures (PNG, or raw bytes for a
-/// platform name ending in .nv12; the PNG of a platform picture is its RGB, so only .nv12 keeps it bit-exact).
-/// The folder is created.
+/// Writes one frame's images under the names in `entry`, which must fit the images. The format is PNG, or raw bytes for
+/// a platform name ending in .nv12; the PNG of a platform image stores RGB, so only .nv12 keeps it bit-exact. The
+/// folder is created. `syncPictures` has to follow.
 bool writePictures(const std::string& folder, const FrameEntry& entry, const FramePictures& pictures, std::string* why);
 
-/// Brings every picture that the description names to the disk, which `writePictures` leaves to the system. It comes
-/// before `writeDescription`, so that a description never stands on the disk without its pictures.
+/// Syncs every image named in the description to the disk, which `writePictures` does not do. Call it before
+/// `writeDescription`, so that a description is never on the disk without its images.
 bool syncPictures(const std::string& folder, const SessionDescription& session, std::string* why);
 
-/// Writes session.json; the folder is created. Numbers keep their full precision. What reading would refuse is not
-/// written, with the same reason.
+/// Writes session.json and creates the folder. Numbers keep their full precision. A description that `readDescription`
+/// would refuse is not written; the reason is the same.
 bool writeDescription(const std::string& folder, const SessionDescription& session, std::string* why);
 
 }  // namespace fieldcal::session

@@ -12,10 +12,10 @@ namespace {
 
 using Block = KXCalibRectParameters;
 
-/// Composing a rotation anew moves its entries by roundings of 32 bits.
+/// Composing a rotation again changes its entries by 32-bit rounding.
 constexpr double kRounding = 1e-5;
 
-/// The numbers in the bytes of a rotation: nine of 64 or 32 bits. Empty for anything else.
+/// Returns the numbers stored in the bytes of a rotation: nine of 64 or 32 bits. Empty for any other size.
 std::vector<double> numbersIn(const Block& block, const BlockBytes& fields) {
     std::vector<std::uint8_t> bytes;
     for (std::size_t i = 0; i < fields.size(); ++i) {
@@ -35,12 +35,12 @@ std::vector<double> numbersIn(const Block& block, const BlockBytes& fields) {
 }
 
 struct Entered {
-    double change = 0;   ///< the largest one of the rotation's numbers
-    BlockBytes outside;  ///< bytes that changed and are no part of the rotation
+    double change = 0;   ///< the largest change of an entry of the rotation
+    BlockBytes outside;  ///< changed bytes that do not belong to the rotation
     bool isReadable = false;
 };
 
-/// What a rotation does to a block that should hold it already.
+/// Enters a rotation into a block that should hold it already, and returns the changes.
 std::optional<Entered> enter(ModuleLink& link, KXUpdateRotationFunction function, const Block& block,
                              const Matrix3& raw) {
     const auto fields = rotationFields(link, function, block);
@@ -55,7 +55,8 @@ std::optional<Entered> enter(ModuleLink& link, KXUpdateRotationFunction function
     return entered;
 }
 
-/// The companion library's answers for one camera.
+/// A colour camera with its function in the companion library, the rotation that the module reports (depth to colour),
+/// and the camera's rectification matrix in the block.
 struct CompanionCamera {
     const char* name;
     KXUpdateRotationFunction function;
@@ -154,7 +155,8 @@ CheckLine companionLine(const BlockFindings& findings, Direction shown) {
         line.text = "the block or a rotation could not be read";
         return line;
     }
-    // A rotation that is told the other way round than the scene shows is blamed on what tells it.
+    // If the scene shows that rotations are reported transposed, the module that reports them is at fault, not the
+    // companion library.
     const Direction expected = shown == Direction::Transposed ? Direction::Transposed : Direction::AsTold;
     line.verdict = verdictOf(findings.companionAnswers && findings.companion == expected);
     return line;

@@ -15,7 +15,7 @@
 namespace fieldcal {
 namespace {
 
-/// The report of a solution; true when there is none.
+/// Writes the report of a solution. Returns true when no report was asked for or there is no solution.
 bool writeReportFile(const std::string& path, const RecordingCalibration& calibration, QString* why) {
     if (path.empty() || !calibration.report().solved) return true;
     return writeReport(QString::fromStdString(path), calibration.serviceReport(), why);
@@ -40,7 +40,8 @@ int run(const CalibrateOptions& options) {
     if (options.write) instance.emplace();
     if (instance && !instance->isFirst()) return result.fail(kAnotherProgram);
 
-    // Only the simulated library plays recordings; the pictures of a real camera would be taken for the recording's.
+    // Only the simulated library plays recordings; the images of a real camera would be mistaken for those of the
+    // recording.
     if (!useSimulatedLibraries()) return result.fail("The folder with the simulated libraries is missing.");
     std::srand(seed);
     const bool toPeople = !result.toStandardOutput();
@@ -50,7 +51,7 @@ int run(const CalibrateOptions& options) {
     QString why;
     const CalibrationReport& report = calibration.report();
     const bool done = calibration.run(&why);
-    // Also of a rotation that could not be written into the module.
+    // A line is also added for a rotation that could not be written into the module.
     const bool remembered = !report.written || appendHistory(userDataFolder(), calibration.serviceReport());
     QString reportWhy;
     const bool reported = writeReportFile(options.reportFile, calibration, &reportWhy);

@@ -25,7 +25,7 @@ QJsonObject jsonPair(const PairReport& pair) {
             {"seconds", pair.seconds}};
 }
 
-/// The time of all stages from the pictures to the descriptor matches.
+/// Returns the time of all stages from the images to the descriptor matches.
 double matchingSeconds(const CalibrationReport& report) {
     using Statistics = vq::PairStatistics;
     return report.stageSeconds(&Statistics::conversionSeconds) + report.stageSeconds(&Statistics::detectionSeconds) +

@@ -19,8 +19,8 @@ namespace fieldcal {
 
 struct PairReport {
     vq::PairStatistics statistics;
-    std::int32_t code = 0;  ///< the engine's answer
-    double seconds = 0;     ///< from the pictures to the answer
+    std::int32_t code = 0;  ///< answer of the engine
+    double seconds = 0;     ///< from the images to the answer
 };
 
 /// The result of playing a recording.
@@ -32,13 +32,13 @@ struct CalibrationReport {
     Matrix3 rotation{};                 ///< depth to colour; the factory rotation when not solved
     Matrix3 factoryRotation{};
     std::optional<double> errorDeg;              ///< set when solved and the recording holds the truth
-    std::optional<vq::SolutionQuality> quality;  ///< of the last fit
-    /// The registration error in pixels of a surface, by its distance in metres. It is known together with `errorDeg`,
-    /// and only when the recording has depth.
+    std::optional<vq::SolutionQuality> quality;  ///< of the final fit
+    /// The registration error in pixels for a surface at each distance in metres. It is set together with `errorDeg`,
+    /// but only when the recording has depth.
     std::map<int, double> registrationPx;
-    vq::ParallaxReport parallax;    ///< of the attempt that took the last pair
+    vq::ParallaxReport parallax;    ///< of the attempt that processed the last pair
     std::vector<PairReport> pairs;  ///< of all attempts
-    QString lastSave;               ///< what became of an earlier save that did not come to its end, if there was one
+    QString lastSave;               ///< outcome of an earlier save that was interrupted; empty when there was none
     std::optional<bool> written;    ///< whether the flash holds the rotation; unset when writing was not asked for
     double totalSeconds = 0;
     double frameSeconds = 0;  ///< grabbing, brightness and frame selection of all frames

@@ -34,7 +34,7 @@ vq::MeasuredMatch measured(const vq::EvidenceMatch& match) {
     return out;
 }
 
-/// The model between two.
+/// Returns the linear interpolation between two models.
 vq::Projection between(const vq::Projection& a, const vq::Projection& b, double share) {
     vq::Projection out = a;
     const auto mixed = [share](float x, float y) { return static_cast<float>(x + share * (y - x)); };
@@ -46,7 +46,7 @@ vq::Projection between(const vq::Projection& a, const vq::Projection& b, double 
     return out;
 }
 
-/// Unknowns: a small turn of the colour camera, and the share.
+/// Unknowns: a small rotation of the colour camera (3), and the share.
 using Vector4 = Eigen::Vector4d;
 using Matrix4 = Eigen::Matrix4d;
 
@@ -61,7 +61,7 @@ struct Normal {
     Vector4 solution() const { return matrix.ldlt().solve(gradient); }
 };
 
-/// The still, and the quarter of the infrared image.
+/// Index of the still, and quarter of the infrared image.
 using BlockKey = std::pair<int, int>;
 using Blocks = std::map<BlockKey, Normal>;
 
@@ -77,7 +77,7 @@ Eigen::Matrix3d turnedBy(const Eigen::Matrix3d& rotation, const Eigen::Vector3d&
     return Eigen::AngleAxisd(angle, turnRad / angle).toRotationMatrix() * rotation;
 }
 
-/// The fit about one rotation and share.
+/// A least-squares fit of rotation and share, linearized at their present values.
 class SharedFit {
 public:
     SharedFit(const std::vector<vq::EvidenceMatch>& matches, const StillSolution& told, const vq::Projection& other)
@@ -100,7 +100,8 @@ public:
     }
     double share() const { return share_; }
 
-    /// One deviation of the share, by leaving out parts (jackknife). `wholeStills`: a part is a still, else a quarter.
+    /// Returns the standard deviation of the share, estimated by leaving out parts (jackknife). `wholeStills`: a part
+    /// is a whole still, otherwise a quarter.
     double deviation(bool wholeStills) const {
         Normal all;
         Blocks parts;
@@ -124,7 +125,7 @@ public:
     }
 
 private:
-    /// Whether the matches depend on the share at all: a translation shows in near things only.
+    /// Returns whether the matches determine the share at all: a translation has an effect on near objects only.
     static bool tellsShare(const Normal& all) {
         const Eigen::Matrix3d turns = all.matrix.topLeftCorner<3, 3>();
         const Eigen::Vector3d mixed = all.matrix.topRightCorner<3, 1>();

@@ -18,7 +18,7 @@ constexpr int kLargestSize = 8192;
 constexpr double kUnitTolerance = 1e-3;
 constexpr double kMillimetresPerMetre = 1000;
 
-/// What is wrong with a file, and at which key.
+/// A fault in a file and the key at which it was found.
 struct YamlFault {
     std::string key;
     std::string reason;
@@ -53,7 +53,7 @@ int pixels(const YAML::Node& document, const char* key) {
     return static_cast<int>(value);
 }
 
-/// Pixels from a matrix with three or four columns.
+/// Reads intrinsics in pixels from a matrix with three or four columns.
 void readPinhole(const std::vector<double>& matrix, const char* key, session::Intrinsics* out) {
     const std::size_t secondRow = matrix.size() / 3;
     out->fx = matrix[0];

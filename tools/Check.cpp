@@ -14,7 +14,7 @@
 namespace fieldcal {
 namespace {
 
-/// The log of a check, which is kept beside the report.
+/// The log of a check; it is stored beside the report.
 struct KeptLog {
     std::mutex mutex;
     QStringList lines;
@@ -31,7 +31,7 @@ void keepLogLine(QtMsgType, const QMessageLogContext&, const QString& line) {
     log.lines << line;
 }
 
-/// Makes the folder. It must hold nothing yet.
+/// Creates the folder. An existing folder must be empty.
 bool makeFolder(const QString& folder, QString* why) {
     const QDir dir(folder);
     if (dir.exists() && !dir.isEmpty()) {

@@ -9,22 +9,22 @@ namespace fieldcal {
 
 enum class Verdict { Fits, DoesNotFit, CannotTell };
 
-/// One line of the table that a check of a module ends with.
+/// One line of the final table of a module check.
 struct CheckLine {
-    QString id;    ///< for programs
-    QString name;  ///< for people
+    QString id;    ///< identifier for programs
+    QString name;  ///< title in the table
     Verdict verdict = Verdict::CannotTell;
-    QString text;  ///< what was measured, or why it cannot be told
+    QString text;  ///< what was measured, or why it cannot be determined
 };
 
 using CheckLines = std::vector<CheckLine>;
 
-/// Fits or does not fit.
+/// Returns `Fits` or `DoesNotFit`.
 inline Verdict verdictOf(bool fits) {
     return fits ? Verdict::Fits : Verdict::DoesNotFit;
 }
 
-/// Whether a line of this id says that something does not fit.
+/// Returns whether the line with this id has the verdict `DoesNotFit`.
 inline bool contradicts(const CheckLines& lines, const QString& id) {
     for (const CheckLine& line : lines) {
         if (line.id == id) return line.verdict == Verdict::DoesNotFit;
@@ -32,8 +32,8 @@ inline bool contradicts(const CheckLines& lines, const QString& id) {
     return false;
 }
 
-/// What rests on something that does not fit is not blamed itself: where one of the lines with these ids says so, a
-/// line that does not fit cannot be told.
+/// Changes the verdict `DoesNotFit` to `CannotTell` when one of the lines on which this result depends (`ids`, among
+/// `foundations`) does not fit: the cause may then lie there.
 inline CheckLine unblamed(CheckLine line, const CheckLines& foundations, const QStringList& ids) {
     for (const CheckLine& foundation : foundations) {
         const bool isBroken = foundation.verdict == Verdict::DoesNotFit && ids.contains(foundation.id);

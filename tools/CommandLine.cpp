@@ -14,7 +14,7 @@ constexpr unsigned kMostStills = 999;
 constexpr unsigned kMostCheckedStills = 32;
 constexpr unsigned kMostFrames = 1000000;
 
-/// A validator returns what is wrong with the value, as a text that follows the name of the option.
+/// A validator returns an error text that follows the name of the option, or an empty text for a valid value.
 CLI::Validator wholeNumber(unsigned smallest, unsigned largest) {
     const auto validate = [smallest, largest](std::string& text) {
         bool isNumber = false;
@@ -23,7 +23,7 @@ CLI::Validator wholeNumber(unsigned smallest, unsigned largest) {
             return "takes a whole number from " + std::to_string(smallest) + " to " + std::to_string(largest) +
                    ", not '" + text + "'";
         }
-        text = std::to_string(number);  // The library would take leading zeros for octal.
+        text = std::to_string(number);  // The library would read a number with leading zeros as octal.
         return std::string();
     };
     return {validate, ""};
@@ -57,7 +57,7 @@ public:
     Parser() {
         app_.get_formatter()->label("Usage", "usage");
         app_.get_formatter()->label("SUBCOMMAND", "VERB");
-        app_.allow_windows_style_options(false);  // "/tmp/walk" is a folder, no option.
+        app_.allow_windows_style_options(false);  // "/tmp/walk" is a folder, not an option.
         app_.set_version_flag("--version", std::string(kProgram) + " " FIELDCAL_VERSION, "Print the version and exit");
         app_.require_subcommand(1);
         app_.footer(
@@ -75,9 +75,9 @@ public:
         addCheck();
     }
 
-    /// Returns false, and the exit status, when there is no command to run.
+    /// Returns false and sets the exit status when there is no command to run.
     bool parse(const QStringList& arguments, Command* out, int* status) {
-        std::vector<std::string> reversed;  // The library takes the last argument first.
+        std::vector<std::string> reversed;  // The library expects the arguments in reverse order.
         for (const QString& argument : arguments)
             reversed.insert(reversed.begin(), argument.toStdString());
         try {
@@ -109,7 +109,7 @@ private:
         return verb;
     }
 
-    /// An option that is given more than once has the last value.
+    /// When an option is given more than once, the last value is used.
     static CLI::Option* lastCounts(CLI::Option* option) {
         return option->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
     }
@@ -246,7 +246,7 @@ private:
                                   "Also write the block into the flash, as it is"));
     }
 
-    /// The help of the verb that was named, or of the program.
+    /// Returns the help of the verb that was given, or of the program.
     std::string help() const { return app_.help(); }
 
     std::string reasonOf(const CLI::ParseError& error) const {
@@ -291,7 +291,7 @@ std::optional<Command> parseCommandLine(const QStringList& arguments, int* statu
     try {
         Command command;
         if (Parser().parse(arguments, &command, status)) return command;
-    } catch (const CLI::Error& error) {  // An option was declared wrongly.
+    } catch (const CLI::Error& error) {  // An option is declared incorrectly in this program.
         std::fprintf(stderr, "%s: %s\n", kProgram, error.what());
         *status = kUsage;
     }

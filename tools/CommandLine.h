@@ -24,11 +24,11 @@ struct CalibrateOptions {
     std::string folder;
     ColourCamera camera = ColourCamera::Third;
     std::optional<unsigned> seed;
-    std::string jsonFile;  ///< empty: none; "-": standard output, instead of the text for people
+    std::string jsonFile;  ///< empty: none; "-": standard output, instead of the readable text
     bool verbose = false;
-    bool write = false;      ///< into the module's flash, when solved
-    std::string stateFile;   ///< where the engine's state goes; empty: nowhere
-    std::string reportFile;  ///< where the report of a solution goes; empty: nowhere
+    bool write = false;      ///< write the rotation into the module's flash when solved
+    std::string stateFile;   ///< file for the engine's state; empty: none
+    std::string reportFile;  ///< file for the report of a solution; empty: none
 };
 
 struct SynthesizeOptions {
@@ -37,30 +37,30 @@ struct SynthesizeOptions {
     unsigned seed = 1;
     int stills = 8;
     bool platform = false;
-    bool baselines = true;  ///< whether there are baselines between the cameras
+    bool baselines = true;  ///< whether the cameras have different positions
 };
 
 struct RecordOptions {
     std::string folder;
-    int frames = 0;  ///< frame sets to grab, 1 to 1,000,000
+    int frames = 0;  ///< number of frame sets to grab, 1 to 1,000,000
 };
 
-/// Folders of images below `folder`, each beside a CameraInfo file of the same name.
+/// Folders of images below `folder`; each has a CameraInfo file of the same name beside it.
 struct ImportOptions {
     std::string folder;
     std::string recording;
     std::string infrared = "infrared", third = "third", right = "right", depth = "depth", platform = "platform";
-    double withinMs = 5;  ///< between images of one frame set
-    int repeat = 1;       ///< grabs that deliver each frame set
+    double withinMs = 5;  ///< largest difference in time within a frame set
+    int repeat = 1;       ///< number of grabs that deliver each frame set
     std::uint32_t serial = 0;
 };
 
 struct InfoOptions {
-    std::string folder;  ///< empty: the module that is connected
+    std::string folder;  ///< empty: the connected module
 };
 
 struct BackupOptions {
-    std::string file;  ///< empty: a dated one in the user's data folder
+    std::string file;  ///< empty: a dated file in the user's data folder
 };
 
 struct RestoreOptions {
@@ -68,30 +68,30 @@ struct RestoreOptions {
 };
 
 struct ExportOptions {
-    std::string source;  ///< the folder of a recording, the file of a result, or "module" for the one that is connected
+    std::string source;  ///< folder of a recording, file of a result, or "module" for the connected module
     ExportFormat format = ExportFormat::Ros;
-    std::optional<ColourCamera> camera;  ///< unset: the camera of the result, and otherwise the third
+    std::optional<ColourCamera> camera;  ///< unset: the camera of a result, otherwise the third camera
     std::string outFile = "-";
 };
 
 struct CheckOptions {
     std::string jsonFile;             ///< empty: none; "-": standard output, instead of the table
-    std::string folder;               ///< where recording, block, log and report go; empty: nowhere
-    int stills = 8;                   ///< of each colour camera
-    bool writeBackUnchanged = false;  ///< write the block as it is
+    std::string folder;               ///< folder for recording, block, log and report; empty: none
+    int stills = 8;                   ///< number of stills of each colour camera
+    bool writeBackUnchanged = false;  ///< write the unchanged block into the flash
 };
 
 using Command = std::variant<CalibrateOptions, SynthesizeOptions, RecordOptions, InfoOptions, BackupOptions,
                              RestoreOptions, ExportOptions, ImportOptions, CheckOptions>;
 
-/// Parses the arguments. There is no command when the program has to end with `status`, because help or the version was
-/// printed or because the usage was wrong and the reason was printed.
+/// Parses the arguments. Returns none when the program has to end with `status`: help or the version was printed, or
+/// the usage was wrong and the reason was printed.
 std::optional<Command> parseCommandLine(const QStringList& arguments, int* status);
 
 /// Prints the reason and the help on standard error, and returns the exit status for wrong usage.
 int refuseUsage(const QString& why);
 
-/// Runs the verb that the command is for. It returns the exit status, as each of the verbs does.
+/// Runs the verb of the command. All of these functions return the exit status.
 int runCommand(const Command& command);
 int run(const CalibrateOptions& options);
 int run(const SynthesizeOptions& options);

@@ -15,44 +15,45 @@
 
 namespace fieldcal {
 
-/// The camera module that is connected, opened with the application's settings. An operation that fails returns false
-/// and one line in `why`. All calls come from one thread.
+/// The connected camera module, opened with the application's settings. An operation that fails returns false and sets
+/// `why` to one line. All calls must come from one thread.
 class ConnectedModule {
 public:
     ConnectedModule() = default;
-    /// A module that is found in another way than usual.
+    /// Uses `environment` instead of the system's to find the module.
     explicit ConnectedModule(SensorEnvironment environment) : environment_(std::move(environment)) {}
 
-    /// With `rearCamera`, the tablet's rear camera is opened, too, where there is one.
+    /// Opens the module and, with `rearCamera`, also the tablet's rear camera if it has one.
     bool open(bool rearCamera, QString* why);
 
-    /// Returns what is known of the module itself, whether its calibration is valid or not.
+    /// Returns the module's serial number and versions, whether its calibration is valid or not.
     session::ModuleInfo info();
 
-    /// Reads the calibration, so that grabs bring every picture, and describes it as a recording does, with the numbers
-    /// of the camera library and without frames. `platform` is set when the module has a usable calibration of it.
+    /// Reads the calibration, after which grabs deliver every image, and describes it as in a recording: with the
+    /// numbers of the camera library and without frames. `platform` is set when the module has a usable calibration of
+    /// the rear camera.
     bool describe(session::SessionDescription* out, QString* why);
-    /// The calibration that was read then, as the engine uses it.
+    /// Returns the calibration read by `describe`, in the form that the engine uses.
     const CameraParameters& parameters() const { return parameters_; }
 
-    /// Grabs the next frame set, as the library delivers it. `platform` is empty when the rear camera had no new
-    /// picture.
+    /// Grabs the next frame set as the library delivers it, with the alpha of colour set to 255. A missing left
+    /// infrared or third colour image is a failure. `platform` is empty when the rear camera had no new image.
     bool grab(session::FramePictures* out, QString* why);
-    /// The same, also where some of the streams have no picture.
+    /// The same, but missing images are no failure.
     bool grabWhatIsThere(session::FramePictures* out, QString* why);
 
-    /// The opened sensor, for whoever asks it more than this class does.
+    /// Returns the opened sensor, for operations that this class does not cover.
     Sensor& sensor() { return *sensor_; }
 
-    /// Returns whether grabs bring the rear camera's pictures.
+    /// Returns whether grabs deliver images of the rear camera.
     bool hasRearCamera() const { return sensor_->settings().usePlatformCamera; }
 
-    /// Reads the module's present parameter block.
+    /// Reads the module's current parameter block.
     bool readBlock(ParameterBackup* out, QString* why);
     /// Writes a block that was read from this module back into its flash.
     bool restoreBlock(const ParameterBackup& backup, QString* why);
 
-    /// Closes the module. It fails, too, when an error was reported before.
+    /// Closes the module. Also fails when an error was reported before.
     bool close(QString* why);
 
 private:
@@ -61,7 +62,7 @@ private:
     bool describePlatform(session::PlatformCamera* out);
     bool failed(QString* why, const char* otherwise) const;
 
-    std::unique_ptr<SingleInstance> instance_;  ///< where the vendor's service is disabled meanwhile, and noted
+    std::unique_ptr<SingleInstance> instance_;  ///< held where the vendor's service is disabled
     std::optional<SensorEnvironment> environment_;
     CameraParameters parameters_;
     SensorReports reports_;

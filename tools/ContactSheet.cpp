@@ -1,4 +1,4 @@
-// All worlds on one sheet: infrared, colour, depth, and depth over colour with the factory's and with the true
+// Draws all worlds on one sheet: infrared, colour, depth, and depth over colour with the factory's and with the true
 // rotation.
 //
 //   fieldcal-contact-sheet OUT.png [SEED [VIEW]]
@@ -50,7 +50,8 @@ QImage depthImage(const ImageFrame16& frame) {
     return image;
 }
 
-/// Every depth pixel where the given rotation puts it in the colour picture, half transparent; far ones first.
+/// Draws every depth pixel, half transparent, at its place in the colour image under the given rotation, far pixels
+/// first.
 QImage overlay(const session::FramePictures& pictures, const session::SessionDescription& rig,
                const session::Matrix3& rotation) {
     QImage image = colourImage(pictures.third);

@@ -9,7 +9,7 @@
 namespace fieldcal {
 namespace {
 
-/// What was found at the source, or the exit status when that failed and was told.
+/// The calibration found at the source, or the exit status after a failure that has been printed.
 struct Found {
     std::optional<CameraPair> pair;
     int status = kSolved;
@@ -44,7 +44,7 @@ Found fromResult(const ExportOptions& options) {
     return {pair, kSolved};
 }
 
-/// The rear camera is not opened, as the module holds its calibration.
+/// The rear camera is not opened, because its calibration is stored in the module.
 Found fromConnectedModule(const ExportOptions& options) {
     silenceLogs();
     ConnectedModule module;

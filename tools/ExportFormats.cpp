@@ -13,7 +13,7 @@ constexpr int kDecimals = 12;
 constexpr double kRadiansPerDegree = 0.017453292519943295;
 constexpr const char* kInfraredFrame = "infrared_optical";
 
-/// Fixed notation with a point, as some readers of YAML take 1e-05 for a text and 0 for a whole number.
+/// Fixed notation with a decimal point, because some YAML readers take 1e-05 for a string and 0 for an integer.
 QString number(double value) {
     QString text = QString::number(value, 'f', kDecimals);
     while (text.endsWith('0') && !text.endsWith(".0"))
@@ -33,7 +33,7 @@ QString list(std::initializer_list<double> numbers) {
     return list<std::initializer_list<double>>(numbers);
 }
 
-/// The rotation of the rear camera leads to its rectified picture, whose frame is not that of the raw one.
+/// The rotation of the rear camera refers to its rectified image, whose frame differs from that of the raw image.
 QString colourName(const CameraPair& pair) {
     return pair.camera == ColourCamera::Platform ? "platform_rectified" : "third";
 }
@@ -61,7 +61,7 @@ QString rosMatrix(const QString& name, int rows, int columns, const QString& dat
 QString ros(const CameraPair& pair) {
     const ExportedCameras cameras = exportedCameras(pair);
     const session::Intrinsics& rectified = cameras.colour;
-    UnrectifiedCamera raw;  // The picture of the third camera comes rectified.
+    UnrectifiedCamera raw;  // The image of the third camera is rectified already.
     static_cast<session::Intrinsics&>(raw.intrinsics) = rectified;
     raw.rectification = {1, 0, 0, 0, 1, 0, 0, 0, 1};
     if (cameras.unrectified) raw = *cameras.unrectified;
@@ -77,7 +77,7 @@ QString ros(const CameraPair& pair) {
                             list({rectified.fx, 0, rectified.cx, 0, 0, rectified.fy, rectified.cy, 0, 0, 0, 1, 0}));
 }
 
-/// "--x 0.1 --y ..." with a value for each of the names.
+/// Returns "--x 0.1 --y ..." with one value for each name.
 QString arguments(const QStringList& names, const Eigen::Vector3d& values) {
     QStringList texts;
     for (int i = 0; i < names.size(); ++i)

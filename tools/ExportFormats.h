@@ -14,7 +14,7 @@ enum class ExportFormat {
     Kalibr,  ///< camchain YAML
 };
 
-/// Returns the calibration as a file of this format. `docs/exports.md` tells frames, directions and units.
+/// Returns the calibration as a file of this format. `docs/exports.md` defines frames, directions and units.
 QByteArray exported(const CameraPair& pair, ExportFormat format);
 
 }  // namespace fieldcal

@@ -8,14 +8,15 @@
 namespace fieldcal {
 namespace {
 
-constexpr int kColumns = 33;  // of the grid of places at which raw models are compared
+constexpr int kColumns = 33;  // grid of the points at which raw models are compared
 constexpr int kRows = 19;
 
 Eigen::Matrix3d eigen(const session::Matrix3& matrix) {
     return Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(matrix.data());
 }
 
-/// Moves the principal point of a colour camera from where the scaled picture needs it to where the picture has it.
+/// Moves the principal point of a colour camera from the position required after scaling to its position in the image
+/// itself.
 session::Intrinsics inOwnPixels(session::Intrinsics colour, const session::Intrinsics& infrared) {
     colour.cx += 0.5 * colour.fx / infrared.fx - 0.5;
     colour.cy += 0.5 * colour.fy / infrared.fy - 0.5;
@@ -26,10 +27,11 @@ Eigen::Vector3d ray(const session::Intrinsics& camera, const Eigen::Vector2d& pi
     return {(pixel.x() - camera.cx) / camera.fx, (pixel.y() - camera.cy) / camera.fy, 1};
 }
 
-/// The place of a direction in the raw picture, in focal lengths, before the tangential terms; and their factors.
+/// The position of a direction in the raw image, in focal lengths, before the tangential terms; and the factors of
+/// these terms.
 struct RadialPlace {
     Eigen::Vector2d place;
-    Eigen::Matrix2d tangential;  ///< place shifted by p1 is the first column, by p2 the second
+    Eigen::Matrix2d tangential;  ///< first column: shift by p1; second column: by p2
 };
 
 RadialPlace radialPlace(const session::RawIntrinsics& raw, const Eigen::Vector3d& direction) {
@@ -50,8 +52,8 @@ session::Intrinsics inScalingPixels(session::Intrinsics colour, const session::I
 }
 
 /// When the principal point of the rectified image moves, every direction turns a little, and no raw model of this kind
-/// brings about quite the same. The principal point and the tangential coefficients, on which the raw pixels depend
-/// linearly, are fitted over the image.
+/// reproduces the same mapping exactly. The principal point and the tangential coefficients, on which the raw pixels
+/// depend linearly, are fitted over the image.
 UnrectifiedCamera movedPrincipalPoint(const UnrectifiedCamera& camera, const session::Intrinsics& from,
                                       const session::Intrinsics& to) {
     const session::RawIntrinsics& raw = camera.intrinsics;
@@ -67,7 +69,7 @@ UnrectifiedCamera movedPrincipalPoint(const UnrectifiedCamera& camera, const ses
         const RadialPlace before = radialPlace(raw, toRaw * ray(from, pixel));
         const RadialPlace after = radialPlace(raw, toRaw * ray(to, pixel));
         const Eigen::Vector2d wanted = before.place + before.tangential * tangential - after.place;
-        Eigen::Matrix<double, 2, 4> factors;  // of the shift of the principal point, in focal lengths, and of p1 and p2
+        Eigen::Matrix<double, 2, 4> factors;  // of the principal point's shift, in focal lengths, and of p1 and p2
         factors << Eigen::Matrix2d::Identity(), after.tangential;
         normal += factors.transpose() * factors;
         right += factors.transpose() * wanted;
@@ -88,7 +90,8 @@ ExportedCameras exportedCameras(const CameraPair& pair) {
 }
 
 ColourPose colourPose(const CameraPair& pair) {
-    // What is read may be rounded; the nearest rotation keeps the angles and the quaternion alike.
+    // The rotation that was read may be rounded. With the nearest exact rotation, the exported angles and the
+    // quaternion agree.
     const Eigen::Quaterniond rotation = Eigen::Quaterniond(eigen(pair.rotation)).normalized().conjugate();
     const Eigen::Matrix3d r = rotation.toRotationMatrix();
     ColourPose pose;

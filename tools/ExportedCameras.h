@@ -8,8 +8,8 @@
 
 namespace fieldcal {
 
-/// Intrinsics whose principal points lie where they are seen in the picture itself, with the centre of the first pixel
-/// at (0, 0), as other programs expect it.
+/// Intrinsics whose principal points are in pixels of the image itself, with the centre of the first pixel at (0, 0),
+/// as other programs expect.
 struct ExportedCameras {
     session::Intrinsics infrared;
     session::Intrinsics colour;
@@ -17,11 +17,13 @@ struct ExportedCameras {
 };
 ExportedCameras exportedCameras(const CameraPair& pair);
 
-/// The reverse for a colour camera's intrinsics: their principal point moves to where the scaled image needs it.
+/// The reverse conversion for a colour camera: its principal point is moved to the position required after scaling
+/// (`docs/conventions.md`).
 session::Intrinsics inScalingPixels(session::Intrinsics colour, const session::Intrinsics& infrared);
 
-/// The raw camera that keeps each raw pixel's place in the rectified image, as nearly as such a model can, when the
-/// principal point of that image moves from one place to another. What is left is a few hundredths of a pixel at most.
+/// Returns the raw camera model that maps each raw pixel to the same place of the rectified image, as closely as such a
+/// model can, when the principal point of the rectified image moves from one position to another. The remaining error
+/// is a few hundredths of a pixel at most.
 UnrectifiedCamera movedPrincipalPoint(const UnrectifiedCamera& camera, const session::Intrinsics& from,
                                       const session::Intrinsics& to);
 

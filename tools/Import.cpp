@@ -20,7 +20,7 @@ constexpr double kNsPerMs = 1e6;
 
 using TimedImages = std::map<std::int64_t, std::string>;  ///< time in nanoseconds, file name relative to the source
 
-/// Finds the images `NAME/<nanoseconds>.png`. There are none when there is no such folder.
+/// Finds the images `NAME/<nanoseconds>.png`. A missing folder counts as one without images.
 bool findImages(const std::string& source, const std::string& name, TimedImages* out, std::string* why) {
     const QDir folder(QString::fromStdString(source + '/' + name));
     for (const QString& file : folder.entryList({"*.png"}, QDir::Files)) {
@@ -33,7 +33,7 @@ bool findImages(const std::string& source, const std::string& name, TimedImages*
     return true;
 }
 
-/// The name of the image nearest in time, empty when none is near enough.
+/// Returns the name of the image nearest in time; empty when none is near enough.
 std::string nearest(const TimedImages& images, std::int64_t timeNs, std::int64_t withinNs) {
     const auto distance = [timeNs](const auto& image) { return std::llabs(image->first - timeNs); };
     auto best = images.lower_bound(timeNs);
@@ -55,7 +55,7 @@ private:
     std::string path(const std::string& name) const { return options_.folder + '/' + name; }
     bool exists(const std::string& name) const { return QFile::exists(QString::fromStdString(path(name))); }
 
-    /// Reads the camera of images that are rectified already.
+    /// Reads the intrinsics of a camera whose images are rectified already.
     bool readRectified(const std::string& name, session::Intrinsics* out, std::string* why) const {
         CameraInfo info;
         if (!readCameraInfo(path(name + ".yaml"), &info, why)) return false;

@@ -66,7 +66,7 @@ int describeRecording(const std::string& folder) {
     return kSolved;
 }
 
-/// The rear camera is not opened, as the module holds its calibration.
+/// The rear camera is not opened, because its calibration is stored in the module.
 int describeConnectedModule() {
     silenceLogs();
     ConnectedModule module;

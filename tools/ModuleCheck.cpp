@@ -15,7 +15,7 @@ constexpr int kTimedSets = 180;
 constexpr int kMostSets = 3600;
 constexpr int kStillRepeats = 26;
 constexpr int kSetsAfterStills = 60;
-constexpr int kPatientSets = 1200;  ///< without a new still
+constexpr int kPatientSets = 1200;  ///< number of frame sets without a new still after which capture ends
 constexpr int kLargestStatus = 12;
 constexpr int kUnknownStatus = 77;
 constexpr double kLongestCallMs = 3000;
@@ -57,7 +57,8 @@ bool ModuleCheck::look() {
     found_.block = block.block;
     for (const CheckLine& line : block.lines)
         add(line);
-    // Reading a calibration that does not fit ends everything else, so that it is read only where it fits.
+    // The calibration is read only if its sizes fit, because the module cannot be used any further after reading one
+    // that does not fit.
     session::SessionDescription description;
     QString why;
     const bool described = sizesFit && (module_.describe(&description, &why) || stop(why));
@@ -92,7 +93,8 @@ void ModuleCheck::checkTexts() {
     add({"status-texts", "texts of the statuses", verdictOf(named && differ && survives), text});
 }
 
-/// Asked before the calibration is read as a whole, which ends at the first thing that does not fit.
+/// Checks the sizes one by one. The calibration as a whole is read later, because that ends at the first value that
+/// does not fit.
 bool ModuleCheck::checkSizes() {
     ModuleLink& link = module_.sensor().link();
     KXDevice* device = module_.sensor().device().get();
@@ -116,7 +118,7 @@ bool ModuleCheck::checkSizes() {
 
 bool ModuleCheck::timeStreams(bool described) {
     say("Point the module at scenery with detail, some of it near, and hold it still.");
-    // The rear camera's pictures come as soon as its calibration is known.
+    // The rear camera delivers images as soon as its calibration is known.
     watch_.emplace(described && module_.hasRearCamera());
     for (int i = 0; i < kWarmUpSets + kTimedSets; ++i) {
         if (i == kWarmUpSets) watch_->setTiming(true);
@@ -167,7 +169,7 @@ bool ModuleCheck::startRecording(const session::SessionDescription& description)
     return recording_->start(&why) || stop(QString::fromStdString(why));
 }
 
-/// A still is long enough for the selection of photos to find it again.
+/// Records a still with enough repeats for the selection of photos to find it again.
 void ModuleCheck::keepStill(const session::FramePictures& pictures) {
     if (recording_ == nullptr) return;
     std::string why;
@@ -197,7 +199,7 @@ void ModuleCheck::checkScene() {
     }
 }
 
-/// What the program calls in the course of its work and nothing has called yet.
+/// Calls the remaining operations that the program uses in the course of its work.
 void ModuleCheck::checkRest() {
     ModuleLink& link = module_.sensor().link();
     KXDevice* device = module_.sensor().device().get();
@@ -265,7 +267,7 @@ CheckLine ModuleCheck::timeLine() const {
     CheckLine line{"call-times", "calls return in time", Verdict::CannotTell, "none was made"};
     double longestMs = 0;
     for (const OperationRecord& record : found_.operations) {
-        // A module may take its time until the first frame set is there.
+        // The first frame set may take long.
         const double ms = record.name == "grab" ? record.longestLaterMs : record.longestMs;
         if (ms <= longestMs) continue;
         longestMs = ms;
@@ -275,13 +277,13 @@ CheckLine ModuleCheck::timeLine() const {
     return line;
 }
 
-/// The same line is said once.
+/// A line equal to the previous one is not repeated.
 void ModuleCheck::say(const QString& line) {
     if (say_ && line != lastSaid_) say_(line);
     lastSaid_ = line;
 }
 
-/// Keeps the first reason.
+/// Keeps the first reason only.
 bool ModuleCheck::stop(const QString& why) {
     if (found_.ended.isEmpty()) found_.ended = why;
     return false;

@@ -19,7 +19,7 @@
 
 namespace fieldcal {
 
-/// What a check found, whether it came to its end or not.
+/// The findings of a check, complete or not.
 struct ModuleFindings {
     session::ModuleInfo module;
     CheckLines lines;
@@ -27,15 +27,15 @@ struct ModuleFindings {
     std::map<int, QString> statusTexts;
     std::array<StreamStatistics, kStreamCount> streams;
     std::optional<ParameterBackup> block;
-    QString ended;  ///< why it ended early; empty otherwise
+    QString ended;  ///< reason for ending early; empty when the check is complete
 };
 
-/// Asks the module that is connected everything that the program relies on, once, and looks whether the answers agree
-/// with each other and with what the cameras see. Nothing is written into the module unless that is asked for. One
-/// thread.
+/// Calls every operation of the connected module on which the program relies, once, and checks whether the results
+/// agree with each other and with what the cameras see. Nothing is written into the module unless the options ask for
+/// it. One thread.
 class ModuleCheck {
 public:
-    /// `say` receives one line for the person at the module; it may be empty.
+    /// `say` receives one line at a time for the operator; it may be empty.
     ModuleCheck(const CheckOptions& options, std::function<void(const QString&)> say);
 
     ModuleFindings run();
@@ -65,15 +65,15 @@ private:
     ModuleFindings found_;
     std::optional<StreamWatch> watch_;
     std::vector<CameraStills> cameras_;
-    Direction shown_ = Direction::Unknown;  ///< of the rotations, by the scene
+    Direction shown_ = Direction::Unknown;  ///< direction of the rotations that the scene shows
     std::unique_ptr<RecordingWriter> recording_;
     QString lastSaid_;
 };
 
-/// The lines as a table for people.
+/// Returns the lines as a readable table.
 QString findingsText(const ModuleFindings& findings);
 
-/// All findings as one JSON object.
+/// Returns all findings as one JSON object.
 QJsonObject findingsJson(const ModuleFindings& findings);
 
 }  // namespace fieldcal

@@ -6,7 +6,7 @@
 namespace fieldcal {
 namespace {
 
-/// Operations in the order of `KXAPI.h`, and the functions that the library exports.
+/// The operations in the order of `KXAPI.h`, and the functions exported by the library.
 constexpr const char* kOperations[] = {"openDevice",
                                        "initDevice",
                                        "firmwareVersionText",
@@ -78,7 +78,7 @@ bool isAnswer(const Pointed* pointer) {
     return pointer != nullptr;
 }
 
-/// An interface of the library whose calls are counted.
+/// Forwards the calls of one interface of the library and counts them.
 template <typename Interface>
 class Observed : public Interface {
 public:
@@ -91,12 +91,12 @@ protected:
     Interface& inner() { return *inner_; }
     OperationLog& log() { return *log_; }
 
-    /// A call that has failed when it answers nothing.
+    /// Makes a call that counts as failed when it returns false, zero or null.
     template <typename Operation, typename... Arguments>
     auto observed(const char* name, Operation operation, Arguments... arguments) {
         return made(name, true, operation, arguments...);
     }
-    /// A call whose answer may be no.
+    /// Makes a call for which false, zero or null is a regular result.
     template <typename Operation, typename... Arguments>
     auto noteless(const char* name, Operation operation, Arguments... arguments) {
         return made(name, false, operation, arguments...);
@@ -118,7 +118,7 @@ private:
 
 class ObservedHardwareControl final : public Observed<KXHardwareControl> {
 public:
-    /// Null stays null.
+    /// Wraps `found`; null stays null.
     KXHardwareControl* around(KXHardwareControl* found) {
         if (found == nullptr) return nullptr;
         observe(found, &log());
@@ -141,7 +141,7 @@ public:
 
 class ObservedThirdCamera final : public Observed<KXThirdCamera> {
 public:
-    /// Null stays null.
+    /// Wraps `found`; null stays null.
     KXThirdCamera* around(KXThirdCamera* found) {
         if (found == nullptr) return nullptr;
         observe(found, &log());
@@ -168,7 +168,7 @@ public:
 
 class ObservedEmitterControl final : public Observed<KXEmitterControl> {
 public:
-    /// Null stays null.
+    /// Wraps `found`; null stays null.
     KXEmitterControl* around(KXEmitterControl* found) {
         if (found == nullptr) return nullptr;
         observe(found, &log());
@@ -180,7 +180,7 @@ public:
 
 class ObservedPlatformCamera final : public Observed<KXPlatformCamera> {
 public:
-    /// Null stays null.
+    /// Wraps `found`; null stays null.
     KXPlatformCamera* around(KXPlatformCamera* found) {
         if (found == nullptr) return nullptr;
         observe(found, &log());
@@ -206,7 +206,7 @@ public:
 
 class ObservedPrivate final : public Observed<KXPrivate> {
 public:
-    /// Null stays null.
+    /// Wraps `found`; null stays null.
     KXPrivate* around(KXPrivate* found) {
         if (found == nullptr) return nullptr;
         observe(found, &log());
@@ -301,7 +301,8 @@ private:
     ObservedPrivate private_;
 };
 
-/// The library's functions are plain ones, so that what stands behind them is the process's.
+/// What the functions below need. It is shared by the whole process, because the library's exported functions are plain
+/// functions without a context.
 struct Observation {
     std::shared_ptr<const KXLibrary> library;
     std::shared_ptr<OperationLog> log;
@@ -414,7 +415,7 @@ std::vector<OperationRecord> OperationLog::records() const {
     return all;
 }
 
-/// The rear camera of a simulated module is found through the library itself.
+/// A simulated module provides its rear camera through the library itself.
 SensorEnvironment observedEnvironment(const std::shared_ptr<OperationLog>& log) {
     SensorEnvironment environment = systemEnvironment();
     environment.loadLibrary = [log, load = environment.loadLibrary](std::string* why) {

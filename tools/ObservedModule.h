@@ -13,29 +13,30 @@
 
 namespace fieldcal {
 
-/// What was seen of one operation of the camera library.
+/// Statistics of one operation of the camera library.
 struct OperationRecord {
     std::string name;
     int calls = 0;
     int failures = 0;
-    std::optional<std::int32_t> status;  ///< that the library told after the first failure, where it was asked
+    std::optional<std::int32_t> status;  ///< of the first failure; none when not asked for
     double firstMs = 0;
     double longestMs = 0;
-    double longestLaterMs = 0;  ///< of all calls but the first one
-    bool underWay = false;      ///< a call has not returned
+    double longestLaterMs = 0;  ///< of all calls except the first
+    bool underWay = false;      ///< a call has not returned yet
 };
 
-/// Counts and times the calls that a program makes of the camera library. Any thread.
+/// Counts and times the calls of the camera library. Any thread.
 class OperationLog {
 public:
     using Clock = std::chrono::steady_clock;
 
     void begin(const char* name);
-    /// Returns whether the call failed.
+    /// `begun`: time of `begin`; `failed`: the call returned a failure.
     void end(const char* name, Clock::time_point begun, bool failed);
+    /// Records the status of the operation that failed last, if that operation has none yet.
     void noteStatus(std::int32_t status);
 
-    /// Every operation of `KXAPI.h` in slot order, also those that were never called.
+    /// Returns one record for every operation of `KXAPI.h` in slot order, including those never called.
     std::vector<OperationRecord> records() const;
 
 private:
@@ -44,7 +45,7 @@ private:
     std::string lastFailure_;
 };
 
-/// The environment in which a sensor finds the module that is connected, with every call of the library counted in
+/// Returns the environment in which a sensor finds the connected module with every call of the library counted in
 /// `log`. One module at a time.
 SensorEnvironment observedEnvironment(const std::shared_ptr<OperationLog>& log);
 

@@ -28,7 +28,7 @@ bool record(ConnectedModule& module, const RecordOptions& options, RecordingWrit
             printLine(QString("%1 of %2 frame sets").arg(done).arg(options.frames));
         }
     }
-    // The recording is kept only when the module was closed without an error.
+    // The recording is kept only if the module was closed without an error.
     if (!module.close(why)) return false;
     if (recording->finish(&reason)) return true;
     *why = QString::fromStdString(reason);

@@ -113,7 +113,7 @@ void RecordingCalibration::finish(bool solved) {
     }
 }
 
-/// There are none for a recording without depth, where no surface can be assigned a colour.
+/// Returns no errors for a recording without depth, where no surface can be assigned a colour.
 std::map<int, double> RecordingCalibration::registrationErrors(const Matrix3& truth) const {
     const auto hasDepth = [](const session::FrameEntry& frame) { return !frame.depth.empty(); };
     if (std::none_of(session_.frames.begin(), session_.frames.end(), hasDepth)) return {};
@@ -129,7 +129,7 @@ std::map<int, double> RecordingCalibration::registrationErrors(const Matrix3& tr
     return errorsPx;
 }
 
-/// Now, as the note about it makes way for the one about this write.
+/// Called before the write, because the note about this write replaces the note about the last save.
 void RecordingCalibration::tellOfLastSave(Sensor& sensor) {
     const auto last = settleLastSave(sensor, userDataFolder());
     if (!last) return;

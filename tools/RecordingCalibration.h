@@ -21,7 +21,7 @@
 namespace fieldcal {
 
 /// Plays a recording once through sensor, frame selection, attempt and engine, as the application does. An attempt that
-/// fails is started again at once, as a user would do. All calls come from one thread.
+/// fails is restarted at once. All calls must come from one thread.
 class RecordingCalibration : private AttemptListener {
 public:
     /// `say` receives one line for each event; it may be empty.
@@ -30,15 +30,15 @@ public:
 
     /// Sets whether a solution is written into the module's flash.
     void setWriting(bool on) { writing_ = on; }
-    /// Begins with the stereo baseline that is remembered for the module, and remembers the one that a solution
-    /// measured.
+    /// Starts with the stereo baseline stored for the module in `memory`, and stores the baseline measured by a
+    /// solution.
     void useMemory(const BaselineMemory& memory) { memory_ = memory; }
-    /// Returns false, and one line in `why`, when the device fails.
+    /// Returns false and sets `why` to one line when the device fails.
     bool run(QString* why);
     /// Returns the cameras and the rotation that the engine had at the end of `run`.
     vq::CalibrationState engineState() const;
     const CalibrationReport& report() const { return report_; }
-    /// Returns what a report tells about the solution.
+    /// Returns the data of the report about the solution.
     ServiceReport serviceReport() const;
 
 private:

@@ -102,7 +102,8 @@ bool RecordingWriter::add(session::FramePictures pictures, std::string* why, con
     return true;
 }
 
-/// The rear camera may deliver its picture again or not while a frame repeats; an unchanged one makes no difference.
+/// Returns whether a frame set equals the last one. While a frame repeats, the rear camera may or may not deliver its
+/// image again; an unchanged image makes no difference.
 bool RecordingWriter::repeatsLast(const session::FramePictures& pictures) const {
     return !description_.frames.empty() && same(pictures.infrared, last_.infrared) &&
            same(pictures.right, last_.right) && same(pictures.third, last_.third) &&

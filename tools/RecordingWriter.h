@@ -8,27 +8,27 @@
 
 namespace fieldcal {
 
-/// Writes the frame sets of a module into a recording that plays back as they were delivered. Frame sets that follow
-/// each other unchanged become one frame that repeats. The description is written last, so that a folder without one is
-/// no recording; a recording that is not finished removes its files. A call that fails returns false and one line
-/// "file: key: reason" in `why`.
+/// Writes the frame sets of a module into a recording that plays back exactly as they were delivered. Consecutive
+/// identical frame sets become one frame with repeats. The description is written last, because a folder without a
+/// description is not a recording; the files of an unfinished recording are removed. A call that fails returns false
+/// and sets `why` to one line of the form "file: key: reason".
 class RecordingWriter {
 public:
-    /// `description` holds the cameras; its frames are filled in by this class.
+    /// `description` contains the cameras; its frames are filled in by this class.
     RecordingWriter(std::string folder, session::SessionDescription description);
     ~RecordingWriter();
     RecordingWriter(const RecordingWriter&) = delete;
     RecordingWriter& operator=(const RecordingWriter&) = delete;
 
-    /// Makes the folder. It fails when there is something in it already.
+    /// Creates the folder. Fails when the folder exists and is not empty.
     bool start(std::string* why);
 
-    /// How long a frame set lasts, and when it was taken.
+    /// The number of grabs that deliver a frame set, and its time.
     struct Timing {
-        int repeat = 1;  ///< grabs that deliver it
+        int repeat = 1;  ///< number of grabs that deliver it
         std::optional<std::int64_t> timeNs = {};
     };
-    /// `platform` is empty when the rear camera brought nothing new.
+    /// Adds a frame set. `platform` is empty when the rear camera delivered no new image.
     bool add(session::FramePictures pictures, std::string* why, const Timing& timing);
 
     bool finish(std::string* why);
@@ -44,7 +44,7 @@ private:
     session::FramePictures last_;
     bool madeFolder_ = false;
     bool finished_ = false;
-    bool describing_ = false;  ///< session.json may be there, and is ours
+    bool describing_ = false;  ///< this object may have written session.json
 };
 
 }  // namespace fieldcal

@@ -15,7 +15,7 @@
 namespace fieldcal {
 namespace {
 
-/// Whether a file takes the place of the one of this name; devices and pipes are written into.
+/// Returns whether the new file replaces the one of this name. Devices and pipes are written to directly.
 bool canBeReplaced(const QString& path) {
     const QFileInfo info(path);
     return !path.startsWith("/dev/") && (!info.exists() || info.isFile());

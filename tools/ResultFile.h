@@ -10,26 +10,26 @@
 
 namespace fieldcal {
 
-/// The number of the format of results. It grows when a key changes its meaning or goes.
+/// Version of the format of results. It is raised when a key changes its meaning or is removed.
 inline constexpr int kResultSchema = 1;
 
-/// The JSON object in which one calibration tells its result or its failure, together with what it was made from, so
-/// that results can be collected.
+/// The JSON object that holds the result or the failure of one calibration together with its origin, so that results
+/// can be collected.
 class ResultFile {
 public:
-    /// `path`: a file, "-" for standard output, or empty for nowhere.
+    /// `path`: a file, "-" for standard output, or empty for none.
     ResultFile(QString path, const QString& recording, ColourCamera camera, unsigned seed);
 
-    /// Takes over what the recording tells of the module.
+    /// Adds the data of the module that the recording contains.
     void describe(const CameraPair& cameras) { cameras_ = cameras; }
 
     bool toStandardOutput() const { return path_ == "-"; }
 
-    /// Writes the result. A failure returns false and one line in `why`.
+    /// Writes the result. On failure returns false and sets `why` to one line.
     bool write(const CalibrationReport& report, QString* why) const;
 
-    /// Writes the failure, together with the report where the flash has been written or was to be, and prints it on
-    /// standard error. It returns the exit status.
+    /// Writes the failure, together with the report if writing into the flash was asked for, and prints it on standard
+    /// error. Returns the exit status.
     int fail(const QString& error, const CalibrationReport* report = nullptr) const;
 
 private:
@@ -40,8 +40,8 @@ private:
     std::optional<CameraPair> cameras_;
 };
 
-/// Writes a whole file, or standard output for "-". A regular file stays as it was when that fails, and false and one
-/// line in `why` are returned.
+/// Writes a whole file, or standard output for "-". On failure, a regular file is unchanged, and false and one line in
+/// `why` are returned.
 bool writeWhole(const QString& path, const QByteArray& bytes, QString* why);
 
 }  // namespace fieldcal

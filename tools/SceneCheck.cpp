@@ -19,7 +19,7 @@
 namespace fieldcal {
 namespace {
 
-constexpr double kSignificant = 3.0;  ///< deviations
+constexpr double kSignificant = 3.0;  ///< in standard deviations
 constexpr int kMostRows = 8;
 constexpr double kTolerableRowsPx = 0.5;
 constexpr std::size_t kLeastPlaces = 60;
@@ -27,16 +27,17 @@ constexpr float kNearDisparityPx = 1.0F;
 constexpr double kSmallestBaselineM = 0.015, kLargestBaselineM = 0.2;
 constexpr double kShortestMm = 5, kLongestMm = 400;
 constexpr double kMetresToMillimetres = 1000;
-/// A rotation is one of two when it is nearer to it than this share of what lies between them.
+/// An estimate is assigned to one of two candidates when its distance from that candidate is below this share of the
+/// distance between the two.
 constexpr double kNearShare = 0.25;
 constexpr double kLargestMedianPx = 1.0;
-/// What parts of an image that err together leave in doubt, in the camera's own pixels: with it, photographs and
-/// rendered squares whose principal point is known scatter as they should.
+/// Additional uncertainty for errors that are correlated within parts of an image, in the camera's own pixels. With it,
+/// photographs and rendered squares with known principal point scatter as predicted.
 constexpr double kPrincipalPointDoubtPx = 0.05;
 constexpr float kOtherSizes[] = {0.97F, 1.03F, 0.94F, 1.06F};
 constexpr const char* kNoRotation = "the scene gave no rotation";
 
-/// Where a principal point may be meant, in pixels of the camera's own picture along both axes.
+/// A convention about principal points. The shift is in pixels of the camera's own image along both axes.
 struct Convention {
     const char* name;
     double shiftPx;
@@ -54,7 +55,7 @@ std::vector<cv::Point2f> placesOf(const cv::Mat& infrared16) {
     return vq::texturedPlaces(infrared8);
 }
 
-/// The image so many rows higher.
+/// Returns the image moved up by `rows` rows.
 cv::Mat raised(const cv::Mat& image, int rows) {
     cv::Mat moved = image.clone();
     const int height = image.rows - std::abs(rows);
@@ -63,10 +64,10 @@ cv::Mat raised(const cv::Mat& image, int rows) {
     return moved;
 }
 
-/// What the textured places of all stills tell about the right image against the left one.
+/// The comparison of the right image with the left one at the textured points of all stills.
 struct StereoEvidence {
-    std::vector<double> rows;  ///< by which the right image shows places lower
-    std::size_t inFront = 0;   ///< places whose disparity is that of something near
+    std::vector<double> rows;  ///< offset of each point in rows, positive when it is lower in the right image
+    std::size_t inFront = 0;   ///< number of points with the disparity of a near object
 };
 
 StereoEvidence stereoEvidence(const std::vector<vq::SelectedImages>& stills, int rows, bool swapped) {
@@ -99,7 +100,7 @@ CheckLine orderLine(const std::vector<vq::SelectedImages>& stills, int rows) {
     return line;
 }
 
-/// The rows by which the right image has to be raised for most places to be found again.
+/// Returns the number of rows by which the right image has to be raised so that most points are found again.
 int bestRows(const std::vector<vq::SelectedImages>& stills, bool swapped) {
     const std::vector<vq::SelectedImages> some(
         stills.begin(), stills.begin() + std::min<std::ptrdiff_t>(2, static_cast<std::ptrdiff_t>(stills.size())));
@@ -162,13 +163,13 @@ double angleDeg(const Eigen::Matrix3d& a, const Eigen::Matrix3d& b) {
     return std::atan2(axis.norm(), turn.trace() - 1) * kDegreesPerRadian;
 }
 
-/// Whether an estimate is one of two values that lie on both sides of zero, and not the other one.
+/// Returns whether an estimate agrees with `value` and significantly differs from `-value`.
 bool isAbout(double estimate, double deviation, double value) {
     const double otherDeviations = std::abs(estimate + value) / deviation;
     return std::abs(estimate - value) < kNearShare && otherDeviations >= kSignificant;
 }
 
-/// Pictures without the streams that are not to be trusted.
+/// Returns the stills without the streams that the lines in `trusted` contradict.
 std::vector<vq::SelectedImages> trustedStills(const CameraStills& camera, const CheckLines& trusted) {
     std::vector<vq::SelectedImages> stills = camera.stills;
     const bool noDepth = contradicts(trusted, "baseline");
@@ -180,7 +181,7 @@ std::vector<vq::SelectedImages> trustedStills(const CameraStills& camera, const 
     return stills;
 }
 
-/// The judgement of one colour camera.
+/// Evaluates one colour camera.
 class CameraJudge {
 public:
     CameraJudge(const CameraStills& camera, const CameraParameters& parameters, const CheckLines& trusted)
@@ -212,8 +213,8 @@ private:
         return {id + '-' + camera, what.arg(camera), verdict, text};
     }
 
-    /// Where nothing is found as the cameras are told, the search starts from the transposed rotation, and then takes
-    /// the pictures for smaller or larger ones.
+    /// Estimates the rotation. If there is no solution with the cameras as reported, the search starts from the
+    /// transposed rotation, and after that assumes other focal lengths, as of smaller or larger images.
     void solve() {
         solution_ = solveStills(stills_, parameters_, platform_);
         if (solution_ || stills_.empty()) return;
@@ -246,7 +247,8 @@ private:
         return projection;
     }
 
-    /// The opposite direction is taken from here on where the scene shows it, so that nothing else is blamed for it.
+    /// If the scene shows the opposite translation, the later lines use it, so that they are not affected by this
+    /// fault.
     CheckLine translationLine() {
         CameraParameters other = parameters_;
         for (float& metres : pose(other).translation)
@@ -263,7 +265,7 @@ private:
         const auto found =
             preferenceBetween(matches, *solution_, withPose(begunAsTold ? pose(other) : pose(parameters_)));
         if (!found) return line("translation", Verdict::CannotTell, "nothing near enough was seen");
-        // From +1 for the translation that is told to -1 for the opposite one.
+        // +1: the reported translation; -1: the opposite one.
         const double along = (begunAsTold ? 1 : -1) * (1 - 2 * found->share), deviation = 2 * found->deviation;
         const QString text = QString("%1 ± %2 of the one that is told").arg(along, 0, 'f', 2).arg(deviation, 0, 'f', 2);
         const bool isTold = isAbout(along, deviation, 1), isOpposite = isAbout(along, deviation, -1);
@@ -324,13 +326,13 @@ private:
             isPossible[i] = deviations < kSignificant;
             text += QString("; '%1' is %2 deviations away").arg(conventions[i].name).arg(deviations, 0, 'f', 1);
         }
-        // The last one differs so little that its being possible, too, is told and changes nothing.
+        // The last convention differs so little that it is reported but has no influence on the verdict.
         if (!isPossible[0]) return line("principal-point", Verdict::DoesNotFit, text);
         const bool isOther = isPossible[1] || isPossible[2];
         return line("principal-point", isOther ? Verdict::CannotTell : Verdict::Fits, text);
     }
 
-    /// Scaled pixels per pixel of the camera's own picture.
+    /// Returns the number of scaled pixels per pixel of the camera's own image.
     float pixelScale() const {
         const CameraModel& scaled = platform_ ? parameters_.colour[ColourCamera::Platform].model
                                               : parameters_.colour[ColourCamera::Third].model;
@@ -373,7 +375,7 @@ private:
     CameraParameters parameters_;
     const std::vector<vq::SelectedImages> stills_;
     std::optional<StillSolution> solution_;
-    std::optional<float> otherSize_;  ///< under which alone the scene gives a rotation
+    std::optional<float> otherSize_;  ///< factor of the focal length under which alone the scene gives a rotation
 };
 
 }  // namespace

@@ -8,24 +8,25 @@
 
 namespace fieldcal {
 
-/// What one colour camera and the infrared cameras saw.
+/// The stills of one colour camera and the infrared cameras.
 struct CameraStills {
     bool platformCamera = false;
     std::vector<vq::SelectedImages> stills;
 };
 
-/// Which of the two conventions about rotations something follows.
+/// The direction of reported rotations: as the convention says, or transposed.
 enum class Direction { AsTold, Transposed, Unknown };
 
-/// Whether the left and the right infrared image belong together: rows, order, and the stereo baseline against depth.
+/// Checks whether the left and the right infrared image belong together: rows, order, and the stereo baseline compared
+/// with depth.
 CheckLines checkStereo(const std::vector<vq::SelectedImages>& stills, const CameraParameters& parameters);
 
-/// Whether the translations are ones that a module can have, in millimetres.
+/// Checks whether the translations are plausible for a module, as millimetres.
 CheckLine checkTranslations(const CameraParameters& parameters, bool withPlatform);
 
-/// Whether what one colour camera sees agrees with its calibration, and which conventions fit the scene. `trusted`:
-/// what was found so far; what rests on something that does not fit is not judged. `direction` gets which direction of
-/// the camera's rotation the scene shows.
+/// Checks whether the images of one colour camera agree with its calibration, and which conventions fit the scene.
+/// `trusted`: the lines so far; results that depend on a line that does not fit are not judged. `direction` receives
+/// the direction of the camera's rotation that the scene shows.
 CheckLines checkCamera(const CameraStills& camera, const CameraParameters& parameters, const CheckLines& trusted,
                        Direction* direction);
 

@@ -6,14 +6,15 @@
 
 namespace fieldcal {
 
-/// Keeps the first error that a sensor reports, as the command line fails with one line.
+/// Keeps the first error that a sensor reports, because a command fails with one line only.
 class SensorReports {
 public:
     SensorReports() = default;
     SensorReports(const SensorReports&) = delete;
     SensorReports& operator=(const SensorReports&) = delete;
 
-    /// Forgets earlier reports. This object has to outlive the sensor, whose last report comes from its destructor.
+    /// Clears earlier reports and connects to `sensor`. This object has to outlive the sensor, whose destructor may
+    /// report, too.
     void listenTo(Sensor& sensor) {
         first_.clear();
         platformCameraMissing_ = false;
@@ -24,13 +25,14 @@ public:
             platformCameraMissing_ = true;
             note("The rear camera was not found.");
         });
-        // After opening, a rear camera without pictures is no failure, as frames of a recording may lack them.
+        // Once the module is open, a rear camera without images is not a failure, because frames of a recording may
+        // lack them.
         QObject::connect(&sensor, &Sensor::signal_reportPlatformCameraIssue, [this, &sensor] {
             if (!sensor.opened()) note("The rear camera does not deliver pictures.");
         });
     }
 
-    /// The first error; empty when there was none.
+    /// Returns the first error; empty when there was none.
     const QString& first() const { return first_; }
     bool platformCameraMissing() const { return platformCameraMissing_; }
 

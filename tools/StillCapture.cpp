@@ -42,7 +42,7 @@ bool StillCapture::take(const FrameRecords& frames) {
     return true;
 }
 
-/// The same view a second time has the same errors, and would only look like more evidence.
+/// Rejects a view that has been taken already: it has the same errors and would only appear to be more evidence.
 bool StillCapture::showsSomethingNew(const vq::SelectedImages& still) const {
     const cv::Mat present = reduced(still.infrared);
     return std::none_of(stills_.begin(), stills_.end(), [&](const vq::SelectedImages& earlier) {

@@ -11,17 +11,17 @@
 
 namespace fieldcal {
 
-/// Collects stills of one colour camera as the application takes its photos: where there is light and the hand rests.
-/// One thread.
+/// Collects stills of one colour camera by the rules of the application's photos: with enough light, and while the
+/// device is held still. One thread.
 class StillCapture {
 public:
     explicit StillCapture(bool platformCamera, std::size_t wanted) : platformCamera_(platformCamera), wanted_(wanted) {}
 
-    /// Takes what a grab brought. Returns whether a still was taken.
+    /// Processes the frames of one grab. Returns whether a still was taken.
     bool take(const FrameRecords& frames);
 
     bool isComplete() const { return stills_.size() >= wanted_; }
-    /// What the person at the module is to do.
+    /// Returns an instruction for the operator.
     QString advice() const;
     const std::vector<vq::SelectedImages>& stills() const { return stills_; }
 

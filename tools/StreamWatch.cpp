@@ -15,21 +15,22 @@ namespace {
 
 constexpr const char* kNames[] = {"left infrared", "right infrared", "depth", "third colour", "rear camera"};
 constexpr const char* kIds[] = {"stream-left", "stream-right", "stream-depth", "stream-third", "stream-rear"};
-/// New pictures a second that the program needs of each stream. Infrared and colour have a tenth less than is asked
-/// for; depth may come with every other infrared picture, and the rear camera may expose twice as long.
+/// The number of new images per second that the program needs of each stream. For infrared and colour this is a tenth
+/// less than requested; depth may be delivered with every other infrared image, and the rear camera may expose twice as
+/// long.
 constexpr double kLeastRates[] = {54, 54, 27, 27, 13};
-/// A picture older than this is not matched with another one.
+/// An image older than this is not matched with another one.
 constexpr double kOldestMs = 100;
 constexpr double kTolerableOldShare = 0.02;
 constexpr double kLeastDeliveredShare = 0.9;
-constexpr double kMovingShare = 0.4;  ///< of new pictures among all, below which a scene or a recording stands still
+constexpr double kMovingShare = 0.4;  ///< share of new images below which the scene is static
 constexpr double kBlankDeviation = 2.0;
 constexpr int kLargestInfrared = 1023;
 
 constexpr int kLargestShift = 48;
 constexpr int kRowStep = 8;
 constexpr int kMostRowPictures = 6;
-constexpr double kTexturedShare = 0.8;  ///< cost of the best shift, of the mean of all, above which rows show nothing
+constexpr double kTexturedShare = 0.8;  ///< lowest cost over mean cost above which rows show no texture
 
 constexpr int kLeastTimedSets = 60;
 
@@ -39,7 +40,7 @@ constexpr int kTolerableLag = 2;
 constexpr double kLeastCorrelation = 0.6;
 constexpr int kLeastMovingSets = 4;
 
-/// Two streams of pictures that are handed over without their own owner.
+/// Returns a matrix that shares the memory of the image.
 cv::Mat matOf(const ImageFrame& picture, int type) {
     if (picture.empty()) return {};
     return {static_cast<int>(picture.height()), static_cast<int>(picture.width()), type,
@@ -50,7 +51,7 @@ bool same(const cv::Mat& a, const cv::Mat& b) {
     return a.size() == b.size() && a.type() == b.type() && std::memcmp(a.data, b.data, a.total() * a.elemSize()) == 0;
 }
 
-/// A single channel at every so many pixels, of an infrared, depth, colour (green) or luma picture.
+/// Returns one channel of every `step`-th pixel of an infrared, depth, colour (green) or luma image.
 cv::Mat sparse(const cv::Mat& picture, int step) {
     cv::Mat out(picture.rows / step, picture.cols / step, CV_32FC1);
     for (int y = 0; y < out.rows; ++y) {
@@ -68,7 +69,7 @@ double meanDifference(const cv::Mat& a, const cv::Mat& b) {
     return a.size() == b.size() ? cv::norm(a, b, cv::NORM_L1) / static_cast<double>(a.total()) : 0;
 }
 
-/// For each shift, how much every eighth row differs from the next one moved by it.
+/// Adds, for each shift, the difference between every eighth row and the following row moved by that shift.
 void addRowCosts(const cv::Mat& picture, std::vector<double>* costs) {
     const cv::Mat values = sparse(picture, 1);
     costs->resize(2 * kLargestShift + 1, 0);
@@ -83,7 +84,8 @@ void addRowCosts(const cv::Mat& picture, std::vector<double>* costs) {
     }
 }
 
-/// Motion over three frame sets, so that streams of half the rate compare with the others.
+/// Returns the square root of the motion over three frame sets, so that streams with half the rate can be compared with
+/// the others.
 std::vector<double> smoothed(const std::vector<float>& motion) {
     std::vector<double> out(motion.size(), 0);
     for (std::size_t i = 1; i + 1 < motion.size(); ++i)
@@ -115,7 +117,8 @@ bool movesEnough(const std::vector<double>& motion) {
     return moving >= kLeastMovingSets && largest > 2 * mean;
 }
 
-/// Frame sets by which the second stream comes after the first; none where motion does not tell.
+/// Returns the number of frame sets by which the second stream lags behind the first; none when the motion does not
+/// determine it.
 std::optional<int> lagBetween(const std::vector<double>& first, const std::vector<double>& second) {
     if (first.size() != second.size() || !movesEnough(first) || !movesEnough(second)) return std::nullopt;
     int best = 0;
@@ -265,7 +268,8 @@ CheckLine StreamWatch::levelLine() const {
     return line;
 }
 
-/// Pixels by which each row stands to the right of the one before; the largest integer where nothing can be told.
+/// Returns the number of pixels by which each row is shifted to the right of the previous one; the largest integer when
+/// it cannot be determined.
 int StreamWatch::rowShift(const Followed& stream) const {
     const std::vector<double>& costs = stream.rowCosts;
     if (costs.empty()) return std::numeric_limits<int>::max();

@@ -14,19 +14,19 @@ namespace fieldcal {
 
 enum StreamIndex : std::size_t { kLeft, kRight, kDepth, kThird, kRear, kStreamCount };
 
-/// What was seen of one stream.
+/// Statistics of one stream.
 struct StreamStatistics {
-    int width = 0, height = 0;  ///< of its last picture
-    int delivered = 0;          ///< frame sets with a picture
-    int changes = 0;            ///< pictures that differ from the one before
-    int largest = 0;            ///< the largest value of an infrared picture
-    double newPerSecond = 0;    ///< pictures that differ from the one before, while the time was taken
-    double jitterMs = 0;        ///< one deviation of the time between them
-    double oldestMs = 0;        ///< how old a picture was at most when the next one came
-    bool showsSomething = false;
+    int width = 0, height = 0;    ///< of the last image
+    int delivered = 0;            ///< number of frame sets with an image
+    int changes = 0;              ///< images that differ from the previous one
+    int largest = 0;              ///< largest value of an infrared image
+    double newPerSecond = 0;      ///< new images per second while timing was on
+    double jitterMs = 0;          ///< standard deviation of the time between these images
+    double oldestMs = 0;          ///< longest time from one new image to the next
+    bool showsSomething = false;  ///< whether any image was not uniform
 };
 
-/// Follows the pictures of all streams over frame sets: sizes, rates, ages, whether rows are packed, and whether the
+/// Observes the images of all streams over frame sets: sizes, rates, ages, whether rows are packed, and whether the
 /// streams show the same moment. One thread.
 class StreamWatch {
 public:
@@ -34,13 +34,15 @@ public:
 
     explicit StreamWatch(bool hasRearCamera) : hasRearCamera_(hasRearCamera) {}
 
-    /// From here on frame sets come as fast as the module delivers them, or no longer.
+    /// Starts or ends timing. While it is on, frame sets have to be grabbed as fast as the module delivers them.
     void setTiming(bool on);
+    /// Evaluates a frame set that was grabbed at `now`. A stream without an image in this set is empty.
     void take(const session::FramePictures& pictures, Clock::time_point now);
 
+    /// Returns the number of frame sets so far.
     int sets() const { return sets_; }
     StreamStatistics statistics(std::size_t stream) const;
-    /// One for each stream, then those about rows and moments.
+    /// Returns one line for each stream, then the lines about rows and moments.
     CheckLines lines() const;
 
     static const char* nameOf(std::size_t stream);
@@ -49,9 +51,9 @@ private:
     struct Followed {
         StreamStatistics seen;
         cv::Mat last;
-        std::vector<float> motion;  ///< by frame set
-        std::vector<double> timedMs;
-        std::vector<double> rowCosts;  ///< by shift between one row and the next
+        std::vector<float> motion;     ///< mean absolute change of the pixel values, for each frame set
+        std::vector<double> timedMs;   ///< arrival of new images since timing began
+        std::vector<double> rowCosts;  ///< for each shift between one row and the next
         int rowPictures = 0;
         bool equalsLeft = true;
     };

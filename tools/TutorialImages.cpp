@@ -1,5 +1,5 @@
-// Makes the two pictures on which the refinement is explained: a street as the module would see it, rendered with the
-// cameras that render/TutorialPictures.h promises.
+// Makes the two images with which the refinement is explained: a street as seen by the module, rendered with the
+// cameras specified in render/TutorialPictures.h.
 //
 //   fieldcal-tutorial-images DEPTH.bin COLOR.bin        (resources/Files/TutorialDepth.bin and TutorialColor.bin)
 
@@ -30,7 +30,7 @@ session::Intrinsics pinhole(const CameraModel& model) {
     return camera;
 }
 
-/// The tutorial's cameras as a rig; a colour camera's principal point is told as it is once the picture is scaled.
+/// Returns the tutorial's cameras as a rig. The principal point of a colour camera is given for the scaled image.
 synthesis::Rig tutorialRig() {
     TutorialPictures sizes;
     sizes.depth.resize(628, 468);
@@ -54,7 +54,7 @@ session::FramePictures takePictures() {
     const world::Moment moment{hand.rest(kView).pose, 0};
     world::StereoModel stereo;
     stereo.noisePx = 0.03;
-    stereo.emitter = true;  // in a light in which its dots reach all that is near: few holes
+    stereo.emitter = true;  // with so little ambient light that the dots reach all near objects: few holes
     stereo.light = 1.0 / 100;
     return world::Cameras(tutorialRig()).take(*stage->world, moment, synthesis::StillSettings(), stereo, kSeed);
 }

@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
     int status = fieldcal::kSolved;
     const auto command = fieldcal::parseCommandLine(QCoreApplication::arguments().mid(1), &status);
     if (command) status = fieldcal::runCommand(*command);
-    // What was printed into a file may find the disk full only now.
+    // Buffered output is flushed here, so that a full disk is noticed when standard output is a file.
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
     return status == fieldcal::kSolved ? fieldcal::fail("standard output cannot be written") : status;
 }

@@ -10,23 +10,24 @@
 
 namespace fieldcal {
 
-/// That a calibration was to be stored. It stands on disk from before the write until the module has confirmed it; a
-/// note that is found at a start means that a save did not come to its end, and the module's block says how far it
-/// came.
+/// A note that a calibration is about to be stored. It is on the disk from before the write until the module has
+/// confirmed the calibration. A note found at program start means that a save failed or was interrupted; the module's
+/// parameter block shows how far the save came.
 struct SaveNote {
     std::uint32_t serial = 0;
     QDateTime begun;
-    QString reason;                     ///< why it failed; empty when the program ended before it knew
-    QString flash;                      ///< what the module said its flash held
-    QString backupFile;                 ///< the block that was there before; may be empty
-    std::optional<BlockChange> change;  ///< none: nothing had been sent to the flash
+    QString reason;                     ///< reason of the failure; empty when the program ended before it was known
+    QString flash;                      ///< content of the flash as far as the module reported it
+    QString backupFile;                 ///< backup of the previous block; may be empty
+    std::optional<BlockChange> change;  ///< none: nothing had been sent to the flash yet
 };
 
-/// All take the program's data folder, in which each module has a note of its own. Writing and removing give false
-/// after logging why; after writing, note and folder are on the disk.
+/// All functions take the program's data folder, which holds one note for each module. Writing and removing return
+/// false after logging the reason. After writing, the note and its folder are on the disk.
 bool writeSaveNote(const QString& folder, const SaveNote& note);
 bool removeSaveNote(const QString& folder, std::uint32_t serial);
-/// None without a note. One that cannot be read is logged and counts as an empty note: something was not stored.
+/// Returns none when there is no note. A note that cannot be read is logged and returned with the serial number only: a
+/// calibration was not stored, but no details are known.
 std::optional<SaveNote> readSaveNote(const QString& folder, std::uint32_t serial);
 
 }  // namespace fieldcal

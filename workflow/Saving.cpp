@@ -3,7 +3,8 @@
 namespace fieldcal {
 namespace {
 
-/// Quietly, as a module that does not tell its block may do everything else.
+/// Returns the parameter block of the open module. A failure is not reported as an error, because a module that does
+/// not provide its block may work in every other respect.
 std::optional<KXCalibRectParameters> presentBlock(Sensor& sensor) {
     const std::shared_ptr<KXDevice> device = sensor.device();
     if (device == nullptr) return std::nullopt;
@@ -43,7 +44,7 @@ SaveResult storeRotations(Sensor& sensor, const Rotation& third, const Rotation&
     note.reason = sensor.writeBack().reason;
     note.flash = flashText(sensor.writeBack());
     note.backupFile = sensor.writeBack().backupFile;
-    // The note before it says less, but nothing wrong.
+    // When this fails, the earlier note stays: it is less detailed, but still correct.
     const bool complete = writeSaveNote(dataFolder, note);
     return {false, complete || noted};
 }

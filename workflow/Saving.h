@@ -11,7 +11,7 @@ namespace fieldcal {
 /// The outcome of a save.
 struct SaveResult {
     bool stored = false;  ///< the module has confirmed the rotations
-    bool told = true;     ///< confirmed, or a note on the disk reports the failure at the next start
+    bool told = true;     ///< confirmed, or a note on the disk will report the failure at the next start
 };
 
 /// Writes the rotations into the module. A note is kept in `dataFolder` from before the write until the module has

@@ -22,7 +22,7 @@ bool failedWith(std::string* reason) {
     return false;
 }
 
-/// Some file systems cannot sync a folder, or a special file; they have nothing that could get lost.
+/// Some file systems do not support syncing a folder or a special file. Nothing is buffered there that could be lost.
 bool syncDescriptor(int descriptor) {
     return fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
@@ -43,7 +43,7 @@ bool SystemFile::create(const std::string& name, const std::string& like) {
     nameIsTaken_ = handle_ < 0 && errno == EEXIST;
     if (handle_ < 0) return failed();
     struct stat present {};
-    // A file system without access rights has none to lose.
+    // A failure is ignored: on a file system without access rights there are none to keep.
     if (stat(like.c_str(), &present) == 0) (void)!fchmod(static_cast<int>(handle_), present.st_mode & kRights);
     return true;
 }
@@ -97,7 +97,7 @@ bool SystemFile::close() {
     if (handle_ < 0) return true;
     const int descriptor = static_cast<int>(handle_);
     handle_ = -1;
-    // An interrupted close has closed.
+    // The descriptor is closed even when close() is interrupted.
     return ::close(descriptor) == 0 || errno == EINTR || failed();
 }
 
@@ -129,7 +129,7 @@ bool unlinkFile(const std::string& file, std::string* reason) {
 
 bool syncFolder(const std::string& folder, std::string* reason) {
     const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    // A folder that may be written but not read cannot be synced by its user.
+    // A folder with write but no read permission cannot be synced by the user.
     if (descriptor < 0) return errno == EACCES || failedWith(reason);
     const bool synced = syncDescriptor(descriptor) || failedWith(reason);
     ::close(descriptor);

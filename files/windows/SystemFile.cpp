@@ -7,7 +7,7 @@
 namespace fieldcal {
 namespace {
 
-constexpr std::intptr_t kClosed = -1;  // as INVALID_HANDLE_VALUE
+constexpr std::intptr_t kClosed = -1;  // the value of INVALID_HANDLE_VALUE
 
 std::wstring wide(const std::string& name) {
     return std::filesystem::u8path(name).make_preferred().wstring();
@@ -47,7 +47,7 @@ bool SystemFile::failed() {
     return false;
 }
 
-/// The folder gives the access rights.
+/// The new file inherits its access rights from the folder.
 bool SystemFile::create(const std::string& name, const std::string&) {
     handle_ = opened(name, GENERIC_WRITE, CREATE_NEW);
     nameIsTaken_ = handle_ == kClosed && GetLastError() == ERROR_FILE_EXISTS;
@@ -146,7 +146,7 @@ bool unlinkFile(const std::string& file, std::string* reason) {
     return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND || failedWith(reason);
 }
 
-/// The file system writes down its entries by itself, and in order.
+/// Windows file systems write folder entries in order by themselves; an explicit sync is not needed.
 bool syncFolder(const std::string&, std::string*) {
     return true;
 }

@@ -9,11 +9,11 @@
 namespace kxadapter {
 namespace {
 
-/// One interface: a handle of the library's, and the functions for it.
+/// One interface: a handle of the adapted library and the functions that use it.
 template <typename Interface>
 class Adapted : public Interface {
 public:
-    /// Null for a null handle.
+    /// Binds the object to `handle` and returns it; null for a null handle.
     Interface* around(void* handle, bool* missing) {
         handle_ = handle;
         missing_ = missing;
@@ -21,13 +21,13 @@ public:
     }
 
 protected:
-    /// The function's answer, or nothing from one that is missing.
+    /// Calls the function and returns its result; returns zero (false, null) when the function is missing.
     template <typename Answer, typename... Parameters, typename... Arguments>
     Answer call(Answer (*function)(void*, Parameters...), Arguments... arguments) {
         *missing_ = function == nullptr;
         return function != nullptr ? function(handle_, arguments...) : Answer{};
     }
-    /// The same for `lastStatus`, which tells of the call before.
+    /// The same for `lastStatus`, which reports the status of the preceding call.
     std::int32_t statusOf(std::int32_t (*function)(void*)) {
         if (*missing_ || function == nullptr) return KX_STATUS_FAILED;
         return function(handle_);
@@ -157,7 +157,7 @@ public:
 
 private:
     void* const device_;
-    bool missingFunction_ = false;  ///< the call before had no function
+    bool missingFunction_ = false;  ///< the preceding call had no function
     AdaptedHardwareControl hardware_;
     AdaptedThirdCamera third_;
     AdaptedEmitterControl emitter_;

@@ -7,7 +7,8 @@
 
 namespace kxadapter {
 
-/// The other direction of a rotation, or columns for rows. Nine numbers; `in` and `out` must not overlap.
+/// Transposes a 3 x 3 matrix, to invert a rotation or to convert between row-major and column-major order. `in` and
+/// `out` hold nine numbers each and must not overlap.
 template <typename From, typename To>
 void transpose(const From* in, To* out) {
     for (int row = 0; row < 3; ++row) {
@@ -16,10 +17,11 @@ void transpose(const From* in, To* out) {
     }
 }
 
-/// A picture whose rows follow each other without gaps. What `take` gives is valid until its next call.
+/// Holds an image with packed rows (no gaps between them).
 class PackedPicture {
 public:
-    /// `pitch`: bytes from one row of `source` to the next, at least `rowBytes`. Null stays null.
+    /// Copies `source` row by row. `pitch`: bytes from one row of `source` to the next, at least `rowBytes`. The result
+    /// is valid until the next call; it is null when `source` is null.
     std::uint8_t* take(const void* source, std::size_t rowBytes, std::size_t rows, std::size_t pitch) {
         if (source == nullptr) return nullptr;
         bytes_.resize(rowBytes * rows);

@@ -4,10 +4,10 @@
 
 #include <cstdint>
 
-/// What an adapter fills in: for each interface of `KXAPI.h` a plain structure of functions, in the order of its
-/// operations and with their meaning. The first argument is what the library calls the thing: a handle, whatever that
-/// is. Units, orders and numbers are those of `KXAPI.h`; to bring the library's own into that form is the functions'
-/// work. A function that is left null fails with status 1.
+/// The structure that an adapter fills in. For each interface of `KXAPI.h` it has a record of functions, in the order
+/// of the interface's operations and with the same meaning. The first argument is a handle, by which the adapted
+/// library identifies the device or the interface. Units, matrix orders and numbers are those of `KXAPI.h`; the
+/// functions convert between them and those of the adapted library. A function left null fails with status 1.
 namespace kxadapter {
 
 struct HardwareControlFunctions {
@@ -84,12 +84,12 @@ struct DeviceFunctions {
     bool (*resumeDevice)(void* handle);
 };
 
-/// A camera library. Filled in once, and never changed.
+/// An adapted camera library. It is filled in once and then constant.
 struct Library {
-    /// The handle of a new device; null when there is no camera.
+    /// Returns the handle of a new device; null when there is no camera.
     void* (*create)(std::int32_t platform);
     void (*destroy)(void* device);
-    /// The text of a status of `KXAPI.h`.
+    /// Returns the text of a status value of `KXAPI.h`.
     KXStatusStringFunction statusText;
     KXRectificationTableFunction rectificationTable;
     KXRectifyBGRA8ToBGRA8Function rectifyBGRA8ToBGRA8;
@@ -101,7 +101,7 @@ struct Library {
     PrivateFunctions access;
 };
 
-/// Defined by the adapter.
+/// Returns the adapted library. Every adapter defines this function.
 const Library& library();
 
 }  // namespace kxadapter

@@ -19,7 +19,7 @@ bool exists(const std::string& path) {
     return access(path.c_str(), F_OK) == 0;
 }
 
-/// Set once libraries come from nowhere else.
+/// Set when libraries may be loaded from this folder only.
 std::string& onlyFolder() {
     static std::string folder;
     return folder;
@@ -32,7 +32,7 @@ void* openSharedLibrary(const char* name, std::string* why) {
     const std::string folder = restricted ? onlyFolder() : programFolder();
     const std::string adapter = folder + "lib" + name + "Adapter.so";
     const std::string file = std::string("lib") + name + ".so";
-    // A library that is there but broken must be reported as such, not hidden behind "not found".
+    // A library that exists but is broken must be reported as broken, not as missing.
     std::string chosen = restricted || exists(folder + file) ? folder + file : file;
     if (!restricted && exists(adapter)) chosen = adapter;
     void* handle = dlopen(chosen.c_str(), RTLD_NOW | RTLD_LOCAL);
@@ -45,7 +45,7 @@ void* openSharedLibrary(const char* name, std::string* why) {
 
 bool restrictToSimulated(const char* folder) {
     const std::string path = programFolder() + folder + '/';
-    // Elsewhere than on a tablet the libraries beside the program are the simulated ones.
+    // On this system the libraries beside the program are the simulated ones.
     if (access(path.c_str(), X_OK) == 0) onlyFolder() = path;
     return true;
 }

@@ -12,7 +12,7 @@ std::wstring programFolder() {
     return path.substr(0, path.find_last_of(L"\\/") + 1);
 }
 
-/// Set once libraries come from nowhere else.
+/// Set when libraries may be loaded from this folder only.
 std::wstring& onlyFolder() {
     static std::wstring folder;
     return folder;
@@ -34,7 +34,8 @@ void* openSharedLibrary(const char* name, std::string* why) {
     const std::wstring folder = restricted ? onlyFolder() : programFolder();
     const std::wstring adapter = folder + widened(name) + L"Adapter.dll";
     const std::wstring own = !restricted && exists(adapter) ? adapter : folder + file;
-    // Neither the current folder nor those of PATH, which others may write: this program has an administrator's rights.
+    // The current folder and the folders of PATH are not searched, because others may be able to write to them while
+    // this program runs with administrator rights.
     const HMODULE module =
         restricted || exists(own)
             ? LoadLibraryExW(own.c_str(), nullptr, LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_DEFAULT_DIRS)

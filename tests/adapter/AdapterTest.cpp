@@ -5,7 +5,7 @@
 namespace fieldcal::testing {
 namespace {
 
-/// What the rest of the tests cannot see: that they ran with the adapter, and that pictures arrive as they were.
+/// Checks what the other tests cannot: that they ran with the adapter, and that images arrive unchanged.
 class AdapterTest : public ModuleRig {};
 
 TEST_F(AdapterTest, PicturesAndCalibrationArriveAsTheModuleHasThem) {

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-/// It wraps the simulated module, so that pictures, calibration and faults are the same.
+/// This library wraps the simulated module, so that images, calibration and faults are the same.
 namespace {
 
 constexpr std::size_t kRowUnit = 64;
@@ -24,7 +24,7 @@ constexpr std::array<int, 12> kResults{DC_OK,       -1001,     -1002, -1003, DC_
                                        DC_HARDWARE, DC_IN_USE, -1008, -1009, -1010,           DC_OLD_FIRMWARE};
 
 void* inModule(const char* file, const char* name) {
-    // By name alone the adapter itself would be found.
+    // The name without a folder would find the adapter itself.
     void* handle = dlopen(file, RTLD_NOW | RTLD_LOCAL);
     return handle != nullptr ? dlsym(handle, name) : nullptr;
 }
@@ -34,7 +34,7 @@ Function simulated(const char* name) {
     return reinterpret_cast<Function>(inModule(SIMULATED_MODULE, name));
 }
 
-/// DC_OTHERS minus the number, unless it has a name here.
+/// Returns the result for a status: `DC_OTHERS` minus the number, unless it has a name here.
 int resultOf(std::int32_t status) {
     return status >= 0 && status < static_cast<std::int32_t>(kResults.size())
                ? kResults[static_cast<std::size_t>(status)]
@@ -79,7 +79,7 @@ KXCalibIntrinsicsRectified rectified(const DcPinhole& in) {
             static_cast<std::int32_t>(in.size[1])};
 }
 
-/// A picture with padded rows, and with red first if it is one of colour.
+/// An image with padded rows; in a colour image red comes first.
 struct Padded {
     std::vector<std::uint8_t> bytes;
 
@@ -107,7 +107,7 @@ struct Camera {
     KXPrivate* flash = nullptr;
     std::array<Padded, 4> pictures;
     std::array<double, 9> rearRectification{};
-    bool refused = false;  ///< this library itself refused the call before
+    bool refused = false;  ///< the previous call was refused by this library itself
 
     int done(bool good) {
         refused = false;
@@ -119,7 +119,7 @@ Camera& cameraOf(void* handle) {
     return *static_cast<Camera*>(handle);
 }
 
-/// The maker's own bytes.
+/// Returns a byte of the block that is reserved for the manufacturer.
 std::uint8_t ownByte(std::size_t index) {
     return static_cast<std::uint8_t>(index * 37 + 11);
 }

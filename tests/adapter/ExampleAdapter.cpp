@@ -10,7 +10,7 @@
 #include <string>
 #include <utility>
 
-/// The example of an adapter: `DifferentCamera` in the form of `KXAPI.h`.
+/// An example of an adapter: `DifferentCamera` with the interface of `KXAPI.h`.
 namespace {
 
 using kxadapter::transpose;
@@ -20,7 +20,7 @@ constexpr double kMicrosecondsPerMillisecond = 1000;
 constexpr double kCorner = 0.5;
 constexpr std::size_t kDepthBytes = 2, kColourBytes = 4;
 
-/// Both ways; what stands in neither column keeps its number beyond `DC_OTHERS`.
+/// The status values in both directions. A value in neither column keeps its number as an offset from `DC_OTHERS`.
 constexpr std::pair<std::int32_t, int> kStatuses[] = {{KX_STATUS_OK, DC_OK},
                                                       {KX_STATUS_NOT_CALIBRATED, DC_UNCALIBRATED},
                                                       {KX_STATUS_NO_DEVICE, DC_NO_CAMERA},
@@ -42,7 +42,7 @@ int resultOf(std::int32_t status) {
     return DC_OTHERS - status;
 }
 
-/// What the adapter keeps of a device. It is the handle of every interface.
+/// The state that the adapter keeps for a device. It is the handle of every interface.
 struct Device {
     void* camera = dcNew();
     DcPlan plan{};
@@ -114,7 +114,7 @@ const std::uint16_t* picture16(void* handle, DcStream stream) {
     return reinterpret_cast<const std::uint16_t*>(picture(handle, stream, kDepthBytes));
 }
 
-/// Blue comes first with us.
+/// Swaps red and blue, because `KXAPI.h` requires blue first.
 const std::uint8_t* thirdImage(void* handle) {
     std::uint8_t* pixels = picture(handle, DC_COLOUR, kColourBytes);
     if (pixels == nullptr) return nullptr;
@@ -158,7 +158,7 @@ kxadapter::DeviceFunctions deviceFunctions() {
     return f;
 }
 
-/// The streams run all at once, so that what is asked for is kept until then.
+/// The library starts all streams at once, so the settings are kept until then.
 void addStreams(kxadapter::DeviceFunctions* f) {
     f->setDepthStreamMode = [](void* d, bool rectified, std::int32_t w, std::int32_t h, std::int32_t rate,
                                std::int32_t format) {
@@ -305,7 +305,7 @@ const kxadapter::Library& kxadapter::library() {
     return all;
 }
 
-/// A real adapter does not export this. Here it brings the simulated rear camera along.
+/// A real adapter does not export this. Here it provides the simulated rear camera.
 DC_EXPORT RearCameraSource* KXSimRearCamera() {
     return static_cast<RearCameraSource*>(dcRearCamera());
 }

@@ -6,8 +6,8 @@
 #include <array>
 #include <cstring>
 
-/// The parameters of `DifferentCamera`, twice as large as ours, and the part of them that we know. The rest goes back
-/// as it was read.
+/// The parameter block of `DifferentCamera`, twice as large as that of `KXAPI.h`, and its known part. The rest is
+/// written back as it was read.
 class ExampleBlock {
 public:
     std::uint8_t* bytes() { return large_.data(); }

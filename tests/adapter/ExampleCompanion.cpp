@@ -1,7 +1,7 @@
 #include "kxapi/adapter/Conversions.h"
 #include "tests/adapter/ExampleBlock.h"
 
-/// The example of an adapted companion library.
+/// An example of an adapted companion library.
 namespace {
 
 void turn(const KXCalibRectParameters* in, int camera, const double* rotation, KXCalibRectParameters* out) {

@@ -1,16 +1,16 @@
-// A library to be preloaded: the disk under a program, as far as files below some folders go. It fails or ends the
-// program at the N-th call of a kind, and keeps a journal from which the folder can be rebuilt as a power cut leaves
-// it.
+// A library to be preloaded. It simulates a failing disk for files below given folders: it makes the N-th call of a
+// kind fail, or ends the program at that call. It also keeps a journal, from which the state of the folder after a
+// power cut can be rebuilt.
 //
 //   FAILIO_FOLDERS   the folders, separated by ':'; absolute, without symbolic links
-//   FAILIO_WITNESSED folders whose calls come into the journal, too, and never fail
+//   FAILIO_WITNESSED folders whose calls are recorded in the journal but never fail
 //   FAILIO_KIND      open (for writing), write, fsync, rename, unlink, mkdir, or any
 //   FAILIO_NTH       which call of that kind, from 1; 0: none
 //   FAILIO_ACTION    a number: the call fails with it; die, die-after: the program ends (137) before or after the call
 //   FAILIO_ONCE      set: later calls succeed; a disk that is full for good takes half of the write before
 //   FAILIO_JOURNAL   a folder for the journal, and for a copy of each file's content when it is synced
 //
-// The file `hit` in the journal's folder names the first call that was acted upon.
+// The file `hit` in the journal's folder names the first call that failed or ended the program.
 #include <atomic>
 #include <cerrno>
 #include <climits>
@@ -40,7 +40,7 @@ std::string setting(const char* name) {
     return value != nullptr ? value : "";
 }
 
-/// Never changed once it is made, so that any thread may read it.
+/// The settings are constant after construction, so any thread may read them.
 struct Settings {
     std::string folders = setting("FAILIO_FOLDERS") + ':', kind = setting("FAILIO_KIND");
     std::string witnessed = folders + setting("FAILIO_WITNESSED") + ':';
@@ -95,7 +95,7 @@ bool exists(const std::string& path) {
     return access(path.c_str(), F_OK) == 0;
 }
 
-/// Past the functions of this library.
+/// Writes with the functions of the C library, not those of this library.
 void put(const std::string& file, const std::string& text, int flags) {
     const int descriptor = real<int (*)(const char*, int, ...)>("open")(file.c_str(), flags | O_WRONLY | O_CREAT, 0666);
     if (descriptor < 0) return;
@@ -128,7 +128,7 @@ void keepSynced(const std::string& path) {
     note("S\t" + path + '\t' + copy);
 }
 
-/// One call on a watched file: counted, and acted upon when it is its turn.
+/// One call on a watched file. It is counted, and fails or ends the program when its number is reached.
 class Call {
 public:
     Call(const char* kind, const std::string& path) {
@@ -152,7 +152,7 @@ public:
         errno = settings().error();
         return true;
     }
-    /// How much a disk that becomes full takes of what is written to it.
+    /// Returns how many of `size` bytes a disk that becomes full still accepts.
     std::size_t taken(std::size_t size) const {
         return hit_ && !settings().once && settings().error() == ENOSPC ? size / 2 : 0;
     }

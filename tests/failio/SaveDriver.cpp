@@ -1,12 +1,12 @@
-// The application's save without its screen, on the simulated module, for a disk that fails:
+// Runs the application's save without its interface, on the simulated module and a failing disk:
 //
-//   save-driver save DATA SERVICE     opens the module, turns the in-module camera by a degree, stores as the
-//   application
-//                                     does, and keeps report and history; status 0: it says that it is stored
-//   save-driver look DATA SERVICE     the next start: prints stored, not-stored, neither or none
+//   save-driver save DATA SERVICE     opens the module, turns the in-module camera by a degree, stores the rotation
+//                                     as the application does, and adds to report and history; status 0 means that it
+//                                     reports the rotation as stored
+//   save-driver look DATA SERVICE     does what the next start does: prints stored, not-stored, neither or none
 //
-// SERVICE is a file with the start type of the vendor's service, which is not on the disk that fails. SERVICE.unnoted
-// appears when the service is disabled without a note.
+// SERVICE is a file with the start type of the vendor's service, which is not on the failing disk. SERVICE.unnoted is
+// created when the service is disabled without a note.
 #include "camera/Rotation.h"
 #include "devices/CameraParameterReader.h"
 #include "report/ReportFile.h"

@@ -11,7 +11,7 @@ namespace {
 using ::testing::Contains;
 using ::testing::ElementsAre;
 
-/// Five stills of the square with the rear camera, by a module that has not drifted.
+/// Five stills of the square with the rear camera, from a module without drift.
 QString undriftedRecording() {
     QString folder =
         renderedRecording("undrifted", {"--world", "square", "--seed", "11", "--stills", "5", "--platform"});
@@ -53,7 +53,7 @@ TEST_F(CheckTest, EverythingFitsButWhatARecordingCannotTell) {
     EXPECT_EQ(good.json()["serial"].toInt(), 700011);
     for (const QJsonValue operation : good.json()["operations"].toArray())
         EXPECT_GT(operation["calls"].toInt(), 0) << operation["name"].toString().toStdString();
-    // What is sent home can be calibrated there.
+    // The recording in the folder can be calibrated elsewhere.
     const Result again = run({"calibrate", home + "/recording", "--seed", "1", "--json", "-"});
     EXPECT_EQ(again.status, 0) << again.error.constData();
     for (const char* file : {"/block.fcbackup", "/report.json", "/report.txt", "/check.log"})
@@ -61,7 +61,7 @@ TEST_F(CheckTest, EverythingFitsButWhatARecordingCannotTell) {
     EXPECT_EQ(check("", {"--out", home}).status, 1) << "nothing is overwritten";
 }
 
-/// Faults that do not touch each other share a run.
+/// Faults that do not affect each other share a run.
 TEST_F(CheckTest, EachFaultIsBlamedOnItsOwnLine) {
     const std::pair<const char*, std::set<std::string>> faults[] = {
         {"padded-rows,hardwareControl:2:6", {"operations", "packed-rows"}},
@@ -90,7 +90,7 @@ TEST_F(CheckTest, AnUnchangedBlockThatIsNotKeptIsNamed) {
     EXPECT_TRUE(living.out.contains("the module changed 5 bytes of its own, the first one at 2040"));
 }
 
-/// A module that has drifted shows neither direction of its rotation.
+/// When the module has drifted, the scene shows neither direction of its rotation.
 TEST_F(CheckTest, WhatCannotBeToldIsNotClaimed) {
     const Result far = run({"check", "--stills", "6", "--json", "-"}, {{"SESSION", recording()}, {"SPEED", "0"}});
     EXPECT_THAT(withVerdict(far, "does not fit"), ElementsAre());

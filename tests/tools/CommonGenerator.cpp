@@ -1,5 +1,5 @@
-// One `rand()` for every system, in place of the C library's own: the same recording and seed then give the same angles
-// on every system.
+// Replaces the C library's `rand()` by the same generator on every system: the same recording and seed then give the
+// same angles everywhere.
 #include <cstdlib>
 
 namespace {

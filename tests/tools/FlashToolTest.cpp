@@ -93,7 +93,7 @@ TEST_F(FlashToolTest, ATabletThatLosesPowerLeavesTheOldOrTheNewCalibration) {
     }
     EXPECT_EQ(calibrateAndWrite("third", "commitCalibration:1:die-after").status, 137);
     EXPECT_NE(info(), before);
-    // The note was still there.
+    // The last save was interrupted after the commit, and its note is still on the disk.
     const Result next = calibrateAndWrite("third");
     EXPECT_EQ(next.status, 0) << next.error.constData();
     EXPECT_TRUE(next.json()["lastSave"].toString().startsWith("The last calibration is stored in the camera"));

@@ -84,8 +84,8 @@ TEST_F(RecordTest, EveryGrabIsPlayedBackAsItWasDelivered) {
         EXPECT_TRUE(before[i] == after[i]) << "grab " << i;
 }
 
-/// The description as reported by the library: with numbers of 32 bits, without frames and without data unknown to a
-/// module.
+/// The description as the library reports it: with 32-bit numbers, without frames, and without data that a module does
+/// not have.
 QJsonValue asTold(const QJsonValue& value) {
     if (value.isDouble()) return static_cast<double>(static_cast<float>(value.toDouble()));
     QJsonArray array = value.toArray();

@@ -24,11 +24,11 @@ inline QString renderedRecording(const QString& name, const QStringList& options
 inline QString mountainRecording() {
     return renderedRecording("mountains", {"--world", "mountains", "--seed", "10", "--stills", "6", "--platform"});
 }
-/// Three stills of the square by the same module, where depth reaches some of the objects.
+/// Three stills of the square from the same module; depth covers some of the objects.
 inline QString squareRecording() {
     return renderedRecording("square", {"--world", "square", "--seed", "10", "--stills", "3"});
 }
-/// Two stills of the night.
+/// Two stills of the world `night`.
 inline QString nightRecording() {
     return renderedRecording("night", {"--world", "night", "--stills", "2"});
 }

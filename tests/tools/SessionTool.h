@@ -13,7 +13,7 @@
 
 #include <map>
 
-/// The command line as users and scripts run it: the real binary, on recordings that it has made.
+/// Runs the command line as users and scripts do: the real program, on recordings that it has made.
 namespace fieldcal::testing {
 
 struct Result {
@@ -33,7 +33,7 @@ inline Result run(const QStringList& arguments, const std::map<QString, QString>
     process.start(TOOL, arguments);
     process.waitForFinished(-1);
     const int status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-    // Windows ends lines with two characters.
+    // On Windows lines end with two characters.
     return {status, process.readAllStandardOutput().replace("\r\n", "\n"),
             process.readAllStandardError().replace("\r\n", "\n")};
 }

@@ -27,7 +27,7 @@ TEST_F(SessionToolTest, SolvesARenderedRecordingForBothCameras) {
     }
 }
 
-/// A rotation of the true extrinsics by a degree about the vertical axis.
+/// Rotates the true extrinsics by a degree about the vertical axis.
 void turnTruth(session::SessionDescription* session, const QString&) {
     session::Matrix3& truth = *session->truthThird;
     const double c = std::cos(kDegree), s = std::sin(kDegree);
