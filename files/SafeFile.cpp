@@ -52,17 +52,19 @@ bool fill(SystemFile* file, const void* bytes, std::size_t size, Durability dura
     return filled && written == size;
 }
 
-bool append(SystemFile* file, const std::string& heading, const std::string& lines) {
+bool append(SystemFile* file, const std::string& heading, const std::string& lines, std::string* reason) {
     std::uint64_t size = 0;
     char last = '\n';
-    if (!file->size(&size) || (size > 0 && !file->readAt(size - 1, &last))) return false;
+    if (!file->size(&size) || (size > 0 && !file->readAt(size - 1, &last))) {
+        *reason = file->reason();
+        return false;
+    }
     const std::string text = (size == 0 ? heading : last != '\n' ? "\n" : "") + lines;
     std::uint64_t grown = 0;
-    if (file->seekToEnd() && file->write(text.data(), text.size()) && file->sync() && file->size(&grown) &&
-        grown >= size + text.size()) {
-        return true;
-    }
-    const std::string reason = file->reason();
+    const bool called =
+        file->seekToEnd() && file->write(text.data(), text.size()) && file->sync() && file->size(&grown);
+    if (called && grown >= size + text.size()) return true;
+    *reason = called ? "it has not taken all that was written" : file->reason();
     file->resize(size);
     return false;
 }
@@ -89,9 +91,9 @@ bool appendLines(const std::string& file, const std::string& heading, const std:
     std::string reason;
     if (!mayBeReplaced(target, &reason)) return refuse(file, reason, why);
     SystemFile open;
-    if (!open.openToChange(target) || !append(&open, heading, lines) || !open.close()) {
-        return refuse(file, open.reason(), why);
-    }
+    if (!open.openToChange(target)) return refuse(file, open.reason(), why);
+    if (!append(&open, heading, lines, &reason)) return refuse(file, reason, why);
+    if (!open.close()) return refuse(file, open.reason(), why);
     return syncFolder(folderOf(target), &reason) || refuse(file, reason, why);
 }
 

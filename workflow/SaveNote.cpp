@@ -66,6 +66,7 @@ std::optional<SaveNote> readSaveNote(const QString& folder, std::uint32_t serial
     if (!file.exists()) return std::nullopt;
     SaveNote note;
     note.serial = serial;
+    note.isWhole = false;
     if (!file.open(QIODevice::ReadOnly)) {
         complain(file, file.errorString());
         return note;
@@ -80,6 +81,7 @@ std::optional<SaveNote> readSaveNote(const QString& folder, std::uint32_t serial
     note.flash = object["flash"].toString();
     note.backupFile = object["backup"].toString();
     note.change = changeOf(object["block"].toObject());
+    note.isWhole = note.change || !object.contains("block");
     return note;
 }
 

@@ -20,14 +20,14 @@ struct SaveNote {
     QString flash;                      ///< content of the flash as far as the module reported it
     QString backupFile;                 ///< backup of the previous block; may be empty
     std::optional<BlockChange> change;  ///< none: nothing had been sent to the flash yet
+    bool isWhole = true;                ///< false: the note cannot be read, and nothing but the serial number is known
 };
 
 /// All functions take the program's data folder, which holds one note for each module. Writing and removing return
 /// false after logging the reason. After writing, the note and its folder are on the disk.
 bool writeSaveNote(const QString& folder, const SaveNote& note);
 bool removeSaveNote(const QString& folder, std::uint32_t serial);
-/// Returns none when there is no note. A note that cannot be read is logged and returned with the serial number only: a
-/// calibration was not stored, but no details are known.
+/// Returns none when there is no note. A note that cannot be read is logged and returned as not whole.
 std::optional<SaveNote> readSaveNote(const QString& folder, std::uint32_t serial);
 
 }  // namespace fieldcal

@@ -27,7 +27,7 @@ LastSave::Outcome outcomeOf(BlockChange::Held held) {
 }  // namespace
 
 SaveResult storeRotations(Sensor& sensor, const Rotation& third, const Rotation& platform, const QString& dataFolder) {
-    SaveNote note{sensor.serialNumber(), QDateTime::currentDateTimeUtc(), {}, {}, {}, {}};
+    SaveNote note{sensor.serialNumber(), QDateTime::currentDateTimeUtc(), {}, {}, {}, {}, true};
     bool noted = writeSaveNote(dataFolder, note);
     const auto beforeWrite = [&](const BlockChange& change, const QString& backupFile, QString* why) {
         note.change = change;
@@ -75,6 +75,11 @@ std::optional<LastSave> settleLastSave(Sensor& sensor, const QString& dataFolder
     const std::uint32_t serial = sensor.serialNumber();
     const std::optional<SaveNote> note = readSaveNote(dataFolder, serial);
     if (!note) return std::nullopt;
+    if (!note->isWhole) {
+        qWarning("What became of the last save is not known, as the note about it cannot be read.");
+        removeSaveNote(dataFolder, serial);
+        return std::nullopt;
+    }
     LastSave last{LastSave::Outcome::NotStored, *note};
     if (note->change) {
         const auto block = presentBlock(sensor);

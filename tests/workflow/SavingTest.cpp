@@ -91,16 +91,17 @@ TEST_F(SavingTest, WithoutAnythingAcceptedBothRecordsArePassedAndNothingIsNoted)
     EXPECT_FALSE(noteAtWrite);
 }
 
-TEST_F(SavingTest, ANoteThatCannotBeReadStillCounts) {
+TEST_F(SavingTest, ADamagedNoteClaimsNothing) {
     QFile file(data.filePath("save-note-550101.json"));
-    for (const char* text : {"", "{", "[1]", R"({"version": 2})", R"({"version": 1, "serial": -5e99, "begun": 7})"}) {
+    for (const char* text :
+         {"", "{", "[1]", R"({"version": 2})", R"({"version": 1, "block": {"bytes": "00", "previous": "x"}})"}) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text);
         file.close();
-        EXPECT_TRUE(readSaveNote(data.path(), kSerial)) << text;
+        EXPECT_FALSE(readSaveNote(data.path(), kSerial)->isWhole) << text;
+        EXPECT_FALSE(settleLastSave(*sensor, data.path())) << "the calibration may be stored all the same";
+        EXPECT_FALSE(readSaveNote(data.path(), kSerial)) << "and it is said once";
     }
-    EXPECT_TRUE(removeSaveNote(data.path(), kSerial));
-    EXPECT_FALSE(readSaveNote(data.path(), kSerial));
 }
 
 /// A complete workflow with the fake module.
