@@ -37,8 +37,8 @@ struct LastSave {
 QString lastSaveText(const LastSave& last);
 
 /// Looks for a note about the open module, determines the outcome from the block that the module holds, and removes the
-/// note. Returns none when there is no note, when it is damaged, which is logged, or when the block cannot be read; only
-/// in the last case the note is kept for the next start.
+/// note. Returns none when there is no note, when it is damaged, which is logged, or when the block cannot be read;
+/// only in the last case the note is kept for the next start.
 std::optional<LastSave> settleLastSave(Sensor& sensor, const QString& dataFolder);
 
 }  // namespace fieldcal
