@@ -27,7 +27,10 @@ bool findImages(const std::string& source, const std::string& name, TimedImages*
         bool isTime = false;
         const qint64 timeNs = file.chopped(4).toLongLong(&isTime);
         const std::string path = name + '/' + file.toStdString();
-        if (!isTime) return session::refuse(why, source + '/' + path, {}, "the name is not a time in nanoseconds");
+        if (!isTime) {
+            const std::string whole = folder.filePath(file).toStdString();
+            return session::refuse(why, whole, {}, "the name is not a time in nanoseconds");
+        }
         out->emplace(timeNs, path);
     }
     return true;
