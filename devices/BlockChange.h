@@ -8,6 +8,7 @@
 
 namespace fieldcal {
 
+/// A set of byte positions in a parameter block.
 using BlockBytes = std::bitset<sizeof(KXCalibRectParameters)>;
 
 /// Digests of a parameter block before and after a write. They identify the block that a module holds after the writing

@@ -1,15 +1,12 @@
 #pragma once
 
 #include "camera/Rotation.h"
+#include "devices/BlockChange.h"
 #include "devices/ModuleLink.h"
 
-#include <bitset>
 #include <optional>
 
 namespace fieldcal {
-
-/// A set of byte positions in a parameter block.
-using BlockBytes = std::bitset<sizeof(KXCalibRectParameters)>;
 
 BlockBytes differences(const KXCalibRectParameters& a, const KXCalibRectParameters& b);
 
