@@ -17,7 +17,7 @@ namespace {
 
 constexpr float kMinimumDistancePx = 10.0F;
 /// A pair within this distance of the winner's prediction does not count as an inlier of a rival.
-constexpr double kNearWinnerPx = 4.5;
+constexpr double kNearWinnerPx = 6.0;
 
 bool isDegenerate(const std::vector<cv::Point2f>& points, const Sample& sample) {
     for (std::size_t i = 0; i < sample.size(); ++i) {
