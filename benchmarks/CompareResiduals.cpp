@@ -13,6 +13,7 @@
 #include "engine/Stopwatch.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -32,10 +33,19 @@ struct Tally {
 
 struct Form {
     const char* name;
-    vq::ResidualForm form;
-    double cauchyPx;
+    vq::ResidualLoss loss;
     Tally tally;
 };
+
+/// Least squares.
+double linearShape(double /*squaredPx*/, double /*squaredScalePx*/) {
+    return 1.0;
+}
+
+/// Bounded (Geman and McClure).
+double boundedShape(double squaredPx, double squaredScalePx) {
+    return 1.0 / std::sqrt(squaredPx + squaredScalePx);
+}
 
 cv::Mat view(const vq::ImagePairRecord& record, int type) {
     return {static_cast<int>(record.height), static_cast<int>(record.width), type,
@@ -61,7 +71,7 @@ std::vector<Lists> verifiedMatches(const BenchmarkData& data, bool mismatched) {
 
 void tryRound(const BenchmarkData& data, const Lists& round, const std::vector<vq::Sample>& samples, Form* form) {
     const Eigen::Vector3d initialRad = vq::anglesFromRotation(data.factory);
-    const vq::RotationCost cost(round.infrared, round.colour, data.cameras, form->form, form->cauchyPx);
+    const vq::RotationCost cost(round.infrared, round.colour, data.cameras, form->loss);
     vq::Stopwatch watch;
     const vq::Consensus consensus = vq::findConsensus(cost, round.infrared, samples, initialRad);
     form->tally.seconds += watch.lap();
@@ -95,14 +105,12 @@ int main(int argc, char** argv) {
         return 2;
     }
     const bool mismatched = std::strcmp(argv[argc - 1], "--mismatched") == 0;
-    using vq::ResidualForm;
-    std::vector<Form> forms{{"pixels", ResidualForm::Pixels, 1, {}},
-                            {"divided by the focal length", ResidualForm::Normalised, 1, {}},
-                            {"bound at 3 px", ResidualForm::InlierScaled, 1, {}},
-                            {"bounded, 2 px", ResidualForm::Bounded, 1, {}},
-                            {"Cauchy, 0.6 px", ResidualForm::Cauchy, 0.6, {}},
-                            {"Cauchy, 1.0 px", ResidualForm::Cauchy, 1.0, {}},
-                            {"Cauchy, 2.5 px", ResidualForm::Cauchy, 2.5, {}}};
+    using vq::ResidualLoss;
+    std::vector<Form> forms{{"least squares", ResidualLoss(linearShape, 1), {}},
+                            {"bounded, 2 px", ResidualLoss(boundedShape, 2), {}},
+                            {"Cauchy, 0.6 px", ResidualLoss::cauchy(0.6), {}},
+                            {"Cauchy, 1.0 px", ResidualLoss::cauchy(1.0), {}},
+                            {"Cauchy, 2.5 px", ResidualLoss::cauchy(2.5), {}}};
     for (int argument = 2; argument < argc - (mismatched ? 1 : 0); ++argument) {
         const BenchmarkData data = loadRecording(argv[argument]);
         const std::vector<Lists> pairs = verifiedMatches(data, mismatched);

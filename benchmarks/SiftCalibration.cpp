@@ -78,7 +78,7 @@ std::optional<Eigen::Matrix3d> calibrateWithSift(const std::vector<const FrameRe
     for (const FrameRecords* still : stills)
         addInliers(matchStill(*still, camera), &all);
     if (all.infrared.size() < kFewestMatches) return std::nullopt;
-    const vq::RotationCost cost(all.infrared, all.colour, camera.cameras, vq::ResidualForm::Cauchy, kFitPx);
+    const vq::RotationCost cost(all.infrared, all.colour, camera.cameras, vq::ResidualLoss::cauchy(kFitPx));
     Eigen::Vector3d anglesRad;
     if (!vq::fitRotationLM(cost, vq::anglesFromRotation(camera.factory), &anglesRad)) return std::nullopt;
     return vq::rotationFromAngles(anglesRad);

@@ -7,26 +7,10 @@
 #include <cmath>
 
 namespace vq {
-namespace {
-
-constexpr double kStepRad = 1e-7;
-
-/// Scale of the bounded form, in pixels.
-constexpr double kBoundedPx = 2.0;
-
-}  // namespace
 
 RotationCost::RotationCost(const std::vector<cv::Point2f>& infraredPoints, const std::vector<cv::Point2f>& colourPoints,
-                           const CameraPair& cameras, ResidualForm form, double cauchyPx)
-    : fx_(cameras.colour.fx),
-      fy_(cameras.colour.fy),
-      cx_(cameras.colour.cx),
-      cy_(cameras.colour.cy),
-      form_(form),
-      squaredCauchyPx_(cauchyPx * cauchyPx),
-      unit_(1.0),
-      lastAnglesRad_(Eigen::Vector3d::Constant(std::nan(""))) {
-    setForm(form);
+                           const CameraPair& cameras, const ResidualLoss& loss)
+    : fx_(cameras.colour.fx), fy_(cameras.colour.fy), cx_(cameras.colour.cx), cy_(cameras.colour.cy), loss_(loss) {
     const fieldcal::CameraModel& infrared = cameras.infrared;
     rays_.reserve(infraredPoints.size());
     colours_.reserve(infraredPoints.size());
@@ -38,50 +22,13 @@ RotationCost::RotationCost(const std::vector<cv::Point2f>& infraredPoints, const
 }
 
 RotationCost::RotationCost(const RotationCost& all, const std::vector<int>& indices)
-    : fx_(all.fx_),
-      fy_(all.fy_),
-      cx_(all.cx_),
-      cy_(all.cy_),
-      form_(all.form_),
-      squaredCauchyPx_(all.squaredCauchyPx_),
-      unit_(all.unit_),
-      lastAnglesRad_(Eigen::Vector3d::Constant(std::nan(""))) {
+    : fx_(all.fx_), fy_(all.fy_), cx_(all.cx_), cy_(all.cy_), loss_(all.loss_) {
     rays_.reserve(indices.size());
     colours_.reserve(indices.size());
     for (const int index : indices) {
         rays_.push_back(all.rays_[static_cast<std::size_t>(index)]);
         colours_.push_back(all.colours_[static_cast<std::size_t>(index)]);
     }
-}
-
-RotationCost::RotationCost(const RotationCost& all, const std::vector<int>& indices, ResidualForm form)
-    : RotationCost(all, indices) {
-    setForm(form);
-}
-
-void RotationCost::setForm(ResidualForm form) {
-    form_ = form;
-    unit_ = 1.0;
-    if (form == ResidualForm::Pixels || form == ResidualForm::Normalised) return;
-    unit_ = kInlierResidual / (kInlierPx * termFactor(kInlierPx * kInlierPx));
-}
-
-/// Residual per pixel for a difference of the given squared length.
-double RotationCost::termFactor(double squaredPx) const {
-    switch (form_) {
-        case ResidualForm::Pixels:
-        case ResidualForm::InlierScaled:
-            return unit_;
-        case ResidualForm::Normalised:
-            return unit_ / fx_;
-        case ResidualForm::Bounded:
-            return unit_ / std::sqrt(squaredPx + kBoundedPx * kBoundedPx);
-        case ResidualForm::Cauchy:
-            break;
-    }
-    const double ratio = squaredPx / squaredCauchyPx_;
-    // √log(1 + r) / √r tends to 1.
-    return ratio > 1e-6 ? unit_ * std::sqrt(std::log(1.0 + ratio) / ratio) : unit_;
 }
 
 template <typename Visit>
@@ -96,36 +43,19 @@ void RotationCost::visitDifferences(const Eigen::Vector3d& anglesRad, Visit&& vi
     }
 }
 
-int RotationCost::operator()(const InputType& anglesRad, ValueType& terms) const {
+void RotationCost::terms(const Eigen::Vector3d& anglesRad, Eigen::VectorXd* out) const {
     visitDifferences(anglesRad, [&](std::size_t i, double u, double v) {
-        const double factor = termFactor(u * u + v * v);
-        terms[static_cast<Eigen::Index>(2 * i)] = u * factor;
-        terms[static_cast<Eigen::Index>(2 * i + 1)] = v * factor;
+        const double perPixel = loss_.perPixel(u * u + v * v);
+        (*out)[static_cast<Eigen::Index>(2 * i)] = u * perPixel;
+        (*out)[static_cast<Eigen::Index>(2 * i + 1)] = v * perPixel;
     });
-    lastAnglesRad_ = anglesRad;
-    lastTerms_ = terms;
-    return 0;
-}
-
-int RotationCost::df(const InputType& anglesRad, JacobianType& jacobian) const {
-    const Eigen::Vector3d centreRad = anglesRad;
-    ValueType terms(values());
-    if (lastAnglesRad_ != centreRad) (*this)(centreRad, terms);
-    const ValueType here = lastTerms_;
-    for (Eigen::Index axis = 0; axis < 3; ++axis) {
-        Eigen::Vector3d movedRad = centreRad;
-        movedRad[axis] += kStepRad;
-        (*this)(movedRad, terms);
-        jacobian.col(axis) = (terms - here) / (movedRad[axis] - centreRad[axis]);
-    }
-    return 0;
 }
 
 void RotationCost::residuals(const Eigen::Vector3d& anglesRad, std::vector<double>* out) const {
     out->resize(rays_.size());
     visitDifferences(anglesRad, [&](std::size_t i, double u, double v) {
         const double squaredPx = u * u + v * v;
-        (*out)[i] = std::sqrt(squaredPx) * termFactor(squaredPx);
+        (*out)[i] = std::sqrt(squaredPx) * loss_.perPixel(squaredPx);
     });
 }
 
@@ -133,8 +63,8 @@ double RotationCost::squaredError(const Eigen::Vector3d& anglesRad) const {
     double sum = 0;
     visitDifferences(anglesRad, [&](std::size_t, double u, double v) {
         const double squaredPx = u * u + v * v;
-        const double factor = termFactor(squaredPx);
-        sum += squaredPx * factor * factor;
+        const double perPixel = loss_.perPixel(squaredPx);
+        sum += squaredPx * perPixel * perPixel;
     });
     return sum;
 }
