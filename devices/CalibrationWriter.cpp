@@ -18,10 +18,12 @@ using Bytes = BlockBytes;
 using Flash = WriteBackReport::Flash;
 
 /// Largest difference between a rotation that the module reports and the one written: several roundings to 32 bits.
-constexpr float kToldTolerance = 1e-4F;
+constexpr float kReportedTolerance = 1e-5F;
 
 constexpr const char* kNotKept =
     QT_TRANSLATE_NOOP("Interface", "The camera said that it stored the calibration, but it did not");
+constexpr const char* kImagesDisagree =
+    QT_TRANSLATE_NOOP("Interface", "The camera's images do not fit the new calibration");
 
 Bytes matrixBytes() {
     Bytes bytes;
@@ -119,10 +121,10 @@ bool CalibrationWriter::run(const std::function<bool(QString* why)>& makeWanted)
     if (!alsoUnchanged_ && differences(wanted_, previous_).none()) {
         qInfo("The camera holds this calibration already. Nothing is written.");
         report_.flash = Flash::Written;
-        return resume() && tellsWanted();
+        return resume() && reportsWanted();
     }
-    const bool stored =
-        write() && readAgain() && holdsWanted() && resume() && readAgain() && holdsWanted() && tellsWanted();
+    const bool stored = write() && readAgain() && holdsWanted() && resume() && readAgain() && holdsWanted() &&
+                        reportsWanted() && imagesAgree();
     if (!stored) {
         putBack();
         resume();
@@ -221,33 +223,38 @@ bool CalibrationWriter::holdsWanted() {
 }
 
 /// Compares the rotations that the module reports after reloading the block.
-bool CalibrationWriter::tellsWanted() {
+bool CalibrationWriter::reportsWanted() {
     if (!rotations_) return true;
-    if (!tells("in-module", link_.read(third_, &KXThirdCamera::zToThirdExtrinsics), rotations_->third)) return false;
+    if (!reports("in-module", link_.read(third_, &KXThirdCamera::zToThirdExtrinsics), rotations_->third)) return false;
     if (!rotations_->platform) return true;
-    const auto told = link_.ask([device = link_.device().get()]() -> std::optional<KXCalibExtrinsics> {
+    const auto reported = link_.ask([device = link_.device().get()]() -> std::optional<KXCalibExtrinsics> {
         KXPlatformCamera* camera = device->platformCamera();
         if (camera == nullptr) return std::nullopt;
         return ModuleLink::filled(camera, &KXPlatformCamera::zToPlatformExtrinsics);
     });
-    return tells("out-of-module", told, *rotations_->platform);
+    return reports("out-of-module", reported, *rotations_->platform);
 }
 
-bool CalibrationWriter::tells(const char* which, const std::optional<KXCalibExtrinsics>& told, const Rotation& wanted) {
-    if (!told) return failed();
-    const bool same = std::equal(wanted.begin(), wanted.end(), told->rotation,
-                                 [](float a, float b) { return std::abs(a - b) <= kToldTolerance; });
+bool CalibrationWriter::reports(const char* which, const std::optional<KXCalibExtrinsics>& reported,
+                                const Rotation& wanted) {
+    if (!reported) return failed();
+    const bool same = std::equal(wanted.begin(), wanted.end(), reported->rotation,
+                                 [](float a, float b) { return std::abs(a - b) <= kReportedTolerance; });
     if (same) return true;
-    const float* r = told->rotation;
+    const float* r = reported->rotation;
     qCritical("The camera's %s rotation is now [%f %f %f; %f %f %f; %f %f %f], which is not what was written.", which,
               r[0], r[1], r[2], r[3], r[4], r[5], r[6], r[7], r[8]);
     return notKept();
 }
 
+bool CalibrationWriter::imagesAgree() {
+    return !rotations_ || !afterWrite_ || afterWrite_() || disagrees(kImagesDisagree);
+}
+
 /// Called after a failure that has been reported. A module that holds and reports the new block, or that holds the
 /// previous one, is left unchanged.
 void CalibrationWriter::putBack() {
-    const bool disagrees = report_.reason == kNotKept && report_.flash != Flash::Previous;
+    const bool disagrees = disagrees_ && report_.flash != Flash::Previous;
     if (!disagrees && (report_.flash != Flash::Other || !resting_)) return;
     qCritical("The camera keeps something else than what was written; putting the previous block back.");
     KXDevice* device = link_.device().get();
@@ -266,8 +273,13 @@ bool CalibrationWriter::resume() {
 }
 
 bool CalibrationWriter::notKept() {
-    report_.reason = kNotKept;
-    link_.reportFault(kNotKept);
+    return disagrees(kNotKept);
+}
+
+bool CalibrationWriter::disagrees(const char* reason) {
+    disagrees_ = true;
+    report_.reason = reason;
+    link_.reportFault(reason);
     return false;
 }
 

@@ -40,17 +40,23 @@ QString flashText(const WriteBackReport& report);
 /// change. Returns false, with one line in `why`, when nothing may be written.
 using BeforeWrite = std::function<bool(const BlockChange& change, const QString& backupFile, QString* why)>;
 
+/// Called when the module runs on the new block and reports the wanted rotations. Returns false when its images
+/// contradict them.
+using AfterWrite = std::function<bool()>;
+
 /// Replaces the module's parameter block: saves the present block to a file, writes the new one, reads it back, makes
 /// the module reload it, and reads it back again. The comparison covers what this program means to change: the fields
 /// that the companion library writes, the three matrices, and the rotations that the module then reports. All other
 /// bytes belong to the module, which may keep a checksum, a date or a counter in them; differences there are only
-/// logged. If anything in the comparison disagrees, one attempt is made to restore the previous block. Used on the
-/// sensor's thread, for one write.
+/// logged. If anything in the comparison disagrees, or the images do, one attempt is made to restore the previous
+/// block. Used on the sensor's thread, for one write.
 class CalibrationWriter {
 public:
     CalibrationWriter(ModuleLink& link, KXThirdCamera* third, std::uint32_t serial, QString backupFolder);
 
     void setBeforeWrite(BeforeWrite before) { beforeWrite_ = std::move(before); }
+    /// Called by `writeRotations` after a write that succeeded in every other respect.
+    void setAfterWrite(AfterWrite after) { afterWrite_ = std::move(after); }
 
     /// Both return true when the module keeps and reports the wanted values. Values that the flash already holds are
     /// not written again. A failed call, and a module that does not keep the block, have been reported by the link;
@@ -75,12 +81,14 @@ private:
     bool readAgain();
     void readQuietly();
     bool holdsWanted();
-    bool tellsWanted();
-    bool tells(const char* which, const std::optional<KXCalibExtrinsics>& told, const Rotation& wanted);
+    bool reportsWanted();
+    bool reports(const char* which, const std::optional<KXCalibExtrinsics>& reported, const Rotation& wanted);
+    bool imagesAgree();
     void judge(const Block& found);
     void putBack();
     bool resume();
     bool notKept();
+    bool disagrees(const char* reason);
     bool failed();
     bool refuse(const QString& reason);
 
@@ -89,6 +97,7 @@ private:
     const std::uint32_t serial_;
     const QString backupFolder_;
     BeforeWrite beforeWrite_;
+    AfterWrite afterWrite_;
     WriteBackReport report_;
     Block previous_{};
     Block wanted_{};
@@ -98,6 +107,7 @@ private:
     bool resting_ = false;
     bool alsoUnchanged_ = false;  ///< a block is also written when no byte changes
     bool differencesLogged_ = false;
+    bool disagrees_ = false;  ///< every call succeeded, but the module does not hold or show what was written
 };
 
 }  // namespace fieldcal

@@ -114,6 +114,23 @@ bool Sensor::createDevice() {
 }
 
 bool Sensor::grab(bool wait) {
+    if (!refreshRecords(false, wait)) return false;
+    if (settings_.usePlatformCamera && !fetchPlatformPicture()) {
+        if (link_.stopRequested()) return false;
+        emit signal_reportPlatformCameraIssue();
+    }
+    updateColourRecords();
+    return true;
+}
+
+bool Sensor::grabQuietly() {
+    if (!refreshRecords(true, true)) return false;
+    if (settings_.usePlatformCamera) fetchPlatformPicture();
+    updateColourRecords();
+    return true;
+}
+
+bool Sensor::refreshRecords(bool quietly, bool wait) {
     platformNv12_ = nullptr;
     if (!opened_ || faulted()) return false;
     const auto grabAndCopy = [device = link_.device().get(), third = module_.third, frames = frames_, s = settings_,
@@ -122,15 +139,13 @@ bool Sensor::grab(bool wait) {
         frames->refresh(*device, third, s);
         return true;
     };
-    if (!link_.ask(grabAndCopy)) return false;
-    if (settings_.usePlatformCamera && !fetchPlatformPicture()) {
-        if (link_.stopRequested()) return false;
-        emit signal_reportPlatformCameraIssue();
-    }
+    return quietly ? link_.askQuietly(grabAndCopy) : link_.ask(grabAndCopy);
+}
+
+void Sensor::updateColourRecords() {
     followPairs();
     platformPicture_.deliver(settings_.platformScaledWidth, settings_.platformScaledHeight,
                              &frames_->records.colour[ColourCamera::Platform]);
-    return true;
 }
 
 bool Sensor::fetchPlatformPicture() {
@@ -163,7 +178,8 @@ bool Sensor::setEmitter(bool on) {
 }
 
 void Sensor::use(ModuleCalibration calibration) {
-    const CameraParameters& parameters = calibration.parameters;
+    parameters_ = calibration.parameters;
+    const CameraParameters& parameters = parameters_;
     settings_.thirdScaledWidth = parameters.colour[ColourCamera::Third].model.width;
     settings_.thirdScaledHeight = parameters.colour[ColourCamera::Third].model.height;
     rotationsInFlash_ = StoredRotations{parameters.colour[ColourCamera::Third].fromDepth.rotation, std::nullopt};
@@ -183,7 +199,8 @@ void Sensor::closePlatformCamera() {
     letGo(std::move(platformCamera_), environment_.limits.call, link_.stopRequested());
 }
 
-bool Sensor::updateRotation(const Rotation& third, const Rotation& platform, const BeforeWrite& beforeWrite) {
+bool Sensor::updateRotation(const Rotation& third, const Rotation& platform, const BeforeWrite& beforeWrite,
+                            const AfterWrite& afterWrite) {
     writeBack_ = {};
     if (!mayWrite()) return false;
     if (!rotationsInFlash_) return refuseToWrite("its parameters have not been read");
@@ -201,6 +218,7 @@ bool Sensor::updateRotation(const Rotation& third, const Rotation& platform, con
     const StoredRotations wanted{third, present.platform ? std::optional(platform) : std::nullopt};
     const auto writeBoth = [&](CalibrationWriter& writer) {
         writer.setBeforeWrite(beforeWrite);
+        writer.setAfterWrite(afterWrite);
         return writer.writeRotations(present, wanted);
     };
     if (!write(writeBoth)) return false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "camera/CameraParameters.h"
 #include "camera/Rotation.h"
 #include "devices/CalibrationWriter.h"
 #include "devices/FrameAcquisition.h"
@@ -56,6 +57,8 @@ public:
     /// `signal_reportPlatformCameraIssue` in every pass; the other records are refreshed nevertheless. The rear camera
     /// of a simulated module delivers its images within the pass.
     bool grab(bool wait);
+    /// The same for images that the program can do without: a failure is neither reported nor a fault.
+    bool grabQuietly();
 
     const FrameRecords& frames() const { return frames_->records; }
     /// Returns whether the infrared image and that of a colour camera in the records may be matched: they were
@@ -81,7 +84,9 @@ public:
     /// succeeded and the module holds and reports the rotations. Refused, without a call, unless the sensor is open,
     /// the calibration has been read, and every matrix that differs from the module's is a rotation within 1e-4.
     /// `platform` is used only when the platform camera's calibration has been read.
-    bool updateRotation(const Rotation& third, const Rotation& platform, const BeforeWrite& beforeWrite = {});
+    /// In `afterWrite`, which is called while the module runs on the new rotations, frames may be grabbed.
+    bool updateRotation(const Rotation& third, const Rotation& platform, const BeforeWrite& beforeWrite = {},
+                        const AfterWrite& afterWrite = {});
 
     /// Writes a whole block, as kept by `ParameterBackup`, in the same way. The calibration need not have been read.
     bool restoreParameters(const KXCalibRectParameters& block);
@@ -111,6 +116,8 @@ public:
     /// sensor continues without one.
     void use(ModuleCalibration calibration);
     const PlatformCalibration& platformCalibration() const { return platformCalibration_; }
+    /// The parameters of the calibration in use; all zero before.
+    const CameraParameters& parameters() const { return parameters_; }
 
 signals:
     void signal_reportKXAPIError(QString text);
@@ -123,6 +130,8 @@ private:
     bool loadLibrary();
     bool openPlatformCamera();
     bool createDevice();
+    bool refreshRecords(bool quietly, bool wait);
+    void updateColourRecords();
     bool fetchPlatformPicture();
     void followPairs();
     void closePlatformCamera();
@@ -140,6 +149,7 @@ private:
     PerColourCamera<Pairing> pairs_;
     Pairing::Clock::time_point depthAt_;
     const std::uint8_t* platformNv12_ = nullptr;
+    CameraParameters parameters_;
     PlatformCalibration platformCalibration_;
     std::optional<StoredRotations> rotationsInFlash_;
     WriteBackReport writeBack_;

@@ -21,7 +21,8 @@ public:
     using Shape = double (*)(double squaredPx, double squaredScalePx);
 
     ResidualLoss(Shape shape, double scalePx)
-        : shape_(shape), squaredScalePx_(scalePx * scalePx),
+        : shape_(shape),
+          squaredScalePx_(scalePx * scalePx),
           unit_(kInlierResidual / (kInlierPx * shape(kInlierPx * kInlierPx, squaredScalePx_))) {}
 
     /// Grows like √log beyond the scale, so that wrong matches have little influence (Cauchy; Hampel et al., Robust

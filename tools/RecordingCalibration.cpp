@@ -141,10 +141,11 @@ bool RecordingCalibration::write(Sensor& sensor, QString* why) {
     Rotation rotation{};
     engine_.getRotationMatrix(rotation.data());
     PerColourCamera<Rotation> wanted;
+    PerColourCamera<std::optional<Rotation>> estimated;
     for (const ColourCamera camera : kColourCameras)
         wanted[camera] = camera == camera_ ? rotation : parameters_.colour[camera].fromDepth.rotation;
-    report_.written =
-        storeRotations(sensor, wanted[ColourCamera::Third], wanted[ColourCamera::Platform], userDataFolder()).stored;
+    estimated[camera_] = rotation;
+    report_.written = storeRotations(sensor, wanted, estimated, userDataFolder()).stored;
     const WriteBackReport& done = sensor.writeBack();
     writeBack_ = done;
     if (*report_.written) {

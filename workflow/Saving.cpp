@@ -1,5 +1,8 @@
 #include "workflow/Saving.h"
 
+#include "workflow/BaselineMemory.h"
+#include "workflow/EstimateCheck.h"
+
 namespace fieldcal {
 namespace {
 
@@ -24,9 +27,30 @@ LastSave::Outcome outcomeOf(BlockChange::Held held) {
     return LastSave::Outcome::Neither;
 }
 
+/// Compares each estimated rotation with fresh images. Images that show nothing do not contradict.
+bool imagesAgree(Sensor& sensor, const PerColourCamera<std::optional<Rotation>>& estimated, const QString& dataFolder) {
+    const double baselineM = BaselineMemory(dataFolder).find(sensor.serialNumber()).value_or(0);
+    for (const ColourCamera camera : kColourCameras) {
+        const bool isUsed = camera == ColourCamera::Third || sensor.settings().usePlatformCamera;
+        if (!isUsed || !estimated[camera]) continue;
+        const auto check = checkEstimate(sensor, camera, *estimated[camera], baselineM);
+        if (!check) {
+            qInfo("Fresh images do not show whether the new rotation of the %s camera fits.", nameOf(camera));
+            continue;
+        }
+        qInfo("Fresh images show the %s camera %.3f degrees from the rotation found; they agree up to %.3f.",
+              nameOf(camera), check->offsetDeg, check->toleranceDeg);
+        if (!check->contradicts()) continue;
+        qCritical("The %s camera does not work with its new rotation.", nameOf(camera));
+        return false;
+    }
+    return true;
+}
+
 }  // namespace
 
-SaveResult storeRotations(Sensor& sensor, const Rotation& third, const Rotation& platform, const QString& dataFolder) {
+SaveResult storeRotations(Sensor& sensor, const PerColourCamera<Rotation>& wanted,
+                          const PerColourCamera<std::optional<Rotation>>& estimated, const QString& dataFolder) {
     SaveNote note{sensor.serialNumber(), QDateTime::currentDateTimeUtc(), {}, {}, {}, {}, true};
     bool noted = writeSaveNote(dataFolder, note);
     const auto beforeWrite = [&](const BlockChange& change, const QString& backupFile, QString* why) {
@@ -37,7 +61,8 @@ SaveResult storeRotations(Sensor& sensor, const Rotation& third, const Rotation&
         *why = "The note about it cannot be kept in " + dataFolder;
         return written;
     };
-    if (sensor.updateRotation(third, platform, beforeWrite)) {
+    const auto afterWrite = [&] { return imagesAgree(sensor, estimated, dataFolder); };
+    if (sensor.updateRotation(wanted[ColourCamera::Third], wanted[ColourCamera::Platform], beforeWrite, afterWrite)) {
         removeSaveNote(dataFolder, note.serial);
         return {true, true};
     }
@@ -50,10 +75,16 @@ SaveResult storeRotations(Sensor& sensor, const Rotation& third, const Rotation&
 }
 
 SaveResult storeCalibration(Sensor& sensor, const CalibrationRecords& records, const QString& dataFolder) {
-    const Rotation third = records.toStore(ColourCamera::Third);
-    const Rotation platform = records.toStore(ColourCamera::Platform);
-    const SaveResult result = records.anyAccepted() ? storeRotations(sensor, third, platform, dataFolder)
-                                                    : SaveResult{sensor.updateRotation(third, platform), true};
+    PerColourCamera<Rotation> wanted;
+    PerColourCamera<std::optional<Rotation>> estimated;
+    for (const ColourCamera camera : kColourCameras) {
+        wanted[camera] = records.toStore(camera);
+        if (records.accepted(camera)) estimated[camera] = records.estimated(camera);
+    }
+    const SaveResult result =
+        records.anyAccepted()
+            ? storeRotations(sensor, wanted, estimated, dataFolder)
+            : SaveResult{sensor.updateRotation(wanted[ColourCamera::Third], wanted[ColourCamera::Platform]), true};
     if (!result.stored) qInfo("Failed to store calibration information to flash.");
     return result;
 }

@@ -14,10 +14,12 @@ struct SaveResult {
     bool told = true;     ///< confirmed, or a note on the disk will report the failure at the next start
 };
 
-/// Writes the rotations into the module. A note is kept in `dataFolder` from before the write until the module has
-/// confirmed them. Before the first call that reaches the flash, the note identifies the old and the new block and is
-/// on the disk together with the backup; if that fails, nothing is written.
-SaveResult storeRotations(Sensor& sensor, const Rotation& third, const Rotation& platform, const QString& dataFolder);
+/// Writes the rotations into the module, and compares the module's next images with `estimated`, the rotation that each
+/// calibrated camera was found to have before the user adjusted it. A note is kept in `dataFolder` from before the
+/// write until the module has confirmed them. Before the first call that reaches the flash, the note identifies the old
+/// and the new block and is on the disk together with the backup; if that fails, nothing is written.
+SaveResult storeRotations(Sensor& sensor, const PerColourCamera<Rotation>& wanted,
+                          const PerColourCamera<std::optional<Rotation>>& estimated, const QString& dataFolder);
 
 /// Writes each camera's accepted rotation, or the factory's. A note is kept only if any rotation was accepted.
 SaveResult storeCalibration(Sensor& sensor, const CalibrationRecords& records, const QString& dataFolder);

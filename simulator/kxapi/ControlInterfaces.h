@@ -69,6 +69,7 @@ public:
     bool commitCalibration() override {
         return state_.performAtRest("commitCalibration", [&] {
             if (!state_.succeeds(state_.block->commit(state_.settings.faults.livingBlock()))) return false;
+            if (state_.settings.faults.holds("displaced-colour")) state_.streams->displaceColour();
             state_.temporaryBlock.reset();
             if (state_.block->isLostWithTheDevice())
                 report("no KXSIM_FLASH: what was written is gone with this device");

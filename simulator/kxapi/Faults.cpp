@@ -18,7 +18,7 @@ constexpr int kKilled = 137;
 constexpr const char* kConditions[] = {
     "living-block",         "thread-bound-status", "wrong-size",           "meddling-companion", "padded-rows",
     "swapped-imagers",      "lower-right-rows",    "depth-in-centimetres", "corner-pixels",      "transposed-rotation",
-    "opposite-translation", "metre-translation",   "other-rear-lens"};
+    "opposite-translation", "metre-translation",   "other-rear-lens",      "displaced-colour"};
 constexpr const char* kStreams[] = {"depth", "left", "right", "third", "platform"};
 
 enum class Number { none, maybe, must };

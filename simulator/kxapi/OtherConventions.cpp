@@ -10,6 +10,7 @@ namespace {
 /// From one row to the next there are so many pixels more than a row has.
 constexpr std::size_t kPaddingPixels = 12;
 constexpr std::size_t kLowerRows = 3;
+constexpr std::size_t kDisplacedColumns = 12;
 constexpr int kMillimetresPerCentimetre = 10;
 constexpr float kCorner = 0.5F;
 constexpr float kOtherLens = 1.03F;
@@ -65,6 +66,16 @@ const std::uint16_t* ConventionalPicture::withLowerRows(const fieldcal::ImageFra
     const std::size_t row = std::size_t{picture->width()} * picture->bytesPerPixel();
     std::memcpy(changed_.bytes() + kLowerRows * row, picture->bytes(), picture->byteCount() - kLowerRows * row);
     return pixels16(withPaddedRows(&changed_, faults));
+}
+
+const std::uint8_t* ConventionalPicture::displaced(const fieldcal::ImageFrame32* picture, const Faults& faults) {
+    if (picture == nullptr || picture->width() <= kDisplacedColumns) return withPaddedRows(picture, faults);
+    displaced_ = *picture;
+    const std::size_t row = std::size_t{picture->width()} * picture->bytesPerPixel();
+    const std::size_t shift = kDisplacedColumns * picture->bytesPerPixel();
+    for (std::size_t y = 0; y < picture->height(); ++y)
+        std::memcpy(displaced_.bytes() + y * row + shift, picture->bytes() + y * row, row - shift);
+    return withPaddedRows(&displaced_, faults);
 }
 
 const std::uint16_t* ConventionalPicture::inCentimetres(const fieldcal::ImageFrame16* picture, const Faults& faults) {

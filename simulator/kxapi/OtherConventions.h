@@ -21,10 +21,12 @@ public:
     /// Valid until the next call, and as long as the picture.
     const std::uint8_t* withPaddedRows(const fieldcal::ImageFrame* picture, const Faults& faults);
     const std::uint16_t* withLowerRows(const fieldcal::ImageFrame16* picture, const Faults& faults);
+    const std::uint8_t* displaced(const fieldcal::ImageFrame32* picture, const Faults& faults);
     const std::uint16_t* inCentimetres(const fieldcal::ImageFrame16* picture, const Faults& faults);
 
 private:
     fieldcal::ImageFrame16 changed_;
+    fieldcal::ImageFrame32 displaced_;
     std::vector<std::uint8_t> padded_;
 };
 

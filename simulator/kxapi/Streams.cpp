@@ -30,7 +30,8 @@ void Streams::deliver(const Faults& faults) {
     depthPixels_ = depthDelivered_.inCentimetres(depth_.shown(), faults);
     leftPixels_ = reinterpret_cast<const std::uint16_t*>(leftDelivered_.withPaddedRows(left, faults));
     rightPixels_ = rightDelivered_.withLowerRows(right, faults);
-    thirdPixels_ = thirdDelivered_.withPaddedRows(third_.shown(), faults);
+    thirdPixels_ = colourDisplaced_ ? thirdDelivered_.displaced(third_.shown(), faults)
+                                    : thirdDelivered_.withPaddedRows(third_.shown(), faults);
 }
 
 const fieldcal::ImageFrame16* Streams::chosenRight(const FramePictures& frame) {

@@ -54,6 +54,8 @@ public:
 
     /// To be called once for every grabbed frame set. `frame` must stay valid until the next call.
     void follow(const fieldcal::session::FramePictures& frame, bool platformIsNew, const Faults& faults);
+    /// From now on the images of the colour camera inside the module are displaced.
+    void displaceColour() { colourDisplaced_ = true; }
 
     /// Return null where the frame set has no such image.
     const std::uint16_t* depth() const { return depthPixels_; }
@@ -79,6 +81,7 @@ private:
     const std::uint8_t* thirdPixels_ = nullptr;
     std::uint64_t sets_ = 0;
     bool hasDepth_ = false;
+    bool colourDisplaced_ = false;
 };
 
 }  // namespace kxsim

@@ -83,6 +83,13 @@ TEST_F(FlashToolTest, AFailedWriteSaysWhatTheFlashHolds) {
     EXPECT_TRUE(json["solved"].toBool() && !json["written"].toBool(true));
     EXPECT_EQ(json["error"].toString() + '\n', QString(failed.error));
     EXPECT_EQ(info(), before);
+    // The module holds and reports the new rotation, but its images show another one.
+    const Result displaced = calibrateAndWrite("third", "displaced-colour");
+    EXPECT_EQ(displaced.status, 1);
+    EXPECT_EQ(displaced.error,
+              "The camera's images do not fit the new calibration "
+              "(The camera's flash holds the previous calibration.)\n");
+    EXPECT_EQ(info(), before);
 }
 
 TEST_F(FlashToolTest, ATabletThatLosesPowerLeavesTheOldOrTheNewCalibration) {
