@@ -73,7 +73,8 @@ double angleDeg(const Rotation& a, const Rotation& b) {
 
 }  // namespace
 
-std::optional<EstimateCheck> checkEstimate(Sensor& sensor, ColourCamera camera, const Rotation& estimate, double rememberedBaselineM) {
+std::optional<EstimateCheck> checkEstimate(Sensor& sensor, ColourCamera camera, const Rotation& estimate,
+                                           double rememberedBaselineM) {
     CameraParameters parameters = sensor.parameters();
     const Rotation before = std::exchange(parameters.colour[camera].fromDepth.rotation, estimate);
     SinglePairEngine engine(parameters, camera, rememberedBaselineM);
@@ -84,8 +85,7 @@ std::optional<EstimateCheck> checkEstimate(Sensor& sensor, ColourCamera camera, 
         if (!sensor.isFreshPair(camera) || !engine.show(sensor.frames(), camera)) continue;
         EstimateCheck check;
         check.offsetDeg = angleDeg(engine.rotation(), estimate);
-        check.toleranceDeg =
-            std::max({kHandDeg, angleDeg(before, estimate) / 2, kDeviations * engine.deviationDeg()});
+        check.toleranceDeg = std::max({kHandDeg, angleDeg(before, estimate) / 2, kDeviations * engine.deviationDeg()});
         return check;
     }
     return std::nullopt;

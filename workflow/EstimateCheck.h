@@ -21,6 +21,7 @@ struct EstimateCheck {
 /// module had before, but at least what a hand-held pair and unknown distances explain. Returns none when
 /// no such pair comes within two seconds of frame sets, or when its matches do not agree on a rotation; failures of the
 /// module are not reported. Switches the emitter off. On the sensor's thread.
-std::optional<EstimateCheck> checkEstimate(Sensor& sensor, ColourCamera camera, const Rotation& estimate, double rememberedBaselineM);
+std::optional<EstimateCheck> checkEstimate(Sensor& sensor, ColourCamera camera, const Rotation& estimate,
+                                           double rememberedBaselineM);
 
 }  // namespace fieldcal

@@ -3,9 +3,13 @@
 #include "simulator/handheld/Studio.h"
 #include "simulator/synthesis/Rig.h"
 
+#include <opencv2/core.hpp>
+#include <opencv2/imgproc.hpp>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
 namespace fieldcal::handheld {
 
@@ -13,6 +17,14 @@ namespace {
 
 constexpr int mostStills = 999;
 constexpr double largestDriftDeg = 20;
+
+/// A user turns on until the program asks to hold still, which it does when the colour image, reduced to a quarter of
+/// its size, has changed enough; root mean square in grey levels, somewhat more than the program demands.
+constexpr double thirdChange = 31, platformChange = 36;
+/// Views that are tried for one still. A bare wall and a night never change.
+constexpr int mostViews = 8;
+constexpr double hopelessShare = 0.3;
+constexpr int platformWidth = 1280, platformHeight = 720;
 
 bool refuse(std::string* why, const std::string& reason) {
     if (why != nullptr) *why = reason;
@@ -55,6 +67,32 @@ session::FrameEntry frameEntry(int number, const SynthesisOptions& options) {
     return entry;
 }
 
+/// Root mean square difference of two images of 8 bits per channel, reduced to a quarter of their size.
+double change(const cv::Mat& before, const cv::Mat& after) {
+    cv::Mat small[2];
+    cv::resize(before, small[0], {}, 0.25, 0.25, cv::INTER_AREA);
+    cv::resize(after, small[1], {}, 0.25, 0.25, cv::INTER_AREA);
+    const int colours = before.channels() == 4 ? 3 : 1;  // without alpha, which is constant
+    return cv::norm(small[0], small[1], cv::NORM_L2) / std::sqrt(static_cast<double>(small[0].total()) * colours);
+}
+
+cv::Mat thirdOf(const session::FramePictures& still) {
+    return {static_cast<int>(still.third.height()), static_cast<int>(still.third.width()), CV_8UC4,
+            const_cast<std::uint8_t*>(still.third.bytes())};
+}
+
+/// The brightness of the rear camera's image, the first plane of NV12.
+cv::Mat platformOf(const session::FramePictures& still) {
+    return {platformHeight, platformWidth, CV_8UC1, const_cast<std::uint8_t*>(still.platform.data())};
+}
+
+/// How much of the demanded change there is from one still to the next, in the camera that shows less of it.
+double changeShare(const session::FramePictures& before, const session::FramePictures& after) {
+    const double share = change(thirdOf(before), thirdOf(after)) / thirdChange;
+    if (after.platform.empty()) return share;
+    return std::min(share, change(platformOf(before), platformOf(after)) / platformChange);
+}
+
 }  // namespace
 
 bool synthesize(const std::string& folder, const SynthesisOptions& options,
@@ -63,12 +101,18 @@ bool synthesize(const std::string& folder, const SynthesisOptions& options,
     auto rig = synthesis::drawRig(
         options.seed, {options.platform, options.thirdDriftDeg, options.platformDriftDeg, options.baselines});
     Studio studio(options.world, options.seed, rig);
+    session::FramePictures still;
+    int view = 0;
     for (int i = 0; i < options.stills; ++i) {
-        const std::uint64_t noise = synthesis::mixBits(options.seed) + static_cast<unsigned>(i);
+        const session::FramePictures before = std::move(still);
+        for (int tried = 0; tried < mostViews; ++tried) {
+            const std::uint64_t noise = synthesis::mixBits(options.seed) + static_cast<unsigned>(view);
+            still = takeStill(*studio.make(view++, options.platform), noise);
+            const double share = i == 0 ? 1 : changeShare(before, still);
+            if (share >= 1 || share < hopelessShare) break;
+        }
         rig.frames.push_back(frameEntry(i, options));
-        if (!session::writePictures(folder, rig.frames.back(), takeStill(*studio.make(i, options.platform), noise),
-                                    why))
-            return false;
+        if (!session::writePictures(folder, rig.frames.back(), still, why)) return false;
         if (progress) progress(i + 1, options.stills);
     }
     return session::syncPictures(folder, rig, why) && session::writeDescription(folder, rig, why);

@@ -18,9 +18,10 @@ struct SynthesisOptions {
     int repeat = 26;        ///< number of grabs that deliver one still, at least 1
 };
 
-/// Renders a session with its true rotations into `folder`, which is created. Equal options give equal files.
-/// `progress` (may be empty) is called on this thread after each still. Returns false on failure, with one line in
-/// `why`.
+/// Renders a session with its true rotations into `folder`, which is created. Equal options give equal files. Each
+/// still shows enough of something else than the one before that a program which waits for movement takes it; where
+/// that is not found within eight views, the eighth is taken. `progress` (may be empty) is called on this thread after
+/// each still. Returns false on failure, with one line in `why`.
 bool synthesize(const std::string& folder, const SynthesisOptions& options,
                 const std::function<void(int done, int total)>& progress, std::string* why);
 
