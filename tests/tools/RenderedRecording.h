@@ -7,11 +7,11 @@
 
 namespace fieldcal::testing {
 
-/// A rendered recording, created on first use and removed when the program ends. A build that cannot render worlds
-/// finds it in the folder FIELDCAL_RECORDINGS, under the same name.
+/// A rendered recording: the one of this name in the folder FIELDCAL_RECORDINGS (`tests/render-recordings`) if there is
+/// one; otherwise created on first use and removed when the program ends.
 inline QString renderedRecording(const QString& name, const QStringList& options) {
     const QString prepared = qEnvironmentVariable("FIELDCAL_RECORDINGS");
-    if (!prepared.isEmpty()) return prepared + '/' + name;
+    if (!prepared.isEmpty() && QDir(prepared).exists(name)) return prepared + '/' + name;
     static const QTemporaryDir folder;
     QString path = folder.filePath(name);
     if (!QDir(path).exists()) {
