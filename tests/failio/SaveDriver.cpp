@@ -79,7 +79,7 @@ int run(const QStringList& arguments) {
     const QString& data = arguments[2];
     const QString note = data + "/service-note";
     ServiceInFile control(arguments[3].toStdString(), note.toStdString());
-    PXMServiceManager services(control, note);
+    PXMServiceManager services(control, serviceNoteInFile(note));
     SensorEnvironment environment = systemEnvironment();
     environment.services = &services;
     environment.dataFolder = data;
