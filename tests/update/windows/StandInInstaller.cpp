@@ -1,4 +1,4 @@
-// Writes its arguments and its working directory to a file beside itself.
+// Writes its arguments and its working directory to a file beside itself. Then it runs until another file is there.
 #include <fstream>
 #include <string>
 #include <windows.h>
@@ -10,4 +10,6 @@ int main() {
     const std::wstring line = GetCommandLineW();
     std::wofstream(std::string(path.begin(), path.end()) + ".txt")
         << line.substr(line.find_last_of(L'"') + 1) << L" in " << folder << std::endl;
+    for (int i = 0; i < 400 && GetFileAttributesW((path + L".end").c_str()) == INVALID_FILE_ATTRIBUTES; ++i)
+        Sleep(50);
 }
