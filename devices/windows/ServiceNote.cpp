@@ -1,7 +1,8 @@
 #include "devices/ServiceNote.h"
 
-#include <sddl.h>
 #include <windows.h>
+
+#include <sddl.h>
 
 namespace fieldcal {
 namespace {
@@ -36,9 +37,13 @@ public:
                                                                   &rights.lpSecurityDescriptor, nullptr)) {
             return static_cast<LSTATUS>(GetLastError());
         }
-        const LSTATUS error =
-            RegCreateKeyExW(HKEY_LOCAL_MACHINE, kKey, 0, nullptr, REG_OPTION_NON_VOLATILE,
-                            KEY_QUERY_VALUE | KEY_SET_VALUE | KEY_WOW64_64KEY, &rights, &key_, nullptr);
+        LSTATUS error = RegCreateKeyExW(HKEY_LOCAL_MACHINE, kKey, 0, nullptr, REG_OPTION_NON_VOLATILE,
+                                        KEY_SET_VALUE | WRITE_DAC | KEY_WOW64_64KEY, &rights, &key_, nullptr);
+        // The key of an earlier run gets the same rights.
+        if (error == ERROR_SUCCESS) {
+            error = RegSetKeySecurity(key_, DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,
+                                      rights.lpSecurityDescriptor);
+        }
         LocalFree(rights.lpSecurityDescriptor);
         return error;
     }

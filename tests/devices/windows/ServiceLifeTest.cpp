@@ -10,9 +10,10 @@
 #include <cstdio>
 #include <cstdint>
 #include <cstdlib>
-#include <sddl.h>
 #include <string>
 #include <windows.h>
+
+#include <sddl.h>
 
 namespace fieldcal::testing {
 namespace {
