@@ -2,6 +2,7 @@
 
 #include "app/GlobalManager.h"
 #include "app/LogFile.h"
+#include "app/OwnCode.h"
 #include "devices/SingleInstance.h"
 #include "render/FixedFunctionGl.h"
 
@@ -11,6 +12,7 @@
 namespace fieldcal {
 
 int runApplication(int& argc, char** argv, ApplicationEnvironment environment) {
+    allowOnlyOwnCode(argc, argv);
     auto instance = std::make_unique<SingleInstance>();
     if (!instance->isFirst()) return 1;
     const LogFile log(userDataFolder());

@@ -1,9 +1,11 @@
 #include "app/LogFile.h"
+#include "app/OwnCode.h"
 #include "devices/SingleInstance.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -32,6 +34,27 @@ TEST(SingleInstanceTest, ASecondCopyEndsAtOnceSilentlyWithOne) {
     first.reset();
     EXPECT_TRUE(SingleInstance().isFirst());
     qunsetenv("XDG_RUNTIME_DIR");
+}
+
+TEST(OwnCodeTest, VariablesThatNameCodeAreRemovedAndNoOthers) {
+    const QProcessEnvironment before = QProcessEnvironment::systemEnvironment();
+    const char* const code[] = {"QT_PLUGIN_PATH", "QT_QPA_PLATFORM_PLUGIN_PATH", "QT_QPA_PLATFORMTHEME",
+                                "QT_STYLE_OVERRIDE", "QML2_IMPORT_PATH", "QMLSCENE_DEVICE", "QSG_RENDER_LOOP",
+                                "QT_OPENGL_DLL", "QT_QUICK_CONTROLS_STYLE", "qt_plugin_path", "OPENCV_OPENCL_RUNTIME"};
+    const char* const others[] = {"QT_FORCE_STDERR_LOGGING", "KXSIM_SPEED", "QUIET"};
+    for (const char* name : code)
+        qputenv(name, "/foreign");
+    for (const char* name : others)
+        qputenv(name, "1");
+    clearVariablesThatNameCode();
+    for (const char* name : code)
+        EXPECT_FALSE(qEnvironmentVariableIsSet(name)) << name;
+    for (const char* name : others)
+        EXPECT_EQ(qgetenv(name), "1") << name;
+    for (const char* name : others)
+        qunsetenv(name);
+    for (const QString& name : before.keys())
+        qputenv(name.toLocal8Bit(), before.value(name).toLocal8Bit());
 }
 
 TEST(LogFileTest, LinesAreKeptWithTimeAndLevelAndTheOldestAreDropped) {

@@ -1,7 +1,5 @@
 #include "update/UpdateFolder.h"
 
-#include <knownfolders.h>
-#include <objbase.h>
 #include <shlobj.h>
 
 namespace fieldcal {
