@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -49,6 +50,7 @@ protected:
         };
         awake.clear();
         environment.keepAwake = [this](bool on) { awake.push_back(on); };
+        environment.power = [this] { return power; };
         environment.savedShownFor = std::chrono::milliseconds(300);
         if (change) change(environment);
         manager = std::make_unique<GlobalManager>(argc, argv, environment);
@@ -132,6 +134,7 @@ protected:
     FakeServiceControl control;
     std::unique_ptr<PXMServiceManager> services;
     std::vector<std::string> boxes;
+    std::optional<PowerState> power;
     std::vector<bool> awake;  ///< the requests to the system to stay awake, in order
     std::unique_ptr<GlobalManager> manager;
 };

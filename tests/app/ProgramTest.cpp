@@ -11,6 +11,12 @@
 
 #include <memory>
 
+#ifndef _WIN32
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+#endif
+
 namespace fieldcal::testing {
 namespace {
 
@@ -35,6 +41,31 @@ TEST(SingleInstanceTest, ASecondCopyEndsAtOnceSilentlyWithOne) {
     EXPECT_TRUE(SingleInstance().isFirst());
     qunsetenv("XDG_RUNTIME_DIR");
 }
+
+#ifndef _WIN32
+TEST(SingleInstanceTest, ALockThatAnotherProgramHoldsIsReported) {
+    if (geteuid() != 0) GTEST_SKIP() << "a file of another user is needed";
+    const QTemporaryDir session;
+    const QByteArray lock = session.filePath("field-calibrator.lock").toLocal8Bit();
+    const int file = open(lock.constData(), O_RDWR | O_CREAT, 0666);
+    ASSERT_TRUE(file >= 0 && fchown(file, 1, 1) == 0 && flock(file, LOCK_EX) == 0);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_RUNTIME_DIR", session.path());
+    environment.insert("XDG_DATA_HOME", session.filePath("data"));
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    QProcess second;
+    second.setProcessEnvironment(environment);
+    second.start(FIELDCAL_PROGRAM, QStringList());
+    QByteArray told;
+    while (!told.contains("uses the name of this program's lock") && second.waitForReadyRead(10000))
+        told += second.readAllStandardError();
+    EXPECT_TRUE(told.contains("uses the name of this program's lock")) << told.toStdString();
+    EXPECT_FALSE(second.waitForFinished(500)) << "a message is shown";
+    second.kill();
+    second.waitForFinished();
+    close(file);
+}
+#endif
 
 TEST(OwnCodeTest, VariablesThatNameCodeAreRemovedAndNoOthers) {
     const QProcessEnvironment before = QProcessEnvironment::systemEnvironment();
