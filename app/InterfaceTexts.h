@@ -45,8 +45,8 @@ constexpr const char* kBatteryLow =
                       "The battery is almost empty.\n"
                       "Connect the tablet to its charger. Then the calibration can be stored in the camera.");
 
-constexpr const char* kLockTaken =
-    QT_TRANSLATE_NOOP("Interface", "Another program prevents this one from starting.\nSwitch the tablet off and on again.");
+constexpr const char* kLockTaken = QT_TRANSLATE_NOOP(
+    "Interface", "Another program prevents this one from starting.\nSwitch the tablet off and on again.");
 
 constexpr const char* kLastCalibrated = QT_TRANSLATE_NOOP("Interface", "Last calibrated on %1.");
 constexpr const char* kLastSaveGarbled = QT_TRANSLATE_NOOP(

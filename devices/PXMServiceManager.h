@@ -37,7 +37,8 @@ public:
     /// Stops (1) or starts (4) the service and waits until it has that state.
     bool driveTo(std::uint32_t wantedState);
 
-    /// "number: (call) ==> text" of the last failure, or why the start type could not be kept; empty until something fails.
+    /// "number: (call) ==> text" of the last failure, or why the start type could not be kept; empty until something
+    /// fails.
     QString lastError() const { return lastError_; }
 
     /// The wait for the service also ends, as a failure, once `*stop` is true. Null disables this.

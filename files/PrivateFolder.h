@@ -8,8 +8,8 @@ namespace fieldcal {
 /// random digits complete.
 
 /// Creates a folder in `parent` to which only this user has access; on Windows only the system and administrators have,
-/// and creating it requires administrator rights. These rights hold from the moment of its creation. Returns false, with
-/// one line in `why`, on a failure.
+/// and creating it requires administrator rights. These rights hold from the moment of its creation. Returns false,
+/// with one line in `why`, on a failure.
 bool makePrivateFolder(const std::string& parent, const std::string& stem, std::string* folder, std::string* why);
 
 /// Removes the file of that name and then the folder, unless something else is in it.

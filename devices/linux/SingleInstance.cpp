@@ -32,8 +32,7 @@ SingleInstance::SingleInstance() : handle_(std::make_unique<Handle>()) {
     handle_->first = handle_->file < 0 || flock(handle_->file, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
     // A copy of this user's session has created the file itself.
     struct stat present {};
-    handle_->takenByOthers =
-        !handle_->first && fstat(handle_->file, &present) == 0 && present.st_uid != getuid();
+    handle_->takenByOthers = !handle_->first && fstat(handle_->file, &present) == 0 && present.st_uid != getuid();
 }
 
 SingleInstance::~SingleInstance() {

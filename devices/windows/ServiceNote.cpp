@@ -1,8 +1,10 @@
 #include "devices/ServiceNote.h"
 
+// The second header requires the first one.
+// clang-format off
 #include <windows.h>
-
 #include <sddl.h>
+// clang-format on
 
 namespace fieldcal {
 namespace {
@@ -28,9 +30,7 @@ public:
     Key(const Key&) = delete;
     Key& operator=(const Key&) = delete;
 
-    LSTATUS open(REGSAM access) {
-        return RegOpenKeyExW(HKEY_LOCAL_MACHINE, kKey, 0, access | KEY_WOW64_64KEY, &key_);
-    }
+    LSTATUS open(REGSAM access) { return RegOpenKeyExW(HKEY_LOCAL_MACHINE, kKey, 0, access | KEY_WOW64_64KEY, &key_); }
     LSTATUS create() {
         SECURITY_ATTRIBUTES rights{sizeof rights, nullptr, FALSE};
         if (!ConvertStringSecurityDescriptorToSecurityDescriptorW(kRights, SDDL_REVISION_1,

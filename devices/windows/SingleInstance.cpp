@@ -1,9 +1,12 @@
 #include "devices/SingleInstance.h"
 
 #include <string>
-#include <windows.h>
 
+// The second header requires the first one.
+// clang-format off
+#include <windows.h>
 #include <tlhelp32.h>
+// clang-format on
 
 namespace fieldcal {
 namespace {

@@ -46,8 +46,8 @@ bool createPrivateFolder(const std::string& folder, bool* nameIsTaken, std::stri
 std::vector<std::string> namesIn(const std::string& folder) {
     std::vector<std::string> names;
     std::error_code error;
-    for (std::filesystem::directory_iterator entry(std::filesystem::u8path(folder), error), end;
-         !error && entry != end; entry.increment(error))
+    for (std::filesystem::directory_iterator entry(std::filesystem::u8path(folder), error), end; !error && entry != end;
+         entry.increment(error))
         names.push_back(entry->path().filename().u8string());
     return names;
 }

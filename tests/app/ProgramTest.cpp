@@ -55,10 +55,11 @@ TEST(SingleInstanceTest, ALockThatAnotherProgramHoldsIsReported) {
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     QProcess second;
     second.setProcessEnvironment(environment);
+    second.setProcessChannelMode(QProcess::MergedChannels);
     second.start(FIELDCAL_PROGRAM, QStringList());
     QByteArray told;
     while (!told.contains("uses the name of this program's lock") && second.waitForReadyRead(10000))
-        told += second.readAllStandardError();
+        told += second.readAll();
     EXPECT_TRUE(told.contains("uses the name of this program's lock")) << told.toStdString();
     EXPECT_FALSE(second.waitForFinished(500)) << "a message is shown";
     second.kill();
@@ -69,9 +70,12 @@ TEST(SingleInstanceTest, ALockThatAnotherProgramHoldsIsReported) {
 
 TEST(OwnCodeTest, VariablesThatNameCodeAreRemovedAndNoOthers) {
     const QProcessEnvironment before = QProcessEnvironment::systemEnvironment();
-    const char* const code[] = {"QT_PLUGIN_PATH", "QT_QPA_PLATFORM_PLUGIN_PATH", "QT_QPA_PLATFORMTHEME",
-                                "QT_STYLE_OVERRIDE", "QML2_IMPORT_PATH", "QMLSCENE_DEVICE", "QSG_RENDER_LOOP",
-                                "QT_OPENGL_DLL", "QT_QUICK_CONTROLS_STYLE", "qt_plugin_path", "OPENCV_OPENCL_RUNTIME"};
+    const char* const code[] = {"QT_PLUGIN_PATH",          "QT_QPA_PLATFORM_PLUGIN_PATH",
+                                "QT_QPA_PLATFORMTHEME",    "QT_STYLE_OVERRIDE",
+                                "QML2_IMPORT_PATH",        "QMLSCENE_DEVICE",
+                                "QSG_RENDER_LOOP",         "QT_OPENGL_DLL",
+                                "QT_QUICK_CONTROLS_STYLE", "qt_plugin_path",
+                                "OPENCV_OPENCL_RUNTIME"};
     const char* const others[] = {"QT_FORCE_STDERR_LOGGING", "KXSIM_SPEED", "QUIET"};
     for (const char* name : code)
         qputenv(name, "/foreign");

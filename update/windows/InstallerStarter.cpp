@@ -36,7 +36,8 @@ std::wstring systemFolder() {
     return {path.data(), length};
 }
 
-/// Gives the process a handle of its own, which stays open as long as the process runs. Returns the system's error code.
+/// Gives the process a handle of its own, which stays open as long as the process runs. Returns the system's error
+/// code.
 DWORD giveTo(HANDLE process, HANDLE file) {
     HANDLE given = nullptr;
     const bool done = DuplicateHandle(GetCurrentProcess(), file, process, &given, 0, FALSE, DUPLICATE_SAME_ACCESS);

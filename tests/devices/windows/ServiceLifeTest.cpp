@@ -7,13 +7,16 @@
 #include <QProcess>
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <string>
-#include <windows.h>
 
+// The second header requires the first one.
+// clang-format off
+#include <windows.h>
 #include <sddl.h>
+// clang-format on
 
 namespace fieldcal::testing {
 namespace {
@@ -147,8 +150,8 @@ std::string rightsOfNote() {
     char* text = nullptr;
     if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, kNoteKey, 0, READ_CONTROL, &key) != 0) return "missing";
     const bool read = RegGetKeySecurity(key, DACL_SECURITY_INFORMATION, rights, &size) == 0 &&
-                      ConvertSecurityDescriptorToStringSecurityDescriptorA(
-                          rights, SDDL_REVISION_1, DACL_SECURITY_INFORMATION, &text, nullptr);
+                      ConvertSecurityDescriptorToStringSecurityDescriptorA(rights, SDDL_REVISION_1,
+                                                                           DACL_SECURITY_INFORMATION, &text, nullptr);
     RegCloseKey(key);
     const std::string result = read ? text : "unreadable";
     LocalFree(text);

@@ -6,8 +6,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QThread>
-#include <aclapi.h>
 #include <gmock/gmock.h>
+
+#include <aclapi.h>
 #include <sddl.h>
 #include <string>
 
@@ -82,11 +83,11 @@ TEST(PrivateFolderTest, OnlyTheSystemAndAdministratorsHaveAccess) {
     PSECURITY_DESCRIPTOR descriptor = nullptr;
     char* rights = nullptr;
     constexpr SECURITY_INFORMATION kWanted = OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION;
-    ASSERT_EQ(GetNamedSecurityInfoA(folder.c_str(), SE_FILE_OBJECT, kWanted, nullptr, nullptr, nullptr, nullptr,
-                                    &descriptor),
-              0U);
-    EXPECT_TRUE(ConvertSecurityDescriptorToStringSecurityDescriptorA(descriptor, SDDL_REVISION_1, kWanted, &rights,
-                                                                     nullptr));
+    ASSERT_EQ(
+        GetNamedSecurityInfoA(folder.c_str(), SE_FILE_OBJECT, kWanted, nullptr, nullptr, nullptr, nullptr, &descriptor),
+        0U);
+    EXPECT_TRUE(
+        ConvertSecurityDescriptorToStringSecurityDescriptorA(descriptor, SDDL_REVISION_1, kWanted, &rights, nullptr));
     // Wine has a single user, who is the administrators, and does not record that rights are protected.
     EXPECT_THAT(rights, AnyOf(StrEq("O:BAD:P(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)"),
                               StrEq("O:S-1-5-21-0-0-0-1000D:(A;OICI;FA;;;SY)(A;OICI;FA;;;S-1-5-21-0-0-0-1000)")));
