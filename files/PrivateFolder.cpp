@@ -46,8 +46,12 @@ bool removePrivateFolder(const std::string& folder, const std::string& file) {
 }
 
 void removePrivateFolders(const std::string& parent, const std::string& stem, const std::string& file) {
-    for (const std::string& name : namesIn(parent))
-        if (isOurName(name, stem)) removeOwnFolder(parent + '/' + name, file);
+    for (const std::string& name : namesIn(parent)) {
+        if (!isOurName(name, stem)) continue;
+        std::string folder = parent;
+        folder.append("/").append(name);
+        removeOwnFolder(folder, file);
+    }
 }
 
 }  // namespace fieldcal

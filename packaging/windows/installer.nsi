@@ -14,6 +14,7 @@ RequestExecutionLevel admin
 !define PROGRAM "$INSTDIR\field-calibrator.exe"
 !define FRESH "$INSTDIR.new"
 !define OLD "$INSTDIR.old"
+!define LEFT "$INSTDIR.left"
 !define NOTE "Software\Field Calibrator"
 
 Name "${NAME}"
@@ -119,9 +120,19 @@ FunctionEnd
     DeleteRegKey /ifnovalues HKLM "${NOTE}"
 !macroend
 
-Function stopWithoutChange
+; Removes what this installer lays down, by name: a recursive removal would follow a junction.
+Function removeFresh
     SetOutPath "$TEMP"
-    RMDir /r "${FRESH}"
+    Push $INSTDIR
+    StrCpy $INSTDIR "${FRESH}"
+    !include "${OWNED}"
+    Delete "$INSTDIR\uninstall.exe"
+    RMDir "$INSTDIR"
+    Pop $INSTDIR
+FunctionEnd
+
+Function stopWithoutChange
+    Call removeFresh
     MessageBox MB_ICONSTOP "${NAME} could not be installed. What was installed before is unchanged." /SD IDOK
     SetErrorLevel 3
     Quit
@@ -180,7 +191,11 @@ Function settleLastRun
             Rename "${OLD}" "$INSTDIR"
         ${EndIf}
     ${EndIf}
-    RMDir /r "${FRESH}"
+    Call removeFresh
+    ; What another version left there must not become a part of this one.
+    ${If} ${FileExists} "${FRESH}"
+        Rename "${FRESH}" "${LEFT}"
+    ${EndIf}
     ${If} ${FileExists} "${OLD}"
     ${OrIf} ${FileExists} "${FRESH}"
         Call stopWithoutChange
@@ -189,8 +204,7 @@ FunctionEnd
 
 ; Runs when a file cannot be written, before anything of the old version is touched.
 Function .onInstFailed
-    SetOutPath "$TEMP"
-    RMDir /r "${FRESH}"
+    Call removeFresh
 FunctionEnd
 
 Section
