@@ -81,6 +81,7 @@ int run(const QStringList& arguments) {
     ServiceInFile control(arguments[3].toStdString(), note.toStdString());
     PXMServiceManager services(control, serviceNoteInFile(note));
     SensorEnvironment environment = systemEnvironment();
+    environment.power = nullptr;  // the tests run on any computer
     environment.services = &services;
     environment.dataFolder = data;
     Sensor sensor(environment);
