@@ -13,6 +13,7 @@ namespace {
 
 constexpr const char* kName = "Global\\{2d03313b-9681-45c0-be9a-547016098abc}";
 constexpr DWORD kLongestPath = 32768;
+constexpr DWORD kSecondLookMs = 300;
 
 std::wstring folderOf(const std::wstring& path) {
     return path.substr(0, path.find_last_of(L'\\') + 1);
@@ -58,19 +59,32 @@ struct SingleInstance::Handle {
     HANDLE mutex = nullptr;
     bool first = false;
     bool takenByOthers = false;
+
+    void take() {
+        release();
+        mutex = CreateMutexA(nullptr, FALSE, kName);
+        const DWORD error = GetLastError();
+        // Another user's copy denies access to its mutex; the last error means that something else has the name.
+        first = error != ERROR_ALREADY_EXISTS &&
+                (mutex != nullptr || (error != ERROR_ACCESS_DENIED && error != ERROR_INVALID_HANDLE));
+        takenByOthers = !first && !copyRuns();
+    }
+    void release() {
+        if (mutex != nullptr) CloseHandle(mutex);
+        mutex = nullptr;
+    }
 };
 
 SingleInstance::SingleInstance() : handle_(std::make_unique<Handle>()) {
-    handle_->mutex = CreateMutexA(nullptr, FALSE, kName);
-    const DWORD error = GetLastError();
-    // Another user's copy denies access to its mutex; the last error means that something else has the name.
-    handle_->first = error != ERROR_ALREADY_EXISTS &&
-                     (handle_->mutex != nullptr || (error != ERROR_ACCESS_DENIED && error != ERROR_INVALID_HANDLE));
-    handle_->takenByOthers = !handle_->first && !copyRuns();
+    handle_->take();
+    if (!handle_->takenByOthers) return;
+    // A copy may have ended between the two looks.
+    Sleep(kSecondLookMs);
+    handle_->take();
 }
 
 SingleInstance::~SingleInstance() {
-    if (handle_->mutex != nullptr) CloseHandle(handle_->mutex);
+    handle_->release();
 }
 
 bool SingleInstance::isFirst() const {
