@@ -12,6 +12,7 @@ ApplicationEnvironment systemApplicationEnvironment() {
     environment.language = systemLanguage();
     environment.update = systemUpdateEnvironment(QUrl(QStringLiteral(FIELDCAL_UPDATE_MANIFEST)));
     environment.keepAwake = keepAwake;
+    environment.power = systemPower;
     environment.showCritical = [](const QString& title, const QString& text) {
         QMessageBox::critical(nullptr, title, text, QMessageBox::Ok);
     };

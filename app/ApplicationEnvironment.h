@@ -1,5 +1,6 @@
 #pragma once
 
+#include "devices/PowerState.h"
 #include "i18n/SystemLanguage.h"
 #include "update/UpdateEnvironment.h"
 #include "workflow/Workflow.h"
@@ -9,6 +10,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 namespace fieldcal {
 
@@ -23,6 +25,8 @@ struct ApplicationEnvironment {
     std::function<void(const QString& title, const QString& text)> showCritical;
     /// Keeps the display and the system awake, or returns control to the system. Main thread.
     std::function<void(bool on)> keepAwake;
+    /// The computer's supply, asked before a save.
+    std::function<std::optional<PowerState>()> power;
     /// How long the confirmation of a stored calibration is shown before the program ends.
     std::chrono::milliseconds savedShownFor{2000};
 };

@@ -2,6 +2,7 @@
 
 #include "app/InterfaceTexts.h"
 #include "app/OrientationLock.h"
+#include "app/OwnCode.h"
 #include "i18n/InterfaceLanguage.h"
 #include "render/ColorImageRendererItem.h"
 #include "render/DepthColorOverlayRenderer.h"
@@ -57,6 +58,7 @@ void GlobalManager::loadUILanguage() {
 }
 
 void GlobalManager::loadInterface() {
+    allowOnlyOwnModules(engine_);
     engine_.addImageProvider(PhotoProvider::name(), bridge_.makePhotoProvider());
     engine_.load(environment_.rootDocument);
     window_ = qobject_cast<QQuickWindow*>(engine_.rootObjects().value(0));

@@ -88,6 +88,7 @@ private:
     // Implemented in GlobalManagerEnding.cpp.
     bool beginEnding();
     void saveAndQuit(Storing storing);
+    bool hasPowerToSave();
     void endProcessing(Stop stop);
     /// Called whatever ends the program; further calls have no effect.
     void closeCamera();

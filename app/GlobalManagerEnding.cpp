@@ -1,6 +1,7 @@
 // The ways to end the program: saving, leaving, and an error.
 #include "app/GlobalManager.h"
 #include "app/InterfaceTexts.h"
+#include "app/ShutdownBlock.h"
 
 #include <QEvent>
 #include <QQuickWindow>
@@ -12,6 +13,7 @@ namespace fieldcal {
 namespace {
 
 constexpr const char* kErrorTitle = "KXAPI ERROR";
+constexpr const char* kSavingText = "Storing the calibration in the camera…";  // of the page shown meanwhile
 
 }  // namespace
 
@@ -24,7 +26,8 @@ void GlobalManager::slot_storeFirstCameraAndQuit() {
 }
 
 void GlobalManager::saveAndQuit(Storing storing) {
-    if (!beginEnding()) return;
+    if (ending_ || !hasPowerToSave() || !beginEnding()) return;
+    const ShutdownBlock block(window_, QCoreApplication::translate("SavingScreen", kSavingText));
     endProcessing(Stop::ToSave);
     const LeaveReport report = workflow_.save(storing);
     const bool quiet = finishEnding("slot_saveAndQuit", report);
@@ -39,6 +42,16 @@ void GlobalManager::saveAndQuit(Storing storing) {
     }
     emit signal_saveCalibrationText(interfaceText(texts::kSaved));
     QTimer::singleShot(environment_.savedShownFor, this, &QCoreApplication::quit);
+}
+
+/// Otherwise nothing has happened yet: the user is told, and may try again.
+bool GlobalManager::hasPowerToSave() {
+    if (sufficesToWrite(environment_.power())) return true;
+    qWarning("No save begins: the battery holds less than %d %% and is not being charged.", kLeastBatteryPercent);
+    environment_.showCritical(texts::kProgramName, interfaceText(texts::kBatteryLow));
+    functions_.cancelSaving();
+    if (failed_) functions_.offerFirstCamera();
+    return false;
 }
 
 void GlobalManager::slot_userAskedToExit() {

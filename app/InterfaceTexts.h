@@ -11,6 +11,8 @@ QString interfaceText(const char* english);
 /// Texts of the application; the workflow has its own.
 namespace texts {
 
+constexpr const char* kProgramName = "Field Calibrator";
+
 constexpr const char* kContinue = QT_TRANSLATE_NOOP("Interface", "Continue");
 constexpr const char* kDarkTitle = QT_TRANSLATE_NOOP("Interface", "Sunlight Required");
 constexpr const char* kDark =
@@ -37,6 +39,14 @@ constexpr const char* kRefineSecond = QT_TRANSLATE_NOOP(
 constexpr const char* kSaved = QT_TRANSLATE_NOOP("Interface", "The calibration is stored in the camera.");
 constexpr const char* kLastSaveFailed =
     QT_TRANSLATE_NOOP("Interface", "The last calibration was not stored in the camera.\nPlease calibrate again.");
+
+constexpr const char* kBatteryLow =
+    QT_TRANSLATE_NOOP("Interface",
+                      "The battery is almost empty.\n"
+                      "Connect the tablet to its charger. Then the calibration can be stored in the camera.");
+
+constexpr const char* kLockTaken = QT_TRANSLATE_NOOP(
+    "Interface", "Another program prevents this one from starting.\nSwitch the tablet off and on again.");
 
 constexpr const char* kLastCalibrated = QT_TRANSLATE_NOOP("Interface", "Last calibrated on %1.");
 constexpr const char* kLastSaveGarbled = QT_TRANSLATE_NOOP(

@@ -89,6 +89,10 @@ void QmlFunctions::showLastCalibration(const QString& text) {
     call("showLastCalibration", {text});
 }
 
+void QmlFunctions::cancelSaving() {
+    call("cancelSaving");
+}
+
 void QmlFunctions::showLastSaveFailed(const QString& text) {
     call("showLastSaveFailed", {text});
 }

@@ -40,6 +40,7 @@ public:
     void displayMissingPlatformCamera();
     void displayPlatformCameraIssue();
     void offerFirstCamera();
+    void cancelSaving();
     void showLastSaveFailed(const QString& text);
     void showLastCalibration(const QString& text);
     void showCapturedPhoto(const QString& source);

@@ -15,7 +15,10 @@ constexpr std::uint32_t kNoChange = 0xFFFFFFFF;
 constexpr std::uint32_t kDisabled = 4;
 constexpr std::uint32_t kStopped = 1;  // the state, and the control code that leads to it
 constexpr std::uint32_t kRunning = 4;
+constexpr std::uint32_t kDependentServicesRunning = 1051;
+constexpr std::uint32_t kInvalidServiceControl = 1052;
 constexpr std::uint32_t kServiceDoesNotExist = 1060;
+constexpr std::uint32_t kServiceCannotAcceptControl = 1061;
 constexpr std::uint32_t kInsufficientBuffer = 122;
 constexpr std::uint32_t kFailed = 0xFFFFFFFF;
 constexpr std::uint32_t kWaitStepMs = 33;
@@ -46,7 +49,7 @@ private:
 PXMServiceManager& PXMServiceManager::instance() {
     static const bool simulated = usesSimulatedLibraries();
     static const std::unique_ptr<ServiceControl> control = simulated ? emptyServiceControl() : systemServiceControl();
-    static PXMServiceManager manager(*control, simulated ? QString() : serviceNoteFile());
+    static PXMServiceManager manager(*control, simulated ? nullptr : systemServiceNote());
     return manager;
 }
 
@@ -71,12 +74,12 @@ bool PXMServiceManager::shutdownPXMService() {
     if (!changeStartType(kDisabled)) {
         // Nothing was disabled. The note is removed so that a later run does not undo what another program disabled
         // meanwhile.
-        if (noted) note_.drop();
+        if (noted) dropNote();
         return false;
     }
     if (!driveTo(kStopped)) {
-        // The service must not stay disabled when the user quits during the wait.
-        if (stopRequested()) restoreStartType();
+        // The service must not stay disabled when it goes on running, nor when the user quits during the wait.
+        if (stopRefused_ || stopRequested()) undoShutdown();
         return false;
     }
     shutDown = !serviceMissing;
@@ -104,11 +107,12 @@ bool PXMServiceManager::restorePXMService() {
 
 bool PXMServiceManager::rememberStartType(bool* noted) {
     if (_previousServiceStartType != kDisabled) {
-        *noted = note_.keep(_previousServiceStartType, &lastError_);
-        if (!*noted) note_.drop();
+        *noted = note_ == nullptr || note_->keep(_previousServiceStartType, &lastError_);
+        if (!*noted) dropNote();
         return *noted;
     }
-    if (const std::optional<std::uint32_t> kept = note_.kept()) {
+    const std::optional<std::uint32_t> kept = note_ != nullptr ? note_->kept() : std::nullopt;
+    if (kept) {
         qInfo("An earlier run left the service disabled; its start type was %i", decimal(*kept));
         _previousServiceStartType = *kept;
     }
@@ -117,8 +121,19 @@ bool PXMServiceManager::rememberStartType(bool* noted) {
 
 bool PXMServiceManager::restoreStartType() {
     if (!changeStartType(_previousServiceStartType)) return false;
-    note_.drop();
+    dropNote();
     return true;
+}
+
+/// Restores the start type after a failure, whose description is kept.
+void PXMServiceManager::undoShutdown() {
+    const QString failure = lastError_;
+    restoreStartType();
+    lastError_ = failure;
+}
+
+void PXMServiceManager::dropNote() {
+    if (note_ != nullptr) note_->drop();
 }
 
 PXMServiceManager::Opened PXMServiceManager::openService(OpenedService* opened, std::uint32_t access,
@@ -212,6 +227,8 @@ bool PXMServiceManager::requestState(const OpenedService& opened, std::uint32_t 
         qCritical("ControlService failed (%d)", decimal(error));
     }
     setLastError(error, "ControlService");
+    stopRefused_ = !start && (error == kDependentServicesRunning || error == kInvalidServiceControl ||
+                              error == kServiceCannotAcceptControl);
     return false;
 }
 

@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <memory>
 #include <utility>
 
 namespace fieldcal {
@@ -20,9 +21,9 @@ public:
     /// uses an empty one without a note. For the composition root, after that choice has been made.
     static PXMServiceManager& instance();
 
-    /// `noteFile` keeps the start type while the service is disabled; with an empty name nothing is kept.
-    explicit PXMServiceManager(ServiceControl& control, QString noteFile = {})
-        : control_(control), note_(std::move(noteFile)) {}
+    /// `note` keeps the start type while the service is disabled; null: nothing is kept.
+    explicit PXMServiceManager(ServiceControl& control, std::unique_ptr<ServiceNote> note = nullptr)
+        : control_(control), note_(std::move(note)) {}
     /// Restores the start type unless that has been done.
     ~PXMServiceManager();
     PXMServiceManager(const PXMServiceManager&) = delete;
@@ -36,7 +37,8 @@ public:
     /// Stops (1) or starts (4) the service and waits until it has that state.
     bool driveTo(std::uint32_t wantedState);
 
-    /// "number: (call) ==> text" of the last failure, or which file could not be kept; empty until something fails.
+    /// "number: (call) ==> text" of the last failure, or why the start type could not be kept; empty until something
+    /// fails.
     QString lastError() const { return lastError_; }
 
     /// The wait for the service also ends, as a failure, once `*stop` is true. Null disables this.
@@ -51,6 +53,8 @@ private:
     /// Returns false when the note is not on the disk. `noted` receives whether this call wrote it.
     bool rememberStartType(bool* noted);
     bool restoreStartType();
+    void undoShutdown();
+    void dropNote();
     std::uint32_t readState();
     bool changeStartType(std::uint32_t startType);
     bool queryState(const OpenedService& opened, std::uint32_t* state);
@@ -60,11 +64,12 @@ private:
     void setLastError(std::uint32_t error, const char* call);
 
     ServiceControl& control_;
-    const ServiceNote note_;
+    const std::unique_ptr<ServiceNote> note_;
     const std::atomic<bool>* stop_ = nullptr;
     bool shutDown = false;
     bool restored = false;
     bool serviceMissing = false;
+    bool stopRefused_ = false;  ///< the service goes on running
     std::uint32_t _previousServiceStatus = 0;
     std::uint32_t _previousServiceStartType = 0;
     QString lastError_;

@@ -246,6 +246,10 @@ bool Sensor::rewriteParameters() {
 bool Sensor::mayWrite() {
     if (faulted()) return refuseToWrite("the camera has failed before");
     if (!opened_) return refuseToWrite("the camera is not open");
+    if (environment_.power && !sufficesToWrite(environment_.power())) {
+        return refuseToWrite(
+            QString("the battery holds less than %1 % and is not being charged").arg(kLeastBatteryPercent));
+    }
     return true;
 }
 

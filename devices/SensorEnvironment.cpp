@@ -33,6 +33,7 @@ SensorEnvironment systemEnvironment() {
         return std::make_unique<CPlatformCameraControl>(rearCameraBeside(std::move(library)));
     };
     environment.now = std::chrono::steady_clock::now;
+    environment.power = systemPower;
     environment.dataFolder = userDataFolder();
     return environment;
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QString>
-
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -43,9 +41,5 @@ std::unique_ptr<ServiceControl> systemServiceControl();
 
 /// Returns a service control in which no service is installed.
 std::unique_ptr<ServiceControl> emptyServiceControl();
-
-/// Returns the file that keeps a service's start type for the next run by any user of this machine. Empty where
-/// services are never disabled.
-QString serviceNoteFile();
 
 }  // namespace fieldcal

@@ -12,35 +12,49 @@ namespace {
 
 constexpr std::uint32_t kAutomatic = 2;
 constexpr std::uint32_t kOnDemand = 3;
-constexpr qint64 kLargestNote = 16;
+constexpr qint64 kNoteBytes = 2;  // a digit and a line break
+
+class ServiceNoteFile : public ServiceNote {
+public:
+    explicit ServiceNoteFile(QString file) : file_(std::move(file)) {}
+
+    bool keep(std::uint32_t startType, QString* why) override {
+        const std::string text = std::to_string(startType) + '\n';
+        std::string reason;
+        const bool written = makeFolders(QFileInfo(file_).path().toStdString(), &reason) &&
+                             writeFile(file_.toStdString(), text.data(), text.size(), &reason);
+        *why = QString::fromStdString(reason);
+        if (!written) qCritical("%s", reason.c_str());
+        return written;
+    }
+
+    std::optional<std::uint32_t> kept() override {
+        QFile file(file_);
+        if (!file.exists()) return std::nullopt;
+        const QByteArray text = file.open(QIODevice::ReadOnly) ? file.read(kNoteBytes + 1) : QByteArray();
+        for (const std::uint32_t startType : {kAutomatic, kOnDemand})
+            if (text == QByteArray::number(startType) + '\n') return startType;
+        qCritical("%s: it does not name a start type", qUtf8Printable(file_));
+        return std::nullopt;
+    }
+
+    void drop() override {
+        std::string why;
+        if (!removeFile(file_.toStdString(), &why)) qCritical("%s", why.c_str());
+    }
+
+private:
+    const QString file_;
+};
 
 }  // namespace
 
-bool ServiceNote::keep(std::uint32_t startType, QString* why) const {
-    if (file_.isEmpty()) return true;
-    const std::string text = std::to_string(startType) + '\n';
-    std::string reason;
-    const bool written = makeFolders(QFileInfo(file_).path().toStdString(), &reason) &&
-                         writeFile(file_.toStdString(), text.data(), text.size(), &reason);
-    *why = QString::fromStdString(reason);
-    if (!written) qCritical("%s", reason.c_str());
-    return written;
+bool isRunnableStartType(std::uint32_t startType) {
+    return startType == kAutomatic || startType == kOnDemand;
 }
 
-std::optional<std::uint32_t> ServiceNote::kept() const {
-    QFile file(file_);
-    if (file_.isEmpty() || !file.exists()) return std::nullopt;
-    const bool opened = file.open(QIODevice::ReadOnly);
-    const std::uint32_t startType = opened ? file.read(kLargestNote).trimmed().toUInt() : 0;
-    if (startType == kAutomatic || startType == kOnDemand) return startType;
-    qCritical("%s: it does not name a start type", qUtf8Printable(file_));
-    return std::nullopt;
-}
-
-void ServiceNote::drop() const {
-    std::string why;
-    if (file_.isEmpty() || removeFile(file_.toStdString(), &why)) return;
-    qCritical("%s", why.c_str());
+std::unique_ptr<ServiceNote> serviceNoteInFile(const QString& file) {
+    return std::make_unique<ServiceNoteFile>(file);
 }
 
 }  // namespace fieldcal

@@ -16,6 +16,8 @@ public:
 
     /// Returns false when another copy holds it.
     bool isFirst() const;
+    /// Returns whether it is held, but not by a copy of this program: anybody may create something of its name.
+    bool isTakenByOthers() const;
 
 private:
     struct Handle;

@@ -2,7 +2,7 @@
 
 #include "devices/CameraParameterReader.h"
 #include "devices/PlatformCameraSetup.h"
-#include "devices/ServiceControl.h"
+#include "devices/ServiceNote.h"
 #include "kxapi/Library.h"
 #include "tools/Console.h"
 
@@ -59,7 +59,7 @@ void makeOpaque(ImageFrame32* picture) {
 }  // namespace
 
 bool ConnectedModule::open(bool rearCamera, QString* why) {
-    const bool disablesService = !usesSimulatedLibraries() && !serviceNoteFile().isEmpty();
+    const bool disablesService = !usesSimulatedLibraries() && systemServiceNote() != nullptr;
     if (disablesService) instance_ = std::make_unique<SingleInstance>();
     if (instance_ != nullptr && !instance_->isFirst()) {
         *why = kAnotherProgram;

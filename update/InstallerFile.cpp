@@ -1,27 +1,35 @@
 #include "update/InstallerFile.h"
 
+#include "files/PrivateFolder.h"
 #include "files/SafeFile.h"
-
-#include <QDir>
 
 #include <string>
 
 namespace fieldcal {
 namespace {
 
-constexpr const char* kFolder = "field-calibrator-update-";
+constexpr const char* kFolder = "field-calibrator-update-";  // the stem of its name
 constexpr const char* kFile = "FieldCalibratorSetup.exe";
 
 }  // namespace
 
-InstallerFile::InstallerFile(const QString& temporaryFolder)
-    : folder_(temporaryFolder + '/' + kFolder + "XXXXXX"), file_(folder_.filePath(kFile)) {}
+InstallerFile::InstallerFile(const QString& temporaryFolder) {
+    std::string folder, why;
+    if (!makePrivateFolder(temporaryFolder.toStdString(), kFolder, &folder, &why)) qWarning("%s", why.c_str());
+    folder_ = QString::fromStdString(folder);
+    file_.setFileName(folder_ + '/' + kFile);
+}
+
+InstallerFile::~InstallerFile() {
+    file_.close();
+    if (!left_ && !folder_.isEmpty()) removePrivateFolder(folder_.toStdString(), kFile);
+}
 
 bool InstallerFile::begin() {
     hash_.reset();
     size_ = 0;
     file_.close();
-    return folder_.isValid() && file_.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
+    return !folder_.isEmpty() && file_.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
 }
 
 bool InstallerFile::append(const QByteArray& bytes) {
@@ -35,19 +43,13 @@ bool InstallerFile::close() {
     file_.close();
     std::string why;
     const bool whole = file_.error() == QFileDevice::NoError && QFile(path()).size() == size_ &&
-                       syncFiles(folder_.path().toStdString(), {kFile}, &why);
+                       syncFiles(folder_.toStdString(), {kFile}, &why);
     if (!why.empty()) qWarning("%s", why.c_str());
     return whole;
 }
 
-void InstallerFile::leaveToInstaller() {
-    folder_.setAutoRemove(false);
-}
-
 void InstallerFile::removeLeftovers(const QString& temporaryFolder) {
-    const QDir folder(temporaryFolder);
-    for (const QString& name : folder.entryList({QString(kFolder) + '*'}, QDir::Dirs | QDir::NoSymLinks))
-        QDir(folder.filePath(name)).removeRecursively();
+    removePrivateFolders(temporaryFolder.toStdString(), kFolder, kFile);
 }
 
 }  // namespace fieldcal

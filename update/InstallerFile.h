@@ -4,18 +4,17 @@
 #include <QCryptographicHash>
 #include <QFile>
 #include <QString>
-#include <QTemporaryDir>
-
-#include <memory>
 
 namespace fieldcal {
 
-/// An installer during its download, in a folder that only this user can access. The destructor removes it from the
-/// disk, unless the installer runs.
+/// An installer during its download, in a private folder (`files/PrivateFolder.h`) that it never leaves: the file that
+/// is checked and started is the one that was downloaded. The destructor removes it from the disk, unless the installer
+/// runs.
 class InstallerFile {
 public:
-    /// Creates it below `temporaryFolder`, and removes the files left there by earlier runs.
+    /// Creates its folder below `temporaryFolder`.
     explicit InstallerFile(const QString& temporaryFolder);
+    ~InstallerFile();
     InstallerFile(const InstallerFile&) = delete;
     InstallerFile& operator=(const InstallerFile&) = delete;
 
@@ -26,7 +25,7 @@ public:
     /// Makes sure that everything is on the disk. Returns false on a failure.
     bool close();
     /// The system locks a program's file while it runs; a later run then removes it.
-    void leaveToInstaller();
+    void leaveToInstaller() { left_ = true; }
 
     qint64 size() const { return size_; }
     QByteArray sha256() const { return hash_.result(); }
@@ -36,10 +35,11 @@ public:
     static void removeLeftovers(const QString& temporaryFolder);
 
 private:
-    QTemporaryDir folder_;
+    QString folder_;  ///< empty when it could not be created
     QFile file_;
     QCryptographicHash hash_{QCryptographicHash::Sha256};
     qint64 size_ = 0;
+    bool left_ = false;
 };
 
 }  // namespace fieldcal

@@ -132,7 +132,8 @@ void SoftwareUpdate::downloadEnded(std::optional<UpdateFailure> failure) {
 
 void SoftwareUpdate::startInstaller() {
     InstallerFile& file = download_->file();
-    const std::optional<UpdateFailure> failure = environment_.starter->start(file.path(), kInstallerArguments);
+    const std::optional<UpdateFailure> failure =
+        environment_.starter->start(file.path(), kInstallerArguments, {offered_->version, *environment_.running});
     if (!failure) file.leaveToInstaller();
     download_.reset();
     if (failure) {

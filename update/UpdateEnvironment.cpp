@@ -1,8 +1,7 @@
 #include "update/UpdateEnvironment.h"
 
 #include "update/RunningVersion.h"
-
-#include <QDir>
+#include "update/UpdateFolder.h"
 
 namespace fieldcal {
 
@@ -10,7 +9,7 @@ UpdateEnvironment systemUpdateEnvironment(const QUrl& manifest) {
     UpdateEnvironment environment;
     environment.manifest = manifest;
     environment.running = runningVersion();
-    environment.temporaryFolder = QDir::tempPath();
+    environment.temporaryFolder = updateFolder();
     environment.starter = systemInstallerStarter();
     return environment;
 }

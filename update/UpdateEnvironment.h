@@ -19,7 +19,7 @@ struct UpdateEnvironment {
     QUrl manifest;  ///< empty: no check for updates
     std::optional<Version> running;
     QList<QSslCertificate> authorities;  ///< the trusted certificate authorities; empty: the system's
-    QString temporaryFolder;
+    QString temporaryFolder;             ///< in which the installer gets a private folder
     std::shared_ptr<InstallerStarter> starter;
 
     std::chrono::milliseconds manifestTimeout{10000};

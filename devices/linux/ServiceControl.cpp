@@ -6,8 +6,4 @@ std::unique_ptr<ServiceControl> systemServiceControl() {
     return emptyServiceControl();
 }
 
-QString serviceNoteFile() {
-    return {};
-}
-
 }  // namespace fieldcal

@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <string>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace fieldcal {
@@ -22,12 +23,16 @@ std::string lockFile() {
 struct SingleInstance::Handle {
     int file = -1;
     bool first = false;
+    bool takenByOthers = false;
 };
 
 SingleInstance::SingleInstance() : handle_(std::make_unique<Handle>()) {
     handle_->file = open(lockFile().c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     // A folder without write access must not prevent the program from starting.
     handle_->first = handle_->file < 0 || flock(handle_->file, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+    // A copy of this user's session has created the file itself.
+    struct stat present {};
+    handle_->takenByOthers = !handle_->first && fstat(handle_->file, &present) == 0 && present.st_uid != getuid();
 }
 
 SingleInstance::~SingleInstance() {
@@ -36,6 +41,10 @@ SingleInstance::~SingleInstance() {
 
 bool SingleInstance::isFirst() const {
     return handle_->first;
+}
+
+bool SingleInstance::isTakenByOthers() const {
+    return handle_->takenByOthers;
 }
 
 }  // namespace fieldcal

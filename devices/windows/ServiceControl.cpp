@@ -90,8 +90,4 @@ std::unique_ptr<ServiceControl> systemServiceControl() {
     return std::make_unique<WindowsServiceControl>();
 }
 
-QString serviceNoteFile() {
-    return qEnvironmentVariable("ProgramData") + "/field-calibrator/service-start-type";
-}
-
 }  // namespace fieldcal

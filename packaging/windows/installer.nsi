@@ -12,6 +12,10 @@ RequestExecutionLevel admin
 !define NAME "Field Calibrator"
 !define ENTRY "Software\Microsoft\Windows\CurrentVersion\Uninstall\FieldCalibrator"
 !define PROGRAM "$INSTDIR\field-calibrator.exe"
+!define FRESH "$INSTDIR.new"
+!define OLD "$INSTDIR.old"
+!define LEFT "$INSTDIR.left"
+!define NOTE "Software\Field Calibrator"
 
 Name "${NAME}"
 OutFile "${OUT}"
@@ -95,32 +99,139 @@ FunctionEnd
 !insertmacro waitForPrograms ""
 !insertmacro waitForPrograms "un."
 
-; A run that died has left the camera's service disabled, and the note of how it was is of no use to anybody else.
+; A run that died has left the camera's service disabled and noted its start type. The note stays until the start type
+; has been restored.
 !macro restoreService
-    !define NOTE "$APPDATA\field-calibrator\service-start-type"
-    ${If} ${FileExists} "${NOTE}"
-        FileOpen $0 "${NOTE}" r
-        FileRead $0 $1 1
-        FileClose $0
-        ${If} $1 == 2
-            nsExec::Exec 'sc config DeepvanePXMQ550 start= auto'
-        ${ElseIf} $1 == 3
-            nsExec::Exec 'sc config DeepvanePXMQ550 start= demand'
+    ClearErrors
+    ReadRegDWORD $1 HKLM "${NOTE}" "ServiceStartType"
+    ${IfNot} ${Errors}
+        StrCpy $0 1
+        ${If} $1 = 2
+            nsExec::Exec '"$SYSDIR\sc.exe" config DeepvanePXMQ550 start= auto'
+            Pop $0
+        ${ElseIf} $1 = 3
+            nsExec::Exec '"$SYSDIR\sc.exe" config DeepvanePXMQ550 start= demand'
+            Pop $0
         ${EndIf}
-        Delete "${NOTE}"
+        ${If} $0 == 0
+            DeleteRegValue HKLM "${NOTE}" "ServiceStartType"
+        ${EndIf}
     ${EndIf}
-    RMDir "$APPDATA\field-calibrator"
+    DeleteRegKey /ifnovalues HKLM "${NOTE}"
 !macroend
+
+; Removes what this installer lays down, by name: a recursive removal would follow a junction.
+Function removeFresh
+    SetOutPath "$TEMP"
+    Push $INSTDIR
+    StrCpy $INSTDIR "${FRESH}"
+    !include "${OWNED}"
+    Delete "$INSTDIR\uninstall.exe"
+    RMDir "$INSTDIR"
+    Pop $INSTDIR
+FunctionEnd
+
+Function stopWithoutChange
+    Call removeFresh
+    MessageBox MB_ICONSTOP "${NAME} could not be installed. What was installed before is unchanged." /SD IDOK
+    SetErrorLevel 3
+    Quit
+FunctionEnd
+
+; Moves what others put beside the old version from $0 to $1, where nothing has the same name. Keeps the registers.
+Function moveRest
+    Push $2
+    Push $3
+    FindFirst $2 $3 "$0\*"
+    ${DoWhile} $3 != ""
+        ${If} $3 != "."
+        ${AndIf} $3 != ".."
+            ${IfNot} ${FileExists} "$1\$3"
+                Rename "$0\$3" "$1\$3"
+            ${ElseIf} ${FileExists} "$0\$3\*"
+                Push $0
+                Push $1
+                StrCpy $0 "$0\$3"
+                StrCpy $1 "$1\$3"
+                Call moveRest
+                Pop $1
+                Pop $0
+            ${EndIf}
+        ${EndIf}
+        FindNext $2 $3
+    ${Loop}
+    FindClose $2
+    RMDir "$0"
+    Pop $3
+    Pop $2
+FunctionEnd
+
+; The old version's uninstaller removes what that version installed, except itself, and the rest moves.
+Function removeOld
+    ${If} ${FileExists} "${OLD}\uninstall.exe"
+        ExecWait '"${OLD}\uninstall.exe" /S _?=${OLD}' $0
+        ${If} $0 <> 0
+            Return
+        ${EndIf}
+        Delete "${OLD}\uninstall.exe"
+    ${EndIf}
+    ${If} ${FileExists} "${OLD}\*"
+        StrCpy $0 "${OLD}"
+        StrCpy $1 "$INSTDIR"
+        Call moveRest
+    ${EndIf}
+FunctionEnd
+
+; An installation that a power cut interrupted is either undone or finished.
+Function settleLastRun
+    ${If} ${FileExists} "${OLD}\*"
+        ${If} ${FileExists} "${PROGRAM}"
+            Call removeOld
+        ${Else}
+            Rename "${OLD}" "$INSTDIR"
+        ${EndIf}
+    ${EndIf}
+    Call removeFresh
+    ; What another version left there must not become a part of this one.
+    ${If} ${FileExists} "${FRESH}"
+        Rename "${FRESH}" "${LEFT}"
+    ${EndIf}
+    ${If} ${FileExists} "${OLD}"
+    ${OrIf} ${FileExists} "${FRESH}"
+        Call stopWithoutChange
+    ${EndIf}
+FunctionEnd
+
+; Runs when a file cannot be written, before anything of the old version is touched.
+Function .onInstFailed
+    Call removeFresh
+FunctionEnd
 
 Section
     Call waitForPrograms
-    ; What an older version had and this one has not must go.
-    ${If} ${FileExists} "$INSTDIR\uninstall.exe"
-        ExecWait '"$INSTDIR\uninstall.exe" /S _?=$INSTDIR'
-    ${EndIf}
-    SetOutPath "$INSTDIR"
+    Call settleLastRun
+    ; The new version is complete beside the old one before that gives way.
+    ClearErrors
+    SetOverwrite try
+    SetOutPath "${FRESH}"
     File /r "${DIST}/*"
-    WriteUninstaller "$INSTDIR\uninstall.exe"
+    WriteUninstaller "${FRESH}\uninstall.exe"
+    SetOutPath "$TEMP"
+    ${If} ${Errors}
+        Call stopWithoutChange
+    ${EndIf}
+    ${If} ${FileExists} "$INSTDIR\*"
+        Rename "$INSTDIR" "${OLD}"
+        ${If} ${Errors}
+            Call stopWithoutChange
+        ${EndIf}
+    ${EndIf}
+    Rename "${FRESH}" "$INSTDIR"
+    ${If} ${Errors}
+        Rename "${OLD}" "$INSTDIR"
+        Call stopWithoutChange
+    ${EndIf}
+    Call removeOld
     CreateDirectory "$SMPROGRAMS\${NAME}"
     CreateShortcut "$SMPROGRAMS\${NAME}\${NAME}.lnk" "${PROGRAM}"
     CreateShortcut "$SMPROGRAMS\${NAME}\${NAME} Demo.lnk" "$INSTDIR\field-calibrator-demo.exe"

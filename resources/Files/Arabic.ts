@@ -285,6 +285,18 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>The installer could not be started.</source>
         <translation>تعذّر تشغيل برنامج التثبيت.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>البطارية فارغة تقريبًا.
+صِل الجهاز اللوحي بالشاحن. بعد ذلك يمكن تخزين المعايرة في الكاميرا.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>برنامج آخر يمنع بدء هذا البرنامج.
+أوقف تشغيل الجهاز اللوحي ثم شغّله مرة أخرى.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

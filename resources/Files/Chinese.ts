@@ -285,6 +285,18 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>The installer could not be started.</source>
         <translation>无法启动安装程序。</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>电池电量即将耗尽。
+请将平板电脑连接到充电器。然后即可将校准存储到摄像头中。</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>另一个程序阻止了本程序启动。
+请关闭平板电脑，然后重新打开。</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>The installer could not be started.</source>
         <translation>無法啟動安裝程式。</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>電池電量即將耗盡。
+請將平板電腦連接到充電器。然後即可將校正儲存到攝影機中。</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>另一個程式阻止了本程式啟動。
+請將平板電腦關機，然後重新開機。</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Zkuste to znovu. Namiřte na rozmanitou scénu, například na budovy nebo strom
         <source>The installer could not be started.</source>
         <translation>Instalační program se nepodařilo spustit.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>Baterie je téměř vybitá.
+Připojte tablet k nabíječce. Potom lze kalibraci uložit do kamery.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Jiný program brání spuštění tohoto programu.
+Vypněte tablet a znovu jej zapněte.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Prøv igen. Ret mod varierede omgivelser som bygninger eller træer.</translatio
         <source>The installer could not be started.</source>
         <translation>Installationsprogrammet kunne ikke startes.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>Batteriet er næsten tomt.
+Slut tabletten til opladeren. Derefter kan kalibreringen gemmes i kameraet.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Et andet program forhindrer dette i at starte.
+Sluk tabletten, og tænd den igen.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

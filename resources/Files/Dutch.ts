@@ -285,6 +285,18 @@ Probeer het opnieuw. Richt op een gevarieerde omgeving, zoals gebouwen of bomen.
         <source>The installer could not be started.</source>
         <translation>Het installatieprogramma kon niet worden gestart.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>De batterij is bijna leeg.
+Sluit de tablet aan op de oplader. Daarna kan de kalibratie in de camera worden opgeslagen.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Een ander programma verhindert dat dit programma start.
+Schakel de tablet uit en weer in.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</tra
         <source>The installer could not be started.</source>
         <translation>The installer could not be started.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Another program prevents this one from starting.
+Switch the tablet off and on again.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Yritä uudelleen. Suuntaa vaihtelevaan maisemaan, kuten rakennuksiin tai puihin.
         <source>The installer could not be started.</source>
         <translation>Asennusohjelmaa ei voitu käynnistää.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>Akku on lähes tyhjä.
+Kytke tabletti laturiin. Sitten kalibrointi voidaan tallentaa kameraan.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Toinen ohjelma estää tätä käynnistymästä.
+Sammuta tabletti ja käynnistä se uudelleen.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

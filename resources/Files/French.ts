@@ -285,6 +285,18 @@ Réessayons. Visez un paysage varié, avec des bâtiments ou des arbres.</transl
         <source>The installer could not be started.</source>
         <translation>Le programme d’installation n’a pas pu être lancé.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>La batterie est presque vide.
+Branchez la tablette sur son chargeur. L’étalonnage pourra alors être enregistré dans la caméra.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Un autre programme empêche celui-ci de démarrer.
+Éteignez puis rallumez la tablette.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Versuchen Sie es noch einmal. Richten Sie das Gerät auf eine abwechslungsreiche
         <source>The installer could not be started.</source>
         <translation>Das Installationsprogramm konnte nicht gestartet werden.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>Der Akku ist fast leer.
+Schließen Sie das Tablet an das Ladegerät an. Dann kann die Kalibrierung in der Kamera gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Ein anderes Programm verhindert den Start dieses Programms.
+Schalten Sie das Tablet aus und wieder ein.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

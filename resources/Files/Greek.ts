@@ -285,6 +285,18 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>The installer could not be started.</source>
         <translation>Δεν ήταν δυνατή η εκκίνηση του προγράμματος εγκατάστασης.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>Η μπαταρία είναι σχεδόν άδεια.
+Συνδέστε το tablet στον φορτιστή. Έπειτα η βαθμονόμηση μπορεί να αποθηκευτεί στην κάμερα.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Ένα άλλο πρόγραμμα εμποδίζει την εκκίνηση αυτού του προγράμματος.
+Απενεργοποιήστε το tablet και ενεργοποιήστε το ξανά.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

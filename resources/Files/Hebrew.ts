@@ -285,6 +285,18 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>The installer could not be started.</source>
         <translation>לא ניתן היה להפעיל את תוכנית ההתקנה.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>הסוללה כמעט ריקה.
+יש לחבר את הטאבלט למטען. לאחר מכן ניתן לשמור את הכיול במצלמה.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>תוכנית אחרת מונעת את הפעלת התוכנית הזאת.
+יש לכבות את הטאבלט ולהפעיל אותו שוב.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Riprovare. Inquadrare un paesaggio vario, con edifici o alberi.</translation>
         <source>The installer could not be started.</source>
         <translation>Non è stato possibile avviare il programma di installazione.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>La batteria è quasi scarica.
+Collegare il tablet al caricabatterie. Poi la calibrazione potrà essere memorizzata nella fotocamera.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Un altro programma impedisce l’avvio di questo.
+Spegnere e riaccendere il tablet.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>The installer could not be started.</source>
         <translation>インストーラーを起動できませんでした。</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>バッテリーの残量がほとんどありません。
+タブレットを充電器に接続してください。その後、キャリブレーションをカメラに保存できます。</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>別のプログラムのため、このプログラムを起動できません。
+タブレットの電源を切り、入れ直してください。</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

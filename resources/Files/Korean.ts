@@ -285,6 +285,18 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>The installer could not be started.</source>
         <translation>설치 프로그램을 시작할 수 없습니다.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>배터리가 거의 없습니다.
+태블릿을 충전기에 연결하십시오. 그러면 보정값을 카메라에 저장할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>다른 프로그램 때문에 이 프로그램을 시작할 수 없습니다.
+태블릿을 껐다가 다시 켜십시오.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

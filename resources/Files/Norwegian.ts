@@ -285,6 +285,18 @@ Prøv igjen. Rett mot varierte omgivelser som bygninger eller trær.</translatio
         <source>The installer could not be started.</source>
         <translation>Installasjonsprogrammet kunne ikke startes.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>Batteriet er nesten tomt.
+Koble nettbrettet til laderen. Deretter kan kalibreringen lagres i kameraet.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Et annet program hindrer dette i å starte.
+Slå nettbrettet av og på igjen.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Spróbuj ponownie. Skieruj na urozmaicone otoczenie, takie jak budynki lub drzew
         <source>The installer could not be started.</source>
         <translation>Nie udało się uruchomić instalatora.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>Bateria jest prawie rozładowana.
+Podłącz tablet do ładowarki. Potem kalibrację będzie można zapisać w kamerze.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Inny program uniemożliwia uruchomienie tego programu.
+Wyłącz tablet i włącz go ponownie.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Tente novamente. Aponte para um cenário variado, como edifícios ou árvores.</
         <source>The installer could not be started.</source>
         <translation>Não foi possível iniciar o instalador.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>A bateria está quase vazia.
+Ligue o tablet ao carregador. Depois, a calibração poderá ser guardada na câmara.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Outro programa impede o arranque deste.
+Desligue o tablet e volte a ligá-lo.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

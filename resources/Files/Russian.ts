@@ -285,6 +285,18 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>The installer could not be started.</source>
         <translation>Не удалось запустить установщик.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>Аккумулятор почти разряжен.
+Подключите планшет к зарядному устройству. После этого калибровку можно будет сохранить в камере.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Другая программа мешает запуску этой.
+Выключите планшет и снова включите его.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Skúste to znova. Namierte na rozmanitú scénu, napríklad na budovy alebo stro
         <source>The installer could not be started.</source>
         <translation>Inštalačný program sa nepodarilo spustiť.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>Batéria je takmer vybitá.
+Pripojte tablet k nabíjačke. Potom možno kalibráciu uložiť do kamery.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Iný program bráni spusteniu tohto programu.
+Vypnite tablet a znova ho zapnite.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Inténtelo de nuevo. Apunte a un entorno variado, como edificios o árboles.</tr
         <source>The installer could not be started.</source>
         <translation>No se pudo iniciar el instalador.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>La batería está casi agotada.
+Conecte la tableta al cargador. Después se podrá guardar la calibración en la cámara.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Otro programa impide que este se inicie.
+Apague la tableta y vuelva a encenderla.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Försök igen. Rikta mot en omväxlande omgivning som byggnader eller träd.</tr
         <source>The installer could not be started.</source>
         <translation>Installationsprogrammet kunde inte startas.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>Batteriet är nästan tomt.
+Anslut surfplattan till laddaren. Därefter kan kalibreringen lagras i kameran.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Ett annat program hindrar det här från att starta.
+Stäng av surfplattan och slå på den igen.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

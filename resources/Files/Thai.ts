@@ -285,6 +285,18 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>The installer could not be started.</source>
         <translation>ไม่สามารถ​เริ่ม​โปรแกรม​ติดตั้ง</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>แบตเตอรี่​ใกล้หมด
+โปรด​ต่อ​แท็บเล็ต​กับ​เครื่องชาร์จ จากนั้น​จึงจะ​บันทึก​ค่า​การ​ปรับเทียบ​ในกล้อง​ได้</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>โปรแกรมอื่น​ขัดขวาง​การเริ่ม​โปรแกรมนี้
+ปิด​แท็บเล็ต​แล้วเปิด​อีกครั้ง</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

@@ -285,6 +285,18 @@ Yeniden deneyin. Binalar veya ağaçlar gibi ayrıntılı bir manzaraya doğrult
         <source>The installer could not be started.</source>
         <translation>Yükleyici başlatılamadı.</translation>
     </message>
+    <message>
+        <source>The battery is almost empty.
+Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
+        <translation>Pil neredeyse bitti.
+Tableti şarj cihazına bağlayın. Ardından kalibrasyon kameraya kaydedilebilir.</translation>
+    </message>
+    <message>
+        <source>Another program prevents this one from starting.
+Switch the tablet off and on again.</source>
+        <translation>Başka bir program bu programın başlamasını engelliyor.
+Tableti kapatıp yeniden açın.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>

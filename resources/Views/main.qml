@@ -68,6 +68,7 @@ Window {
     function displayMissingPlatformCamera() { status.notice = "missingPlatformCameraPage" }
     function displayPlatformCameraIssue() { status.notice = "platformCameraIssuePage" }
     function offerFirstCamera() { status.failed = true; pages.askToLeave() }
+    function cancelSaving() { status.saving = false }
     function showLastSaveFailed(message) { status.lastSaveFailedText = message }
     function showLastCalibration(message) { status.lastCalibrationText = message }
     function showCapturedPhoto(source) { status.photos = status.photos.concat([source]) }

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -49,6 +50,7 @@ protected:
         };
         awake.clear();
         environment.keepAwake = [this](bool on) { awake.push_back(on); };
+        environment.power = [this] { return power; };
         environment.savedShownFor = std::chrono::milliseconds(300);
         if (change) change(environment);
         manager = std::make_unique<GlobalManager>(argc, argv, environment);
@@ -120,6 +122,7 @@ protected:
     QString dataFolder() const { return folder.filePath("data"); }
     SensorEnvironment sensorEnvironment() const {
         SensorEnvironment environment = systemEnvironment();
+        environment.power = nullptr;  // the tests run on any computer
         environment.services = services.get();
         environment.dataFolder = dataFolder();
         return environment;
@@ -132,6 +135,7 @@ protected:
     FakeServiceControl control;
     std::unique_ptr<PXMServiceManager> services;
     std::vector<std::string> boxes;
+    std::optional<PowerState> power;
     std::vector<bool> awake;  ///< the requests to the system to stay awake, in order
     std::unique_ptr<GlobalManager> manager;
 };

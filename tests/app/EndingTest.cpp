@@ -103,6 +103,22 @@ TEST_F(EndingTest, AnErrorInTheSecondCameraLeavesTheFirstToBeStoredAsItWasDragge
     EXPECT_EQ(records().toStore(kSecond), storedSecond) << "nobody has accepted what was found";
 }
 
+TEST_F(EndingTest, NoSaveBeginsOnANearlyEmptyBatteryAndTheUserMayTryAgain) {
+    start();
+    refineFirst();
+    power = PowerState{false, 14};
+    press("quit");
+    EXPECT_THAT(boxes, ElementsAre("Field Calibrator: The battery is almost empty.\nConnect the tablet to its charger. "
+                                   "Then the calibration can be stored in the camera."));
+    EXPECT_EQ(calls().back(), "cancelSaving");
+    EXPECT_FALSE(QDir(dataFolder() + "/backups").exists());
+    power->mains = true;
+    runUntilEnd([this] { press("quit"); });
+    EXPECT_THAT(calls(), Contains(kSaved));
+    EXPECT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(manager->exitCode(), 0);
+}
+
 TEST_F(EndingTest, AFailedSaveEndsQuietlyAndIsSaidAtTheNextStart) {
     start("commitCalibration:1:6");
     refineFirst();

@@ -173,6 +173,7 @@ TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
     functions.displayMissingPlatformCamera();
     functions.displayPlatformCameraIssue();
     functions.offerFirstCamera();
+    functions.cancelSaving();
     functions.showLastSaveFailed("a");
     functions.showUpdateOffer("1.1");
     functions.showUpdateProgress(1, 2);

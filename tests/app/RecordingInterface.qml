@@ -54,6 +54,7 @@ Window {
     function displayMissingPlatformCamera() { add("missingPlatformCamera", []) }
     function displayPlatformCameraIssue() { add("platformCameraIssue", []) }
     function offerFirstCamera() { add("offerFirstCamera", []) }
+    function cancelSaving() { add("cancelSaving", []) }
     function showLastSaveFailed(text) { add("lastSaveFailed", [text]) }
     function showLastCalibration(text) { add("lastCalibration", [text]) }
     function showCapturedPhoto(source) { add("photo", [source]) }

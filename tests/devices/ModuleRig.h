@@ -49,6 +49,7 @@ protected:
         reports.clear();
         LogCapture::lines().clear();
         SensorEnvironment environment = systemEnvironment();
+        environment.power = nullptr;  // the tests run on any computer
         environment.services = services.get();
         environment.dataFolder = temporary.filePath("data");
         environment.limits = limits;

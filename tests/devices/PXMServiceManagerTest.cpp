@@ -152,6 +152,21 @@ TEST_F(PXMServiceManagerTest, AStopEndsTheWaitAndUndoesTheDisabling) {
     EXPECT_EQ(LogCapture::lines().back(), "new_state = 1, old_state = 4");
 }
 
+TEST_F(PXMServiceManagerTest, AServiceThatRefusesToStopIsNotLeftDisabled) {
+    const QTemporaryDir folder;
+    const QString note = folder.filePath("start-type");
+    for (const std::uint32_t refusal : {1051U, 1052U, 1061U}) {
+        FakeServiceControl refusing;
+        refusing.startType = 3;
+        refusing.fail("controlService", 1, refusal);
+        PXMServiceManager fresh(refusing, serviceNoteInFile(note));
+        EXPECT_FALSE(fresh.shutdownPXMService());
+        EXPECT_EQ(refusing.startType, 3U) << refusal;
+        EXPECT_FALSE(QFile::exists(note)) << refusal;
+        EXPECT_TRUE(fresh.lastError().startsWith(QString::number(refusal) + ": (ControlService)"));
+    }
+}
+
 TEST_F(PXMServiceManagerTest, WhatADeadRunLeftDisabledIsPutBack) {
     QTemporaryDir folder;
     const QString note = folder.filePath("notes/start-type");
@@ -162,7 +177,7 @@ TEST_F(PXMServiceManagerTest, WhatADeadRunLeftDisabledIsPutBack) {
     };
     for (const std::uint32_t own : {2U, 3U}) {
         control.startType = own;
-        PXMServiceManager dead(control, note);
+        PXMServiceManager dead(control, serviceNoteInFile(note));
         ASSERT_TRUE(dead.shutdownPXMService());
         control.fail("changeConfig", 1, 5);
         EXPECT_FALSE(dead.restorePXMService());
@@ -171,25 +186,25 @@ TEST_F(PXMServiceManagerTest, WhatADeadRunLeftDisabledIsPutBack) {
 
         FakeServiceControl left;
         left.startType = 4;
-        PXMServiceManager next(left, note);
+        PXMServiceManager next(left, serviceNoteInFile(note));
         ASSERT_TRUE(next.shutdownPXMService());
         EXPECT_TRUE(next.restorePXMService());
         EXPECT_EQ(left.startType, own);
         EXPECT_FALSE(QFile::exists(note));
         control = {};
     }
-    for (const char* nonsense : {"4", "-1", "two", ""}) {
+    for (const char* nonsense : {"4\n", "-1\n", "two", "", "2", " 2\n", "2\n3\n", "02\n"}) {
         write(nonsense);
         FakeServiceControl disabled;
         disabled.startType = 4;
-        PXMServiceManager fresh(disabled, note);
+        PXMServiceManager fresh(disabled, serviceNoteInFile(note));
         ASSERT_TRUE(fresh.shutdownPXMService());
         EXPECT_TRUE(fresh.restorePXMService());
         EXPECT_EQ(disabled.startType, 4U) << "a service that somebody else disabled stays so";
     }
-    write("3");
+    write("3\n");
     control = {};
-    manager = std::make_unique<PXMServiceManager>(control, note);
+    manager = std::make_unique<PXMServiceManager>(control, serviceNoteInFile(note));
     ASSERT_TRUE(manager->shutdownPXMService());
     EXPECT_TRUE(manager->restorePXMService());
     EXPECT_EQ(control.startType, 2U) << "an old note does not outweigh what the service says";
@@ -199,18 +214,18 @@ TEST_F(PXMServiceManagerTest, ANoteStaysOnlyWhenTheServiceIsDisabled) {
     QTemporaryDir folder;
     const QString note = folder.filePath("start-type");
     control.fail("changeConfig", 1, 5);
-    EXPECT_FALSE(PXMServiceManager(control, note).shutdownPXMService());
+    EXPECT_FALSE(PXMServiceManager(control, serviceNoteInFile(note)).shutdownPXMService());
     EXPECT_FALSE(QFile::exists(note)) << "nothing was disabled";
 
     FakeServiceControl left;
-    PXMServiceManager dead(left, note);
+    PXMServiceManager dead(left, serviceNoteInFile(note));
     ASSERT_TRUE(dead.shutdownPXMService());
     left.fail("changeConfig", 1, 5);
-    EXPECT_FALSE(PXMServiceManager(left, note).shutdownPXMService());
+    EXPECT_FALSE(PXMServiceManager(left, serviceNoteInFile(note)).shutdownPXMService());
     EXPECT_TRUE(QFile::exists(note)) << "an earlier run's, and the service is still disabled";
 
     FakeServiceControl untouched;
-    PXMServiceManager noteless(untouched, note + "/there/is/a/file/above");
+    PXMServiceManager noteless(untouched, serviceNoteInFile(note + "/there/is/a/file/above"));
     EXPECT_FALSE(noteless.shutdownPXMService());
     EXPECT_EQ(untouched.startType, 2U) << "nobody could put it back after a crash";
     EXPECT_TRUE(noteless.lastError().contains("start-type")) << noteless.lastError().toStdString();

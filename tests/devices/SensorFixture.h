@@ -44,6 +44,7 @@ protected:
             return std::make_unique<CPlatformCameraControl>(std::make_unique<FakePlatformBackend>(rearCamera));
         };
         result.now = [this] { return now; };
+        result.power = [this] { return power; };
         result.dataFolder = data.path();
         result.limits.call = callLimit;
         return result;
@@ -66,6 +67,7 @@ protected:
     PXMServiceManager services{control};
     std::chrono::steady_clock::time_point now;
     bool libraryMissing = false;
+    std::optional<PowerState> power;
     std::vector<std::string> emitted;
     std::unique_ptr<Sensor> sensor;
 };

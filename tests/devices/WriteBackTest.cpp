@@ -149,6 +149,18 @@ TEST_F(WriteBackTest, NothingIsWrittenWhenThePreviousBlockCannotBeKept) {
     EXPECT_EQ(reason(), "The present parameter block cannot be used: its infrared rectification is no rotation");
 }
 
+TEST_F(WriteBackTest, NothingIsSentToTheModuleOnANearlyEmptyBattery) {
+    open();
+    power = PowerState{false, 14};
+    EXPECT_FALSE(sensor->updateRotation(kAboutY, kAboutX));
+    EXPECT_FALSE(sensor->restoreParameters(device->flash));
+    EXPECT_FALSE(sensor->rewriteParameters());
+    EXPECT_THAT(device->calls, IsEmpty());
+    EXPECT_EQ(reason(), "Nothing is written to the camera: the battery holds less than 15 % and is not being charged");
+    power->mains = true;
+    EXPECT_TRUE(sensor->updateRotation(kAboutY, kAboutX)) << reason();
+}
+
 TEST_F(WriteBackTest, AStopEndsAGrabThatNeverReturnsWithoutAReport) {
     std::promise<void> release;
     const std::shared_future<void> released = release.get_future().share();

@@ -79,8 +79,9 @@ int run(const QStringList& arguments) {
     const QString& data = arguments[2];
     const QString note = data + "/service-note";
     ServiceInFile control(arguments[3].toStdString(), note.toStdString());
-    PXMServiceManager services(control, note);
+    PXMServiceManager services(control, serviceNoteInFile(note));
     SensorEnvironment environment = systemEnvironment();
+    environment.power = nullptr;  // the tests run on any computer
     environment.services = &services;
     environment.dataFolder = data;
     Sensor sensor(environment);

@@ -12,7 +12,9 @@ namespace fieldcal::testing {
 class FakeStarter : public InstallerStarter {
 public:
     std::optional<UpdateFailure> obstacle() override { return obstacleFound; }
-    std::optional<UpdateFailure> start(const QString& installer, const QString& arguments) override {
+    std::optional<UpdateFailure> start(const QString& installer, const QString& arguments,
+                                       const ExpectedInstaller& wanted) override {
+        expected = wanted;
         QFile file(installer);
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         started = file.readAll();
@@ -23,6 +25,7 @@ public:
     std::optional<UpdateFailure> obstacleFound, startFailure;
     QByteArray started;
     QString command;
+    ExpectedInstaller expected;
     QFile::Permissions others;
 };
 

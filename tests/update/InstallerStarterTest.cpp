@@ -10,7 +10,7 @@ TEST(InstallerStarterTest, AProgramWithoutASignatureStartsNothing) {
     const auto starter = systemInstallerStarter();
     const LogCapture log;
     EXPECT_TRUE(starter->obstacle());
-    EXPECT_TRUE(starter->start(QString(), QString()));
+    EXPECT_TRUE(starter->start(QString(), QString(), {}));
     EXPECT_GE(LogCapture::lines().size(), 2U);
 }
 

@@ -173,6 +173,8 @@ TEST_P(UpdateTableTest, WhatTheUserIsToldAndWhatIsLeftOnTheDisk) {
         EXPECT_TRUE(course.starter->started == course.installer);
         EXPECT_EQ(course.starter->command, "FieldCalibratorSetup.exe /S /AUTOSTART");
         EXPECT_EQ(course.starter->others, QFile::Permissions());
+        EXPECT_TRUE(course.starter->expected.offered == *Version::parse("1.10"));
+        EXPECT_TRUE(course.starter->expected.running == *course.environment.running);
     } else if (!course.starter->startFailure) {
         EXPECT_TRUE(course.starter->started.isEmpty());
     }
@@ -331,6 +333,27 @@ TEST_F(SoftwareUpdateTest, AfterAFailureItCanBeTriedAgain) {
     ASSERT_EQ(onDisk().size(), 1) << "the installer needs it";
     start();
     EXPECT_THAT(onDisk(), IsEmpty()) << "what the installer left, before anything else is asked for";
+}
+
+TEST_F(SoftwareUpdateTest, LeftoversAreRemovedWithoutFollowingALink) {
+    const QDir folder(temporary.path());
+    const QString stem = "field-calibrator-update-", digits(32, 'a'), other(32, 'b'), third(32, 'c');
+    const auto fill = [&](const QString& within, const QString& file) {
+        ASSERT_TRUE(folder.mkpath(within));
+        QFile made(folder.filePath(within + '/' + file));
+        ASSERT_TRUE(made.open(QIODevice::WriteOnly));
+    };
+    fill(stem + digits, "FieldCalibratorSetup.exe");
+    fill("victim", "FieldCalibratorSetup.exe");
+    ASSERT_TRUE(QFile::link(folder.filePath("victim"), folder.filePath(stem + other)));
+    fill(stem + third, "document.txt");
+    fill(stem + "of-the-user", "FieldCalibratorSetup.exe");
+    ASSERT_TRUE(folder.mkpath(stem + third + "/FieldCalibratorSetup.exe"));
+    start();
+    EXPECT_FALSE(folder.exists(stem + digits));
+    EXPECT_TRUE(folder.exists("victim/FieldCalibratorSetup.exe")) << "behind a link with our name";
+    EXPECT_TRUE(folder.exists(stem + third + "/document.txt")) << "not our file";
+    EXPECT_TRUE(folder.exists(stem + "of-the-user/FieldCalibratorSetup.exe")) << "not our name";
 }
 
 TEST_F(SoftwareUpdateTest, WithoutAnAddressNothingIsAskedAndNothingIsSaid) {

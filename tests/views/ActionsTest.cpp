@@ -193,6 +193,11 @@ TEST_F(ActionsTest, WhateverBecomesOfTheSecondCameraTheFirstCanBeStoredAlone) {
     pressReturn();
     EXPECT_TRUE(shown("savingPage"));
     EXPECT_TRUE(stores.wait());
+    stage.tell("cancelSaving");
+    stage.tell("offerFirstCamera");
+    EXPECT_TRUE(shown("leaveQuestion")) << "no save has begun";
+    pressReturn();
+    EXPECT_TRUE(stores.wait());
     EXPECT_TRUE(quits.isEmpty()) << "the second camera's rotation is not accepted by this";
 }
 

@@ -141,6 +141,7 @@ protected:
         services = std::make_unique<PXMServiceManager>(control);
         const auto makeSensor = [this] {
             SensorEnvironment environment = systemEnvironment();
+            environment.power = nullptr;  // the tests run on any computer
             environment.services = services.get();
             environment.dataFolder = folder.filePath("data");
             return std::make_unique<Sensor>(environment);

@@ -9,7 +9,8 @@ public:
         qInfo("There are no installers for this system.");
         return UpdateFailure::NoInstallers;
     }
-    std::optional<UpdateFailure> start(const QString& /*installer*/, const QString& /*arguments*/) override {
+    std::optional<UpdateFailure> start(const QString& /*installer*/, const QString& /*arguments*/,
+                                       const ExpectedInstaller& /*expected*/) override {
         return obstacle();
     }
 };

@@ -2,17 +2,15 @@
 
 #include "update/windows/ProgramFile.h"
 #include "update/windows/Signature.h"
+#include "update/windows/VersionResource.h"
 
 #include <QDir>
 
-#include <shellapi.h>
 #include <vector>
 #include <windows.h>
 
 namespace fieldcal {
 namespace {
-
-constexpr DWORD kElevationRequired = 740;  // MinGW's headers do not define this error
 
 /// Keeps a file open such that no other program can write, rename or remove it.
 class HeldFile {
@@ -38,34 +36,31 @@ std::wstring systemFolder() {
     return {path.data(), length};
 }
 
-/// Returns the system's error code, 0 on success. The working directory is not that of the file, because an installer
-/// would load libraries from there.
-DWORD createProcess(const std::wstring& installer, const std::wstring& arguments) {
+/// Gives the process a handle of its own, which stays open as long as the process runs. Returns the system's error
+/// code.
+DWORD giveTo(HANDLE process, HANDLE file) {
+    HANDLE given = nullptr;
+    const bool done = DuplicateHandle(GetCurrentProcess(), file, process, &given, 0, FALSE, DUPLICATE_SAME_ACCESS);
+    return done ? ERROR_SUCCESS : GetLastError();
+}
+
+/// Starts the installer, which then holds its own file. Returns the system's error code, 0 on success. The working
+/// directory is not that of the file, because an installer would load libraries from there.
+DWORD createProcess(const std::wstring& installer, const std::wstring& arguments, HANDLE file) {
     std::wstring line = L'"' + installer + L"\" " + arguments;
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
-    if (!CreateProcessW(installer.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, systemFolder().c_str(),
-                        &startup, &process)) {
+    if (!CreateProcessW(installer.c_str(), line.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED, nullptr,
+                        systemFolder().c_str(), &startup, &process)) {
         return GetLastError();
     }
+    DWORD error = giveTo(process.hProcess, file);
+    if (error == ERROR_SUCCESS && ResumeThread(process.hThread) == static_cast<DWORD>(-1)) error = GetLastError();
+    if (error != ERROR_SUCCESS) TerminateProcess(process.hProcess, 1);
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
-    return ERROR_SUCCESS;
-}
-
-/// The same for an installer that needs administrator rights, for which the system asks the user.
-DWORD createElevatedProcess(const std::wstring& installer, const std::wstring& arguments) {
-    const std::wstring folder = systemFolder();
-    SHELLEXECUTEINFOW info{};
-    info.cbSize = sizeof info;
-    info.fMask = SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI;
-    info.lpVerb = L"runas";
-    info.lpFile = installer.c_str();
-    info.lpParameters = arguments.c_str();
-    info.lpDirectory = folder.c_str();
-    info.nShow = SW_SHOWNORMAL;
-    return ShellExecuteExW(&info) ? ERROR_SUCCESS : GetLastError();
+    return error;
 }
 
 class WindowsInstallerStarter : public InstallerStarter {
@@ -75,7 +70,8 @@ public:
         return UpdateFailure::Unsigned;
     }
 
-    std::optional<UpdateFailure> start(const QString& installer, const QString& arguments) override {
+    std::optional<UpdateFailure> start(const QString& installer, const QString& arguments,
+                                       const ExpectedInstaller& expected) override {
         const std::wstring path = QDir::toNativeSeparators(installer).toStdWString();
         const HeldFile file(path);
         if (!file.isHeld()) {
@@ -85,7 +81,8 @@ public:
         const QByteArray programs = programsSigner();
         if (programs.isEmpty()) return UpdateFailure::Unsigned;
         if (!isSignedBy(programs, path, file.handle())) return UpdateFailure::NotTrusted;
-        return run(path, arguments.toStdWString());
+        if (!isExpected(path, expected)) return UpdateFailure::Server;
+        return run(path, arguments.toStdWString(), file.handle());
     }
 
 private:
@@ -102,9 +99,13 @@ private:
         qInfo("The installer is not started: %s.", signer.isEmpty() ? qUtf8Printable(why) : "signed by somebody else");
         return false;
     }
-    static std::optional<UpdateFailure> run(const std::wstring& path, const std::wstring& arguments) {
-        DWORD error = createProcess(path, arguments);
-        if (error == kElevationRequired) error = createElevatedProcess(path, arguments);
+    static bool isExpected(const std::wstring& path, const ExpectedInstaller& expected) {
+        const QString reason = reasonToRefuse(identityOf(path), expected);
+        if (!reason.isEmpty()) qInfo("The installer is not started: %s.", qUtf8Printable(reason));
+        return reason.isEmpty();
+    }
+    static std::optional<UpdateFailure> run(const std::wstring& path, const std::wstring& arguments, HANDLE file) {
+        const DWORD error = createProcess(path, arguments, file);
         if (error == ERROR_SUCCESS) return std::nullopt;
         qInfo("The installer could not be started: %lu", error);
         return UpdateFailure::NotStarted;

@@ -4,20 +4,25 @@
 #include "kxapi/Library.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+
+// The second header requires the first one.
+// clang-format off
 #include <windows.h>
+#include <sddl.h>
+// clang-format on
 
 namespace fieldcal::testing {
 namespace {
 
 constexpr const char* kName = "DeepvanePXMQ550";
+constexpr const char* kNoteKey = "SOFTWARE\\Field Calibrator";
 
 /// Handles that close themselves.
 class Opened {
@@ -89,11 +94,8 @@ private:
 
 /// Runs a program that uses the manager, and returns the state of the service meanwhile. `ending`: "end", "error" or
 /// "die"; "play" ends like "end", with the simulated libraries.
-std::string during(const QString& ending, const QString& data) {
+std::string during(const QString& ending) {
     QProcess program;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("ProgramData", data);
-    program.setProcessEnvironment(environment);
     program.start(QCoreApplication::applicationFilePath(), {"--run", ending});
     EXPECT_TRUE(program.waitForFinished(30000));
     return program.readAllStandardOutput().trimmed().toStdString();
@@ -108,13 +110,12 @@ TEST(ServiceLifeTest, TheStartTypeComesBackHoweverARunEnds) {
     };
     for (const Case& c : {Case{2, true}, {2, false}, {3, true}, {3, false}, {4, true}, {4, false}}) {
         for (const char* ending : {"end", "error", "die"}) {
-            QTemporaryDir data;
             const InstalledService service(c.startType, c.running);
             ASSERT_TRUE(service.installed()) << GetLastError();
             const std::string before = serviceNow();
-            const std::string meanwhile = during(ending, data.path());
+            const std::string meanwhile = during(ending);
             const std::string after = serviceNow();
-            during("end", data.path());
+            during("end");
             const std::string next = serviceNow();
             std::printf("%-18s %-8s %-8s %-7s %s\n", before.c_str(), ending, meanwhile.c_str(), after.c_str(),
                         next.c_str());
@@ -122,24 +123,72 @@ TEST(ServiceLifeTest, TheStartTypeComesBackHoweverARunEnds) {
             EXPECT_EQ(meanwhile, "4/1");
             EXPECT_EQ(after, std::string(ending) == "die" ? "4/1" : restored);
             EXPECT_EQ(next, restored);
+            EXPECT_EQ(systemServiceNote()->kept(), std::nullopt);
         }
     }
-    QTemporaryDir data;
     for (const char* ending : {"end", "error", "die"})
-        EXPECT_EQ(during(ending, data.path()), "missing");
+        EXPECT_EQ(during(ending), "missing");
     EXPECT_EQ(serviceNow(), "missing");
 }
 
 TEST(ServiceLifeTest, AProgramOnTheSimulatedLibrariesLeavesItAlone) {
     for (const bool running : {true, false}) {
-        const QTemporaryDir data;
         const InstalledService service(2, running);
         ASSERT_TRUE(service.installed()) << GetLastError();
         const std::string before = serviceNow();
-        EXPECT_EQ(during("play", data.path()), before);
+        EXPECT_EQ(during("play"), before);
         EXPECT_EQ(serviceNow(), before);
-        EXPECT_TRUE(QDir(data.path()).isEmpty()) << "nor is there a note";
+        EXPECT_EQ(systemServiceNote()->kept(), std::nullopt) << "nor is there a note";
     }
+}
+
+/// The rights on the key of the note, as text.
+std::string rightsOfNote() {
+    BYTE rights[1024];
+    DWORD size = sizeof rights;
+    HKEY key = nullptr;
+    char* text = nullptr;
+    if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, kNoteKey, 0, READ_CONTROL, &key) != 0) return "missing";
+    const bool read = RegGetKeySecurity(key, DACL_SECURITY_INFORMATION, rights, &size) == 0 &&
+                      ConvertSecurityDescriptorToStringSecurityDescriptorA(rights, SDDL_REVISION_1,
+                                                                           DACL_SECURITY_INFORMATION, &text, nullptr);
+    RegCloseKey(key);
+    const std::string result = read ? text : "unreadable";
+    LocalFree(text);
+    return result;
+}
+
+TEST(ServiceLifeTest, OnlyAnExactNoteOfAnAdministratorCounts) {
+    const auto write = [](DWORD type, const void* bytes, DWORD size) {
+        HKEY key = nullptr;
+        ASSERT_EQ(RegCreateKeyA(HKEY_LOCAL_MACHINE, kNoteKey, &key), 0);
+        RegSetValueExA(key, "ServiceStartType", 0, type, static_cast<const BYTE*>(bytes), size);
+        RegCloseKey(key);
+    };
+    RegDeleteKeyA(HKEY_LOCAL_MACHINE, kNoteKey);
+    const auto note = systemServiceNote();
+    QString why;
+    ASSERT_TRUE(note->keep(3, &why)) << why.toStdString();
+    EXPECT_EQ(note->kept(), 3U);
+    EXPECT_EQ(rightsOfNote(), "D:P(A;CI;KA;;;SY)(A;CI;KA;;;BA)(A;CI;KR;;;BU)");
+
+    const std::uint64_t wide = 2;
+    const DWORD numbers[] = {0, 1, 4, 0x10002};
+    for (const DWORD& number : numbers) {
+        write(REG_DWORD, &number, sizeof number);
+        EXPECT_EQ(note->kept(), std::nullopt) << number;
+    }
+    write(REG_SZ, "2", 2);
+    EXPECT_EQ(note->kept(), std::nullopt);
+    write(REG_QWORD, &wide, sizeof wide);
+    EXPECT_EQ(note->kept(), std::nullopt);
+    write(REG_DWORD, &wide, 1);
+    EXPECT_EQ(note->kept(), std::nullopt);
+    write(REG_BINARY, &wide, 4);
+    EXPECT_EQ(note->kept(), std::nullopt);
+    note->drop();
+    EXPECT_EQ(note->kept(), std::nullopt);
+    RegDeleteKeyA(HKEY_LOCAL_MACHINE, kNoteKey);
 }
 
 TEST(ServiceLifeTest, ARightThatIsMissingIsNamed) {

@@ -1,0 +1,9 @@
+#include "devices/PowerState.h"
+
+namespace fieldcal {
+
+bool sufficesToWrite(const std::optional<PowerState>& power) {
+    return !power || power->mains || power->batteryPercent >= kLeastBatteryPercent;
+}
+
+}  // namespace fieldcal
