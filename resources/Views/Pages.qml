@@ -9,6 +9,7 @@ Item {
     property CalibrationStatus status
     property PictureLayout layout
     property Item overlay
+    property bool dragging: false  // the user drags the overlay
     signal wanted(int state)
     signal begun()
     signal accepted()
@@ -150,6 +151,7 @@ Item {
             status: pages.status
             layout: pages.layout
             overlay: pages.overlay
+            dragging: pages.dragging
             onContinued: pages.accepted()
             onRestarted: pages.restart()
         }
@@ -201,6 +203,7 @@ Item {
             anchors.right: parent.right
             anchors.top: parent.top
             anchors.margins: Theme.margin
+            opacity: refinement.shown && refinement.watching ? 0 : 1
             text: qsTr("Exit")
             onClicked: pages.leave()
         }

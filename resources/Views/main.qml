@@ -162,6 +162,7 @@ Window {
         status: status
         layout: layout
         overlay: pictures.refinementView
+        dragging: pictures.dragging
         LayoutMirroring.enabled: root.mirrored
         LayoutMirroring.childrenInherit: true
         onWanted: root.goTo(state)

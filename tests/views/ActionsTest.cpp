@@ -301,6 +301,38 @@ TEST_F(ActionsTest, TheFingerDragsWhereThePictureIsTapsForNothingAndHoldsToCompa
     EXPECT_EQ(downs.size(), 1);
 }
 
+TEST_F(ActionsTest, TheComparisonIsPlayedOnceAndThePanelsFadeForIt) {
+    const auto* overlay = stage.window()->findChild<DepthColorOverlayRenderer*>("refinementView");
+    QSignalSpy comparisons(overlay, &DepthColorOverlayRenderer::storedShownChanged);
+    const QQuickItem* button = stage.find("refinementContinueButton");
+    const auto shows = [&](bool stored) {
+        return QTest::qWaitFor([&] { return overlay->storedShown() == stored && button->opacity() == (stored ? 0 : 1); });
+    };
+    stage.enter(10);
+    QTest::qWait(1000);
+    EXPECT_TRUE(comparisons.isEmpty()) << "the page is not shown yet";
+    stage.press("foundContinueButton");
+    EXPECT_TRUE(shows(true));
+    EXPECT_TRUE(shows(false));
+    QTest::qWait(1500);
+    EXPECT_EQ(comparisons.size(), 2);
+    const QRectF clear = overlay->clearArea();
+    EXPECT_NEAR(clear.y(), 1 - clear.y() - clear.height(), 0.06) << "in the middle of the image";
+    EXPECT_NEAR(clear.height(), 0.56, 0.03);
+
+    ViewsStage another;
+    another.resize({1280, 800});
+    const auto* other = another.window()->findChild<DepthColorOverlayRenderer*>("refinementView");
+    another.enter(10);
+    another.press("foundContinueButton");
+    QTest::mousePress(another.window(), Qt::LeftButton, {}, {400, 400});
+    QTest::mouseMove(another.window(), {500, 400});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return another.find("refinementContinueButton")->opacity() == 0; }));
+    QTest::mouseRelease(another.window(), Qt::LeftButton, {}, {500, 400});
+    QTest::qWait(1500);
+    EXPECT_FALSE(other->storedShown()) << "who drags has understood";
+}
+
 TEST_F(ActionsTest, AnUpdateIsFetchedGivenUpOrLeftForLater) {
     QSignalSpy wanted(stage.window(), SIGNAL(startDownloadingUpdate()));
     QSignalSpy givenUp(stage.window(), SIGNAL(abortDownloadingUpdate()));

@@ -45,6 +45,8 @@ QtObject {
     readonly property int calmly: 400
     readonly property int slowly: 1600
     readonly property int confirmation: 1500
+    readonly property int beforeDemonstration: 800
+    readonly property int demonstration: 1400
     readonly property int untilDark: 300  // shorter darkness is not reported
     readonly property int untilLit: 500   // shorter light does not end the notice
     readonly property int steady: 250  // an instruction valid for a shorter time is not shown
