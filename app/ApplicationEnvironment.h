@@ -1,6 +1,7 @@
 #pragma once
 
 #include "i18n/SystemLanguage.h"
+#include "sound/Cue.h"
 #include "update/UpdateEnvironment.h"
 #include "workflow/Workflow.h"
 
@@ -23,8 +24,10 @@ struct ApplicationEnvironment {
     std::function<void(const QString& title, const QString& text)> showCritical;
     /// Keeps the display and the system awake, or returns control to the system. Main thread.
     std::function<void(bool on)> keepAwake;
-    /// How long the confirmation of a stored calibration is shown before the program ends.
-    std::chrono::milliseconds savedShownFor{2000};
+    /// How long the confirmation of a stored calibration is shown before the program ends, unless the user touches it.
+    std::chrono::milliseconds savedShownFor{10000};
+    /// Main thread.
+    std::function<void(Cue)> playCue;
 };
 
 ApplicationEnvironment systemApplicationEnvironment();

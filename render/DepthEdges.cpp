@@ -7,13 +7,13 @@
 namespace fieldcal {
 namespace {
 
-constexpr int kWidestGapPx = 12;  ///< without depth, beside a near object
-constexpr int kLeastPieces = 24;  ///< of a border
-constexpr int kReachPx = 8;       ///< of the neighbourhood that tells whether a surface is upright
-constexpr int kLeastSamples = 12; ///< of this neighbourhood
+constexpr int kWidestGapPx = 12;     ///< without depth, beside a near object
+constexpr int kLeastPieces = 24;     ///< of a border
+constexpr int kReachPx = 8;          ///< of the neighbourhood that tells whether a surface is upright
+constexpr int kLeastSamples = 12;    ///< of this neighbourhood
 constexpr double kLeastKnown = 0.9;  ///< share of this surface with depth; it is lower where depth fades with distance
 constexpr double kBlindBand = 0.15;  ///< share of the width at either side, where one of the two imagers sees nothing
-constexpr int kSmoothings = 3;    ///< of the steps that the pixel grid leaves in a slanted border
+constexpr int kSmoothings = 3;       ///< of the steps that the pixel grid leaves in a slanted border
 
 /// Of two known depths.
 bool isStep(std::uint16_t a, std::uint16_t b) {
@@ -67,7 +67,8 @@ private:
         const int depth = at(x, y);
         RowFit fit;
         int known = 0;
-        const int first = std::max(0, y - (dy > 0 ? 0 : kReachPx)), last = std::min(height_ - 1, y + (dy < 0 ? 0 : kReachPx));
+        const int first = std::max(0, y - (dy > 0 ? 0 : kReachPx)),
+                  last = std::min(height_ - 1, y + (dy < 0 ? 0 : kReachPx));
         for (int row = first; row <= last; ++row) {
             for (int i = -1; i <= 1; ++i) {
                 const int column = x + (dx == 0 ? i : dx * (i + 1));
@@ -177,8 +178,8 @@ private:
                               0.001F * static_cast<float>(nearer)});
         return static_cast<int>(crossings_.size()) - 1;
     }
-    /// Joins the crossings between four neighbouring pixels. A crossing lies between two such groups, so it gets at most
-    /// two neighbours.
+    /// Joins the crossings between four neighbouring pixels. A crossing lies between two such groups, so it gets at
+    /// most two neighbours.
     void join(int x, int y) {
         const int top = right_[index(x, y)], bottom = right_[index(x, y + 1)];
         const int left = below_[index(x, y)], right = below_[index(x + 1, y)];

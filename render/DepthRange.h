@@ -16,7 +16,8 @@ struct DepthRange {
 /// Without depths the default range. The order of `depths` changes.
 DepthRange percentileRange(std::vector<std::uint16_t>* depths);
 
-/// Returns a range between two, a quarter of the way to the wanted one, so that the colours do not jump with each frame.
+/// Returns a range between two, a quarter of the way to the wanted one, so that the colours do not jump with each
+/// frame.
 DepthRange approach(const DepthRange& present, const DepthRange& wanted);
 
 }  // namespace fieldcal

@@ -50,6 +50,8 @@ protected:
         awake.clear();
         environment.keepAwake = [this](bool on) { awake.push_back(on); };
         environment.savedShownFor = std::chrono::milliseconds(300);
+        cues.clear();
+        environment.playCue = [this](Cue cue) { cues.push_back(cue); };
         if (change) change(environment);
         manager = std::make_unique<GlobalManager>(argc, argv, environment);
     }
@@ -132,6 +134,7 @@ protected:
     FakeServiceControl control;
     std::unique_ptr<PXMServiceManager> services;
     std::vector<std::string> boxes;
+    std::vector<Cue> cues;    ///< that would have been heard
     std::vector<bool> awake;  ///< the requests to the system to stay awake, in order
     std::unique_ptr<GlobalManager> manager;
 };

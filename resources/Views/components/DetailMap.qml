@@ -6,10 +6,30 @@ import "../theme"
 Item {
     id: map
     property var areas: []  // 0..1, row by row
+    property string look: ""  // the direction in which the camera should turn
+    readonly property string arrow: ({left: "arrowLeft", right: "arrowRight", up: "arrowUp", down: "arrowDown"})[look] || ""
     readonly property int columns: 4
     readonly property int rows: 3
     LayoutMirroring.enabled: false
 
+    Rectangle {
+        readonly property int side: Theme.length(56)
+        objectName: "lookArrow"
+        visible: map.look !== ""
+        x: map.look === "left" ? Theme.smallGap / 2 : map.look === "right" ? map.width - side - Theme.smallGap / 2 : (map.width - side) / 2
+        y: map.look === "up" ? Theme.smallGap : map.look === "down" ? map.height - side - Theme.length(60) : (map.height - side) / 2
+        width: side
+        height: side
+        radius: side / 2
+        color: Theme.ground
+        border.width: Theme.hairline
+        border.color: Theme.now
+        Illustration {
+            anchors.fill: parent
+            anchors.margins: Theme.smallGap
+            drawing: map.arrow
+        }
+    }
     Repeater {
         model: map.areas.length === map.columns * map.rows ? map.areas : []
         Item {

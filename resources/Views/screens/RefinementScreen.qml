@@ -75,7 +75,7 @@ Screen {
         height: screen.layout.headerHeight + Theme.smallGap
         ColumnLayout {
             anchors.fill: parent
-            anchors.margins: Theme.gap
+            anchors.margins: Theme.smallGap
             anchors.leftMargin: Theme.margin
             anchors.rightMargin: screen.layout.exitSpace + Theme.margin
             opacity: top.solid
