@@ -7,7 +7,8 @@
 
 namespace fieldcal {
 
-SoundSwitch::SoundSwitch(const QString& dataFolder) : offFile_(dataFolder + "/sounds-off"), on_(!QFile::exists(offFile_)) {}
+SoundSwitch::SoundSwitch(const QString& dataFolder)
+    : offFile_(dataFolder + "/sounds-off"), on_(!QFile::exists(offFile_)) {}
 
 void SoundSwitch::set(bool on) {
     on_ = on;
