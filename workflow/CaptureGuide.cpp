@@ -29,10 +29,11 @@ Look nextLook(const std::vector<double>& areas) {
     if (areas.size() != kColumns * kRows) return Look::Anywhere;
     double need = 0, x = 0, y = 0;
     for (std::size_t i = 0; i < areas.size(); ++i) {
+        const std::size_t column = i % kColumns, row = i / kColumns;
         const double missing = 1 - areas[i];
         need += missing;
-        x += missing * (2 * static_cast<double>(i % kColumns) / (kColumns - 1) - 1);
-        y += missing * (2 * static_cast<double>(i / kColumns) / (kRows - 1) - 1);
+        x += missing * (2 * static_cast<double>(column) / (kColumns - 1) - 1);
+        y += missing * (2 * static_cast<double>(row) / (kRows - 1) - 1);
     }
     if (need < kLeastNeed || std::hypot(x, y) < kLeastOneSided * need) return Look::Anywhere;
     if (std::abs(x) >= std::abs(y)) return x > 0 ? Look::Left : Look::Right;

@@ -13,7 +13,7 @@ namespace {
 /// The desktop's player, or that of the sound driver; empty where there is neither.
 QString findPlayer() {
     for (const char* name : {"pw-play", "paplay", "aplay"}) {
-        const QString path = QStandardPaths::findExecutable(name);
+        QString path = QStandardPaths::findExecutable(name);
         if (!path.isEmpty()) return path;
     }
     return {};

@@ -5,7 +5,6 @@ import "../theme"
 Rectangle {
     id: legend
     property string arrow: ""  // the drawing of the arrow
-    height: Theme.length(52)
     radius: Theme.radius
     color: Qt.rgba(Theme.ground.r, Theme.ground.g, Theme.ground.b, Theme.veil)
 

@@ -91,6 +91,7 @@ PairPage {
             x: screen.layout.infrared.x
             y: parent.height - height
             width: screen.layout.infrared.width
+            height: map.legendHeight
         },
         Item {
             x: screen.layout.colour.x
