@@ -1,6 +1,7 @@
 #include "app/ApplicationEnvironment.h"
 
 #include "app/KeepAwake.h"
+#include "sound/CuePlayer.h"
 
 #include <QMessageBox>
 
@@ -13,6 +14,7 @@ ApplicationEnvironment systemApplicationEnvironment() {
     environment.update = systemUpdateEnvironment(QUrl(QStringLiteral(FIELDCAL_UPDATE_MANIFEST)));
     environment.keepAwake = keepAwake;
     environment.power = systemPower;
+    environment.playCue = playCue;
     environment.showCritical = [](const QString& title, const QString& text) {
         QMessageBox::critical(nullptr, title, text, QMessageBox::Ok);
     };

@@ -2,6 +2,7 @@
 
 #include "devices/PowerState.h"
 #include "i18n/SystemLanguage.h"
+#include "sound/Cue.h"
 #include "update/UpdateEnvironment.h"
 #include "workflow/Workflow.h"
 
@@ -27,8 +28,10 @@ struct ApplicationEnvironment {
     std::function<void(bool on)> keepAwake;
     /// The computer's supply, asked before a save.
     std::function<std::optional<PowerState>()> power;
-    /// How long the confirmation of a stored calibration is shown before the program ends.
-    std::chrono::milliseconds savedShownFor{2000};
+    /// How long the confirmation of a stored calibration is shown before the program ends, unless the user touches it.
+    std::chrono::milliseconds savedShownFor{10000};
+    /// Main thread.
+    std::function<void(Cue)> playCue;
 };
 
 ApplicationEnvironment systemApplicationEnvironment();

@@ -36,7 +36,8 @@ GlobalManager::GlobalManager(int& argc, char** argv, ApplicationEnvironment envi
     : QApplication(argc, argv),
       environment_(std::move(environment)),
       workflow_(bridge_, environment_.workflow),
-      updates_(environment_.update, updateBridge_) {
+      updates_(environment_.update, updateBridge_),
+      sounds_(environment_.workflow.dataFolder) {
     initResources();
     loadUILanguage();
     lockOrientation();
@@ -70,6 +71,7 @@ void GlobalManager::loadInterface() {
     }
     functions_.setRoot(window_);
     functions_.setLeftToRightLanguage(leftToRight_);
+    functions_.showSoundSwitch(sounds_.on());
     views_.findIn(*window_);
     views_.setCalibrator(&workflow_.engine());
 }
@@ -89,6 +91,8 @@ void GlobalManager::connectSignals() {
     connect(window_, SIGNAL(switchToOOMColorSensor()), this, SLOT(slot_switchToOOMColorSensor()));
     connect(window_, SIGNAL(switchToIMColorSensor()), this, SLOT(slot_switchToIMColorSensor()));
     connect(window_, SIGNAL(pauseCapture(bool)), this, SLOT(slot_pauseCapture(bool)));
+    connect(window_, SIGNAL(cueSounded(QString)), this, SLOT(slot_cueSounded(QString)));
+    connect(window_, SIGNAL(soundSwitched(bool)), this, SLOT(slot_soundSwitched(bool)));
     connect(window_, SIGNAL(userAskedToExit()), this, SLOT(slot_userAskedToExit()));
     connect(window_, SIGNAL(quit()), this, SLOT(slot_saveAndQuit()));
     connect(window_, SIGNAL(storeFirstCamera()), this, SLOT(slot_storeFirstCameraAndQuit()));
@@ -156,6 +160,16 @@ void GlobalManager::slot_toggleTutorialAnimation(bool on) {
 
 void GlobalManager::slot_pauseCapture(bool paused) {
     workflow_.pauseCapture(paused);
+}
+
+void GlobalManager::slot_cueSounded(const QString& cue) {
+    const std::optional<Cue> known = cueNamed(cue);
+    if (!known) qCritical("The interface has no sound for %s.", qUtf8Printable(cue));
+    if (known && sounds_.on()) environment_.playCue(*known);
+}
+
+void GlobalManager::slot_soundSwitched(bool on) {
+    sounds_.set(on);
 }
 
 void GlobalManager::slot_switchToIMColorSensor() {

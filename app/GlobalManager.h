@@ -3,6 +3,7 @@
 #include "app/ApplicationEnvironment.h"
 #include "app/ImageViews.h"
 #include "app/QmlFunctions.h"
+#include "app/SoundSwitch.h"
 #include "app/UpdateBridge.h"
 #include "app/WorkflowBridge.h"
 #include "update/SoftwareUpdate.h"
@@ -57,6 +58,8 @@ public slots:
     void slot_switchToOOMColorSensor();
     void slot_switchToIMColorSensor();
     void slot_pauseCapture(bool paused);
+    void slot_cueSounded(const QString& cue);
+    void slot_soundSwitched(bool on);
     void slot_userAskedToExit();
     void slot_saveAndQuit();
     void slot_storeFirstCameraAndQuit();
@@ -94,6 +97,9 @@ private:
     void closeCamera();
     /// Returns false when there was an error to report.
     bool finishEnding(const char* who, const LeaveReport& report);
+    QStringList storedFacts() const;
+    void showSaved();
+    bool isTouchOnSaved(const QEvent& event) const;
 
     const ApplicationEnvironment environment_;
     QTranslator translator_;
@@ -108,6 +114,8 @@ private:
     QQmlApplicationEngine engine_;  ///< its views use the workflow's engine
     QQuickWindow* window_ = nullptr;
     QElapsedTimer lightingStopwatch_;
+    QElapsedTimer savedShown_;  ///< runs from when the confirmation of a stored calibration is shown
+    SoundSwitch sounds_;
     std::unique_ptr<ProcessingThread> thread_;
     bool awake_ = false;
     bool ending_ = false;

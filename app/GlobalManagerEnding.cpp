@@ -4,9 +4,12 @@
 #include "app/ShutdownBlock.h"
 
 #include <QEvent>
+#include <QLocale>
 #include <QQuickWindow>
 #include <QTimer>
 
+#include <array>
+#include <cmath>
 #include <utility>
 
 namespace fieldcal {
@@ -40,7 +43,13 @@ void GlobalManager::saveAndQuit(Storing storing) {
         QCoreApplication::quit();
         return;
     }
+    showSaved();
+}
+
+void GlobalManager::showSaved() {
+    functions_.showStoredFacts(storedFacts());
     emit signal_saveCalibrationText(interfaceText(texts::kSaved));
+    savedShown_.start();
     QTimer::singleShot(environment_.savedShownFor, this, &QCoreApplication::quit);
 }
 
@@ -52,6 +61,31 @@ bool GlobalManager::hasPowerToSave() {
     functions_.cancelSaving();
     if (failed_) functions_.offerFirstCamera();
     return false;
+}
+
+/// One line for each stored camera. A save is confirmed only when the module has reported these rotations.
+QStringList GlobalManager::storedFacts() const {
+    QStringList facts;
+    const CalibrationRecords& records = workflow_.records();
+    for (const ColourCamera camera : kColourCameras) {
+        const std::optional<Rotation> accepted = records.accepted(camera);
+        if (!accepted) continue;
+        const std::array<double, 3> turn = foundTurn(records.factory(camera), *accepted, {}).anglesDeg;
+        const QString degrees = QLocale().toString(std::hypot(turn[0], turn[1], turn[2]), 'f', 2);
+        const char* name = camera == ColourCamera::Platform  ? texts::kSecondCamera
+                           : bridge_.platformCameraPresent() ? texts::kFirstCamera
+                                                             : texts::kOnlyCamera;
+        facts += interfaceText(texts::kStoredFact).arg(interfaceText(name), degrees);
+    }
+    return facts;
+}
+
+/// A second tap on the button that has stored the calibration does not count.
+bool GlobalManager::isTouchOnSaved(const QEvent& event) const {
+    constexpr qint64 kSecondTapMs = 700;
+    const bool touch = event.type() == QEvent::MouseButtonPress || event.type() == QEvent::TouchBegin ||
+                       event.type() == QEvent::KeyPress;
+    return touch && savedShown_.isValid() && savedShown_.elapsed() > kSecondTapMs;
 }
 
 void GlobalManager::slot_userAskedToExit() {
@@ -111,6 +145,7 @@ bool GlobalManager::finishEnding(const char* who, const LeaveReport& report) {
 }
 
 bool GlobalManager::eventFilter(QObject* watched, QEvent* event) {
+    if (isTouchOnSaved(*event)) QCoreApplication::quit();
     switch (event->type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonRelease:

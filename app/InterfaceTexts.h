@@ -37,6 +37,8 @@ constexpr const char* kRefineSecond = QT_TRANSLATE_NOOP(
     "Press Continue to accept the calibration of the second color camera. Or press Restart to start over.");
 
 constexpr const char* kSaved = QT_TRANSLATE_NOOP("Interface", "The calibration is stored in the camera.");
+//: %1 is the name of a camera, %2 an angle
+constexpr const char* kStoredFact = QT_TRANSLATE_NOOP("Interface", "%1: read back, %2° from the calibration before.");
 constexpr const char* kLastSaveFailed =
     QT_TRANSLATE_NOOP("Interface", "The last calibration was not stored in the camera.\nPlease calibrate again.");
 

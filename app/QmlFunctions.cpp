@@ -101,8 +101,20 @@ void QmlFunctions::showCapturedPhoto(const QString& source) {
     call("showCapturedPhoto", {source});
 }
 
-void QmlFunctions::showDetailMap(const QVariantList& areas) {
-    call("showDetailMap", {QVariant(areas)});
+void QmlFunctions::showDetailMap(const QVariantList& areas, const QString& look) {
+    call("showDetailMap", {QVariant(areas), look});
+}
+
+void QmlFunctions::showPhotoWorth(const QString& worth) {
+    call("showPhotoWorth", {worth});
+}
+
+void QmlFunctions::showStoredFacts(const QStringList& facts) {
+    call("showStoredFacts", {facts});
+}
+
+void QmlFunctions::showSoundSwitch(bool on) {
+    call("showSoundSwitch", {on});
 }
 
 void QmlFunctions::showFoundTurn(const QVariantList& anglesDeg, const QVariantMap& quality) {

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
 #include <QVariantList>
 #include <QVariantMap>
 
@@ -44,7 +45,10 @@ public:
     void showLastSaveFailed(const QString& text);
     void showLastCalibration(const QString& text);
     void showCapturedPhoto(const QString& source);
-    void showDetailMap(const QVariantList& areas);
+    void showDetailMap(const QVariantList& areas, const QString& look);
+    void showPhotoWorth(const QString& worth);
+    void showStoredFacts(const QStringList& facts);
+    void showSoundSwitch(bool on);
     /// Rotation of the camera in degrees: upwards, to the right, and clockwise as seen from behind the camera.
     void showFoundTurn(const QVariantList& anglesDeg, const QVariantMap& quality);
     void showUpdateOffer(const QString& version);

@@ -23,6 +23,32 @@ constexpr const char* verdictName(StoredRotation verdict) {
     }
 }
 
+constexpr const char* lookName(Look look) {
+    switch (look) {
+        case Look::Left:
+            return "left";
+        case Look::Right:
+            return "right";
+        case Look::Up:
+            return "up";
+        case Look::Down:
+            return "down";
+        default:
+            return "";
+    }
+}
+
+constexpr const char* worthName(PhotoWorth worth) {
+    switch (worth) {
+        case PhotoWorth::TooLittleDetail:
+            return "detail";
+        case PhotoWorth::NothingNew:
+            return "repeated";
+        default:
+            return "";
+    }
+}
+
 /// The quality of a solution in the form that `docs/interface-map.md` describes.
 QVariantMap qualityMap(const FoundTurn& turn) {
     QVariantMap quality{{"verdict", verdictName(turn.verdict())}};
@@ -151,7 +177,11 @@ void WorkflowBridge::pairPictures(const ImageFrame16& /*infrared*/, const ImageF
 }
 
 void WorkflowBridge::detailGathered(const std::vector<double>& areas) {
-    functions_.showDetailMap(QVariantList(areas.begin(), areas.end()));
+    functions_.showDetailMap(QVariantList(areas.begin(), areas.end()), lookName(nextLook(areas)));
+}
+
+void WorkflowBridge::photoJudged(PhotoWorth worth) {
+    functions_.showPhotoWorth(worthName(worth));
 }
 
 void WorkflowBridge::offerHowToMove() {

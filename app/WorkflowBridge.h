@@ -50,6 +50,7 @@ public:
     void pairCaptured() override;
     void pairPictures(const ImageFrame16& infrared, const ImageFrame32& colour) override;
     void detailGathered(const std::vector<double>& areas) override;
+    void photoJudged(PhotoWorth worth) override;
     void offerHowToMove() override;
 
 private:

@@ -2,6 +2,7 @@
 //   film-strip RECORDING FOLDER [WIDTHxHEIGHT] [rtl | LANGUAGE]     (on an X display)
 // LANGUAGE: a name of resources/Files, such as Chinese_Taiwan; "rtl": English in the other direction.
 #include "render/FixedFunctionGl.h"
+#include "render/OverlayCalibration.h"
 #include "session/RecordedSession.h"
 #include "tests/views/InterfaceLanguages.h"
 #include "tests/views/ViewsStory.h"
@@ -12,13 +13,17 @@
 #include <algorithm>
 #include <cstdio>
 
+static void initPictures() {
+    Q_INIT_RESOURCE(Pictures);
+}
+
 namespace fieldcal::demonstration {
 namespace {
 
 using testing::Scene;
 using testing::ViewsStage;
 
-constexpr int kSettleMs = 2200;  // longer than any text is delayed or any confirmation is shown
+constexpr int kSettleMs = 2700;  // longer than any text is delayed or any confirmation is shown
 
 ImageFrame32 colourFrame(const QString& file) {
     const QImage image = QImage(file).convertToFormat(QImage::Format_RGBA8888);
@@ -38,6 +43,29 @@ ImageFrame16 greyFrame(const QString& file) {
     return frame;
 }
 
+CameraModel modelOf(const session::Intrinsics& camera) {
+    return {camera.width,
+            camera.height,
+            static_cast<float>(camera.fx),
+            static_cast<float>(camera.fy),
+            static_cast<float>(camera.cx),
+            static_cast<float>(camera.cy)};
+}
+
+/// The colour camera of a recording with its true rotation as the result.
+OverlayCalibration calibrationOf(const session::SessionDescription& recorded) {
+    OverlayCalibration cameras;
+    cameras.depth = modelOf(recorded.depth);
+    cameras.colour = modelOf(recorded.third);
+    for (int i = 0; i < 9; ++i) {
+        cameras.stored.rotation[i] = static_cast<float>(recorded.third.rotation[i]);
+        cameras.estimated[i] = static_cast<float>(recorded.truthThird.value_or(recorded.third.rotation)[i]);
+    }
+    for (int i = 0; i < 3; ++i)
+        cameras.stored.translation[i] = static_cast<float>(0.001 * recorded.third.translation[i]);
+    return cameras;
+}
+
 /// In the application, code shows one or two views at a time; here the page of the interface decides.
 void fillViews(ViewsStage& stage, const QString& recording) {
     const ImageFrame32 colour = colourFrame(recording + "/000_third.png");
@@ -46,9 +74,13 @@ void fillViews(ViewsStage& stage, const QString& recording) {
     stage.window()
         ->findChild<InfraredImageRendererItem*>("calibInfraredView")
         ->setFrame(greyFrame(recording + "/000_infrared.png"));
-    for (const char* name : {"refinementWalkthroughView", "refinementView"})
-        stage.window()->findChild<DepthColorOverlayRenderer*>(name)->setFrames(colour,
-                                                                               greyFrame(recording + "/000_depth.png"));
+    session::SessionDescription recorded;
+    std::string why;
+    if (!readDescription(recording.toStdString(), &recorded, &why)) std::fprintf(stderr, "%s\n", why.c_str());
+    auto* refinement = stage.window()->findChild<DepthColorOverlayRenderer*>("refinementView");
+    refinement->setCalibration(calibrationOf(recorded));
+    refinement->setFrames(colour, greyFrame(recording + "/000_depth.png"));
+    stage.window()->findChild<DepthColorOverlayRenderer*>("refinementWalkthroughView")->setTutorialMode(true);
 }
 
 void showViews(ViewsStage& stage, const QString& page) {
@@ -101,6 +133,7 @@ int run(const QStringList& arguments) {
     const bool leftToRight = language != "rtl" && testing::speak(language, &translator);
     Strip strip{arguments[1], arguments[2], {size.value(0).toInt(), size.value(1).toInt()}, leftToRight};
     QDir().mkpath(strip.folder);
+    initPictures();
     qputenv("STORY_PICTURES", strip.recording.toLocal8Bit());
     return shootAll(testing::story(), &strip) && shootAll(testing::endings(), &strip) ? 0 : 1;
 }

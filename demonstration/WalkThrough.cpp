@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QThread>
 
@@ -16,6 +17,7 @@ namespace {
 constexpr int kPatienceMs = 120000;
 constexpr int kActEveryMs = 3000;
 constexpr int kSettleMs = 700;
+constexpr int kAnswerMs = 2000;
 
 }  // namespace
 
@@ -44,6 +46,44 @@ void WalkThrough::readLog() {
     const QByteArray told = program_.readAll();
     log_.write(told);
     unread_ += QString::fromUtf8(told);
+    lastLine_ += QString::fromUtf8(told);
+    static const QRegularExpression shows("The interface shows (\\w+)\\.");
+    auto pages = shows.globalMatch(lastLine_);
+    while (pages.hasNext())
+        page_ = pages.next().captured(1);
+    lastLine_ = lastLine_.mid(lastLine_.lastIndexOf('\n') + 1);
+}
+
+const QString& WalkThrough::page() {
+    readLog();
+    return page_;
+}
+
+bool WalkThrough::isOn(const QString& page) {
+    QElapsedTimer timer;
+    timer.start();
+    while (this->page() != page) {
+        if (program_.state() == QProcess::NotRunning || timer.elapsed() > kAnswerMs) {
+            problem_ = QString("%1 is shown, not %2").arg(page_.isEmpty() ? "nothing" : page_, page);
+            return false;
+        }
+        program_.waitForReadyRead(20);
+    }
+    return true;
+}
+
+bool WalkThrough::lookAt(const QString& page, const QString& name, QImage* picture) {
+    if (!isOn(page)) return false;
+    settle();
+    const QImage taken = look(name);
+    if (picture != nullptr) *picture = taken;
+    return isOn(page);
+}
+
+bool WalkThrough::pressTo(const QString& page, X11Hand::Key key) {
+    hand_.focusWindow();
+    hand_.press(key);
+    return isOn(page);
 }
 
 int WalkThrough::waitForOne(const QStringList& lines, int milliseconds) {
@@ -109,7 +149,7 @@ double WalkThrough::reactionMs(const std::function<void()>& action) {
     timer.start();
     action();
     while (corner() == before)
-        if (timer.elapsed() > kPatienceMs) return -1;
+        if (timer.elapsed() > kAnswerMs) return -1;
     return static_cast<double>(timer.nsecsElapsed()) * 1e-6;
 }
 

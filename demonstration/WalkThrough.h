@@ -33,8 +33,19 @@ public:
     /// `settle` waits until animations have ended; `look` takes a screenshot.
     void settle() const;
     QImage look(const QString& name);
-    /// Acts, and returns the milliseconds until the upper left corner of the screen changes; -1 if it does not.
+    /// Waits until the interface says that it shows `page`, an object name. Returns false, with the reason in
+    /// `problem`, when it has not said so within two seconds, which is the longest time that a user may wait for an
+    /// answer.
+    bool isOn(const QString& page);
+    /// Waits for `page` as above, lets its animations end, and takes a screenshot of it.
+    bool lookAt(const QString& page, const QString& name, QImage* picture = nullptr);
+    /// Presses the key once, and waits for the page to which it leads.
+    bool pressTo(const QString& page, X11Hand::Key key);
+    /// Acts, and returns the milliseconds until the upper left corner of the screen changes; -1 if it does not within
+    /// two seconds.
     double reactionMs(const std::function<void()>& action);
+    /// The page that the interface has last said to show.
+    const QString& page();
     /// Returns whether one of the lines has appeared since the last one that was waited for.
     bool hasCome(const QStringList& lines);
     /// Returns the exit code of the program once it has ended by itself; -1 if it does not.
@@ -43,6 +54,11 @@ public:
     X11Hand& hand() { return hand_; }
     qint64 processId() const { return program_.processId(); }
     const QString& problem() const { return problem_; }
+    /// Records what went wrong. Returns false.
+    bool fail(const QString& problem) {
+        problem_ = problem;
+        return false;
+    }
     const QStringList& pictures() const { return pictures_; }
 
 private:
@@ -53,6 +69,8 @@ private:
     X11Hand hand_;
     QProcess program_;
     QString unread_;
+    QString lastLine_;  ///< as far as it has been read
+    QString page_;
     QString problem_;
     QStringList pictures_;
 };

@@ -27,6 +27,9 @@ using Key = X11Hand::Key;
 
 constexpr int kFlashMs = 400;  // shorter than the confirmation shown with it
 constexpr int kCaptureMs = 240000;
+constexpr int kDemonstrationMs = 3000;  ///< until the refinement has compared by itself
+constexpr int kMostViews = 6;           ///< in which the overlay is measured
+constexpr int kNextViewMs = 1500;
 constexpr double kLeastCorrelation = 0.05;
 const QString kPairTaken = "Adding new infrared";
 const QStringList kPairDecided{"Continue processing", "Could not get a sample set", "Found a good solution"};
@@ -93,28 +96,41 @@ QJsonValue toJson(const OverlayOffset& offset) {
     return QJsonObject{{"px", QJsonArray{offset.pixels[0], offset.pixels[1]}}, {"correlation", offset.correlation}};
 }
 
-/// Measures the overlay with the estimated rotation and, while the button is held, with the stored one.
-void compareWithStored(Walk* walk) {
+/// Measures the overlay with the estimated rotation and, while the button is held, with the stored one. The recording
+/// goes on meanwhile, and some of its views have hardly any depth, so it may take several views.
+bool compareWithStored(Walk* walk) {
     WalkThrough& user = walk->user;
     const std::vector<cv::Mat> pictures = playedPictures(*walk);
-    const QImage found = user.look("refinement");
+    QThread::msleep(kDemonstrationMs);
     user.hand().press(Key::Tab);  // to "Restart"
     user.hand().press(Key::Tab);
-    user.hand().hold(Key::Space);
-    user.settle();
-    const QImage stored = user.look("refinement-stored");
-    user.hand().release(Key::Space);
-    user.settle();
-    walk->result->insert("overlay", QJsonObject{{"found", toJson(measureOverlayOffset(found, pictures))},
-                                                {"stored", toJson(measureOverlayOffset(stored, pictures))},
-                                                {"driftPx", expectedOffset(walk->played, found.width())}});
+    for (int attempt = 0; attempt < kMostViews; ++attempt) {
+        QImage found, stored;
+        if (!user.lookAt("refinementPage", "refinement", &found)) return false;
+        user.hand().hold(Key::Space);
+        const bool looked = user.lookAt("refinementPage", "refinement-stored", &stored);
+        user.hand().release(Key::Space);
+        user.settle();
+        if (!looked) return false;
+        const QJsonValue foundOffset = toJson(measureOverlayOffset(found, pictures));
+        const QJsonValue storedOffset = toJson(measureOverlayOffset(stored, pictures));
+        walk->result->insert("overlay", QJsonObject{{"found", foundOffset},
+                                                    {"stored", storedOffset},
+                                                    {"driftPx", expectedOffset(walk->played, found.width())}});
+        if (!foundOffset.isNull() && !storedOffset.isNull()) return true;
+        QThread::msleep(kNextViewMs);
+    }
+    return user.fail("the offset between overlay and image could not be measured");
 }
 
-/// Asks to leave and cancels, while the photo that has just been taken is being processed, and afterwards.
-void measureReactions(Walk* walk) {
-    const auto askToLeave = [walk](bool busy) {
+/// Asks to leave and cancels, while the photo that has just been taken is being processed, and afterwards. Returns
+/// false when a key was not answered.
+bool measureReactions(Walk* walk) {
+    bool answered = true;
+    const auto askToLeave = [walk, &answered](bool busy) {
         for (int i = 0; i < 2; ++i) {
             const double milliseconds = walk->user.reactionMs([walk] { walk->user.hand().press(Key::Escape); });
+            answered = answered && milliseconds >= 0;
             if (!busy && !walk->user.hasCome({kPairTaken})) walk->idleReactionsMs.append(milliseconds);
             if (busy && !walk->user.hasCome(kPairDecided)) walk->busyReactionsMs.append(milliseconds);
             // A fade in progress would count as the reaction to the next press, and a question that is about to open
@@ -124,6 +140,11 @@ void measureReactions(Walk* walk) {
     };
     askToLeave(true);
     if (walk->user.waitForOne(kPairDecided, kCaptureMs) < 2) askToLeave(false);
+    // The question stays when the attempt ends meanwhile.
+    if (walk->user.page() == "leaveQuestion") walk->user.hand().press(Key::Escape);
+    walk->user.settle();
+    if (!answered) return walk->user.fail("a key was not answered within two seconds");
+    return walk->user.page() != "leaveQuestion" || walk->user.fail("the question before leaving stays");
 }
 
 /// From the first photo to the page with the result.
@@ -132,42 +153,48 @@ bool capture(Walk* walk, const char* name, const char* foundLine) {
     if (!user.waitFor(kPairTaken, 60000)) return false;
     QThread::msleep(kFlashMs);
     user.look(name);
+    if (!user.isOn("capturePage")) return false;
     int line = 0;
     while (line == 0) {
         line = user.waitForOne({kPairTaken, foundLine}, kCaptureMs);
-        if (line == 0) measureReactions(walk);
+        if (line == 0 && !measureReactions(walk)) return false;
     }
-    if (line < 0) return false;
-    // The page is shown before the next state, which is not logged.
-    user.settle();
-    user.look(QString("found-%1").arg(name));
-    user.hand().press(Key::Return);
-    return true;
+    return line > 0 && user.lookAt("foundPage", QString("found-%1").arg(name));
+}
+
+bool playFirstCamera(Walk* walk) {
+    WalkThrough& user = walk->user;
+    if (!user.waitFor("changing qml to state 1", 60000) || !user.lookAt("introductionPage", "introduction") ||
+        !user.pressTo("lightingPage", Key::Return) || !user.lookAt("lightingPage", "sunlight") ||
+        !user.pressTo("capturePage", Key::Return) || !capture(walk, "capture", "changing qml to state 9") ||
+        !user.pressTo("tutorialPage", Key::Return) || !user.lookAt("tutorialPage", "tutorial") ||
+        !user.pressTo("refinementPage", Key::Return) || !compareWithStored(walk)) {
+        return false;
+    }
+    drag(&user);
+    return user.isOn("refinementPage");
+}
+
+bool playSecondCamera(Walk* walk) {
+    WalkThrough& user = walk->user;
+    return user.pressTo("betweenPage", Key::Return) && user.lookAt("betweenPage", "between") &&
+           user.pressTo("capturePage", Key::Return) && capture(walk, "capture-second", "changing qml to state 10") &&
+           user.pressTo("refinementPage", Key::Return);
 }
 
 bool play(Walk* walk) {
     WalkThrough& user = walk->user;
-    const auto pressReturn = [&user] { user.hand().press(Key::Return); };
-    const auto lookThenPress = [&](const char* name, const char* untilLine) {
-        user.settle();
-        user.look(name);
-        return user.actUntil(untilLine, pressReturn);
-    };
-    if (!user.waitFor("changing qml to state 1", 60000) || !lookThenPress("introduction", "changing to state 2") ||
-        !lookThenPress("sunlight", "changing to state 6") || !capture(walk, "capture", "changing qml to state 9") ||
-        !lookThenPress("tutorial", "changing to state 10")) {
+    if (!playFirstCamera(walk) || (walk->twoCameras() && !playSecondCamera(walk))) return false;
+    if (walk->busyReactionsMs.isEmpty() && walk->idleReactionsMs.isEmpty())
+        return user.fail("no reaction of the interface was measured");
+    QThread::msleep(kDemonstrationMs);
+    if (!user.lookAt("refinementPage", "refinement-last") || !user.pressTo("savingPage", Key::Return) ||
+        !user.waitFor("slot_saveAndQuit - cleaning up", kCaptureMs) || !user.lookAt("savingPage", "saved")) {
         return false;
     }
+    // The confirmation stays for longer, unless it is touched.
     user.settle();
-    compareWithStored(walk);
-    drag(&user);
-    if (walk->twoCameras() && (!user.actUntil("changing to state 6", pressReturn) ||
-                               !capture(walk, "capture-second", "changing qml to state 10"))) {
-        return false;
-    }
-    if (!lookThenPress("refinement-last", "slot_saveAndQuit - cleaning up")) return false;
-    QThread::msleep(300);
-    user.look("saved");
+    user.hand().press(Key::Space);
     return true;
 }
 

@@ -9,7 +9,8 @@ constexpr float kMetresPerMillimetre = 0.001F;
 
 }  // namespace
 
-void depthToCloud(const ImageFrame16& depth, std::vector<DepthPoint>* cloud) {
+void depthToCloud(const ImageFrame16& depth, const DepthRange& range, std::vector<DepthPoint>* cloud) {
+    const DepthColours colours(range);
     cloud->clear();
     cloud->reserve(std::size_t{depth.width()} * depth.height());
     const std::uint16_t* pixel = depth.pixels();
@@ -17,7 +18,7 @@ void depthToCloud(const ImageFrame16& depth, std::vector<DepthPoint>* cloud) {
         for (std::uint32_t x = 0; x < depth.width(); ++x, ++pixel) {
             if (*pixel == 0) continue;
             const float z = static_cast<float>(*pixel) * kMetresPerMillimetre;
-            cloud->push_back({depthColour(*pixel), {static_cast<float>(x) * z, static_cast<float>(y) * z, z}});
+            cloud->push_back({colours(*pixel), {static_cast<float>(x) * z, static_cast<float>(y) * z, z}});
         }
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "camera/ImageFrame.h"
+#include "render/DepthRange.h"
 #include "render/FixedFunctionGl.h"
 
 #include <Eigen/Core>
@@ -19,8 +20,9 @@ struct DepthPoint {
     std::array<float, 3> position;
 };
 
-/// Converts a depth frame in millimetres to points coloured by depth; pixels of value 0 give no point. Any thread.
-void depthToCloud(const ImageFrame16& depth, std::vector<DepthPoint>* cloud);
+/// Converts a depth frame in millimetres to points coloured by depth within `range`; pixels of value 0 give no point.
+/// Any thread.
+void depthToCloud(const ImageFrame16& depth, const DepthRange& range, std::vector<DepthPoint>* cloud);
 
 /// A point cloud in OpenGL's memory. Everything on the render thread, with the context current.
 class DepthCloudBuffer {

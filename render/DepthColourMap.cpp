@@ -38,26 +38,40 @@ Rgba toRgba(const PerceivedColour& colour) {
             displayValue(-0.0041960863 * l - 0.7034186147 * m + 1.7076147010 * s), 255};
 }
 
-Rgba colourAt(double metres) {
-    const double range = std::log(kFarthestColouredMetres / kNearestColouredMetres);
-    const double t = std::clamp(std::log(metres / kNearestColouredMetres) / range, 0.0, 1.0);
+constexpr std::size_t kSteps = 1024;
+
+/// Returns the colour between the near end (0) and the far end (1).
+Rgba colourAt(double t) {
     const auto between = [t](double first, double last) { return first + t * (last - first); };
     return toRgba({between(kNearColour.lightness, kFarColour.lightness), between(kNearColour.chroma, kFarColour.chroma),
                    between(kNearColour.hueDeg, kFarColour.hueDeg)});
 }
 
-std::vector<Rgba> makeTable() {
-    std::vector<Rgba> table(65536);
-    for (std::size_t millimetres = 0; millimetres < table.size(); ++millimetres)
-        table[millimetres] = colourAt(std::max<double>(static_cast<double>(millimetres), 1) * 0.001);
-    return table;
+std::array<Rgba, kSteps> makeColours() {
+    std::array<Rgba, kSteps> colours{};
+    for (std::size_t step = 0; step < kSteps; ++step)
+        colours[step] = colourAt(static_cast<double>(step) / (kSteps - 1));
+    return colours;
+}
+
+std::vector<float> makeLogarithms() {
+    std::vector<float> logarithms(65536);
+    for (std::size_t millimetres = 0; millimetres < logarithms.size(); ++millimetres)
+        logarithms[millimetres] = std::log(std::max(static_cast<float>(millimetres), 1.0F) * 0.001F);
+    return logarithms;
 }
 
 }  // namespace
 
-std::array<std::uint8_t, 4> depthColour(std::uint16_t millimetres) {
-    static const std::vector<Rgba> table = makeTable();
-    return table[millimetres];
+DepthColours::DepthColours(const DepthRange& range)
+    : nearest_(static_cast<float>(std::log(range.nearMetres))),
+      stepsPerUnit_(static_cast<float>((kSteps - 1) / std::log(range.farMetres / range.nearMetres))) {}
+
+Rgba DepthColours::operator()(std::uint16_t millimetres) const {
+    static const std::array<Rgba, kSteps> colours = makeColours();
+    static const std::vector<float> logarithms = makeLogarithms();
+    const float step = (logarithms[millimetres] - nearest_) * stepsPerUnit_ + 0.5F;
+    return colours[static_cast<std::size_t>(std::clamp(step, 0.0F, static_cast<float>(kSteps - 1)))];
 }
 
 }  // namespace fieldcal

@@ -1,16 +1,23 @@
 #pragma once
 
+#include "render/DepthRange.h"
+
 #include <array>
 #include <cstdint>
 
 namespace fieldcal {
 
-/// The range of depths that the colours cover; depths outside it have the colour of the nearer end.
-constexpr double kNearestColouredMetres = 1;
-constexpr double kFarthestColouredMetres = 10;
+/// The colours of the depths of a range as RGBA, alpha 255: from light yellow (near) through red and magenta to dark
+/// blue (far), with perceptually equal steps for equal ratios of depth. Depths outside of the range have the colour of
+/// the nearer end. Any thread.
+class DepthColours {
+public:
+    explicit DepthColours(const DepthRange& range = {});
+    std::array<std::uint8_t, 4> operator()(std::uint16_t millimetres) const;
 
-/// Returns the colour of a depth as RGBA, alpha 255: from light yellow (near) through red and magenta to dark blue
-/// (far), with perceptually equal steps for equal ratios of depth. Any thread.
-std::array<std::uint8_t, 4> depthColour(std::uint16_t millimetres);
+private:
+    float nearest_;       ///< logarithm
+    float stepsPerUnit_;  ///< of the logarithm
+};
 
 }  // namespace fieldcal

@@ -48,8 +48,8 @@ void ImageItem::takeGeometry() {
         viewport_ = {};
         return;
     }
-    const qreal ratio = window()->effectiveDevicePixelRatio();
-    const auto devicePixels = [ratio](qreal length) { return static_cast<int>(length * ratio); };
+    pixelRatio_ = window()->effectiveDevicePixelRatio();
+    const auto devicePixels = [this](qreal length) { return static_cast<int>(length * pixelRatio_); };
     viewport_ = {devicePixels(area->x()), devicePixels(area->y()), devicePixels(area->width()),
                  devicePixels(area->height())};
 }

@@ -55,6 +55,8 @@ protected:
     const PictureTexture& texture() const { return texture_; }
     /// Device pixels. Render thread.
     QRect viewport() const { return viewport_; }
+    /// Device pixels per logical pixel. Render thread.
+    double pixelRatio() const { return pixelRatio_; }
     std::mutex& frameLock() { return frameLock_; }
 
 private:
@@ -70,6 +72,7 @@ private:
     std::atomic<int> paintEnabled_{1};
     PictureTexture texture_;
     QRect viewport_;
+    double pixelRatio_ = 1;
     QPointer<QQuickWindow> followed_;
 };
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace fieldcal {
 namespace {
@@ -34,6 +35,12 @@ Eigen::Matrix4d projection(const CameraModel& camera, const ColourScaling& scali
     return matrix;
 }
 
+/// The parts of the colour image's width and height that a depth pixel covers.
+std::pair<double, double> depthPixelShares(const OverlayCalibration& cameras) {
+    return {static_cast<double>(cameras.colour.fx) / cameras.depth.fx / cameras.scaling.x / cameras.colour.width,
+            static_cast<double>(cameras.colour.fy) / cameras.depth.fy / cameras.scaling.y / cameras.colour.height};
+}
+
 }  // namespace
 
 OverlayPose overlayPose(const std::array<float, 9>& rotation, const std::array<float, 3>& translation) {
@@ -52,9 +59,13 @@ Eigen::Matrix4d overlayProjection(const OverlayCalibration& cameras, const Overl
 }
 
 double depthPixelSize(const OverlayCalibration& cameras, int width, int height) {
-    const double across = static_cast<double>(cameras.colour.fx) / cameras.depth.fx / cameras.scaling.x;
-    const double down = static_cast<double>(cameras.colour.fy) / cameras.depth.fy / cameras.scaling.y;
-    return std::max(across * width / cameras.colour.width, down * height / cameras.colour.height);
+    const auto [across, down] = depthPixelShares(cameras);
+    return std::max(across * width, down * height);
+}
+
+double depthPixelArea(const OverlayCalibration& cameras) {
+    const auto [across, down] = depthPixelShares(cameras);
+    return across * down;
 }
 
 }  // namespace fieldcal

@@ -26,5 +26,7 @@ Eigen::Matrix4d overlayProjection(const OverlayCalibration& cameras, const Overl
 /// Returns the number of pixels that a depth pixel covers along the larger of the two axes, where the colour image
 /// fills `width` x `height` pixels.
 double depthPixelSize(const OverlayCalibration& cameras, int width, int height);
+/// Returns the share of the colour image that a depth pixel covers.
+double depthPixelArea(const OverlayCalibration& cameras);
 
 }  // namespace fieldcal

@@ -37,7 +37,8 @@ QImage colourImage(const ImageFrame32& frame) {
 }
 
 QRgb depthRgb(std::uint16_t millimetres) {
-    const auto colour = depthColour(millimetres);
+    static const DepthColours colours;
+    const auto colour = colours(millimetres);
     return qRgb(colour[0], colour[1], colour[2]);
 }
 

@@ -35,6 +35,11 @@ void CalibrationRecords::forget(ColourCamera camera) {
     records_[camera].accepted.reset();
 }
 
+Rotation CalibrationRecords::factory(ColourCamera camera) const {
+    const std::lock_guard lock(mutex_);
+    return records_[camera].factory;
+}
+
 std::optional<Rotation> CalibrationRecords::estimated(ColourCamera camera) const {
     const std::lock_guard lock(mutex_);
     return records_[camera].estimated;

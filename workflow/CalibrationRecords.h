@@ -23,6 +23,7 @@ public:
     /// Clears the camera's estimated and accepted rotations, for a restart.
     void forget(ColourCamera camera);
 
+    Rotation factory(ColourCamera camera) const;
     std::optional<Rotation> estimated(ColourCamera camera) const;
     std::optional<Rotation> accepted(ColourCamera camera) const;
     bool anyAccepted() const;

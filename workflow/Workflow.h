@@ -111,7 +111,7 @@ private:
     void resetCalibration(const Snapshot& now);
     void startCalibration(const Snapshot& now);
     void processFrame(const Snapshot& now);
-    void reportDetail();
+    void reportPair();
     void takeSolution(const Snapshot& now);
     bool advance(const Snapshot& from, State to);
     const ImageFrame32& colourFrame() const;
@@ -133,6 +133,7 @@ private:
     vq::CalibratorInterface engine_;
     LightGate light_;
     CalibrationAttempt attempt_;
+    std::vector<double> detail_;  ///< of the attempt so far, as reported; empty before its first pair
     std::unique_ptr<Sensor> sensor_;
     SaveReport solutions_;
     ColourCamera camera_ = ColourCamera::Third;  ///< used by the loop; follows the selected camera

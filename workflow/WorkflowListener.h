@@ -4,6 +4,7 @@
 #include "devices/FrameAcquisition.h"
 #include "workflow/AttemptListener.h"
 #include "workflow/CalibrationRecords.h"
+#include "workflow/CaptureGuide.h"
 #include "workflow/FoundTurn.h"
 #include "workflow/LightGate.h"
 #include "workflow/Saving.h"
@@ -32,6 +33,8 @@ public:
     /// Sent after each pair: the share of the required detail that each area of the infrared image has provided so far,
     /// 0..1, row by row, four areas across and three down.
     virtual void detailGathered(const std::vector<double>& /*areas*/) {}
+    /// Sent after each pair: what it has contributed.
+    virtual void photoJudged(PhotoWorth) {}
     /// A rotation was found: the data that the overlay needs to show it, and its difference from the stored rotation.
     virtual void solutionFound(ColourCamera, const CameraParameters& /*factory*/, const Rotation& /*estimated*/,
                                const FoundTurn&) {}

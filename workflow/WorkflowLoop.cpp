@@ -169,6 +169,7 @@ void Workflow::resetCalibration(const Snapshot& now) {
 void Workflow::startCalibration(const Snapshot& now) {
     records_.forgetEstimate(camera_);
     attempt_.start(camera_);
+    detail_.clear();
     if (advance(now, State::ProcessingFrame)) listener_.calibrationProgress(0.0);
 }
 
@@ -178,7 +179,7 @@ void Workflow::processFrame(const Snapshot& now) {
     const FrameRecords& frames = sensor_->frames();
     const CalibrationAttempt::Outcome outcome =
         attempt_.processFrame({frames.leftInfrared, colourFrame(), frames.rightInfrared, frames.depth});
-    if (attempt_.photoCount() > photosBefore) reportDetail();
+    if (attempt_.photoCount() > photosBefore) reportPair();
     switch (outcome) {
         case CalibrationAttempt::Outcome::Continues:
             break;
@@ -193,12 +194,14 @@ void Workflow::processFrame(const Snapshot& now) {
     }
 }
 
-void Workflow::reportDetail() {
+void Workflow::reportPair() {
     const vq::SensorCalibrator& calibrator = engine_.calibrator();
     std::vector<double> areas;
     for (const int count : calibrator.grid().cellCounts())
         areas.push_back(std::min(1.0, static_cast<double>(count) / calibrator.parameters().cellMinimum));
     listener_.detailGathered(areas);
+    listener_.photoJudged(photoWorth(calibrator.statistics().verified, detail_, areas));
+    detail_ = areas;
 }
 
 void Workflow::takeSolution(const Snapshot& now) {

@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>اكتملت الكاميرا الأولى. والآن الثانية.
+استدر نحو مشهد آخر. يجب ألا يكون في الصورة أي شيء قريب.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>إذا خرجت الآن، يمكنك تخزين معايرة الكاميرا الأولى.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>إذا خرجت الآن، فلن يُخزَّن أي شيء.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>متابعة</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>متوقف مؤقتًا. لا تُلتقط صور.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>لم تُضف الصورة %1 جديدًا. استدر أكثر.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>لم تُفد الصورة %1: تفاصيلها قليلة للغاية.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>برنامج آخر يمنع بدء هذا البرنامج.
 أوقف تشغيل الجهاز اللوحي ثم شغّله مرة أخرى.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: أُعيدت قراءتها، بفارق ‏%2° عن المعايرة السابقة.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>الضوء كافٍ عند العلامة</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>التفاصيل ناقصة هنا</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>تفاصيل كافية</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>استدر الآن في هذا الاتجاه</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ It goes on by itself. The photos taken so far count.</source>
         <source>Continue</source>
         <translation>متابعة</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>لا توجد حافة قائمة في الصورة. وجّه الجهاز إلى جذع شجرة أو عمود أو زاوية منزل.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>عادةً تكون متطابقة. لا تسحب إلا إذا وقعت الخطوط بجانب الحواف.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ The photos and what was found so far would be lost.</source>
         <translation>جارٍ تخزين المعايرة في الكاميرا…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>سيُغلق البرنامج تلقائيًا.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>يُرجى الانتظار وعدم إيقاف تشغيل الجهاز اللوحي.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>سيُغلق البرنامج تلقائيًا، أو عند لمس الشاشة.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Point at buildings or trees in bright sunlight.</source>
         <translation>مثال</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>اسحب إلى اليسار أو اليمين حتى تتطابق الألوان مع الصورة.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>كل لون يمثل مسافة. حيث ينتهي شيء قريب، يجب أن ينتهي اللون أيضًا.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>غالبًا لا يلزم تغيير أي شيء.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>متابعة</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>عادةً تكون متطابقة.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>كل لون يمثل مسافة. يجب أن تقع الخطوط البيضاء على حواف الأشياء.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>فقط إذا وقعت بجانبها، اسحب إلى اليسار أو اليمين حتى تتطابق.</translation>
     </message>
 </context>
 <context>

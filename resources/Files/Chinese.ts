@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>第一个摄像头已完成。现在是第二个。
+请转向其他景物。画面中不能有近处的物体。</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>如果现在退出，可以存储第一个摄像头的校准。</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>如果现在退出，将不存储任何内容。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>已暂停，不拍摄照片。</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>第 %1 张照片没有新内容。请再转动一些。</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>第 %1 张照片没有用：细节太少。</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>另一个程序阻止了本程序启动。
 请关闭平板电脑，然后重新打开。</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1：已读回，与之前的校准相差 %2°。</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>达到标记处即光线充足</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>此处缺少细节</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>细节足够</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>接下来转向这边</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ It goes on by itself. The photos taken so far count.</source>
         <source>Continue</source>
         <translation>继续</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>画面中没有竖直边缘。请对准树干、柱子或房屋的墙角。</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>通常已经吻合。只有线条偏离边缘时才需要拖动。</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ The photos and what was found so far would be lost.</source>
         <translation>正在将校准存储到摄像头…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>程序将自动关闭。</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>请稍候，不要关闭平板电脑。</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>程序将自动关闭，触摸屏幕也可关闭。</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Point at buildings or trees in bright sunlight.</source>
         <translation>示例</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>向左或向右拖动，直到颜色与画面吻合。</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>每种颜色代表一个距离。近处物体的边缘也必须是颜色的边缘。</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>通常无需更改。</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>继续</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>通常已经吻合。</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>每种颜色代表一个距离。白线必须落在物体的边缘上。</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>只有偏离时，才向左或向右拖动，直到吻合。</translation>
     </message>
 </context>
 <context>

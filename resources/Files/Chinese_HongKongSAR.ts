@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_HK" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>第一個鏡頭已完成。現在是第二個。
+請轉向其他景物。畫面中不能有近處的物件。</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>如果現在離開，可以儲存第一個鏡頭的校準。</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>如果現在離開，將不儲存任何內容。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>繼續</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>已暫停，不會拍攝相片。</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>第 %1 張相片沒有新內容。請再轉動一些。</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>第 %1 張相片沒有用：細節太少。</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>另一個程式阻止了本程式啟動。
 請將平板電腦關機，然後重新開機。</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1：已讀回，與之前的校準相差 %2°。</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>達到標記處即光線充足</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>此處缺少細節</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>細節足夠</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>接下來轉向這邊</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ It goes on by itself. The photos taken so far count.</source>
         <source>Continue</source>
         <translation>繼續</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>畫面中沒有直立的邊緣。請對準樹幹、柱子或房屋的牆角。</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>通常已經吻合。只有線條偏離邊緣時才需要拖曳。</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ The photos and what was found so far would be lost.</source>
         <translation>正在將校準儲存到鏡頭…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>程式會自動關閉。</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>請稍候，不要關閉平板電腦。</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>程式會自動關閉，觸碰螢幕也可關閉。</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Point at buildings or trees in bright sunlight.</source>
         <translation>例子</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>向左或向右拖曳，直到色彩與畫面吻合。</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>每種色彩代表一個距離。近處物件的邊緣也必須是色彩的邊緣。</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>通常不需要更改。</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>繼續</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>通常已經吻合。</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>每種色彩代表一個距離。白線必須落在物件的邊緣上。</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>只有偏離時，才向左或向右拖曳，直到吻合。</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="cs" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>První kamera je hotová. Teď druhá.
+Otočte se k jinému okolí. Nic v záběru nesmí být blízko.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Pokud teď skončíte, můžete uložit kalibraci první kamery.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Pokud teď skončíte, nic se neuloží.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Pokračovat</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Pozastaveno. Snímky se nepořizují.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Snímek %1 nepřinesl nic nového. Otočte se víc.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Snímek %1 nic nepřinesl: má málo detailů.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Jiný program brání spuštění tohoto programu.
 Vypněte tablet a znovu jej zapněte.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: přečteno zpět, %2° od předchozí kalibrace.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ Pokračuje se automaticky. Dosud pořízené snímky se počítají.</translatio
     <message>
         <source>Enough light at the mark</source>
         <translation>Od značky je světla dost</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Tady chybí detaily</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Dost detailů</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Teď se otočte sem</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ Pokračuje se automaticky. Dosud pořízené snímky se počítají.</translatio
         <source>Continue</source>
         <translation>Pokračovat</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>V záběru není svislá hrana. Namiřte na kmen stromu, sloup nebo roh domu.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Většinou už to souhlasí. Táhněte, jen pokud čáry leží vedle hran.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ Snímky a dosavadní výsledek budou ztraceny.</translation>
         <translation>Kalibrace se ukládá do kamery…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Program se zavře sám.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Počkejte prosím a nevypínejte tablet.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Program se zavře sám, nebo když se dotknete obrazovky.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Namiřte na budovy nebo stromy za jasného slunce.</translation>
         <translation>Příklad</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Táhněte doleva nebo doprava, dokud barvy nesouhlasí s obrazem.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Každá barva je vzdálenost. Kde končí něco blízkého, musí končit i barva.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Často není třeba nic měnit.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Pokračovat</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Většinou už to souhlasí.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Každá barva je vzdálenost. Bílé čáry musí ležet na hranách věcí.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Jen pokud leží vedle, táhněte doleva nebo doprava, dokud nesouhlasí.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="da" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>Det første kamera er færdigt. Nu det andet.
+Drej mod andre omgivelser. Intet i billedet må være tæt på.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Hvis du afslutter nu, kan du gemme det første kameras kalibrering.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Hvis du afslutter nu, gemmes intet.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsæt</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Sat på pause. Der tages ingen fotos.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Foto %1 gav intet nyt. Drej længere.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Foto %1 gav intet: for få detaljer.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Et andet program forhindrer dette i at starte.
 Sluk tabletten, og tænd den igen.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: læst tilbage, %2° fra den forrige kalibrering.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ Det fortsætter automatisk. De fotos, der er taget, tæller med.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Nok lys fra mærket</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Her mangler detaljer</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Nok detaljer</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Drej derefter denne vej</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ Det fortsætter automatisk. De fotos, der er taget, tæller med.</translation>
         <source>Continue</source>
         <translation>Fortsæt</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>Ingen lodret kant i billedet. Ret mod en træstamme, en pæl eller et hushjørne.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Det passer som regel allerede. Træk kun, hvis linjerne ligger ved siden af kanterne.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ Fotoene og resultatet indtil nu går tabt.</translation>
         <translation>Gemmer kalibreringen i kameraet…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Programmet lukker automatisk.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Vent venligst, og sluk ikke tabletten.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Programmet lukker automatisk, eller når du rører skærmen.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Ret mod bygninger eller træer i klart sollys.</translation>
         <translation>Eksempel</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Træk til venstre eller højre, indtil farverne passer til billedet.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Hver farve er en afstand. Hvor noget nært slutter, skal farven også slutte.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Ofte behøver intet at blive ændret.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Fortsæt</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Det passer som regel allerede.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Hver farve er en afstand. De hvide linjer skal ligge på tingenes kanter.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Kun hvis de ligger ved siden af: træk til venstre eller højre, indtil de passer.</translation>
     </message>
 </context>
 <context>

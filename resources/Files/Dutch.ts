@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>De eerste camera is klaar. Nu de tweede.
+Draai naar een andere omgeving. Niets in beeld mag dichtbij zijn.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Als u nu afsluit, kunt u de kalibratie van de eerste camera opslaan.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Als u nu afsluit, wordt niets opgeslagen.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Doorgaan</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Gepauzeerd. Er worden geen foto’s gemaakt.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Foto %1 leverde niets nieuws op. Draai verder.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Foto %1 leverde niets op: te weinig details.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Een ander programma verhindert dat dit programma start.
 Schakel de tablet uit en weer in.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: teruggelezen, %2° naast de vorige kalibratie.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ Het gaat vanzelf verder. De foto’s tot nu toe tellen mee.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Vanaf de streep genoeg licht</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Hier ontbreken details</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Genoeg details</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Draai nu deze kant op</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ Het gaat vanzelf verder. De foto’s tot nu toe tellen mee.</translation>
         <source>Continue</source>
         <translation>Doorgaan</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>Geen rechtopstaande rand in beeld. Richt op een boomstam, een paal of de hoek van een huis.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Meestal klopt het al. Sleep alleen als de lijnen naast de randen liggen.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ De foto’s en het resultaat tot nu toe gaan verloren.</translation>
         <translation>De kalibratie wordt in de camera opgeslagen…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Het programma sluit vanzelf af.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Wacht even en schakel de tablet niet uit.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Het programma sluit vanzelf af, of als u het scherm aanraakt.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Richt op gebouwen of bomen, in fel zonlicht.</translation>
         <translation>Voorbeeld</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Sleep naar links of rechts tot de kleuren bij het beeld passen.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Elke kleur is een afstand. Waar iets dichtbij eindigt, moet ook de kleur eindigen.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Vaak hoeft er niets te worden gewijzigd.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Doorgaan</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Meestal klopt het al.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Elke kleur is een afstand. De witte lijnen moeten op de randen van de dingen liggen.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Alleen als ze ernaast liggen: sleep naar links of rechts tot ze passen.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>If you exit now, you can store the calibration of the first camera.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>If you exit now, nothing is stored.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continue</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Paused. No photos are taken.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Photo %1 brought nothing new. Turn farther.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Photo %1 brought nothing: too little detail in it.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Another program prevents this one from starting.
 Switch the tablet off and on again.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: read back, %2° from the calibration before.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ It goes on by itself. The photos taken so far count.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Enough light at the mark</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Detail missing here</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Enough detail</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Turn this way next</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ It goes on by itself. The photos taken so far count.</translation>
         <source>Continue</source>
         <translation>Continue</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>It usually fits already. Drag only if the lines lie beside the edges.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ The photos and what was found so far would be lost.</translation>
         <translation>Storing the calibration in the camera…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>The program closes by itself.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Please wait, and do not switch the tablet off.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>The program closes by itself, or when you touch the screen.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Point at buildings or trees in bright sunlight.</translation>
         <translation>Example</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Drag left or right until the colors fit the picture.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Every color is a distance. Where something near ends, the color has to end as well.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Often nothing needs to be changed.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Continue</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>It usually fits already.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Every color is a distance. The white lines have to lie on the edges of things.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Only if they lie beside them, drag left or right until they fit.</translation>
     </message>
 </context>
 <context>

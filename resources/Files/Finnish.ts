@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fi" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>Ensimmäinen kamera on valmis. Nyt toinen.
+Käänny toiseen maisemaan. Mikään kuvassa ei saa olla lähellä.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Jos lopetat nyt, voit tallentaa ensimmäisen kameran kalibroinnin.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Jos lopetat nyt, mitään ei tallenneta.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Jatka</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Keskeytetty. Kuvia ei oteta.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Kuva %1 ei tuonut uutta. Käänny enemmän.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Kuva %1 ei auttanut: siinä on liian vähän yksityiskohtia.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Toinen ohjelma estää tätä käynnistymästä.
 Sammuta tabletti ja käynnistä se uudelleen.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: luettu takaisin, %2° edellisestä kalibroinnista.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ Toiminta jatkuu automaattisesti. Jo otetut kuvat lasketaan.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Valo riittää merkistä alkaen</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Yksityiskohdat puuttuvat</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Riittävästi yksityiskohtia</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Käänny nyt tähän suuntaan</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ Toiminta jatkuu automaattisesti. Jo otetut kuvat lasketaan.</translation>
         <source>Continue</source>
         <translation>Jatka</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>Näkyvissä ei ole pystyreunaa. Suuntaa puunrunkoon, pylvääseen tai talon kulmaan.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Yleensä se sopii jo. Vedä vain, jos viivat ovat reunojen vieressä.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ Kuvat ja tähänastinen tulos menetetään.</translation>
         <translation>Kalibrointia tallennetaan kameraan…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Ohjelma sulkeutuu automaattisesti.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Odota äläkä sammuta tablettia.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Ohjelma sulkeutuu automaattisesti tai kun kosketat näyttöä.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Suuntaa rakennuksiin tai puihin kirkkaassa auringonvalossa.</translation>
         <translation>Esimerkki</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Vedä vasemmalle tai oikealle, kunnes värit sopivat kuvaan.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Jokainen väri on etäisyys. Missä lähellä oleva kohde päättyy, siinä myös värin on päätyttävä.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Usein mitään ei tarvitse muuttaa.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Jatka</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Yleensä se sopii jo.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Jokainen väri on etäisyys. Valkoisten viivojen on oltava esineiden reunoilla.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Vain jos ne ovat vieressä, vedä vasemmalle tai oikealle, kunnes ne sopivat.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>La première caméra est terminée. Passons à la deuxième.
+Tournez-vous vers un autre décor. Rien ne doit être proche dans l’image.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Si vous quittez maintenant, vous pouvez enregistrer l’étalonnage de la première caméra.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Si vous quittez maintenant, rien n’est enregistré.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>En pause. Aucune photo n’est prise.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>La photo %1 n’a rien apporté de nouveau. Tournez davantage.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>La photo %1 n’a rien apporté : trop peu de détails.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Un autre programme empêche celui-ci de démarrer.
 Éteignez puis rallumez la tablette.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1 : relue, à %2° de l’étalonnage précédent.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ La suite est automatique. Les photos déjà prises comptent.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Suffisante à partir du repère</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Détails manquants ici</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Assez de détails</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Tournez ensuite par là</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ La suite est automatique. Les photos déjà prises comptent.</translation>
         <source>Continue</source>
         <translation>Continuer</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>Aucun bord vertical visible. Visez un tronc d’arbre, un poteau ou l’angle d’une maison.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>En général, c’est déjà juste. Ne faites glisser que si les lignes sont à côté des bords.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ Les photos et le résultat obtenu seront perdus.</translation>
         <translation>Enregistrement de l’étalonnage dans la caméra…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Le programme se ferme automatiquement.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Veuillez patienter et ne pas éteindre la tablette.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Le programme se ferme automatiquement, ou dès que vous touchez l’écran.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Visez des bâtiments ou des arbres, en plein soleil.</translation>
         <translation>Exemple</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Faites glisser vers la gauche ou la droite jusqu’à ce que les couleurs correspondent à l’image.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Chaque couleur est une distance. Là où s’arrête un objet proche, la couleur doit s’arrêter aussi.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Souvent, il n’y a rien à modifier.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>En général, c’est déjà juste.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Chaque couleur est une distance. Les lignes blanches doivent suivre les bords des objets.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Seulement si elles sont à côté, faites glisser vers la gauche ou la droite jusqu’à ce qu’elles coïncident.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>Die erste Kamera ist fertig. Jetzt die zweite.
+Wenden Sie sich einer anderen Umgebung zu. Im Bild darf nichts nah sein.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Wenn Sie jetzt beenden, können Sie die Kalibrierung der ersten Kamera speichern.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Wenn Sie jetzt beenden, wird nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Angehalten. Es werden keine Fotos aufgenommen.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Foto %1 hat nichts Neues gebracht. Drehen Sie weiter.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Foto %1 hat nichts gebracht: Es enthält zu wenig Details.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Ein anderes Programm verhindert den Start dieses Programms.
 Schalten Sie das Tablet aus und wieder ein.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: zurückgelesen, %2° neben der vorigen Kalibrierung.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ Es geht von selbst weiter. Die bisherigen Fotos zählen.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Ab der Marke genügt das Licht</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Hier fehlen Details</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Genug Details</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Als Nächstes dorthin drehen</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ Es geht von selbst weiter. Die bisherigen Fotos zählen.</translation>
         <source>Continue</source>
         <translation>Weiter</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>Keine aufrechte Kante im Bild. Richten Sie das Tablet auf einen Baumstamm, einen Pfosten oder eine Hausecke.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Meist passt es schon. Ziehen Sie nur, wenn die Linien neben den Kanten liegen.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ Die Fotos und das bisherige Ergebnis gehen verloren.</translation>
         <translation>Die Kalibrierung wird in der Kamera gespeichert…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Das Programm schließt sich von selbst.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Bitte warten Sie und schalten Sie das Tablet nicht aus.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Das Programm schließt sich von selbst oder wenn Sie den Bildschirm berühren.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Richten Sie das Tablet bei hellem Sonnenlicht auf Gebäude oder Bäume.</transla
         <translation>Beispiel</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Ziehen Sie nach links oder rechts, bis die Farben zum Bild passen.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Jede Farbe ist eine Entfernung. Wo etwas Nahes endet, muss auch die Farbe enden.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Oft muss nichts geändert werden.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Meist passt es schon.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Jede Farbe ist eine Entfernung. Die weißen Linien müssen auf den Kanten der Dinge liegen.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Nur wenn sie daneben liegen, ziehen Sie nach links oder rechts, bis sie passen.</translation>
     </message>
 </context>
 <context>

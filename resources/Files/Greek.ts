@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="el" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>Η πρώτη κάμερα είναι έτοιμη. Τώρα η δεύτερη.
+Στραφείτε σε άλλο τοπίο. Τίποτα στην εικόνα δεν πρέπει να είναι κοντά.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Αν κλείσετε τώρα, μπορείτε να αποθηκεύσετε τη βαθμονόμηση της πρώτης κάμερας.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Αν κλείσετε τώρα, δεν αποθηκεύεται τίποτα.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Συνέχεια</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Σε παύση. Δεν λαμβάνονται φωτογραφίες.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Η φωτογραφία %1 δεν έφερε κάτι νέο. Στρέψτε περισσότερο.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Η φωτογραφία %1 δεν ωφέλησε: έχει πολύ λίγες λεπτομέρειες.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Ένα άλλο πρόγραμμα εμποδίζει την εκκίνηση αυτού του προγράμματος.
 Απενεργοποιήστε το tablet και ενεργοποιήστε το ξανά.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: διαβάστηκε ξανά, %2° από την προηγούμενη βαθμονόμηση.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>Αρκετό φως από το σημάδι</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Λείπουν λεπτομέρειες εδώ</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Αρκετές λεπτομέρειες</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Στρέψτε τώρα προς τα εδώ</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ It goes on by itself. The photos taken so far count.</source>
         <source>Continue</source>
         <translation>Συνέχεια</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>Δεν υπάρχει όρθια ακμή στην εικόνα. Στρέψτε προς κορμό δέντρου, στύλο ή γωνία σπιτιού.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Συνήθως ταιριάζει ήδη. Σύρετε μόνο αν οι γραμμές βρίσκονται δίπλα στις ακμές.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ The photos and what was found so far would be lost.</source>
         <translation>Η βαθμονόμηση αποθηκεύεται στην κάμερα…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Το πρόγραμμα κλείνει αυτόματα.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Περιμένετε και μην απενεργοποιήσετε το tablet.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Το πρόγραμμα κλείνει αυτόματα ή όταν αγγίξετε την οθόνη.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Point at buildings or trees in bright sunlight.</source>
         <translation>Παράδειγμα</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Σύρετε αριστερά ή δεξιά μέχρι τα χρώματα να ταιριάξουν με την εικόνα.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Κάθε χρώμα είναι μια απόσταση. Εκεί που τελειώνει κάτι κοντινό, πρέπει να τελειώνει και το χρώμα.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Συχνά δεν χρειάζεται να αλλάξει τίποτα.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Συνέχεια</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Συνήθως ταιριάζει ήδη.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Κάθε χρώμα είναι μια απόσταση. Οι λευκές γραμμές πρέπει να βρίσκονται στις ακμές των πραγμάτων.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Μόνο αν βρίσκονται δίπλα, σύρετε αριστερά ή δεξιά μέχρι να ταιριάξουν.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="he" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>המצלמה הראשונה מוכנה. כעת השנייה.
+יש לפנות אל נוף אחר. אסור שיהיה בתמונה דבר קרוב.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>ביציאה כעת אפשר לשמור את הכיול של המצלמה הראשונה.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>ביציאה כעת לא נשמר דבר.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>המשך</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>בהשהיה. לא מצולמות תמונות.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>תמונה %1 לא הוסיפה דבר. יש להסתובב עוד.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>תמונה %1 לא הועילה: יש בה מעט מדי פרטים.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>תוכנית אחרת מונעת את הפעלת התוכנית הזאת.
 יש לכבות את הטאבלט ולהפעיל אותו שוב.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: נקראה חזרה, %2° מהכיול הקודם.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>מספיק אור בסימון</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>חסרים כאן פרטים</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>די פרטים</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>כעת יש לפנות לכאן</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ It goes on by itself. The photos taken so far count.</source>
         <source>Continue</source>
         <translation>המשך</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>אין קצה זקוף בתמונה. יש לכוון אל גזע עץ, עמוד או פינת בית.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>בדרך כלל הכול כבר מתאים. יש לגרור רק אם הקווים נמצאים לצד הקצוות.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ The photos and what was found so far would be lost.</source>
         <translation>הכיול נשמר במצלמה…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>התוכנית נסגרת אוטומטית.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>יש להמתין ולא לכבות את הטאבלט.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>התוכנית נסגרת אוטומטית, או בנגיעה במסך.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Point at buildings or trees in bright sunlight.</source>
         <translation>דוגמה</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>יש לגרור שמאלה או ימינה עד שהצבעים מתאימים לתמונה.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>כל צבע הוא מרחק. במקום שבו נגמר דבר קרוב, גם הצבע צריך להיגמר.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>לעיתים קרובות אין צורך לשנות דבר.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>המשך</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>בדרך כלל הכול כבר מתאים.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>כל צבע הוא מרחק. הקווים הלבנים צריכים להימצא על קצות הדברים.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>רק אם הם נמצאים לצידם, יש לגרור שמאלה או ימינה עד שיתאימו.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>La prima fotocamera è pronta. Ora la seconda.
+Inquadrare un altro scenario. Nulla deve essere vicino nell’immagine.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Uscendo ora, si può memorizzare la calibrazione della prima fotocamera.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Uscendo ora, non viene memorizzato nulla.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continua</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>In pausa. Non vengono scattate foto.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>La foto %1 non ha aggiunto nulla. Ruotare di più.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>La foto %1 non è servita: troppo pochi dettagli.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Un altro programma impedisce l’avvio di questo.
 Spegnere e riaccendere il tablet.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: riletta, a %2° dalla calibrazione precedente.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ Si prosegue automaticamente. Le foto già scattate contano.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Sufficiente dal segno</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Mancano dettagli qui</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Dettagli sufficienti</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Ora ruotare da questa parte</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ Si prosegue automaticamente. Le foto già scattate contano.</translation>
         <source>Continue</source>
         <translation>Continua</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>Nessun bordo verticale visibile. Inquadrare un tronco, un palo o lo spigolo di una casa.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Di solito è già corretto. Trascinare solo se le linee sono accanto ai bordi.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ Le foto e il risultato ottenuto finora andranno persi.</translation>
         <translation>Memorizzazione della calibrazione nella fotocamera…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Il programma si chiude automaticamente.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Attendere senza spegnere il tablet.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Il programma si chiude automaticamente o toccando lo schermo.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Inquadrare edifici o alberi in piena luce solare.</translation>
         <translation>Esempio</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Trascinare a sinistra o a destra finché i colori corrispondono all’immagine.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Ogni colore è una distanza. Dove finisce qualcosa di vicino, deve finire anche il colore.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Spesso non occorre modificare nulla.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Continua</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Di solito è già corretto.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Ogni colore è una distanza. Le linee bianche devono trovarsi sui bordi degli oggetti.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Solo se sono accanto, trascinare a sinistra o a destra finché coincidono.</translation>
     </message>
 </context>
 <context>

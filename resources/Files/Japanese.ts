@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>1 台目のカメラが完了しました。次は 2 台目です。
+別の景色に向けてください。画像に近くのものが入らないようにしてください。</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>今終了する場合、1 台目のカメラのキャリブレーションを保存できます。</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>今終了すると、何も保存されません。</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>続行</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>一時停止中です。写真は撮影されません。</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>写真 %1 に新しい情報はありません。さらに向きを変えてください。</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>写真 %1 は役に立ちません。細部が少なすぎます。</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>別のプログラムのため、このプログラムを起動できません。
 タブレットの電源を切り、入れ直してください。</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: 読み戻し済み、以前のキャリブレーションから %2°。</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>目盛りに達すれば十分です</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>ここは細部が不足</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>細部は十分</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>次はこちらへ向ける</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ It goes on by itself. The photos taken so far count.</source>
         <source>Continue</source>
         <translation>続行</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>垂直な縁が見えません。木の幹、柱、または建物の角に向けてください。</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>たいていは合っています。線が縁からずれている場合だけドラッグしてください。</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ The photos and what was found so far would be lost.</source>
         <translation>キャリブレーションをカメラに保存しています…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>プログラムは自動的に終了します。</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>タブレットの電源を切らずにお待ちください。</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>プログラムは自動的に、または画面に触れると終了します。</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Point at buildings or trees in bright sunlight.</source>
         <translation>例</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>色が画像に合うまで、左または右にドラッグしてください。</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>色は距離を表します。近くのものの端では、色も途切れていなければなりません。</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>多くの場合、変更は不要です。</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>続行</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>たいていは合っています。</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>色は距離を表します。白い線はものの縁に重ならなければなりません。</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>縁からずれている場合だけ、合うまで左または右にドラッグしてください。</translation>
     </message>
 </context>
 <context>

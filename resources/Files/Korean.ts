@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>첫 번째 카메라가 끝났습니다. 이제 두 번째입니다.
+다른 풍경으로 향하십시오. 화면에 가까운 것이 없어야 합니다.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>지금 종료하면 첫 번째 카메라의 보정값을 저장할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>지금 종료하면 아무것도 저장되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>계속</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>일시 중지되었습니다. 사진을 촬영하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>%1번째 사진에 새로운 것이 없습니다. 더 돌리십시오.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>%1번째 사진은 도움이 되지 않았습니다. 세부가 너무 적습니다.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>다른 프로그램 때문에 이 프로그램을 시작할 수 없습니다.
 태블릿을 껐다가 다시 켜십시오.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: 다시 읽음, 이전 보정값에서 %2°.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>표시에 닿으면 충분함</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>여기에 세부 부족</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>세부 충분</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>다음은 이쪽으로 돌리기</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ It goes on by itself. The photos taken so far count.</source>
         <source>Continue</source>
         <translation>계속</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>화면에 수직 가장자리가 없습니다. 나무줄기, 기둥 또는 집 모서리를 향하십시오.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>대개 이미 맞습니다. 선이 가장자리에서 벗어난 경우에만 드래그하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ The photos and what was found so far would be lost.</source>
         <translation>보정값을 카메라에 저장하는 중…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>프로그램이 자동으로 닫힙니다.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>잠시 기다리고 태블릿을 끄지 마십시오.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>프로그램이 자동으로 닫히거나, 화면을 터치하면 닫힙니다.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Point at buildings or trees in bright sunlight.</source>
         <translation>예</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>색이 화면에 맞을 때까지 왼쪽이나 오른쪽으로 끄십시오.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>색은 거리를 나타냅니다. 가까운 것이 끝나는 곳에서 색도 끝나야 합니다.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>바꿀 것이 없는 경우가 많습니다.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>계속</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>대개 이미 맞습니다.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>색은 거리를 나타냅니다. 흰 선이 물체의 가장자리에 놓여야 합니다.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>벗어난 경우에만 맞을 때까지 왼쪽이나 오른쪽으로 드래그하십시오.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nb" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>Det første kameraet er ferdig. Nå det andre.
+Vend deg mot andre omgivelser. Ingenting i bildet kan være nært.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Hvis du avslutter nå, kan du lagre kalibreringen av det første kameraet.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Hvis du avslutter nå, lagres ingenting.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsett</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Satt på pause. Ingen bilder tas.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Bilde %1 ga ikke noe nytt. Drei lenger.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Bilde %1 ga ingenting: for få detaljer.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Et annet program hindrer dette i å starte.
 Slå nettbrettet av og på igjen.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: lest tilbake, %2° fra forrige kalibrering.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Nok lys fra merket</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Her mangler detaljer</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Nok detaljer</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Drei denne veien nå</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
         <source>Continue</source>
         <translation>Fortsett</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>Ingen loddrett kant i bildet. Rett mot en trestamme, en stolpe eller et hushjørne.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Det passer vanligvis allerede. Dra bare hvis linjene ligger ved siden av kantene.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ Bildene og resultatet så langt går tapt.</translation>
         <translation>Lagrer kalibreringen i kameraet…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Programmet lukkes automatisk.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Vent, og ikke slå av nettbrettet.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Programmet lukkes automatisk, eller når du berører skjermen.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Rett mot bygninger eller trær i sterkt sollys.</translation>
         <translation>Eksempel</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Dra mot venstre eller høyre til fargene passer med bildet.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Hver farge er en avstand. Der noe nært slutter, må fargen også slutte.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Ofte trenger ingenting å endres.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Fortsett</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Det passer vanligvis allerede.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Hver farge er en avstand. De hvite linjene må ligge på tingenes kanter.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Bare hvis de ligger ved siden av: dra mot venstre eller høyre til de passer.</translation>
     </message>
 </context>
 <context>

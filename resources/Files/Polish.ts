@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>Pierwsza kamera jest gotowa. Teraz druga.
+Zwróć się ku innemu otoczeniu. Nic w obrazie nie może być blisko.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Jeśli teraz zakończysz, możesz zapisać kalibrację pierwszej kamery.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Jeśli teraz zakończysz, nic nie zostanie zapisane.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Kontynuuj</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Wstrzymano. Zdjęcia nie są robione.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Zdjęcie %1 nie wniosło nic nowego. Obróć dalej.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Zdjęcie %1 nic nie dało: za mało szczegółów.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Inny program uniemożliwia uruchomienie tego programu.
 Wyłącz tablet i włącz go ponownie.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: odczytano, %2° od poprzedniej kalibracji.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ Praca będzie kontynuowana automatycznie. Wykonane zdjęcia się liczą.</transl
     <message>
         <source>Enough light at the mark</source>
         <translation>Od znaku światła wystarczy</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Tu brakuje szczegółów</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Dość szczegółów</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Teraz obróć w tę stronę</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ Praca będzie kontynuowana automatycznie. Wykonane zdjęcia się liczą.</transl
         <source>Continue</source>
         <translation>Kontynuuj</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>Brak pionowej krawędzi w obrazie. Skieruj na pień drzewa, słup lub narożnik domu.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Zwykle już pasuje. Przeciągaj tylko wtedy, gdy linie leżą obok krawędzi.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ Zdjęcia i dotychczasowy wynik zostaną utracone.</translation>
         <translation>Zapisywanie kalibracji w kamerze…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Program zamknie się automatycznie.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Zaczekaj i nie wyłączaj tabletu.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Program zamknie się automatycznie lub po dotknięciu ekranu.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Skieruj na budynki lub drzewa w jasnym słońcu.</translation>
         <translation>Przykład</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Przeciągaj w lewo lub w prawo, aż kolory będą pasować do obrazu.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Każdy kolor to odległość. Tam, gdzie kończy się coś bliskiego, musi się też kończyć kolor.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Często nie trzeba niczego zmieniać.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Kontynuuj</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Zwykle już pasuje.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Każdy kolor to odległość. Białe linie muszą leżeć na krawędziach rzeczy.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Tylko jeśli leżą obok, przeciągaj w lewo lub w prawo, aż będą pasować.</translation>
     </message>
 </context>
 <context>

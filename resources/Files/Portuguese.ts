@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_PT" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>A primeira câmara está pronta. Agora, a segunda.
+Volte-se para outro cenário. Nada na imagem pode estar perto.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Se sair agora, pode guardar a calibração da primeira câmara.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Se sair agora, nada é guardado.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Em pausa. Não são tiradas fotografias.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>A fotografia %1 não trouxe nada de novo. Rode mais.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>A fotografia %1 não acrescentou nada: tem poucos detalhes.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Outro programa impede o arranque deste.
 Desligue o tablet e volte a ligá-lo.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: lida de volta, a %2° da calibração anterior.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ Continua automaticamente. As fotografias já tiradas contam.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Suficiente a partir da marca</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Faltam detalhes aqui</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Detalhes suficientes</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Rode agora para aqui</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ Continua automaticamente. As fotografias já tiradas contam.</translation>
         <source>Continue</source>
         <translation>Continuar</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>Nenhuma aresta vertical visível. Aponte para um tronco, um poste ou a esquina de uma casa.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Normalmente já coincide. Arraste apenas se as linhas estiverem ao lado das arestas.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ As fotografias e o resultado obtido até agora serão perdidos.</translation>
         <translation>A guardar a calibração na câmara…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>O programa fecha automaticamente.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Aguarde e não desligue o tablet.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>O programa fecha automaticamente ou quando tocar no ecrã.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Aponte para edifícios ou árvores, sob luz solar intensa.</translation>
         <translation>Exemplo</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Arraste para a esquerda ou para a direita até as cores coincidirem com a imagem.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Cada cor é uma distância. Onde termina algo próximo, a cor também deve terminar.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Muitas vezes, não é necessário alterar nada.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Normalmente já coincide.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Cada cor é uma distância. As linhas brancas devem ficar sobre as arestas dos objetos.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Só se ficarem ao lado, arraste para a esquerda ou para a direita até coincidirem.</translation>
     </message>
 </context>
 <context>

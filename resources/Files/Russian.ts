@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>Первая камера готова. Теперь вторая.
+Повернитесь к другой местности. В кадре не должно быть ничего близкого.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Если выйти сейчас, можно сохранить калибровку первой камеры.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Если выйти сейчас, ничего не сохранится.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Продолжить</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Пауза. Снимки не делаются.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Снимок %1 не дал ничего нового. Поверните дальше.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Снимок %1 ничего не дал: слишком мало деталей.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Другая программа мешает запуску этой.
 Выключите планшет и снова включите его.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: считано обратно, %2° от прежней калибровки.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>От метки света достаточно</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Здесь мало деталей</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Деталей достаточно</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Теперь поверните сюда</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ It goes on by itself. The photos taken so far count.</source>
         <source>Continue</source>
         <translation>Продолжить</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>В кадре нет вертикальных краёв. Наведите камеру на ствол дерева, столб или угол дома.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Обычно всё уже совпадает. Тяните, только если линии лежат рядом с краями.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ The photos and what was found so far would be lost.</source>
         <translation>Калибровка сохраняется в камере…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Программа закроется автоматически.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Подождите и не выключайте планшет.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Программа закроется автоматически или при касании экрана.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Point at buildings or trees in bright sunlight.</source>
         <translation>Пример</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Тяните влево или вправо, пока цвета не совпадут с изображением.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Каждый цвет — это расстояние. Где кончается близкий предмет, там должен кончаться и цвет.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Часто ничего менять не нужно.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Продолжить</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Обычно всё уже совпадает.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Каждый цвет — это расстояние. Белые линии должны лежать на краях предметов.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Только если они лежат рядом, тяните влево или вправо, пока они не совпадут.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="sk" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>Prvá kamera je hotová. Teraz druhá.
+Otočte sa k inému okoliu. Nič v zábere nesmie byť blízko.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Ak teraz skončíte, môžete uložiť kalibráciu prvej kamery.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Ak teraz skončíte, nič sa neuloží.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Pokračovať</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Pozastavené. Snímky sa nezhotovujú.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Snímka %1 nepriniesla nič nové. Otočte sa viac.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Snímka %1 nič nepriniesla: má málo detailov.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Iný program bráni spusteniu tohto programu.
 Vypnite tablet a znova ho zapnite.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: prečítané späť, %2° od predchádzajúcej kalibrácie.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ Pokračuje sa automaticky. Doteraz zhotovené snímky sa počítajú.</translati
     <message>
         <source>Enough light at the mark</source>
         <translation>Od značky je svetla dosť</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Tu chýbajú detaily</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Dosť detailov</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Teraz sa otočte sem</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ Pokračuje sa automaticky. Doteraz zhotovené snímky sa počítajú.</translati
         <source>Continue</source>
         <translation>Pokračovať</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>V zábere nie je zvislá hrana. Namierte na kmeň stromu, stĺp alebo roh domu.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Väčšinou to už súhlasí. Ťahajte, len ak čiary ležia vedľa hrán.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ Snímky a doterajší výsledok sa stratia.</translation>
         <translation>Kalibrácia sa ukladá do kamery…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Program sa zavrie sám.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Počkajte, prosím, a nevypínajte tablet.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Program sa zavrie sám, alebo keď sa dotknete obrazovky.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Namierte na budovy alebo stromy za jasného slnka.</translation>
         <translation>Príklad</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Ťahajte doľava alebo doprava, kým farby nesúhlasia s obrazom.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Každá farba je vzdialenosť. Kde sa končí niečo blízke, musí sa končiť aj farba.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Často netreba nič meniť.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Pokračovať</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Väčšinou to už súhlasí.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Každá farba je vzdialenosť. Biele čiary musia ležať na hranách vecí.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Len ak ležia vedľa, ťahajte doľava alebo doprava, kým nesúhlasia.</translation>
     </message>
 </context>
 <context>

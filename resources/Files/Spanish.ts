@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>La primera cámara está lista. Ahora, la segunda.
+Apunte a otro entorno. No debe haber nada cercano en la imagen.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Si sale ahora, puede guardar la calibración de la primera cámara.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Si sale ahora, no se guarda nada.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>En pausa. No se toman fotos.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>La foto %1 no ha aportado nada nuevo. Gire más.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>La foto %1 no ha aportado nada: tiene pocos detalles.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Otro programa impide que este se inicie.
 Apague la tableta y vuelva a encenderla.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: leída de nuevo, a %2° de la calibración anterior.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Suficiente a partir de la marca</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Faltan detalles aquí</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Suficientes detalles</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Gire ahora hacia aquí</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
         <source>Continue</source>
         <translation>Continuar</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>No hay ningún borde vertical visible. Apunte a un tronco, un poste o la esquina de una casa.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Normalmente ya coincide. Arrastre solo si las líneas están junto a los bordes.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ Se perderán las fotos y lo encontrado hasta ahora.</translation>
         <translation>Guardando la calibración en la cámara…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>El programa se cierra automáticamente.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Espere y no apague la tableta.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>El programa se cierra automáticamente o al tocar la pantalla.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Apunte a edificios o árboles, a plena luz del sol.</translation>
         <translation>Ejemplo</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Arrastre hacia la izquierda o la derecha hasta que los colores coincidan con la imagen.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Cada color es una distancia. Donde termina algo cercano, también debe terminar el color.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>A menudo no es necesario cambiar nada.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Normalmente ya coincide.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Cada color es una distancia. Las líneas blancas deben estar sobre los bordes de los objetos.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Solo si están al lado, arrastre hacia la izquierda o la derecha hasta que coincidan.</translation>
     </message>
 </context>
 <context>

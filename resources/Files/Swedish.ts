@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="sv" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>Den första kameran är klar. Nu den andra.
+Vänd dig mot andra omgivningar. Inget i bilden får vara nära.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Om du avslutar nu kan du lagra den första kamerans kalibrering.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Om du avslutar nu lagras ingenting.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortsätt</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Pausat. Inga foton tas.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Foto %1 gav inget nytt. Vrid längre.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Foto %1 gav ingenting: för få detaljer.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Ett annat program hindrar det här från att starta.
 Stäng av surfplattan och slå på den igen.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: läst tillbaka, %2° från den förra kalibreringen.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Tillräckligt vid markeringen</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Här saknas detaljer</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Tillräckligt med detaljer</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Vrid åt det här hållet</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
         <source>Continue</source>
         <translation>Fortsätt</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>Ingen upprätt kant i bilden. Rikta mot en trädstam, en stolpe eller ett hushörn.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Det stämmer oftast redan. Dra bara om linjerna ligger bredvid kanterna.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ Fotona och resultatet hittills går förlorade.</translation>
         <translation>Lagrar kalibreringen i kameran…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Programmet stängs automatiskt.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Vänta, och stäng inte av surfplattan.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Programmet stängs automatiskt, eller när du rör vid skärmen.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Rikta mot byggnader eller träd i starkt solljus.</translation>
         <translation>Exempel</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Dra åt vänster eller höger tills färgerna stämmer med bilden.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Varje färg är ett avstånd. Där något nära slutar måste också färgen sluta.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Ofta behöver ingenting ändras.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Fortsätt</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Det stämmer oftast redan.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Varje färg är ett avstånd. De vita linjerna ska ligga på tingens kanter.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Bara om de ligger bredvid: dra åt vänster eller höger tills de stämmer.</translation>
     </message>
 </context>
 <context>

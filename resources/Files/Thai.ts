@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="th" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>กล้อง​ตัวแรก​เสร็จแล้ว ต่อไป​เป็น​ตัวที่สอง
+หันไปทาง​ทิวทัศน์​อื่น ใน​ภาพ​ต้องไม่มี​สิ่งใด​อยู่ใกล้</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>หากออกตอนนี้ คุณ​สามารถ​บันทึก​การ​ปรับเทียบ​ของ​กล้อง​ตัวแรก​ได้</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>หากออกตอนนี้ จะไม่มี​การบันทึก​สิ่งใด</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>ดำเนินการต่อ</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>หยุดชั่วคราว ไม่มี​การถ่ายภาพ</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>ภาพที่ %1 ไม่มี​สิ่งใหม่ โปรดหัน​ต่อไป​อีก</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>ภาพที่ %1 ไม่มี​ประโยชน์: มีรายละเอียด​น้อยเกินไป</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>โปรแกรมอื่น​ขัดขวาง​การเริ่ม​โปรแกรมนี้
 ปิด​แท็บเล็ต​แล้วเปิด​อีกครั้ง</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: อ่านกลับ​แล้ว ต่างจาก​การ​ปรับเทียบ​ก่อนหน้า %2°</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>แสงพอ​เมื่อถึง​เครื่องหมาย</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>ตรงนี้​ขาด​รายละเอียด</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>รายละเอียด​เพียงพอ</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>ต่อไป​หันไป​ทางนี้</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ It goes on by itself. The photos taken so far count.</source>
         <source>Continue</source>
         <translation>ดำเนินการต่อ</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>ไม่มี​ขอบ​แนวตั้ง​ใน​ภาพ เล็งไปที่​ลำต้น​ต้นไม้ เสา หรือ​มุมบ้าน</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>โดยทั่วไป​ตรงกัน​อยู่แล้ว ลาก​เฉพาะเมื่อ​เส้น​อยู่ข้าง​ขอบ​เท่านั้น</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ The photos and what was found so far would be lost.</source>
         <translation>กำลัง​บันทึก​ค่า​การ​ปรับเทียบ​ลงในกล้อง…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>โปรแกรม​จะปิด​โดยอัตโนมัติ</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>โปรดรอ และ​อย่าปิด​แท็บเล็ต</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>โปรแกรม​จะปิด​โดยอัตโนมัติ หรือ​เมื่อ​แตะ​หน้าจอ</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Point at buildings or trees in bright sunlight.</source>
         <translation>ตัวอย่าง</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>ลากไป​ทางซ้าย​หรือขวา​จนกว่าสี​จะตรง​กับภาพ</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>สี​แต่ละสี​คือ​ระยะทาง สีต้อง​สิ้นสุด​ตรงที่​สิ่งที่​อยู่ใกล้​สิ้นสุด</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>บ่อยครั้ง​ไม่จำเป็น​ต้องเปลี่ยน​อะไร</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>ดำเนินการต่อ</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>โดยทั่วไป​ตรงกัน​อยู่แล้ว</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>สี​แต่ละสี​คือ​ระยะทาง เส้น​สีขาว​ต้องอยู่​บนขอบ​ของ​สิ่งต่าง ๆ</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>เฉพาะเมื่อ​เส้น​อยู่ข้างขอบ ให้ลาก​ไปทางซ้าย​หรือขวา​จนกว่า​จะตรงกัน</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,27 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>BetweenScreen</name>
+    <message>
+        <source>The first camera is done. Now the second one.
+Turn to other scenery. Nothing in the picture may be near.</source>
+        <translation>Birinci kamera tamam. Şimdi ikincisi.
+Başka bir manzaraya dönün. Görüntüde yakın hiçbir şey olmamalıdır.</translation>
+    </message>
+    <message>
+        <source>If you exit now, you can store the calibration of the first camera.</source>
+        <translation>Şimdi çıkarsanız birinci kameranın kalibrasyonunu kaydedebilirsiniz.</translation>
+    </message>
+    <message>
+        <source>If you exit now, nothing is stored.</source>
+        <translation>Şimdi çıkarsanız hiçbir şey kaydedilmez.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Devam</translation>
+    </message>
+</context>
+<context>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
@@ -18,6 +39,14 @@
     <message>
         <source>Paused. No photos are taken.</source>
         <translation>Duraklatıldı. Fotoğraf çekilmiyor.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing new. Turn farther.</source>
+        <translation>Fotoğraf %1 yeni bir şey katmadı. Daha fazla çevirin.</translation>
+    </message>
+    <message>
+        <source>Photo %1 brought nothing: too little detail in it.</source>
+        <translation>Fotoğraf %1 bir şey katmadı: çok az ayrıntı var.</translation>
     </message>
 </context>
 <context>
@@ -297,6 +326,11 @@ Switch the tablet off and on again.</source>
         <translation>Başka bir program bu programın başlamasını engelliyor.
 Tableti kapatıp yeniden açın.</translation>
     </message>
+    <message>
+        <source>%1: read back, %2° from the calibration before.</source>
+        <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
+        <translation>%1: geri okundu, önceki kalibrasyondan %2° farklı.</translation>
+    </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
@@ -368,6 +402,21 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>İşaretten sonra ışık yeterli</translation>
+    </message>
+</context>
+<context>
+    <name>MapLegend</name>
+    <message>
+        <source>Detail missing here</source>
+        <translation>Burada ayrıntı eksik</translation>
+    </message>
+    <message>
+        <source>Enough detail</source>
+        <translation>Yeterli ayrıntı</translation>
+    </message>
+    <message>
+        <source>Turn this way next</source>
+        <translation>Şimdi bu yöne çevirin</translation>
     </message>
 </context>
 <context>
@@ -473,6 +522,14 @@ It goes on by itself. The photos taken so far count.</source>
         <source>Continue</source>
         <translation>Devam</translation>
     </message>
+    <message>
+        <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
+        <translation>Görüntüde dik kenar yok. Bir ağaç gövdesine, direğe veya ev köşesine doğrultun.</translation>
+    </message>
+    <message>
+        <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
+        <translation>Genellikle zaten uyar. Yalnızca çizgiler kenarların yanındaysa sürükleyin.</translation>
+    </message>
 </context>
 <context>
     <name>RestartQuestion</name>
@@ -490,12 +547,12 @@ Fotoğraflar ve şu ana kadar bulunan sonuç kaybolur.</translation>
         <translation>Kalibrasyon kameraya kaydediliyor…</translation>
     </message>
     <message>
-        <source>The program closes by itself.</source>
-        <translation>Program kendiliğinden kapanır.</translation>
-    </message>
-    <message>
         <source>Please wait, and do not switch the tablet off.</source>
         <translation>Lütfen bekleyin ve tableti kapatmayın.</translation>
+    </message>
+    <message>
+        <source>The program closes by itself, or when you touch the screen.</source>
+        <translation>Program kendiliğinden veya ekrana dokunduğunuzda kapanır.</translation>
     </message>
 </context>
 <context>
@@ -530,20 +587,20 @@ Parlak güneş ışığında binalara veya ağaçlara doğrultun.</translation>
         <translation>Örnek</translation>
     </message>
     <message>
-        <source>Drag left or right until the colors fit the picture.</source>
-        <translation>Renkler görüntüyle örtüşene kadar sola veya sağa sürükleyin.</translation>
-    </message>
-    <message>
-        <source>Every color is a distance. Where something near ends, the color has to end as well.</source>
-        <translation>Her renk bir uzaklıktır. Yakın bir şeyin bittiği yerde renk de bitmelidir.</translation>
-    </message>
-    <message>
-        <source>Often nothing needs to be changed.</source>
-        <translation>Çoğu zaman hiçbir şeyi değiştirmek gerekmez.</translation>
-    </message>
-    <message>
         <source>Continue</source>
         <translation>Devam</translation>
+    </message>
+    <message>
+        <source>It usually fits already.</source>
+        <translation>Genellikle zaten uyar.</translation>
+    </message>
+    <message>
+        <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
+        <translation>Her renk bir uzaklıktır. Beyaz çizgiler nesnelerin kenarlarında olmalıdır.</translation>
+    </message>
+    <message>
+        <source>Only if they lie beside them, drag left or right until they fit.</source>
+        <translation>Yalnızca yanlarındaysa, uyana kadar sola veya sağa sürükleyin.</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,8 @@ QtObject {
     property bool failed: false  // the application has reported an error: the user can only leave
     property bool firstCameraAccepted: false
     property bool saving: false
+    property bool between: false  // the user has not begun with the second camera yet
+    readonly property bool betweenShown: between && state >= states.starting && state <= states.capturing
     readonly property bool paged: notice === "" && !failed && !saving
     property bool singleCamera: false
     property bool secondCamera: false
@@ -24,6 +26,8 @@ QtObject {
     property bool howToMoveOffered: false
     property string refinementText: ""
     property string savedText: ""
+    property var storedFacts: []
+    property bool soundOn: true
 
     property string lightingTitle: ""
     property string lightingMessage: ""
@@ -37,6 +41,8 @@ QtObject {
     property real progress: 0
     property int photoCount: 0
     property var photos: []     // the source of each photo's thumbnail; may be fewer than the photos taken
+    property var photoWorths: []  // for each photo "", or why it has contributed nothing: "detail" or "repeated"
+    property string look: ""    // where the camera should turn: "left", "right", "up", "down" or ""
     property var detail: []     // for each area of the image 0..1, row by row; empty before the first photo
     property var foundTurn: []  // degrees: upwards, to the right, clockwise
     property var foundQuality: ({})  // as described in docs/interface-map.md
@@ -84,6 +90,8 @@ QtObject {
     function startAttempt() {
         photoCount = 0
         photos = []
+        photoWorths = []
+        look = ""
         detail = []
         movementText = ""
         holdStill = false

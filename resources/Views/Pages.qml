@@ -9,6 +9,7 @@ Item {
     property CalibrationStatus status
     property PictureLayout layout
     property Item overlay
+    property bool dragging: false  // the user drags the overlay
     signal wanted(int state)
     signal begun()
     signal accepted()
@@ -18,16 +19,28 @@ Item {
     signal updateGivenUp()
     signal firstCameraStored()  // only the result of the first camera's refinement is to be stored
     signal stayed()
+    signal cueSounded(string cue)
+    signal soundSwitched(bool on)
 
     readonly property var states: status.states
     readonly property int step: status.state
     readonly property bool paged: status.paged
-    readonly property var screens: [opening, introduction, lighting, start, capture, found, tutorial, refinement, saving,
+    readonly property var screens: [opening, introduction, lighting, start, between, capture, found, tutorial, refinement, saving,
                                     missingDevice, missingRearCamera, rearCameraTrouble]
     readonly property bool covered: howToMove.visible || leaveQuestion.visible || restartQuestion.visible
                                     || updateNotice.visible
 
+    // The name of what the user can operate, for the log.
+    readonly property string uppermost: {
+        for (const cover of [updateNotice, leaveQuestion, restartQuestion, howToMove])
+            if (cover.visible) return cover.objectName
+        const page = screens.find(screen => screen.shown)
+        return page ? page.objectName : ""
+    }
+    onUppermostChanged: if (uppermost !== "") console.info("The interface shows " + uppermost + ".")
+
     function confirmPhoto() { capture.confirmPhoto() }
+    function confirmWorth(worth) { capture.confirmWorth(worth) }
     function askToLeave() { leaveQuestion.visible = true }
     Connections {
         target: pages.status
@@ -98,6 +111,7 @@ Item {
             status: pages.status
             layout: pages.layout
             onBegun: pages.begun()
+            onSoundSwitched: pages.soundSwitched(on)
         }
         LightingScreen {
             id: lighting
@@ -116,13 +130,22 @@ Item {
             onStarted: pages.wanted(pages.states.starting)
             onHowToMoveWanted: howToMove.open()
         }
+        BetweenScreen {
+            id: between
+            objectName: "betweenPage"
+            shown: pages.paged && pages.status.betweenShown
+            status: pages.status
+            layout: pages.layout
+            onContinued: pages.status.between = false
+        }
         CaptureScreen {
             id: capture
             objectName: "capturePage"
-            shown: pages.paged && pages.step >= pages.states.starting && pages.step <= pages.states.found
+            shown: pages.paged && !pages.status.betweenShown && pages.step >= pages.states.starting && pages.step <= pages.states.found
             status: pages.status
             layout: pages.layout
             paused: pages.covered
+            onLightNoticeShownChanged: if (lightNoticeShown) pages.cueSounded("lightLost")
             onRestarted: pages.restart()
             onHowToMoveWanted: howToMove.open()
         }
@@ -134,6 +157,7 @@ Item {
             layout: pages.layout
             onContinued: pages.status.foundRead = true
             onKept: pages.storedKept()
+            onShownChanged: if (shown) pages.cueSounded("found")
         }
         TutorialScreen {
             id: tutorial
@@ -150,6 +174,7 @@ Item {
             status: pages.status
             layout: pages.layout
             overlay: pages.overlay
+            dragging: pages.dragging
             onContinued: pages.accepted()
             onRestarted: pages.restart()
         }
@@ -201,6 +226,7 @@ Item {
             anchors.right: parent.right
             anchors.top: parent.top
             anchors.margins: Theme.margin
+            opacity: refinement.shown && refinement.watching ? 0 : 1
             text: qsTr("Exit")
             onClicked: pages.leave()
         }

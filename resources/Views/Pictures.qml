@@ -10,6 +10,7 @@ Item {
     property CalibrationStatus status
     property PictureLayout layout
     property alias refinementView: refinementView
+    property alias dragging: touch.dragging
     signal touchDown(int x, int y)
     signal touchMove(int x, int y)
     signal touchUp(int x, int y)
@@ -56,6 +57,7 @@ Item {
         place: pictures.layout.full
         DepthColorOverlayRenderer { id: refinementView; objectName: "refinementView"; anchors.fill: parent }
         MouseArea {
+            id: touch
             objectName: "refinementTouchArea"
             property int fromX: 0
             property int fromY: 0

@@ -32,6 +32,8 @@ Window {
     signal switchToOOMColorSensor()
     signal switchToIMColorSensor()
     signal pauseCapture(bool paused)
+    signal cueSounded(string cue)
+    signal soundSwitched(bool on)
     signal userAskedToExit()
     signal quit()
     signal storeFirstCamera()
@@ -46,8 +48,16 @@ Window {
     function modifyUiToStateInQML(state) { status.state = state }
     function showMovementText(message) { status.movementText = message }
     function setHoldStill(on) { status.holdStill = on }
-    function showCalibrationStartupText(message) { status.startText = message }
-    function showSaveCalibrationText(message) { status.showSaveText(message) }
+    function showCalibrationStartupText(message) {
+        status.startText = message
+        if (message !== "") cueSounded("failed")
+    }
+    function showSaveCalibrationText(message) {
+        status.showSaveText(message)
+        if (status.savedText !== "") cueSounded("stored")
+    }
+    function showStoredFacts(facts) { status.storedFacts = facts }
+    function showSoundSwitch(on) { status.soundOn = on }
     function setLightingDialogText(title, message) { status.lightingTitle = title; status.lightingMessage = message }
     function setLightingProgress(progress) { status.lightingProgress = progress }
     function toggleLightingContinueButtonVisibility(shown, label) {
@@ -61,7 +71,7 @@ Window {
     function setColorCameraDescriptionText(text) { status.cameraName = text }
     function showReturnToAWellLitAreaPopup() { status.lightNeeded = true }
     function hideReturnToAWellLitAreaPopup() { status.lightNeeded = false }
-    function flashCalibrationImageViews() { ++status.photoCount; pages.confirmPhoto() }
+    function flashCalibrationImageViews() { ++status.photoCount; pages.confirmPhoto(); cueSounded("photo") }
     function showHowToMoveTutorialButton() { status.howToMoveOffered = true }
     function forceSingleCameraCalibration() { status.singleCamera = true }
     function displayMissingQ550Device() { status.notice = "missingDevicePage" }
@@ -72,7 +82,11 @@ Window {
     function showLastSaveFailed(message) { status.lastSaveFailedText = message }
     function showLastCalibration(message) { status.lastCalibrationText = message }
     function showCapturedPhoto(source) { status.photos = status.photos.concat([source]) }
-    function showDetailMap(areas) { status.detail = areas }
+    function showDetailMap(areas, look) { status.detail = areas; status.look = look }
+    function showPhotoWorth(worth) {
+        status.photoWorths = status.photoWorths.concat([worth])
+        pages.confirmWorth(worth)
+    }
     function showFoundTurn(anglesDeg, quality) { status.foundTurn = anglesDeg; status.foundQuality = quality }
 
     function showUpdateOffer(version) { status.offerUpdate(version) }
@@ -86,7 +100,7 @@ Window {
     readonly property bool tutorialShown: status.state === _state_RefiningTutorial && !status.foundShown && status.paged
     onTutorialShownChanged: toggleTutorialAnimation(tutorialShown)
 
-    readonly property bool capturePaused: pages.covered || !status.paged
+    readonly property bool capturePaused: pages.covered || !status.paged || status.betweenShown
     onCapturePausedChanged: pauseCapture(capturePaused)
 
     function goTo(state) {
@@ -95,6 +109,7 @@ Window {
     }
     function goOnWithSecondCamera() {
         status.secondCamera = true
+        status.between = true
         switchToOOMColorSensor()
         goTo(_state_StartingCalibration)
     }
@@ -163,6 +178,7 @@ Window {
         status: status
         layout: layout
         overlay: pictures.refinementView
+        dragging: pictures.dragging
         LayoutMirroring.enabled: root.mirrored
         LayoutMirroring.childrenInherit: true
         onWanted: root.goTo(state)
@@ -170,6 +186,8 @@ Window {
         onAccepted: root.acceptRefinement()
         onStoredKept: root.keepStored()
         onLeft: root.userAskedToExit()
+        onCueSounded: root.cueSounded(cue)
+        onSoundSwitched: { status.soundOn = on; root.soundSwitched(on) }
         onUpdateWanted: { status.fetchUpdate(); root.startDownloadingUpdate() }
         onUpdateGivenUp: { status.updatePhase = ""; root.abortDownloadingUpdate() }
         onFirstCameraStored: root.store(root.storeFirstCamera)

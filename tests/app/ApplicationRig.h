@@ -52,6 +52,8 @@ protected:
         environment.keepAwake = [this](bool on) { awake.push_back(on); };
         environment.power = [this] { return power; };
         environment.savedShownFor = std::chrono::milliseconds(300);
+        cues.clear();
+        environment.playCue = [this](Cue cue) { cues.push_back(cue); };
         if (change) change(environment);
         manager = std::make_unique<GlobalManager>(argc, argv, environment);
     }
@@ -136,6 +138,7 @@ protected:
     std::unique_ptr<PXMServiceManager> services;
     std::vector<std::string> boxes;
     std::optional<PowerState> power;
+    std::vector<Cue> cues;    ///< that would have been heard
     std::vector<bool> awake;  ///< the requests to the system to stay awake, in order
     std::unique_ptr<GlobalManager> manager;
 };

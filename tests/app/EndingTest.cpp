@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <cstdio>
 
 namespace fieldcal::testing {
 namespace {
@@ -117,6 +118,28 @@ TEST_F(EndingTest, NoSaveBeginsOnANearlyEmptyBatteryAndTheUserMayTryAgain) {
     EXPECT_THAT(calls(), Contains(kSaved));
     EXPECT_EQ(boxes.size(), 1U);
     EXPECT_EQ(manager->exitCode(), 0);
+}
+
+TEST_F(EndingTest, TheConfirmationSaysWhatWasReadBackAndStaysUntilItIsTouched) {
+    start({}, [](ApplicationEnvironment& environment) { environment.savedShownFor = std::chrono::seconds(60); });
+    refineFirst();
+    const Eigen::Vector3d found = anglesDeg(*records().estimated(kFirst));
+    const double turnDeg = (found - anglesDeg(records().factory(kFirst))).norm();
+    const qint64 milliseconds = runUntilEnd([this] {
+        press("quit");
+        EXPECT_EQ(calls().back(), kSaved);
+        QTest::mouseClick(manager->window(), Qt::LeftButton);  // a second tap on the button
+        QTimer::singleShot(1000, manager.get(), [this] { QTest::mouseClick(manager->window(), Qt::LeftButton); });
+    });
+    EXPECT_GE(milliseconds, 1000);
+    EXPECT_LT(milliseconds, 20000);
+    const std::vector<std::string> all = calls();
+    const auto facts =
+        std::find_if(all.begin(), all.end(), [](const std::string& call) { return call.rfind("storedFacts", 0) == 0; });
+    ASSERT_NE(facts, all.end());
+    double told = 0;
+    ASSERT_EQ(std::sscanf(facts->c_str(), "storedFacts|First Color Camera: read back, %lf", &told), 1) << *facts;
+    EXPECT_NEAR(told, turnDeg, 0.02);
 }
 
 TEST_F(EndingTest, AFailedSaveEndsQuietlyAndIsSaidAtTheNextStart) {

@@ -133,6 +133,31 @@ TEST_F(InterfaceBridgeTest, WhatIsMissingIsShownAndLeftAsUsual) {
     }
 }
 
+TEST_F(InterfaceBridgeTest, SoundsAreHeardUntilTheyAreSwitchedOffWhichIsRemembered) {
+    const auto sound = [this](const char* cue) {
+        QMetaObject::invokeMethod(manager->window(), "cueSounded", Q_ARG(QString, cue));
+    };
+    const auto switchSound = [this](bool on) {
+        QMetaObject::invokeMethod(manager->window(), "soundSwitched", Q_ARG(bool, on));
+    };
+    start("openDevice:1:5");
+    EXPECT_TRUE(wasTold("soundSwitch|true"));
+    for (const char* cue : {"photo", "lightLost", "found", "failed", "stored"})
+        sound(cue);
+    EXPECT_THAT(cues, ElementsAre(Cue::Photo, Cue::LightLost, Cue::Found, Cue::Failed, Cue::Stored));
+    switchSound(false);
+    sound("photo");
+    EXPECT_EQ(cues.size(), 5U);
+
+    start("openDevice:1:5");
+    EXPECT_TRUE(wasTold("soundSwitch|false"));
+    sound("photo");
+    EXPECT_THAT(cues, ElementsAre());
+    switchSound(true);
+    start("openDevice:1:5");
+    EXPECT_TRUE(wasTold("soundSwitch|true"));
+}
+
 TEST_F(InterfaceBridgeTest, AnArabicInterfaceReadsFromTheRightAndSpeaksArabic) {
     start("openDevice:1:5", [](ApplicationEnvironment& environment) {
         environment.language = {QString("Arabic"), QString("Egypt")};

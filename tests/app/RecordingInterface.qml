@@ -17,6 +17,8 @@ Window {
     signal switchToOOMColorSensor()
     signal switchToIMColorSensor()
     signal pauseCapture(bool paused)
+    signal cueSounded(string cue)
+    signal soundSwitched(bool on)
     signal userAskedToExit()
     signal quit()
     signal storeFirstCamera()
@@ -58,7 +60,10 @@ Window {
     function showLastSaveFailed(text) { add("lastSaveFailed", [text]) }
     function showLastCalibration(text) { add("lastCalibration", [text]) }
     function showCapturedPhoto(source) { add("photo", [source]) }
-    function showDetailMap(areas) { add("detail", areas.map(area => area.toFixed(1))) }
+    function showDetailMap(areas, look) { add("detail", areas.map(area => area.toFixed(1)).concat([look])) }
+    function showPhotoWorth(worth) { add("worth", [worth]) }
+    function showStoredFacts(facts) { add("storedFacts", facts) }
+    function showSoundSwitch(on) { add("soundSwitch", [on]) }
     function showFoundTurn(anglesDeg, quality) {
         add("foundTurn", anglesDeg.map(angle => angle.toFixed(1)))
         add("foundQuality", [quality.verdict, quality.explained, quality.newPx < quality.storedPx])

@@ -160,6 +160,8 @@ TEST_F(WholeRunTest, TheInterfaceAnswersWhilePhotosAreWorkedOnAndTwoCamerasAreSt
     const QObject* overlay = manager->window()->findChild<QObject*>("refinementView");
     ASSERT_TRUE(comes([&] { return overlay->property("correctionDeg").toDouble() > 0.6; })) << "100 of 1280 pixels";
     pressReturn();
+    ASSERT_TRUE(comesToSee("betweenPage"));
+    pressReturn();
     ASSERT_TRUE(comesToSee("foundPage"));
     pressReturn();
     ASSERT_TRUE(comesToSee("refinementPage"));

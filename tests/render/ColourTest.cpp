@@ -1,10 +1,13 @@
 #include "render/DepthColourMap.h"
+#include "render/DepthRange.h"
 #include "render/InfraredPicture.h"
 
 #include <QColor>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace fieldcal {
 namespace {
@@ -25,10 +28,12 @@ std::array<double, 3> lab(const std::array<std::uint8_t, 4>& rgba) {
 
 TEST(DepthColours, EqualRatiosOfDepthLookEquallyDifferent) {
     constexpr int kSteps = 16;
-    const double ratio = std::pow(kFarthestColouredMetres / kNearestColouredMetres, 1.0 / kSteps);
+    constexpr DepthRange kRange{0.7, 4};
+    const DepthColours depthColour(kRange);
+    const double ratio = std::pow(kRange.farMetres / kRange.nearMetres, 1.0 / kSteps);
     double smallest = 1e9, largest = 0;
     for (int step = 0; step < kSteps; ++step) {
-        const double metres = kNearestColouredMetres * std::pow(ratio, step);
+        const double metres = kRange.nearMetres * std::pow(ratio, step);
         const auto nearer = lab(depthColour(static_cast<std::uint16_t>(std::lround(1000 * metres))));
         const auto farther = lab(depthColour(static_cast<std::uint16_t>(std::lround(1000 * metres * ratio))));
         EXPECT_LT(farther[0], nearer[0]) << "farther is darker, " << metres;
@@ -41,9 +46,25 @@ TEST(DepthColours, EqualRatiosOfDepthLookEquallyDifferent) {
 }
 
 TEST(DepthColours, BeyondTheRangeTheEndsGoOn) {
+    const DepthColours depthColour({1, 10});
     EXPECT_EQ(depthColour(1), depthColour(1000));
     EXPECT_EQ(depthColour(10000), depthColour(65535));
     EXPECT_NE(depthColour(1000), depthColour(1200));
+}
+
+TEST(DepthColours, TheRangeLeavesOutTheNearestAndTheFarthestTwentieth) {
+    std::vector<std::uint16_t> depths;
+    for (int i = 0; i <= 1000; ++i)
+        depths.push_back(static_cast<std::uint16_t>(i < 40 ? 150 : i > 960 ? 60000 : 2000 + 10 * i));
+    std::reverse(depths.begin(), depths.end());
+    const DepthRange range = percentileRange(&depths);
+    EXPECT_NEAR(range.nearMetres, 2.5, 1e-9);
+    EXPECT_NEAR(range.farMetres, 11.5, 1e-9);
+
+    std::vector<std::uint16_t> wall(100, 3000);
+    const DepthRange widened = percentileRange(&wall);
+    EXPECT_NEAR(widened.farMetres / widened.nearMetres, 1.5, 1e-9) << "noise does not get every colour";
+    EXPECT_NEAR(widened.farMetres * widened.nearMetres, 9, 1e-9) << "about the wall";
 }
 
 TEST(InfraredForTheEye, KeepsTheOrderOfLight) {

@@ -1,6 +1,7 @@
 #include "engine/CalibratorInterface.h"
 #include "engine/Rotation.h"
 #include "render/DepthColourMap.h"
+#include "render/DepthRange.h"
 #include "tests/render/Stage.h"
 
 #include <QSignalSpy>
@@ -38,6 +39,13 @@ void fill(ImageFrame16* depth, const QRect& area, int millimetres) {
         std::fill_n(depth->pixels() + y * 160 + area.left(), area.width(), static_cast<std::uint16_t>(millimetres));
 }
 
+ImageFrame16 squareBeforeWall(const QRect& square) {
+    ImageFrame16 depth = emptyDepth();
+    fill(&depth, {0, 0, 160, 120}, 8000);
+    fill(&depth, square, 1000);
+    return depth;
+}
+
 /// Returns the screen position of the centre of a depth area in a window of 640 x 480 that the image fills.
 QPointF expectedCentre(const CameraParameters& cameras, const Eigen::Matrix3d& rotation, const QRect& area,
                        int millimetres) {
@@ -55,9 +63,15 @@ QPointF expectedCentre(const CameraParameters& cameras, const Eigen::Matrix3d& r
     return {deliveredX * 640 / to.width, deliveredY * 480 / to.height};
 }
 
+/// The range of the colours when all depth in view is the same.
+DepthRange rangeOf(int millimetres) {
+    std::vector<std::uint16_t> depths{static_cast<std::uint16_t>(millimetres)};
+    return percentileRange(&depths);
+}
+
 /// Returns the colour of depth under the grey image.
-QRgb overGrey(int millimetres) {
-    const auto colour = depthColour(static_cast<std::uint16_t>(millimetres));
+QRgb overGrey(int millimetres, const DepthRange& range = {}) {
+    const auto colour = DepthColours(range)(static_cast<std::uint16_t>(millimetres));
     const auto mixed = [](int value) { return static_cast<int>(std::lround(0.6 * value + 0.4 * 100)); };
     return qRgb(mixed(colour[0]), mixed(colour[1]), mixed(colour[2]));
 }
@@ -139,34 +153,32 @@ TEST_F(Overlay, WholeFrameOfDepthHasNoHoles) {
     int holes = 0;
     for (int y = 60; y < 380; ++y)
         for (int x = 120; x < 540; ++x)
-            if (!alike(seenAt(x, y), overGrey(5000))) ++holes;
+            if (!alike(seenAt(x, y), overGrey(5000, rangeOf(5000)))) ++holes;
     EXPECT_EQ(holes, 0);
 }
 
 TEST_F(Overlay, NearDepthHidesWhatIsBehindIt) {
     const QRect square(70, 50, 20, 20);
-    ImageFrame16 depth = emptyDepth();
-    fill(&depth, {0, 0, 160, 120}, 8000);
-    fill(&depth, square, 1000);
     calibrate({0, 0, 0});
-    overlay_->setFrames(plainPicture(200, 150, kGrey), depth);
+    overlay_->setFrames(plainPicture(200, 150, kGrey), squareBeforeWall(square));
     look();
     const Eigen::Matrix3d none = Eigen::Matrix3d::Identity();
+    const DepthRange range = rangeOf(8000);
     // From the colour camera, the square hides a part of the wall, and another part is visible that the depth camera
     // did not see.
-    const auto isNear = [](QRgb colour) { return alike(colour, overGrey(1000)); };
+    const auto isNear = [&](QRgb colour) { return alike(colour, overGrey(1000, range)); };
     expectNear(centreOf(isNear), expectedCentre(cameras_, none, square, 1000));
     const auto edge = [&](const QRect& strip, int millimetres) {
         return expectedCentre(cameras_, none, strip, millimetres);
     };
-    for (const int corner : {0, 19}) {
+    for (const int corner : {2, 17}) {  // inside of the line around the square
         const QPointF inside = edge({square.left() + corner, square.top() + corner, 1, 1}, 1000);
         EXPECT_TRUE(isNear(seenAt(static_cast<int>(inside.x()), static_cast<int>(inside.y())))) << corner;
     }
-    const QPointF bared = edge({square.left() + 2, square.top() + 17, 1, 1}, 8000);
+    const QPointF bared = edge({square.left() + 4, square.top() + 10, 1, 1}, 8000);
     EXPECT_EQ(seenAt(static_cast<int>(bared.x()), static_cast<int>(bared.y())), kGrey);
     const QPointF wall = edge({square.left() - 20, square.top() + 10, 1, 1}, 8000);
-    EXPECT_TRUE(alike(seenAt(static_cast<int>(wall.x()), static_cast<int>(wall.y())), overGrey(8000)));
+    EXPECT_TRUE(alike(seenAt(static_cast<int>(wall.x()), static_cast<int>(wall.y())), overGrey(8000, range)));
 }
 
 TEST_F(Overlay, DragTurnsTheOverlayUnderTheFinger) {
@@ -214,12 +226,81 @@ TEST_F(Overlay, TooLittleDepthIsSaid) {
         QCoreApplication::processEvents();
         return overlay_->depthSparse();
     };
+    calibrate({0, 0, 0});
     EXPECT_FALSE(share(50));
-    EXPECT_TRUE(share(2));
-    EXPECT_TRUE(share(5)) << "does not flicker about one value";
-    EXPECT_FALSE(share(10));
-    EXPECT_FALSE(share(5));
+    EXPECT_TRUE(share(3));
+    EXPECT_TRUE(share(8)) << "does not flicker about one value";
+    EXPECT_FALSE(share(20));
+    EXPECT_FALSE(share(8));
     EXPECT_EQ(changes.count(), 2);
+    overlay_->setClearArea({0, 0.6, 1, 0.3});
+    EXPECT_TRUE(share(50)) << "where panels cover it, depth does not count";
+}
+
+/// The ground as a camera sees it that is 1.4 m above it, as far as `metres`.
+void fillGround(ImageFrame16* depth, const CameraModel& camera, double metres) {
+    for (int y = 0; y < camera.height; ++y) {
+        const double z = 1.4 * camera.fy / std::max(y - camera.cy, 0.1F);
+        if (z < metres) fill(depth, {0, y, camera.width, 1}, static_cast<int>(1000 * z));
+    }
+}
+
+TEST_F(Overlay, LinesLieOnTheEdgesOfDepthAndNowhereElse) {
+    const QRect square(70, 50, 20, 20);
+    calibrate({0, 0, 0});
+    for (const QRgb ground : {qRgb(0, 0, 0), kGrey, qRgb(250, 250, 250)}) {
+        overlay_->setFrames(plainPicture(200, 150, ground), squareBeforeWall(square));
+        look();
+        const Eigen::Matrix3d none = Eigen::Matrix3d::Identity();
+        const auto onScreen = [&](double x, double y) {
+            const QPointF first = expectedCentre(cameras_, none, {square.topLeft(), QSize(1, 1)}, 1000);
+            const QPointF last = expectedCentre(cameras_, none, {square.bottomRight(), QSize(1, 1)}, 1000);
+            const QPointF pixel = (last - first) / 19;
+            return QPointF(first.x() + (x - square.left()) * pixel.x(), first.y() + (y - square.top()) * pixel.y());
+        };
+        const QRectF border(onScreen(69.5, 49.5), onScreen(89.5, 69.5));
+        int lit = 0;
+        for (int y = 0; y < 480; ++y) {
+            for (int x = 0; x < 640; ++x) {
+                if (seenAt(x, y) != qRgb(255, 255, 255)) continue;
+                ++lit;
+                const QPointF at(x + 0.5, y + 0.5);
+                ASSERT_TRUE(border.adjusted(-3, -3, 3, 3).contains(at)) << x << ' ' << y;
+                ASSERT_FALSE(border.adjusted(4, 4, -4, -4).contains(at)) << x << ' ' << y;
+            }
+        }
+        EXPECT_NEAR(lit, 3 * 2 * (border.width() + border.height()), 60) << "3 pixels wide, and without gaps";
+        const int left = static_cast<int>(border.left()), middle = static_cast<int>(border.center().y());
+        for (const int beside : {-3, 3})
+            EXPECT_LT(qGray(seenAt(left + beside, middle)), 40) << "the casing: 3:1 or more beside any colour";
+    }
+}
+
+TEST_F(Overlay, TheGroundEndsWithoutALineAndAPostHasOne) {
+    QSignalSpy changes(overlay_, &DepthColorOverlayRenderer::uprightEdgesMissingChanged);
+    calibrate({0, 0, 0});
+    ImageFrame16 depth = emptyDepth();
+    const auto litPixels = [&] {
+        overlay_->setFrames(plainPicture(200, 150, kGrey), depth);
+        look();
+        QCoreApplication::processEvents();
+        int lit = 0;
+        for (int y = 0; y < 480; ++y)
+            for (int x = 0; x < 640; ++x)
+                if (seenAt(x, y) == qRgb(255, 255, 255)) ++lit;
+        return lit;
+    };
+    fillGround(&depth, cameras_.depth, 6);
+    fill(&depth, {30, 90, 30, 20}, 0);  // too bright to be measured
+    EXPECT_EQ(litPixels(), 0);
+    EXPECT_TRUE(overlay_->uprightEdgesMissing());
+    fill(&depth, {100, 20, 6, 72}, 6000);
+    EXPECT_GT(litPixels(), 3 * 2 * 150);
+    EXPECT_FALSE(overlay_->uprightEdgesMissing());
+    overlay_->setClearArea({0, 0, 0.4, 1});
+    litPixels();
+    EXPECT_TRUE(overlay_->uprightEdgesMissing()) << "the post is not in view";
+    EXPECT_EQ(changes.count(), 3);
 }
 
 }  // namespace

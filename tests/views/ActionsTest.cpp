@@ -306,6 +306,119 @@ TEST_F(ActionsTest, TheFingerDragsWhereThePictureIsTapsForNothingAndHoldsToCompa
     EXPECT_EQ(downs.size(), 1);
 }
 
+TEST_F(ActionsTest, TheComparisonIsPlayedOnceAndThePanelsFadeForIt) {
+    const auto* overlay = stage.window()->findChild<DepthColorOverlayRenderer*>("refinementView");
+    QSignalSpy comparisons(overlay, &DepthColorOverlayRenderer::storedShownChanged);
+    const QQuickItem* button = stage.find("refinementContinueButton");
+    const auto shows = [&](bool stored) {
+        return QTest::qWaitFor(
+            [&] { return overlay->storedShown() == stored && button->opacity() == (stored ? 0 : 1); });
+    };
+    stage.enter(10);
+    QTest::qWait(1000);
+    EXPECT_TRUE(comparisons.isEmpty()) << "the page is not shown yet";
+    stage.press("foundContinueButton");
+    EXPECT_TRUE(shows(true));
+    EXPECT_TRUE(shows(false));
+    QTest::qWait(1500);
+    EXPECT_EQ(comparisons.size(), 2);
+    const QRectF clear = overlay->clearArea();
+    EXPECT_NEAR(clear.y(), 1 - clear.y() - clear.height(), 0.06) << "in the middle of the image";
+    EXPECT_NEAR(clear.height(), 0.56, 0.03);
+
+    ViewsStage another;
+    another.resize({1280, 800});
+    const auto* other = another.window()->findChild<DepthColorOverlayRenderer*>("refinementView");
+    another.enter(10);
+    another.press("foundContinueButton");
+    QTest::mousePress(another.window(), Qt::LeftButton, {}, {400, 400});
+    QTest::mouseMove(another.window(), {500, 400});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return another.find("refinementContinueButton")->opacity() == 0; }));
+    QTest::mouseRelease(another.window(), Qt::LeftButton, {}, {500, 400});
+    QTest::qWait(1500);
+    EXPECT_FALSE(other->storedShown()) << "who drags has understood";
+}
+
+TEST_F(ActionsTest, TheSecondCameraTakesNoPhotoBeforeTheUserHasTurned) {
+    QSignalSpy pauses(stage.window(), SIGNAL(pauseCapture(bool)));
+    stage.enter(10);
+    stage.press("foundContinueButton");
+    stage.press("refinementContinueButton");
+    EXPECT_EQ(states.last()[0], 6);
+    stage.enter(7);
+    EXPECT_TRUE(shown("betweenPage"));
+    EXPECT_FALSE(shown("capturePage"));
+    ASSERT_EQ(pauses.size(), 1);
+    EXPECT_EQ(pauses[0][0], true);
+    stage.press("exitButton");
+    EXPECT_TRUE(shown("storeFirstCameraButton"));
+    stage.press("stayButton");
+    EXPECT_EQ(pauses.last()[0], true);
+    pressReturn();
+    EXPECT_TRUE(shown("capturePage"));
+    EXPECT_EQ(pauses.last()[0], false);
+}
+
+TEST_F(ActionsTest, APhotoIsConfirmedBesideTheInstructionAndOneThatBroughtNothingSaysWhy) {
+    const QQuickItem* confirmation = stage.find("photoConfirmation");
+    const auto text = [&] { return confirmation->property("text").toString(); };
+    stage.enter(7);
+    stage.tell("setCalibrationProgress", 0.0);
+    stage.tell("showMovementText", "Move.");
+    takePhoto();
+    EXPECT_TRUE(confirmation->isVisible());
+    EXPECT_EQ(text(), "Photo 1 taken.");
+    stage.tell("showPhotoWorth", "");
+    EXPECT_EQ(text(), "Photo 1 taken.");
+    takePhoto();
+    stage.tell("showPhotoWorth", "detail");
+    EXPECT_EQ(text(), "Photo 2 brought nothing: too little detail in it.");
+    EXPECT_EQ(confirmation->property("drawing"), "nothing");
+    QTest::qWait(2000);
+    EXPECT_TRUE(confirmation->isVisible()) << "longer, because there is more to read";
+    EXPECT_EQ(stage.find("movementText")->property("text"), "Move.");
+    EXPECT_EQ(stage.find("movementText")->opacity(), 1) << "the instruction stays in view";
+    const QVariantList areas{1, 1, 1, 0, 1, 1, 1, 0, 1, 1, 1, 0};
+    EXPECT_FALSE(shown("mapLegend"));
+    stage.tell("showDetailMap", QVariant(areas), "left");
+    EXPECT_TRUE(shown("mapLegend"));
+    EXPECT_TRUE(shown("lookArrow"));
+    stage.tell("setHoldStill", true);
+    EXPECT_FALSE(shown("lookArrow")) << "nobody is to turn now";
+}
+
+TEST_F(ActionsTest, EachEventHasItsSoundOnce) {
+    QSignalSpy cues(stage.window(), SIGNAL(cueSounded(QString)));
+    const auto heard = [&] {
+        QStringList names;
+        for (const auto& cue : cues)
+            names += cue[0].toString();
+        cues.clear();
+        return names.join(' ');
+    };
+    stage.enter(7);
+    takePhoto();
+    EXPECT_EQ(heard(), "photo");
+    for (int i = 0; i < 3; ++i)
+        stage.tell("showReturnToAWellLitAreaPopup");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown("returnToLightPopup"); }));
+    EXPECT_EQ(heard(), "lightLost");
+    stage.tell("showCalibrationStartupText", "Too simple.");
+    EXPECT_EQ(heard(), "failed");
+    stage.tell("showCalibrationStartupText", "");
+    stage.enter(5);
+    EXPECT_EQ(heard(), "");
+    stage.tell("forceSingleCameraCalibration");
+    stage.tell("showSaveCalibrationText", "Align.");
+    stage.enter(10);
+    EXPECT_EQ(heard(), "found");
+    stage.press("foundContinueButton");
+    stage.press("refinementContinueButton");
+    EXPECT_EQ(heard(), "") << "nothing is stored yet";
+    stage.tell("showSaveCalibrationText", "Stored.");
+    EXPECT_EQ(heard(), "stored");
+}
+
 TEST_F(ActionsTest, AnUpdateIsFetchedGivenUpOrLeftForLater) {
     QSignalSpy wanted(stage.window(), SIGNAL(startDownloadingUpdate()));
     QSignalSpy givenUp(stage.window(), SIGNAL(abortDownloadingUpdate()));

@@ -152,7 +152,7 @@ TEST(ThemeTest, TextCanBeReadInTheSun) {
             EXPECT_GE(contrast(text, ground), 7) << text << " on " << ground;
     for (const char* ground : {"now", "nowPressed"})
         EXPECT_GE(contrast("textOnColour", ground), 7) << ground;
-    EXPECT_GE(contrast("text", "line"), 7) << "a quiet button that is pressed";
+    EXPECT_GE(contrast("text", "pressed"), 7) << "a quiet button that is pressed";
 }
 
 }  // namespace

@@ -14,8 +14,10 @@ void takePhotos(ViewsStage& stage, int count) {
         if (!folder.isEmpty()) stage.tell("showCapturedPhoto", QUrl::fromLocalFile(picture).toString());
         stage.tell("setCalibrationProgress", progressAfterPairs(i + 1));
     }
+    for (int i = 0; i < count; ++i)
+        stage.tell("showPhotoWorth", i == 1 ? "detail" : i == 2 ? "repeated" : "");
     const QVariantList areas{1, 0.8, 0.1, 0, 1, 1, 1, 0.4, 1, 1, 1, 1};
-    stage.tell("showDetailMap", areas);
+    stage.tell("showDetailMap", QVariant(areas), "left");
 }
 
 void startAttempt(ViewsStage& stage) {
@@ -133,10 +135,14 @@ std::vector<Scene> story() {
              stage.tell("showSaveCalibrationText", interfaceText(texts::kRefineFirst));
              stage.press("tutorialContinueButton");
          }},
-        {"capture-second",
+        {"between",
          [](ViewsStage& stage) {
              stage.press("refinementContinueButton");
              stage.tell("setColorCameraDescriptionText", interfaceText(texts::kSecondCamera));
+         }},
+        {"capture-second",
+         [](ViewsStage& stage) {
+             stage.press("betweenContinueButton");
              startAttempt(stage);
              takePhotos(stage, 5);
              stage.tell("setHoldStill", true);
@@ -152,7 +158,15 @@ std::vector<Scene> story() {
              stage.press("foundContinueButton");
          }},
         {"saving", [](ViewsStage& stage) { stage.press("refinementContinueButton"); }},
-        {"saved", [](ViewsStage& stage) { stage.tell("showSaveCalibrationText", interfaceText(texts::kSaved)); }},
+        {"saved",
+         [](ViewsStage& stage) {
+             const auto fact = [](const char* camera, const char* degrees) {
+                 return interfaceText(texts::kStoredFact).arg(interfaceText(camera), degrees);
+             };
+             stage.tell("showStoredFacts",
+                        QStringList{fact(texts::kFirstCamera, "1.92"), fact(texts::kSecondCamera, "0.53")});
+             stage.tell("showSaveCalibrationText", interfaceText(texts::kSaved));
+         }},
     };
 }
 

@@ -5,6 +5,7 @@ import "../theme"
 Item {
     id: readout
     property real correctionDeg: 0
+    property bool framed: false  // with a ground of its own
     implicitWidth: values.width
     readonly property bool none: Math.abs(correctionDeg) < 0.005
 
@@ -12,6 +13,15 @@ Item {
         height: Theme.length(44)
         width: height
         anchors.verticalCenter: parent.verticalCenter
+    }
+    Rectangle {
+        visible: readout.framed
+        anchors.fill: values
+        anchors.margins: -Theme.smallGap
+        radius: Theme.radius
+        color: Theme.ground
+        border.width: Theme.hairline
+        border.color: Theme.now
     }
     Row {
         id: values

@@ -7,6 +7,7 @@ Row {
     id: row
     property int count: 0
     property var sources: []
+    property var worths: []  // for each photo: not empty when it has contributed nothing
     property bool complete: false  // no more photos will be taken
     readonly property int usual: 4
     readonly property int limit: 8
@@ -17,6 +18,7 @@ Row {
         model: row.limit
         Rectangle {
             readonly property bool taken: index < row.count
+            readonly property bool counts: !row.worths[index]
             visible: taken || (!row.complete && index < Math.max(row.usual, row.count + 1))
             width: row.slotWidth
             height: width * 3 / 4
@@ -24,7 +26,7 @@ Row {
             radius: Theme.radius / 2
             color: Theme.panel
             border.width: Theme.hairline
-            border.color: taken ? Theme.done : index === row.count ? Theme.now : Theme.line
+            border.color: taken ? (counts ? Theme.done : Theme.quietText) : index === row.count ? Theme.now : Theme.line
             Behavior on border.color { ColorAnimation { duration: Theme.calmly } }
             Image {
                 anchors.fill: parent
@@ -43,7 +45,7 @@ Row {
                 anchors.right: parent.right
                 anchors.bottom: parent.bottom
                 anchors.margins: 2 * Theme.hairline
-                drawing: "done"
+                drawing: parent.counts ? "done" : "nothing"
             }
         }
     }

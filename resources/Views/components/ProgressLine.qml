@@ -6,7 +6,12 @@ T.ProgressBar {
     id: bar
     locale: Qt.locale("en")  // the direction follows the interface only
     implicitHeight: Math.max(6, Theme.length(10))
-    background: Rectangle { radius: height / 2; color: Theme.line }
+    background: Rectangle {
+        radius: height / 2
+        color: Theme.panel
+        border.width: Theme.hairline
+        border.color: Theme.line
+    }
     contentItem: Item {
         Rectangle {
             x: bar.mirrored ? parent.width - width : 0

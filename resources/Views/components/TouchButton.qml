@@ -20,7 +20,7 @@ T.Button {
 
     background: Rectangle {
         radius: Theme.radius
-        color: button.main ? (button.down ? Theme.nowPressed : Theme.now) : (button.down ? Theme.line : Theme.panel)
+        color: button.main ? (button.down ? Theme.nowPressed : Theme.now) : (button.down ? Theme.pressed : Theme.panel)
         border.width: button.visualFocus ? 2 * Theme.hairline : (button.main ? 0 : Theme.hairline)
         border.color: button.visualFocus ? Theme.text : Theme.line
     }
@@ -31,9 +31,10 @@ T.Button {
             id: picture
             visible: button.drawing !== ""
             drawing: button.drawing
-            anchors.left: parent.left
+            anchors.left: button.text !== "" ? parent.left : undefined
+            anchors.horizontalCenter: button.text === "" ? parent.horizontalCenter : undefined
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.round(button.font.pixelSize * 1.4)
+            width: Math.round(button.font.pixelSize * (button.text === "" ? 2 : 1.4))
             height: width
         }
         Words {

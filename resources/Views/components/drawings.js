@@ -140,6 +140,30 @@ const drawings = {
         c.lineWidth *= 2
         tick(c, 50, 51, 22)
     },
+    nothing: (c, k) => {
+        c.fillStyle = k.ground
+        circle(c, 50, 50, 44)
+        c.fill()
+        c.lineWidth *= 2
+        c.stroke()
+        line(c, [30, 50, 70, 50])
+    },
+    soundOn: (c, k) => {
+        path(c, [12, 38, 30, 38, 52, 18, 52, 82, 30, 62, 12, 62], true)
+        c.stroke()
+        accented(c, k)
+        for (const r of [18, 34]) {
+            c.beginPath()
+            c.arc(56, 50, r, -0.25 * Math.PI, 0.25 * Math.PI)
+            c.stroke()
+        }
+    },
+    soundOff: (c, k) => {
+        path(c, [12, 38, 30, 38, 52, 18, 52, 82, 30, 62, 12, 62], true)
+        c.stroke()
+        line(c, [66, 40, 86, 60])
+        line(c, [86, 40, 66, 60])
+    },
     attention: (c, k) => {
         accented(c, k)
         path(c, [50, 10, 94, 88, 6, 88], true)

@@ -9,11 +9,26 @@ PairPage {
     signal restarted()
     signal howToMoveWanted()
 
+    property string worth: ""  // of the photo that is being confirmed
     function confirmPhoto() {
+        worth = ""
         flash.restart()
+        confirmation.interval = Theme.confirmation
         confirmation.restart()
     }
-    Timer { id: confirmation; interval: Theme.confirmation }
+    function confirmWorth(value) {
+        worth = value
+        if (worth === "") return
+        confirmation.interval = Theme.longConfirmation
+        confirmation.restart()
+    }
+    Timer { id: confirmation }
+    function confirmationText() {
+        const count = status.photoCount
+        if (worth === "detail") return qsTr("Photo %1 brought nothing: too little detail in it.").arg(count)
+        if (worth === "repeated") return qsTr("Photo %1 brought nothing new. Turn farther.").arg(count)
+        return qsTr("Photo %1 taken.").arg(count)
+    }
 
     // Near the threshold the light state changes with every frame, and the notice must not flicker.
     readonly property bool lightNeeded: status.lightNeeded
@@ -36,8 +51,8 @@ PairPage {
         Illustration {
             Layout.preferredWidth: Theme.length(72)
             Layout.preferredHeight: Theme.length(72)
-            visible: confirmation.running || instruction.text !== ""
-            drawing: confirmation.running ? "done" : screen.status.holdStill || screen.paused ? "pause" : "move"
+            visible: instruction.text !== ""
+            drawing: screen.status.holdStill || screen.paused ? "pause" : "move"
         }
         ColumnLayout {
             spacing: 0
@@ -48,36 +63,49 @@ PairPage {
                 font.pixelSize: Theme.captionSize
                 color: Theme.quietText
             }
-            Item {
+            SteadyText {
+                id: instruction
+                objectName: "movementText"
                 Layout.fillWidth: true
                 Layout.fillHeight: true
-                SteadyText {
-                    id: instruction
-                    objectName: "movementText"
-                    anchors.fill: parent
-                    wanted: screen.paused ? qsTr("Paused. No photos are taken.") : screen.status.movementText
-                    opacity: confirmation.running ? 0 : 1
-                    font.pixelSize: Theme.instructionSize
-                    font.weight: Font.DemiBold
-                    verticalAlignment: Text.AlignVCenter
-                }
-                Words {
-                    anchors.fill: parent
-                    visible: confirmation.running
-                    text: qsTr("Photo %1 taken.").arg(screen.status.photoCount)
-                    font: instruction.font
-                    color: Theme.done
-                    verticalAlignment: Text.AlignVCenter
-                }
+                wanted: screen.paused ? qsTr("Paused. No photos are taken.") : screen.status.movementText
+                font.pixelSize: Theme.instructionSize
+                font.weight: Font.DemiBold
+                verticalAlignment: Text.AlignVCenter
             }
         }
     }
     pictures: [
         DetailMap {
+            id: map
             x: screen.layout.infrared.x
             width: screen.layout.infrared.width
             height: screen.layout.infrared.height
             areas: screen.status.detail
+            look: screen.status.holdStill || screen.paused ? "" : screen.status.look
+        },
+        MapLegend {
+            objectName: "mapLegend"
+            arrow: map.arrow
+            visible: screen.status.detail.length > 0
+            x: screen.layout.infrared.x
+            y: parent.height - height
+            width: screen.layout.infrared.width
+            height: map.legendHeight
+        },
+        Item {
+            x: screen.layout.colour.x
+            width: screen.layout.colour.width
+            height: parent.height
+            Pill {
+                objectName: "photoConfirmation"
+                visible: confirmation.running
+                anchors.horizontalCenter: parent.horizontalCenter
+                anchors.bottom: parent.bottom
+                anchors.bottomMargin: Theme.gap
+                drawing: screen.worth === "" ? "done" : "nothing"
+                text: screen.confirmationText()
+            }
         },
         Rectangle {
             objectName: "flash"
@@ -112,6 +140,7 @@ PairPage {
                 Layout.fillHeight: true
                 count: screen.status.photoCount
                 sources: screen.status.photos
+                worths: screen.status.photoWorths
             }
             TouchButton {
                 objectName: "captureHowToMoveButton"

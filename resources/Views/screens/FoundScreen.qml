@@ -164,6 +164,7 @@ Screen {
                 Layout.preferredHeight: Theme.bigTarget
                 count: screen.status.photoCount
                 sources: screen.status.photos
+                worths: screen.status.photoWorths
                 complete: true
             }
             TouchButton {

@@ -6,6 +6,7 @@ import "../theme"
 Screen {
     id: screen
     signal begun()
+    signal soundSwitched(bool on)
     mainButton: continueButton
 
     component Step: RowLayout {
@@ -85,14 +86,25 @@ Screen {
             text: screen.status.singleCamera ? qsTr("Takes about three minutes.")
                                              : qsTr("Takes about five minutes for both cameras.")
         }
-        TouchButton {
-            id: continueButton
-            objectName: "introContinueButton"
+        RowLayout {
             Layout.fillWidth: true
-            Layout.preferredHeight: Math.max(Theme.target, Theme.length(96))
-            main: true
-            text: qsTr("Start")
-            onClicked: screen.begun()
+            spacing: Theme.gap
+            TouchButton {
+                objectName: "soundButton"
+                Layout.preferredWidth: continueButton.Layout.preferredHeight
+                Layout.preferredHeight: continueButton.Layout.preferredHeight
+                drawing: screen.status.soundOn ? "soundOn" : "soundOff"
+                onClicked: screen.soundSwitched(!screen.status.soundOn)
+            }
+            TouchButton {
+                id: continueButton
+                objectName: "introContinueButton"
+                Layout.fillWidth: true
+                Layout.preferredHeight: Math.max(Theme.target, Theme.length(96))
+                main: true
+                text: qsTr("Start")
+                onClicked: screen.begun()
+            }
         }
     }
 }

@@ -32,9 +32,17 @@ Screen {
             verticalAlignment: Text.AlignVCenter
         }
         Words {
+            objectName: "storedFacts"
+            width: parent.width
+            height: visible ? 2.8 * Theme.bodySize * Theme.lineHeight : 0
+            visible: screen.saved && text !== ""
+            text: screen.status.storedFacts.join("\n")
+            horizontalAlignment: Text.AlignHCenter
+        }
+        Words {
             width: parent.width
             height: 2.4 * Theme.bodySize
-            text: screen.saved ? qsTr("The program closes by itself.") : qsTr("Please wait, and do not switch the tablet off.")
+            text: screen.saved ? qsTr("The program closes by itself, or when you touch the screen.") : qsTr("Please wait, and do not switch the tablet off.")
             color: Theme.quietText
             horizontalAlignment: Text.AlignHCenter
         }

@@ -26,8 +26,9 @@ Screen {
         Item { Layout.fillHeight: true }
         Words {
             Layout.fillWidth: true
-            Layout.preferredHeight: 4.6 * Theme.instructionSize
-            text: qsTr("Drag left or right until the colors fit the picture.")
+            Layout.preferredHeight: 2.4 * Theme.instructionSize * Theme.lineHeight
+            verticalAlignment: Text.AlignBottom
+            text: qsTr("It usually fits already.")
             font.pixelSize: Theme.instructionSize
             font.weight: Font.DemiBold
         }
@@ -35,13 +36,12 @@ Screen {
             Layout.fillWidth: true
             Layout.preferredHeight: 4 * Theme.bodySize * Theme.lineHeight
             color: Theme.quietText
-            text: qsTr("Every color is a distance. Where something near ends, the color has to end as well.")
+            text: qsTr("Every color is a distance. The white lines have to lie on the edges of things.")
         }
         Words {
             Layout.fillWidth: true
             Layout.preferredHeight: 4 * Theme.bodySize * Theme.lineHeight
-            color: Theme.quietText
-            text: qsTr("Often nothing needs to be changed.")
+            text: qsTr("Only if they lie beside them, drag left or right until they fit.")
         }
         Item { Layout.fillHeight: true }
         TouchButton {

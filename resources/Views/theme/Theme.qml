@@ -11,9 +11,10 @@ QtObject {
     // Every text colour has a contrast of 7:1 or more on the ground and on panels, for reading in sunlight.
     readonly property color ground: "#12161a"
     readonly property color panel: "#1c2228"
-    readonly property color line: "#3a444d"
+    readonly property color line: "#7d8a95"      // outlines, which tell buttons and empty places from the ground
+    readonly property color pressed: "#3a444d"   // a neutral button under the finger
     readonly property color text: "#f4f6f7"
-    readonly property color quietText: "#bcc6cd"
+    readonly property color quietText: "#d0d8dd"
     readonly property color now: "#ffb030"
     readonly property color nowPressed: "#e39b20"
     readonly property color done: "#63d6a4"
@@ -27,9 +28,9 @@ QtObject {
     readonly property string family: Qt.platform.os === "windows" ? windowsFamily : Qt.application.font.family
     readonly property int instructionSize: size(42, 20)
     readonly property int headingSize: size(34, 18)
-    readonly property int bodySize: size(23, 14)
-    readonly property int captionSize: size(19, 12)
-    readonly property int smallestSize: 11  // down to which long translations may shrink
+    readonly property int bodySize: size(23, 16)
+    readonly property int captionSize: size(19, 16)
+    readonly property int smallestSize: size(16, 12)  // down to which long translations may shrink
     readonly property real lineHeight: 1.25  // line spacing relative to the font size
 
     readonly property real margin: length(24)
@@ -45,6 +46,9 @@ QtObject {
     readonly property int calmly: 400
     readonly property int slowly: 1600
     readonly property int confirmation: 1500
+    readonly property int longConfirmation: 3500  // of a photo that the user should know more about
+    readonly property int beforeDemonstration: 800
+    readonly property int demonstration: 1400
     readonly property int untilDark: 300  // shorter darkness is not reported
     readonly property int untilLit: 500   // shorter light does not end the notice
     readonly property int steady: 250  // an instruction valid for a shorter time is not shown
