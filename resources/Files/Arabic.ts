@@ -255,6 +255,10 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>أفادت الكاميرا بأنها خزّنت المعايرة، لكنها لم تفعل ذلك</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>صور الكاميرا لا تتوافق مع المعايرة الجديدة</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>لا تستجيب الكاميرا</translation>
     </message>

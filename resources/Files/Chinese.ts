@@ -255,6 +255,10 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>摄像头报告已存储校准，但实际并未存储</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>摄像头的图像与新的校准不符</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>摄像头没有响应</translation>
     </message>

@@ -255,6 +255,10 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>鏡頭回報已儲存校準，但實際上並未儲存</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>鏡頭的影像與新的校準不符</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>鏡頭沒有回應</translation>
     </message>

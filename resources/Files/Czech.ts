@@ -255,6 +255,10 @@ Zkuste to znovu. Namiřte na rozmanitou scénu, například na budovy nebo strom
         <translation>Kamera ohlásila uložení kalibrace, ale neuložila ji</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Snímky kamery neodpovídají nové kalibraci</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>Kamera neodpovídá</translation>
     </message>

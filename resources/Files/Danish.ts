@@ -255,6 +255,10 @@ Prøv igen. Ret mod varierede omgivelser som bygninger eller træer.</translatio
         <translation>Kameraet meldte, at kalibreringen var gemt, men det er den ikke</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Kameraets billeder passer ikke til den nye kalibrering</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>Kameraet svarer ikke</translation>
     </message>

@@ -255,6 +255,10 @@ Probeer het opnieuw. Richt op een gevarieerde omgeving, zoals gebouwen of bomen.
         <translation>De camera meldde dat de kalibratie was opgeslagen, maar dat is niet gebeurd</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>De beelden van de camera kloppen niet met de nieuwe kalibratie</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>De camera antwoordt niet</translation>
     </message>

@@ -255,6 +255,10 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</tra
         <translation>The camera said that it stored the calibration, but it did not</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>The camera&apos;s images do not fit the new calibration</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>The camera does not answer</translation>
     </message>

@@ -255,6 +255,10 @@ Yritä uudelleen. Suuntaa vaihtelevaan maisemaan, kuten rakennuksiin tai puihin.
         <translation>Kamera ilmoitti tallentaneensa kalibroinnin, mutta ei tehnyt niin</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Kameran kuvat eivät vastaa uutta kalibrointia</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>Kamera ei vastaa</translation>
     </message>

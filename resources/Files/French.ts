@@ -255,6 +255,10 @@ Réessayons. Visez un paysage varié, avec des bâtiments ou des arbres.</transl
         <translation>La caméra a annoncé avoir enregistré l’étalonnage, mais elle ne l’a pas fait</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Les images de la caméra ne correspondent pas au nouvel étalonnage</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>La caméra ne répond pas</translation>
     </message>

@@ -255,6 +255,10 @@ Versuchen Sie es noch einmal. Richten Sie das Gerät auf eine abwechslungsreiche
         <translation>Die Kamera hat das Speichern der Kalibrierung gemeldet, sie aber nicht gespeichert</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Die Bilder der Kamera passen nicht zur neuen Kalibrierung</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>Die Kamera antwortet nicht</translation>
     </message>

@@ -255,6 +255,10 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>Η κάμερα ανέφερε ότι αποθήκευσε τη βαθμονόμηση, αλλά δεν το έκανε</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Οι εικόνες της κάμερας δεν ταιριάζουν με τη νέα βαθμονόμηση</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>Η κάμερα δεν αποκρίνεται</translation>
     </message>

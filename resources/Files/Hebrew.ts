@@ -255,6 +255,10 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>המצלמה דיווחה שהכיול נשמר, אך הוא לא נשמר</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>התמונות של המצלמה אינן תואמות לכיול החדש</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>המצלמה אינה מגיבה</translation>
     </message>

@@ -255,6 +255,10 @@ Riprovare. Inquadrare un paesaggio vario, con edifici o alberi.</translation>
         <translation>La fotocamera ha segnalato di aver memorizzato la calibrazione, ma non lo ha fatto</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Le immagini della fotocamera non corrispondono alla nuova calibrazione</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>La fotocamera non risponde</translation>
     </message>

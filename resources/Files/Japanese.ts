@@ -255,6 +255,10 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>カメラはキャリブレーションを保存したと報告しましたが、保存されていません</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>カメラの画像が新しいキャリブレーションと一致しません</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>カメラが応答しません</translation>
     </message>

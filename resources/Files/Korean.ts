@@ -255,6 +255,10 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>카메라가 보정값을 저장했다고 알렸지만 저장되지 않았습니다</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>카메라 영상이 새 보정값과 맞지 않습니다</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>카메라가 응답하지 않습니다</translation>
     </message>

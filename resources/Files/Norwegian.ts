@@ -255,6 +255,10 @@ Prøv igjen. Rett mot varierte omgivelser som bygninger eller trær.</translatio
         <translation>Kameraet meldte at kalibreringen var lagret, men det er den ikke</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Kameraets bilder stemmer ikke med den nye kalibreringen</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>Kameraet svarer ikke</translation>
     </message>

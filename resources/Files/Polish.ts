@@ -255,6 +255,10 @@ Spróbuj ponownie. Skieruj na urozmaicone otoczenie, takie jak budynki lub drzew
         <translation>Kamera zgłosiła zapisanie kalibracji, ale jej nie zapisała</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Obrazy z kamery nie pasują do nowej kalibracji</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>Kamera nie odpowiada</translation>
     </message>

@@ -255,6 +255,10 @@ Tente novamente. Aponte para um cenário variado, como edifícios ou árvores.</
         <translation>A câmara indicou que guardou a calibração, mas não o fez</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>As imagens da câmara não correspondem à nova calibração</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>A câmara não responde</translation>
     </message>

@@ -255,6 +255,10 @@ Tente novamente. Aponte para um cenário variado, como prédios ou árvores.</tr
         <translation>A câmera informou que armazenou a calibração, mas não o fez</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>As imagens da câmera não correspondem à nova calibração</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>A câmera não responde</translation>
     </message>

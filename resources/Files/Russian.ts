@@ -255,6 +255,10 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>Камера сообщила, что сохранила калибровку, но не сделала этого</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Изображения камеры не соответствуют новой калибровке</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>Камера не отвечает</translation>
     </message>

@@ -255,6 +255,10 @@ Skúste to znova. Namierte na rozmanitú scénu, napríklad na budovy alebo stro
         <translation>Kamera ohlásila uloženie kalibrácie, ale neuložila ju</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Snímky kamery nezodpovedajú novej kalibrácii</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>Kamera neodpovedá</translation>
     </message>

@@ -255,6 +255,10 @@ Inténtelo de nuevo. Apunte a un entorno variado, como edificios o árboles.</tr
         <translation>La cámara indicó que había guardado la calibración, pero no lo hizo</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Las imágenes de la cámara no corresponden a la nueva calibración</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>La cámara no responde</translation>
     </message>

@@ -255,6 +255,10 @@ Försök igen. Rikta mot en omväxlande omgivning som byggnader eller träd.</tr
         <translation>Kameran meddelade att kalibreringen lagrades, men det gjorde den inte</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Kamerans bilder stämmer inte med den nya kalibreringen</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>Kameran svarar inte</translation>
     </message>

@@ -255,6 +255,10 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <translation>กล้อง​แจ้งว่า​บันทึก​ค่า​การ​ปรับเทียบแล้ว แต่ไม่ได้​บันทึก</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>ภาพ​จาก​กล้อง​ไม่​ตรง​กับ​ค่า​การ​ปรับเทียบ​ใหม่</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>กล้อง​ไม่ตอบสนอง</translation>
     </message>

@@ -255,6 +255,10 @@ Yeniden deneyin. Binalar veya ağaçlar gibi ayrıntılı bir manzaraya doğrult
         <translation>Kamera kalibrasyonu kaydettiğini bildirdi, ancak kaydetmedi</translation>
     </message>
     <message>
+        <source>The camera&apos;s images do not fit the new calibration</source>
+        <translation>Kameranın görüntüleri yeni kalibrasyonla uyuşmuyor</translation>
+    </message>
+    <message>
         <source>The camera does not answer</source>
         <translation>Kamera yanıt vermiyor</translation>
     </message>
