@@ -1,15 +1,15 @@
 // Runs the application's save without its interface, on the simulated module and a failing disk:
 //
-//   save-driver save DATA SERVICE     opens the module, turns the in-module camera by a degree, stores the rotation
-//                                     as the application does, and adds to report and history; status 0 means that it
-//                                     reports the rotation as stored
+//   save-driver save DATA SERVICE     opens the module, stores the true rotation of the in-module camera, which its
+//                                     recording contains, as the application does, and adds to report and history;
+//                                     status 0 means that it reports the rotation as stored
 //   save-driver look DATA SERVICE     does what the next start does: prints stored, not-stored, neither or none
 //
 // SERVICE is a file with the start type of the vendor's service, which is not on the failing disk. SERVICE.unnoted is
 // created when the service is disabled without a note.
-#include "camera/Rotation.h"
 #include "devices/CameraParameterReader.h"
 #include "report/ReportFile.h"
+#include "session/RecordedSession.h"
 #include "tests/devices/FakeServiceControl.h"
 #include "workflow/Saving.h"
 
@@ -17,11 +17,11 @@
 
 #include <cstdio>
 #include <fstream>
+#include <optional>
 
 namespace fieldcal::testing {
 namespace {
 
-constexpr double kTurnRad = 0.0174;
 constexpr int kAutomatic = 2, kDisabled = 4;
 
 class ServiceInFile : public FakeServiceControl {
@@ -42,20 +42,22 @@ private:
     const std::string file_, note_;
 };
 
-Rotation turned(const Rotation& rotation) {
-    const Matrix3 wide = product(rotationFromAngles({0, kTurnRad, 0}), widened(rotation.data()));
-    Rotation out{};
-    for (std::size_t i = 0; i < out.size(); ++i)
-        out[i] = static_cast<float>(wide[i]);
-    return out;
+/// A rotation that the module's images do not contradict.
+std::optional<Rotation> trueRotation() {
+    session::SessionDescription session;
+    std::string why;
+    if (!session::readDescription(qEnvironmentVariable("KXSIM_SESSION").toStdString(), &session, &why)) return {};
+    return session.truthThird;
 }
 
 int save(Sensor& sensor, const CameraParameters& parameters, const QString& data) {
     CalibrationRecords records;
-    const Rotation& factory = parameters.colour[ColourCamera::Third].fromDepth.rotation;
-    records.setFactory(factory, parameters.colour[ColourCamera::Platform].fromDepth.rotation);
-    records.setEstimated(ColourCamera::Third, turned(factory), [] { return true; });
-    records.accept(ColourCamera::Third, turned(factory));
+    const std::optional<Rotation> found = trueRotation();
+    if (!found) return 2;
+    records.setFactory(parameters.colour[ColourCamera::Third].fromDepth.rotation,
+                       parameters.colour[ColourCamera::Platform].fromDepth.rotation);
+    records.setEstimated(ColourCamera::Third, *found, [] { return true; });
+    records.accept(ColourCamera::Third, *found);
     const SaveResult result = storeCalibration(sensor, records, data);
     ServiceReport report;
     report.time = QDateTime::currentDateTimeUtc();
