@@ -15,6 +15,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <optional>
@@ -47,7 +48,11 @@ std::optional<Rotation> trueRotation() {
     session::SessionDescription session;
     std::string why;
     if (!session::readDescription(qEnvironmentVariable("KXSIM_SESSION").toStdString(), &session, &why)) return {};
-    return session.truthThird;
+    if (!session.truthThird) return {};
+    Rotation rotation{};
+    std::transform(session.truthThird->begin(), session.truthThird->end(), rotation.begin(),
+                   [](double entry) { return static_cast<float>(entry); });
+    return rotation;
 }
 
 int save(Sensor& sensor, const CameraParameters& parameters, const QString& data) {
