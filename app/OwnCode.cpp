@@ -27,6 +27,9 @@ void clearVariablesThatNameCode() {
 void allowOnlyOwnCode(int& argc, char** argv) {
     if (!mayHaveMoreRights()) return;
     clearVariablesThatNameCode();
+    // Compiled interface code and shaders would be read from a folder that the user can write.
+    qputenv("QML_DISABLE_DISK_CACHE", "1");
+    QCoreApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
     if (argc > 1) argv[1] = nullptr;
     if (argc > 1) argc = 1;
     if (const auto folder = ownLibraries()) QCoreApplication::setLibraryPaths({*folder + "/plugins"});

@@ -26,11 +26,17 @@ Matrix3 transposed(const Matrix3& m) {
     return {m[0], m[3], m[6], m[1], m[4], m[7], m[2], m[5], m[8]};
 }
 
+double departureFromOrthonormal(const Matrix3& m) {
+    const Matrix3 square = product(transposed(m), m);
+    double largest = 0;
+    for (std::size_t i = 0; i < square.size(); ++i)
+        largest = std::max(largest, std::abs(square[i] - (i % 4 == 0 ? 1.0 : 0.0)));
+    return largest;
+}
+
 bool isRotation(const Matrix3& m, double tolerance) {
     if (!std::all_of(m.begin(), m.end(), [](double entry) { return std::isfinite(entry); })) return false;
-    const Matrix3 square = product(transposed(m), m);
-    for (std::size_t i = 0; i < square.size(); ++i)
-        if (std::abs(square[i] - (i % 4 == 0 ? 1.0 : 0.0)) > tolerance) return false;
+    if (departureFromOrthonormal(m) > tolerance) return false;
     const double determinant =
         m[0] * (m[4] * m[8] - m[5] * m[7]) - m[1] * (m[3] * m[8] - m[5] * m[6]) + m[2] * (m[3] * m[7] - m[4] * m[6]);
     return std::abs(determinant - 1.0) <= tolerance;

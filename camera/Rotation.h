@@ -17,6 +17,9 @@ Matrix3 widened(const float* matrix);
 Matrix3 product(const Matrix3& a, const Matrix3& b);
 Matrix3 transposed(const Matrix3& matrix);
 
+/// Returns the largest entry of |MᵀM − I|, 0 for an orthonormal matrix.
+double departureFromOrthonormal(const Matrix3& matrix);
+
 /// Returns whether the matrix is finite, orthonormal and of determinant 1, each within `tolerance`.
 bool isRotation(const Matrix3& matrix, double tolerance);
 

@@ -18,7 +18,7 @@ using Bytes = BlockBytes;
 using Flash = WriteBackReport::Flash;
 
 /// Largest difference between a rotation that the module reports and the one written: several roundings to 32 bits.
-constexpr float kReportedTolerance = 1e-5F;
+constexpr double kReportedTolerance = 1e-5;
 
 constexpr const char* kNotKept =
     QT_TRANSLATE_NOOP("Interface", "The camera said that it stored the calibration, but it did not");
@@ -225,21 +225,27 @@ bool CalibrationWriter::holdsWanted() {
 /// Compares the rotations that the module reports after reloading the block.
 bool CalibrationWriter::reportsWanted() {
     if (!rotations_) return true;
-    if (!reports("in-module", link_.read(third_, &KXThirdCamera::zToThirdExtrinsics), rotations_->third)) return false;
+    const auto third = link_.read(third_, &KXThirdCamera::zToThirdExtrinsics);
+    if (!reports("in-module", third, rotations_->third, wanted_.rectificationThird)) return false;
     if (!rotations_->platform) return true;
     const auto reported = link_.ask([device = link_.device().get()]() -> std::optional<KXCalibExtrinsics> {
         KXPlatformCamera* camera = device->platformCamera();
         if (camera == nullptr) return std::nullopt;
         return ModuleLink::filled(camera, &KXPlatformCamera::zToPlatformExtrinsics);
     });
-    return reports("out-of-module", reported, *rotations_->platform);
+    return reports("out-of-module", reported, *rotations_->platform, wanted_.rectificationPlatform);
 }
 
+/// The library cancels the rectification matrices by their transposes, which is exact only as far as they are
+/// orthonormal: a factory may store fewer digits.
 bool CalibrationWriter::reports(const char* which, const std::optional<KXCalibExtrinsics>& reported,
-                                const Rotation& wanted) {
+                                const Rotation& wanted, const float* rectifyColour) {
     if (!reported) return failed();
+    const double tolerance =
+        kReportedTolerance + 2 * (departureFromOrthonormal(widened(wanted_.rectificationInfrared)) +
+                                  departureFromOrthonormal(widened(rectifyColour)));
     const bool same = std::equal(wanted.begin(), wanted.end(), reported->rotation,
-                                 [](float a, float b) { return std::abs(a - b) <= kReportedTolerance; });
+                                 [tolerance](float a, float b) { return std::abs(a - b) <= tolerance; });
     if (same) return true;
     const float* r = reported->rotation;
     qCritical("The camera's %s rotation is now [%f %f %f; %f %f %f; %f %f %f], which is not what was written.", which,

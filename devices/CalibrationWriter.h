@@ -82,7 +82,8 @@ private:
     void readQuietly();
     bool holdsWanted();
     bool reportsWanted();
-    bool reports(const char* which, const std::optional<KXCalibExtrinsics>& reported, const Rotation& wanted);
+    bool reports(const char* which, const std::optional<KXCalibExtrinsics>& reported, const Rotation& wanted,
+                 const float* rectifyColour);
     bool imagesAgree();
     void judge(const Block& found);
     void putBack();

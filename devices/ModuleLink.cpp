@@ -85,7 +85,7 @@ bool ModuleLink::make(std::function<bool()> call, std::chrono::milliseconds limi
             }
             return outcome->succeeded;
         case WatchedCalls::Ending::Overdue:
-            if (!faulted_) reportNoAnswer();
+            if (!faulted_ && !quietly) reportNoAnswer();
             break;
         case WatchedCalls::Ending::Stopped:
             break;

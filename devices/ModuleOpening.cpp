@@ -93,11 +93,12 @@ bool openModule(ModuleLink& link, const SensorSettings& settings, const std::sha
            startStreams(link, *out, hardware, settings, frames);
 }
 
-bool switchEmitter(ModuleLink& link, bool on) {
-    const auto found = link.ask([device = link.device().get()] { return std::optional(device->emitterControl()); });
+bool switchEmitter(ModuleLink& link, bool on, bool quietly) {
+    const auto ask = [&](auto call) { return quietly ? link.askQuietly(call) : link.ask(call); };
+    const auto found = ask([device = link.device().get()] { return std::optional(device->emitterControl()); });
     if (!found) return false;
     if (*found == nullptr) return !on;
-    if (!link.ask([emitter = *found, on] { return emitter->setEmitter(on); })) return false;
+    if (!ask([emitter = *found, on] { return emitter->setEmitter(on); })) return false;
     qInfo("Emitter is %s.", on ? "enabled" : "disabled");
     return true;
 }

@@ -23,6 +23,6 @@ bool openModule(ModuleLink& link, const SensorSettings& settings, const std::sha
 
 /// Switches the infrared emitter. Returns false when this failed, or when it is to be switched on and the device has
 /// none.
-bool switchEmitter(ModuleLink& link, bool on);
+bool switchEmitter(ModuleLink& link, bool on, bool quietly = false);
 
 }  // namespace fieldcal

@@ -177,6 +177,10 @@ bool Sensor::setEmitter(bool on) {
     return switchEmitter(link_, on);
 }
 
+bool Sensor::setEmitterQuietly(bool on) {
+    return switchEmitter(link_, on, true);
+}
+
 void Sensor::use(ModuleCalibration calibration) {
     parameters_ = calibration.parameters;
     const CameraParameters& parameters = parameters_;

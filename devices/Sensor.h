@@ -78,6 +78,8 @@ public:
     /// Switches the infrared emitter. Returns false, without a report, when it is to be switched on and the device has
     /// none.
     bool setEmitter(bool on);
+    /// The same without a report.
+    bool setEmitterQuietly(bool on);
 
     /// Writes the depth-to-colour rotations into the module's flash. The present block is saved to a file first, and
     /// the flash is read back afterwards; `writeBack` then describes its content. Returns true when every call

@@ -15,6 +15,7 @@ constexpr int kFrameSets = 120;
 /// Motion of the hand between the exposures of a pair that counts as held still.
 constexpr double kHandDeg = 0.25;
 constexpr double kDeviations = 5;
+constexpr std::uint16_t kBright = 1023;
 
 /// An engine that accepts a rotation on which the matches of a single pair agree.
 class SinglePairEngine {
@@ -24,6 +25,7 @@ public:
         engine_.setCameraParameters(camera == ColourCamera::Platform);
         engine_.setRememberedBaseline(rememberedBaselineM);
         engine_.setup();
+        light_.detect(kBright);  // the light sufficed for the capture that has just ended
     }
 
     /// Returns true when the frame set completed a pair from which a rotation could be estimated.
@@ -76,17 +78,23 @@ double angleDeg(const Rotation& a, const Rotation& b) {
 std::optional<EstimateCheck> checkEstimate(Sensor& sensor, ColourCamera camera, const Rotation& estimate,
                                            double rememberedBaselineM) {
     CameraParameters parameters = sensor.parameters();
+    // The search covers a few degrees about the rotation with which it starts.
+    SinglePairEngine aboutBefore(parameters, camera, rememberedBaselineM);
     const Rotation before = std::exchange(parameters.colour[camera].fromDepth.rotation, estimate);
-    SinglePairEngine engine(parameters, camera, rememberedBaselineM);
+    SinglePairEngine aboutEstimate(parameters, camera, rememberedBaselineM);
     sensor.setPlatformPictureWanted(camera == ColourCamera::Platform);
-    sensor.setEmitter(false);
+    sensor.setEmitterQuietly(false);
     for (int set = 0; set < kFrameSets; ++set) {
         if (!sensor.grabQuietly()) return std::nullopt;
-        if (!sensor.isFreshPair(camera) || !engine.show(sensor.frames(), camera)) continue;
-        EstimateCheck check;
-        check.offsetDeg = angleDeg(engine.rotation(), estimate);
-        check.toleranceDeg = std::max({kHandDeg, angleDeg(before, estimate) / 2, kDeviations * engine.deviationDeg()});
-        return check;
+        if (!sensor.isFreshPair(camera)) continue;
+        for (SinglePairEngine* engine : {&aboutEstimate, &aboutBefore}) {
+            if (!engine->show(sensor.frames(), camera)) continue;
+            EstimateCheck check;
+            check.offsetDeg = angleDeg(engine->rotation(), estimate);
+            check.toleranceDeg =
+                std::max({kHandDeg, angleDeg(before, estimate) / 2, kDeviations * engine->deviationDeg()});
+            return check;
+        }
     }
     return std::nullopt;
 }

@@ -18,6 +18,12 @@ std::string lockFile() {
     return "/tmp/field-calibrator-" + std::to_string(getuid()) + ".lock";
 }
 
+/// A copy of this user's session has created the file itself; for root, that of the user who called sudo.
+bool createdByOwnCopy(uid_t owner) {
+    const char* caller = getuid() == 0 ? std::getenv("SUDO_UID") : nullptr;
+    return owner == getuid() || (caller != nullptr && std::to_string(owner) == caller);
+}
+
 }  // namespace
 
 struct SingleInstance::Handle {
@@ -30,9 +36,9 @@ SingleInstance::SingleInstance() : handle_(std::make_unique<Handle>()) {
     handle_->file = open(lockFile().c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     // A folder without write access must not prevent the program from starting.
     handle_->first = handle_->file < 0 || flock(handle_->file, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
-    // A copy of this user's session has created the file itself.
     struct stat present {};
-    handle_->takenByOthers = !handle_->first && fstat(handle_->file, &present) == 0 && present.st_uid != getuid();
+    handle_->takenByOthers =
+        !handle_->first && fstat(handle_->file, &present) == 0 && !createdByOwnCopy(present.st_uid);
 }
 
 SingleInstance::~SingleInstance() {

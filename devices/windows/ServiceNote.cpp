@@ -37,8 +37,9 @@ public:
                                                                   &rights.lpSecurityDescriptor, nullptr)) {
             return static_cast<LSTATUS>(GetLastError());
         }
-        LSTATUS error = RegCreateKeyExW(HKEY_LOCAL_MACHINE, kKey, 0, nullptr, REG_OPTION_NON_VOLATILE,
-                                        KEY_SET_VALUE | WRITE_DAC | KEY_WOW64_64KEY, &rights, &key_, nullptr);
+        LSTATUS error =
+            RegCreateKeyExW(HKEY_LOCAL_MACHINE, kKey, 0, nullptr, REG_OPTION_NON_VOLATILE,
+                            KEY_QUERY_VALUE | KEY_SET_VALUE | WRITE_DAC | KEY_WOW64_64KEY, &rights, &key_, nullptr);
         // The key of an earlier run gets the same rights.
         if (error == ERROR_SUCCESS) {
             error = RegSetKeySecurity(key_, DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,
@@ -81,7 +82,7 @@ public:
 
     void drop() override {
         Key key;
-        LSTATUS error = key.open(KEY_SET_VALUE);
+        LSTATUS error = key.open(KEY_QUERY_VALUE | KEY_SET_VALUE);
         if (error == ERROR_SUCCESS) error = RegDeleteValueW(key, kValue);
         if (error == ERROR_SUCCESS) error = RegFlushKey(key);
         QString ignored;

@@ -15,28 +15,13 @@ constexpr const char* kName = "Global\\{2d03313b-9681-45c0-be9a-547016098abc}";
 constexpr DWORD kLongestPath = 32768;
 constexpr DWORD kSecondLookMs = 300;
 
-std::wstring folderOf(const std::wstring& path) {
-    return path.substr(0, path.find_last_of(L'\\') + 1);
-}
-
 std::wstring ownFolder() {
     std::wstring path(kLongestPath, L'\0');
     path.resize(GetModuleFileNameW(nullptr, path.data(), kLongestPath));
-    return folderOf(path);
+    return path.substr(0, path.find_last_of(L'\\') + 1);
 }
 
-/// Returns the file of a process. Where the system does not report its path, it is taken to be in `folder`.
-std::wstring fileOf(const PROCESSENTRY32W& entry, const std::wstring& folder) {
-    std::wstring path(kLongestPath, L'\0');
-    DWORD length = kLongestPath;
-    const HANDLE process = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, entry.th32ProcessID);
-    const bool known = process != nullptr && QueryFullProcessImageNameW(process, 0, path.data(), &length);
-    if (process != nullptr) CloseHandle(process);
-    path.resize(known ? length : 0);
-    return known ? path : folder + entry.szExeFile;
-}
-
-/// Returns whether another process runs a program of this program's folder. Only administrators can put one there.
+/// Returns whether another process has the name of a program in this program's folder.
 bool copyRuns() {
     const std::wstring folder = ownFolder();
     const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
@@ -44,10 +29,8 @@ bool copyRuns() {
     entry.dwSize = sizeof entry;
     bool found = false;
     for (bool more = Process32FirstW(snapshot, &entry); more && !found; more = Process32NextW(snapshot, &entry)) {
-        if (entry.th32ProcessID == GetCurrentProcessId()) continue;
-        const std::wstring file = fileOf(entry, folder);
-        found = CompareStringOrdinal(folderOf(file).c_str(), -1, folder.c_str(), -1, TRUE) == CSTR_EQUAL &&
-                GetFileAttributesW(file.c_str()) != INVALID_FILE_ATTRIBUTES;
+        found = entry.th32ProcessID != GetCurrentProcessId() &&
+                GetFileAttributesW((folder + entry.szExeFile).c_str()) != INVALID_FILE_ATTRIBUTES;
     }
     CloseHandle(snapshot);
     return found;

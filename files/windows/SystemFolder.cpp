@@ -43,12 +43,19 @@ bool createPrivateFolder(const std::string& folder, bool* nameIsTaken, std::stri
     return false;
 }
 
+/// Names that are no valid UTF-16, which any user can create, are skipped.
 std::vector<std::string> namesIn(const std::string& folder) {
     std::vector<std::string> names;
-    std::error_code error;
-    for (std::filesystem::directory_iterator entry(std::filesystem::u8path(folder), error), end; !error && entry != end;
-         entry.increment(error))
-        names.push_back(entry->path().filename().u8string());
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = FindFirstFileW((wide(folder) + L"\\*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return names;
+    do {
+        char name[4 * MAX_PATH];
+        const int length = WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, found.cFileName, -1, name, sizeof name,
+                                               nullptr, nullptr);
+        if (length > 0) names.emplace_back(name);
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
     return names;
 }
 

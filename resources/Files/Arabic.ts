@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>اكتملت الكاميرا الأولى. والآن الثانية.
-استدر نحو مشهد آخر. يجب ألا يكون في الصورة أي شيء قريب.</translation>
+استدر نحو مشهد آخر.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>第一个摄像头已完成。现在是第二个。
-请转向其他景物。画面中不能有近处的物体。</translation>
+请转向其他景物。</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

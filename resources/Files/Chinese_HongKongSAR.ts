@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>第一個鏡頭已完成。現在是第二個。
-請轉向其他景物。畫面中不能有近處的物件。</translation>
+請轉向其他景物。</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>První kamera je hotová. Teď druhá.
-Otočte se k jinému okolí. Nic v záběru nesmí být blízko.</translation>
+Otočte se k jinému okolí.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>Det første kamera er færdigt. Nu det andet.
-Drej mod andre omgivelser. Intet i billedet må være tæt på.</translation>
+Drej mod andre omgivelser.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

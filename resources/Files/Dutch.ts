@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>De eerste camera is klaar. Nu de tweede.
-Draai naar een andere omgeving. Niets in beeld mag dichtbij zijn.</translation>
+Draai naar een andere omgeving.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>La première caméra est terminée. Passons à la deuxième.
-Tournez-vous vers un autre décor. Rien ne doit être proche dans l’image.</translation>
+Tournez-vous vers un autre décor.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>Die erste Kamera ist fertig. Jetzt die zweite.
-Wenden Sie sich einer anderen Umgebung zu. Im Bild darf nichts nah sein.</translation>
+Wenden Sie sich einer anderen Umgebung zu.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>Η πρώτη κάμερα είναι έτοιμη. Τώρα η δεύτερη.
-Στραφείτε σε άλλο τοπίο. Τίποτα στην εικόνα δεν πρέπει να είναι κοντά.</translation>
+Στραφείτε σε άλλο τοπίο.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>La prima fotocamera è pronta. Ora la seconda.
-Inquadrare un altro scenario. Nulla deve essere vicino nell’immagine.</translation>
+Inquadrare un altro scenario.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>1 台目のカメラが完了しました。次は 2 台目です。
-別の景色に向けてください。画像に近くのものが入らないようにしてください。</translation>
+別の景色に向けてください。</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>첫 번째 카메라가 끝났습니다. 이제 두 번째입니다.
-다른 풍경으로 향하십시오. 화면에 가까운 것이 없어야 합니다.</translation>
+다른 풍경으로 향하십시오.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

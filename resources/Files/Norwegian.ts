@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>Det første kameraet er ferdig. Nå det andre.
-Vend deg mot andre omgivelser. Ingenting i bildet kan være nært.</translation>
+Vend deg mot andre omgivelser.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

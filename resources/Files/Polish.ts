@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>Pierwsza kamera jest gotowa. Teraz druga.
-Zwróć się ku innemu otoczeniu. Nic w obrazie nie może być blisko.</translation>
+Zwróć się ku innemu otoczeniu.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

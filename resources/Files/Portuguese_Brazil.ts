@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>A primeira câmera está pronta. Agora, a segunda.
-Vire-se para outro cenário. Nada na imagem pode estar perto.</translation>
+Vire-se para outro cenário.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>Первая камера готова. Теперь вторая.
-Повернитесь к другой местности. В кадре не должно быть ничего близкого.</translation>
+Повернитесь к другой местности.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

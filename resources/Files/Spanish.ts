@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>La primera cámara está lista. Ahora, la segunda.
-Apunte a otro entorno. No debe haber nada cercano en la imagen.</translation>
+Apunte a otro entorno.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

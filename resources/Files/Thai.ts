@@ -5,9 +5,9 @@
     <name>BetweenScreen</name>
     <message>
         <source>The first camera is done. Now the second one.
-Turn to other scenery. Nothing in the picture may be near.</source>
+Turn to other scenery.</source>
         <translation>กล้อง​ตัวแรก​เสร็จแล้ว ต่อไป​เป็น​ตัวที่สอง
-หันไปทาง​ทิวทัศน์​อื่น ใน​ภาพ​ต้องไม่มี​สิ่งใด​อยู่ใกล้</translation>
+หันไปทาง​ทิวทัศน์​อื่น</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>

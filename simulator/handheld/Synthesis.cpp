@@ -21,8 +21,8 @@ constexpr double largestDriftDeg = 20;
 /// A user turns on until the program asks to hold still, which it does when the colour image, reduced to a quarter of
 /// its size, has changed enough; root mean square in grey levels, somewhat more than the program demands.
 constexpr double thirdChange = 31, platformChange = 36;
-/// Views that are tried for one still. A bare wall and a night never change.
-constexpr int mostViews = 8;
+/// Views that are tried for one still. A bare wall and a night never change; they show it in the first ones.
+constexpr int mostViews = 8, telltaleViews = 3;
 constexpr double hopelessShare = 0.3;
 constexpr int platformWidth = 1280, platformHeight = 720;
 
@@ -105,11 +105,14 @@ bool synthesize(const std::string& folder, const SynthesisOptions& options,
     int view = 0;
     for (int i = 0; i < options.stills; ++i) {
         const session::FramePictures before = std::move(still);
+        bool changes = false;
         for (int tried = 0; tried < mostViews; ++tried) {
             const std::uint64_t noise = synthesis::mixBits(options.seed) + static_cast<unsigned>(view);
             still = takeStill(*studio.make(view++, options.platform), noise);
             const double share = i == 0 ? 1 : changeShare(before, still);
-            if (share >= 1 || share < hopelessShare) break;
+            if (share >= 1) break;
+            if (share >= hopelessShare) changes = true;
+            if (!changes && tried + 1 >= telltaleViews) break;
         }
         rig.frames.push_back(frameEntry(i, options));
         if (!session::writePictures(folder, rig.frames.back(), still, why)) return false;

@@ -23,7 +23,7 @@ PairPage {
             Layout.fillWidth: true
             Layout.fillHeight: true
             size: Theme.bodySize * 1.2
-            text: qsTr("The first camera is done. Now the second one.\nTurn to other scenery. Nothing in the picture may be near.")
+            text: qsTr("The first camera is done. Now the second one.\nTurn to other scenery.")
         }
     }
     RowLayout {
