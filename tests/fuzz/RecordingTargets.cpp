@@ -6,6 +6,7 @@
 #include "tools/CameraInfoFile.h"
 #include "tools/ExportFormats.h"
 
+#include <QDir>
 #include <QtEndian>
 
 namespace fieldcal::fuzz {
@@ -19,6 +20,11 @@ void description(const QByteArray& bytes) {
     std::string why;
     if (!session::readDescription(".", &read, &why)) return requireRefusal(why, "./session.json");
     require(read.grabCount() > 0, "a recording has a frame");
+    for (const session::FrameEntry& frame : read.frames) {
+        const QString name = QDir::cleanPath(QString::fromStdString(frame.infrared));
+        require(QDir::isRelativePath(name) && name != ".." && !name.startsWith("../"),
+                "images are in the recording's folder");
+    }
     require(session::writeDescription("first", read, &why), "what was read can be written");
     require(session::readDescription("first", &again, &why), "what was written can be read");
     require(session::writeDescription("second", again, &why), "what was read again can be written");

@@ -74,6 +74,7 @@ public:
     }
     int requests = 0;
     qint64 received = 0;
+    bool isExpectedPart = false;  ///< the last answer is not partial, or begins where the file ends
 
 protected:
     QNetworkReply* createRequest(Operation, const QNetworkRequest& request, QIODevice*) override {
@@ -87,6 +88,8 @@ protected:
         pending_ = new Answer(request, answers_.left(end));
         answers_ = end < 0 ? QByteArray() : answers_.mid(end + 4);
         pending_->setParent(this);
+        isExpectedPart = pending_->attribute(QNetworkRequest::HttpStatusCodeAttribute) != 206 ||
+                         pending_->rawHeader("Content-Range").startsWith("bytes " + QByteArray::number(received) + '-');
         return pending_;
     }
 
@@ -99,6 +102,7 @@ struct Watcher : InstallerDownload::Listener {
     explicit Watcher(Server* server) : server_(server) {}
     void downloadProgressed(qint64 received, qint64 total) override {
         require(received <= total && total <= kLimitBytes, "never more is taken than was announced");
+        require(server_->isExpectedPart, "only the part that is missing is taken");
         server_->received = received;
     }
     void downloadInterrupted() override {}
