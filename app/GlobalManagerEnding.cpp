@@ -34,7 +34,7 @@ void GlobalManager::saveAndQuit(Storing storing) {
     endProcessing(Stop::ToSave);
     const LeaveReport report = workflow_.save(storing);
     const bool quiet = finishEnding("slot_saveAndQuit", report);
-    if (!report.stored && !report.told) {
+    if (!report.stored && !report.reported) {
         // Nothing on the disk will say so at the next start.
         exitCode_ = 1;
         environment_.showCritical(kErrorTitle, interfaceText(texts::kLastSaveFailed));
@@ -56,7 +56,7 @@ void GlobalManager::showSaved() {
 /// Otherwise nothing has happened yet: the user is told, and may try again.
 bool GlobalManager::hasPowerToSave() {
     if (sufficesToWrite(environment_.power())) return true;
-    qWarning("No save begins: the battery holds less than %d %% and is not being charged.", kLeastBatteryPercent);
+    qWarning("No save begins: the battery holds less than %d %% and is not being charged.", kMinBatteryPercent);
     environment_.showCritical(texts::kProgramName, interfaceText(texts::kBatteryLow));
     functions_.cancelSaving();
     if (failed_) functions_.offerFirstCamera();

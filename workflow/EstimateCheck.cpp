@@ -78,7 +78,7 @@ std::optional<EstimateCheck> checkEstimate(Sensor& sensor, ColourCamera camera, 
     CameraParameters parameters = sensor.parameters();
     const Rotation before = std::exchange(parameters.colour[camera].fromDepth.rotation, estimate);
     SinglePairEngine engine(parameters, camera, rememberedBaselineM);
-    sensor.setPlatformPictureWanted(camera == ColourCamera::Platform);
+    sensor.setPlatformImageWanted(camera == ColourCamera::Platform);
     sensor.setEmitter(false);
     for (int set = 0; set < kFrameSets; ++set) {
         if (!sensor.grabQuietly()) return std::nullopt;

@@ -41,7 +41,7 @@ enum class Storing {
 /// The result of leaving the workflow.
 struct LeaveReport {
     bool stored = false;        ///< the module has confirmed the accepted rotations
-    bool told = true;           ///< confirmed, or the next start reports the failure
+    bool reported = true;       ///< confirmed, or the next start reports the failure
     WriteBackReport writeBack;  ///< of a save that reached the module
     QStringList errors;         ///< the errors during saving and closing, in order
     QStringList closingErrors;  ///< the last of these, from restoring the vendor's service
