@@ -3,7 +3,6 @@
 #include "devices/CameraParameterReader.h"
 #include "devices/PlatformCameraSetup.h"
 #include "devices/ServiceNote.h"
-#include "kxapi/Library.h"
 #include "tools/Console.h"
 
 #include <algorithm>
@@ -59,7 +58,7 @@ void makeOpaque(ImageFrame32* image) {
 }  // namespace
 
 bool ConnectedModule::open(bool rearCamera, QString* why) {
-    const bool disablesService = !usesSimulatedLibraries() && systemServiceNote() != nullptr;
+    const bool disablesService = systemServiceNote() != nullptr;
     if (disablesService) instance_ = std::make_unique<SingleInstance>();
     if (instance_ != nullptr && !instance_->isFirst()) {
         *why = kAnotherProgram;

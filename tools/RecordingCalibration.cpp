@@ -22,11 +22,13 @@ Eigen::Matrix3d eigen(const Matrix3& matrix) {
 }  // namespace
 
 RecordingCalibration::RecordingCalibration(std::string folder, session::SessionDescription session, ColourCamera camera,
-                                           std::function<void(const QString&)> showProgress)
+                                           std::function<void(const QString&)> showProgress,
+                                           SensorEnvironment environment)
     : folder_(std::move(folder)),
       session_(std::move(session)),
       camera_(camera),
       showProgress_(std::move(showProgress)),
+      environment_(std::move(environment)),
       engine_(context_, parameters_) {}
 
 bool RecordingCalibration::run(QString* why) {
@@ -36,7 +38,7 @@ bool RecordingCalibration::run(QString* why) {
     qputenv("KXSIM_SPEED", "0");
     bool played = false;
     {
-        Sensor sensor;
+        Sensor sensor(environment_);
         if (open(sensor, why)) {
             CalibrationAttempt attempt(engine_, *this, light_, sensor.settings().attemptLimit);
             if (memory_) attempt.useMemory(*memory_, sensor.serialNumber());

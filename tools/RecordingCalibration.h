@@ -24,9 +24,10 @@ namespace fieldcal {
 /// fails is restarted at once. All calls must come from one thread.
 class RecordingCalibration : private AttemptListener {
 public:
-    /// `showProgress` receives one line for each event; it may be empty.
+    /// `showProgress` receives one line for each event; it may be empty. `environment`: of the sensor.
     RecordingCalibration(std::string folder, session::SessionDescription session, ColourCamera camera,
-                         std::function<void(const QString&)> showProgress);
+                         std::function<void(const QString&)> showProgress,
+                         SensorEnvironment environment = systemEnvironment());
 
     /// Sets whether a solution is written into the module's flash.
     void setWriting(bool on) { writing_ = on; }
@@ -57,6 +58,7 @@ private:
     const session::SessionDescription session_;
     const ColourCamera camera_;
     const std::function<void(const QString&)> showProgress_;
+    const SensorEnvironment environment_;
     SensorReports reports_;
     CameraParameters parameters_;
     vq::RegistrationContext context_;

@@ -7,8 +7,8 @@
 
 namespace fieldcal {
 
-WorkflowEnvironment systemWorkflowEnvironment() {
-    return {[] { return std::make_unique<Sensor>(); }, userDataFolder()};
+WorkflowEnvironment systemWorkflowEnvironment(kxapi::LibrarySearch search) {
+    return {[search] { return std::make_unique<Sensor>(systemEnvironment(search)); }, userDataFolder()};
 }
 
 Workflow::Workflow(WorkflowListener& listener, WorkflowEnvironment environment)

@@ -28,7 +28,7 @@ struct WorkflowEnvironment {
     std::function<std::unique_ptr<Sensor>()> makeSensor;
     QString dataFolder;  ///< holds the note about a failed save and the known stereo baselines
 };
-WorkflowEnvironment systemWorkflowEnvironment();
+WorkflowEnvironment systemWorkflowEnvironment(kxapi::LibrarySearch search = kxapi::LibrarySearch::Installed);
 
 enum class Stop { ToLeave, ToSave };
 

@@ -217,10 +217,10 @@ TEST(Loader, AnAdapterBesideTheProgramComesFirst) {
     const std::string name = "AdapterProbe" + std::to_string(getpid());
     const QString adapter = folder + "/lib" + QString::fromStdString(name) + "Adapter.so";
     std::string why;
-    EXPECT_EQ(kxapi::openSharedLibrary(name.c_str(), &why), nullptr);
+    EXPECT_EQ(kxapi::openSharedLibrary(name.c_str(), kxapi::LibrarySearch::Installed, &why), nullptr);
     EXPECT_THAT(why, Not(HasSubstr("Adapter.so")));
     fieldcal::session::writeFile(adapter.toStdString(), "broken");
-    EXPECT_EQ(kxapi::openSharedLibrary(name.c_str(), &why), nullptr);
+    EXPECT_EQ(kxapi::openSharedLibrary(name.c_str(), kxapi::LibrarySearch::Installed, &why), nullptr);
     EXPECT_THAT(why, HasSubstr(adapter.toStdString())) << "and a broken one is named";
     QFile::remove(adapter);
 }
