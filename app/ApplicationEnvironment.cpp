@@ -7,9 +7,9 @@
 
 namespace fieldcal {
 
-ApplicationEnvironment systemApplicationEnvironment() {
+ApplicationEnvironment systemApplicationEnvironment(kxapi::LibrarySearch search) {
     ApplicationEnvironment environment;
-    environment.workflow = systemWorkflowEnvironment();
+    environment.workflow = systemWorkflowEnvironment(search);
     environment.language = systemLanguage();
     environment.update = systemUpdateEnvironment(QUrl(QStringLiteral(FIELDCAL_UPDATE_MANIFEST)));
     environment.keepAwake = keepAwake;

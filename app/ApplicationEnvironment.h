@@ -34,6 +34,6 @@ struct ApplicationEnvironment {
     std::function<void(Cue)> playCue;
 };
 
-ApplicationEnvironment systemApplicationEnvironment();
+ApplicationEnvironment systemApplicationEnvironment(kxapi::LibrarySearch search = kxapi::LibrarySearch::Installed);
 
 }  // namespace fieldcal

@@ -37,7 +37,9 @@ GlobalManager::GlobalManager(int& argc, char** argv, ApplicationEnvironment envi
       environment_(std::move(environment)),
       workflow_(bridge_, environment_.workflow),
       updates_(environment_.update, updateBridge_),
-      sounds_(environment_.workflow.dataFolder) {
+      sounds_(environment_.workflow.dataFolder),
+      ending_({environment_, functions_, bridge_, workflow_, updates_,
+               [this](const QString& text) { emit signal_saveCalibrationText(text); }, [this] { stayAwake(false); }}) {
     initResources();
     loadUILanguage();
     lockOrientation();
@@ -46,11 +48,11 @@ GlobalManager::GlobalManager(int& argc, char** argv, ApplicationEnvironment envi
     connectSignals();
     views_.switchIntroductionOn();
     updates_.start(this);
-    thread_ = std::make_unique<ProcessingThread>(workflow_);
+    ending_.setUp(window_, std::make_unique<ProcessingThread>(workflow_));
 }
 
 GlobalManager::~GlobalManager() {
-    closeCamera();
+    ending_.closeCamera();
 }
 
 void GlobalManager::loadUILanguage() {
@@ -83,7 +85,7 @@ void GlobalManager::connectSignals() {
     connect(this, &GlobalManager::signal_startCalibrationText, this, &GlobalManager::slot_startCalibrationText);
     connect(this, &GlobalManager::signal_saveCalibrationText, this, &GlobalManager::slot_saveCalibrationText);
     // At the end of a session the system kills the process right after announcing it, before any destructor runs.
-    connect(this, &QCoreApplication::aboutToQuit, this, &GlobalManager::closeCamera);
+    connect(this, &QCoreApplication::aboutToQuit, &ending_, &ProgramEnding::closeCamera);
     // Closing the window in any way leaves the program as its own button does.
     connect(this, &QGuiApplication::lastWindowClosed, this, &GlobalManager::slot_userAskedToExit);
     DepthColorOverlayRenderer* overlay = views_.refinementView();
@@ -121,7 +123,7 @@ void GlobalManager::slot_modifyUiToState(State state) {
 }
 
 void GlobalManager::slot_stateChanged(int state) {
-    if (ending_) return;
+    if (ending_.hasBegun()) return;
     const State next = static_cast<State>(state);
     const State before = workflow_.state();
     views_.showFor(next);
@@ -183,13 +185,29 @@ void GlobalManager::slot_switchToOOMColorSensor() {
 }
 
 void GlobalManager::switchCamera(ColourCamera camera, const char* description, const char* instruction) {
-    if (ending_) return;
+    if (ending_.hasBegun()) return;
     workflow_.switchCamera(camera);
     // The page switches from the views of the refinement to those of the other camera.
     views_.showFor(State::WaitingToCalibrate);
     functions_.setColorCameraDescriptionText(interfaceText(description));
     functions_.setCalibrationProgress(0);
     emit signal_saveCalibrationText(interfaceText(instruction));
+}
+
+void GlobalManager::slot_userAskedToExit() {
+    ending_.leave();
+}
+
+void GlobalManager::slot_saveAndQuit() {
+    ending_.saveAndQuit(Storing::WithRefinement);
+}
+
+void GlobalManager::slot_storeFirstCameraAndQuit() {
+    ending_.saveAndQuit(Storing::OnlyAccepted);
+}
+
+void GlobalManager::slot_getKXAPIErrorAndQuit(const QString& message) {
+    ending_.failWith(message);
 }
 
 void GlobalManager::slot_reportMissingQ550Device() {
@@ -213,7 +231,7 @@ void GlobalManager::slot_timeoutNetworkReplyJson() {
 }
 
 void GlobalManager::slot_downloadLatestUpdate() {
-    if (!ending_) updates_.download();
+    if (!ending_.hasBegun()) updates_.download();
 }
 
 void GlobalManager::slot_abortDownloadOfUpdate() {

@@ -2,12 +2,12 @@
 
 #include "app/ApplicationEnvironment.h"
 #include "app/ImageViews.h"
+#include "app/ProgramEnding.h"
 #include "app/QmlFunctions.h"
 #include "app/SoundSwitch.h"
 #include "app/UpdateBridge.h"
 #include "app/WorkflowBridge.h"
 #include "update/SoftwareUpdate.h"
-#include "workflow/ProcessingThread.h"
 #include "workflow/Workflow.h"
 
 #include <QApplication>
@@ -16,15 +16,13 @@
 #include <QString>
 #include <QTranslator>
 
-#include <memory>
-
 class QNetworkReply;
 class QQuickWindow;
 
 namespace fieldcal {
 
 /// The application object. It builds the interface and the workflow, connects them, starts the processing thread,
-/// forwards messages between the two, and ends the program in either of two ways. Slots and all other functions run on
+/// forwards messages between the two, and lets `ProgramEnding` end the program. Slots and all other functions run on
 /// the main thread; the signals are emitted on the processing thread and queued.
 class GlobalManager : public QApplication {
     Q_OBJECT
@@ -34,7 +32,7 @@ public:
     ~GlobalManager() override;
 
     /// The exit code of the process: 0, or 1 after a message about an error.
-    int exitCode() const { return exitCode_; }
+    int exitCode() const { return ending_.exitCode(); }
 
     // Access for tests.
     Workflow& workflow() { return workflow_; }
@@ -68,16 +66,10 @@ public slots:
     void slot_abortDownloadOfUpdate();
     void slot_networkReplyLatestVersionJsonFinished(QNetworkReply* reply);
     void slot_timeoutNetworkReplyJson();
-    /// Only the first error counts, and none counts once the user has chosen to leave. If the first camera has already
-    /// been accepted, the program ends only after the user has decided whether to store it.
     void slot_getKXAPIErrorAndQuit(const QString& message);
     void slot_reportMissingQ550Device();
     void slot_reportMissingPlatformCamera();
     void slot_reportPlatformCameraIssue();
-
-protected:
-    /// Discards the user's input once the program is ending.
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void loadUILanguage();
@@ -87,19 +79,6 @@ private:
 
     /// The display stays on while photos are taken or the image is viewed, because nobody touches the screen then.
     void stayAwake(bool on);
-
-    // Implemented in GlobalManagerEnding.cpp.
-    bool beginEnding();
-    void saveAndQuit(Storing storing);
-    bool hasPowerToSave();
-    void endProcessing(Stop stop);
-    /// Called whatever ends the program; further calls have no effect.
-    void closeCamera();
-    /// Returns false when there was an error to report.
-    bool finishEnding(const char* who, const LeaveReport& report);
-    QStringList storedFacts() const;
-    void showSaved();
-    bool isTouchOnSaved(const QEvent& event) const;
 
     const ApplicationEnvironment environment_;
     QTranslator translator_;
@@ -114,13 +93,9 @@ private:
     QQmlApplicationEngine engine_;  ///< its views use the workflow's engine
     QQuickWindow* window_ = nullptr;
     QElapsedTimer lightingStopwatch_;
-    QElapsedTimer savedShown_;  ///< runs from when the confirmation of a stored calibration is shown
     SoundSwitch sounds_;
-    std::unique_ptr<ProcessingThread> thread_;
     bool awake_ = false;
-    bool ending_ = false;
-    bool failed_ = false;  ///< an error has been shown, and the program is about to end
-    int exitCode_ = 0;
+    ProgramEnding ending_;  ///< declared last, because it uses the other members
 };
 
 }  // namespace fieldcal

@@ -172,7 +172,7 @@ void WorkflowBridge::pairCaptured() {
     functions_.flashCalibrationImageViews();
 }
 
-void WorkflowBridge::pairPictures(const ImageFrame16& /*infrared*/, const ImageFrame32& colour) {
+void WorkflowBridge::pairImages(const ImageFrame16& /*infrared*/, const ImageFrame32& colour) {
     functions_.showCapturedPhoto(photos_.add(colour));
 }
 

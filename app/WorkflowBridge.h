@@ -48,7 +48,7 @@ public:
     void calibrationProgress(double progress) override;
     void returnToWellLitArea(bool needed) override;
     void pairCaptured() override;
-    void pairPictures(const ImageFrame16& infrared, const ImageFrame32& colour) override;
+    void pairImages(const ImageFrame16& infrared, const ImageFrame32& colour) override;
     void detailGathered(const std::vector<double>& areas) override;
     void photoJudged(PhotoWorth worth) override;
     void offerHowToMove() override;

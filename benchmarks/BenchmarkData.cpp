@@ -14,9 +14,9 @@
 namespace fieldcal {
 namespace {
 
-vq::ImagePairRecord scaledColour(const session::FramePictures& pictures, const CameraModel& model) {
+vq::ImagePairRecord scaledColour(const session::FrameImages& images, const CameraModel& model) {
     ImageFrame32 scaled;
-    scaleThird(pictures, model, &scaled);
+    scaleThird(images, model, &scaled);
     vq::ImagePairRecord record;
     record.assign(scaled.width(), scaled.height(), scaled.bytes(), 4);
     return record;
@@ -58,18 +58,18 @@ BenchmarkData camerasOf(const session::SessionDescription& session) {
     return data;
 }
 
-void scaleThird(const session::FramePictures& pictures, const CameraModel& model, ImageFrame32* out) {
-    const cv::Mat raw(static_cast<int>(pictures.third.height()), static_cast<int>(pictures.third.width()), CV_8UC4,
-                      const_cast<std::uint8_t*>(pictures.third.bytes()));
+void scaleThird(const session::FrameImages& images, const CameraModel& model, ImageFrame32* out) {
+    const cv::Mat raw(static_cast<int>(images.third.height()), static_cast<int>(images.third.width()), CV_8UC4,
+                      const_cast<std::uint8_t*>(images.third.bytes()));
     cv::Mat scaled;
     scaleIntoRecord(raw, model.width, model.height, &scaled, out);
 }
 
-void addPair(const session::FramePictures& pictures, BenchmarkData* data) {
+void addPair(const session::FrameImages& images, BenchmarkData* data) {
     vq::ImagePairRecord infrared;
-    infrared.assign(pictures.infrared.width(), pictures.infrared.height(), pictures.infrared.bytes(), 2);
+    infrared.assign(images.infrared.width(), images.infrared.height(), images.infrared.bytes(), 2);
     data->infrared.push_back(std::move(infrared));
-    data->colour.push_back(scaledColour(pictures, data->cameras.colour));
+    data->colour.push_back(scaledColour(images, data->cameras.colour));
 }
 
 BenchmarkData loadRecording(const std::string& folder) {
@@ -79,9 +79,9 @@ BenchmarkData loadRecording(const std::string& folder) {
     BenchmarkData data = camerasOf(session);
     data.folder = folder;
     for (std::size_t i = 0; i < session.frames.size(); ++i) {
-        session::FramePictures pictures;
-        if (!session::readPictures(folder, session, i, &pictures, &why)) fatalFailure(why.c_str(), 1);
-        addPair(pictures, &data);
+        session::FrameImages images;
+        if (!session::readImages(folder, session, i, &images, &why)) fatalFailure(why.c_str(), 1);
+        addPair(images, &data);
     }
     return data;
 }

@@ -30,11 +30,11 @@ Eigen::Matrix3d matrixOf(const session::Matrix3& rows);
 CameraParameters parametersOf(const session::SessionDescription& session);
 
 /// Scales the third camera's image to the size of `model`, as the program does.
-void scaleThird(const session::FramePictures& pictures, const CameraModel& model, ImageFrame32* out);
+void scaleThird(const session::FrameImages& images, const CameraModel& model, ImageFrame32* out);
 
 /// `camerasOf` returns the cameras of a session without images; `addPair` adds a pair of images of its third camera.
 BenchmarkData camerasOf(const session::SessionDescription& session);
-void addPair(const session::FramePictures& pictures, BenchmarkData* data);
+void addPair(const session::FrameImages& images, BenchmarkData* data);
 
 /// Ends the program with a message when the recording cannot be read.
 BenchmarkData loadRecording(const std::string& folder);

@@ -110,10 +110,10 @@ void printRow(const std::string& recording, const JudgedCamera& camera, const st
               const std::vector<Answer>& peer) {
     const auto milliseconds = [](const Answer& answer) { return answer.msPerPair; };
     std::vector<double> ratios;
-    int asGood = 0;
+    int notWorse = 0;
     for (std::size_t i = 0; i < ours.size(); ++i) {
         if (ours[i].msPerPair > 0) ratios.push_back(peer[i].msPerPair / ours[i].msPerPair);
-        asGood += ours[i].found && (!peer[i].found || ours[i].errorDeg <= peer[i].errorDeg) ? 1 : 0;
+        notWorse += ours[i].found && (!peer[i].found || ours[i].errorDeg <= peer[i].errorDeg) ? 1 : 0;
     }
     const auto pairs = of(ours, [](const Answer& answer) { return answer.pairs; });
     const auto unsolved = std::count_if(ours.begin(), ours.end(), [](const Answer& a) { return !a.found; });
@@ -124,7 +124,7 @@ void printRow(const std::string& recording, const JudgedCamera& camera, const st
     std::printf(" %6.1f %7.0f", std::accumulate(pairs.begin(), pairs.end(), 0.0) / static_cast<double>(pairs.size()),
                 median(of(ours, milliseconds)));
     printErrors(peer, static_cast<std::size_t>(failed));
-    std::printf(" %7.0f | %6.2f %5d/%zu\n", median(of(peer, milliseconds)), median(ratios), asGood, ours.size());
+    std::printf(" %7.0f | %6.2f %5d/%zu\n", median(of(peer, milliseconds)), median(ratios), notWorse, ours.size());
     std::fflush(stdout);
 }
 

@@ -25,7 +25,7 @@ namespace {
 using namespace fieldcal;
 using Clock = std::chrono::steady_clock;
 
-constexpr double waitMs = 150;  // longer than any frame takes that needs no new keyframe
+constexpr double kMaxFrameMs = 150;  // longer than any frame takes that needs no new keyframe
 
 void discard(QtMsgType, const QMessageLogContext&, const QString&) {}
 
@@ -70,7 +70,7 @@ void printByKind(const std::vector<Frame>& all) {
     std::vector<Frame> moving, comingToRest, resting, waiting;
     for (const Frame& frame : all) {
         const bool first = shownBefore[frame.infrared]++ == 0;
-        if (frame.ms > waitMs) {
+        if (frame.ms > kMaxFrameMs) {
             waiting.push_back(frame);
         } else if (shown[frame.infrared] == 1) {
             moving.push_back(frame);

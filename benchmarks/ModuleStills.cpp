@@ -64,14 +64,14 @@ StillConverter::StillConverter(const session::SessionDescription& session) : par
                                   rectificationTable_.data());
 }
 
-FrameRecords StillConverter::convert(const session::FramePictures& pictures) const {
+FrameRecords StillConverter::convert(const session::FrameImages& images) const {
     FrameRecords records;
-    records.leftInfrared = pictures.infrared;
-    records.rightInfrared = pictures.right;
-    records.depth = pictures.depth;
-    scaleThird(pictures, parameters_.colour[ColourCamera::Third].model, &records.colour[ColourCamera::Third]);
-    if (!rectificationTable_.empty() && !pictures.platform.empty()) {
-        scalePlatform(pictures.platform, rectificationTable_, parameters_.colour[ColourCamera::Platform].model,
+    records.leftInfrared = images.infrared;
+    records.rightInfrared = images.right;
+    records.depth = images.depth;
+    scaleThird(images, parameters_.colour[ColourCamera::Third].model, &records.colour[ColourCamera::Third]);
+    if (!rectificationTable_.empty() && !images.platform.empty()) {
+        scalePlatform(images.platform, rectificationTable_, parameters_.colour[ColourCamera::Platform].model,
                       &records.colour[ColourCamera::Platform]);
     }
     return records;

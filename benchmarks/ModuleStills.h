@@ -40,7 +40,7 @@ public:
 
     const CameraParameters& parameters() const { return parameters_; }
     /// The records of the platform camera and of the right infrared imager are empty where there is no image.
-    FrameRecords convert(const session::FramePictures& pictures) const;
+    FrameRecords convert(const session::FrameImages& images) const;
 
 private:
     CameraParameters parameters_;

@@ -12,7 +12,7 @@ namespace fieldcal {
 namespace {
 
 constexpr float kRatio = 0.8F;
-constexpr std::size_t kFewestMatches = 4;
+constexpr std::size_t kMinMatches = 4;
 constexpr double kHomographyPx = 3.0;
 constexpr double kFitPx = 1.0;
 constexpr int kHomographyIterations = 10000;
@@ -58,7 +58,7 @@ Matches matchStill(const FrameRecords& still, const JudgedCamera& camera) {
 
 /// Adds the inliers of one homography, if there is one.
 void addInliers(const Matches& matches, Matches* all) {
-    if (matches.infrared.size() < kFewestMatches) return;
+    if (matches.infrared.size() < kMinMatches) return;
     std::vector<std::uint8_t> inlier;
     const cv::Mat homography = cv::findHomography(matches.infrared, matches.colour, cv::USAC_MAGSAC, kHomographyPx,
                                                   inlier, kHomographyIterations, kHomographyConfidence);
@@ -77,7 +77,7 @@ std::optional<Eigen::Matrix3d> calibrateWithSift(const std::vector<const FrameRe
     Matches all;
     for (const FrameRecords* still : stills)
         addInliers(matchStill(*still, camera), &all);
-    if (all.infrared.size() < kFewestMatches) return std::nullopt;
+    if (all.infrared.size() < kMinMatches) return std::nullopt;
     const vq::RotationCost cost(all.infrared, all.colour, camera.cameras, vq::ResidualLoss::cauchy(kFitPx));
     Eigen::Vector3d anglesRad;
     if (!vq::fitRotationLM(cost, vq::anglesFromRotation(camera.factory), &anglesRad)) return std::nullopt;

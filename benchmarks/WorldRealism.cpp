@@ -116,7 +116,7 @@ Figures tell(const BenchmarkData& data, std::size_t pair, const Truth& truth) {
     return figures;
 }
 
-std::vector<Figures> tellRecording(const std::string& folder) {
+std::vector<Figures> figuresOfRecording(const std::string& folder) {
     const BenchmarkData data = loadRecording(folder);
     std::vector<Figures> all;
     for (std::size_t i = 0; i < data.infrared.size(); ++i)
@@ -124,7 +124,7 @@ std::vector<Figures> tellRecording(const std::string& folder) {
     return all;
 }
 
-std::vector<Figures> tellWorld(const std::string& name, std::uint64_t seed, int stills) {
+std::vector<Figures> figuresOfWorld(const std::string& name, std::uint64_t seed, int stills) {
     const auto rig = synthesis::drawRig(seed, {});
     const world::Cameras cameras(rig);
     const auto stage = world::buildWorld(name, seed);
@@ -138,10 +138,10 @@ std::vector<Figures> tellWorld(const std::string& name, std::uint64_t seed, int 
         const auto seen = cameras.see(*stage->world, moment, moment, false);
         synthesis::StillSettings settings;
         settings.darkness = stage->darkness;
-        session::FramePictures pictures;
-        pictures.infrared = infraredFrame(seen, settings, seed * 100 + static_cast<unsigned>(i));
-        pictures.third = thirdFrame(seen, settings, seed * 100 + static_cast<unsigned>(i));
-        addPair(pictures, &data);
+        session::FrameImages images;
+        images.infrared = infraredFrame(seen, settings, seed * 100 + static_cast<unsigned>(i));
+        images.third = thirdFrame(seen, settings, seed * 100 + static_cast<unsigned>(i));
+        addPair(images, &data);
         const auto& t = rig.third.translation;
         all.push_back(
             tell(data, data.infrared.size() - 1, {data, Eigen::Vector3d(t[0], t[1], t[2]) / 1000, seen.depth}));
@@ -177,10 +177,10 @@ int main(int argc, char** argv) {
                 "right %", "at inf %", "px", "ZNCC 10", "50", "90");
     for (std::size_t i = 2; i < words.size(); ++i) {
         std::vector<Figures> all;
-        if (std::find(worlds.begin(), worlds.end(), words[i]) == worlds.end()) all = tellRecording(words[i]);
+        if (std::find(worlds.begin(), worlds.end(), words[i]) == worlds.end()) all = figuresOfRecording(words[i]);
         for (int seed = 1; all.empty() || seed <= std::atoi(words[1].c_str()); ++seed) {
             if (std::find(worlds.begin(), worlds.end(), words[i]) == worlds.end()) break;
-            const auto more = tellWorld(words[i], static_cast<std::uint64_t>(seed), std::atoi(words[0].c_str()));
+            const auto more = figuresOfWorld(words[i], static_cast<std::uint64_t>(seed), std::atoi(words[0].c_str()));
             all.insert(all.end(), more.begin(), more.end());
             if (more.empty()) break;
         }

@@ -13,7 +13,7 @@
 #include "diagnostics/Assertions.h"
 #include "diagnostics/Logger.h"
 #include "engine/RegistrationError.h"
-#include "simulator/handheld/Studio.h"
+#include "simulator/handheld/KeyframeRenderer.h"
 #include "simulator/synthesis/Random.h"
 #include "simulator/synthesis/Rig.h"
 #include "simulator/world/Depth.h"
@@ -62,13 +62,13 @@ using Trials = std::array<Trial, kCameras>;  ///< of the third and of the platfo
 class StillSource {
 public:
     StillSource(const std::string& world, unsigned seed, const synthesis::Rig& rig, const Options& options)
-        : seed_(seed), options_(options), studio_(world, seed, rig), converter_(rig) {}
+        : seed_(seed), options_(options), renderer_(world, seed, rig), converter_(rig) {}
 
     const CameraParameters& parameters() const { return converter_.parameters(); }
     /// Stills are counted from 0.
     const FrameRecords& still(int number) {
         for (int next = static_cast<int>(made_.size()); next <= number; ++next) {
-            made_.push_back(converter_.convert(takeStill(*studio_.make(next, true), seed_ + 1000U * next)));
+            made_.push_back(converter_.convert(takeStill(*renderer_.render(next, true), seed_ + 1000U * next)));
             if (!options_.right) made_.back().rightInfrared = {};
             if (!options_.depth) made_.back().depth = {};
         }
@@ -78,14 +78,14 @@ public:
 private:
     unsigned seed_;
     Options options_;
-    handheld::Studio studio_;
+    handheld::KeyframeRenderer renderer_;
     StillConverter converter_;
     std::vector<FrameRecords> made_;
 };
 
 /// Returns the inverse depth that a module with misaligned imagers measures for a surface.
 double ownInverseDepth(double inverseDepth, double misalignmentPx, double focalPx) {
-    return inverseDepth + misalignmentPx / (focalPx * world::stereoBaseline);
+    return inverseDepth + misalignmentPx / (focalPx * world::kStereoBaselineM);
 }
 
 /// Returns the rotation that places the module's own depth on its own colour, which is what a calibration is for. With
@@ -156,16 +156,16 @@ Trial tryCamera(const JudgedCamera& camera, unsigned seed, double misalignmentPx
 }
 
 Trials tryWorld(const std::string& world, unsigned seed, bool baselines, const Options& options) {
-    synthesis::RigWishes wishes;
-    wishes.platform = true;
-    wishes.baselines = baselines;
+    synthesis::RigOptions rigOptions;
+    rigOptions.platform = true;
+    rigOptions.baselines = baselines;
     double misalignmentPx = 0;
     if (options.misaligned) {
         synthesis::Random random(seed, "misalignment");
         misalignmentPx = random.uniform(-kLargestMisalignmentPx, kLargestMisalignmentPx);
-        wishes.misalignmentPx = misalignmentPx;
+        rigOptions.misalignmentPx = misalignmentPx;
     }
-    const auto rig = synthesis::drawRig(seed, wishes);
+    const auto rig = synthesis::drawRig(seed, rigOptions);
     StillSource source(world, seed, rig, options);
     const auto cameras = judgedCameras(rig, source.parameters());
     Trials trials;
@@ -193,7 +193,7 @@ std::string qualityText(const Trial& trial) {
     return line + text;
 }
 
-std::string told(const Trial& trial) {
+std::string summary(const Trial& trial) {
     char text[160];
     if (!trial.solved) {
         std::snprintf(text, sizeof text, "%2d stills not solved", trial.stills);
@@ -267,8 +267,8 @@ void tryWorlds(const std::string& world, unsigned first, unsigned count, const O
         for (std::size_t i = 0; i < kCameras; ++i) {
             real[i].push_back(seen[i]);
             without[i].push_back(unshifted[i]);
-            std::printf("%-11s seed %4u  %-8s   %s", world.c_str(), seed, names[i], told(seen[i]).c_str());
-            if (options.zeroBaseline) std::printf("   without baselines %s", told(unshifted[i]).c_str());
+            std::printf("%-11s seed %4u  %-8s   %s", world.c_str(), seed, names[i], summary(seen[i]).c_str());
+            if (options.zeroBaseline) std::printf("   without baselines %s", summary(unshifted[i]).c_str());
             std::printf("\n");
         }
         std::fflush(stdout);

@@ -2,7 +2,7 @@
 #
 #   fieldcal_library(session SOURCES Description.cpp LINKS fieldcal::camera Qt5::Core [KIND SHARED|INTERFACE])
 #   fieldcal_executable(fieldcal-session SOURCES main.cpp LINKS fieldcal::workflow)
-#   fieldcal_test(session_refusal SOURCES PictureRefusalTest.cpp LINKS fieldcal::session)      (ctest name: session_refusal)
+#   fieldcal_test(session_refusal SOURCES ImageRefusalTest.cpp LINKS fieldcal::session)      (ctest name: session_refusal)
 #   fieldcal_test(... SCREEN)                   runs on a separate display with software rendering
 include_guard()
 

@@ -130,7 +130,7 @@ int run(const QStringList& arguments) {
     const QStringList size = arguments.value(3, "1280x800").split('x');
     const QString language = arguments.value(4, "English");
     QTranslator translator;
-    const bool leftToRight = language != "rtl" && testing::speak(language, &translator);
+    const bool leftToRight = language != "rtl" && testing::installTranslation(language, &translator);
     Strip strip{arguments[1], arguments[2], {size.value(0).toInt(), size.value(1).toInt()}, leftToRight};
     QDir().mkpath(strip.folder);
     initPictures();

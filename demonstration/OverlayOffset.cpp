@@ -9,7 +9,7 @@ namespace {
 
 constexpr float kPictureShare = 0.4F;  ///< share of the camera image where there is depth
 constexpr int kReach = 100;            ///< pixels, in either direction
-constexpr double kLeastDifference = 12;
+constexpr double kMinDifference = 12;
 constexpr double kEdgeScale = 1.5;
 constexpr double kFaintEdge = 30;
 
@@ -64,7 +64,7 @@ cv::Mat depthAlone(const cv::Mat& seen, const cv::Mat& picture) {
     cv::split(difference, channels);
     largest = cv::max(cv::max(channels[0], channels[1]), channels[2]);
     cv::medianBlur(largest, largest, 5);
-    mask = largest < kLeastDifference;
+    mask = largest < kMinDifference;
     cv::Mat colours, share;
     seen.convertTo(colours, CV_32F);
     picture.convertTo(share, CV_32F, kPictureShare);

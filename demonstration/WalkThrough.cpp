@@ -43,10 +43,10 @@ bool WalkThrough::start(const QString& recording, const QStringList& command) {
 }
 
 void WalkThrough::readLog() {
-    const QByteArray told = program_.readAll();
-    log_.write(told);
-    unread_ += QString::fromUtf8(told);
-    lastLine_ += QString::fromUtf8(told);
+    const QByteArray output = program_.readAll();
+    log_.write(output);
+    unread_ += QString::fromUtf8(output);
+    lastLine_ += QString::fromUtf8(output);
     static const QRegularExpression shows("The interface shows (\\w+)\\.");
     auto pages = shows.globalMatch(lastLine_);
     while (pages.hasNext())
@@ -111,7 +111,7 @@ int WalkThrough::waitForOne(const QStringList& lines, int milliseconds) {
     }
 }
 
-bool WalkThrough::hasCome(const QStringList& lines) {
+bool WalkThrough::hasAppeared(const QStringList& lines) {
     readLog();
     return std::any_of(lines.begin(), lines.end(), [this](const QString& line) { return unread_.contains(line); });
 }

@@ -47,7 +47,7 @@ public:
     /// The page that the interface has last said to show.
     const QString& page();
     /// Returns whether one of the lines has appeared since the last one that was waited for.
-    bool hasCome(const QStringList& lines);
+    bool hasAppeared(const QStringList& lines);
     /// Returns the exit code of the program once it has ended by itself; -1 if it does not.
     int waitForEnd();
 

@@ -28,9 +28,9 @@ using Key = X11Hand::Key;
 constexpr int kFlashMs = 400;  // shorter than the confirmation shown with it
 constexpr int kCaptureMs = 240000;
 constexpr int kDemonstrationMs = 3000;  ///< until the refinement has compared by itself
-constexpr int kMostViews = 6;           ///< in which the overlay is measured
+constexpr int kMaxViews = 6;            ///< in which the overlay is measured
 constexpr int kNextViewMs = 1500;
-constexpr double kLeastCorrelation = 0.05;
+constexpr double kMinCorrelation = 0.05;
 const QString kPairTaken = "Adding new infrared";
 const QStringList kPairDecided{"Continue processing", "Could not get a sample set", "Found a good solution"};
 
@@ -65,17 +65,17 @@ void drag(WalkThrough* user) {
 }
 
 /// The colour images of the module.
-std::vector<cv::Mat> playedPictures(const Walk& walk) {
-    std::vector<cv::Mat> pictures;
-    session::FramePictures frame;
+std::vector<cv::Mat> playedImages(const Walk& walk) {
+    std::vector<cv::Mat> images;
+    session::FrameImages frame;
     std::string why;
     for (std::size_t i = 0; i < walk.played.frames.size(); ++i) {
-        if (!readPictures(walk.recording.toStdString(), walk.played, i, &frame, &why)) continue;
-        const cv::Mat picture(static_cast<int>(frame.third.height()), static_cast<int>(frame.third.width()), CV_8UC4,
-                              frame.third.bytes());
-        cv::cvtColor(picture, pictures.emplace_back(), cv::COLOR_BGRA2BGR);
+        if (!readImages(walk.recording.toStdString(), walk.played, i, &frame, &why)) continue;
+        const cv::Mat image(static_cast<int>(frame.third.height()), static_cast<int>(frame.third.width()), CV_8UC4,
+                            frame.third.bytes());
+        cv::cvtColor(image, images.emplace_back(), cv::COLOR_BGRA2BGR);
     }
-    return pictures;
+    return images;
 }
 
 /// Returns the motion of the image centre on the screen when the true rotation replaces the stored one.
@@ -92,7 +92,7 @@ QJsonArray expectedOffset(const session::SessionDescription& played, int screenW
 
 /// Returns null where hardly anything has depth.
 QJsonValue toJson(const OverlayOffset& offset) {
-    if (offset.correlation < kLeastCorrelation) return {};
+    if (offset.correlation < kMinCorrelation) return {};
     return QJsonObject{{"px", QJsonArray{offset.pixels[0], offset.pixels[1]}}, {"correlation", offset.correlation}};
 }
 
@@ -100,11 +100,11 @@ QJsonValue toJson(const OverlayOffset& offset) {
 /// goes on meanwhile, and some of its views have hardly any depth, so it may take several views.
 bool compareWithStored(Walk* walk) {
     WalkThrough& user = walk->user;
-    const std::vector<cv::Mat> pictures = playedPictures(*walk);
+    const std::vector<cv::Mat> images = playedImages(*walk);
     QThread::msleep(kDemonstrationMs);
     user.hand().press(Key::Tab);  // to "Restart"
     user.hand().press(Key::Tab);
-    for (int attempt = 0; attempt < kMostViews; ++attempt) {
+    for (int attempt = 0; attempt < kMaxViews; ++attempt) {
         QImage found, stored;
         if (!user.lookAt("refinementPage", "refinement", &found)) return false;
         user.hand().hold(Key::Space);
@@ -112,8 +112,8 @@ bool compareWithStored(Walk* walk) {
         user.hand().release(Key::Space);
         user.settle();
         if (!looked) return false;
-        const QJsonValue foundOffset = toJson(measureOverlayOffset(found, pictures));
-        const QJsonValue storedOffset = toJson(measureOverlayOffset(stored, pictures));
+        const QJsonValue foundOffset = toJson(measureOverlayOffset(found, images));
+        const QJsonValue storedOffset = toJson(measureOverlayOffset(stored, images));
         walk->result->insert("overlay", QJsonObject{{"found", foundOffset},
                                                     {"stored", storedOffset},
                                                     {"driftPx", expectedOffset(walk->played, found.width())}});
@@ -131,8 +131,8 @@ bool measureReactions(Walk* walk) {
         for (int i = 0; i < 2; ++i) {
             const double milliseconds = walk->user.reactionMs([walk] { walk->user.hand().press(Key::Escape); });
             answered = answered && milliseconds >= 0;
-            if (!busy && !walk->user.hasCome({kPairTaken})) walk->idleReactionsMs.append(milliseconds);
-            if (busy && !walk->user.hasCome(kPairDecided)) walk->busyReactionsMs.append(milliseconds);
+            if (!busy && !walk->user.hasAppeared({kPairTaken})) walk->idleReactionsMs.append(milliseconds);
+            if (busy && !walk->user.hasAppeared(kPairDecided)) walk->busyReactionsMs.append(milliseconds);
             // A fade in progress would count as the reaction to the next press, and a question that is about to open
             // does not accept keys yet. No photo is taken while a question is open.
             walk->user.settle();

@@ -91,15 +91,15 @@ bool CalibrationWriter::writeRotations(const StoredRotations& present, const Sto
 }
 
 bool CalibrationWriter::restore(const Block& block) {
-    return run([&](QString* why) { return takeWhole(block, why); });
+    return run([&](QString* why) { return adoptBlock(block, why); });
 }
 
 bool CalibrationWriter::rewrite() {
     alsoUnchanged_ = true;
-    return run([this](QString* why) { return takeWhole(previous_, why); });
+    return run([this](QString* why) { return adoptBlock(previous_, why); });
 }
 
-bool CalibrationWriter::takeWhole(const Block& block, QString* why) {
+bool CalibrationWriter::adoptBlock(const Block& block, QString* why) {
     wanted_ = block;
     const KXRotationUpdater& updater = *link_.rotationUpdater();
     for (const auto function : {updater.updateThirdCamera, updater.updatePlatformCamera}) {

@@ -74,7 +74,7 @@ private:
 
     bool run(const std::function<bool(QString* why)>& makeWanted);
     bool prepare(const std::function<bool(QString* why)>& makeWanted);
-    bool takeWhole(const Block& block, QString* why);
+    bool adoptBlock(const Block& block, QString* why);
     bool turn(KXUpdateRotationFunction function, const Rotation& rotation, const float* rectifyColour);
     bool announce();
     bool write();

@@ -32,8 +32,8 @@ void swapIntoRecord(const std::uint8_t* bgra, std::size_t pixels, std::uint8_t* 
 
 }  // namespace
 
-bool isPlausiblePictureSize(std::int32_t width, std::int32_t height) {
-    return width >= 1 && height >= 1 && width <= kLargestPictureSide && height <= kLargestPictureSide;
+bool isPlausibleImageSize(std::int32_t width, std::int32_t height) {
+    return width >= 1 && height >= 1 && width <= kLargestImageSide && height <= kLargestImageSide;
 }
 
 void scaleIntoRecord(const cv::Mat& bgra, std::int32_t width, std::int32_t height, cv::Mat* scaled,

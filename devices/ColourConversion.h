@@ -9,9 +9,9 @@
 namespace fieldcal {
 
 /// Largest accepted side of images and records; the smallest is 1.
-inline constexpr std::int32_t kLargestPictureSide = 8192;
+inline constexpr std::int32_t kLargestImageSide = 8192;
 
-bool isPlausiblePictureSize(std::int32_t width, std::int32_t height);
+bool isPlausibleImageSize(std::int32_t width, std::int32_t height);
 
 /// Converts a BGRA image into a record: scales it to width x height (bilinear, as `cv::resize`; no scaling if it has
 /// that size already), swaps red and blue, and sets alpha to 255. `scaled` is a work buffer that the caller keeps from

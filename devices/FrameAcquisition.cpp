@@ -9,13 +9,13 @@ namespace fieldcal {
 namespace {
 
 bool size(ImageFrame* record, std::int32_t width, std::int32_t height) {
-    if (!isPlausiblePictureSize(width, height)) return false;
+    if (!isPlausibleImageSize(width, height)) return false;
     record->resize(static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height));
     return true;
 }
 
 void copy(ImageFrame16* record, std::int32_t width, std::int32_t height, const std::uint16_t* pixels) {
-    if (pixels == nullptr || !isPlausiblePictureSize(width, height)) return;
+    if (pixels == nullptr || !isPlausibleImageSize(width, height)) return;
     record->assign(static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height), pixels);
 }
 
@@ -27,7 +27,7 @@ bool holds(const ImageFrame16& record, std::int32_t width, std::int32_t height, 
 
 /// Copies the pixels, or empties the record when there are none.
 void copyOrEmpty(ImageFrame16* record, std::int32_t width, std::int32_t height, const std::uint16_t* pixels) {
-    if (pixels == nullptr || !isPlausiblePictureSize(width, height)) record->resize(0, 0);
+    if (pixels == nullptr || !isPlausibleImageSize(width, height)) record->resize(0, 0);
     copy(record, width, height, pixels);
 }
 
@@ -38,7 +38,7 @@ bool hasSize(const ImageFrame32& record, const SensorSettings& settings) {
 
 }  // namespace
 
-void Pairing::follow(const StreamNews& infrared, const StreamNews& colour, Clock::time_point infraredAt,
+void Pairing::follow(const StreamDelivery& infrared, const StreamDelivery& colour, Clock::time_point infraredAt,
                      Clock::time_point colourAt) {
     if (infrared.delivered) infraredAt_ = infraredAt;
     if (colour.delivered) colourAt_ = colourAt;
@@ -58,17 +58,17 @@ bool FrameAcquisition::sizeRecords(KXDevice& device, KXThirdCamera& third) {
 }
 
 void FrameAcquisition::refresh(KXDevice& device, KXThirdCamera* third, const SensorSettings& settings) {
-    leftNews = thirdNews = depthNews = {};
+    leftDelivery = thirdDelivery = depthDelivery = {};
     if (settings.depthEnabled && device.depthEnabled()) {
         const std::uint16_t* pixels = device.depthImage();
-        depthNews.delivered = pixels != nullptr;
+        depthDelivery.delivered = pixels != nullptr;
         copy(&records.depth, device.depthWidth(), device.depthHeight(), pixels);
     }
     if (settings.leftEnabled && device.leftEnabled()) {
         const std::uint16_t* pixels = device.leftImage();
         const ImageFrame16& left = records.leftInfrared;
-        leftNews.delivered = pixels != nullptr;
-        leftNews.changed = pixels != nullptr && !holds(left, device.lrWidth(), device.lrHeight(), pixels);
+        leftDelivery.delivered = pixels != nullptr;
+        leftDelivery.changed = pixels != nullptr && !holds(left, device.lrWidth(), device.lrHeight(), pixels);
         copy(&records.leftInfrared, device.lrWidth(), device.lrHeight(), pixels);
     }
     if (settings.rightEnabled && device.rightEnabled()) {
@@ -83,11 +83,11 @@ void FrameAcquisition::refreshThird(KXThirdCamera& third, const SensorSettings& 
     const std::int32_t width = third.thirdWidth();
     const std::int32_t height = third.thirdHeight();
     const std::uint8_t* pixels = third.thirdImage();
-    if (pixels == nullptr || !isPlausiblePictureSize(width, height)) return;
-    if (!isPlausiblePictureSize(settings.thirdScaledWidth, settings.thirdScaledHeight)) return;
-    thirdNews.delivered = true;
-    thirdNews.changed = keepIfNew(pixels, width, height);
-    if (!thirdNews.changed && hasSize(records.colour[ColourCamera::Third], settings)) return;
+    if (pixels == nullptr || !isPlausibleImageSize(width, height)) return;
+    if (!isPlausibleImageSize(settings.thirdScaledWidth, settings.thirdScaledHeight)) return;
+    thirdDelivery.delivered = true;
+    thirdDelivery.changed = keepIfNew(pixels, width, height);
+    if (!thirdDelivery.changed && hasSize(records.colour[ColourCamera::Third], settings)) return;
     scaleIntoRecord(third_, settings.thirdScaledWidth, settings.thirdScaledHeight, &scaledThird_,
                     &records.colour[ColourCamera::Third]);
 }

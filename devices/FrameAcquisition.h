@@ -22,7 +22,7 @@ struct FrameRecords {
 };
 
 /// What the last grab delivered for one stream.
-struct StreamNews {
+struct StreamDelivery {
     bool delivered = false;  ///< an image was delivered
     bool changed = false;    ///< it differs from that of the grab before
 };
@@ -34,7 +34,7 @@ class Pairing {
 public:
     using Clock = std::chrono::steady_clock;
 
-    void follow(const StreamNews& infrared, const StreamNews& colour, Clock::time_point infraredAt,
+    void follow(const StreamDelivery& infrared, const StreamDelivery& colour, Clock::time_point infraredAt,
                 Clock::time_point colourAt);
     /// The age of the older image of the pair; empty when the images are not a pair.
     std::optional<Clock::duration> age(Clock::time_point now) const;
@@ -57,7 +57,7 @@ public:
     void refresh(KXDevice& device, KXThirdCamera* third, const SensorSettings& settings);
 
     FrameRecords records;
-    StreamNews leftNews, thirdNews, depthNews;  ///< of the last `refresh`
+    StreamDelivery leftDelivery, thirdDelivery, depthDelivery;  ///< of the last `refresh`
 
 private:
     void refreshThird(KXThirdCamera& third, const SensorSettings& settings);

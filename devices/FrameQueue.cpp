@@ -8,27 +8,27 @@ namespace {
 
 constexpr std::int32_t kLargestSide = 16384;
 
-bool isPicture(const QueuedPicture& picture) {
-    return picture.pixels != nullptr && picture.width > 0 && picture.height > 0 && picture.width <= kLargestSide &&
-           picture.height <= kLargestSide;
+bool isImage(const QueuedImage& image) {
+    return image.pixels != nullptr && image.width > 0 && image.height > 0 && image.width <= kLargestSide &&
+           image.height <= kLargestSide;
 }
 
-std::size_t nv12Bytes(const QueuedPicture& picture) {
-    return static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height) * 3 / 2;
+std::size_t nv12Bytes(const QueuedImage& image) {
+    return static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height) * 3 / 2;
 }
 
 }  // namespace
 
-bool FrameQueue::push(const QueuedPicture& picture) {
-    if (!isPicture(picture)) return false;
-    incoming_.bytes.assign(picture.pixels, picture.pixels + nv12Bytes(picture));
-    incoming_.picture = picture;
-    incoming_.picture.pixels = incoming_.bytes.data();
+bool FrameQueue::push(const QueuedImage& image) {
+    if (!isImage(image)) return false;
+    incoming_.bytes.assign(image.pixels, image.pixels + nv12Bytes(image));
+    incoming_.image = image;
+    incoming_.image.pixels = incoming_.bytes.data();
     {
         const std::lock_guard<std::mutex> lock(mutex_);
         std::swap(slots_[slotForPush()], incoming_);
     }
-    pictureWaits_.notify_one();
+    imageArrived_.notify_one();
     return true;
 }
 
@@ -44,12 +44,12 @@ std::size_t FrameQueue::slotForPush() {
     return (readIndex_ + waiting_++) & kMask;
 }
 
-bool FrameQueue::latest(std::int32_t waitMs, QueuedPicture* out) {
+bool FrameQueue::latest(std::int32_t waitMs, QueuedImage* out) {
     std::unique_lock<std::mutex> lock(mutex_);
-    const auto somethingWaits = [this] { return waiting_ > 0; };
-    if (!pictureWaits_.wait_for(lock, std::chrono::milliseconds(waitMs), somethingWaits)) return false;
+    const auto imageWaits = [this] { return waiting_ > 0; };
+    if (!imageArrived_.wait_for(lock, std::chrono::milliseconds(waitMs), imageWaits)) return false;
     if (!drainToNewest()) return false;
-    *out = output_.picture;
+    *out = output_.image;
     return true;
 }
 
@@ -67,8 +67,8 @@ bool FrameQueue::drainToNewest() {
 }
 
 bool FrameQueue::isNewer(const Slot& candidate, const Slot& than) {
-    if (than.picture.pixels == nullptr) return true;
-    return static_cast<std::int32_t>(candidate.picture.sequence - than.picture.sequence) > 0;
+    if (than.image.pixels == nullptr) return true;
+    return static_cast<std::int32_t>(candidate.image.sequence - than.image.sequence) > 0;
 }
 
 std::size_t FrameQueue::waiting() const {

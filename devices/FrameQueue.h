@@ -11,7 +11,7 @@
 namespace fieldcal {
 
 /// One image of the queue. The queue owns the pixels.
-struct QueuedPicture {
+struct QueuedImage {
     const std::uint8_t* pixels = nullptr;
     std::int32_t width = 0;
     std::int32_t height = 0;
@@ -34,11 +34,11 @@ public:
 
     /// Producer. Copies the image, whose length follows from its size. Returns false for null pixels or an invalid
     /// size.
-    bool push(const QueuedPicture& picture);
+    bool push(const QueuedImage& image);
 
     /// Consumer. Drains the queue to its newest image, waiting at most `waitMs` for one. Returns false and leaves `out`
     /// unchanged when there is nothing newer than the last image returned. The pixels stay valid until the next call.
-    bool latest(std::int32_t waitMs, QueuedPicture* out);
+    bool latest(std::int32_t waitMs, QueuedImage* out);
 
     /// The number of waiting images.
     std::size_t waiting() const;
@@ -47,7 +47,7 @@ public:
 
 private:
     struct Slot {
-        QueuedPicture picture;  ///< `pixels` is set when the slot holds one
+        QueuedImage image;  ///< `pixels` is set when the slot holds one
         std::vector<std::uint8_t> bytes;
     };
     static constexpr std::size_t kMask = kSlots - 1;
@@ -64,7 +64,7 @@ private:
     std::size_t readIndex_ = 0;
     std::size_t waiting_ = 0;
     mutable std::mutex mutex_;
-    std::condition_variable pictureWaits_;
+    std::condition_variable imageArrived_;
 };
 
 }  // namespace fieldcal

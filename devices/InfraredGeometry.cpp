@@ -18,13 +18,13 @@ bool allFinite(std::initializer_list<float> numbers) {
 template <typename Model>
 bool isPinhole(const Model& model) {
     return allFinite({model.fx, model.fy, model.cx, model.cy}) && model.fx > 0 && model.fy > 0 &&
-           isPlausiblePictureSize(model.w, model.h);
+           isPlausibleImageSize(model.w, model.h);
 }
 
 /// Returns 0 when the result is not a valid image side.
 std::int32_t roundedSide(std::int32_t side, double factor) {
     const double scaled = std::round(side * factor);
-    return scaled >= 1 && scaled <= kLargestPictureSide ? static_cast<std::int32_t>(scaled) : 0;
+    return scaled >= 1 && scaled <= kLargestImageSide ? static_cast<std::int32_t>(scaled) : 0;
 }
 
 }  // namespace

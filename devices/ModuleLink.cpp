@@ -66,7 +66,7 @@ ModuleLink::Creation ModuleLink::createDevice() {
 }
 
 void ModuleLink::close() {
-    letGo(std::move(device_), limits_.call, stopRequested());
+    releaseWithin(std::move(device_), limits_.call, stopRequested());
 }
 
 bool ModuleLink::make(std::function<bool()> call, std::chrono::milliseconds limit, bool quietly) {

@@ -1,7 +1,5 @@
 #include "devices/PXMServiceManager.h"
 
-#include "kxapi/Library.h"
-
 #include <QtGlobal>
 
 namespace fieldcal {
@@ -47,9 +45,14 @@ private:
 };
 
 PXMServiceManager& PXMServiceManager::instance() {
-    static const bool simulated = usesSimulatedLibraries();
-    static const std::unique_ptr<ServiceControl> control = simulated ? emptyServiceControl() : systemServiceControl();
-    static PXMServiceManager manager(*control, simulated ? nullptr : systemServiceNote());
+    static const std::unique_ptr<ServiceControl> control = systemServiceControl();
+    static PXMServiceManager manager(*control, systemServiceNote());
+    return manager;
+}
+
+PXMServiceManager& PXMServiceManager::withoutService() {
+    static const std::unique_ptr<ServiceControl> control = emptyServiceControl();
+    static PXMServiceManager manager(*control);
     return manager;
 }
 

@@ -17,9 +17,10 @@ namespace fieldcal {
 /// restoring the start type, the next run restores it at its end. One thread at a time.
 class PXMServiceManager {
 public:
-    /// The instance of the process. It uses this system's service control; in a program with the simulated libraries it
-    /// uses an empty one without a note. For the composition root, after that choice has been made.
+    /// The instance of the process, which uses this system's service control.
     static PXMServiceManager& instance();
+    /// An instance that finds no service and keeps no note, for programs with the simulated libraries.
+    static PXMServiceManager& withoutService();
 
     /// `note` keeps the start type while the service is disabled; null: nothing is kept.
     explicit PXMServiceManager(ServiceControl& control, std::unique_ptr<ServiceNote> note = nullptr)

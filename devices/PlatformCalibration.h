@@ -8,8 +8,8 @@
 namespace fieldcal {
 
 /// The size of the rear camera's images and of their rectification.
-inline constexpr std::int32_t kPlatformPictureWidth = 1280;
-inline constexpr std::int32_t kPlatformPictureHeight = 720;
+inline constexpr std::int32_t kPlatformImageWidth = 1280;
+inline constexpr std::int32_t kPlatformImageHeight = 720;
 
 /// The rear camera's calibration as read from the module, needed to rectify its images.
 struct PlatformCalibration {

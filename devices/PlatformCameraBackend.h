@@ -29,7 +29,7 @@ public:
 
     /// Longest time from setting up the streams to the first image. 0 when images arrive during the grabs of the
     /// module.
-    virtual std::int32_t firstPictureMs() const = 0;
+    virtual std::int32_t firstImageMs() const = 0;
 };
 
 }  // namespace fieldcal

@@ -60,14 +60,14 @@ bool CPlatformCameraControl::setupPhotoStream(std::int32_t width, std::int32_t h
            backend_->setupStream(PlatformCameraBackend::Stream::Photo, width, height, 0, subtype);
 }
 
-bool CPlatformCameraControl::latestFrame(QueuedPicture* out, std::int32_t waitMilliseconds) {
+bool CPlatformCameraControl::latestFrame(QueuedImage* out, std::int32_t waitMilliseconds) {
     if (!queue_.latest(handedOut_ ? 0 : waitMilliseconds, out)) return false;
     handedOut_ = true;
     return true;
 }
 
 bool CPlatformCameraControl::awaitFirstFrame(const std::atomic<bool>* stop) const {
-    const std::int32_t limitMs = backend_->firstPictureMs();
+    const std::int32_t limitMs = backend_->firstImageMs();
     for (std::int32_t waitedMs = 0; waitedMs < limitMs && !frameReady_; waitedMs += kWaitStepMs) {
         if (stop != nullptr && *stop) return false;
         std::this_thread::sleep_for(std::chrono::milliseconds(kWaitStepMs));
@@ -75,8 +75,8 @@ bool CPlatformCameraControl::awaitFirstFrame(const std::atomic<bool>* stop) cons
     return frameReady_;
 }
 
-void CPlatformCameraControl::onPicture(const std::uint8_t* nv12, std::int32_t width, std::int32_t height,
-                                       double timeSeconds) {
+void CPlatformCameraControl::onImage(const std::uint8_t* nv12, std::int32_t width, std::int32_t height,
+                                     double timeSeconds) {
     const std::uint32_t sequence = frameCounter_++;
     if (queue_.push({nv12, width, height, sequence, timeSeconds, std::chrono::steady_clock::now()})) frameReady_ = true;
 }

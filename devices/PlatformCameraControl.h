@@ -35,7 +35,7 @@ public:
     /// Returns the newest NV12 image of the record stream, valid until the next call; false when there is none newer
     /// than the last one. Waits at most `waitMilliseconds`, and only until the first image was returned: after that the
     /// caller has an image to keep, and the depth stream must not be slowed down to the rate of the rear camera.
-    bool latestFrame(QueuedPicture* out, std::int32_t waitMilliseconds);
+    bool latestFrame(QueuedImage* out, std::int32_t waitMilliseconds);
 
     /// Set once the first image has arrived.
     bool frameReady() const { return frameReady_; }
@@ -47,7 +47,7 @@ public:
 private:
     enum class State { Empty, Selected, Open };
 
-    void onPicture(const std::uint8_t* nv12, std::int32_t width, std::int32_t height, double timeSeconds) override;
+    void onImage(const std::uint8_t* nv12, std::int32_t width, std::int32_t height, double timeSeconds) override;
 
     std::unique_ptr<PlatformCameraBackend> backend_;
     FrameQueue queue_;

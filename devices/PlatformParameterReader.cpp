@@ -12,8 +12,8 @@ namespace {
 
 constexpr double kAspectRatioScaleFactor = 1.0;
 
-bool hasPictureSize(std::int32_t width, std::int32_t height) {
-    return width == kPlatformPictureWidth && height == kPlatformPictureHeight;
+bool hasImageSize(std::int32_t width, std::int32_t height) {
+    return width == kPlatformImageWidth && height == kPlatformImageHeight;
 }
 
 bool holdsNumbers(const double* matrix) {
@@ -38,16 +38,16 @@ void logCalibration(const PlatformCalibration& calibration) {
 bool readRectification(KXPlatformCamera& camera, const KXLibrary& library, PlatformCalibration* out) {
     auto& raw = out->kPlatformNonRectIntr;
     auto& rectified = out->kPlatformRectIntr;
-    if (!camera.setPlatformMode(0, kPlatformPictureWidth, kPlatformPictureHeight)) return unusable("its raw mode");
-    if (!camera.nonRectifiedIntrinsics(&raw) || !isUsable(raw) || !hasPictureSize(raw.w, raw.h)) {
+    if (!camera.setPlatformMode(0, kPlatformImageWidth, kPlatformImageHeight)) return unusable("its raw mode");
+    if (!camera.nonRectifiedIntrinsics(&raw) || !isUsable(raw) || !hasImageSize(raw.w, raw.h)) {
         return unusable("its raw model");
     }
     const double* rotation = camera.rectificationRotation();
     if (!holdsNumbers(rotation)) return unusable("its rectification");
-    if (!camera.setPlatformMode(1, kPlatformPictureWidth, kPlatformPictureHeight)) {
+    if (!camera.setPlatformMode(1, kPlatformImageWidth, kPlatformImageHeight)) {
         return unusable("its rectified mode");
     }
-    if (!camera.rectifiedIntrinsics(&rectified) || !isUsable(rectified) || !hasPictureSize(rectified.w, rectified.h)) {
+    if (!camera.rectifiedIntrinsics(&rectified) || !isUsable(rectified) || !hasImageSize(rectified.w, rectified.h)) {
         return unusable("its rectified model");
     }
     out->rectificationTable.resize(static_cast<std::size_t>(rectified.w) * static_cast<std::size_t>(rectified.h));

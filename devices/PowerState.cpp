@@ -3,7 +3,7 @@
 namespace fieldcal {
 
 bool sufficesToWrite(const std::optional<PowerState>& power) {
-    return !power || power->mains || power->batteryPercent >= kLeastBatteryPercent;
+    return !power || power->mains || power->batteryPercent >= kMinBatteryPercent;
 }
 
 }  // namespace fieldcal

@@ -12,7 +12,7 @@ struct PowerState {
 };
 
 /// The charge below which no write into the module's flash begins without mains.
-constexpr int kLeastBatteryPercent = 15;
+constexpr int kMinBatteryPercent = 15;
 
 /// Returns whether the supply is expected to last for a write into the flash. Without knowledge of it, it is.
 bool sufficesToWrite(const std::optional<PowerState>& power);

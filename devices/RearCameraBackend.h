@@ -24,7 +24,7 @@ public:
     bool setupStream(Stream stream, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond,
                      const std::string& subtype) override;
     void setSink(RearCameraSink* sink) override;
-    std::int32_t firstPictureMs() const override { return 0; }
+    std::int32_t firstImageMs() const override { return 0; }
 
 private:
     std::shared_ptr<const KXLibrary> library_;  ///< keeps the code of the source loaded

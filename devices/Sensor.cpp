@@ -115,7 +115,7 @@ bool Sensor::createDevice() {
 
 bool Sensor::grab(bool wait) {
     if (!refreshRecords(false, wait)) return false;
-    if (settings_.usePlatformCamera && !fetchPlatformPicture()) {
+    if (settings_.usePlatformCamera && !fetchPlatformImage()) {
         if (link_.stopRequested()) return false;
         emit signal_reportPlatformCameraIssue();
     }
@@ -125,7 +125,7 @@ bool Sensor::grab(bool wait) {
 
 bool Sensor::grabQuietly() {
     if (!refreshRecords(true, true)) return false;
-    if (settings_.usePlatformCamera) fetchPlatformPicture();
+    if (settings_.usePlatformCamera) fetchPlatformImage();
     updateColourRecords();
     return true;
 }
@@ -144,28 +144,28 @@ bool Sensor::refreshRecords(bool quietly, bool wait) {
 
 void Sensor::updateColourRecords() {
     followPairs();
-    platformPicture_.deliver(settings_.platformScaledWidth, settings_.platformScaledHeight,
-                             &frames_->records.colour[ColourCamera::Platform]);
+    platformImage_.deliver(settings_.platformScaledWidth, settings_.platformScaledHeight,
+                           &frames_->records.colour[ColourCamera::Platform]);
 }
 
-bool Sensor::fetchPlatformPicture() {
+bool Sensor::fetchPlatformImage() {
     if (platformCamera_ == nullptr) return false;
     if (!platformCamera_->frameReady()) return false;
-    if (!platformPictureWanted_ || platformCalibration_.rectificationTable.empty()) return true;
-    platformPicture_.fetch(*platformCamera_, platformCalibration_, link_.library()->rectifyBGRA8ToBGRA8,
-                           environment_.now());
-    platformNv12_ = platformPicture_.nv12();
-    return !platformPicture_.hasDied();
+    if (!platformImageWanted_ || platformCalibration_.rectificationTable.empty()) return true;
+    platformImage_.fetch(*platformCamera_, platformCalibration_, link_.library()->rectifyBGRA8ToBGRA8,
+                         environment_.now());
+    platformNv12_ = platformImage_.nv12();
+    return !platformImage_.hasFailed();
 }
 
 void Sensor::followPairs() {
     const auto now = environment_.now();
-    if (frames_->depthNews.delivered) depthAt_ = now;
+    if (frames_->depthDelivery.delivered) depthAt_ = now;
     // Depth from another time must not be combined with the pair.
     if (settings_.depthEnabled && now - depthAt_ > kOldest) frames_->records.depth.resize(0, 0);
-    pairs_[ColourCamera::Third].follow(frames_->leftNews, frames_->thirdNews, now, now);
-    const StreamNews platform{platformNv12_ != nullptr, platformNv12_ != nullptr && platformPicture_.changed()};
-    pairs_[ColourCamera::Platform].follow(frames_->leftNews, platform, now, platformPicture_.arrived());
+    pairs_[ColourCamera::Third].follow(frames_->leftDelivery, frames_->thirdDelivery, now, now);
+    const StreamDelivery platform{platformNv12_ != nullptr, platformNv12_ != nullptr && platformImage_.changed()};
+    pairs_[ColourCamera::Platform].follow(frames_->leftDelivery, platform, now, platformImage_.arrived());
 }
 
 bool Sensor::isFreshPair(ColourCamera camera) const {
@@ -200,7 +200,7 @@ void Sensor::use(ModuleCalibration calibration) {
 }
 
 void Sensor::closePlatformCamera() {
-    letGo(std::move(platformCamera_), environment_.limits.call, link_.stopRequested());
+    releaseWithin(std::move(platformCamera_), environment_.limits.call, link_.stopRequested());
 }
 
 bool Sensor::updateRotation(const Rotation& third, const Rotation& platform, const BeforeWrite& beforeWrite,
@@ -252,7 +252,7 @@ bool Sensor::mayWrite() {
     if (!opened_) return refuseToWrite("the camera is not open");
     if (environment_.power && !sufficesToWrite(environment_.power())) {
         return refuseToWrite(
-            QString("the battery holds less than %1 % and is not being charged").arg(kLeastBatteryPercent));
+            QString("the battery holds less than %1 % and is not being charged").arg(kMinBatteryPercent));
     }
     return true;
 }

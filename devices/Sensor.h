@@ -7,7 +7,7 @@
 #include "devices/ModuleLink.h"
 #include "devices/ModuleOpening.h"
 #include "devices/PlatformCalibration.h"
-#include "devices/PlatformPicture.h"
+#include "devices/PlatformImage.h"
 #include "devices/SensorEnvironment.h"
 #include "devices/SensorSettings.h"
 
@@ -73,7 +73,7 @@ public:
     /// Sets whether `grab` updates the record of the rear camera, which is the default. The update costs more than the
     /// rest of the pass and is not needed while the in-module camera is calibrated. While it is off, the record keeps
     /// its content; after it is switched on, the next pass takes the newest image.
-    void setPlatformPictureWanted(bool wanted) { platformPictureWanted_ = wanted; }
+    void setPlatformImageWanted(bool wanted) { platformImageWanted_ = wanted; }
 
     /// Switches the infrared emitter. Returns false, without a report, when it is to be switched on and the device has
     /// none.
@@ -134,7 +134,7 @@ private:
     bool createDevice();
     bool refreshRecords(bool quietly, bool wait);
     void updateColourRecords();
-    bool fetchPlatformPicture();
+    bool fetchPlatformImage();
     void followPairs();
     void closePlatformCamera();
     bool mayWrite();
@@ -147,7 +147,7 @@ private:
     std::shared_ptr<CPlatformCameraControl> platformCamera_;
     SensorSettings settings_;
     std::shared_ptr<FrameAcquisition> frames_ = std::make_shared<FrameAcquisition>();
-    PlatformPicture platformPicture_;
+    PlatformImage platformImage_;
     PerColourCamera<Pairing> pairs_;
     Pairing::Clock::time_point depthAt_;
     const std::uint8_t* platformNv12_ = nullptr;
@@ -155,7 +155,7 @@ private:
     PlatformCalibration platformCalibration_;
     std::optional<StoredRotations> rotationsInFlash_;
     WriteBackReport writeBack_;
-    bool platformPictureWanted_ = true;
+    bool platformImageWanted_ = true;
     bool openTried_ = false;
     bool opened_ = false;
 };

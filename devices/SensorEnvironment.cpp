@@ -24,11 +24,12 @@ QString userDataFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/field-calibrator";
 }
 
-SensorEnvironment systemEnvironment() {
+SensorEnvironment systemEnvironment(kxapi::LibrarySearch search) {
     SensorEnvironment environment;
-    environment.loadLibrary = KXLibrary::load;
-    environment.loadRotationUpdater = KXRotationUpdater::load;
-    environment.services = &PXMServiceManager::instance();
+    environment.loadLibrary = [search](std::string* why) { return KXLibrary::load(why, search); };
+    environment.loadRotationUpdater = [search](std::string* why) { return KXRotationUpdater::load(why, search); };
+    environment.services = search == kxapi::LibrarySearch::SimulatedOnly ? &PXMServiceManager::withoutService()
+                                                                         : &PXMServiceManager::instance();
     environment.createPlatformCamera = [](std::shared_ptr<const KXLibrary> library) {
         return std::make_unique<CPlatformCameraControl>(rearCameraBeside(std::move(library)));
     };

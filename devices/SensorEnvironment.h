@@ -36,7 +36,8 @@ struct SensorEnvironment {
 /// Returns this user's folder for the program's data, which need not exist.
 QString userDataFolder();
 
-/// Returns the real loaders, the process's service manager, this system's rear camera and the user's data folder.
-SensorEnvironment systemEnvironment();
+/// Returns the real loaders, the process's service manager, this system's rear camera and the user's data folder. With
+/// `SimulatedOnly`, the vendor's service is not touched.
+SensorEnvironment systemEnvironment(kxapi::LibrarySearch search = kxapi::LibrarySearch::Installed);
 
 }  // namespace fieldcal

@@ -14,7 +14,7 @@ using Clock = std::chrono::steady_clock;
 constexpr std::chrono::milliseconds kStopCheck{20};
 constexpr std::chrono::milliseconds kGraceAfterStop{333};
 /// Time limit for releasing an object while the program is about to end.
-constexpr std::chrono::milliseconds kHastyRelease{600};
+constexpr std::chrono::milliseconds kReleaseLimitWhenStopping{600};
 /// Largest time counted per check, so that the tablet's sleep does not count as waiting.
 constexpr std::chrono::milliseconds kLongestCheck{500};
 
@@ -89,10 +89,11 @@ WatchedCalls::Ending WatchedCalls::run(std::function<void()> call, std::chrono::
     return Ending::Returned;
 }
 
-void letGo(std::shared_ptr<void> last, std::chrono::milliseconds limit, bool inHaste) {
+void releaseWithin(std::shared_ptr<void> last, std::chrono::milliseconds limit, bool stopping) {
     if (last == nullptr) return;
     const auto held = std::make_shared<std::shared_ptr<void>>(std::move(last));
-    WatchedCalls().run([held] { held->reset(); }, inHaste ? std::min(kHastyRelease, limit) : limit, nullptr);
+    WatchedCalls().run([held] { held->reset(); }, stopping ? std::min(kReleaseLimitWhenStopping, limit) : limit,
+                       nullptr);
 }
 
 }  // namespace fieldcal

@@ -35,7 +35,7 @@ private:
 };
 
 /// Releases an object whose destruction may never end, on a separate thread. After `limit`, or much earlier when the
-/// program is about to end (`inHaste`), the function returns and leaves the object to that thread.
-void letGo(std::shared_ptr<void> last, std::chrono::milliseconds limit, bool inHaste);
+/// program is about to end (`stopping`), the function returns and leaves the object to that thread.
+void releaseWithin(std::shared_ptr<void> last, std::chrono::milliseconds limit, bool stopping);
 
 }  // namespace fieldcal

@@ -31,7 +31,7 @@ constexpr double kPairDepartureRad = 0.03 / kDegreesPerRadian;
 /// exposures appears as rotation.
 constexpr float kStillPx = 0.5F;
 constexpr float kStillShare = 1.5F;
-constexpr std::size_t kMostPerArea = 60;
+constexpr std::size_t kMaxPerArea = 60;
 
 /// Conditions that a fit has to meet before its estimate of the stereo baseline is used.
 constexpr std::size_t kMinimumForScale = 100;
@@ -50,7 +50,7 @@ std::vector<MeasuredMatch> balanced(const std::vector<MeasuredMatch>& matches, c
         areas[areaOf(match.place.infrared, infrared)].push_back(&match);
     std::vector<MeasuredMatch> kept;
     for (const auto& area : areas) {
-        const std::size_t count = std::min(area.size(), kMostPerArea);
+        const std::size_t count = std::min(area.size(), kMaxPerArea);
         for (std::size_t i = 0; i < count; ++i)
             kept.push_back(*area[i * area.size() / count]);
     }

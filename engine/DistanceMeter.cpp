@@ -16,7 +16,7 @@ using fieldcal::logMessage;
 constexpr double kTypicalBaselineM = 0.06;
 constexpr double kTypicalDeviation = 0.25;
 /// A less certain baseline from the fit is used for distances but not reported as known.
-constexpr double kTellableDeviation = 0.05;
+constexpr double kMaxFitDeviation = 0.05;
 constexpr double kRememberedDeviation = 0.01;
 /// Depth values outside this range are ignored; metres.
 constexpr float kNearestM = 0.3F, kFarthestM = 15.0F;
@@ -29,7 +29,7 @@ constexpr double kBlankDeviation = 2.0;
 constexpr float kBehindHorizonPx = -1.5F;
 constexpr double kLargestShareBehind = 0.3;
 constexpr std::size_t kPlacesToJudge = 50;
-constexpr std::size_t kMostSamples = 6000;
+constexpr std::size_t kMaxSamples = 6000;
 /// Radius around a place within which the depth image is checked for values.
 constexpr int kDepthReachPx = 15;
 /// The depth of a place is the median of 5 x 5 pixels.
@@ -162,7 +162,7 @@ void DistanceMeter::learnFrom(const std::vector<MeasuredPlace>& places) {
         if (std::isnan(place.disparityPx)) continue;
         ++seen;
         if (place.disparityPx < kBehindHorizonPx) ++behind;
-        if (!std::isnan(place.inverseDepth) && samples_.size() < kMostSamples) samples_.push_back(place);
+        if (!std::isnan(place.inverseDepth) && samples_.size() < kMaxSamples) samples_.push_back(place);
     }
     if (seen >= kPlacesToJudge && static_cast<double>(behind) > kLargestShareBehind * static_cast<double>(seen)) {
         refuse("does not lie to the right of the left one");
@@ -196,7 +196,7 @@ void DistanceMeter::setFittedScale(const StereoScale& fitted) {
 
 BaselineSource DistanceMeter::source() const {
     if (fromDepth_) return BaselineSource::Depth;
-    if (fromFit_ && fromFit_->relativeDeviation <= kTellableDeviation) return BaselineSource::Fit;
+    if (fromFit_ && fromFit_->relativeDeviation <= kMaxFitDeviation) return BaselineSource::Fit;
     return remembered_ ? BaselineSource::Remembered : BaselineSource::None;
 }
 

@@ -17,7 +17,7 @@ using fieldcal::logMessage;
 constexpr const char* kTag = "FrameSelector::shouldUseThisFrame";
 constexpr int kMotionWindowPx = 256, kSmallestMotionWindowPx = 32;
 /// With a lower response, phase correlation has not found a common shift.
-constexpr double kLeastResponse = 0.1;
+constexpr double kMinResponse = 0.1;
 
 cv::Mat viewOf(const fieldcal::ImageFrame& frame, int type) {
     return {static_cast<int>(frame.height()), static_cast<int>(frame.width()), type,
@@ -49,7 +49,7 @@ float motionBetween(const cv::Mat& earlier, const cv::Mat& later) {
     cv::createHanningWindow(window, middle.size(), CV_32F);
     double response = 0;
     const cv::Point2d shift = cv::phaseCorrelate(a, b, window, &response);
-    return response > kLeastResponse ? static_cast<float>(std::hypot(shift.x, shift.y)) : 0;
+    return response > kMinResponse ? static_cast<float>(std::hypot(shift.x, shift.y)) : 0;
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ constexpr double kConvergedPx = 0.03;
 /// light: standard deviation in pixels.
 constexpr double kModelDeviationPx = 0.05;
 /// Lower bound of the residual variance of a patch: the rounding of both images to whole grey levels.
-constexpr float kLeastVariance = 0.5F;
+constexpr float kMinVariance = 0.5F;
 
 using Window = Patch<kSize>;
 
@@ -182,7 +182,7 @@ private:
         match.place.infrared = middle;
         match.colour = projection_.cameras.colourModelPoint(
             {static_cast<float>(placement.middle.x()), static_cast<float>(placement.middle.y())});
-        const float variance = unexplainedShare * patch.squares() / kArea + kLeastVariance;
+        const float variance = unexplainedShare * patch.squares() / kArea + kMinVariance;
         const Eigen::Matrix2d toInfrared = placement.axes.inverse();
         const Eigen::Matrix2d information =
             toInfrared.transpose() * patch.hessian().cast<double>() * toInfrared / variance;

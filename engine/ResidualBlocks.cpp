@@ -21,8 +21,8 @@ constexpr std::size_t kMinimumBlocks = 4;
 /// departures.
 constexpr double kImprobable = 1e-5;
 
-constexpr double kLeastScaleDoubt = 0.02;
-constexpr double kFewestPixelsPerMetre = 1e-3;  ///< below this, a translation cannot be observed
+constexpr double kMinScaleDoubt = 0.02;
+constexpr double kMinPixelsPerMetre = 1e-3;  ///< below this, a translation cannot be observed
 
 /// The unknowns of each departure, and the standard deviation that scenes without it show beyond the one from the
 /// blocks. Shade, foliage and slightly wrong distances distort an image by a tenth or two of a pixel.
@@ -164,8 +164,8 @@ double ResidualBlocks::leastDeviation(std::size_t departure) const {
     const double pixelsPerMetre =
         std::sqrt(squaredPixelsPerMetre_ / static_cast<double>(std::max<std::size_t>(matches_, 1)));
     const double ofScale = options_.scale != nullptr ? options_.scale->relativeDeviation : 0;
-    return std::hypot(least / std::max(pixelsPerMetre, kFewestPixelsPerMetre),
-                      std::max(ofScale, kLeastScaleDoubt) * projection_.translationM.norm());
+    return std::hypot(least / std::max(pixelsPerMetre, kMinPixelsPerMetre),
+                      std::max(ofScale, kMinScaleDoubt) * projection_.translationM.norm());
 }
 
 ModelCheck ResidualBlocks::checkModel() const {

@@ -10,7 +10,7 @@
 namespace vq {
 namespace {
 
-constexpr int kMostIterations = 50;
+constexpr int kMaxIterations = 50;
 constexpr double kConvergedRad = 1e-7;
 constexpr std::size_t kMinimumMatches = 6;
 /// Standard deviation of a measured disparity, from objects at infinity in rendered worlds.
@@ -132,7 +132,7 @@ std::optional<FittedRotation> fitRotation(const std::vector<MeasuredMatch>& matc
     Step step(projection, options);
     Eigen::Matrix3d rotation = start;
     double inverseScale = options.estimateScale ? 1 / options.scale->pixelMetres : 0;
-    for (int i = 0; i < kMostIterations; ++i) {
+    for (int i = 0; i < kMaxIterations; ++i) {
         step.accumulate(terms, rotation, inverseScale);
         const Vector4 solution = step.solution();
         if (!solution.allFinite()) return std::nullopt;

@@ -30,7 +30,7 @@ constexpr double kUnseenScatterShare = 0.5;
 constexpr double kNearPx = 12.0;
 /// Share of a still's verified matches that must lie near the prediction of a correct rotation. Chance produces about a
 /// tenth.
-constexpr double kLeastNearShare = 0.2;
+constexpr double kMinNearShare = 0.2;
 
 std::vector<MeasuredMatch> matchesNear(const JudgedSolution& solution, const JudgedStill& still,
                                        const Eigen::Matrix3d& rotation) {
@@ -115,7 +115,7 @@ std::optional<HoldOutProof> prove(const JudgedSolution& solution) {
         const auto fitted = fitRotation(others, solution.projection, solution.rotation, solution.options);
         if (!fitted) continue;
         std::vector<MeasuredMatch> matches = matchesNear(solution, judged, fitted->rotation);
-        if (static_cast<double>(matches.size()) < kLeastNearShare * static_cast<double>(judged.verified.size()))
+        if (static_cast<double>(matches.size()) < kMinNearShare * static_cast<double>(judged.verified.size()))
             matches = judged.verified;
         for (const MeasuredMatch& match : matches) {
             const Projection& projection = solution.projection;

@@ -8,7 +8,7 @@
 namespace fieldcal {
 namespace {
 
-constexpr int kMostNames = 100;
+constexpr int kMaxNames = 100;
 constexpr std::size_t kDigits = 32;
 constexpr const char* kHexadecimal = "0123456789abcdef";
 
@@ -29,7 +29,7 @@ bool isOurName(const std::string& name, const std::string& stem) {
 
 bool makePrivateFolder(const std::string& parent, const std::string& stem, std::string* folder, std::string* why) {
     std::string reason;
-    for (int i = 0; i < kMostNames; ++i) {
+    for (int i = 0; i < kMaxNames; ++i) {
         bool nameIsTaken = false;
         *folder = parent;
         folder->append("/").append(stem).append(randomDigits());

@@ -7,7 +7,7 @@
 namespace fieldcal {
 namespace {
 
-constexpr int kMostNames = 100;
+constexpr int kMaxNames = 100;
 
 bool refuse(const std::string& file, const std::string& reason, std::string* why) {
     *why = file + ": " + reason;
@@ -35,7 +35,7 @@ std::string folderOf(const std::string& file) {
 /// Creates a new file beside `file` and opens it for writing.
 bool createBeside(const std::string& file, SystemFile* out, std::string* name) {
     static std::atomic<unsigned> count{0};
-    for (int i = 0; i < kMostNames; ++i) {
+    for (int i = 0; i < kMaxNames; ++i) {
         *name = file + '.' + std::to_string(processNumber()) + '-' + std::to_string(count++) + ".part";
         if (out->create(*name, file)) return true;
         if (!out->nameIsTaken()) return false;

@@ -4,8 +4,6 @@
 
 namespace {
 
-bool simulatedOnly = false;
-
 template <typename Function>
 bool take(void* handle, const char* name, Function* out, std::string* why) {
     *out = reinterpret_cast<Function>(kxapi::findSymbol(handle, name));
@@ -15,9 +13,9 @@ bool take(void* handle, const char* name, Function* out, std::string* why) {
 
 }  // namespace
 
-std::shared_ptr<const KXLibrary> KXLibrary::load(std::string* why) {
+std::shared_ptr<const KXLibrary> KXLibrary::load(std::string* why, kxapi::LibrarySearch search) {
     auto library = std::make_shared<KXLibrary>();
-    library->handle_ = kxapi::openSharedLibrary("KXAPI", why);
+    library->handle_ = kxapi::openSharedLibrary("KXAPI", search, why);
     if (library->handle_ == nullptr || !library->resolve(why)) return nullptr;
     return library;
 }
@@ -42,13 +40,4 @@ void* KXLibrary::symbol(const char* name) const {
 
 KXLibrary::~KXLibrary() {
     if (handle_ != nullptr) kxapi::closeSharedLibrary(handle_);
-}
-
-bool useSimulatedLibraries() {
-    simulatedOnly = kxapi::restrictToSimulated("simulated");
-    return simulatedOnly;
-}
-
-bool usesSimulatedLibraries() {
-    return simulatedOnly;
 }

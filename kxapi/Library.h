@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kxapi/KXAPI.h"
+#include "kxapi/LibrarySearch.h"
 
 #include <memory>
 #include <string>
@@ -12,7 +13,8 @@ class KXLibrary {
 public:
     /// Returns null when the library is missing, lacks a function or has another interface version, and states the
     /// reason in `why`.
-    static std::shared_ptr<const KXLibrary> load(std::string* why);
+    static std::shared_ptr<const KXLibrary> load(std::string* why,
+                                                 kxapi::LibrarySearch search = kxapi::LibrarySearch::Installed);
 
     ~KXLibrary();
     KXLibrary(const KXLibrary&) = delete;
@@ -35,11 +37,3 @@ private:
 
     void* handle_ = nullptr;
 };
-
-/// Restricts the search for both libraries to the folder `simulated` beside the program, so that a demonstration never
-/// reaches a real camera. Returns false and changes nothing when that folder is missing on a system that requires it.
-/// On Linux it is not required, because the simulated libraries lie beside the program itself. To be called before the
-/// first library is loaded.
-bool useSimulatedLibraries();
-/// Returns whether `useSimulatedLibraries` was called successfully.
-bool usesSimulatedLibraries();

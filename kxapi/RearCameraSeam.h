@@ -11,7 +11,7 @@
 class RearCameraSink {
 public:
     /// `nv12`: width x height luma bytes, then half as many of interleaved U and V, valid during the call only.
-    virtual void onPicture(const std::uint8_t* nv12, std::int32_t width, std::int32_t height, double timeSeconds) = 0;
+    virtual void onImage(const std::uint8_t* nv12, std::int32_t width, std::int32_t height, double timeSeconds) = 0;
 };
 
 class RearCameraSource {

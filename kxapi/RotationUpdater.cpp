@@ -14,9 +14,9 @@ KXUpdateRotationFunction find(void* handle, const char* function, std::string* w
 
 }  // namespace
 
-std::shared_ptr<const KXRotationUpdater> KXRotationUpdater::load(std::string* why) {
+std::shared_ptr<const KXRotationUpdater> KXRotationUpdater::load(std::string* why, kxapi::LibrarySearch search) {
     auto library = std::make_shared<KXRotationUpdater>();
-    library->handle_ = kxapi::openSharedLibrary(kName, why);
+    library->handle_ = kxapi::openSharedLibrary(kName, search, why);
     if (library->handle_ == nullptr) return nullptr;
     library->updateThirdCamera = find(library->handle_, "KXUpdateThirdCameraRotation", why);
     library->updatePlatformCamera = find(library->handle_, "KXUpdatePlatformCameraRotation", why);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kxapi/KXAPI.h"
+#include "kxapi/LibrarySearch.h"
 
 #include <memory>
 #include <string>
@@ -10,7 +11,8 @@
 class KXRotationUpdater {
 public:
     /// Returns null when the library or one of its functions is missing, and states the reason in `why`.
-    static std::shared_ptr<const KXRotationUpdater> load(std::string* why);
+    static std::shared_ptr<const KXRotationUpdater> load(std::string* why,
+                                                         kxapi::LibrarySearch search = kxapi::LibrarySearch::Installed);
 
     ~KXRotationUpdater();
     KXRotationUpdater(const KXRotationUpdater&) = delete;

@@ -8,10 +8,10 @@ namespace fieldcal {
 namespace {
 
 constexpr int kWidestGapPx = 12;     ///< without depth, beside a near object
-constexpr int kLeastPieces = 24;     ///< of a border
+constexpr int kMinPieces = 24;       ///< of a border
 constexpr int kReachPx = 8;          ///< of the neighbourhood that tells whether a surface is upright
-constexpr int kLeastSamples = 12;    ///< of this neighbourhood
-constexpr double kLeastKnown = 0.9;  ///< share of this surface with depth; it is lower where depth fades with distance
+constexpr int kMinSamples = 12;      ///< of this neighbourhood
+constexpr double kMinKnown = 0.9;    ///< share of this surface with depth; it is lower where depth fades with distance
 constexpr double kBlindBand = 0.15;  ///< share of the width at either side, where one of the two imagers sees nothing
 constexpr int kSmoothings = 3;       ///< of the steps that the pixel grid leaves in a slanted border
 
@@ -79,7 +79,7 @@ private:
                 if (original_[row * width_ + column] != 0) ++known;
             }
         }
-        return known >= kLeastSamples && known >= kLeastKnown * fit.count && isUpright(fit, y - camera_.cy, depth);
+        return known >= kMinSamples && known >= kMinKnown * fit.count && isUpright(fit, y - camera_.cy, depth);
     }
     /// Returns whether the height above the camera's axis changes more than the distance from one row to the next.
     bool isUpright(const RowFit& fit, double row, double depth) const {
@@ -154,7 +154,7 @@ public:
         const std::vector<int> lengths = measure();
         std::vector<DepthEdge> edges;
         for (std::size_t i = 0; i < crossings_.size(); ++i) {
-            if (lengths[i] < kLeastPieces) continue;
+            if (lengths[i] < kMinPieces) continue;
             for (const int other : crossings_[i].next)
                 if (other > static_cast<int>(i)) edges.push_back({point(crossings_[i]), point(crossings_[other])});
         }

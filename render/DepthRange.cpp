@@ -8,7 +8,7 @@ namespace {
 
 constexpr double kLowShare = 0.05;
 constexpr double kHighShare = 0.95;
-constexpr double kLeastRatio = 1.5;
+constexpr double kMinRatio = 1.5;
 constexpr double kApproach = 0.25;
 
 double percentileMetres(std::vector<std::uint16_t>* depths, double share) {
@@ -23,7 +23,7 @@ DepthRange percentileRange(std::vector<std::uint16_t>* depths) {
     if (depths->empty()) return {};
     const double nearMetres = percentileMetres(depths, kLowShare);
     const double farMetres = percentileMetres(depths, kHighShare);
-    const double widening = std::sqrt(std::max(1.0, kLeastRatio * nearMetres / farMetres));
+    const double widening = std::sqrt(std::max(1.0, kMinRatio * nearMetres / farMetres));
     return {nearMetres / widening, farMetres * widening};
 }
 

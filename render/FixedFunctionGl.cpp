@@ -19,12 +19,12 @@ void requestDesktopOpenGL() {
 }
 
 FixedFunctionGl* fixedFunctionGl() {
-    static std::once_flag told;
+    static std::once_flag logged;
     QOpenGLContext* context = QOpenGLContext::currentContext();
     FixedFunctionGl* gl = nullptr;
     if (context != nullptr && !context->isOpenGLES()) gl = context->versionFunctions<FixedFunctionGl>();
     if (gl == nullptr || !gl->initializeOpenGLFunctions()) {
-        std::call_once(told, [context] {
+        std::call_once(logged, [context] {
             qCritical() << "No desktop OpenGL with fixed-function drawing: camera pictures cannot be shown. Context:"
                         << (context != nullptr ? context->format() : QSurfaceFormat());
         });

@@ -10,9 +10,9 @@ namespace fieldcal {
 namespace {
 
 constexpr int kBackgroundWidth = 320;
-constexpr std::size_t kMostVectors = 400;
+constexpr std::size_t kMaxVectors = 400;
 constexpr int kMedianColumns = 8, kMedianRows = 6;
-constexpr std::size_t kLeastForMedian = 10;
+constexpr std::size_t kMinForMedian = 10;
 /// Length of the vector of a median residual, and the largest length drawn, as shares of the image's width.
 constexpr double kMedianVectorShare = 0.025, kLongestVectorShare = 0.1;
 constexpr double kSmallestMedianPx = 1e-3;
@@ -57,7 +57,7 @@ std::vector<Vector> medianVectors(const std::vector<Vector>& vectors, double wid
     }
     std::vector<Vector> medians;
     for (std::size_t i = 0; i < parts.size(); ++i) {
-        if (parts[i].x.size() < kLeastForMedian) continue;
+        if (parts[i].x.size() < kMinForMedian) continue;
         const std::size_t column = i % kMedianColumns, row = i / kMedianColumns;
         medians.push_back({{(static_cast<double>(column) + 0.5) * width / kMedianColumns,
                             (static_cast<double>(row) + 0.5) * height / kMedianRows},
@@ -167,7 +167,7 @@ void drawResiduals(Markup* out, const vq::SolutionEvidence& evidence, const Eige
                             {"opacity", "0.35"}});
     }
     const std::vector<Vector> vectors = vectorsOf(evidence, rotation);
-    const std::size_t count = std::min(vectors.size(), kMostVectors);
+    const std::size_t count = std::min(vectors.size(), kMaxVectors);
     for (std::size_t i = 0; i < count; ++i)
         drawVector(out, vectors[i * vectors.size() / count], factor, longest, "single");
     for (const Vector& median : medianVectors(vectors, width, height)) {

@@ -17,7 +17,7 @@ constexpr char kHeader[] =
 
 constexpr const char* kStored = "stored";  ///< the result of a save that succeeded
 constexpr qint64 kLargestHistory = 64 << 20;
-constexpr int kFewestFields = 3;
+constexpr int kMinFields = 3;
 
 QString quoted(QString field) {
     field.replace('\n', ' ').replace('\r', ' ');
@@ -76,8 +76,7 @@ QDateTime lastStored(const QString& folder, std::uint32_t serial) {
     QDateTime last;
     for (const QByteArray& line : file.readAll().split('\n')) {
         const QList<QByteArray> fields = line.split(',');
-        if (fields.size() < kFewestFields || fields[1] != QByteArray::number(serial) || fields.last() != kStored)
-            continue;
+        if (fields.size() < kMinFields || fields[1] != QByteArray::number(serial) || fields.last() != kStored) continue;
         const QDateTime time = QDateTime::fromString(QString::fromLatin1(fields[0]), Qt::ISODate);
         if (time.isValid()) last = time;
     }

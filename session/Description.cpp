@@ -11,7 +11,7 @@ using nlohmann::json;
 
 constexpr double kLargestSize = 8192;
 /// Limit for one image. A frame has up to five images, and decoding makes copies of them.
-constexpr std::int64_t kMostPixels = 8 << 20;
+constexpr std::int64_t kMaxPixels = 8 << 20;
 constexpr double kSmallestFocalLength = 1;
 constexpr double kLargestFocalLength = 1e5;
 constexpr double kLargestPrincipalPoint = 1e5;
@@ -24,8 +24,8 @@ constexpr qint64 kLargestFile = 64 << 20;
 void readIntrinsics(const JsonKey& key, Intrinsics* out) {
     out->width = static_cast<int>(key["width"].integer(1, kLargestSize));
     out->height = static_cast<int>(key["height"].integer(1, kLargestSize));
-    if (std::int64_t{out->width} * out->height > kMostPixels) {
-        key.refuse("more than " + std::to_string(kMostPixels) + " pixels");
+    if (std::int64_t{out->width} * out->height > kMaxPixels) {
+        key.refuse("more than " + std::to_string(kMaxPixels) + " pixels");
     }
     out->fx = key["fx"].number(kSmallestFocalLength, kLargestFocalLength);
     out->fy = key["fy"].number(kSmallestFocalLength, kLargestFocalLength);
@@ -84,7 +84,7 @@ PlatformCamera platformCamera(const JsonKey& key) {
     return out;
 }
 
-bool climbsOut(const std::string& name) {
+bool leavesFolder(const std::string& name) {
     for (std::size_t start = 0; start <= name.size();) {
         const std::size_t end = std::min(name.find('/', start), name.size());
         if (name.compare(start, end - start, "..") == 0) return true;
@@ -100,7 +100,7 @@ std::string fileName(const JsonKey& key) {
         key.refuse("empty file name");
     } else if (name.front() == '/' || name.find_first_of("\\:") != std::string::npos) {
         key.refuse("file name is not relative to the folder");
-    } else if (climbsOut(name)) {
+    } else if (leavesFolder(name)) {
         key.refuse("file name leaves the folder");
     } else if (name.find('\0') != std::string::npos) {
         key.refuse("file name holds a zero character");
@@ -124,7 +124,7 @@ FrameEntry frameEntry(const JsonKey& key, bool hasPlatform) {
 std::vector<FrameEntry> frameList(const JsonKey& key, bool hasPlatform) {
     std::vector<FrameEntry> out;
     double grabs = 0;
-    for (const JsonKey& item : key.elements(kMostFrames)) {
+    for (const JsonKey& item : key.elements(kMaxFrames)) {
         out.push_back(frameEntry(item, hasPlatform));
         grabs += out.back().repeat;
         if (key.anyFault()) return out;

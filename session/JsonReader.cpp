@@ -16,7 +16,7 @@ constexpr double kRotationTolerance = 1e-4;
 /// A recording needs five levels; a malicious text may have millions.
 constexpr std::size_t kDeepest = 1024;
 /// The largest recording has fewer. A value may take a hundred bytes of memory but only two bytes of a malicious text.
-constexpr std::size_t kMostValues = 1000000;
+constexpr std::size_t kMaxValues = 1000000;
 constexpr std::size_t kLongestKey = 200;  ///< longest key that a refusal quotes in full
 constexpr int kNumberOverflow = 406;      ///< error number of nlohmann/json
 
@@ -65,7 +65,7 @@ private:
     };
 
     bool mayHoldMore() {
-        return ++values_ <= kMostValues || refuse("more than " + std::to_string(kMostValues) + " values");
+        return ++values_ <= kMaxValues || refuse("more than " + std::to_string(kMaxValues) + " values");
     }
 
     bool add(json value) { return mayHoldMore() && put(std::move(value)) != nullptr; }

@@ -163,20 +163,20 @@ void copyRows(const QImage& image, ImageFrame* out) {
         std::memcpy(out->bytes() + y * rowBytes, image.constScanLine(y), rowBytes);
 }
 
-bool write(const std::string& file, const ImageFrame& picture, QImage::Format format, std::string* why) {
-    if (picture.empty()) return refuse(why, file, {}, "an empty picture cannot be written");
-    QImage image(static_cast<int>(picture.width()), static_cast<int>(picture.height()), format);
-    if (image.isNull()) return refuse(why, file, {}, "out of memory");
-    const std::size_t rowBytes = std::size_t{picture.width()} * picture.bytesPerPixel();
-    for (int y = 0; y < image.height(); ++y)
-        std::memcpy(image.scanLine(y), picture.bytes() + y * rowBytes, rowBytes);
+bool write(const std::string& file, const ImageFrame& image, QImage::Format format, std::string* why) {
+    if (image.empty()) return refuse(why, file, {}, "an empty picture cannot be written");
+    QImage encoded(static_cast<int>(image.width()), static_cast<int>(image.height()), format);
+    if (encoded.isNull()) return refuse(why, file, {}, "out of memory");
+    const std::size_t rowBytes = std::size_t{image.width()} * image.bytesPerPixel();
+    for (int y = 0; y < encoded.height(); ++y)
+        std::memcpy(encoded.scanLine(y), image.bytes() + y * rowBytes, rowBytes);
     // Encoded in memory, not directly into the file: an error while the last bytes are written to a full disk would not
     // be noticed.
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, "png");
-    if (!writer.write(image)) return refuse(why, file, {}, writer.errorString().toStdString());
+    if (!writer.write(encoded)) return refuse(why, file, {}, writer.errorString().toStdString());
     return writeOutput(file, bytes.constData(), static_cast<std::size_t>(bytes.size()), why, Durability::Later);
 }
 
@@ -209,12 +209,12 @@ bool readColourPng(const PngExpectation& expected, ImageFrame32* out, std::strin
     return true;
 }
 
-bool writeGreyPng(const std::string& file, const ImageFrame16& picture, std::string* why) {
-    return write(file, picture, QImage::Format_Grayscale16, why);
+bool writeGreyPng(const std::string& file, const ImageFrame16& image, std::string* why) {
+    return write(file, image, QImage::Format_Grayscale16, why);
 }
 
-bool writeColourPng(const std::string& file, const ImageFrame32& picture, std::string* why) {
-    return write(file, picture, QImage::Format_RGB32, why);
+bool writeColourPng(const std::string& file, const ImageFrame32& image, std::string* why) {
+    return write(file, image, QImage::Format_RGB32, why);
 }
 
 }  // namespace fieldcal::session

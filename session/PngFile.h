@@ -31,8 +31,8 @@ bool readGreyPng(const PngExpectation& expected, ImageFrame16* out, std::string*
 bool readColourPng(const PngExpectation& expected, ImageFrame32* out, std::string* why);
 
 /// Writes the file without syncing it to the disk.
-bool writeGreyPng(const std::string& file, const ImageFrame16& picture, std::string* why);
-/// `picture`: BGRA in storage order; alpha is not stored.
-bool writeColourPng(const std::string& file, const ImageFrame32& picture, std::string* why);
+bool writeGreyPng(const std::string& file, const ImageFrame16& image, std::string* why);
+/// `image`: BGRA in storage order; alpha is not stored.
+bool writeColourPng(const std::string& file, const ImageFrame32& image, std::string* why);
 
 }  // namespace fieldcal::session

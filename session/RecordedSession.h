@@ -65,7 +65,7 @@ struct FrameEntry {
 };
 
 /// The largest number of frames in one recording.
-inline constexpr std::size_t kMostFrames = 100000;
+inline constexpr std::size_t kMaxFrames = 100000;
 
 /// The contents of session.json, version 1.
 struct SessionDescription {
@@ -84,7 +84,7 @@ struct SessionDescription {
 };
 
 /// The decoded images of one frame.
-struct FramePictures {
+struct FrameImages {
     ImageFrame16 infrared;
     ImageFrame16 depth;                  ///< empty when the frame has none
     ImageFrame32 third;                  ///< image as the module delivers it, *BGRA* in storage order, alpha 255
@@ -96,25 +96,25 @@ struct FramePictures {
 bool readDescription(const std::string& folder, SessionDescription* out, std::string* why);
 
 /// Reads and checks the images of one frame.
-bool readPictures(const std::string& folder, const SessionDescription& session, std::size_t frameIndex,
-                  FramePictures* out, std::string* why);
+bool readImages(const std::string& folder, const SessionDescription& session, std::size_t frameIndex, FrameImages* out,
+                std::string* why);
 
 /// Checks without decoding that every image file exists, is complete and has the right size and kind. This is fast
 /// enough to be done before playback starts. Pixel values (infrared above 1023, transparent pixels) are checked only by
-/// `readPictures`.
-bool checkPictureFiles(const std::string& folder, const SessionDescription& session, std::string* why);
+/// `readImages`.
+bool checkImageFiles(const std::string& folder, const SessionDescription& session, std::string* why);
 
 /// Reads and checks everything: the description and every image.
 bool verify(const std::string& folder, std::string* why);
 
 /// Writes one frame's images under the names in `entry`, which must fit the images. The format is PNG, or raw bytes for
 /// a platform name ending in .nv12; the PNG of a platform image stores RGB, so only .nv12 keeps it bit-exact. The
-/// folder is created. `syncPictures` has to follow.
-bool writePictures(const std::string& folder, const FrameEntry& entry, const FramePictures& pictures, std::string* why);
+/// folder is created. `syncImages` has to follow.
+bool writeImages(const std::string& folder, const FrameEntry& entry, const FrameImages& images, std::string* why);
 
-/// Syncs every image named in the description to the disk, which `writePictures` does not do. Call it before
+/// Syncs every image named in the description to the disk, which `writeImages` does not do. Call it before
 /// `writeDescription`, so that a description is never on the disk without its images.
-bool syncPictures(const std::string& folder, const SessionDescription& session, std::string* why);
+bool syncImages(const std::string& folder, const SessionDescription& session, std::string* why);
 
 /// Writes session.json and creates the folder. Numbers keep their full precision. A description that `readDescription`
 /// would refuse is not written; the reason is the same.

@@ -64,37 +64,37 @@ struct CompanionCamera {
     const float* rectification;
 };
 
-void followCompanion(ModuleLink& link, const Block& block, const CompanionCamera& camera, QStringList* told,
+void followCompanion(ModuleLink& link, const Block& block, const CompanionCamera& camera, QStringList* texts,
                      BlockFindings* out) {
     const Rotation& r = camera.rotation;
     const Rotation across{r[0], r[3], r[6], r[1], r[4], r[7], r[2], r[5], r[8]};
     const float* infrared = block.rectificationInfrared;
-    const auto asTold = enter(link, camera.function, block, rawRotation(r, camera.rectification, infrared));
+    const auto asReported = enter(link, camera.function, block, rawRotation(r, camera.rectification, infrared));
     const auto transposed = enter(link, camera.function, block, rawRotation(across, camera.rectification, infrared));
-    if (!asTold || !transposed) {
+    if (!asReported || !transposed) {
         out->companionAnswers = false;
         return;
     }
-    *told << QString("%1: %2 as told, %3 transposed")
-                 .arg(camera.name)
-                 .arg(asTold->change, 0, 'g', 2)
-                 .arg(transposed->change, 0, 'g', 2);
-    if (asTold->outside.any()) {
-        *told << QString("%1: it changes %2 bytes outside of the rotation, the first one at %3")
-                     .arg(camera.name)
-                     .arg(asTold->outside.count())
-                     .arg(asTold->outside._Find_first());
+    *texts << QString("%1: %2 as reported, %3 transposed")
+                  .arg(camera.name)
+                  .arg(asReported->change, 0, 'g', 2)
+                  .arg(transposed->change, 0, 'g', 2);
+    if (asReported->outside.any()) {
+        *texts << QString("%1: %2 bytes outside the rotation change, the first one at %3")
+                      .arg(camera.name)
+                      .arg(asReported->outside.count())
+                      .arg(asReported->outside._Find_first());
         out->companionAnswers = false;
     }
-    if (!asTold->isReadable) *told << QString("%1: the rotation is not stored as nine numbers").arg(camera.name);
-    const bool fits = asTold->isReadable && asTold->change <= kRounding;
+    if (!asReported->isReadable) *texts << QString("%1: the rotation is not stored as nine numbers").arg(camera.name);
+    const bool fits = asReported->isReadable && asReported->change <= kRounding;
     const bool fitsAcross = transposed->isReadable && transposed->change <= kRounding;
     if (!fits && !fitsAcross) out->companionAnswers = false;
-    if (fits) out->companion = Direction::AsTold;
+    if (fits) out->companion = Direction::AsReported;
     if (fitsAcross && !fits) out->companion = Direction::Transposed;
 }
 
-std::optional<Rotation> toldRotation(const std::optional<KXCalibExtrinsics>& pose) {
+std::optional<Rotation> reportedRotation(const std::optional<KXCalibExtrinsics>& pose) {
     if (!pose) return std::nullopt;
     Rotation rotation{};
     std::copy(std::begin(pose->rotation), std::end(pose->rotation), rotation.begin());
@@ -103,21 +103,21 @@ std::optional<Rotation> toldRotation(const std::optional<KXCalibExtrinsics>& pos
 
 void askCompanion(Sensor& sensor, const Block& block, BlockFindings* out) {
     ModuleLink& link = sensor.link();
-    const auto third = toldRotation(link.read(sensor.thirdCamera(), &KXThirdCamera::zToThirdExtrinsics));
+    const auto third = reportedRotation(link.read(sensor.thirdCamera(), &KXThirdCamera::zToThirdExtrinsics));
     if (!third) return;
-    QStringList told;
+    QStringList texts;
     out->companionAnswers = true;
     const KXRotationUpdater& updater = *link.rotationUpdater();
-    followCompanion(link, block, {"third", updater.updateThirdCamera, *third, block.rectificationThird}, &told, out);
+    followCompanion(link, block, {"third", updater.updateThirdCamera, *third, block.rectificationThird}, &texts, out);
     KXPlatformCamera* camera = sensor.device()->platformCamera();
     if (camera != nullptr) {
-        const auto rear = toldRotation(link.read(camera, &KXPlatformCamera::zToPlatformExtrinsics));
+        const auto rear = reportedRotation(link.read(camera, &KXPlatformCamera::zToPlatformExtrinsics));
         if (rear) {
             followCompanion(link, block, {"rear", updater.updatePlatformCamera, *rear, block.rectificationPlatform},
-                            &told, out);
+                            &texts, out);
         }
     }
-    out->companionText = "largest change of an entry, " + told.join("; ");
+    out->companionText = "largest change of an entry, " + texts.join("; ");
 }
 
 }  // namespace
@@ -142,7 +142,7 @@ BlockFindings checkBlock(ConnectedModule& module) {
     const bool platform = module.sensor().device()->platformCamera() != nullptr;
     if (const char* wrong = matrixThatIsNoRotation(first.block, true, platform); wrong != nullptr) {
         matrices.verdict = Verdict::DoesNotFit;
-        matrices.text = QString("%1 is none").arg(wrong);
+        matrices.text = QString("%1 is not a rotation").arg(wrong);
     }
     found.lines.push_back(matrices);
     if (matrices.verdict == Verdict::Fits && differing.none()) askCompanion(module.sensor(), first.block, &found);
@@ -150,14 +150,14 @@ BlockFindings checkBlock(ConnectedModule& module) {
 }
 
 CheckLine companionLine(const BlockFindings& findings, Direction shown) {
-    CheckLine line{"companion", "an unchanged rotation changes nothing", Verdict::CannotTell, findings.companionText};
+    CheckLine line{"companion", "an unchanged rotation keeps the block", Verdict::CannotTell, findings.companionText};
     if (findings.companionText.isEmpty()) {
         line.text = "the block or a rotation could not be read";
         return line;
     }
     // If the scene shows that rotations are reported transposed, the module that reports them is at fault, not the
     // companion library.
-    const Direction expected = shown == Direction::Transposed ? Direction::Transposed : Direction::AsTold;
+    const Direction expected = shown == Direction::Transposed ? Direction::Transposed : Direction::AsReported;
     line.verdict = verdictOf(findings.companionAnswers && findings.companion == expected);
     return line;
 }

@@ -1,5 +1,5 @@
 #include "devices/SingleInstance.h"
-#include "kxapi/Library.h"
+#include "kxapi/LibrarySearch.h"
 #include "report/History.h"
 #include "report/ReportFile.h"
 #include "tools/CommandLine.h"
@@ -42,10 +42,11 @@ int run(const CalibrateOptions& options) {
 
     // Only the simulated library plays recordings; the images of a real camera would be mistaken for those of the
     // recording.
-    if (!useSimulatedLibraries()) return result.fail("The folder with the simulated libraries is missing.");
+    if (!kxapi::hasSimulatedLibraries()) return result.fail("The folder with the simulated libraries is missing.");
     std::srand(seed);
     const bool toPeople = !result.toStandardOutput();
-    RecordingCalibration calibration(options.folder, session, options.camera, toPeople ? printLine : nullptr);
+    RecordingCalibration calibration(options.folder, session, options.camera, toPeople ? printLine : nullptr,
+                                     systemEnvironment(kxapi::LibrarySearch::SimulatedOnly));
     calibration.setWriting(options.write);
     calibration.useMemory(BaselineMemory(userDataFolder()));
     QString why;

@@ -17,13 +17,13 @@ namespace fieldcal {
 namespace {
 
 constexpr double kOutlierPx = 6.0;
-constexpr std::size_t kLeastParts = 4;
+constexpr std::size_t kMinParts = 4;
 constexpr int kIterations = 20;
 constexpr double kConvergedShare = 1e-3;
 constexpr double kTurnStepRad = 1e-5;
-constexpr double kLeastInformation = 1e-6;
+constexpr double kMinInformation = 1e-6;
 constexpr double kShareStep = 1e-2;
-constexpr std::size_t kLeastMatches = 100;
+constexpr std::size_t kMinMatches = 100;
 
 vq::MeasuredMatch measured(const vq::EvidenceMatch& match) {
     vq::MeasuredMatch out;
@@ -80,8 +80,8 @@ Eigen::Matrix3d turnedBy(const Eigen::Matrix3d& rotation, const Eigen::Vector3d&
 /// A least-squares fit of rotation and share, linearized at their present values.
 class SharedFit {
 public:
-    SharedFit(const std::vector<vq::EvidenceMatch>& matches, const StillSolution& told, const vq::Projection& other)
-        : matches_(matches), told_(told), other_(other), rotation_(told.rotation) {}
+    SharedFit(const std::vector<vq::EvidenceMatch>& matches, const StillSolution& first, const vq::Projection& other)
+        : matches_(matches), first_(first), other_(other), rotation_(first.rotation) {}
 
     bool converge() {
         for (int i = 0; i < kIterations; ++i) {
@@ -89,7 +89,7 @@ public:
             Normal all;
             for (const auto& [key, block] : blocks_)
                 all.add(block, 1);
-            if (!tellsShare(all)) return false;
+            if (!determinesShare(all)) return false;
             const Vector4 step = all.solution();
             if (!step.allFinite()) return false;
             rotation_ = turnedBy(rotation_, step.head<3>());
@@ -116,7 +116,7 @@ public:
             shares.push_back(rest.solution()[3]);
         }
         const double count = static_cast<double>(shares.size());
-        if (shares.size() < kLeastParts) return std::numeric_limits<double>::infinity();
+        if (shares.size() < kMinParts) return std::numeric_limits<double>::infinity();
         const double mean = std::accumulate(shares.begin(), shares.end(), 0.0) / count;
         double squares = 0;
         for (const double share : shares)
@@ -126,14 +126,14 @@ public:
 
 private:
     /// Returns whether the matches determine the share at all: a translation has an effect on near objects only.
-    static bool tellsShare(const Normal& all) {
+    static bool determinesShare(const Normal& all) {
         const Eigen::Matrix3d turns = all.matrix.topLeftCorner<3, 3>();
         const Eigen::Vector3d mixed = all.matrix.topRightCorner<3, 1>();
-        return all.matrix(3, 3) - mixed.dot(turns.ldlt().solve(mixed)) > kLeastInformation;
+        return all.matrix(3, 3) - mixed.dot(turns.ldlt().solve(mixed)) > kMinInformation;
     }
 
     Eigen::Vector2d residual(const vq::MeasuredMatch& match, const Vector4& step) const {
-        return between(told_.projection, other_, share_ + step[3])
+        return between(first_.projection, other_, share_ + step[3])
             .residualPx(turnedBy(rotation_, step.head<3>()), match, nullptr);
     }
 
@@ -149,15 +149,15 @@ private:
                 jacobian.col(i) = (residual(match, width * Vector4::Unit(i)) - here) / width;
             }
             const double squared = here.dot(match.information * here);
-            const double weight = 1 / (1 + squared / (told_.cauchy * told_.cauchy));
-            Normal& block = blocks_[blockOf(evidence, told_.projection.cameras.infrared)];
+            const double weight = 1 / (1 + squared / (first_.cauchy * first_.cauchy));
+            Normal& block = blocks_[blockOf(evidence, first_.projection.cameras.infrared)];
             block.matrix += weight * jacobian.transpose() * match.information * jacobian;
             block.gradient -= weight * jacobian.transpose() * match.information * here;
         }
     }
 
     const std::vector<vq::EvidenceMatch>& matches_;
-    const StillSolution& told_;
+    const StillSolution& first_;
     const vq::Projection& other_;
     Eigen::Matrix3d rotation_;
     double share_ = 0;
@@ -191,14 +191,14 @@ std::optional<StillSolution> solveStills(const std::vector<vq::SelectedImages>& 
     std::vector<double> residuals;
     for (const vq::EvidenceMatch& match : solution.matches)
         residuals.push_back(evidence->residualPx(match, solution.rotation).norm());
-    if (residuals.size() < kLeastMatches) return std::nullopt;
+    if (residuals.size() < kMinMatches) return std::nullopt;
     solution.medianPx = vq::medianOf(residuals);
     return solution;
 }
 
-std::optional<Preference> preferenceBetween(const std::vector<vq::EvidenceMatch>& matches, const StillSolution& told,
+std::optional<Preference> preferenceBetween(const std::vector<vq::EvidenceMatch>& matches, const StillSolution& first,
                                             const vq::Projection& other) {
-    SharedFit fit(matches, told, other);
+    SharedFit fit(matches, first, other);
     if (!fit.converge()) return std::nullopt;
     const double deviation = std::max(fit.deviation(false), fit.deviation(true));
     if (!std::isfinite(deviation)) return std::nullopt;

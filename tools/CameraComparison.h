@@ -31,11 +31,11 @@ struct Preference {
     double deviation = 0;  ///< standard deviation of `share`
 };
 
-/// Estimates the share together with the rotation. `matches`: of solutions under either model; `told`: the solution
+/// Estimates the share together with the rotation. `matches`: of solutions under either model; `first`: the solution
 /// under the first model. The deviation is estimated by leaving out one still, or one quarter of a still, at a time
 /// (jackknife); the larger of the two estimates is used. Returns none when too few of these parts have matches or the
 /// estimate does not converge.
-std::optional<Preference> preferenceBetween(const std::vector<vq::EvidenceMatch>& matches, const StillSolution& told,
+std::optional<Preference> preferenceBetween(const std::vector<vq::EvidenceMatch>& matches, const StillSolution& first,
                                             const vq::Projection& other);
 
 }  // namespace fieldcal

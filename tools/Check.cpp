@@ -45,9 +45,9 @@ bool makeFolder(const QString& folder, QString* why) {
 
 bool keepFindings(const QString& folder, const ModuleFindings& findings, const QByteArray& json, QString* why) {
     if (findings.block && !writeBackup(folder + "/block.fcbackup", *findings.block, why)) return false;
-    return writeWhole(folder + "/report.json", json, why) &&
-           writeWhole(folder + "/report.txt", findingsText(findings).toUtf8(), why) &&
-           writeWhole(folder + "/check.log", (keptLog().lines.join('\n') + '\n').toUtf8(), why);
+    return writeFile(folder + "/report.json", json, why) &&
+           writeFile(folder + "/report.txt", findingsText(findings).toUtf8(), why) &&
+           writeFile(folder + "/check.log", (keptLog().lines.join('\n') + '\n').toUtf8(), why);
 }
 
 int statusOf(const ModuleFindings& findings) {
@@ -73,7 +73,7 @@ int run(const CheckOptions& options) {
     const ModuleFindings findings = check.run();
     if (toPeople) std::printf("%s", qPrintable(findingsText(findings)));
     const QByteArray json = QJsonDocument(findingsJson(findings)).toJson(QJsonDocument::Indented);
-    if (!jsonFile.isEmpty() && !writeWhole(jsonFile, json, &why)) return fail(why);
+    if (!jsonFile.isEmpty() && !writeFile(jsonFile, json, &why)) return fail(why);
     if (!folder.isEmpty() && !keepFindings(folder, findings, json, &why)) return fail(why);
     if (!findings.ended.isEmpty()) return fail(findings.ended);
     return statusOf(findings);

@@ -33,13 +33,14 @@ inline bool contradicts(const CheckLines& lines, const QString& id) {
 }
 
 /// Changes the verdict `DoesNotFit` to `CannotTell` when one of the lines on which this result depends (`ids`, among
-/// `foundations`) does not fit: the cause may then lie there.
-inline CheckLine unblamed(CheckLine line, const CheckLines& foundations, const QStringList& ids) {
-    for (const CheckLine& foundation : foundations) {
-        const bool isBroken = foundation.verdict == Verdict::DoesNotFit && ids.contains(foundation.id);
+/// `prerequisites`) does not fit: the cause may then lie there.
+inline CheckLine qualifiedBy(CheckLine line, const CheckLines& prerequisites, const QStringList& ids) {
+    for (const CheckLine& prerequisite : prerequisites) {
+        const bool isBroken = prerequisite.verdict == Verdict::DoesNotFit && ids.contains(prerequisite.id);
         if (!isBroken || line.verdict != Verdict::DoesNotFit) continue;
         line.verdict = Verdict::CannotTell;
-        line.text = QString("'%1' does not fit; as it is: %2").arg(foundation.name, line.text);
+        line.text =
+            QString("'%1' does not fit, so there is no verdict; measured: %2").arg(prerequisite.name, line.text);
     }
     return line;
 }

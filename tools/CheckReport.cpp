@@ -57,7 +57,7 @@ QString findingsText(const ModuleFindings& findings) {
                     .arg(record.firstMs, 10, 'f', 2)
                     .arg(record.longestMs, 11, 'f', 2);
     }
-    if (!findings.ended.isEmpty()) text += "\nIt ended early: " + findings.ended + '\n';
+    if (!findings.ended.isEmpty()) text += "\nThe check ended early: " + findings.ended + '\n';
     return text;
 }
 

@@ -10,9 +10,9 @@ namespace {
 
 constexpr const char* kProgram = "fieldcal-session";
 constexpr unsigned kLargestSeed = std::numeric_limits<unsigned>::max();
-constexpr unsigned kMostStills = 999;
-constexpr unsigned kMostCheckedStills = 32;
-constexpr unsigned kMostFrames = 1000000;
+constexpr unsigned kMaxStills = 999;
+constexpr unsigned kMaxCheckedStills = 32;
+constexpr unsigned kMaxFrames = 1000000;
 
 /// A validator returns an error text that follows the name of the option, or an empty text for a valid value.
 CLI::Validator wholeNumber(unsigned smallest, unsigned largest) {
@@ -63,7 +63,7 @@ public:
         app_.footer(
             "Exit status: 0 solved or done, 1 unreadable recording or device failure, 2 wrong usage,\n"
             "3 played to the end without a good solution; of check: 0 all fits, 1 something does not, 3 something "
-            "cannot be told.");
+            "cannot be determined.");
         addCalibrate();
         addSynthesize();
         addRecord();
@@ -145,7 +145,7 @@ private:
             ->type_name("N")
             ->capture_default_str();
         lastCounts(verb->add_option("--stills", synthesize_.stills, "Number of still views"))
-            ->transform(wholeNumber(1, kMostStills))
+            ->transform(wholeNumber(1, kMaxStills))
             ->type_name("N")
             ->capture_default_str();
         lastCounts(verb->add_flag("--platform", synthesize_.platform, "With the tablet's rear camera"));
@@ -158,7 +158,7 @@ private:
         verb->add_option("DIR", record_.folder, "The recording to make")->required()->check(isGiven)->type_name("");
         lastCounts(verb->add_option("--frames", record_.frames, "Number of frame sets"))
             ->required()
-            ->transform(wholeNumber(1, kMostFrames))
+            ->transform(wholeNumber(1, kMaxFrames))
             ->type_name("N");
     }
 
@@ -222,7 +222,7 @@ private:
             ->type_name("MS")
             ->capture_default_str();
         lastCounts(verb->add_option("--repeat", import_.repeat, "Grabs that deliver each frame set; stills need 26"))
-            ->transform(wholeNumber(1, kMostFrames))
+            ->transform(wholeNumber(1, kMaxFrames))
             ->type_name("N")
             ->capture_default_str();
         lastCounts(verb->add_option("--serial", import_.serial, "The module's serial number"))
@@ -239,7 +239,7 @@ private:
             ->check(isGiven)
             ->type_name("FOLDER");
         lastCounts(verb->add_option("--stills", check_.stills, "Stills to compare the cameras with"))
-            ->transform(wholeNumber(3, kMostCheckedStills))
+            ->transform(wholeNumber(3, kMaxCheckedStills))
             ->type_name("N")
             ->capture_default_str();
         lastCounts(verb->add_flag("--write-back-unchanged", check_.writeBackUnchanged,

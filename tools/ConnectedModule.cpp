@@ -3,7 +3,6 @@
 #include "devices/CameraParameterReader.h"
 #include "devices/PlatformCameraSetup.h"
 #include "devices/ServiceNote.h"
-#include "kxapi/Library.h"
 #include "tools/Console.h"
 
 #include <algorithm>
@@ -51,15 +50,15 @@ void takeBytes(const void* pixels, std::int32_t width, std::int32_t height, Imag
     }
 }
 
-void makeOpaque(ImageFrame32* picture) {
-    for (std::size_t i = 3; i < picture->byteCount(); i += 4)
-        picture->bytes()[i] = 255;
+void makeOpaque(ImageFrame32* image) {
+    for (std::size_t i = 3; i < image->byteCount(); i += 4)
+        image->bytes()[i] = 255;
 }
 
 }  // namespace
 
 bool ConnectedModule::open(bool rearCamera, QString* why) {
-    const bool disablesService = !usesSimulatedLibraries() && systemServiceNote() != nullptr;
+    const bool disablesService = systemServiceNote() != nullptr;
     if (disablesService) instance_ = std::make_unique<SingleInstance>();
     if (instance_ != nullptr && !instance_->isFirst()) {
         *why = kAnotherProgram;
@@ -121,7 +120,7 @@ bool ConnectedModule::describePlatform(session::PlatformCamera* out) {
     if (camera == nullptr) return false;
     const auto setMode = [&](std::int32_t rectified) {
         return sensor_->ask([camera, rectified] {
-            return camera->setPlatformMode(rectified, kPlatformPictureWidth, kPlatformPictureHeight);
+            return camera->setPlatformMode(rectified, kPlatformImageWidth, kPlatformImageHeight);
         });
     };
     KXCalibIntrinsicsNonRectified raw{};
@@ -163,12 +162,12 @@ bool ConnectedModule::restoreBlock(const ParameterBackup& backup, QString* why) 
     return false;
 }
 
-bool ConnectedModule::grab(session::FramePictures* out, QString* why) {
-    if (!grabWhatIsThere(out, why)) return false;
+bool ConnectedModule::grab(session::FrameImages* out, QString* why) {
+    if (!grabAvailable(out, why)) return false;
     return (!out->infrared.empty() && !out->third.empty()) || failed(why, kNothing);
 }
 
-bool ConnectedModule::grabWhatIsThere(session::FramePictures* out, QString* why) {
+bool ConnectedModule::grabAvailable(session::FrameImages* out, QString* why) {
     if (!sensor_->grab(true) || !reports_.first().isEmpty()) return failed(why, kNothing);
     KXDevice& device = *sensor_->device();
     KXThirdCamera& third = *sensor_->thirdCamera();
@@ -179,7 +178,7 @@ bool ConnectedModule::grabWhatIsThere(session::FramePictures* out, QString* why)
     makeOpaque(&out->third);
     out->platform.clear();
     if (const std::uint8_t* nv12 = sensor_->platformNv12(); nv12 != nullptr) {
-        out->platform.assign(nv12, nv12 + std::size_t{kPlatformPictureWidth} * kPlatformPictureHeight * 3 / 2);
+        out->platform.assign(nv12, nv12 + std::size_t{kPlatformImageWidth} * kPlatformImageHeight * 3 / 2);
     }
     return true;
 }

@@ -38,9 +38,9 @@ public:
 
     /// Grabs the next frame set as the library delivers it, with the alpha of colour set to 255. A missing left
     /// infrared or third colour image is a failure. `platform` is empty when the rear camera had no new image.
-    bool grab(session::FramePictures* out, QString* why);
+    bool grab(session::FrameImages* out, QString* why);
     /// The same, but missing images are no failure.
-    bool grabWhatIsThere(session::FramePictures* out, QString* why);
+    bool grabAvailable(session::FrameImages* out, QString* why);
 
     /// Returns the opened sensor, for operations that this class does not cover.
     Sensor& sensor() { return *sensor_; }

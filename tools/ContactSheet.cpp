@@ -4,7 +4,7 @@
 //   fieldcal-contact-sheet OUT.png [SEED [VIEW]]
 
 #include "render/DepthColourMap.h"
-#include "simulator/handheld/Studio.h"
+#include "simulator/handheld/KeyframeRenderer.h"
 #include "simulator/synthesis/Camera.h"
 #include "simulator/synthesis/Rig.h"
 
@@ -53,7 +53,7 @@ QImage depthImage(const ImageFrame16& frame) {
 
 /// Draws every depth pixel, half transparent, at its place in the colour image under the given rotation, far pixels
 /// first.
-QImage overlay(const session::FramePictures& pictures, const session::SessionDescription& rig,
+QImage overlay(const session::FrameImages& pictures, const session::SessionDescription& rig,
                const session::Matrix3& rotation) {
     QImage image = colourImage(pictures.third);
     const cv::Point2d principal = synthesis::ownPrincipalPoint(rig.third, rig.infrared);
@@ -85,8 +85,8 @@ QImage overlay(const session::FramePictures& pictures, const session::SessionDes
 
 std::vector<QImage> cells(const std::string& world, std::uint64_t seed, int view) {
     const auto rig = synthesis::drawRig(seed, {});
-    handheld::Studio studio(world, seed, rig);
-    const auto pictures = takeStill(*studio.make(view, false), seed);
+    handheld::KeyframeRenderer renderer(world, seed, rig);
+    const auto pictures = takeStill(*renderer.render(view, false), seed);
     return {infraredImage(pictures.infrared), colourImage(pictures.third), depthImage(pictures.depth),
             overlay(pictures, rig, rig.third.rotation), overlay(pictures, rig, *rig.truthThird)};
 }

@@ -69,7 +69,7 @@ int run(const ExportOptions& options) {
     if (!found.pair) return found.status;
     QString why;
     const QString file = QString::fromStdString(options.outFile);
-    return writeWhole(file, exported(*found.pair, options.format), &why) ? kSolved : fail(why);
+    return writeFile(file, exported(*found.pair, options.format), &why) ? kSolved : fail(why);
 }
 
 }  // namespace fieldcal

@@ -138,9 +138,9 @@ private:
         RecordingWriter recording(options_.recording, session_);
         if (!recording.start(why)) return false;
         for (std::size_t i = 0; i < session_.frames.size(); ++i) {
-            session::FramePictures images;
+            session::FrameImages images;
             const session::FrameEntry& entry = session_.frames[i];
-            if (!session::readPictures(options_.folder, session_, i, &images, why) ||
+            if (!session::readImages(options_.folder, session_, i, &images, why) ||
                 !recording.add(std::move(images), why, {entry.repeat, entry.timeNs})) {
                 return false;
             }

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kWarmUpSets = 30;
 constexpr int kTimedSets = 180;
-constexpr int kMostSets = 3600;
+constexpr int kMaxSets = 3600;
 constexpr int kStillRepeats = 26;
 constexpr int kSetsAfterStills = 60;
 constexpr int kPatientSets = 1200;  ///< number of frame sets without a new still after which capture ends
@@ -25,16 +25,21 @@ constexpr int kNamedStatuses[] = {
 constexpr std::int32_t kBothImagers = 3;
 
 bool fits(const char* name, const std::optional<KXCalibIntrinsicsRectified>& record, std::int32_t width,
-          std::int32_t height, QStringList* told) {
+          std::int32_t height, QStringList* texts) {
     if (!record) return true;
-    *told << QString("%1 %2 x %3 for %4 x %5").arg(name).arg(record->w).arg(record->h).arg(width).arg(height);
+    *texts << QString("%1: intrinsics for %2 x %3, images of %4 x %5")
+                  .arg(name)
+                  .arg(record->w)
+                  .arg(record->h)
+                  .arg(width)
+                  .arg(height);
     return record->w == width && record->h == height;
 }
 
 }  // namespace
 
-ModuleCheck::ModuleCheck(const CheckOptions& options, std::function<void(const QString&)> say)
-    : options_(options), say_(std::move(say)), module_(observedEnvironment(log_)) {}
+ModuleCheck::ModuleCheck(const CheckOptions& options, std::function<void(const QString&)> showProgress)
+    : options_(options), showProgress_(std::move(showProgress)), module_(observedEnvironment(log_)) {}
 
 ModuleFindings ModuleCheck::run() {
     if (open()) look();
@@ -43,14 +48,14 @@ ModuleFindings ModuleCheck::run() {
 }
 
 bool ModuleCheck::open() {
-    say("Opening the module.");
+    reportProgress("Opening the module.");
     QString why;
     return module_.open(true, &why) || stop(why);
 }
 
 bool ModuleCheck::look() {
     found_.module = module_.info();
-    add({"calibration", "the module says that it is calibrated", verdictOf(found_.module.calibrationValid), ""});
+    add({"calibration", "the module reports that it is calibrated", verdictOf(found_.module.calibrationValid), ""});
     checkTexts();
     const bool sizesFit = checkSizes();
     BlockFindings block = checkBlock(module_);
@@ -86,11 +91,11 @@ void ModuleCheck::checkTexts() {
         texts.insert(found_.statusTexts[status]);
     }
     const bool differ = texts.size() == std::size(kNamedStatuses);
-    QString text = "each of the seven that the program tells apart has a text of its own";
-    if (!differ) text = "two of the seven that the program tells apart have the same text";
-    if (!named) text = "one of the seven that the program tells apart has none";
-    if (!survives) text = "a number without a name has none";
-    add({"status-texts", "texts of the statuses", verdictOf(named && differ && survives), text});
+    QString text = "each of the seven statuses that the program distinguishes has its own text";
+    if (!differ) text = "two of the seven statuses that the program distinguishes have the same text";
+    if (!named) text = "one of the seven statuses that the program distinguishes has no text";
+    if (!survives) text = "an unknown status number has no text";
+    add({"status-texts", "status texts are complete and distinct", verdictOf(named && differ && survives), text});
 }
 
 /// Checks the sizes one by one. The calibration as a whole is read later, because that ends at the first value that
@@ -102,30 +107,30 @@ bool ModuleCheck::checkSizes() {
     const auto infrared = link.read(device, &KXDevice::rectifiedLRIntrinsics);
     const auto depth = link.read(device, &KXDevice::zIntrinsics);
     const auto colour = link.read(third, &KXThirdCamera::rectifiedThirdIntrinsics);
-    CheckLine line{"intrinsics", "intrinsics are for the pictures' sizes", Verdict::CannotTell,
-                   "they could not be read"};
+    CheckLine line{"intrinsics", "intrinsics match the image sizes", Verdict::CannotTell,
+                   "the intrinsics could not be read"};
     if (infrared && depth && colour) {
-        QStringList told;
-        const bool left = fits("infrared", infrared, device->lrWidth(), device->lrHeight(), &told);
-        const bool z = fits("depth", depth, device->depthWidth(), device->depthHeight(), &told);
-        const bool rgb = fits("third", colour, third->thirdWidth(), third->thirdHeight(), &told);
+        QStringList texts;
+        const bool left = fits("infrared", infrared, device->lrWidth(), device->lrHeight(), &texts);
+        const bool z = fits("depth", depth, device->depthWidth(), device->depthHeight(), &texts);
+        const bool rgb = fits("third", colour, third->thirdWidth(), third->thirdHeight(), &texts);
         line.verdict = verdictOf(left && z && rgb);
-        line.text = told.join(", ");
+        line.text = texts.join(", ");
     }
     add(line);
     return line.verdict == Verdict::Fits;
 }
 
 bool ModuleCheck::timeStreams(bool described) {
-    say("Point the module at scenery with detail, some of it near, and hold it still.");
+    reportProgress("Point the module at scenery with detail, some of it near, and hold it still.");
     // The rear camera delivers images as soon as its calibration is known.
     watch_.emplace(described && module_.hasRearCamera());
     for (int i = 0; i < kWarmUpSets + kTimedSets; ++i) {
         if (i == kWarmUpSets) watch_->setTiming(true);
-        session::FramePictures pictures;
+        session::FrameImages images;
         QString why;
-        if (!module_.grabWhatIsThere(&pictures, &why)) return stop(why);
-        watch_->take(pictures, StreamWatch::Clock::now());
+        if (!module_.grabAvailable(&images, &why)) return stop(why);
+        watch_->take(images, StreamWatch::Clock::now());
     }
     watch_->setTiming(false);
     return true;
@@ -142,20 +147,21 @@ bool ModuleCheck::capture(session::SessionDescription description) {
     if (withRear) captures.emplace_back(true, wanted);
     int setsLeft = kPatientSets;
     for (int i = 0; i < setsLeft; ++i) {
-        session::FramePictures pictures;
-        if (!module_.grabWhatIsThere(&pictures, &why)) return stop(why);
-        watch_->take(pictures, StreamWatch::Clock::now());
+        session::FrameImages images;
+        if (!module_.grabAvailable(&images, &why)) return stop(why);
+        watch_->take(images, StreamWatch::Clock::now());
         bool taken = false, complete = true;
         for (std::size_t c = 0; c < captures.size(); ++c) {
             if (module_.sensor().isFreshPair(kColourCameras[c]))
                 taken = captures[c].take(module_.sensor().frames()) || taken;
             complete = complete && captures[c].isComplete();
         }
-        if (taken) keepStill(pictures);
-        if (taken) setsLeft = std::min(kMostSets, i + kPatientSets);
+        if (taken) keepStill(images);
+        if (taken) setsLeft = std::min(kMaxSets, i + kPatientSets);
         if (complete) setsLeft = std::min(setsLeft, i + kSetsAfterStills);
         const StillCapture& slower = captures.back().isComplete() ? captures.front() : captures.back();
-        say(QString("%1 of %2 stills. %3").arg(slower.stills().size()).arg(options_.stills).arg(slower.advice()));
+        reportProgress(
+            QString("%1 of %2 stills. %3").arg(slower.stills().size()).arg(options_.stills).arg(slower.advice()));
     }
     for (std::size_t c = 0; c < captures.size(); ++c)
         cameras_.push_back({c == 1, captures[c].stills()});
@@ -170,31 +176,31 @@ bool ModuleCheck::startRecording(const session::SessionDescription& description)
 }
 
 /// Records a still with enough repeats for the selection of photos to find it again.
-void ModuleCheck::keepStill(const session::FramePictures& pictures) {
+void ModuleCheck::keepStill(const session::FrameImages& images) {
     if (recording_ == nullptr) return;
     std::string why;
-    if (recording_->add(pictures, &why, {kStillRepeats, {}})) return;
+    if (recording_->add(images, &why, {kStillRepeats, {}})) return;
     stop(QString::fromStdString(why));
     recording_.reset();
 }
 
 void ModuleCheck::checkScene() {
-    say("Comparing the cameras. This takes some seconds.");
+    reportProgress("Comparing the cameras. This takes some seconds.");
     add(checkTranslations(module_.parameters(), cameras_.size() > 1));
-    QStringList foundations{"stream-left", "stream-right", "stream-depth", "packed-rows", "same-moment"};
+    QStringList prerequisites{"stream-left", "stream-right", "stream-depth", "packed-rows", "same-moment"};
     for (const CheckLine& line : checkStereo(cameras_.front().stills, module_.parameters()))
-        add(unblamed(line, found_.lines, foundations));
+        add(qualifiedBy(line, found_.lines, prerequisites));
     const CheckLines trusted = found_.lines;
-    foundations << "stream-third"
-                << "stream-rear"
-                << "translation-unit"
-                << "imagers"
-                << "stereo-rows"
-                << "baseline";
+    prerequisites << "stream-third"
+                  << "stream-rear"
+                  << "translation-unit"
+                  << "imagers"
+                  << "stereo-rows"
+                  << "baseline";
     for (const CameraStills& camera : cameras_) {
         Direction direction = Direction::Unknown;
         for (const CheckLine& line : checkCamera(camera, module_.parameters(), trusted, &direction))
-            add(unblamed(line, trusted, foundations));
+            add(qualifiedBy(line, trusted, prerequisites));
         if (direction != Direction::Unknown && shown_ == Direction::Unknown) shown_ = direction;
     }
 }
@@ -212,12 +218,12 @@ void ModuleCheck::checkRest() {
                       link.ask([=] { return device->privateInterface(); }) != nullptr &&
                       link.ask([=] { return device->stopCapture(); }) &&
                       link.ask([=] { return device->resumeDevice(); });
-    session::FramePictures pictures;
+    session::FrameImages images;
     QString why;
-    CheckLine line{"resume", "pictures go on after a rest", Verdict::CannotTell, ""};
+    CheckLine line{"resume", "images continue after stopping and resuming", Verdict::CannotTell, ""};
     if (good)
-        line.verdict = verdictOf(module_.grabWhatIsThere(&pictures, &why) &&
-                                 !(pictures.infrared.empty() && pictures.third.empty()));
+        line.verdict =
+            verdictOf(module_.grabAvailable(&images, &why) && !(images.infrared.empty() && images.third.empty()));
     add(line);
 }
 
@@ -238,7 +244,7 @@ void ModuleCheck::finish() {
 }
 
 CheckLine ModuleCheck::operationLine() const {
-    CheckLine line{"operations", "every operation answers", Verdict::Fits, ""};
+    CheckLine line{"operations", "every operation responds", Verdict::Fits, ""};
     const std::set<QString> ofWriting{"writeRectParameters", "commitCalibration"};
     const std::set<QString> ofRearCamera{"setPlatformMode",       "nonRectifiedIntrinsics", "rectifiedIntrinsics",
                                          "rectificationRotation", "zToPlatformExtrinsics",  "KXRectificationTable",
@@ -255,7 +261,7 @@ CheckLine ModuleCheck::operationLine() const {
     }
     const auto called = std::count_if(found_.operations.begin(), found_.operations.end(),
                                       [](const OperationRecord& record) { return record.calls > 0; });
-    line.text = QString("%1 of %2 called").arg(called).arg(found_.operations.size());
+    line.text = QString("%1 of %2 operations were called").arg(called).arg(found_.operations.size());
     if (!uncalled.isEmpty()) line.verdict = Verdict::CannotTell;
     if (!failed.isEmpty()) line.verdict = Verdict::DoesNotFit;
     if (!failed.isEmpty()) line.text += "; " + failed.join(", ");
@@ -264,23 +270,23 @@ CheckLine ModuleCheck::operationLine() const {
 }
 
 CheckLine ModuleCheck::timeLine() const {
-    CheckLine line{"call-times", "calls return in time", Verdict::CannotTell, "none was made"};
+    CheckLine line{"call-times", "calls return in time", Verdict::CannotTell, "no call was made"};
     double longestMs = 0;
     for (const OperationRecord& record : found_.operations) {
         // The first frame set may take long.
         const double ms = record.name == "grab" ? record.longestLaterMs : record.longestMs;
         if (ms <= longestMs) continue;
         longestMs = ms;
-        line.text = QString("%1 took longest, %2 ms").arg(QString::fromStdString(record.name)).arg(ms, 0, 'f', 1);
+        line.text = QString("%1 took the longest, %2 ms").arg(QString::fromStdString(record.name)).arg(ms, 0, 'f', 1);
     }
     if (longestMs > 0) line.verdict = verdictOf(longestMs <= kLongestCallMs);
     return line;
 }
 
 /// A line equal to the previous one is not repeated.
-void ModuleCheck::say(const QString& line) {
-    if (say_ && line != lastSaid_) say_(line);
-    lastSaid_ = line;
+void ModuleCheck::reportProgress(const QString& line) {
+    if (showProgress_ && line != lastProgress_) showProgress_(line);
+    lastProgress_ = line;
 }
 
 /// Keeps the first reason only.

@@ -35,8 +35,8 @@ struct ModuleFindings {
 /// it. One thread.
 class ModuleCheck {
 public:
-    /// `say` receives one line at a time for the operator; it may be empty.
-    ModuleCheck(const CheckOptions& options, std::function<void(const QString&)> say);
+    /// `showProgress` receives one line at a time for the operator; it may be empty.
+    ModuleCheck(const CheckOptions& options, std::function<void(const QString&)> showProgress);
 
     ModuleFindings run();
 
@@ -48,18 +48,18 @@ private:
     bool timeStreams(bool described);
     bool capture(session::SessionDescription description);
     bool startRecording(const session::SessionDescription& description);
-    void keepStill(const session::FramePictures& pictures);
+    void keepStill(const session::FrameImages& images);
     void checkScene();
     void checkRest();
     void finish();
-    void say(const QString& line);
+    void reportProgress(const QString& line);
     bool stop(const QString& why);
     void add(CheckLine line) { found_.lines.push_back(std::move(line)); }
     CheckLine operationLine() const;
     CheckLine timeLine() const;
 
     const CheckOptions options_;
-    const std::function<void(const QString&)> say_;
+    const std::function<void(const QString&)> showProgress_;
     const std::shared_ptr<OperationLog> log_ = std::make_shared<OperationLog>();
     ConnectedModule module_;
     ModuleFindings found_;
@@ -67,7 +67,7 @@ private:
     std::vector<CameraStills> cameras_;
     Direction shown_ = Direction::Unknown;  ///< direction of the rotations that the scene shows
     std::unique_ptr<RecordingWriter> recording_;
-    QString lastSaid_;
+    QString lastProgress_;
 };
 
 /// Returns the lines as a readable table.

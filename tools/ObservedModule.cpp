@@ -98,7 +98,7 @@ protected:
     }
     /// Makes a call for which false, zero or null is a regular result.
     template <typename Operation, typename... Arguments>
-    auto noteless(const char* name, Operation operation, Arguments... arguments) {
+    auto unrecorded(const char* name, Operation operation, Arguments... arguments) {
         return made(name, false, operation, arguments...);
     }
 
@@ -154,8 +154,8 @@ public:
                         framesPerSecond, pixelFormat);
     }
     bool setThirdEnabled(bool on) override { return observed("setThirdEnabled", &KXThirdCamera::setThirdEnabled, on); }
-    bool thirdEnabled() override { return noteless("thirdEnabled", &KXThirdCamera::thirdEnabled); }
-    const std::uint8_t* thirdImage() override { return noteless("thirdImage", &KXThirdCamera::thirdImage); }
+    bool thirdEnabled() override { return unrecorded("thirdEnabled", &KXThirdCamera::thirdEnabled); }
+    const std::uint8_t* thirdImage() override { return unrecorded("thirdImage", &KXThirdCamera::thirdImage); }
     std::int32_t thirdWidth() override { return observed("thirdWidth", &KXThirdCamera::thirdWidth); }
     std::int32_t thirdHeight() override { return observed("thirdHeight", &KXThirdCamera::thirdHeight); }
     bool rectifiedThirdIntrinsics(KXCalibIntrinsicsRectified* out) override {
@@ -253,18 +253,18 @@ public:
                         pixelFormat);
     }
     bool setDepthEnabled(bool on) override { return observed("setDepthEnabled", &KXDevice::setDepthEnabled, on); }
-    bool depthEnabled() override { return noteless("depthEnabled", &KXDevice::depthEnabled); }
+    bool depthEnabled() override { return unrecorded("depthEnabled", &KXDevice::depthEnabled); }
     bool setLeftEnabled(bool on) override { return observed("setLeftEnabled", &KXDevice::setLeftEnabled, on); }
-    bool leftEnabled() override { return noteless("leftEnabled", &KXDevice::leftEnabled); }
+    bool leftEnabled() override { return unrecorded("leftEnabled", &KXDevice::leftEnabled); }
     bool setRightEnabled(bool on) override { return observed("setRightEnabled", &KXDevice::setRightEnabled, on); }
-    bool rightEnabled() override { return noteless("rightEnabled", &KXDevice::rightEnabled); }
+    bool rightEnabled() override { return unrecorded("rightEnabled", &KXDevice::rightEnabled); }
     bool setStreamOption(bool on) override { return observed("setStreamOption", &KXDevice::setStreamOption, on); }
     bool startCapture() override { return observed("startCapture", &KXDevice::startCapture); }
     bool stopCapture() override { return observed("stopCapture", &KXDevice::stopCapture); }
     bool grab(bool wait) override { return observed("grab", &KXDevice::grab, wait); }
-    const std::uint16_t* depthImage() override { return noteless("depthImage", &KXDevice::depthImage); }
-    const std::uint16_t* leftImage() override { return noteless("leftImage", &KXDevice::leftImage); }
-    const std::uint16_t* rightImage() override { return noteless("rightImage", &KXDevice::rightImage); }
+    const std::uint16_t* depthImage() override { return unrecorded("depthImage", &KXDevice::depthImage); }
+    const std::uint16_t* leftImage() override { return unrecorded("leftImage", &KXDevice::leftImage); }
+    const std::uint16_t* rightImage() override { return unrecorded("rightImage", &KXDevice::rightImage); }
     std::int32_t depthWidth() override { return observed("depthWidth", &KXDevice::depthWidth); }
     std::int32_t depthHeight() override { return observed("depthHeight", &KXDevice::depthHeight); }
     std::int32_t lrWidth() override { return observed("lrWidth", &KXDevice::lrWidth); }
@@ -274,7 +274,7 @@ public:
         log().noteStatus(status);
         return status;
     }
-    bool calibrationValid() override { return noteless("calibrationValid", &KXDevice::calibrationValid); }
+    bool calibrationValid() override { return unrecorded("calibrationValid", &KXDevice::calibrationValid); }
     bool rectifiedLRIntrinsics(KXCalibIntrinsicsRectified* out) override {
         return observed("rectifiedLRIntrinsics", &KXDevice::rectifiedLRIntrinsics, out);
     }
@@ -285,7 +285,7 @@ public:
         return observed("rectParameters", &KXDevice::rectParameters, out);
     }
     KXPlatformCamera* platformCamera() override {
-        return platform_.around(noteless("platformCamera", &KXDevice::platformCamera));
+        return platform_.around(unrecorded("platformCamera", &KXDevice::platformCamera));
     }
     KXPrivate* privateInterface() override {
         return private_.around(observed("privateInterface", &KXDevice::privateInterface));

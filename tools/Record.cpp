@@ -18,9 +18,9 @@ std::int64_t nowNs() {
 bool record(ConnectedModule& module, const RecordOptions& options, RecordingWriter* recording, QString* why) {
     std::string reason;
     for (int done = 0; done < options.frames;) {
-        session::FramePictures pictures;
-        if (!module.grab(&pictures, why)) return false;
-        if (!recording->add(std::move(pictures), &reason, {1, nowNs()})) {
+        session::FrameImages images;
+        if (!module.grab(&images, why)) return false;
+        if (!recording->add(std::move(images), &reason, {1, nowNs()})) {
             *why = QString::fromStdString(reason);
             return false;
         }

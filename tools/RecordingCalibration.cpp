@@ -22,11 +22,13 @@ Eigen::Matrix3d eigen(const Matrix3& matrix) {
 }  // namespace
 
 RecordingCalibration::RecordingCalibration(std::string folder, session::SessionDescription session, ColourCamera camera,
-                                           std::function<void(const QString&)> say)
+                                           std::function<void(const QString&)> showProgress,
+                                           SensorEnvironment environment)
     : folder_(std::move(folder)),
       session_(std::move(session)),
       camera_(camera),
-      say_(std::move(say)),
+      showProgress_(std::move(showProgress)),
+      environment_(std::move(environment)),
       engine_(context_, parameters_) {}
 
 bool RecordingCalibration::run(QString* why) {
@@ -36,12 +38,12 @@ bool RecordingCalibration::run(QString* why) {
     qputenv("KXSIM_SPEED", "0");
     bool played = false;
     {
-        Sensor sensor;
+        Sensor sensor(environment_);
         if (open(sensor, why)) {
             CalibrationAttempt attempt(engine_, *this, light_, sensor.settings().attemptLimit);
             if (memory_) attempt.useMemory(*memory_, sensor.serialNumber());
             bool solved = false;
-            if (writing_) tellOfLastSave(sensor);
+            if (writing_) reportLastSave(sensor);
             played = play(sensor, attempt, &solved);
             finish(solved);
             if (writing_ && solved) played = write(sensor, why) && played;
@@ -59,7 +61,7 @@ bool RecordingCalibration::open(Sensor& sensor, QString* why) {
     settings.usePlatformCamera = session_.platform.has_value();
     *why = "The camera could not be opened.";
     if (!sensor.open(settings) || !readCameraParameters(sensor, &parameters_, [] {})) return false;
-    sensor.setPlatformPictureWanted(camera_ == ColourCamera::Platform);
+    sensor.setPlatformImageWanted(camera_ == ColourCamera::Platform);
     if (camera_ == ColourCamera::Third || sensor.settings().usePlatformCamera) return true;
     *why = "The module has no usable calibration of the rear camera.";
     return false;
@@ -130,11 +132,11 @@ std::map<int, double> RecordingCalibration::registrationErrors(const Matrix3& tr
 }
 
 /// Called before the write, because the note about this write replaces the note about the last save.
-void RecordingCalibration::tellOfLastSave(Sensor& sensor) {
+void RecordingCalibration::reportLastSave(Sensor& sensor) {
     const auto last = settleLastSave(sensor, userDataFolder());
     if (!last) return;
     report_.lastSave = lastSaveText(*last);
-    if (say_) say_(report_.lastSave);
+    if (showProgress_) showProgress_(report_.lastSave);
 }
 
 bool RecordingCalibration::write(Sensor& sensor, QString* why) {
@@ -149,7 +151,7 @@ bool RecordingCalibration::write(Sensor& sensor, QString* why) {
     const WriteBackReport& done = sensor.writeBack();
     writeBack_ = done;
     if (*report_.written) {
-        if (say_) say_(flashText(done) + " The previous one is kept in " + done.backupFile);
+        if (showProgress_) showProgress_(flashText(done) + " The previous one is kept in " + done.backupFile);
     } else {
         *why = QString("%1 (%2)").arg(done.reason, flashText(done));
     }
@@ -191,23 +193,23 @@ void RecordingCalibration::pairProcessed(const vq::CalibratorResult& result) {
     PairReport pair{engine_.calibrator().statistics(), result.code, pairWatch_.lap()};
     report_.pairs.push_back(pair);
     report_.parallax = engine_.parallax();
-    if (!say_) return;
-    say_(QString("pair %1: %2 infrared and %3 colour corners, %4 matched, %5 verified; answer %6, %7 ms")
-             .arg(report_.pairs.size())
-             .arg(pair.statistics.infraredCorners)
-             .arg(pair.statistics.colourCorners)
-             .arg(pair.statistics.matched)
-             .arg(pair.statistics.verified)
-             .arg(result.code)
-             .arg(pair.seconds * 1e3, 0, 'f', 0));
+    if (!showProgress_) return;
+    showProgress_(QString("pair %1: %2 infrared and %3 colour corners, %4 matched, %5 verified; answer %6, %7 ms")
+                      .arg(report_.pairs.size())
+                      .arg(pair.statistics.infraredCorners)
+                      .arg(pair.statistics.colourCorners)
+                      .arg(pair.statistics.matched)
+                      .arg(pair.statistics.verified)
+                      .arg(result.code)
+                      .arg(pair.seconds * 1e3, 0, 'f', 0));
 }
 
 void RecordingCalibration::startText(const std::string& text) {
-    if (say_) say_(QString::fromStdString(text).replace('\n', ' '));
+    if (showProgress_) showProgress_(QString::fromStdString(text).replace('\n', ' '));
 }
 
 void RecordingCalibration::returnToWellLitArea(bool needed) {
-    if (say_ && needed && !dark_) say_("too dark: waiting for sunlight");
+    if (showProgress_ && needed && !dark_) showProgress_("too dark: waiting for sunlight");
     dark_ = needed;
 }
 

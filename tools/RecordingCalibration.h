@@ -24,9 +24,10 @@ namespace fieldcal {
 /// fails is restarted at once. All calls must come from one thread.
 class RecordingCalibration : private AttemptListener {
 public:
-    /// `say` receives one line for each event; it may be empty.
+    /// `showProgress` receives one line for each event; it may be empty. `environment`: of the sensor.
     RecordingCalibration(std::string folder, session::SessionDescription session, ColourCamera camera,
-                         std::function<void(const QString&)> say);
+                         std::function<void(const QString&)> showProgress,
+                         SensorEnvironment environment = systemEnvironment());
 
     /// Sets whether a solution is written into the module's flash.
     void setWriting(bool on) { writing_ = on; }
@@ -46,7 +47,7 @@ private:
     bool play(Sensor& sensor, CalibrationAttempt& attempt, bool* solved);
     void finish(bool solved);
     std::map<int, double> registrationErrors(const Matrix3& truth) const;
-    void tellOfLastSave(Sensor& sensor);
+    void reportLastSave(Sensor& sensor);
     bool write(Sensor& sensor, QString* why);
     void pairProcessed(const vq::CalibratorResult& result) override;
     void pairCaptured() override;
@@ -56,7 +57,8 @@ private:
     const std::string folder_;
     const session::SessionDescription session_;
     const ColourCamera camera_;
-    const std::function<void(const QString&)> say_;
+    const std::function<void(const QString&)> showProgress_;
+    const SensorEnvironment environment_;
     SensorReports reports_;
     CameraParameters parameters_;
     vq::RegistrationContext context_;

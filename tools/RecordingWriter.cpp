@@ -24,34 +24,34 @@ std::string sizeText(long long width, long long height) {
     return std::to_string(width) + " x " + std::to_string(height);
 }
 
-bool fits(const ImageFrame& picture, const session::Intrinsics& camera, const char* name, std::string* why) {
-    if (picture.width() == static_cast<std::uint32_t>(camera.width) &&
-        picture.height() == static_cast<std::uint32_t>(camera.height)) {
+bool fits(const ImageFrame& image, const session::Intrinsics& camera, const char* name, std::string* why) {
+    if (image.width() == static_cast<std::uint32_t>(camera.width) &&
+        image.height() == static_cast<std::uint32_t>(camera.height)) {
         return true;
     }
-    *why = std::string("The ") + name + " picture is " + sizeText(picture.width(), picture.height()) +
+    *why = std::string("The ") + name + " picture is " + sizeText(image.width(), image.height()) +
            ", but the camera's calibration is for " + sizeText(camera.width, camera.height) + ".";
     return false;
 }
 
-bool hasTenBits(const ImageFrame16& picture, const char* name, std::string* why) {
-    const std::uint16_t* end = picture.pixels() + picture.byteCount() / 2;
-    const std::uint16_t* largest = std::max_element(picture.pixels(), end);
+bool hasTenBits(const ImageFrame16& image, const char* name, std::string* why) {
+    const std::uint16_t* end = image.pixels() + image.byteCount() / 2;
+    const std::uint16_t* largest = std::max_element(image.pixels(), end);
     if (largest == end || *largest <= kLargestInfrared) return true;
     *why = std::string("The ") + name + " picture has the value " + std::to_string(*largest) + ", above " +
            std::to_string(kLargestInfrared) + ".";
     return false;
 }
 
-session::FrameEntry entryFor(std::size_t index, const session::FramePictures& pictures) {
+session::FrameEntry entryFor(std::size_t index, const session::FrameImages& images) {
     char prefix[24];
     std::snprintf(prefix, sizeof prefix, "%03zu_", index);
     session::FrameEntry entry;
     entry.infrared = std::string(prefix) + "infrared.png";
     entry.third = std::string(prefix) + "third.png";
-    if (!pictures.right.empty()) entry.right = std::string(prefix) + "right.png";
-    if (!pictures.depth.empty()) entry.depth = std::string(prefix) + "depth.png";
-    if (!pictures.platform.empty()) entry.platform = std::string(prefix) + "platform.nv12";
+    if (!images.right.empty()) entry.right = std::string(prefix) + "right.png";
+    if (!images.depth.empty()) entry.depth = std::string(prefix) + "depth.png";
+    if (!images.platform.empty()) entry.platform = std::string(prefix) + "platform.nv12";
     return entry;
 }
 
@@ -84,44 +84,44 @@ bool RecordingWriter::start(std::string* why) {
     return makeFolders(folder_, why);
 }
 
-bool RecordingWriter::add(session::FramePictures pictures, std::string* why, const Timing& timing) {
-    if (!canBePlayed(pictures, why)) return false;
-    if (repeatsLast(pictures)) {
+bool RecordingWriter::add(session::FrameImages images, std::string* why, const Timing& timing) {
+    if (!canBePlayed(images, why)) return false;
+    if (repeatsLast(images)) {
         description_.frames.back().repeat += timing.repeat;
         return true;
     }
-    if (frameCount() == session::kMostFrames) {
-        *why = folder_ + ": more than " + std::to_string(session::kMostFrames) + " frames cannot be played";
+    if (frameCount() == session::kMaxFrames) {
+        *why = folder_ + ": more than " + std::to_string(session::kMaxFrames) + " frames cannot be played";
         return false;
     }
-    description_.frames.push_back(entryFor(frameCount(), pictures));
+    description_.frames.push_back(entryFor(frameCount(), images));
     description_.frames.back().repeat = timing.repeat;
     description_.frames.back().timeNs = timing.timeNs;
-    if (!session::writePictures(folder_, description_.frames.back(), pictures, why)) return false;
-    last_ = std::move(pictures);
+    if (!session::writeImages(folder_, description_.frames.back(), images, why)) return false;
+    last_ = std::move(images);
     return true;
 }
 
 /// Returns whether a frame set equals the last one. While a frame repeats, the rear camera may or may not deliver its
 /// image again; an unchanged image makes no difference.
-bool RecordingWriter::repeatsLast(const session::FramePictures& pictures) const {
-    return !description_.frames.empty() && same(pictures.infrared, last_.infrared) &&
-           same(pictures.right, last_.right) && same(pictures.third, last_.third) &&
-           same(pictures.depth, last_.depth) && (pictures.platform.empty() || pictures.platform == last_.platform);
+bool RecordingWriter::repeatsLast(const session::FrameImages& images) const {
+    return !description_.frames.empty() && same(images.infrared, last_.infrared) && same(images.right, last_.right) &&
+           same(images.third, last_.third) && same(images.depth, last_.depth) &&
+           (images.platform.empty() || images.platform == last_.platform);
 }
 
-bool RecordingWriter::canBePlayed(const session::FramePictures& pictures, std::string* why) const {
-    if (!fits(pictures.infrared, description_.infrared, "infrared", why) ||
-        !fits(pictures.third, description_.third, "colour", why) ||
-        (!pictures.right.empty() && !fits(pictures.right, description_.infrared, "right infrared", why)) ||
-        (!pictures.depth.empty() && !fits(pictures.depth, description_.depth, "depth", why))) {
+bool RecordingWriter::canBePlayed(const session::FrameImages& images, std::string* why) const {
+    if (!fits(images.infrared, description_.infrared, "infrared", why) ||
+        !fits(images.third, description_.third, "colour", why) ||
+        (!images.right.empty() && !fits(images.right, description_.infrared, "right infrared", why)) ||
+        (!images.depth.empty() && !fits(images.depth, description_.depth, "depth", why))) {
         return false;
     }
-    return hasTenBits(pictures.infrared, "infrared", why) && hasTenBits(pictures.right, "right infrared", why);
+    return hasTenBits(images.infrared, "infrared", why) && hasTenBits(images.right, "right infrared", why);
 }
 
 bool RecordingWriter::finish(std::string* why) {
-    if (!session::syncPictures(folder_, description_, why)) return false;
+    if (!session::syncImages(folder_, description_, why)) return false;
     describing_ = true;
     finished_ = session::writeDescription(folder_, description_, why);
     return finished_;

@@ -29,19 +29,19 @@ public:
         std::optional<std::int64_t> timeNs = {};
     };
     /// Adds a frame set. `platform` is empty when the rear camera delivered no new image.
-    bool add(session::FramePictures pictures, std::string* why, const Timing& timing);
+    bool add(session::FrameImages images, std::string* why, const Timing& timing);
 
     bool finish(std::string* why);
 
     std::size_t frameCount() const { return description_.frames.size(); }
 
 private:
-    bool repeatsLast(const session::FramePictures& pictures) const;
-    bool canBePlayed(const session::FramePictures& pictures, std::string* why) const;
+    bool repeatsLast(const session::FrameImages& images) const;
+    bool canBePlayed(const session::FrameImages& images, std::string* why) const;
 
     const std::string folder_;
     session::SessionDescription description_;
-    session::FramePictures last_;
+    session::FrameImages last_;
     bool madeFolder_ = false;
     bool finished_ = false;
     bool describing_ = false;  ///< this object may have written session.json

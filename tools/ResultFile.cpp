@@ -57,10 +57,10 @@ bool ResultFile::write(QJsonObject object, QString* why) const {
         object.insert("serial", static_cast<qint64>(cameras_->serial));
         object.insert("cameras", camerasJson(*cameras_));
     }
-    return writeWhole(path_, QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n', why);
+    return writeFile(path_, QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n', why);
 }
 
-bool writeWhole(const QString& path, const QByteArray& bytes, QString* why) {
+bool writeFile(const QString& path, const QByteArray& bytes, QString* why) {
     if (path != "-" && canBeReplaced(path)) {
         std::string reason;
         const bool written = session::writeOutput(path.toStdString(), bytes.constData(),

@@ -42,6 +42,6 @@ private:
 
 /// Writes a whole file, or standard output for "-". On failure, a regular file is unchanged, and false and one line in
 /// `why` are returned.
-bool writeWhole(const QString& path, const QByteArray& bytes, QString* why);
+bool writeFile(const QString& path, const QByteArray& bytes, QString* why);
 
 }  // namespace fieldcal

@@ -20,9 +20,9 @@ namespace fieldcal {
 namespace {
 
 constexpr double kSignificant = 3.0;  ///< in standard deviations
-constexpr int kMostRows = 8;
+constexpr int kMaxRows = 8;
 constexpr double kTolerableRowsPx = 0.5;
-constexpr std::size_t kLeastPlaces = 60;
+constexpr std::size_t kMinPlaces = 60;
 constexpr float kNearDisparityPx = 1.0F;
 constexpr double kSmallestBaselineM = 0.015, kLargestBaselineM = 0.2;
 constexpr double kShortestMm = 5, kLongestMm = 400;
@@ -35,7 +35,7 @@ constexpr double kLargestMedianPx = 1.0;
 /// photographs and rendered squares with known principal point scatter as predicted.
 constexpr double kPrincipalPointDoubtPx = 0.05;
 constexpr float kOtherSizes[] = {0.97F, 1.03F, 0.94F, 1.06F};
-constexpr const char* kNoRotation = "the scene gave no rotation";
+constexpr const char* kNoRotation = "no rotation could be estimated from the scene";
 
 /// A convention about principal points. The shift is in pixels of the camera's own image along both axes.
 struct Convention {
@@ -89,14 +89,16 @@ StereoEvidence stereoEvidence(const std::vector<vq::SelectedImages>& stills, int
 }
 
 CheckLine orderLine(const std::vector<vq::SelectedImages>& stills, int rows) {
-    CheckLine line{"imagers", "the left imager stands to the left", Verdict::CannotTell,
-                   "nothing near was seen by both"};
-    const std::size_t asTold = stereoEvidence(stills, rows, false).inFront;
+    CheckLine line{"imagers", "the left imager is on the left", Verdict::CannotTell,
+                   "no near object is visible to both imagers"};
+    const std::size_t asReported = stereoEvidence(stills, rows, false).inFront;
     const std::size_t swapped = stereoEvidence(stills, -rows, true).inFront;
-    if (std::max(asTold, swapped) < kLeastPlaces) return line;
-    line.text = QString("%1 places are nearer as they are told, %2 with both exchanged").arg(asTold).arg(swapped);
-    if (asTold > 2 * swapped) line.verdict = Verdict::Fits;
-    if (swapped > 2 * asTold) line.verdict = Verdict::DoesNotFit;
+    if (std::max(asReported, swapped) < kMinPlaces) return line;
+    line.text = QString("%1 points have the disparity of a near object as reported, %2 with the imagers exchanged")
+                    .arg(asReported)
+                    .arg(swapped);
+    if (asReported > 2 * swapped) line.verdict = Verdict::Fits;
+    if (swapped > 2 * asReported) line.verdict = Verdict::DoesNotFit;
     return line;
 }
 
@@ -106,7 +108,7 @@ int bestRows(const std::vector<vq::SelectedImages>& stills, bool swapped) {
         stills.begin(), stills.begin() + std::min<std::ptrdiff_t>(2, static_cast<std::ptrdiff_t>(stills.size())));
     int best = 0;
     std::size_t most = 0;
-    for (int rows = -kMostRows; rows <= kMostRows; ++rows) {
+    for (int rows = -kMaxRows; rows <= kMaxRows; ++rows) {
         const std::size_t count = stereoEvidence(some, rows, swapped).rows.size();
         if (count > most) {
             most = count;
@@ -117,12 +119,12 @@ int bestRows(const std::vector<vq::SelectedImages>& stills, bool swapped) {
 }
 
 CheckLine rowLine(const StereoEvidence& evidence) {
-    CheckLine line{"stereo-rows", "left and right see the same rows", Verdict::CannotTell,
-                   "too few places were found in both images"};
-    if (evidence.rows.size() < kLeastPlaces) return line;
+    CheckLine line{"stereo-rows", "left and right rows are aligned", Verdict::CannotTell,
+                   "too few points were matched between the two images"};
+    if (evidence.rows.size() < kMinPlaces) return line;
     const double offset = vq::medianOf(evidence.rows);
     line.verdict = verdictOf(std::abs(offset) <= kTolerableRowsPx);
-    line.text = QString("the right image shows everything %1 rows lower (median of %2 places)")
+    line.text = QString("the right image is %1 rows lower than the left one (median of %2 points)")
                     .arg(offset, 0, 'f', 2)
                     .arg(evidence.rows.size());
     return line;
@@ -143,11 +145,11 @@ CheckLine baselineLine(const std::vector<vq::SelectedImages>& stills, const Came
             return !std::isnan(place.disparityPx) && !std::isnan(place.inverseDepth);
         }));
     }
-    line.text = QString("%1 places have a disparity and a depth").arg(both);
+    line.text = QString("%1 points have both a disparity and a depth").arg(both);
     if (meter.source() != vq::BaselineSource::Depth || !meter.baselineM()) return line;
     const double baselineM = *meter.baselineM();
     line.verdict = verdictOf(baselineM >= kSmallestBaselineM && baselineM <= kLargestBaselineM);
-    line.text += QString(": a baseline of %1 ± %2 mm")
+    line.text += QString(": the baseline is %1 ± %2 mm")
                      .arg(baselineM * kMetresToMillimetres, 0, 'f', 1)
                      .arg(baselineM * kMetresToMillimetres * meter.scale()->relativeDeviation, 0, 'f', 1);
     return line;
@@ -182,9 +184,9 @@ std::vector<vq::SelectedImages> trustedStills(const CameraStills& camera, const 
 }
 
 /// Evaluates one colour camera.
-class CameraJudge {
+class CameraEvaluator {
 public:
-    CameraJudge(const CameraStills& camera, const CameraParameters& parameters, const CheckLines& trusted)
+    CameraEvaluator(const CameraStills& camera, const CameraParameters& parameters, const CheckLines& trusted)
         : platform_(camera.platformCamera), parameters_(parameters), stills_(trustedStills(camera, trusted)) {}
 
     CheckLines lines(Direction* direction) {
@@ -196,7 +198,7 @@ public:
         return all;
     }
 
-    CheckLines untold(const QString& why) const {
+    CheckLines undetermined(const QString& why) const {
         CheckLines all;
         for (const char* id : {"translation", "rotation", "principal-point", "model"})
             all.push_back(line(id, Verdict::CannotTell, why));
@@ -209,7 +211,7 @@ private:
         const QString what = id == "translation"       ? "direction of the translation, %1 camera"
                              : id == "rotation"        ? "direction of the rotation, %1 camera"
                              : id == "principal-point" ? "principal point, %1 camera"
-                                                       : "pictures are as calibrated, %1 camera";
+                                                       : "images match the calibration, %1 camera";
         return {id + '-' + camera, what.arg(camera), verdict, text};
     }
 
@@ -260,47 +262,49 @@ private:
         for (const auto& solved : {solution_, opposite}) {
             if (solved) matches.insert(matches.end(), solved->matches.begin(), solved->matches.end());
         }
-        const bool begunAsTold = solution_.has_value();
-        if (!begunAsTold) solution_ = opposite;
+        const bool startedAsReported = solution_.has_value();
+        if (!startedAsReported) solution_ = opposite;
         const auto found =
-            preferenceBetween(matches, *solution_, withPose(begunAsTold ? pose(other) : pose(parameters_)));
-        if (!found) return line("translation", Verdict::CannotTell, "nothing near enough was seen");
+            preferenceBetween(matches, *solution_, withPose(startedAsReported ? pose(other) : pose(parameters_)));
+        if (!found) return line("translation", Verdict::CannotTell, "no object is near enough");
         // +1: the reported translation; -1: the opposite one.
-        const double along = (begunAsTold ? 1 : -1) * (1 - 2 * found->share), deviation = 2 * found->deviation;
-        const QString text = QString("%1 ± %2 of the one that is told").arg(along, 0, 'f', 2).arg(deviation, 0, 'f', 2);
-        const bool isTold = isAbout(along, deviation, 1), isOpposite = isAbout(along, deviation, -1);
-        if (!isTold && !isOpposite) {
-            return line("translation", Verdict::CannotTell, text + ": nothing near enough was seen");
+        const double along = (startedAsReported ? 1 : -1) * (1 - 2 * found->share), deviation = 2 * found->deviation;
+        const QString text = QString("the estimated translation is %1 ± %2 of the reported one")
+                                 .arg(along, 0, 'f', 2)
+                                 .arg(deviation, 0, 'f', 2);
+        const bool isReported = isAbout(along, deviation, 1), isOpposite = isAbout(along, deviation, -1);
+        if (!isReported && !isOpposite) {
+            return line("translation", Verdict::CannotTell, text + ": no object is near enough");
         }
         if (isOpposite) {
             parameters_ = other;
             solution_ = opposite;
         }
-        return line("translation", verdictOf(isTold), text);
+        return line("translation", verdictOf(isReported), text);
     }
 
     CheckLine rotationLine(Direction* direction) {
         *direction = Direction::Unknown;
         if (!solution_ || !solution_->quality) return line("rotation", Verdict::CannotTell, kNoRotation);
-        const Eigen::Matrix3d told = rotationOf(pose(parameters_));
-        const double asTold = angleDeg(solution_->rotation, told);
-        const double transposed = angleDeg(solution_->rotation, told.transpose());
-        const double between = angleDeg(told, told.transpose());
+        const Eigen::Matrix3d reported = rotationOf(pose(parameters_));
+        const double asReported = angleDeg(solution_->rotation, reported);
+        const double transposed = angleDeg(solution_->rotation, reported.transpose());
+        const double between = angleDeg(reported, reported.transpose());
         const auto& deviation = solution_->quality->deviationDeg;
         const double deviationDeg =
             std::sqrt(deviation[0] * deviation[0] + deviation[1] * deviation[1] + deviation[2] * deviation[2]);
-        const double deviations = (transposed - asTold) / deviationDeg;
+        const double deviations = (transposed - asReported) / deviationDeg;
         const QString text = QString(
-                                 "the scene shows it %1° from the one that is told and %2° from its transpose "
-                                 "(%3 deviations)")
-                                 .arg(asTold, 0, 'f', 3)
+                                 "the estimated rotation is %1° from the reported one and %2° from its transpose "
+                                 "(%3 standard deviations)")
+                                 .arg(asReported, 0, 'f', 3)
                                  .arg(transposed, 0, 'f', 3)
                                  .arg(deviations, 0, 'f', 1);
-        const bool isNear = std::min(asTold, transposed) < kNearShare * between;
+        const bool isNear = std::min(asReported, transposed) < kNearShare * between;
         if (!isNear || std::abs(deviations) < kSignificant) {
-            return line("rotation", Verdict::CannotTell, text + ": the module has drifted too much to tell");
+            return line("rotation", Verdict::CannotTell, text + ": the drift of the module is too large for a verdict");
         }
-        *direction = deviations > 0 ? Direction::AsTold : Direction::Transposed;
+        *direction = deviations > 0 ? Direction::AsReported : Direction::Transposed;
         return line("rotation", verdictOf(deviations > 0), text);
     }
 
@@ -313,18 +317,20 @@ private:
         const auto found = preferenceBetween(solution_->matches, *solution_, other);
         if (!found) return line("principal-point", Verdict::CannotTell, kNoRotation);
         const double deviationPx = std::hypot(found->deviation, kPrincipalPointDoubtPx);
-        QString text =
-            QString("%1 ± %2 px from where it is told").arg(found->share, 0, 'f', 3).arg(deviationPx, 0, 'f', 3);
+        QString text = QString("the principal point is %1 ± %2 px from the reported one")
+                           .arg(found->share, 0, 'f', 3)
+                           .arg(deviationPx, 0, 'f', 3);
         const Convention conventions[] = {
-            {"as it is told", 0},
-            {"told from the corner of the first pixel", -0.5},
-            {"told half a pixel too small", 0.5},
-            {"told for the unscaled picture", 0.5 * (static_cast<double>(scale) - 1) / static_cast<double>(scale)}};
+            {"as reported", 0},
+            {"reported relative to the corner of the first pixel", -0.5},
+            {"reported half a pixel too small", 0.5},
+            {"reported for the unscaled image", 0.5 * (static_cast<double>(scale) - 1) / static_cast<double>(scale)}};
         std::array<bool, std::size(conventions)> isPossible{};
         for (std::size_t i = 0; i < isPossible.size(); ++i) {
             const double deviations = std::abs(found->share - conventions[i].shiftPx) / deviationPx;
             isPossible[i] = deviations < kSignificant;
-            text += QString("; '%1' is %2 deviations away").arg(conventions[i].name).arg(deviations, 0, 'f', 1);
+            text +=
+                QString("; '%1' is %2 standard deviations away").arg(conventions[i].name).arg(deviations, 0, 'f', 1);
         }
         // The last convention differs so little that it is reported but has no influence on the verdict.
         if (!isPossible[0]) return line("principal-point", Verdict::DoesNotFit, text);
@@ -346,11 +352,11 @@ private:
         if (otherSize_) {
             const double percent = 100 * (static_cast<double>(*otherSize_) - 1);
             return line("model", Verdict::DoesNotFit,
-                        QString("the scene gives a rotation only for focal lengths that differ by about %1 %")
+                        QString("a rotation could be estimated only with focal lengths that differ by about %1 %")
                             .arg(percent, 0, 'f', 0));
         }
         if (!solution_) return line("model", Verdict::CannotTell, kNoRotation);
-        QString text = QString("%1 matches, residual %2 px in the median")
+        QString text = QString("%1 matches, median residual %2 px")
                            .arg(solution_->matches.size())
                            .arg(solution_->medianPx, 0, 'f', 2);
         if (!solution_->quality) return line("model", Verdict::CannotTell, text);
@@ -361,12 +367,12 @@ private:
             const char* names[] = {"focal length", "principal point", "distortion",
                                    "translation",  "rolling shear",   "two halves"};
             const auto index = static_cast<std::size_t>(*departure);
-            text += QString("; departs in %1 (probability of chance %2)")
+            text += QString("; the model departs in %1 (p = %2)")
                         .arg(names[index])
                         .arg(check.probability[index], 0, 'g', 2);
-            const bool judgedElsewhere =
+            const bool hasOwnLine =
                 *departure == vq::ModelDeparture::PrincipalPoint || *departure == vq::ModelDeparture::Translation;
-            fits = fits && judgedElsewhere;
+            fits = fits && hasOwnLine;
         }
         return line("model", verdictOf(fits), text);
     }
@@ -389,13 +395,13 @@ CheckLines checkStereo(const std::vector<vq::SelectedImages>& stills, const Came
         row = {row.id, row.name, Verdict::CannotTell, "the imagers are exchanged"};
         baseline = {baseline.id, baseline.name, Verdict::CannotTell, "the imagers are exchanged"};
     } else if (row.verdict == Verdict::DoesNotFit) {
-        baseline = {baseline.id, baseline.name, Verdict::CannotTell, "the rows do not fit"};
+        baseline = {baseline.id, baseline.name, Verdict::CannotTell, "the rows are not aligned"};
     }
     return {order, row, baseline};
 }
 
 CheckLine checkTranslations(const CameraParameters& parameters, bool withPlatform) {
-    CheckLine line{"translation-unit", "translations in millimetres", Verdict::Fits, ""};
+    CheckLine line{"translation-unit", "translations are in millimetres", Verdict::Fits, ""};
     QStringList lengths;
     for (const auto& [name, pose] : {std::pair{"third", parameters.colour[ColourCamera::Third].fromDepth},
                                      {"rear", parameters.colour[ColourCamera::Platform].fromDepth}}) {
@@ -412,9 +418,9 @@ CheckLine checkTranslations(const CameraParameters& parameters, bool withPlatfor
 CheckLines checkCamera(const CameraStills& camera, const CameraParameters& parameters, const CheckLines& trusted,
                        Direction* direction) {
     *direction = Direction::Unknown;
-    CameraJudge judge(camera, parameters, trusted);
-    if (contradicts(trusted, "translation-unit")) return judge.untold("the translations do not fit");
-    return judge.lines(direction);
+    CameraEvaluator evaluator(camera, parameters, trusted);
+    if (contradicts(trusted, "translation-unit")) return evaluator.undetermined("the translations are not plausible");
+    return evaluator.lines(direction);
 }
 
 }  // namespace fieldcal

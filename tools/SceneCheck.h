@@ -15,7 +15,7 @@ struct CameraStills {
 };
 
 /// The direction of reported rotations: as the convention says, or transposed.
-enum class Direction { AsTold, Transposed, Unknown };
+enum class Direction { AsReported, Transposed, Unknown };
 
 /// Checks whether the left and the right infrared image belong together: rows, order, and the stereo baseline compared
 /// with depth.

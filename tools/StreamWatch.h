@@ -37,7 +37,7 @@ public:
     /// Starts or ends timing. While it is on, frame sets have to be grabbed as fast as the module delivers them.
     void setTiming(bool on);
     /// Evaluates a frame set that was grabbed at `now`. A stream without an image in this set is empty.
-    void take(const session::FramePictures& pictures, Clock::time_point now);
+    void take(const session::FrameImages& images, Clock::time_point now);
 
     /// Returns the number of frame sets so far.
     int sets() const { return sets_; }
@@ -54,11 +54,11 @@ private:
         std::vector<float> motion;     ///< mean absolute change of the pixel values, for each frame set
         std::vector<double> timedMs;   ///< arrival of new images since timing began
         std::vector<double> rowCosts;  ///< for each shift between one row and the next
-        int rowPictures = 0;
+        int rowImages = 0;
         bool equalsLeft = true;
     };
 
-    void follow(std::size_t stream, const cv::Mat& picture, Clock::time_point now);
+    void follow(std::size_t stream, const cv::Mat& image, Clock::time_point now);
     CheckLine streamLine(std::size_t stream) const;
     CheckLine rowLine() const;
     CheckLine levelLine() const;

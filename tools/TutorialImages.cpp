@@ -48,7 +48,7 @@ synthesis::Rig tutorialRig() {
     return rig;
 }
 
-session::FramePictures takePictures() {
+session::FrameImages takeImages() {
     const auto stage = world::buildWorld(kWorld, kSeed);
     handheld::Hand hand(kSeed, stage->lowestPitchDeg, stage->highestPitchDeg);
     const world::Moment moment{hand.rest(kView).pose, 0};
@@ -66,11 +66,11 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: fieldcal-tutorial-images DEPTH.bin COLOR.bin\n");
         return 2;
     }
-    session::FramePictures pictures = takePictures();
-    ImageFrame32& colour = pictures.third;
+    session::FrameImages images = takeImages();
+    ImageFrame32& colour = images.third;
     for (std::size_t i = 0; i < colour.byteCount(); i += 4)
         std::swap(colour.bytes()[i], colour.bytes()[i + 2]);  // the module delivers blue first
-    const bool written = writeTutorialDepth(QString::fromLocal8Bit(argv[1]), pictures.depth) &&
+    const bool written = writeTutorialDepth(QString::fromLocal8Bit(argv[1]), images.depth) &&
                          writeTutorialColour(QString::fromLocal8Bit(argv[2]), colour);
     return written ? 0 : 1;
 }

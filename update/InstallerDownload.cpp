@@ -111,7 +111,7 @@ void InstallerDownload::timedOut() {
 bool InstallerDownload::acceptAnswer() {
     const int status = statusOf(*reply_);
     if (status == kOk) {
-        accepted_ = acceptWhole();
+        accepted_ = acceptDownload();
     } else if (status == kPartialContent && resumedFrom_ > 0) {
         accepted_ = acceptRest();
     } else if (isPassing(status)) {
@@ -123,7 +123,7 @@ bool InstallerDownload::acceptAnswer() {
     return accepted_;
 }
 
-bool InstallerDownload::acceptWhole() {
+bool InstallerDownload::acceptDownload() {
     total_ = reply_->header(QNetworkRequest::ContentLengthHeader).toLongLong();
     validator_ = validatorOf(*reply_);
     if (total_ <= 0 || total_ > environment_.installerLimitBytes) {

@@ -49,7 +49,7 @@ private:
     void timedOut();
     /// Returns false when the answer does not fit the request; the consequences have then been handled.
     bool acceptAnswer();
-    bool acceptWhole();
+    bool acceptDownload();
     bool acceptRest();
     bool append(const QByteArray& bytes);
     void tryAgain(const QString& why);

@@ -23,7 +23,7 @@ public:
     /// A pair has been selected and is about to be processed.
     virtual void pairCaptured() {}
     /// The two images of the pair, sent after `pairCaptured`. Valid during the call only.
-    virtual void pairPictures(const ImageFrame16& /*infrared*/, const ImageFrame32& /*colour*/) {}
+    virtual void pairImages(const ImageFrame16& /*infrared*/, const ImageFrame32& /*colour*/) {}
     /// A pair has been matched, and a calibration has been tried with it.
     virtual void pairProcessed(const vq::CalibratorResult&) {}
     virtual void offerHowToMove() {}

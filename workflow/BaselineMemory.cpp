@@ -12,8 +12,8 @@ namespace fieldcal {
 namespace {
 
 constexpr qint64 kLargestFile = 65536;
-constexpr std::size_t kMostModules = 1000;  ///< far fewer than fit into the largest accepted file; the oldest ones are
-                                            ///< dropped
+constexpr std::size_t kMaxModules = 1000;  ///< far fewer than fit into the largest accepted file; the oldest ones are
+                                           ///< dropped
 constexpr double kSmallestMm = 15.0, kLargestMm = 200.0;
 constexpr char kHeading[] = "# Module serial numbers, and the stereo baselines (mm) that calibrations found for them\n";
 
@@ -78,7 +78,7 @@ void BaselineMemory::remember(std::uint32_t serial, double metres) const {
         if (known.serial != serial && known.isPlausible()) lines.push_back(known);
     }
     lines.push_back(line);
-    if (lines.size() > kMostModules) lines.erase(lines.begin(), lines.end() - kMostModules);
+    if (lines.size() > kMaxModules) lines.erase(lines.begin(), lines.end() - kMaxModules);
 
     const QByteArray text = textOf(lines);
     std::string why;

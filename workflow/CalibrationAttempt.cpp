@@ -67,7 +67,7 @@ CalibrationAttempt::Outcome CalibrationAttempt::processFrame(const CaptureFrames
 CalibrationAttempt::Outcome CalibrationAttempt::addPair(const CaptureFrames& frames) {
     qInfo("Adding new infrared color pair...");
     listener_.pairCaptured();
-    listener_.pairPictures(frames.infrared, frames.colour);
+    listener_.pairImages(frames.infrared, frames.colour);
     const vq::CalibratorResult result = calibrator_.inputImageAndTryCalibration();
     ++photoCount_;
     listener_.calibrationProgress(progressAfterPairs(photoCount_));

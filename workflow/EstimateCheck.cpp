@@ -82,7 +82,7 @@ std::optional<EstimateCheck> checkEstimate(Sensor& sensor, ColourCamera camera, 
     SinglePairEngine aboutBefore(parameters, camera, rememberedBaselineM);
     const Rotation before = std::exchange(parameters.colour[camera].fromDepth.rotation, estimate);
     SinglePairEngine aboutEstimate(parameters, camera, rememberedBaselineM);
-    sensor.setPlatformPictureWanted(camera == ColourCamera::Platform);
+    sensor.setPlatformImageWanted(camera == ColourCamera::Platform);
     sensor.setEmitterQuietly(false);
     for (int set = 0; set < kFrameSets; ++set) {
         if (!sensor.grabQuietly()) return std::nullopt;

@@ -10,8 +10,8 @@ namespace fieldcal {
 
 /// The outcome of a save.
 struct SaveResult {
-    bool stored = false;  ///< the module has confirmed the rotations
-    bool told = true;     ///< confirmed, or a note on the disk will report the failure at the next start
+    bool stored = false;   ///< the module has confirmed the rotations
+    bool reported = true;  ///< confirmed, or a note on the disk will report the failure at the next start
 };
 
 /// Writes the rotations into the module, and compares the module's next images with `estimated`, the rotation that each

@@ -7,8 +7,8 @@
 
 namespace fieldcal {
 
-WorkflowEnvironment systemWorkflowEnvironment() {
-    return {[] { return std::make_unique<Sensor>(); }, userDataFolder()};
+WorkflowEnvironment systemWorkflowEnvironment(kxapi::LibrarySearch search) {
+    return {[search] { return std::make_unique<Sensor>(systemEnvironment(search)); }, userDataFolder()};
 }
 
 Workflow::Workflow(WorkflowListener& listener, WorkflowEnvironment environment)
@@ -52,7 +52,7 @@ void Workflow::switchCamera(ColourCamera camera) {
             // The emitter stays off until the refinement is entered again, even if the state still is the refinement.
             emitterState_ = State::RefiningCalibration;
             sensor_->setEmitter(false);
-            sensor_->setPlatformPictureWanted(camera_ == ColourCamera::Platform);
+            sensor_->setPlatformImageWanted(camera_ == ColourCamera::Platform);
         });
     records_.forgetEstimate(camera);
 }
@@ -80,7 +80,7 @@ LeaveReport Workflow::save(Storing storing) {
     if (sensor_ != nullptr && reopenAfterFault()) {
         const SaveResult saved = storeCalibration(*sensor_, records_, environment_.dataFolder);
         report.stored = saved.stored;
-        report.told = saved.told;
+        report.reported = saved.reported;
         report.writeBack = sensor_->writeBack();
         solutions_.keep(environment_.dataFolder, *sensor_, records_, report.stored);
     }

@@ -28,7 +28,7 @@ struct WorkflowEnvironment {
     std::function<std::unique_ptr<Sensor>()> makeSensor;
     QString dataFolder;  ///< holds the note about a failed save and the known stereo baselines
 };
-WorkflowEnvironment systemWorkflowEnvironment();
+WorkflowEnvironment systemWorkflowEnvironment(kxapi::LibrarySearch search = kxapi::LibrarySearch::Installed);
 
 enum class Stop { ToLeave, ToSave };
 
@@ -41,7 +41,7 @@ enum class Storing {
 /// The result of leaving the workflow.
 struct LeaveReport {
     bool stored = false;        ///< the module has confirmed the accepted rotations
-    bool told = true;           ///< confirmed, or the next start reports the failure
+    bool reported = true;       ///< confirmed, or the next start reports the failure
     WriteBackReport writeBack;  ///< of a save that reached the module
     QStringList errors;         ///< the errors during saving and closing, in order
     QStringList closingErrors;  ///< the last of these, from restoring the vendor's service

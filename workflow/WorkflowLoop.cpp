@@ -114,7 +114,7 @@ void Workflow::openCamera(const Snapshot& now) {
         if (!stop_) report("The depth camera was not found.", [this] { listener_.missingModule(); });
         return;
     }
-    sensor_->setPlatformPictureWanted(false);
+    sensor_->setPlatformImageWanted(false);
     records_.setFactory(factory_.colour[ColourCamera::Third].fromDepth.rotation,
                         factory_.colour[ColourCamera::Platform].fromDepth.rotation);
     engine_.setCameraParameters(false);

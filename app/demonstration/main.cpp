@@ -2,7 +2,7 @@
 // KXSIM_SESSION it plays the recording beside the simulated libraries. It does not look for updates, because the
 // installer would start the other program.
 #include "app/EntryPoint.h"
-#include "kxapi/Library.h"
+#include "kxapi/LibrarySearch.h"
 #include "update/windows/ProgramFile.h"
 
 #include <QDir>
@@ -11,7 +11,7 @@
 #include <cstdio>
 
 int main(int argc, char** argv) {
-    if (!useSimulatedLibraries()) {
+    if (!kxapi::hasSimulatedLibraries()) {
         std::fprintf(stderr, "The folder with the simulated libraries is missing.\n");
         return 1;
     }
@@ -19,7 +19,8 @@ int main(int argc, char** argv) {
     const QString recording = QFileInfo(program).path() + "/simulated/recording";
     if (!qEnvironmentVariableIsSet("KXSIM_SESSION") && QDir(recording).exists())
         qputenv("KXSIM_SESSION", QDir::toNativeSeparators(recording).toLocal8Bit());
-    fieldcal::ApplicationEnvironment environment = fieldcal::systemApplicationEnvironment();
+    fieldcal::ApplicationEnvironment environment =
+        fieldcal::systemApplicationEnvironment(kxapi::LibrarySearch::SimulatedOnly);
     environment.update.manifest = QUrl();
     return fieldcal::runApplication(argc, argv, environment);
 }

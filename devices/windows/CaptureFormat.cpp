@@ -15,7 +15,7 @@ namespace {
 
 using Microsoft::WRL::ComPtr;
 
-constexpr DWORD kMostTypes = 10000;  // limit for a device that never reports the end of its list
+constexpr DWORD kMaxTypes = 10000;  // limit for a device that never reports the end of its list
 
 bool subtypeOf(const std::string& name, GUID* out) {
     if (name.size() != sizeof out->Data1) return false;
@@ -63,7 +63,7 @@ ComPtr<IMFMediaType> chooseDeviceType(IMFCaptureSource& source, DWORD stream, co
     GUID subtype{};
     ComPtr<IMFMediaType> best;
     double bestCost = std::numeric_limits<double>::infinity();
-    for (DWORD i = 0; subtypeOf(wanted.subtype, &subtype) && i < kMostTypes; ++i) {
+    for (DWORD i = 0; subtypeOf(wanted.subtype, &subtype) && i < kMaxTypes; ++i) {
         ComPtr<IMFMediaType> type;
         if (FAILED(source.GetAvailableDeviceMediaType(stream, i, type.GetAddressOf())) || !type) break;
         const double cost = costOf(*type.Get(), wanted, subtype);

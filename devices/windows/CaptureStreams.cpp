@@ -43,7 +43,7 @@ bool CaptureStreams::setUpPreview(const CaptureFormat& format) {
                      "IMFCapturePreviewSink::SetSampleCallback");
 }
 
-bool CaptureStreams::setUpRecord(const CaptureFormat& format, std::shared_ptr<PictureOutlet> outlet) {
+bool CaptureStreams::setUpRecord(const CaptureFormat& format, std::shared_ptr<ImageOutlet> outlet) {
     const auto sink = openSink<IMFCaptureRecordSink>(MF_CAPTURE_ENGINE_SINK_TYPE_RECORD);
     DWORD sinkStream = 0;
     return sink && setDeviceType(kRecordStream, format) && addStream(*sink.Get(), kRecordStream, format, &sinkStream) &&
@@ -83,8 +83,8 @@ bool CaptureStreams::addStream(IMFCaptureSink& sink, DWORD stream, const Capture
 }
 
 CaptureStreams::SampleCallback CaptureStreams::callbackFor(const CaptureFormat& format,
-                                                           std::shared_ptr<PictureOutlet> outlet) {
-    if (outlet == nullptr) outlet = std::make_shared<PictureOutlet>();
+                                                           std::shared_ptr<ImageOutlet> outlet) {
+    if (outlet == nullptr) outlet = std::make_shared<ImageOutlet>();
     return makeCom<MFStreamingSampleCallback>(std::move(outlet), format.width, format.height);
 }
 

@@ -16,7 +16,7 @@ public:
 
     bool setUpPreview(const CaptureFormat& format);
     /// Its images are sent to `outlet`.
-    bool setUpRecord(const CaptureFormat& format, std::shared_ptr<PictureOutlet> outlet);
+    bool setUpRecord(const CaptureFormat& format, std::shared_ptr<ImageOutlet> outlet);
     bool setUpPhoto(const CaptureFormat& format);
 
     bool start();
@@ -31,7 +31,7 @@ private:
     bool setDeviceType(DWORD stream, const CaptureFormat& format);
     bool sharesRecordStream(DWORD stream);
     bool addStream(IMFCaptureSink& sink, DWORD stream, const CaptureFormat& format, DWORD* sinkStream);
-    static SampleCallback callbackFor(const CaptureFormat& format, std::shared_ptr<PictureOutlet> outlet);
+    static SampleCallback callbackFor(const CaptureFormat& format, std::shared_ptr<ImageOutlet> outlet);
 
     MediaSystem& system_;
     Microsoft::WRL::ComPtr<IMFCaptureEngine> engine_;

@@ -28,17 +28,17 @@ double deviceSeconds(IMFSample& sample) {
 
 }  // namespace
 
-void PictureOutlet::set(RearCameraSink* sink) {
+void ImageOutlet::set(RearCameraSink* sink) {
     const std::lock_guard lock(mutex_);
     sink_ = sink;
 }
 
-void PictureOutlet::deliver(const std::uint8_t* nv12, std::int32_t width, std::int32_t height, double timeSeconds) {
+void ImageOutlet::deliver(const std::uint8_t* nv12, std::int32_t width, std::int32_t height, double timeSeconds) {
     const std::lock_guard lock(mutex_);
-    if (sink_ != nullptr) sink_->onPicture(nv12, width, height, timeSeconds);
+    if (sink_ != nullptr) sink_->onImage(nv12, width, height, timeSeconds);
 }
 
-MFStreamingSampleCallback::MFStreamingSampleCallback(std::shared_ptr<PictureOutlet> outlet, std::int32_t width,
+MFStreamingSampleCallback::MFStreamingSampleCallback(std::shared_ptr<ImageOutlet> outlet, std::int32_t width,
                                                      std::int32_t height)
     : outlet_(std::move(outlet)), width_(width), height_(height) {}
 

@@ -6,7 +6,7 @@ namespace fieldcal {
 namespace {
 
 /// Counted from the start of the stream; such a camera needs about one second.
-constexpr std::int32_t kFirstPictureMs = 3000;
+constexpr std::int32_t kFirstImageMs = 3000;
 
 std::wstring wideOf(const std::string& utf8) {
     const int bytes = static_cast<int>(utf8.size());
@@ -63,8 +63,8 @@ void MediaFoundationBackend::setSink(RearCameraSink* sink) {
     outlet_->set(sink);
 }
 
-std::int32_t MediaFoundationBackend::firstPictureMs() const {
-    return kFirstPictureMs;
+std::int32_t MediaFoundationBackend::firstImageMs() const {
+    return kFirstImageMs;
 }
 
 std::unique_ptr<PlatformCameraBackend> systemRearCamera() {

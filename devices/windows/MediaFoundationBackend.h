@@ -24,12 +24,12 @@ public:
     bool setupStream(Stream stream, std::int32_t width, std::int32_t height, std::int32_t framesPerSecond,
                      const std::string& subtype) override;
     void setSink(RearCameraSink* sink) override;
-    std::int32_t firstPictureMs() const override;
+    std::int32_t firstImageMs() const override;
 
 private:
     bool run(const std::function<bool()>& call);
 
-    const std::shared_ptr<PictureOutlet> outlet_ = std::make_shared<PictureOutlet>();
+    const std::shared_ptr<ImageOutlet> outlet_ = std::make_shared<ImageOutlet>();
     std::unique_ptr<MediaFoundationCamera> camera_;  ///< created, used and destroyed on the COM thread
     ComThread thread_;
 };

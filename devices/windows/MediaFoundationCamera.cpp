@@ -16,7 +16,7 @@ MediaFoundationCamera::~MediaFoundationCamera() {
     if (events_) events_->giveUp();
     if (streams_) streams_->stop();
     streams_.reset();
-    picture_.Reset();
+    videoProcessing_.Reset();
     control_.Reset();
     engine_.Reset();
     if (device_) succeeded(device_->Shutdown(), "IMFMediaSource::Shutdown");
@@ -69,7 +69,7 @@ bool MediaFoundationCamera::createEngine() {
 }
 
 bool MediaFoundationCamera::obtainControls() {
-    return succeeded(device_.As(&picture_), "finding IAMVideoProcAmp") &&
+    return succeeded(device_.As(&videoProcessing_), "finding IAMVideoProcAmp") &&
            succeeded(device_.As(&control_), "finding IAMCameraControl");
 }
 
@@ -77,8 +77,9 @@ bool MediaFoundationCamera::obtainControls() {
 bool MediaFoundationCamera::releaseBrightness() {
     long value = 0;
     long flags = 0;
-    return succeeded(picture_->Get(VideoProcAmp_Brightness, &value, &flags), "IAMVideoProcAmp::Get") &&
-           succeeded(picture_->Set(VideoProcAmp_Brightness, value, VideoProcAmp_Flags_Auto), "IAMVideoProcAmp::Set");
+    return succeeded(videoProcessing_->Get(VideoProcAmp_Brightness, &value, &flags), "IAMVideoProcAmp::Get") &&
+           succeeded(videoProcessing_->Set(VideoProcAmp_Brightness, value, VideoProcAmp_Flags_Auto),
+                     "IAMVideoProcAmp::Set");
 }
 
 bool MediaFoundationCamera::setAutoFocus(bool on) {
@@ -97,7 +98,7 @@ bool MediaFoundationCamera::writeFocus(long value, long flags) {
 }
 
 bool MediaFoundationCamera::setupStream(PlatformCameraBackend::Stream stream, const CaptureFormat& format,
-                                        const std::shared_ptr<PictureOutlet>& outlet) {
+                                        const std::shared_ptr<ImageOutlet>& outlet) {
     if (streams_ == nullptr) return false;
     switch (stream) {
         case PlatformCameraBackend::Stream::Preview:

@@ -31,7 +31,7 @@ public:
     bool setFocus(std::int32_t value);
     /// Starts the record stream at once; its images are sent to `outlet`.
     bool setupStream(PlatformCameraBackend::Stream stream, const CaptureFormat& format,
-                     const std::shared_ptr<PictureOutlet>& outlet);
+                     const std::shared_ptr<ImageOutlet>& outlet);
 
 private:
     bool findSelected(VideoDevice* out);
@@ -47,7 +47,7 @@ private:
     Microsoft::WRL::ComPtr<IMFMediaSource> device_;
     Microsoft::WRL::ComPtr<IMFCaptureEngine> engine_;
     Microsoft::WRL::ComPtr<IAMCameraControl> control_;
-    Microsoft::WRL::ComPtr<IAMVideoProcAmp> picture_;
+    Microsoft::WRL::ComPtr<IAMVideoProcAmp> videoProcessing_;
     std::unique_ptr<CaptureStreams> streams_;  ///< null until the camera is open
 };
 

@@ -18,7 +18,7 @@ void transpose(const From* in, To* out) {
 }
 
 /// Holds an image with packed rows (no gaps between them).
-class PackedPicture {
+class PackedImage {
 public:
     /// Copies `source` row by row. `pitch`: bytes from one row of `source` to the next, at least `rowBytes`. The result
     /// is valid until the next call; it is null when `source` is null.

@@ -19,17 +19,19 @@ bool exists(const std::string& path) {
     return access(path.c_str(), F_OK) == 0;
 }
 
-/// Set when libraries may be loaded from this folder only.
-std::string& onlyFolder() {
-    static std::string folder;
-    return folder;
+/// Returns the folder to which a search is restricted; empty when it is not. Without a folder of their own, the
+/// libraries beside the program are the simulated ones.
+std::string onlyFolder(LibrarySearch search) {
+    const std::string folder = programFolder() + "simulated/";
+    return search == LibrarySearch::SimulatedOnly && access(folder.c_str(), X_OK) == 0 ? folder : std::string();
 }
 
 }  // namespace
 
-void* openSharedLibrary(const char* name, std::string* why) {
-    const bool restricted = !onlyFolder().empty();
-    const std::string folder = restricted ? onlyFolder() : programFolder();
+void* openSharedLibrary(const char* name, LibrarySearch search, std::string* why) {
+    const std::string only = onlyFolder(search);
+    const bool restricted = !only.empty();
+    const std::string folder = restricted ? only : programFolder();
     const std::string adapter = folder + "lib" + name + "Adapter.so";
     const std::string file = std::string("lib") + name + ".so";
     // A library that exists but is broken must be reported as broken, not as missing.
@@ -43,10 +45,7 @@ void* openSharedLibrary(const char* name, std::string* why) {
     return handle;
 }
 
-bool restrictToSimulated(const char* folder) {
-    const std::string path = programFolder() + folder + '/';
-    // On this system the libraries beside the program are the simulated ones.
-    if (access(path.c_str(), X_OK) == 0) onlyFolder() = path;
+bool hasSimulatedLibraries() {
     return true;
 }
 

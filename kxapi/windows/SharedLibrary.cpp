@@ -12,10 +12,8 @@ std::wstring programFolder() {
     return path.substr(0, path.find_last_of(L"\\/") + 1);
 }
 
-/// Set when libraries may be loaded from this folder only.
-std::wstring& onlyFolder() {
-    static std::wstring folder;
-    return folder;
+std::wstring simulatedFolder() {
+    return programFolder() + L"simulated\\";
 }
 
 bool exists(const std::wstring& path) {
@@ -28,10 +26,10 @@ std::wstring widened(const char* ascii) {
 
 }  // namespace
 
-void* openSharedLibrary(const char* name, std::string* why) {
+void* openSharedLibrary(const char* name, LibrarySearch search, std::string* why) {
     const std::wstring file = widened(name) + L".dll";
-    const bool restricted = !onlyFolder().empty();
-    const std::wstring folder = restricted ? onlyFolder() : programFolder();
+    const bool restricted = search == LibrarySearch::SimulatedOnly;
+    const std::wstring folder = restricted ? simulatedFolder() : programFolder();
     const std::wstring adapter = folder + widened(name) + L"Adapter.dll";
     const std::wstring own = !restricted && exists(adapter) ? adapter : folder + file;
     // The current folder and the folders of PATH are not searched, because others may be able to write to them while
@@ -46,11 +44,8 @@ void* openSharedLibrary(const char* name, std::string* why) {
     return reinterpret_cast<void*>(module);
 }
 
-bool restrictToSimulated(const char* folder) {
-    const std::wstring path = programFolder() + widened(folder) + L'\\';
-    if (!exists(path)) return false;
-    onlyFolder() = path;
-    return true;
+bool hasSimulatedLibraries() {
+    return exists(simulatedFolder());
 }
 
 void closeSharedLibrary(void* handle) {

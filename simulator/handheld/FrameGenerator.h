@@ -1,7 +1,7 @@
 #pragma once
 
+#include "simulator/handheld/KeyframePrefetcher.h"
 #include "simulator/handheld/LightCourse.h"
-#include "simulator/handheld/ViewMaker.h"
 
 #include <array>
 #include <functional>
@@ -29,7 +29,7 @@ public:
     bool advance(std::chrono::milliseconds patience);
 
     /// Null before the first frame. Valid until the next `advance`.
-    const session::FramePictures* current() const { return current_; }
+    const session::FrameImages* current() const { return current_; }
 
 private:
     /// The conditions under which the cached images of a resting hand are valid.
@@ -43,21 +43,21 @@ private:
     bool prepareKeyframe(std::chrono::milliseconds patience);
     void step(std::chrono::milliseconds patience);
     bool canLeave(std::chrono::milliseconds patience);
-    const session::FramePictures* resting();
-    const session::FramePictures* turning();
+    const session::FrameImages* resting();
+    const session::FrameImages* turning();
     /// Functions that fill the parts of a view: infrared with depth, the right imager, the third and the rear camera.
     struct ViewFunctions {
         std::function<void(world::View*)> infrared, right, third, platform;
     };
     /// The rear camera delivers an image with every other frame.
     bool platformShows() const { return withPlatform_ && frame_ % 2 == 1; }
-    session::FramePictures expose(const ViewFunctions& functions, const synthesis::StillSettings& settings,
-                                  std::uint64_t noise);
+    session::FrameImages expose(const ViewFunctions& functions, const synthesis::StillSettings& settings,
+                                std::uint64_t noise);
 
     std::uint64_t seed_;
     LightCourse light_;
     ViewTurner turner_;
-    ViewMaker maker_;
+    KeyframePrefetcher prefetcher_;
 
     bool emitter_ = false, withPlatform_ = false;
     std::uint64_t frame_ = 0;  ///< counted from 1
@@ -67,10 +67,10 @@ private:
     std::shared_ptr<const Keyframe> keyframe_, nextKeyframe_;
 
     CacheKey cacheKey_;
-    std::array<session::FramePictures, tremorFrames> cached_;
-    std::array<bool, tremorFrames> isCached_{};
-    session::FramePictures turnedFrame_;
-    const session::FramePictures* current_ = nullptr;
+    std::array<session::FrameImages, kTremorFrames> cached_;
+    std::array<bool, kTremorFrames> isCached_{};
+    session::FrameImages turnedFrame_;
+    const session::FrameImages* current_ = nullptr;
 };
 
 }  // namespace fieldcal::handheld

@@ -11,8 +11,8 @@ using synthesis::rotationFromAngles;
 
 namespace {
 
-constexpr double mostMovedMetres = 0.05;
-constexpr double tremorDeg = 0.02;  // about the strongest axis
+constexpr double kMaxMovementMetres = 0.05;
+constexpr double kTremorDeg = 0.02;  // about the strongest axis
 
 /// Returns the rotation by a share of the angle about the same axis.
 cv::Matx33d part(const cv::Matx33d& rotation, double share) {
@@ -52,7 +52,7 @@ world::Pose Hand::drawPose() {
     pose.camera_world = rotationFromAngles({0, 0, rollDeg}) * rotationFromAngles({-pitchDeg, 0, 0}) *
                         rotationFromAngles({0, -yawDeg_, 0});
     for (int i = 0; i < 3; ++i)
-        pose.centre[i] = random_.uniform(-mostMovedMetres, mostMovedMetres);
+        pose.centre[i] = random_.uniform(-kMaxMovementMetres, kMaxMovementMetres);
     return pose;
 }
 
@@ -66,10 +66,10 @@ world::Pose poseBetween(const world::Pose& from, const world::Pose& to, double w
 
 cv::Matx33d tremor(std::uint64_t seed, int rest, double frame) {
     synthesis::Random random(seed + static_cast<std::uint64_t>(rest), "tremor");
-    const double turn = 6.283185307179586 / tremorFrames * frame;
+    const double turn = 6.283185307179586 / kTremorFrames * frame;
     std::array<double, 3> anglesDeg{};
     for (double& angle : anglesDeg)
-        angle = tremorDeg * random.uniform(0.3, 1) * std::sin(turn + random.uniform(0, 6.283185307179586));
+        angle = kTremorDeg * random.uniform(0.3, 1) * std::sin(turn + random.uniform(0, 6.283185307179586));
     return rotationFromAngles(anglesDeg);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "simulator/synthesis/Random.h"
-#include "simulator/world/Picture.h"
+#include "simulator/world/RenderedImage.h"
 
 #include <vector>
 
@@ -37,11 +37,11 @@ private:
 world::Pose poseBetween(const world::Pose& from, const world::Pose& to, double way);
 
 /// The exposure of colour starts this much later than that of infrared.
-inline constexpr double colourLagSeconds = 0.008;
-inline constexpr double framesPerSecond = 30;
+inline constexpr double kColourLagSeconds = 0.008;
+inline constexpr double kFramesPerSecond = 30;
 
-/// The tremor of a resting hand: a small rotation that repeats after `tremorFrames` frames.
-inline constexpr int tremorFrames = 6;
+/// The tremor of a resting hand: a small rotation that repeats after `kTremorFrames` frames.
+inline constexpr int kTremorFrames = 6;
 cv::Matx33d tremor(std::uint64_t seed, int rest, double frame);
 
 }  // namespace fieldcal::handheld

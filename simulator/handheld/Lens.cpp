@@ -11,12 +11,12 @@ namespace fieldcal::handheld {
 namespace {
 
 /// Spacing of the computed nodes; linear interpolation between them is accurate to a hundredth of a pixel.
-constexpr int cell = 16;
-constexpr double farOutside = -1e4;
+constexpr int kCellPx = 16;
+constexpr double kFarOutside = -1e4;
 
 cv::Vec2f pixelBefore(const Lens& lens, const cv::Matx33d& before_after, cv::Point2d ray) {
     const cv::Vec3d before = before_after * cv::Vec3d(ray.x, ray.y, 1);
-    if (before[2] < 0.2) return {static_cast<float>(farOutside), static_cast<float>(farOutside)};
+    if (before[2] < 0.2) return {static_cast<float>(kFarOutside), static_cast<float>(kFarOutside)};
     const cv::Point2d p = lens.pixel({before[0] / before[2], before[1] / before[2]});
     return {static_cast<float>(p.x), static_cast<float>(p.y)};
 }
@@ -31,10 +31,10 @@ Lens::Lens(const session::Intrinsics& camera, cv::Point2d principalPoint,
       principalPoint_(principalPoint),
       distortion_(std::move(distortion)),
       // One extra cell on every side avoids extrapolation.
-      lattice_(size_.height / cell + 3, size_.width / cell + 3) {
+      lattice_(size_.height / kCellPx + 3, size_.width / kCellPx + 3) {
     for (int y = 0; y < lattice_.rows; ++y)
         for (int x = 0; x < lattice_.cols; ++x)
-            lattice_(y, x) = ray({(x - 1 + 0.5) * cell - 0.5, (y - 1 + 0.5) * cell - 0.5});
+            lattice_(y, x) = ray({(x - 1 + 0.5) * kCellPx - 0.5, (y - 1 + 0.5) * kCellPx - 0.5});
 }
 
 Lens Lens::ofInfrared(const session::Intrinsics& infrared) {
@@ -67,8 +67,8 @@ cv::Mat_<cv::Vec2f> pixelsBeforeTurning(const Lens& lens, const cv::Matx33d& bef
         for (int x = 0; x < cells.width; ++x)
             coarse(y, x) = pixelBefore(lens, before_after, lens.lattice_(y, x));
     cv::Mat_<cv::Vec2f> fine;
-    cv::resize(coarse, fine, cells * (cell / step), 0, 0, cv::INTER_LINEAR);
-    return fine(cv::Rect({cell / step, cell / step}, lens.size() / step));
+    cv::resize(coarse, fine, cells * (kCellPx / step), 0, 0, cv::INTER_LINEAR);
+    return fine(cv::Rect({kCellPx / step, kCellPx / step}, lens.size() / step));
 }
 
 }  // namespace fieldcal::handheld

@@ -7,18 +7,18 @@ namespace fieldcal::handheld {
 
 namespace {
 
-constexpr double sun = 1, shade = 0.2, indoors = 0.05;
+constexpr double kSunLight = 1, kShadeLight = 0.2, kIndoorLight = 0.05;
 
 }
 
 bool LightCourse::find(const std::string& name, LightCourse* out) {
     LightCourse course;
-    if (name == "sun") course.levels_ = {{0, sun}};
-    if (name == "shade") course.levels_ = {{0, shade}};
-    if (name == "indoors") course.levels_ = {{0, indoors}};
-    if (name == "walk-out") course.levels_ = {{0, indoors}, {5, indoors}, {7, sun}};
+    if (name == "sun") course.levels_ = {{0, kSunLight}};
+    if (name == "shade") course.levels_ = {{0, kShadeLight}};
+    if (name == "indoors") course.levels_ = {{0, kIndoorLight}};
+    if (name == "walk-out") course.levels_ = {{0, kIndoorLight}, {5, kIndoorLight}, {7, kSunLight}};
     if (name == "clouds") {
-        course.levels_ = {{0, sun}, {9, sun}, {10, shade}, {15, shade}, {16, sun}};
+        course.levels_ = {{0, kSunLight}, {9, kSunLight}, {10, kShadeLight}, {15, kShadeLight}, {16, kSunLight}};
         course.repeats_ = true;
     }
     if (course.levels_.empty()) return false;

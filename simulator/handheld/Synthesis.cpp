@@ -1,6 +1,6 @@
 #include "simulator/handheld/Synthesis.h"
 
-#include "simulator/handheld/Studio.h"
+#include "simulator/handheld/KeyframeRenderer.h"
 #include "simulator/synthesis/Rig.h"
 
 #include <opencv2/core.hpp>
@@ -15,16 +15,16 @@ namespace fieldcal::handheld {
 
 namespace {
 
-constexpr int mostStills = 999;
-constexpr double largestDriftDeg = 20;
+constexpr int kMaxStills = 999;
+constexpr double kMaxDriftDeg = 20;
 
 /// A user turns on until the program asks to hold still, which it does when the colour image, reduced to a quarter of
 /// its size, has changed enough; root mean square in grey levels, somewhat more than the program demands.
-constexpr double thirdChange = 31, platformChange = 36;
+constexpr double kThirdChange = 31, kPlatformChange = 36;
 /// Views that are tried for one still. A bare wall and a night never change; they show it in the first ones.
-constexpr int mostViews = 8, telltaleViews = 3;
-constexpr double hopelessShare = 0.3;
-constexpr int platformWidth = 1280, platformHeight = 720;
+constexpr int kMaxViews = 8, kTelltaleViews = 3;
+constexpr double kHopelessShare = 0.3;
+constexpr int kPlatformWidth = 1280, kPlatformHeight = 720;
 
 bool refuse(std::string* why, const std::string& reason) {
     if (why != nullptr) *why = reason;
@@ -34,7 +34,7 @@ bool refuse(std::string* why, const std::string& reason) {
 bool checkDrift(const char* name, const std::optional<std::array<double, 3>>& drift, std::string* why) {
     if (!drift) return true;
     for (double angle : *drift)
-        if (!(std::abs(angle) <= largestDriftDeg))
+        if (!(std::abs(angle) <= kMaxDriftDeg))
             return refuse(why, std::string("the ") + name + " drift must lie within -20 ... 20 degrees");
     return true;
 }
@@ -47,7 +47,7 @@ bool check(const SynthesisOptions& options, std::string* why) {
             list += (list.empty() ? "" : ", ") + name;
         return refuse(why, "unknown world \"" + options.world + "\"; known are " + list);
     }
-    if (options.stills < 1 || options.stills > mostStills)
+    if (options.stills < 1 || options.stills > kMaxStills)
         return refuse(why, "the number of stills must lie within 1 ... 999");
     if (options.repeat < 1) return refuse(why, "a still must be repeated at least once");
     return checkDrift("third camera's", options.thirdDriftDeg, why) &&
@@ -76,21 +76,21 @@ double change(const cv::Mat& before, const cv::Mat& after) {
     return cv::norm(small[0], small[1], cv::NORM_L2) / std::sqrt(static_cast<double>(small[0].total()) * colours);
 }
 
-cv::Mat thirdOf(const session::FramePictures& still) {
+cv::Mat thirdOf(const session::FrameImages& still) {
     return {static_cast<int>(still.third.height()), static_cast<int>(still.third.width()), CV_8UC4,
             const_cast<std::uint8_t*>(still.third.bytes())};
 }
 
 /// The brightness of the rear camera's image, the first plane of NV12.
-cv::Mat platformOf(const session::FramePictures& still) {
-    return {platformHeight, platformWidth, CV_8UC1, const_cast<std::uint8_t*>(still.platform.data())};
+cv::Mat platformOf(const session::FrameImages& still) {
+    return {kPlatformHeight, kPlatformWidth, CV_8UC1, const_cast<std::uint8_t*>(still.platform.data())};
 }
 
 /// How much of the demanded change there is from one still to the next, in the camera that shows less of it.
-double changeShare(const session::FramePictures& before, const session::FramePictures& after) {
-    const double share = change(thirdOf(before), thirdOf(after)) / thirdChange;
+double changeShare(const session::FrameImages& before, const session::FrameImages& after) {
+    const double share = change(thirdOf(before), thirdOf(after)) / kThirdChange;
     if (after.platform.empty()) return share;
-    return std::min(share, change(platformOf(before), platformOf(after)) / platformChange);
+    return std::min(share, change(platformOf(before), platformOf(after)) / kPlatformChange);
 }
 
 }  // namespace
@@ -100,25 +100,25 @@ bool synthesize(const std::string& folder, const SynthesisOptions& options,
     if (!check(options, why)) return false;
     auto rig = synthesis::drawRig(
         options.seed, {options.platform, options.thirdDriftDeg, options.platformDriftDeg, options.baselines});
-    Studio studio(options.world, options.seed, rig);
-    session::FramePictures still;
+    KeyframeRenderer renderer(options.world, options.seed, rig);
+    session::FrameImages still;
     int view = 0;
     for (int i = 0; i < options.stills; ++i) {
-        const session::FramePictures before = std::move(still);
+        const session::FrameImages before = std::move(still);
         bool changes = false;
-        for (int tried = 0; tried < mostViews; ++tried) {
+        for (int tried = 0; tried < kMaxViews; ++tried) {
             const std::uint64_t noise = synthesis::mixBits(options.seed) + static_cast<unsigned>(view);
-            still = takeStill(*studio.make(view++, options.platform), noise);
+            still = takeStill(*renderer.render(view++, options.platform), noise);
             const double share = i == 0 ? 1 : changeShare(before, still);
             if (share >= 1) break;
-            if (share >= hopelessShare) changes = true;
-            if (!changes && tried + 1 >= telltaleViews) break;
+            if (share >= kHopelessShare) changes = true;
+            if (!changes && tried + 1 >= kTelltaleViews) break;
         }
         rig.frames.push_back(frameEntry(i, options));
-        if (!session::writePictures(folder, rig.frames.back(), still, why)) return false;
+        if (!session::writeImages(folder, rig.frames.back(), still, why)) return false;
         if (progress) progress(i + 1, options.stills);
     }
-    return session::syncPictures(folder, rig, why) && session::writeDescription(folder, rig, why);
+    return session::syncImages(folder, rig, why) && session::writeDescription(folder, rig, why);
 }
 
 }  // namespace fieldcal::handheld

@@ -16,10 +16,10 @@ cv::Matx33d rotationOf(const std::optional<session::Matrix3>& truth) {
     return cv::Matx33d(truth->data());
 }
 
-void blurImage(cv::Mat picture, double acrossPx, double downPx) {
+void blurImage(cv::Mat image, double acrossPx, double downPx) {
     const auto odd = [](double length) { return 1 + 2 * static_cast<int>(std::abs(length) / 2); };
     const cv::Size size(odd(acrossPx), odd(downPx));
-    if (size.area() > 1) cv::blur(picture, picture, size, {-1, -1}, cv::BORDER_REPLICATE);
+    if (size.area() > 1) cv::blur(image, image, size, {-1, -1}, cv::BORDER_REPLICATE);
 }
 
 /// Returns the bounding rectangle of all pixels that are not mapped well inside an image of `size`.
@@ -150,10 +150,10 @@ void ViewTurner::paintTransition(const Transition& transition, const Eye& eye, c
     }
 }
 
-void ViewTurner::blurMotion(cv::Mat picture, const Eye& eye, cv::Point2d motionDeg) {
-    const double scale = static_cast<double>(picture.cols) / eye.lens.size().width;
+void ViewTurner::blurMotion(cv::Mat image, const Eye& eye, cv::Point2d motionDeg) {
+    const double scale = static_cast<double>(image.cols) / eye.lens.size().width;
     const double perDegree = eye.lens.focalPx() / kDegreesPerRadian * scale;
-    blurImage(std::move(picture), motionDeg.y * perDegree, motionDeg.x * perDegree);
+    blurImage(std::move(image), motionDeg.y * perDegree, motionDeg.x * perDegree);
 }
 
 }  // namespace fieldcal::handheld

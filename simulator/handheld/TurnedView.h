@@ -63,7 +63,7 @@ private:
     };
     static void paintTransition(const Transition& transition, const Eye& eye, const cv::Matx33d& now,
                                 std::initializer_list<Layer> layers, int interpolation, int step = 1);
-    static void blurMotion(cv::Mat picture, const Eye& eye, cv::Point2d motionDeg);
+    static void blurMotion(cv::Mat image, const Eye& eye, cv::Point2d motionDeg);
 
     Eye infrared_, right_, depth_, third_;
     std::optional<Eye> platform_;

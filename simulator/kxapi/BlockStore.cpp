@@ -54,7 +54,7 @@ BlockResult BlockStore::load(Block* out) const {
     Block block;
     if (BlockResult result = read(&block); !result.ok()) return result;
     std::string why;
-    if (!makesSense(block, &why)) return {KX_STATUS_NOT_CALIBRATED, name() + ": " + why};
+    if (!isValidBlock(block, &why)) return {KX_STATUS_NOT_CALIBRATED, name() + ": " + why};
     *out = block;
     return {};
 }

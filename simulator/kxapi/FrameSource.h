@@ -27,9 +27,9 @@ public:
     virtual bool advance(std::string* why) = 0;
 
     /// Null before the first frame. Valid until the next `advance`.
-    virtual const fieldcal::session::FramePictures* current() const = 0;
+    virtual const fieldcal::session::FrameImages* current() const = 0;
     /// Returns whether the rear camera has a new image, `current()->platform`, with this grab.
-    virtual bool hasNewPlatformPicture() const = 0;
+    virtual bool hasNewPlatformImage() const = 0;
     /// The number of grabs so far.
     virtual std::uint64_t grabs() const = 0;
 

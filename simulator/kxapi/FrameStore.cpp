@@ -5,9 +5,9 @@
 namespace kxsim {
 namespace {
 
-constexpr std::size_t kMostBytes = std::size_t{160} << 20;
+constexpr std::size_t kMaxBytes = std::size_t{160} << 20;
 
-std::size_t byteCount(const fieldcal::session::FramePictures& frame) {
+std::size_t byteCount(const fieldcal::session::FrameImages& frame) {
     return frame.infrared.byteCount() + frame.right.byteCount() + frame.depth.byteCount() + frame.third.byteCount() +
            frame.platform.size();
 }
@@ -17,14 +17,14 @@ std::size_t byteCount(const fieldcal::session::FramePictures& frame) {
 FrameStore::FrameStore(std::string folder, const fieldcal::session::SessionDescription& description)
     : folder_(std::move(folder)), description_(description), kept_(description.frames.size()) {}
 
-const fieldcal::session::FramePictures* FrameStore::pictures(std::size_t index, std::string* why) {
+const fieldcal::session::FrameImages* FrameStore::images(std::size_t index, std::string* why) {
     if (kept_[index] != nullptr) return kept_[index].get();
-    auto frame = std::make_unique<Pictures>();
-    if (!readPictures(folder_, description_, index, frame.get(), why)) return nullptr;
+    auto frame = std::make_unique<Images>();
+    if (!readImages(folder_, description_, index, frame.get(), why)) return nullptr;
     const std::size_t bytes = byteCount(*frame);
-    const bool fits = keptBytes_ + bytes <= kMostBytes;
+    const bool fits = keptBytes_ + bytes <= kMaxBytes;
     if (fits) keptBytes_ += bytes;
-    std::unique_ptr<Pictures>& place = fits ? kept_[index] : last_;
+    std::unique_ptr<Images>& place = fits ? kept_[index] : last_;
     place = std::move(frame);
     return place.get();
 }

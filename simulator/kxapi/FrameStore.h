@@ -16,15 +16,15 @@ public:
     FrameStore(std::string folder, const fieldcal::session::SessionDescription& description);
 
     /// Returns null with `why` when the images cannot be read. Valid until the next call.
-    const fieldcal::session::FramePictures* pictures(std::size_t index, std::string* why);
+    const fieldcal::session::FrameImages* images(std::size_t index, std::string* why);
 
 private:
-    using Pictures = fieldcal::session::FramePictures;
+    using Images = fieldcal::session::FrameImages;
 
     std::string folder_;
     const fieldcal::session::SessionDescription& description_;
-    std::vector<std::unique_ptr<Pictures>> kept_;
-    std::unique_ptr<Pictures> last_;  ///< a frame that is not kept
+    std::vector<std::unique_ptr<Images>> kept_;
+    std::unique_ptr<Images> last_;  ///< a frame that is not kept
     std::size_t keptBytes_ = 0;
 };
 

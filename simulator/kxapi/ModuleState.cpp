@@ -19,21 +19,21 @@ bool ModuleState::loadCalibration() {
     std::string why;
     if (!temporaryBlock) {
         if (!succeeds(block->load(&activeBlock))) return false;
-    } else if (makesSense(*temporaryBlock, &why)) {
+    } else if (isValidBlock(*temporaryBlock, &why)) {
         activeBlock = *temporaryBlock;
     } else {
         return succeeds({KX_STATUS_NOT_CALIBRATED, "temporary block: " + why});
     }
-    blockMakesSense = true;
+    blockIsValid = true;
     return true;
 }
 
 Gate ModuleState::pass(const char* operation, Stage atLeast) {
     fault_ = settings.faults.strike(operation);
     if (fault_) beginFault(*fault_);
-    gone_ = gone_ || (fault_ && fault_->kind == FaultKind::gone);
+    disconnected_ = disconnected_ || (fault_ && fault_->kind == FaultKind::gone);
     bool open = false;
-    if (gone_) {
+    if (disconnected_) {
         fail(KX_STATUS_NO_DEVICE);
     } else if (fault_ && fault_->kind == FaultKind::lie) {
         return Gate::lie;
@@ -46,11 +46,11 @@ Gate ModuleState::pass(const char* operation, Stage atLeast) {
 }
 
 /// Called after an operation that was carried out.
-bool ModuleState::endsWell() {
+bool ModuleState::completesCall() {
     if (!fault_) return true;
     endFault(*fault_);
-    gone_ = fault_->kind == FaultKind::goneAfter;
-    if (gone_) return fail(KX_STATUS_NO_DEVICE);
+    disconnected_ = fault_->kind == FaultKind::goneAfter;
+    if (disconnected_) return fail(KX_STATUS_NO_DEVICE);
     return fault_->kind != FaultKind::done || fail(static_cast<std::int32_t>(fault_->number));
 }
 

@@ -28,7 +28,7 @@ struct ModuleState {
     std::thread::id failedOn;  ///< the thread to which `lastStatus` belongs
 
     Block activeBlock{};                  ///< the block that the module works with
-    bool blockMakesSense = false;         ///< whether `activeBlock` is valid
+    bool blockIsValid = false;            ///< whether `activeBlock` is valid
     std::optional<Block> temporaryBlock;  ///< used instead of the committed one after the next resume
     bool resting = false;                 ///< set between `stopCapture` and the next resume
 
@@ -52,7 +52,7 @@ struct ModuleState {
     template <typename Action>
     bool perform(const char* operation, Stage atLeast, Action action) {
         const Gate gate = pass(operation, atLeast);
-        return gate == Gate::lie || (gate == Gate::open && action() && endsWell());
+        return gate == Gate::lie || (gate == Gate::open && action() && completesCall());
     }
     /// The fault of the call in progress.
     const std::optional<Fault>& fault() const { return fault_; }
@@ -64,19 +64,19 @@ struct ModuleState {
     /// For queries of the calibration: fails with status 4 when it is invalid.
     bool enterCalibration(const char* operation);
 
-    bool calibrationValid() const { return blockMakesSense && description().module.calibrationValid; }
+    bool calibrationValid() const { return blockIsValid && description().module.calibrationValid; }
 
     const fieldcal::session::SessionDescription& description() const { return source->description(); }
     /// The current frame; null before the first grab.
-    const fieldcal::session::FramePictures* frame() const { return source ? source->current() : nullptr; }
+    const fieldcal::session::FrameImages* frame() const { return source ? source->current() : nullptr; }
 
 private:
     Gate pass(const char* operation, Stage atLeast);
-    bool endsWell();
+    bool completesCall();
     bool rests() { return stage != Stage::capturing || fail(KX_STATUS_FAILED); }
 
     std::optional<Fault> fault_;
-    bool gone_ = false;  ///< unplugged or without power
+    bool disconnected_ = false;  ///< unplugged or without power
 };
 
 }  // namespace kxsim

@@ -2,7 +2,7 @@
 
 namespace kxsim {
 
-const bool canRenderWorlds = false;
+const bool kCanRenderWorlds = false;
 
 std::unique_ptr<FrameSource> openWorld(const Settings&, std::string* why) {
     *why = "this build renders no worlds";

@@ -48,41 +48,41 @@ KXCalibExtrinsics inConvention(KXCalibExtrinsics pose, const Faults& faults) {
     return pose;
 }
 
-const std::uint8_t* ConventionalPicture::withPaddedRows(const fieldcal::ImageFrame* picture, const Faults& faults) {
-    if (picture == nullptr || picture->empty()) return nullptr;
-    if (!faults.holds("padded-rows")) return picture->bytes();
-    const std::size_t row = std::size_t{picture->width()} * picture->bytesPerPixel();
-    const std::size_t pitch = row + kPaddingPixels * picture->bytesPerPixel();
-    padded_.assign(pitch * picture->height(), 0);
-    for (std::size_t y = 0; y < picture->height(); ++y)
-        std::memcpy(padded_.data() + y * pitch, picture->bytes() + y * row, row);
+const std::uint8_t* AlteredImage::withPaddedRows(const fieldcal::ImageFrame* image, const Faults& faults) {
+    if (image == nullptr || image->empty()) return nullptr;
+    if (!faults.holds("padded-rows")) return image->bytes();
+    const std::size_t row = std::size_t{image->width()} * image->bytesPerPixel();
+    const std::size_t pitch = row + kPaddingPixels * image->bytesPerPixel();
+    padded_.assign(pitch * image->height(), 0);
+    for (std::size_t y = 0; y < image->height(); ++y)
+        std::memcpy(padded_.data() + y * pitch, image->bytes() + y * row, row);
     return padded_.data();
 }
 
-const std::uint16_t* ConventionalPicture::withLowerRows(const fieldcal::ImageFrame16* picture, const Faults& faults) {
-    const bool lower = picture != nullptr && picture->height() > kLowerRows && faults.holds("lower-right-rows");
-    if (!lower) return pixels16(withPaddedRows(picture, faults));
-    changed_ = *picture;
-    const std::size_t row = std::size_t{picture->width()} * picture->bytesPerPixel();
-    std::memcpy(changed_.bytes() + kLowerRows * row, picture->bytes(), picture->byteCount() - kLowerRows * row);
+const std::uint16_t* AlteredImage::withLowerRows(const fieldcal::ImageFrame16* image, const Faults& faults) {
+    const bool lower = image != nullptr && image->height() > kLowerRows && faults.holds("lower-right-rows");
+    if (!lower) return pixels16(withPaddedRows(image, faults));
+    changed_ = *image;
+    const std::size_t row = std::size_t{image->width()} * image->bytesPerPixel();
+    std::memcpy(changed_.bytes() + kLowerRows * row, image->bytes(), image->byteCount() - kLowerRows * row);
     return pixels16(withPaddedRows(&changed_, faults));
 }
 
-const std::uint8_t* ConventionalPicture::displaced(const fieldcal::ImageFrame32* picture, const Faults& faults) {
-    if (picture == nullptr || picture->width() <= kDisplacedColumns) return withPaddedRows(picture, faults);
-    displaced_ = *picture;
-    const std::size_t row = std::size_t{picture->width()} * picture->bytesPerPixel();
-    const std::size_t shift = kDisplacedColumns * picture->bytesPerPixel();
-    for (std::size_t y = 0; y < picture->height(); ++y)
-        std::memcpy(displaced_.bytes() + y * row + shift, picture->bytes() + y * row, row - shift);
+const std::uint8_t* AlteredImage::displaced(const fieldcal::ImageFrame32* image, const Faults& faults) {
+    if (image == nullptr || image->width() <= kDisplacedColumns) return withPaddedRows(image, faults);
+    displaced_ = *image;
+    const std::size_t row = std::size_t{image->width()} * image->bytesPerPixel();
+    const std::size_t shift = kDisplacedColumns * image->bytesPerPixel();
+    for (std::size_t y = 0; y < image->height(); ++y)
+        std::memcpy(displaced_.bytes() + y * row + shift, image->bytes() + y * row, row - shift);
     return withPaddedRows(&displaced_, faults);
 }
 
-const std::uint16_t* ConventionalPicture::inCentimetres(const fieldcal::ImageFrame16* picture, const Faults& faults) {
-    const bool other = picture != nullptr && !picture->empty() && faults.holds("depth-in-centimetres");
-    if (!other) return pixels16(withPaddedRows(picture, faults));
-    changed_ = *picture;
-    std::transform(picture->pixels(), picture->pixels() + picture->byteCount() / 2, changed_.pixels(),
+const std::uint16_t* AlteredImage::inCentimetres(const fieldcal::ImageFrame16* image, const Faults& faults) {
+    const bool other = image != nullptr && !image->empty() && faults.holds("depth-in-centimetres");
+    if (!other) return pixels16(withPaddedRows(image, faults));
+    changed_ = *image;
+    std::transform(image->pixels(), image->pixels() + image->byteCount() / 2, changed_.pixels(),
                    [](std::uint16_t depth) { return static_cast<std::uint16_t>(depth / kMillimetresPerCentimetre); });
     return pixels16(withPaddedRows(&changed_, faults));
 }

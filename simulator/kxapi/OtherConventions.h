@@ -15,14 +15,14 @@ KXCalibIntrinsicsNonRectified inConvention(KXCalibIntrinsicsNonRectified raw, co
 KXCalibExtrinsics inConvention(KXCalibExtrinsics pose, const Faults& faults);
 
 /// A copy of a picture as such a library delivers it.
-class ConventionalPicture {
+class AlteredImage {
 public:
     /// The pixels to be delivered: the picture's own unless a condition asks for something else. Null for no picture.
     /// Valid until the next call, and as long as the picture.
-    const std::uint8_t* withPaddedRows(const fieldcal::ImageFrame* picture, const Faults& faults);
-    const std::uint16_t* withLowerRows(const fieldcal::ImageFrame16* picture, const Faults& faults);
-    const std::uint8_t* displaced(const fieldcal::ImageFrame32* picture, const Faults& faults);
-    const std::uint16_t* inCentimetres(const fieldcal::ImageFrame16* picture, const Faults& faults);
+    const std::uint8_t* withPaddedRows(const fieldcal::ImageFrame* image, const Faults& faults);
+    const std::uint16_t* withLowerRows(const fieldcal::ImageFrame16* image, const Faults& faults);
+    const std::uint8_t* displaced(const fieldcal::ImageFrame32* image, const Faults& faults);
+    const std::uint16_t* inCentimetres(const fieldcal::ImageFrame16* image, const Faults& faults);
 
 private:
     fieldcal::ImageFrame16 changed_;

@@ -107,7 +107,7 @@ KXCalibRectParameters factoryBlock(const SessionDescription& session) {
     return block;
 }
 
-bool makesSense(const KXCalibRectParameters& block, std::string* why) {
+bool isValidBlock(const KXCalibRectParameters& block, std::string* why) {
     const auto check = [why](bool good, const char* complaint) {
         if (!good) *why = complaint;
         return good;

@@ -12,7 +12,7 @@ KXCalibRectParameters factoryBlock(const fieldcal::session::SessionDescription& 
 
 /// Returns whether every field that the module uses is valid: finite, and rotations within 1e-3. `why`: "field:
 /// reason".
-bool makesSense(const KXCalibRectParameters& block, std::string* why);
+bool isValidBlock(const KXCalibRectParameters& block, std::string* why);
 
 /// Returns the extrinsics that the module reports for a block: depth to rectified colour, Mx · Q · M0⁻¹ in double
 /// precision, then converted to single precision. Where the result equals the recording's value except for rounding,

@@ -26,9 +26,9 @@ std::string nameIn(const std::string& session) {
 
 std::vector<std::uint8_t> darkNv12() {
     constexpr std::size_t pixels = std::size_t{kPlatformWidth} * kPlatformHeight;
-    std::vector<std::uint8_t> picture(pixels * 3 / 2, 128);
-    std::fill_n(picture.begin(), pixels, std::uint8_t{16});
-    return picture;
+    std::vector<std::uint8_t> image(pixels * 3 / 2, 128);
+    std::fill_n(image.begin(), pixels, std::uint8_t{16});
+    return image;
 }
 
 }  // namespace
@@ -43,7 +43,7 @@ bool RearCamera::plugIn() {
     const std::lock_guard<std::mutex> lock(mutex_);
     name_ = nameIn(settings.session);
     faults_ = std::move(settings.faults);
-    gone_ = false;
+    disconnected_ = false;
     opened_ = false;
     streaming_ = false;
     return !settings.session.empty() || settings.platform != PlatformChoice::absent;
@@ -57,7 +57,7 @@ const char* RearCamera::friendlyName() {
 std::optional<Fault> RearCamera::strike(const char* operation) {
     const std::lock_guard<std::mutex> lock(mutex_);
     std::optional<Fault> fault = faults_.strike(operation);
-    gone_ = gone_ || (fault && fault->kind == FaultKind::gone);
+    disconnected_ = disconnected_ || (fault && fault->kind == FaultKind::gone);
     return fault;
 }
 
@@ -68,12 +68,12 @@ bool RearCamera::perform(const char* operation, Action action) {
     const std::optional<Fault> fault = strike(operation);
     if (fault) beginFault(*fault);
     const std::lock_guard<std::mutex> lock(mutex_);
-    if (gone_) return false;
+    if (disconnected_) return false;
     if (fault && fault->kind == FaultKind::lie) return true;
     if ((fault && !isDoneUnder(fault->kind)) || !action()) return false;
     if (fault) endFault(*fault);
-    gone_ = fault && fault->kind == FaultKind::goneAfter;
-    return !gone_ && !(fault && fault->kind == FaultKind::done);
+    disconnected_ = fault && fault->kind == FaultKind::goneAfter;
+    return !disconnected_ && !(fault && fault->kind == FaultKind::done);
 }
 
 bool RearCamera::openCamera() {
@@ -117,7 +117,7 @@ bool RearCamera::streams() {
 
 void RearCamera::show(const std::uint8_t* nv12, double timeSeconds) {
     const std::lock_guard<std::mutex> lock(mutex_);
-    if (streaming_ && sink_ != nullptr) sink_->onPicture(nv12, kPlatformWidth, kPlatformHeight, timeSeconds);
+    if (streaming_ && sink_ != nullptr) sink_->onImage(nv12, kPlatformWidth, kPlatformHeight, timeSeconds);
 }
 
 void RearCamera::showDark() {

@@ -42,7 +42,7 @@ private:
     std::mutex mutex_;
     std::string name_;
     Faults faults_;
-    bool gone_ = false;
+    bool disconnected_ = false;
     bool opened_ = false;
     bool streaming_ = false;
     RearCameraSink* sink_ = nullptr;

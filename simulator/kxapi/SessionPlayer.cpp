@@ -2,7 +2,7 @@
 
 namespace kxsim {
 
-using fieldcal::session::FramePictures;
+using fieldcal::session::FrameImages;
 using fieldcal::session::SessionDescription;
 
 SessionPlayer::SessionPlayer(const std::string& folder, SessionDescription description)
@@ -10,7 +10,7 @@ SessionPlayer::SessionPlayer(const std::string& folder, SessionDescription descr
 
 std::unique_ptr<SessionPlayer> SessionPlayer::open(const std::string& folder, std::string* why) {
     SessionDescription description;
-    if (!readDescription(folder, &description, why) || !checkPictureFiles(folder, description, why)) return nullptr;
+    if (!readDescription(folder, &description, why) || !checkImageFiles(folder, description, why)) return nullptr;
     return std::unique_ptr<SessionPlayer>(new SessionPlayer(folder, std::move(description)));
 }
 
@@ -18,9 +18,9 @@ bool SessionPlayer::advance(std::string* why) {
     const bool repeats = current_ != nullptr && repetition_ + 1 < description_.frames[index_].repeat;
     if (!repeats) {
         const std::size_t next = current_ == nullptr ? 0 : (index_ + 1) % description_.frames.size();
-        const FramePictures* pictures = store_.pictures(next, why);
-        if (pictures == nullptr) return false;
-        current_ = pictures;
+        const FrameImages* images = store_.images(next, why);
+        if (images == nullptr) return false;
+        current_ = images;
         index_ = next;
     }
     repetition_ = repeats ? repetition_ + 1 : 0;

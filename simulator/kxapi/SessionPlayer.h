@@ -15,9 +15,9 @@ public:
     double grabsPerSecond() const override { return 60; }
     bool advance(std::string* why) override;
     /// Returns the same pointers while the frame repeats.
-    const fieldcal::session::FramePictures* current() const override { return current_; }
+    const fieldcal::session::FrameImages* current() const override { return current_; }
     /// The rear camera runs at half the module's rate, and always shows a new frame with the frame's first grab.
-    bool hasNewPlatformPicture() const override { return !current_->platform.empty() && repetition_ % 2 == 0; }
+    bool hasNewPlatformImage() const override { return !current_->platform.empty() && repetition_ % 2 == 0; }
     std::uint64_t grabs() const override { return grabs_; }
     void setEmitter(bool) override {}
     void setPlatformWanted(bool) override {}
@@ -27,7 +27,7 @@ private:
 
     fieldcal::session::SessionDescription description_;
     FrameStore store_;
-    const fieldcal::session::FramePictures* current_ = nullptr;
+    const fieldcal::session::FrameImages* current_ = nullptr;
     std::size_t index_ = 0;
     int repetition_ = 0;  ///< number of previous deliveries of the current frame
     std::uint64_t grabs_ = 0;

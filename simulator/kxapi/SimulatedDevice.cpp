@@ -17,7 +17,7 @@ namespace {
 
 /// Returns whether there is a source of images: a recording, or a world where this build can render one.
 bool hasSource(const Settings& settings) {
-    return !settings.session.empty() || canRenderWorlds;
+    return !settings.session.empty() || kCanRenderWorlds;
 }
 
 /// Opens the recording or the world that the settings name. Returns null with `why` (one line) when something is wrong
@@ -68,7 +68,7 @@ bool SimulatedDevice::plugIn() {
     const fieldcal::session::SessionDescription& description = source->description();
     BlockStore block(blockFile(state_.settings, description.module.serial));
     const BlockResult loaded = block.open(factoryBlock(source->factory()), &state_.activeBlock);
-    state_.blockMakesSense = loaded.ok();
+    state_.blockIsValid = loaded.ok();
     // An invalid block makes the calibration invalid; the module itself works, and its block can be written.
     if (!state_.succeeds(loaded) && !block.read(&state_.activeBlock).ok()) return false;
     const auto& depth = description.depth;
@@ -198,7 +198,7 @@ bool SimulatedDevice::nextFrame(bool wait) {
         if (state_.source->current() == nullptr) RearCamera::instance().showDark();
         return true;
     }
-    state_.streams->follow(*state_.source->current(), state_.source->hasNewPlatformPicture(), state_.settings.faults);
+    state_.streams->follow(*state_.source->current(), state_.source->hasNewPlatformImage(), state_.settings.faults);
     showToRearCamera();
     return true;
 }

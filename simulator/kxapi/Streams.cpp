@@ -4,7 +4,7 @@
 
 namespace kxsim {
 
-using fieldcal::session::FramePictures;
+using fieldcal::session::FrameImages;
 
 namespace {
 
@@ -12,7 +12,7 @@ constexpr std::uint16_t kBlankValue = 400;
 
 }  // namespace
 
-void Streams::follow(const FramePictures& frame, bool platformIsNew, const Faults& faults) {
+void Streams::follow(const FrameImages& frame, bool platformIsNew, const Faults& faults) {
     ++sets_;
     hasDepth_ = !frame.depth.empty();
     depth_.follow(&frame.depth, sets_, faults);
@@ -25,8 +25,8 @@ void Streams::follow(const FramePictures& frame, bool platformIsNew, const Fault
 
 void Streams::deliver(const Faults& faults) {
     const bool swapped = faults.holds("swapped-imagers");
-    const Picture16* left = swapped ? right_.shown() : left_.shown();
-    const Picture16* right = swapped ? left_.shown() : right_.shown();
+    const Image16* left = swapped ? right_.shown() : left_.shown();
+    const Image16* right = swapped ? left_.shown() : right_.shown();
     depthPixels_ = depthDelivered_.inCentimetres(depth_.shown(), faults);
     leftPixels_ = reinterpret_cast<const std::uint16_t*>(leftDelivered_.withPaddedRows(left, faults));
     rightPixels_ = rightDelivered_.withLowerRows(right, faults);
@@ -34,7 +34,7 @@ void Streams::deliver(const Faults& faults) {
                                     : thirdDelivered_.withPaddedRows(third_.shown(), faults);
 }
 
-const fieldcal::ImageFrame16* Streams::chosenRight(const FramePictures& frame) {
+const fieldcal::ImageFrame16* Streams::chosenRight(const FrameImages& frame) {
     if (choice_ == RightChoice::left) return &frame.infrared;
     if (choice_ == RightChoice::real) return &frame.right;
     if (blank_.empty()) {

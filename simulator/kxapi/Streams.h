@@ -11,40 +11,40 @@ namespace kxsim {
 
 /// The images of one stream as the module delivers them: those of the source, unless a fault drops, freezes or delays
 /// them.
-template <typename Picture>
+template <typename Image>
 class Stream {
 public:
     explicit Stream(const char* name) : name_(name) {}
 
-    /// To be called once for every frame set, counted from 1. `picture` must stay valid until the next call; null when
+    /// To be called once for every frame set, counted from 1. `image` must stay valid until the next call; null when
     /// the source has none.
-    void follow(const Picture* picture, std::uint64_t set, const Faults& faults) {
+    void follow(const Image* image, std::uint64_t set, const Faults& faults) {
         const std::optional<StreamFault> fault = faults.inStream(name_, set);
-        shown_ = picture;
+        shown_ = image;
         if (!fault) return;
         if (fault->kind == StreamFaultKind::drop) shown_ = nullptr;
-        if (fault->kind == StreamFaultKind::freeze) shown_ = frozen(picture);
-        if (fault->kind == StreamFaultKind::late) shown_ = delayed(picture, fault->number);
+        if (fault->kind == StreamFaultKind::freeze) shown_ = frozen(image);
+        if (fault->kind == StreamFaultKind::late) shown_ = delayed(image, fault->number);
     }
 
     /// Returns null when the frame set has no such image.
-    const Picture* shown() const { return shown_; }
+    const Image* shown() const { return shown_; }
 
 private:
-    const Picture* frozen(const Picture* picture) {
-        if (kept_.empty() && picture != nullptr) kept_.push_back(*picture);
+    const Image* frozen(const Image* image) {
+        if (kept_.empty() && image != nullptr) kept_.push_back(*image);
         return kept_.empty() ? nullptr : &kept_.front();
     }
-    const Picture* delayed(const Picture* picture, std::size_t sets) {
-        kept_.push_back(picture != nullptr ? *picture : Picture());
+    const Image* delayed(const Image* image, std::size_t sets) {
+        kept_.push_back(image != nullptr ? *image : Image());
         if (kept_.size() <= sets) return nullptr;
         if (kept_.size() > sets + 1) kept_.pop_front();
         return &kept_.front();
     }
 
     const char* name_;
-    const Picture* shown_ = nullptr;
-    std::deque<Picture> kept_;  ///< images to be delivered later, the oldest one first
+    const Image* shown_ = nullptr;
+    std::deque<Image> kept_;  ///< images to be delivered later, the oldest one first
 };
 
 /// The images that the module delivers of a frame set.
@@ -53,7 +53,7 @@ public:
     explicit Streams(RightChoice right) : choice_(right) {}
 
     /// To be called once for every grabbed frame set. `frame` must stay valid until the next call.
-    void follow(const fieldcal::session::FramePictures& frame, bool platformIsNew, const Faults& faults);
+    void follow(const fieldcal::session::FrameImages& frame, bool platformIsNew, const Faults& faults);
     /// From now on the images of the colour camera inside the module are displaced.
     void displaceColour() { colourDisplaced_ = true; }
 
@@ -67,16 +67,16 @@ public:
     bool hasDepth() const { return hasDepth_; }
 
 private:
-    using Picture16 = fieldcal::ImageFrame16;
+    using Image16 = fieldcal::ImageFrame16;
     void deliver(const Faults& faults);
-    const Picture16* chosenRight(const fieldcal::session::FramePictures& frame);
+    const Image16* chosenRight(const fieldcal::session::FrameImages& frame);
 
     RightChoice choice_;
-    Picture16 blank_;
-    Stream<Picture16> depth_{"depth"}, left_{"left"}, right_{"right"};
+    Image16 blank_;
+    Stream<Image16> depth_{"depth"}, left_{"left"}, right_{"right"};
     Stream<fieldcal::ImageFrame32> third_{"third"};
     Stream<std::vector<std::uint8_t>> platform_{"platform"};
-    ConventionalPicture depthDelivered_, leftDelivered_, rightDelivered_, thirdDelivered_;
+    AlteredImage depthDelivered_, leftDelivered_, rightDelivered_, thirdDelivered_;
     const std::uint16_t *depthPixels_ = nullptr, *leftPixels_ = nullptr, *rightPixels_ = nullptr;
     const std::uint8_t* thirdPixels_ = nullptr;
     std::uint64_t sets_ = 0;

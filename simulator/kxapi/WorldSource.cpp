@@ -20,10 +20,10 @@ using fieldcal::session::SessionDescription;
 constexpr std::chrono::milliseconds kPatience{8000};
 
 /// Exposes an infrared image of the same view again: each pixel becomes brighter or darker by at most one level.
-void exposeAgain(std::uint64_t seed, fieldcal::ImageFrame16* picture) {
+void exposeAgain(std::uint64_t seed, fieldcal::ImageFrame16* image) {
     constexpr std::uint16_t kBrightest = 1023;
-    std::uint16_t* pixels = picture->pixels();
-    const std::size_t count = picture->byteCount() / sizeof(std::uint16_t);
+    std::uint16_t* pixels = image->pixels();
+    const std::size_t count = image->byteCount() / sizeof(std::uint16_t);
     for (std::size_t i = 0; i < count; ++i) {
         const std::uint64_t bits = fieldcal::synthesis::mixBits(seed + i);
         const int level = pixels[i] + static_cast<int>(bits & 1U) - static_cast<int>(bits >> 1 & 1U);
@@ -47,7 +47,7 @@ public:
 
     const SessionDescription& description() const override { return description_; }
     const SessionDescription& factory() const override { return rig_; }
-    double grabsPerSecond() const override { return 2 * fieldcal::handheld::framesPerSecond; }
+    double grabsPerSecond() const override { return 2 * fieldcal::handheld::kFramesPerSecond; }
     bool advance(std::string*) override {
         if (current_ != nullptr && current_ != &between_) {
             exposeBetween();
@@ -62,8 +62,8 @@ public:
         ++grabs_;
         return true;
     }
-    const fieldcal::session::FramePictures* current() const override { return current_; }
-    bool hasNewPlatformPicture() const override { return isNew_ && !current()->platform.empty(); }
+    const fieldcal::session::FrameImages* current() const override { return current_; }
+    bool hasNewPlatformImage() const override { return isNew_ && !current()->platform.empty(); }
     std::uint64_t grabs() const override { return grabs_; }
     void setEmitter(bool on) override { emitter_ = on; }
     void setPlatformWanted(bool wanted) override { platformWanted_ = wanted && hasRearCamera_; }
@@ -88,8 +88,8 @@ private:
     bool emitter_ = false, platformWanted_ = false;
     bool isNew_ = false;
     std::uint64_t grabs_ = 0;
-    fieldcal::session::FramePictures between_;
-    const fieldcal::session::FramePictures* current_ = nullptr;
+    fieldcal::session::FrameImages between_;
+    const fieldcal::session::FrameImages* current_ = nullptr;
 };
 
 bool isOneOf(const std::vector<std::string>& names, const char* what, const std::string& name, std::string* why) {
@@ -102,7 +102,7 @@ bool isOneOf(const std::vector<std::string>& names, const char* what, const std:
 
 }  // namespace
 
-const bool canRenderWorlds = true;
+const bool kCanRenderWorlds = true;
 
 std::unique_ptr<FrameSource> openWorld(const Settings& settings, std::string* why) {
     LightCourse light;

@@ -56,15 +56,15 @@ namespace {
 class RectifiedLattice {
 public:
     explicit RectifiedLattice(const session::PlatformCamera& platform)
-        : nodes_(platform.raw.height / cell + 3, platform.raw.width / cell + 3) {
+        : nodes_(platform.raw.height / kCellPx + 3, platform.raw.width / kCellPx + 3) {
         for (int y = 0; y < nodes_.rows; ++y)
             for (int x = 0; x < nodes_.cols; ++x)
-                nodes_(y, x) = rectifiedFromRaw(platform, cv::Point2d(x - 1, y - 1) * cell);
+                nodes_(y, x) = rectifiedFromRaw(platform, cv::Point2d(x - 1, y - 1) * kCellPx);
     }
 
     /// A position at most one pixel outside the image.
     cv::Point2d at(cv::Point2d raw) const {
-        const double x = raw.x / cell + 1, y = raw.y / cell + 1;
+        const double x = raw.x / kCellPx + 1, y = raw.y / kCellPx + 1;
         const int column = static_cast<int>(x), row = static_cast<int>(y);
         const double u = x - column, v = y - row;
         const cv::Point2d *above = nodes_[row] + column, *below = nodes_[row + 1] + column;
@@ -72,7 +72,7 @@ public:
     }
 
 private:
-    static constexpr int cell = 8;
+    static constexpr int kCellPx = 8;
     cv::Mat_<cv::Point2d> nodes_;
 };
 

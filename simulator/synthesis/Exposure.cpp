@@ -58,13 +58,13 @@ float clippedMean(std::vector<float> values) {
 
 /// Exposure metering samples only some of the pixels.
 template <typename Pixel, typename Light>
-float meanLight(const cv::Mat_<Pixel>& picture, Light light) {
+float meanLight(const cv::Mat_<Pixel>& image, Light light) {
     constexpr int step = 3;
     std::vector<float> values;
-    values.reserve(picture.total() / (step * step) + picture.total() / step);
-    for (int y = 0; y < picture.rows; y += step)
-        for (int x = 0; x < picture.cols; x += step)
-            values.push_back(light(picture(y, x)));
+    values.reserve(image.total() / (step * step) + image.total() / step);
+    for (int y = 0; y < image.rows; y += step)
+        for (int x = 0; x < image.cols; x += step)
+            values.push_back(light(image(y, x)));
     return std::max(1e-4F, clippedMean(std::move(values)));
 }
 
@@ -73,61 +73,61 @@ class Gamma {
 public:
     Gamma() {
         for (std::size_t i = 0; i < encoded_.size(); ++i) {
-            const float v = static_cast<float>(i) / (steps - 1);
+            const float v = static_cast<float>(i) / (kSteps - 1);
             const float encoded = v < 0.0031308F ? 12.92F * v : 1.055F * std::pow(v, 1 / 2.4F) - 0.055F;
             encoded_[i] = static_cast<std::uint8_t>(std::lround(encoded * 255));
         }
     }
     std::uint8_t operator()(float linear) const {
-        return encoded_[static_cast<std::size_t>(cvRound(std::clamp(linear, 0.0F, 1.0F) * (steps - 1)))];
+        return encoded_[static_cast<std::size_t>(cvRound(std::clamp(linear, 0.0F, 1.0F) * (kSteps - 1)))];
     }
 
 private:
-    static constexpr int steps = 1 << 15;
-    std::array<std::uint8_t, steps> encoded_{};
+    static constexpr int kSteps = 1 << 15;
+    std::array<std::uint8_t, kSteps> encoded_{};
 };
 
 void sharpen(ImageFrame32& frame, double strength) {
-    cv::Mat picture(static_cast<int>(frame.height()), static_cast<int>(frame.width()), CV_8UC4, frame.bytes());
+    cv::Mat image(static_cast<int>(frame.height()), static_cast<int>(frame.width()), CV_8UC4, frame.bytes());
     cv::Mat smooth;
-    cv::GaussianBlur(picture, smooth, cv::Size(), 1.0);
-    cv::addWeighted(picture, 1 + strength, smooth, -strength, 0, picture);
+    cv::GaussianBlur(image, smooth, cv::Size(), 1.0);
+    cv::addWeighted(image, 1 + strength, smooth, -strength, 0, image);
 }
 
 }  // namespace
 
-cv::Mat_<float> infraredBand(const cv::Mat_<cv::Vec4f>& picture) {
+cv::Mat_<float> infraredBand(const cv::Mat_<cv::Vec4f>& image) {
     cv::Mat_<float> band;
-    cv::extractChannel(picture, band, 3);
+    cv::extractChannel(image, band, 3);
     return band;
 }
 
-cv::Mat_<cv::Vec3f> colourBands(const cv::Mat_<cv::Vec4f>& picture) {
-    cv::Mat_<cv::Vec3f> bands(picture.size());
-    cv::mixChannels({picture}, {bands}, {0, 0, 1, 1, 2, 2});
+cv::Mat_<cv::Vec3f> colourBands(const cv::Mat_<cv::Vec4f>& image) {
+    cv::Mat_<cv::Vec3f> bands(image.size());
+    cv::mixChannels({image}, {bands}, {0, 0, 1, 1, 2, 2});
     return bands;
 }
 
-ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const InfraredSensor& sensor, double darkness,
+ImageFrame16 exposeInfrared(const cv::Mat_<float>& image, const InfraredSensor& sensor, double darkness,
                             Random& random) {
-    return exposeInfrared(picture, picture, sensor, darkness, random);
+    return exposeInfrared(image, image, sensor, darkness, random);
 }
 
-ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const cv::Mat_<float>& metered,
-                            const InfraredSensor& sensor, double darkness, Random& random) {
+ImageFrame16 exposeInfrared(const cv::Mat_<float>& image, const cv::Mat_<float>& metered, const InfraredSensor& sensor,
+                            double darkness, Random& random) {
     NormalTable noise(random);
     const float mean = meanLight(metered, [](float v) { return v; });
     const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);
     const auto perStep = static_cast<float>(1 / sensor.electronsPerStep);
     const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);
     const float own = 1 - veil, scattered = mean * veil;
-    const Vignetting lens(picture.size(), sensor.vignetting, 1);
+    const Vignetting lens(image.size(), sensor.vignetting, 1);
     ImageFrame16 frame;
-    frame.resize(static_cast<std::uint32_t>(picture.cols), static_cast<std::uint32_t>(picture.rows));
+    frame.resize(static_cast<std::uint32_t>(image.cols), static_cast<std::uint32_t>(image.rows));
     std::uint16_t* out = frame.pixels();
-    Row levels, normal(static_cast<std::size_t>(picture.cols));
-    for (int y = 0; y < picture.rows; ++y) {
-        const float* light = picture[y];
+    Row levels, normal(static_cast<std::size_t>(image.cols));
+    for (int y = 0; y < image.rows; ++y) {
+        const float* light = image[y];
         lens.row(y, levels);
         for (std::size_t x = 0; x < levels.size(); ++x)
             levels[x] = (std::max(0.0F, light[x]) * own + scattered) * gain * levels[x];
@@ -139,23 +139,23 @@ ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const cv::Mat_<float
     return frame;
 }
 
-ImageFrame32 exposeColour(const cv::Mat_<cv::Vec3f>& picture, const ColourSensor& sensor, double darkness,
+ImageFrame32 exposeColour(const cv::Mat_<cv::Vec3f>& image, const ColourSensor& sensor, double darkness,
                           Random& random) {
     NormalTable noise(random);
-    const float mean = meanLight(picture, [](const cv::Vec3f& p) { return p.dot({0.3F, 0.59F, 0.11F}); });
+    const float mean = meanLight(image, [](const cv::Vec3f& p) { return p.dot({0.3F, 0.59F, 0.11F}); });
     static const Gamma displayed;
     const auto gain = static_cast<float>(sensor.meanLevel * darkness) / mean, veil = static_cast<float>(sensor.veil);
     const auto perUnit = static_cast<float>(1 / sensor.electronsAtFull);
     const auto read = static_cast<float>(sensor.readNoise * sensor.readNoise);
     const float own = 1 - veil, scattered = mean * veil;
-    const Vignetting lens(picture.size(), sensor.vignetting, 3);
+    const Vignetting lens(image.size(), sensor.vignetting, 3);
     ImageFrame32 frame;
-    frame.resize(static_cast<std::uint32_t>(picture.cols), static_cast<std::uint32_t>(picture.rows));
+    frame.resize(static_cast<std::uint32_t>(image.cols), static_cast<std::uint32_t>(image.rows));
     std::uint8_t* out = frame.bytes();
-    Row levels, normal(static_cast<std::size_t>(picture.cols) * 3);
+    Row levels, normal(static_cast<std::size_t>(image.cols) * 3);
     cv::Mat_<cv::Vec3f> bgr;
-    for (int y = 0; y < picture.rows; ++y) {
-        cv::cvtColor(picture.row(y), bgr, cv::COLOR_RGB2BGR);
+    for (int y = 0; y < image.rows; ++y) {
+        cv::cvtColor(image.row(y), bgr, cv::COLOR_RGB2BGR);
         const float* light = bgr[0]->val;
         lens.row(y, levels);
         for (std::size_t i = 0; i < levels.size(); ++i)

@@ -24,22 +24,22 @@ struct ColourSensor {
     double sharpening = 0.5;  ///< strength of the camera's edge enhancement
 };
 
-/// The bands of the radiance from `takePicture` that an infrared or a colour camera sees.
-cv::Mat_<float> infraredBand(const cv::Mat_<cv::Vec4f>& picture);
-cv::Mat_<cv::Vec3f> colourBands(const cv::Mat_<cv::Vec4f>& picture);
+/// The bands of the radiance from `renderImage` that an infrared or a colour camera sees.
+cv::Mat_<float> infraredBand(const cv::Mat_<cv::Vec4f>& image);
+cv::Mat_<cv::Vec3f> colourBands(const cv::Mat_<cv::Vec4f>& image);
 
-/// Exposes an infrared image with ten bits. `picture`: linear light in any unit. `darkness`: available light relative
+/// Exposes an infrared image with ten bits. `image`: linear light in any unit. `darkness`: available light relative
 /// to that of a full exposure, 1 in daylight.
-ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const InfraredSensor& sensor, double darkness,
+ImageFrame16 exposeInfrared(const cv::Mat_<float>& image, const InfraredSensor& sensor, double darkness,
                             Random& random);
 
 /// The same for a sensor whose exposure is metered on another image, `metered`.
-ImageFrame16 exposeInfrared(const cv::Mat_<float>& picture, const cv::Mat_<float>& metered,
-                            const InfraredSensor& sensor, double darkness, Random& random);
+ImageFrame16 exposeInfrared(const cv::Mat_<float>& image, const cv::Mat_<float>& metered, const InfraredSensor& sensor,
+                            double darkness, Random& random);
 
-/// Exposes a colour image with eight bits and gamma: BGRA in storage order, alpha 255. `picture`: linear red, green and
+/// Exposes a colour image with eight bits and gamma: BGRA in storage order, alpha 255. `image`: linear red, green and
 /// blue.
-ImageFrame32 exposeColour(const cv::Mat_<cv::Vec3f>& picture, const ColourSensor& sensor, double darkness,
+ImageFrame32 exposeColour(const cv::Mat_<cv::Vec3f>& image, const ColourSensor& sensor, double darkness,
                           Random& random);
 
 }  // namespace fieldcal::synthesis

@@ -6,16 +6,16 @@
 namespace fieldcal::synthesis {
 
 FacadeStyle drawFacadeStyle(Random& random) {
-    static const std::array<Material, 7> walls{materials::plasterCream, materials::plasterRose, materials::plasterWhite,
-                                               materials::plasterBlue,  materials::brick,       materials::stone,
-                                               materials::concrete};
-    static const std::array<Material, 5> shutters{materials::greenPaint, materials::bluePaint, materials::redPaint,
-                                                  materials::wood, materials::whitePaint};
+    static const std::array<Material, 7> walls{
+        materials::kPlasterCream, materials::kPlasterRose, materials::kPlasterWhite, materials::kPlasterBlue,
+        materials::kBrick,        materials::kStone,       materials::kConcrete};
+    static const std::array<Material, 5> shutters{materials::kGreenPaint, materials::kBluePaint, materials::kRedPaint,
+                                                  materials::kWood, materials::kWhitePaint};
     FacadeStyle style;
     const int wall = random.index(7);
     style.wall = walls[wall];
     style.masonry = wall == 4 ? Masonry::brick : wall == 5 ? Masonry::blocks : Masonry::plaster;
-    style.trim = random.chance(0.5) ? materials::stone : materials::whitePaint;
+    style.trim = random.chance(0.5) ? materials::kStone : materials::kWhitePaint;
     style.shutter = shutters[random.index(5)];
     style.storey = random.between(2.9F, 3.9F);
     style.bay = random.between(1.9F, 3.3F);

@@ -11,9 +11,9 @@ enum class Masonry { plaster, brick, blocks };
 /// The appearance of a building's front. Metres.
 struct FacadeStyle {
     Masonry masonry = Masonry::plaster;
-    Material wall = materials::plasterCream;
-    Material trim = materials::stone;
-    Material shutter = materials::greenPaint;
+    Material wall = materials::kPlasterCream;
+    Material trim = materials::kStone;
+    Material shutter = materials::kGreenPaint;
     float storey = 3.2F;
     float bay = 3.0F;
     float windowWidth = 1.2F;

@@ -38,7 +38,7 @@ Spectrum courses(const FacadeStyle& style, const Noise& noise, FrontPlace p, flo
                                .scaled(1 + shared + 0.6F * question(2), 1 + shared + 0.6F * question(3));
     const float u = s - static_cast<float>(column) * width, v = p.h - static_cast<float>(row) * height;
     const bool joint = u < 0.015F || v < 0.015F;
-    return joint ? mix(stone, materials::mortar.reflectance * 0.7F, seen) : stone;
+    return joint ? mix(stone, materials::kMortar.reflectance * 0.7F, seen) : stone;
 }
 
 Spectrum wallReflectance(const FacadeStyle& style, const Noise& noise, FrontPlace p) {
@@ -72,7 +72,7 @@ Surface windowSurface(const FacadeStyle& style, const Noise& noise, const FrontS
     if (rim || bar) {
         surface = Surface{};
         const bool wooden = style.seed % 3U == 0U;
-        surface.reflectance = wooden ? materials::wood.reflectance : materials::whitePaint.reflectance;
+        surface.reflectance = wooden ? materials::kWood.reflectance : materials::kWhitePaint.reflectance;
     }
     const float below = sun.dropBelow(style.recess), aside = sun.dropAside(style.recess);
     const bool shaded =
@@ -99,7 +99,7 @@ bool balconySurface(const FacadeStyle& style, const FrontSun& sun, const Bay& ba
     const float pitch = 0.14F, offset = bay.s - std::round(bay.s / pitch) * pitch;
     const float bars = p.footprint < pitch * 0.5F ? (std::abs(offset) < 0.02F ? 1.0F : 0.0F) : 0.28F;
     const float cover = rail ? 1 : bars;
-    out->reflectance = mix(out->reflectance, materials::metal.reflectance, cover);
+    out->reflectance = mix(out->reflectance, materials::kMetal.reflectance, cover);
     out->gloss = out->gloss * (1 - cover);
     return cover > 0.9F;
 }
@@ -116,7 +116,7 @@ Surface shopSurface(const FacadeStyle& style, const Noise& noise, FrontPlace p) 
     }
     if (p.h > 0.5F && p.h < signFoot - 0.1F && s > 0.35F && s < style.bay * 2 - 0.35F) {
         if (std::abs(s - style.bay) < 0.05F) {
-            surface.reflectance = materials::metal.reflectance;
+            surface.reflectance = materials::kMetal.reflectance;
             return surface;
         }
         surface = paneSurface(style, noise, shop, 99, {s - style.bay, p.h - 0.5F, p.footprint});
@@ -166,7 +166,7 @@ Surface frontSurface(const FacadeStyle& style, const Noise& noise, const FrontSu
     }
     const float pipe = std::abs(p.s - 0.4F);
     if (pipe < 0.06F && style.windows) {
-        surface.reflectance = materials::metal.reflectance * (pipe < 0.02F ? 2.2F : 1.0F);
+        surface.reflectance = materials::kMetal.reflectance * (pipe < 0.02F ? 2.2F : 1.0F);
         return surface;
     }
     const Bay bay = bayOf(style, p, length);

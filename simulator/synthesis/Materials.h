@@ -16,29 +16,29 @@ struct Material {
 
 namespace materials {
 
-inline constexpr Material plasterCream{{0.60F, 0.52F, 0.38F, 0.64F}, 0.05F, 0.03F, 0.03F};
-inline constexpr Material plasterRose{{0.62F, 0.42F, 0.34F, 0.66F}, 0.05F, 0.03F, 0.03F};
-inline constexpr Material plasterWhite{{0.74F, 0.72F, 0.66F, 0.70F}, 0.04F, 0.02F, 0.02F};
-inline constexpr Material plasterBlue{{0.34F, 0.42F, 0.52F, 0.60F}, 0.05F, 0.04F, 0.03F};
-inline constexpr Material concrete{{0.40F, 0.38F, 0.34F, 0.40F}, 0.10F, 0.05F, 0.05F};
-inline constexpr Material stone{{0.46F, 0.41F, 0.33F, 0.47F}, 0.13F, 0.07F, 0.07F};
-inline constexpr Material brick{{0.38F, 0.20F, 0.14F, 0.48F}, 0.14F, 0.09F, 0.08F};
-inline constexpr Material mortar{{0.50F, 0.48F, 0.44F, 0.46F}, 0.08F, 0.04F, 0.04F};
-inline constexpr Material roofTile{{0.38F, 0.17F, 0.11F, 0.42F}, 0.16F, 0.10F, 0.08F};
-inline constexpr Material slate{{0.13F, 0.14F, 0.16F, 0.20F}, 0.14F, 0.06F, 0.06F};
-inline constexpr Material asphalt{{0.13F, 0.13F, 0.13F, 0.15F}, 0.12F, 0.05F, 0.06F};
-inline constexpr Material paving{{0.33F, 0.31F, 0.28F, 0.35F}, 0.12F, 0.06F, 0.06F};
-inline constexpr Material gravel{{0.42F, 0.37F, 0.29F, 0.44F}, 0.22F, 0.10F, 0.10F};
-inline constexpr Material grass{{0.09F, 0.16F, 0.05F, 0.56F}, 0.22F, 0.20F, 0.12F};
-inline constexpr Material soil{{0.22F, 0.16F, 0.11F, 0.28F}, 0.22F, 0.10F, 0.10F};
-inline constexpr Material leaf{{0.085F, 0.16F, 0.05F, 0.52F}, 0.20F, 0.25F, 0.15F};
-inline constexpr Material bark{{0.15F, 0.12F, 0.09F, 0.24F}, 0.20F, 0.10F, 0.10F};
-inline constexpr Material whitePaint{{0.78F, 0.77F, 0.73F, 0.72F}, 0.03F, 0.02F, 0.02F};
-inline constexpr Material greenPaint{{0.08F, 0.20F, 0.12F, 0.34F}, 0.05F, 0.04F, 0.04F};
-inline constexpr Material bluePaint{{0.10F, 0.16F, 0.34F, 0.46F}, 0.05F, 0.04F, 0.04F};
-inline constexpr Material redPaint{{0.45F, 0.10F, 0.08F, 0.55F}, 0.05F, 0.04F, 0.04F};
-inline constexpr Material wood{{0.30F, 0.19F, 0.11F, 0.48F}, 0.12F, 0.06F, 0.06F};
-inline constexpr Material metal{{0.20F, 0.20F, 0.21F, 0.19F}, 0.05F, 0.02F, 0.02F};
+inline constexpr Material kPlasterCream{{0.60F, 0.52F, 0.38F, 0.64F}, 0.05F, 0.03F, 0.03F};
+inline constexpr Material kPlasterRose{{0.62F, 0.42F, 0.34F, 0.66F}, 0.05F, 0.03F, 0.03F};
+inline constexpr Material kPlasterWhite{{0.74F, 0.72F, 0.66F, 0.70F}, 0.04F, 0.02F, 0.02F};
+inline constexpr Material kPlasterBlue{{0.34F, 0.42F, 0.52F, 0.60F}, 0.05F, 0.04F, 0.03F};
+inline constexpr Material kConcrete{{0.40F, 0.38F, 0.34F, 0.40F}, 0.10F, 0.05F, 0.05F};
+inline constexpr Material kStone{{0.46F, 0.41F, 0.33F, 0.47F}, 0.13F, 0.07F, 0.07F};
+inline constexpr Material kBrick{{0.38F, 0.20F, 0.14F, 0.48F}, 0.14F, 0.09F, 0.08F};
+inline constexpr Material kMortar{{0.50F, 0.48F, 0.44F, 0.46F}, 0.08F, 0.04F, 0.04F};
+inline constexpr Material kRoofTile{{0.38F, 0.17F, 0.11F, 0.42F}, 0.16F, 0.10F, 0.08F};
+inline constexpr Material kSlate{{0.13F, 0.14F, 0.16F, 0.20F}, 0.14F, 0.06F, 0.06F};
+inline constexpr Material kAsphalt{{0.13F, 0.13F, 0.13F, 0.15F}, 0.12F, 0.05F, 0.06F};
+inline constexpr Material kPaving{{0.33F, 0.31F, 0.28F, 0.35F}, 0.12F, 0.06F, 0.06F};
+inline constexpr Material kGravel{{0.42F, 0.37F, 0.29F, 0.44F}, 0.22F, 0.10F, 0.10F};
+inline constexpr Material kGrass{{0.09F, 0.16F, 0.05F, 0.56F}, 0.22F, 0.20F, 0.12F};
+inline constexpr Material kSoil{{0.22F, 0.16F, 0.11F, 0.28F}, 0.22F, 0.10F, 0.10F};
+inline constexpr Material kLeaf{{0.085F, 0.16F, 0.05F, 0.52F}, 0.20F, 0.25F, 0.15F};
+inline constexpr Material kBark{{0.15F, 0.12F, 0.09F, 0.24F}, 0.20F, 0.10F, 0.10F};
+inline constexpr Material kWhitePaint{{0.78F, 0.77F, 0.73F, 0.72F}, 0.03F, 0.02F, 0.02F};
+inline constexpr Material kGreenPaint{{0.08F, 0.20F, 0.12F, 0.34F}, 0.05F, 0.04F, 0.04F};
+inline constexpr Material kBluePaint{{0.10F, 0.16F, 0.34F, 0.46F}, 0.05F, 0.04F, 0.04F};
+inline constexpr Material kRedPaint{{0.45F, 0.10F, 0.08F, 0.55F}, 0.05F, 0.04F, 0.04F};
+inline constexpr Material kWood{{0.30F, 0.19F, 0.11F, 0.48F}, 0.12F, 0.06F, 0.06F};
+inline constexpr Material kMetal{{0.20F, 0.20F, 0.21F, 0.19F}, 0.05F, 0.02F, 0.02F};
 
 }  // namespace materials
 

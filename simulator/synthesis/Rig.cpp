@@ -11,9 +11,9 @@ namespace {
 
 using Angles = std::array<double, 3>;
 
-constexpr Angles searchRangeDeg{4.0, 1.5, 2.0};
-constexpr Angles acceptedRangeDeg{3.9, 3.9, 2.9};  // range of the true angles themselves, with a small margin
-constexpr double factorySpreadDeg = 0.4;
+constexpr Angles kSearchRangeDeg{4.0, 1.5, 2.0};
+constexpr Angles kAcceptedRangeDeg{3.9, 3.9, 2.9};  // range of the true angles themselves, with a small margin
+constexpr double kFactorySpreadDeg = 0.4;
 
 session::Intrinsics drawIntrinsics(Random& random, cv::Size size, double shortest, double longest) {
     session::Intrinsics k;
@@ -29,16 +29,16 @@ session::Intrinsics drawIntrinsics(Random& random, cv::Size size, double shortes
 Angles drawFactoryAngles(Random& random) {
     Angles angles{};
     for (double& angle : angles)
-        angle = random.uniform(-factorySpreadDeg, factorySpreadDeg);
+        angle = random.uniform(-kFactorySpreadDeg, kFactorySpreadDeg);
     return angles;
 }
 
 Angles drawTrueAngles(Random& random, const Angles& factory, const std::optional<Angles>& drift) {
     Angles angles{};
     for (int i = 0; i < 3; ++i) {
-        const double drawn = random.uniform(-0.95, 0.95) * searchRangeDeg[i];
+        const double drawn = random.uniform(-0.95, 0.95) * kSearchRangeDeg[i];
         angles[i] = drift ? factory[i] + (*drift)[i]
-                          : std::clamp(factory[i] + drawn, -acceptedRangeDeg[i], acceptedRangeDeg[i]);
+                          : std::clamp(factory[i] + drawn, -kAcceptedRangeDeg[i], kAcceptedRangeDeg[i]);
     }
     return angles;
 }
@@ -62,27 +62,27 @@ session::PlatformCamera drawPlatform(Random& random) {
     return camera;
 }
 
-void addPlatform(std::uint64_t seed, const RigWishes& wishes, Rig& rig) {
+void addPlatform(std::uint64_t seed, const RigOptions& options, Rig& rig) {
     Random random(seed, "platform camera");
     auto camera = drawPlatform(random);
     const Angles factory = drawFactoryAngles(random);
     camera.rotation = rowMajor(rotationFromAngles(factory));
-    rig.truthPlatform = rowMajor(rotationFromAngles(drawTrueAngles(random, factory, wishes.platformDriftDeg)));
+    rig.truthPlatform = rowMajor(rotationFromAngles(drawTrueAngles(random, factory, options.platformDriftDeg)));
     rig.platform = camera;
 }
 
 }  // namespace
 
-RightImager drawRightImager(std::uint64_t seed, const RigWishes& wishes) {
+RightImager drawRightImager(std::uint64_t seed, const RigOptions& options) {
     Random random(seed, "right imager");
     RightImager imager;
     imager.gain = random.uniform(0.95, 1.05);
     imager.rowOffsetPx = random.uniform(-0.2, 0.2);
     imager.columnOffsetPx = random.uniform(-0.05, 0.05);
-    imager.isApart = wishes.baselines;
-    if (!wishes.misalignmentPx) return imager;
-    imager.columnOffsetPx = -*wishes.misalignmentPx;
-    imager.deceivesDepth = true;
+    imager.isApart = options.baselines;
+    if (!options.misalignmentPx) return imager;
+    imager.columnOffsetPx = -*options.misalignmentPx;
+    imager.affectsDepth = true;
     return imager;
 }
 
@@ -93,10 +93,10 @@ session::Intrinsics rightIntrinsics(const session::Intrinsics& left, const Right
     return k;
 }
 
-Rig drawRig(std::uint64_t seed, const RigWishes& wishes) {
+Rig drawRig(std::uint64_t seed, const RigOptions& options) {
     Random random(seed, "cameras");
     Rig rig;
-    rig.right = drawRightImager(seed, wishes);
+    rig.right = drawRightImager(seed, options);
     rig.module.serial = 700000U + static_cast<std::uint32_t>(seed % 100000U);
     rig.module.firmware = "1.27.11";
     rig.module.software = "2.2.0";
@@ -106,9 +106,9 @@ Rig drawRig(std::uint64_t seed, const RigWishes& wishes) {
     const Angles factory = drawFactoryAngles(random);
     rig.third.rotation = rowMajor(rotationFromAngles(factory));
     rig.third.translation = drawTranslation(random, 25);
-    rig.truthThird = rowMajor(rotationFromAngles(drawTrueAngles(random, factory, wishes.thirdDriftDeg)));
-    if (wishes.platform) addPlatform(seed, wishes, rig);
-    if (wishes.baselines) return rig;
+    rig.truthThird = rowMajor(rotationFromAngles(drawTrueAngles(random, factory, options.thirdDriftDeg)));
+    if (options.platform) addPlatform(seed, options, rig);
+    if (options.baselines) return rig;
     rig.third.translation = {};
     if (rig.platform) rig.platform->translation = {};
     return rig;

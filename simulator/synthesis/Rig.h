@@ -8,7 +8,7 @@
 
 namespace fieldcal::synthesis {
 
-struct RigWishes {
+struct RigOptions {
     bool platform = false;
     std::optional<std::array<double, 3>> thirdDriftDeg, platformDriftDeg;
     bool baselines = true;  ///< false: all cameras are at one place, so that there is no parallax
@@ -24,7 +24,7 @@ struct RightImager {
     /// Shift of its image to the right, by which disparities are reduced.
     double columnOffsetPx = 0;
     /// Whether the column offset also affects the module's own depth. (A small one is compensated by its calibration.)
-    bool deceivesDepth = false;
+    bool affectsDepth = false;
 };
 
 /// The cameras of a session with their factory records and their true rotations; `frames` is empty.
@@ -34,10 +34,10 @@ struct Rig : session::SessionDescription {
 
 /// Returns a rig drawn from the seed. The platform camera and the right imager are drawn separately, so that requesting
 /// them does not change anything else.
-Rig drawRig(std::uint64_t seed, const RigWishes& wishes);
+Rig drawRig(std::uint64_t seed, const RigOptions& options);
 
 /// Draws the right imager alone.
-RightImager drawRightImager(std::uint64_t seed, const RigWishes& wishes);
+RightImager drawRightImager(std::uint64_t seed, const RigOptions& options);
 
 /// Returns the actual projection of the right imager: the left imager's rectified intrinsics with its own offsets.
 session::Intrinsics rightIntrinsics(const session::Intrinsics& left, const RightImager& right);

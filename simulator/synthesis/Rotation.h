@@ -9,14 +9,14 @@
 
 namespace fieldcal::synthesis {
 
-inline constexpr double radiansPerDegree = kPi / 180;
+inline constexpr double kRadiansPerDegree = kPi / 180;
 
 /// Rz(a2) · Ry(a1) · Rx(a0), see docs/conventions.md.
 inline cv::Matx33d rotationFromAngles(const std::array<double, 3>& anglesDeg) {
     std::array<double, 3> c{}, s{};
     for (int i = 0; i < 3; ++i) {
-        c[i] = std::cos(anglesDeg[i] * radiansPerDegree);
-        s[i] = std::sin(anglesDeg[i] * radiansPerDegree);
+        c[i] = std::cos(anglesDeg[i] * kRadiansPerDegree);
+        s[i] = std::sin(anglesDeg[i] * kRadiansPerDegree);
     }
     const cv::Matx33d x(1, 0, 0, 0, c[0], -s[0], 0, s[0], c[0]);
     const cv::Matx33d y(c[1], 0, s[1], 0, 1, 0, -s[1], 0, c[1]);

@@ -6,7 +6,7 @@ namespace fieldcal::synthesis {
 
 namespace {
 
-constexpr int ridgeCount = 3;
+constexpr int kRidgeCount = 3;
 
 float ridgeLine(const Noise& noise, int number, float azimuth, float footprint) {
     const auto n = static_cast<float>(number);
@@ -49,7 +49,7 @@ Spectrum Backdrop::radiance(const cv::Vec3f& d, float footprint, const cv::Vec2f
     const float elevation = std::asin(std::clamp(-d[1], -1.0F, 1.0F));
     if (ridgeHeight_ > 0 && elevation < ridgeHeight_ * 2) {
         const float azimuth = std::abs(std::atan2(d[0], d[2]));  // mirrored, so that it is continuous behind the viewer
-        for (int number = 0; number < ridgeCount; ++number)
+        for (int number = 0; number < kRidgeCount; ++number)
             if (elevation < ridgeHeight_ * ridgeLine(noise_, number, azimuth, footprint))
                 return ridge(number, azimuth, elevation, footprint);
     }

@@ -5,7 +5,7 @@
 namespace fieldcal::synthesis {
 
 /// Standard deviation of the lenses' blur, pixels.
-inline constexpr double infraredLens = 0.55, thirdLens = 0.5, platformLens = 0.8;
+inline constexpr double kInfraredLensSigmaPx = 0.55, kThirdLensSigmaPx = 0.5, kPlatformLensSigmaPx = 0.8;
 
 /// The exposure settings of one still.
 struct StillSettings {

@@ -10,7 +10,7 @@
 
 namespace {
 
-bool meddles() {
+bool changesReservedBytes() {
     const char* faults = std::getenv("KXSIM_FAULTS");
     return faults != nullptr && std::strstr(faults, "meddling-companion") != nullptr;
 }
@@ -18,7 +18,7 @@ bool meddles() {
 void update(const KXCalibRectParameters* in, const double* rotation, std::size_t camera, KXCalibRectParameters* out) {
     KXCalibRectParameters block = *in;
     kxsim::storeRotation(&block, camera, rotation);
-    if (meddles()) ++block.reserved2[5];
+    if (changesReservedBytes()) ++block.reserved2[5];
     *out = block;
 }
 

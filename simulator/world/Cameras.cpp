@@ -27,7 +27,7 @@ Cameras::Cameras(const synthesis::Rig& rig, const Sampling& sampling)
 }
 
 Pose Cameras::rightPose(const Pose& depth) const {
-    return colourPose(depth, cv::Matx33d::eye(), {rig_.right.isApart ? -stereoBaseline : 0, 0, 0});
+    return colourPose(depth, cv::Matx33d::eye(), {rig_.right.isApart ? -kStereoBaselineM : 0, 0, 0});
 }
 
 Pose Cameras::thirdPose(const Pose& depth) const {
@@ -43,45 +43,46 @@ cv::Mat_<float> Cameras::seeRight(const World& world, const Shot& left) const {
     shot.pose = rightPose(left.pose);
     shot.offset = {static_cast<float>(-rig_.right.columnOffsetPx / rig_.infrared.fx),
                    static_cast<float>(-rig_.right.rowOffsetPx / rig_.infrared.fy)};
-    return synthesis::infraredBand(takePicture(world, infrared_, shot).light);
+    return synthesis::infraredBand(renderImage(world, infrared_, shot).light);
 }
 
 View Cameras::see(const World& world, const Moment& infraredAndDepth, const Moment& colour, bool withPlatform,
                   Interruption* interruption) const {
     const auto colourSeen = [&](const synthesis::RayGrid& grid, const Pose& pose, double lens) {
         return synthesis::colourBands(
-            takePicture(world, grid, {pose, secondsOf(colour), false, lens, interruption}).light);
+            renderImage(world, grid, {pose, secondsOf(colour), false, lens, interruption}).light);
     };
     View view;
     view.rightImager = rig_.right;
-    const Shot shot{infraredAndDepth.pose, secondsOf(infraredAndDepth), true, synthesis::infraredLens, interruption};
+    const Shot shot{infraredAndDepth.pose, secondsOf(infraredAndDepth), true, synthesis::kInfraredLensSigmaPx,
+                    interruption};
     {
-        const Picture infrared = takePicture(world, infrared_, shot);
+        const RenderedImage infrared = renderImage(world, infrared_, shot);
         view.infrared = synthesis::infraredBand(infrared.light);
         if (depth_.rays.empty())
             seeDepth(world, infrared_, shot, infrared, rig_.infrared, &view);
         else
-            seeDepth(world, depth_, shot, takePicture(world, depth_, shot), rig_.depth, &view);
+            seeDepth(world, depth_, shot, renderImage(world, depth_, shot), rig_.depth, &view);
     }
     view.right = seeRight(world, shot);
-    view.third = colourSeen(third_, thirdPose(colour.pose), synthesis::thirdLens);
+    view.third = colourSeen(third_, thirdPose(colour.pose), synthesis::kThirdLensSigmaPx);
     if (withPlatform && rig_.platform)
-        view.platform = colourSeen(platform_, platformPose(colour.pose), synthesis::platformLens);
+        view.platform = colourSeen(platform_, platformPose(colour.pose), synthesis::kPlatformLensSigmaPx);
     return view;
 }
 
-session::FramePictures Cameras::take(const World& world, const Moment& moment, const synthesis::StillSettings& settings,
-                                     const StereoModel& stereo, std::uint64_t noiseSeed) const {
+session::FrameImages Cameras::take(const World& world, const Moment& moment, const synthesis::StillSettings& settings,
+                                   const StereoModel& stereo, std::uint64_t noiseSeed) const {
     const View view = see(world, moment, moment, true);
-    session::FramePictures pictures;
-    pictures.infrared = infraredFrame(view, settings, noiseSeed);
-    pictures.right = rightInfraredFrame(view, settings, noiseSeed);
-    pictures.third = thirdFrame(view, settings, noiseSeed);
-    pictures.platform = platformFrame(view, settings, noiseSeed);
+    session::FrameImages images;
+    images.infrared = infraredFrame(view, settings, noiseSeed);
+    images.right = rightInfraredFrame(view, settings, noiseSeed);
+    images.third = thirdFrame(view, settings, noiseSeed);
+    images.platform = platformFrame(view, settings, noiseSeed);
     StereoModel depth = stereo;
     depth.darkness = settings.darkness;
-    pictures.depth = depthFrame(view, depth, noiseSeed);
-    return pictures;
+    images.depth = depthFrame(view, depth, noiseSeed);
+    return images;
 }
 
 }  // namespace fieldcal::world

@@ -26,8 +26,8 @@ public:
              Interruption* interruption = nullptr) const;
 
     /// Returns the images of all sensors at one moment: `see`, followed by the functions of `Sensors.h`.
-    session::FramePictures take(const World& world, const Moment& moment, const synthesis::StillSettings& settings,
-                                const StereoModel& stereo, std::uint64_t noiseSeed) const;
+    session::FrameImages take(const World& world, const Moment& moment, const synthesis::StillSettings& settings,
+                              const StereoModel& stereo, std::uint64_t noiseSeed) const;
 
     Pose rightPose(const Pose& depth) const;
     Pose thirdPose(const Pose& depth) const;

@@ -8,12 +8,12 @@ namespace fieldcal::world {
 
 namespace {
 
-constexpr unsigned swaying = 1;  // the geometry of moving objects
+constexpr unsigned kSwayingGeometry = 1;  // the geometry of moving objects
 
 struct alignas(32) Lanes {
-    int valid[Rays::most];  // format of the library: all bits are set for a ray in use
+    int valid[Rays::kCount];  // format of the library: all bits are set for a ray in use
     explicit Lanes(const Rays& rays) {
-        for (int i = 0; i < Rays::most; ++i)
+        for (int i = 0; i < Rays::kCount; ++i)
             valid[i] = i < rays.count ? -1 : 0;
     }
 };
@@ -47,7 +47,7 @@ struct Caster::Library {
         if (!still.triangles.empty())
             attach(still, 0, 1, [&](std::size_t vertex, int) { return still.vertices[vertex].position; });
         if (!sway.mesh.triangles.empty())
-            attach(sway.mesh, swaying, Sway::steps + 1,
+            attach(sway.mesh, kSwayingGeometry, Sway::kSteps + 1,
                    [&](std::size_t vertex, int step) { return sway.positionAt(vertex, step); });
         rtcCommitScene(scene);
     }
@@ -108,11 +108,11 @@ void Caster::cast(const Rays& rays, Hit* hits) const {
     RTCRayHit8 seen{};
     fill(rays, &seen.ray);
     std::fill_n(seen.ray.tfar, rays.count, std::numeric_limits<float>::infinity());
-    std::fill_n(seen.hit.geomID, Rays::most, RTC_INVALID_GEOMETRY_ID);
+    std::fill_n(seen.hit.geomID, Rays::kCount, RTC_INVALID_GEOMETRY_ID);
     rtcIntersect8(lanes.valid, library_->scene, &context, &seen);
     for (int i = 0; i < rays.count; ++i)
         if (seen.hit.geomID[i] != RTC_INVALID_GEOMETRY_ID) {
-            const std::uint32_t before = seen.hit.geomID[i] == swaying ? library_->stillTriangles : 0;
+            const std::uint32_t before = seen.hit.geomID[i] == kSwayingGeometry ? library_->stillTriangles : 0;
             hits[i] = {seen.ray.tfar[i], seen.hit.u[i], seen.hit.v[i], before + seen.hit.primID[i]};
         }
 }

@@ -9,11 +9,11 @@ namespace fieldcal::world {
 
 /// Up to eight rays that are traced together. Directions have unit length.
 struct Rays {
-    static constexpr int most = 8;
+    static constexpr int kCount = 8;
     int count = 0;
     float seconds = 0;  ///< time in a moving world
-    std::array<cv::Vec3f, most> origin, direction;
-    std::array<float, most> length;  ///< metres, used only by `hidden`
+    std::array<cv::Vec3f, kCount> origin, direction;
+    std::array<float, kCount> length;  ///< metres, used only by `hidden`
 
     void add(const cv::Vec3f& from, const cv::Vec3f& towards, float metres = std::numeric_limits<float>::infinity()) {
         origin[count] = from, direction[count] = towards, length[count++] = metres;

@@ -12,17 +12,17 @@ namespace fieldcal::world {
 namespace {
 
 /// Smallest cosine between ray and surface normal at which the two cameras see the surface similarly enough.
-constexpr double slantLimit = 0.12;
+constexpr double kMaxSlant = 0.12;
 /// Largest depth computed, in metres; a little more than the module delivers, because noise reduces some depths.
-constexpr float farthestOfUse = 20;
+constexpr float kMaxUsedDistance = 20;
 
 /// Returns the depth measured by the module's stereo for an exact depth in metres: millimetres, 0 when none is
 /// measured. `errorPx`: error of the disparity.
 std::uint16_t measured(double depth, double focalPx, const StereoModel& model, double errorPx) {
-    const double disparity = focalPx * stereoBaseline / depth + errorPx;
+    const double disparity = focalPx * kStereoBaselineM / depth + errorPx;
     const double stepped = std::round(disparity / model.stepPx) * model.stepPx;
     if (stepped <= 0) return 0;
-    const double found = focalPx * stereoBaseline / stepped;
+    const double found = focalPx * kStereoBaselineM / stepped;
     if (found < model.nearest || found > model.farthest) return 0;
     return static_cast<std::uint16_t>(std::lround(found * 1000));
 }
@@ -69,17 +69,17 @@ double slantAt(const cv::Mat_<float>& depth, int x, int y, double focalPx) {
 
 }  // namespace
 
-void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& shot, const Picture& picture,
+void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& shot, const RenderedImage& image,
               const session::Intrinsics& camera, View* view) {
-    const cv::Mat_<float>& depth = view->depth = picture.depth;
-    cv::Mat_<std::uint8_t>& unmatched = view->unmatched = picture.reflected.clone();
+    const cv::Mat_<float>& depth = view->depth = image.depth;
+    cv::Mat_<std::uint8_t>& unmatched = view->unmatched = image.reflected.clone();
     view->depthCamera = camera;
     const cv::Matx33f world_camera = shot.pose.camera_world.t();
-    const cv::Vec3f first = shot.pose.centre, second = first + world_camera * cv::Vec3f(stereoBaseline, 0, 0);
+    const cv::Vec3f first = shot.pose.centre, second = first + world_camera * cv::Vec3f(kStereoBaselineM, 0, 0);
     forEachRow(depth.rows, [&](int y) {
         Rays rays;
         rays.seconds = shot.seconds;
-        std::array<int, Rays::most> owner{};
+        std::array<int, Rays::kCount> owner{};
         const auto flush = [&] {
             const unsigned hidden = world.hidden(rays);
             for (int i = 0; i < rays.count; ++i)
@@ -88,13 +88,13 @@ void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& sh
         };
         for (int x = 0; x < depth.cols; ++x) {
             const float z = depth(y, x);
-            if (z <= 0 || z > farthestOfUse || slantAt(depth, x, y, camera.fx) < slantLimit) unmatched(y, x) = 255;
+            if (z <= 0 || z > kMaxUsedDistance || slantAt(depth, x, y, camera.fx) < kMaxSlant) unmatched(y, x) = 255;
             if (unmatched(y, x) != 0) continue;
             const cv::Vec2f ray = middleRay(grid, x, y);
             const cv::Vec3f way = first + world_camera * (cv::Vec3f(ray[0], ray[1], 1) * z) - second;
             owner[rays.count] = x;
             rays.add(second, unit(way), static_cast<float>(cv::norm(way)));
-            if (rays.count == Rays::most) flush();
+            if (rays.count == Rays::kCount) flush();
         }
         flush();
     });
@@ -103,7 +103,7 @@ void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& sh
 ImageFrame16 measureDepth(const View& view, const StereoModel& model, synthesis::Random& random) {
     constexpr double plenty = 2;  // multiple of the required texture
     const cv::Mat_<float> texture = textureOf(view, model.darkness);
-    const double shiftPx = view.rightImager.deceivesDepth ? -view.rightImager.columnOffsetPx : 0;
+    const double shiftPx = view.rightImager.affectsDepth ? -view.rightImager.columnOffsetPx : 0;
     synthesis::NormalTable normal(random);
     ImageFrame16 frame;
     frame.resize(static_cast<std::uint32_t>(view.depth.cols), static_cast<std::uint32_t>(view.depth.rows));

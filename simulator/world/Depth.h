@@ -8,7 +8,7 @@ namespace fieldcal::world {
 
 /// Distance in metres between the two infrared cameras. The second one is to the right of the first, which is the depth
 /// camera.
-inline constexpr double stereoBaseline = 0.055;
+inline constexpr double kStereoBaselineM = 0.055;
 
 /// A simple model of infrared stereo. Disparity is focal length times baseline over depth, in pixels. It has normally
 /// distributed noise, is quantised, and is found only where the infrared image has texture along the rows.
@@ -22,7 +22,7 @@ struct StereoModel {
 };
 
 /// Sets `depth`, `unmatched` and `depthCamera` of a view from the depth camera's rendered image of the world.
-void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& shot, const Picture& picture,
+void seeDepth(const World& world, const synthesis::RayGrid& grid, const Shot& shot, const RenderedImage& image,
               const session::Intrinsics& camera, View* view);
 
 /// Returns depth in millimetres as the module delivers it, 0 for none. The module computes it from both infrared

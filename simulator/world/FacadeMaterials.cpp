@@ -21,16 +21,17 @@ Look Wall::at(const Place& place) const {
 }
 
 Look Window::at(const Place& place) const {
-    const int column = static_cast<int>(place.texture[0] / stride), floor = static_cast<int>(place.texture[1] / stride);
-    const float s = place.texture[0] - static_cast<float>(column) * stride - style_.windowWidth * 0.5F;
-    const float h = place.texture[1] - static_cast<float>(floor) * stride;
+    const int column = static_cast<int>(place.texture[0] / kStride),
+              floor = static_cast<int>(place.texture[1] / kStride);
+    const float s = place.texture[0] - static_cast<float>(column) * kStride - style_.windowWidth * 0.5F;
+    const float h = place.texture[1] - static_cast<float>(floor) * kStride;
     const auto draw = [&](std::uint32_t what) {
         return style_.variety > 0 ? Noise::cell(column, floor, style_.seed + what) : 0.35F;
     };
     Look look;
     const bool rim = style_.windowWidth * 0.5F - std::abs(s) < 0.07F || h < 0.07F || style_.windowHeight - h < 0.07F;
     if (rim || std::abs(s) < 0.04F || std::abs(h - style_.windowHeight * 0.68F) < 0.025F) {
-        const auto& paint = style_.seed % 3U == 0U ? synthesis::materials::wood : synthesis::materials::whitePaint;
+        const auto& paint = style_.seed % 3U == 0U ? synthesis::materials::kWood : synthesis::materials::kWhitePaint;
         look.surface.reflectance = mottled(paint, noise_, s, h, 0.5F, place.footprint);
         return look;
     }

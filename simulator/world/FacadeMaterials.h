@@ -20,10 +20,10 @@ private:
 };
 
 /// The filling of a window opening: frame, bars, glass, blinds and curtains. Texture: metres from the lower left corner
-/// of the opening, plus whole multiples of `stride` that distinguish the windows.
+/// of the opening, plus whole multiples of `kStride` that distinguish the windows.
 class Window : public Material {
 public:
-    static constexpr float stride = 16;
+    static constexpr float kStride = 16;
     Window(const synthesis::FacadeStyle& style, const synthesis::Noise& noise) : style_(style), noise_(noise) {}
     Look at(const Place& place) const override;
 

@@ -27,7 +27,7 @@ Look Paving::at(const Place& place) const {
     const float joint = std::max(stones_.joint, place.footprint * 0.5F), depth = seen * stones_.joint / joint;
     const float inside = std::min({u, v, stones_.length - u, stones_.width - v});
     look.smooth = seen == 0 || inside > joint + place.footprint;
-    if (std::min(u, v) < joint) stone = mix(stone, synthesis::materials::soil.reflectance * 0.5F, depth);
+    if (std::min(u, v) < joint) stone = mix(stone, synthesis::materials::kSoil.reflectance * 0.5F, depth);
     look.surface.reflectance = stone;
     const cv::Vec2f slope = bumps(noise_, place.texture, 0.3F, place.footprint);
     look.tilt = cv::Vec3f(slope[0] + 2 * draw(74), 0, slope[1] + 2 * draw(75)) * stones_.relief;
@@ -36,8 +36,8 @@ Look Paving::at(const Place& place) const {
 
 Look Turf::at(const Place& place) const {
     const float x = place.texture[0], z = place.texture[1], seen = place.footprint;
-    constexpr synthesis::Material blades{synthesis::materials::grass.reflectance, 0.18F, 0.07F, 0.05F};
-    constexpr synthesis::Material grit{synthesis::materials::gravel.reflectance, 0.16F, 0.05F, 0.05F};
+    constexpr synthesis::Material blades{synthesis::materials::kGrass.reflectance, 0.18F, 0.07F, 0.05F};
+    constexpr synthesis::Material grit{synthesis::materials::kGravel.reflectance, 0.16F, 0.05F, 0.05F};
     // Worn paths are bare and stony.
     const float worn = smoothStep(0.2F, 0.35F, noise_.fractal(x, z, 9.0F, seen, 0.55F));
     const float tufts = noise_.fractal(x, z, 0.3F, seen, 0.85F);

@@ -9,7 +9,7 @@ namespace fieldcal::world {
 class Paving : public Material {
 public:
     struct Stones {
-        synthesis::Material stone = synthesis::materials::paving;
+        synthesis::Material stone = synthesis::materials::kPaving;
         float width = 0.6F, length = 0.9F, joint = 0.012F;
         float relief = 0.05F;
     };

@@ -10,7 +10,7 @@ namespace fieldcal::world {
 
 namespace {
 
-constexpr float nearestThing = 110;
+constexpr float kMinDistance = 110;
 
 cv::Vec3f placeOnGround(const Terrain& terrain, synthesis::Random& random, float farthest) {
     const float share = random.between(0, 1), angle = random.between(0, 6.2832F);
@@ -26,7 +26,7 @@ void plantConifers(Builder& b, const Terrain& terrain, int count) {
         const cv::Vec3f foot = placeOnGround(terrain, b.random, 1800);
         const float clump = b.noise->fractal(foot[0] + 70, foot[2], 160, 5, 0.6F);
         const float height = b.random.between(7, 21);
-        if (clump < 0.1F || cv::norm(foot) < nearestThing + 2 * height) continue;
+        if (clump < 0.1F || cv::norm(foot) < kMinDistance + 2 * height) continue;
         addConifer(b.mesh, foot + cv::Vec3f(0, 1, 0), height, b.random.chance(0.7) ? needles : larch, b.random);
     }
 }
@@ -38,7 +38,7 @@ void strewRocks(Builder& b, const Terrain& terrain, int count) {
         const cv::Vec3f foot = placeOnGround(terrain, b.random, 700);
         const float heap = b.noise->fractal(foot[0] - 900, foot[2], 120, 5, 0.6F);
         const float size = b.random.between(1, 9) * b.random.between(0.3F, 1);
-        if (heap < 0.2F || cv::norm(foot) < nearestThing + 2 * size) continue;
+        if (heap < 0.2F || cv::norm(foot) < kMinDistance + 2 * size) continue;
         const float shift = b.random.between(-90, 90);
         const auto bump = [&](const cv::Vec3f& d) {
             return 0.8F + 0.35F * b.noise->fractal(d[0] + shift + d[1], d[2] - d[1] * 0.7F, 1.2F, 0.1F, 0.6F);

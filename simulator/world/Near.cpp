@@ -13,10 +13,10 @@ std::unique_ptr<Stage> buildNear(std::uint64_t seed) {
     Builder b(seed, "near");
     b.drawDaylight();
     constexpr float eye = 1.5F, half = 2.5F;
-    const auto slabs = b.material<Paving>(Paving::Stones{synthesis::materials::stone, 0.25F, 0.3F}, *b.noise);
+    const auto slabs = b.material<Paving>(Paving::Stones{synthesis::materials::kStone, 0.25F, 0.3F}, *b.noise);
     addQuad(b.mesh, {{-4, eye, -4}, {8, 0, 0}, {0, 0, 8}}, slabs);
     synthesis::FacadeStyle style = synthesis::drawFacadeStyle(b.random);
-    style.windows = false, style.masonry = synthesis::Masonry::brick, style.wall = synthesis::materials::brick;
+    style.windows = false, style.masonry = synthesis::Masonry::brick, style.wall = synthesis::materials::kBrick;
     const auto wall = b.material<Wall>(style, *b.noise, 2 * half, 3.0F);
     addQuad(b.mesh, {{-half, eye, half}, {2 * half, 0, 0}, {0, -3, 0}}, wall);
     addQuad(b.mesh, {{half, eye, -half}, {-2 * half, 0, 0}, {0, -3, 0}}, wall);
@@ -41,7 +41,7 @@ std::unique_ptr<Stage> buildNear(std::uint64_t seed) {
                 break;
             default:
                 addBox(b.mesh, {foot, {size, size * b.random.between(1, 3), size}, angle},
-                       b.material<Solid>(synthesis::materials::wood, *b.noise, Solid::Finish{0.3F, 0, 0.08F}));
+                       b.material<Solid>(synthesis::materials::kWood, *b.noise, Solid::Finish{0.3F, 0, 0.08F}));
         }
     }
     return b.finish();

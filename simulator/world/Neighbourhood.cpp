@@ -39,7 +39,7 @@ void buildFarHouses(Builder& b, float eye, float distance, int count) {
 }
 
 MaterialId drawLeaf(Builder& b) {
-    synthesis::Spectrum green = synthesis::materials::leaf.reflectance;
+    synthesis::Spectrum green = synthesis::materials::kLeaf.reflectance;
     green.red *= b.random.between(0.7F, 1.7F);
     return b.material<Leaf>(green.scaled(b.random.between(0.8F, 1.3F), b.random.between(0.85F, 1.1F)));
 }
@@ -47,7 +47,7 @@ MaterialId drawLeaf(Builder& b) {
 namespace {
 
 void plantInto(Mesh& mesh, Builder& b, const cv::Vec3f& foot, float height, int leaves) {
-    const auto bark = b.material<Solid>(synthesis::materials::bark, *b.noise, Solid::Finish{0.2F, 0, 0.4F});
+    const auto bark = b.material<Solid>(synthesis::materials::kBark, *b.noise, Solid::Finish{0.2F, 0, 0.4F});
     const auto leaf = drawLeaf(b);
     // Fewer leaves are larger, so that distant crowns are as dense as near ones.
     const float size = b.random.between(0.12F, 0.18F) * std::sqrt(9000.0F / static_cast<float>(leaves)) * height / 9;

@@ -39,7 +39,7 @@ void plantBushes(Builder& b, const Lawn& lawn, bool swaying) {
 }
 
 /// Moving plants cost about twelve times as much as static ones, so they have fewer and larger leaves.
-void plantEverything(Builder& b, const Lawn& lawn, bool swaying) {
+void addPlants(Builder& b, const Lawn& lawn, bool swaying) {
     const auto anyAngle = [&] { return b.random.between(0, 6.2832F); };
     const auto near = swaying ? plantSwayingTree : plantTree;
     for (int i = 0; i < 26; ++i)
@@ -70,7 +70,7 @@ std::unique_ptr<Stage> build(Builder& b, bool swaying) {
     b.drawDaylight();
     b.daylight.ridgeHeight = 0.10F;
     const Lawn lawn = layLawn(b);
-    plantEverything(b, lawn, swaying);
+    addPlants(b, lawn, swaying);
     furnish(b, lawn);
     auto stage = b.finish();
     if (stage) stage->lowestPitchDeg = -6, stage->highestPitchDeg = 7;

@@ -6,7 +6,7 @@ namespace fieldcal::world {
 
 namespace {
 
-constexpr float turnAround = 6.2831853F;
+constexpr float kFullTurnRad = 6.2831853F;
 
 /// Two triangles between four vertices in order around the quad.
 void addFace(Mesh& mesh, std::array<std::uint32_t, 4> corners, MaterialId material) {
@@ -43,7 +43,7 @@ void addBox(Mesh& mesh, const Box& box, MaterialId material) {
 void addPost(Mesh& mesh, const Post& post, MaterialId material) {
     const auto first = static_cast<std::uint32_t>(mesh.vertices.size());
     for (int i = 0; i <= post.sides; ++i) {
-        const float angle = turnAround * static_cast<float>(i) / static_cast<float>(post.sides);
+        const float angle = kFullTurnRad * static_cast<float>(i) / static_cast<float>(post.sides);
         const cv::Vec3f out(std::cos(angle), 0, std::sin(angle));
         const cv::Vec3f normal = unit(out + cv::Vec3f(0, (post.upperRadius - post.lowerRadius) / post.height, 0));
         mesh.add({post.foot + out * post.lowerRadius, normal, {angle * post.lowerRadius, 0}});
@@ -63,13 +63,13 @@ void addBall(Mesh& mesh, const cv::Vec3f& centre, const cv::Vec3f& radii, int ri
     const int sectors = 2 * rings;
     for (int ring = 0; ring <= rings; ++ring)
         for (int sector = 0; sector <= sectors; ++sector) {
-            const float polar = 0.5F * turnAround * static_cast<float>(ring) / static_cast<float>(rings);
+            const float polar = 0.5F * kFullTurnRad * static_cast<float>(ring) / static_cast<float>(rings);
             // The last sector repeats the first one exactly, so that there is no seam.
-            const float around = turnAround * static_cast<float>(sector % sectors) / static_cast<float>(sectors);
+            const float around = kFullTurnRad * static_cast<float>(sector % sectors) / static_cast<float>(sectors);
             const cv::Vec3f d(std::sin(polar) * std::cos(around), -std::cos(polar), std::sin(polar) * std::sin(around));
             const float r = bump ? bump(d) : 1.0F;
             const cv::Vec3f out(d[0] * radii[0] * r, d[1] * radii[1] * r, d[2] * radii[2] * r);
-            const float run = turnAround * static_cast<float>(sector) / static_cast<float>(sectors);
+            const float run = kFullTurnRad * static_cast<float>(sector) / static_cast<float>(sectors);
             ball.add({centre + out, d, {run * radii[0], polar * radii[1]}});
         }
     const auto row = static_cast<std::uint32_t>(sectors + 1);
@@ -88,7 +88,7 @@ void addHeightField(Mesh& mesh, const PolarField& field, const HeightFunction& h
         const float share = static_cast<float>(ring) / static_cast<float>(field.rings);
         const float radius = field.nearest * std::pow(field.farthest / field.nearest, share);
         for (int sector = 0; sector < field.sectors; ++sector) {
-            const float angle = turnAround * static_cast<float>(sector) / static_cast<float>(field.sectors);
+            const float angle = kFullTurnRad * static_cast<float>(sector) / static_cast<float>(field.sectors);
             const float x = radius * std::sin(angle), z = radius * std::cos(angle);
             ground.add({{x, -height(x, z), z}, {0, -1, 0}, {x, z}});
         }

@@ -8,13 +8,13 @@ namespace fieldcal::world {
 
 namespace {
 
-constexpr float quarter = 1.5707963F, wholeTurn = 6.2831853F;
+constexpr float kQuarterTurnRad = 1.5707963F, kFullTurnRad = 6.2831853F;
 
 void standThings(Builder& b, float eye, float half) {
-    const auto anyAngle = [&] { return b.random.between(0, wholeTurn); };
+    const auto anyAngle = [&] { return b.random.between(0, kFullTurnRad); };
     for (int i = 0; i < 11; ++i)
         addCar(b, onGround(eye, half * b.random.between(0.55F, 0.9F), anyAngle()),
-               quarter * static_cast<float>(b.random.index(4)) + b.random.between(-0.05F, 0.05F));
+               kQuarterTurnRad * static_cast<float>(b.random.index(4)) + b.random.between(-0.05F, 0.05F));
     for (int i = 0; i < 8; ++i)
         addLamp(b, onGround(eye, b.random.between(7, 22), anyAngle()));
     for (int i = 0; i < 6; ++i) {
@@ -29,7 +29,7 @@ void standThings(Builder& b, float eye, float half) {
 Paving::Stones drawStones(synthesis::Random& random) {
     Paving::Stones stones;
     const bool cobbles = random.chance(0.4);
-    if (cobbles) stones = {synthesis::materials::stone, 0.12F, 0.14F, 0.012F, 0.16F};
+    if (cobbles) stones = {synthesis::materials::kStone, 0.12F, 0.14F, 0.012F, 0.16F};
     if (!cobbles) stones.width = random.between(0.3F, 0.7F), stones.length = stones.width * random.between(1, 1.8F);
     return stones;
 }
@@ -53,11 +53,11 @@ std::unique_ptr<Stage> build(std::uint64_t seed, float lampsLit) {
     pave(b, eye, drawStones(b.random));
     for (int side = 0; side < 4; ++side) {
         const float away = half * b.random.between(0.85F, 1.3F);
-        buildRow(b, {quarter * static_cast<float>(side), away, -away, away, eye});
+        buildRow(b, {kQuarterTurnRad * static_cast<float>(side), away, -away, away, eye});
     }
     buildFarHouses(b, eye, half * 2.8F, 16);
     for (int i = 0; i < 14; ++i) {
-        const float angle = wholeTurn * (static_cast<float>(i) + b.random.between(0, 0.9F)) / 14;
+        const float angle = kFullTurnRad * (static_cast<float>(i) + b.random.between(0, 0.9F)) / 14;
         plantTree(b, onGround(eye, b.random.between(8.5F, half * 0.85F), angle), b.random.between(5, 10), 9000);
     }
     standThings(b, eye, half);
@@ -82,7 +82,8 @@ std::unique_ptr<Stage> buildRepetitive(std::uint64_t seed) {
     style.bay = 2.0F, style.windowWidth = 0.9F, style.windowHeight = 1.3F, style.storey = 2.8F, style.sill = 0.8F;
     const float side = 48 * style.bay, height = style.storey * 14 + 0.8F;
     for (int i = 0; i < 4; ++i)
-        buildRow(b, {quarter * static_cast<float>(i), side / 2, -side / 2, side / 2 - 1, eye, 0, &style, height});
+        buildRow(b,
+                 {kQuarterTurnRad * static_cast<float>(i), side / 2, -side / 2, side / 2 - 1, eye, 0, &style, height});
     auto stage = b.finish();
     if (stage) stage->lowestPitchDeg = 8, stage->highestPitchDeg = 16;
     return stage;

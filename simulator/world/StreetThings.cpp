@@ -100,7 +100,7 @@ void addCar(Builder& b, const cv::Vec3f& foot, float turn) {
 void addFountain(Builder& b, const cv::Vec3f& foot, float radius) {
     constexpr int sides = 28;
     constexpr float rim = 0.3F;
-    const auto stone = b.material<Solid>(synthesis::materials::stone, *b.noise, Solid::Finish{0.6F, 0, 0.05F});
+    const auto stone = b.material<Solid>(synthesis::materials::kStone, *b.noise, Solid::Finish{0.6F, 0, 0.05F});
     const auto water = b.material<Water>(*b.noise);
     const float height = b.random.between(0.4F, 0.6F);
     const auto at = [&](int side, float reach, float up) {
@@ -134,7 +134,7 @@ void addLamp(Builder& b, const cv::Vec3f& foot) {
                                         Solid::Finish{0.3F, 0.02F, 0.05F});
     const auto shade =
         b.lampsLit > 0 ? b.material<Glow>(b.lampsLit)
-                       : b.material<Solid>(synthesis::materials::whitePaint, *b.noise, Solid::Finish{0.2F, 0.06F, 0});
+                       : b.material<Solid>(synthesis::materials::kWhitePaint, *b.noise, Solid::Finish{0.2F, 0.06F, 0});
     const float height = b.random.between(3.2F, 4.6F);
     addPost(b.mesh, {foot, 0.5F, 0.11F, 0.08F, 10}, iron);
     addPost(b.mesh, {foot, height, 0.06F, 0.04F, 10}, iron);
@@ -146,7 +146,7 @@ void addSign(Builder& b, const cv::Vec3f& foot, float turn) {
     const Frame sign(foot, turn);
     const float height = b.random.between(0.5F, 0.9F), width = height * b.random.between(1.4F, 3.2F);
     const auto board = b.material<Sign>(static_cast<std::uint32_t>(b.random.bits()), height);
-    const auto metal = b.material<Solid>(synthesis::materials::metal, *b.noise, Solid::Finish{});
+    const auto metal = b.material<Solid>(synthesis::materials::kMetal, *b.noise, Solid::Finish{});
     const float from = b.random.between(0.7F, 1.7F);
     addQuad(b.mesh, {sign.at(-width / 2, from, -0.03F), sign.x * width, cv::Vec3f(0, -height, 0)}, board);
     addBox(b.mesh, {sign.at(0, from - 0.03F, 0.02F), {width + 0.06F, height + 0.06F, 0.06F}, turn}, metal);
@@ -157,7 +157,7 @@ void addSign(Builder& b, const cv::Vec3f& foot, float turn) {
 void addFurniture(Builder& b, const cv::Vec3f& foot, float turn) {
     const Frame thing(foot, turn);
     if (b.random.chance(0.5)) {
-        const auto wood = b.material<Solid>(synthesis::materials::wood, *b.noise, Solid::Finish{0.3F, 0, 0.04F});
+        const auto wood = b.material<Solid>(synthesis::materials::kWood, *b.noise, Solid::Finish{0.3F, 0, 0.04F});
         for (int slat = 0; slat < 4; ++slat) {
             const float k = static_cast<float>(slat);
             addBox(b.mesh, {thing.at(0, 0.43F, -0.2F + 0.13F * k), {1.7F, 0.03F, 0.1F}, turn}, wood);
@@ -167,8 +167,8 @@ void addFurniture(Builder& b, const cv::Vec3f& foot, float turn) {
             addBox(b.mesh, {thing.at(s, 0, 0.05F), {0.06F, 0.43F, 0.45F}, turn}, wood);
         return;
     }
-    const auto tub = b.material<Solid>(synthesis::materials::concrete, *b.noise, Solid::Finish{0.5F, 0, 0.06F});
-    const auto leaf = b.material<Leaf>(synthesis::materials::leaf.reflectance);
+    const auto tub = b.material<Solid>(synthesis::materials::kConcrete, *b.noise, Solid::Finish{0.5F, 0, 0.06F});
+    const auto leaf = b.material<Leaf>(synthesis::materials::kLeaf.reflectance);
     addBox(b.mesh, {foot, {0.9F, 0.55F, 0.9F}, turn}, tub);
     addBush(b.mesh, foot + cv::Vec3f(0, -0.5F, 0), {0.55F, 0.5F, 0.55F}, 900, 0.11F, leaf, b.random);
 }

@@ -19,7 +19,7 @@ void Sway::plant(std::size_t first, const cv::Vec3f& foot, float height, float t
 cv::Vec3f Sway::positionAt(std::size_t vertex, int step) const {
     constexpr float turn = 6.2831853F;
     const Vertex& v = mesh.vertices[vertex];
-    const float phase = static_cast<float>(step % steps) / steps;
+    const float phase = static_cast<float>(step % kSteps) / kSteps;
     // Gusts run along x; every leaf flutters independently.
     const float gust = 0.05F * v.position[0] + 0.02F * v.position[2];
     const int leaf = static_cast<int>(v.texture[0]);

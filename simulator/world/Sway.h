@@ -6,8 +6,8 @@ namespace fieldcal::world {
 
 /// Periodic motion in the wind.
 struct Sway {
-    static constexpr float periodSeconds = 6;
-    static constexpr int steps = 12;  ///< number of steps, between which everything moves along straight lines
+    static constexpr float kPeriodSeconds = 6;
+    static constexpr int kSteps = 12;  ///< number of steps, between which everything moves along straight lines
 
     Mesh mesh;
     std::vector<float> give;  ///< for each vertex the approximate amplitude in metres
@@ -22,7 +22,7 @@ struct Sway {
 
 /// Returns the elapsed share of the period, 0 … 1.
 inline float swayPhase(float seconds) {
-    const float turns = seconds / Sway::periodSeconds;
+    const float turns = seconds / Sway::kPeriodSeconds;
     return turns - std::floor(turns);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "simulator/synthesis/Rig.h"
-#include "simulator/world/Picture.h"
+#include "simulator/world/RenderedImage.h"
 
 namespace fieldcal::world {
 

@@ -9,10 +9,10 @@ using synthesis::Spectrum;
 
 namespace {
 
-constexpr float stillSpread = 1.0F / 1700;  // radians between the samples of a still
+constexpr float kStillSpreadRad = 1.0F / 1700;  // radians between the samples of a still
 
 /// Offset of secondary rays from the surface, so that they do not hit it again.
-float liftOff(float distance) {
+float rayOffset(float distance) {
     return 5e-4F + 2e-5F * distance;
 }
 
@@ -44,7 +44,7 @@ World::~World() = default;
 
 unsigned World::hidden(Rays rays) const {
     for (int i = 0; i < rays.count; ++i) {
-        const float margin = 4 * liftOff(rays.length[i]);
+        const float margin = 4 * rayOffset(rays.length[i]);
         rays.origin[i] += rays.direction[i] * margin;
         rays.length[i] -= 2 * margin;
     }
@@ -69,13 +69,13 @@ Place World::placeOf(const cv::Vec3f& origin, const cv::Vec3f& direction, const 
 unsigned World::sunlit(const Rays& rays, const Shading* shadings) const {
     Rays toSun;
     toSun.seconds = rays.seconds;
-    std::array<int, Rays::most> owner{};
+    std::array<int, Rays::kCount> owner{};
     for (int i = 0; i < rays.count; ++i) {
         const Shading& s = shadings[i];
         if (s.isSky() || s.look.surface.sunlight <= 0 || (s.facing <= 0 && s.look.through <= 0)) continue;
         const cv::Vec3f side = s.place.normal.dot(daylight_.light.toSun) < 0 ? -s.place.normal : s.place.normal;
         owner[toSun.count] = i;
-        toSun.add(s.place.point + side * liftOff(s.hit.distance), daylight_.light.toSun);
+        toSun.add(s.place.point + side * rayOffset(s.hit.distance), daylight_.light.toSun);
     }
     const unsigned shadowed = caster_.hidden(toSun);
     unsigned lit = 0;
@@ -103,19 +103,19 @@ Spectrum World::shaded(const Shading& s, bool sunny) const {
 void World::addMirrored(const Rays& rays, const Shading* shadings, float spread, Sample* samples) const {
     Rays away;
     away.seconds = rays.seconds;
-    std::array<int, Rays::most> owner{};
-    std::array<float, Rays::most> share{};
+    std::array<int, Rays::kCount> owner{};
+    std::array<float, Rays::kCount> share{};
     for (int i = 0; i < rays.count; ++i) {
         const Shading& s = shadings[i];
         if (s.isSky() || s.look.mirror <= 0) continue;
         const float cosine = std::clamp(-s.normal.dot(rays.direction[i]), 0.0F, 1.0F);
         owner[away.count] = i;
         share[away.count] = s.look.mirror + (1 - s.look.mirror) * std::pow(1 - cosine, 5.0F);
-        away.add(s.place.point + s.place.normal * liftOff(s.hit.distance),
+        away.add(s.place.point + s.place.normal * rayOffset(s.hit.distance),
                  unit(rays.direction[i] + s.normal * (2 * cosine)));
     }
     if (away.count == 0) return;
-    std::array<Sample, Rays::most> mirrored;
+    std::array<Sample, Rays::kCount> mirrored;
     traced(away, spread, false, mirrored.data());
     for (int k = 0; k < away.count; ++k) {
         Sample& sample = samples[owner[k]];
@@ -126,8 +126,8 @@ void World::addMirrored(const Rays& rays, const Shading* shadings, float spread,
 }
 
 void World::traced(const Rays& rays, float spread, bool mirrors, Sample* samples) const {
-    std::array<Hit, Rays::most> hits;
-    std::array<Shading, Rays::most> shadings;
+    std::array<Hit, Rays::kCount> hits;
+    std::array<Shading, Rays::kCount> shadings;
     caster_.cast(rays, hits.data());
     for (int i = 0; i < rays.count; ++i) {
         Shading& s = shadings[i];
@@ -168,7 +168,7 @@ Sample World::trace(const cv::Vec3f& origin, const cv::Vec3f& direction) const {
     Rays rays;
     rays.add(origin, direction);
     Sample sample;
-    trace(rays, stillSpread, &sample);
+    trace(rays, kStillSpreadRad, &sample);
     return sample;
 }
 

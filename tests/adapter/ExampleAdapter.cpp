@@ -46,7 +46,7 @@ int resultOf(std::int32_t status) {
 struct Device {
     void* camera = dcNew();
     DcPlan plan{};
-    std::array<kxadapter::PackedPicture, 4> pictures;
+    std::array<kxadapter::PackedImage, 4> pictures;
     std::array<double, 9> rearRectification{};
     ExampleBlock block;
 };

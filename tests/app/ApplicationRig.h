@@ -70,7 +70,7 @@ protected:
         return texts;
     }
     void forget() { manager->window()->setProperty("calls", QVariantList()); }
-    bool wasTold(const std::string& call) const {
+    bool wasCalled(const std::string& call) const {
         const std::vector<std::string> all = calls();
         return std::find(all.begin(), all.end(), call) != all.end();
     }
@@ -86,7 +86,7 @@ protected:
     }
     /// Waits for a call, and discards all calls up to it.
     bool waitFor(const std::string& call) {
-        if (!waitUntil([&] { return wasTold(call); })) return false;
+        if (!waitUntil([&] { return wasCalled(call); })) return false;
         forget();
         return true;
     }

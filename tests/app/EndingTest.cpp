@@ -54,7 +54,7 @@ protected:
         QTest::qWait(30);
     }
     /// From the light check on, until before the end.
-    static std::vector<bool> awakeUpTo(State state) {
+    static std::vector<bool> keepAwakeRequestsUpTo(State state) {
         return state < State::DetectingLighting ? std::vector<bool>() : std::vector<bool>{true, false};
     }
     static std::vector<State> statesToLeave() {
@@ -137,9 +137,9 @@ TEST_F(EndingTest, TheConfirmationSaysWhatWasReadBackAndStaysUntilItIsTouched) {
     const auto facts =
         std::find_if(all.begin(), all.end(), [](const std::string& call) { return call.rfind("storedFacts", 0) == 0; });
     ASSERT_NE(facts, all.end());
-    double told = 0;
-    ASSERT_EQ(std::sscanf(facts->c_str(), "storedFacts|First Color Camera: read back, %lf", &told), 1) << *facts;
-    EXPECT_NEAR(told, turnDeg, 0.02);
+    double reportedDeg = 0;
+    ASSERT_EQ(std::sscanf(facts->c_str(), "storedFacts|First Color Camera: read back, %lf", &reportedDeg), 1) << *facts;
+    EXPECT_NEAR(reportedDeg, turnDeg, 0.02);
 }
 
 TEST_F(EndingTest, AFailedSaveEndsQuietlyAndIsSaidAtTheNextStart) {
@@ -154,7 +154,7 @@ TEST_F(EndingTest, AFailedSaveEndsQuietlyAndIsSaidAtTheNextStart) {
     EXPECT_EQ(manager->exitCode(), 0);
 
     start();
-    ASSERT_TRUE(waitUntil([&] { return wasTold("state|1"); }));
+    ASSERT_TRUE(waitUntil([&] { return wasCalled("state|1"); }));
     EXPECT_THAT(calls(), Contains("lastSaveFailed|The last calibration was not stored in the camera.\nPlease calibrate "
                                   "again."));
 }
@@ -178,7 +178,7 @@ TEST_F(EndingTest, EveryStateIsLeftWithinASecondAndWithoutAWrite) {
             const auto leave = [&] { closedBySystem ? (void)manager->window()->close() : press("userAskedToExit"); };
             EXPECT_LT(runUntilEnd(leave), 1000) << static_cast<int>(state);
             EXPECT_EQ(manager->exitCode(), 0);
-            EXPECT_EQ(awake, awakeUpTo(state)) << static_cast<int>(state);
+            EXPECT_EQ(awake, keepAwakeRequestsUpTo(state)) << static_cast<int>(state);
             QElapsedTimer timer;
             timer.start();
             manager.reset();
@@ -200,7 +200,7 @@ TEST_F(EndingTest, EveryStateIsLeftWithinASecondAndWithoutAWrite) {
         QMetaObject::invokeMethod(manager.get(), "aboutToQuit", Qt::DirectConnection);
         EXPECT_LT(timer.elapsed(), 1000) << static_cast<int>(state);
         EXPECT_EQ(control.startType, 2U) << "the camera is handed back";
-        EXPECT_EQ(awake, awakeUpTo(state)) << static_cast<int>(state);
+        EXPECT_EQ(awake, keepAwakeRequestsUpTo(state)) << static_cast<int>(state);
     }
     EXPECT_FALSE(QDir(dataFolder() + "/backups").exists());
 }
@@ -217,7 +217,7 @@ TEST_F(EndingTest, AnErrorOfTheLibraryShowsOneBoxAndEndsWithOneInEveryState) {
         EXPECT_THAT(boxes, ElementsAre("KXAPI ERROR: The camera is gone."));
         EXPECT_EQ(manager->exitCode(), 1);
         EXPECT_EQ(control.startType, 2U);
-        EXPECT_EQ(awake, awakeUpTo(state)) << static_cast<int>(state);
+        EXPECT_EQ(awake, keepAwakeRequestsUpTo(state)) << static_cast<int>(state);
     }
     start("grab:40:7");
     runUntilEnd([] {});

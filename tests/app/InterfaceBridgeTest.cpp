@@ -67,9 +67,9 @@ TEST_F(InterfaceBridgeTest, LightAndCaptureAreToldAsTheyAreMeasured) {
         {131, {"light|1.000", "lightContinue|true|Continue", kLit}},   {111, {}},
         {110, {"light|0.923", "lightContinue|false|Continue", kDark}},
     };
-    for (const auto& [brightness, told] : table) {
+    for (const auto& [brightness, expected] : table) {
         manager->bridge().lightMeasured(gate.detect(static_cast<std::uint16_t>(brightness)));
-        EXPECT_EQ(calls(), told) << brightness;
+        EXPECT_EQ(calls(), expected) << brightness;
         forget();
     }
     manager->bridge().returnToWellLitArea(true);
@@ -90,7 +90,7 @@ TEST_F(InterfaceBridgeTest, WhatTheLoopTellsArrivesInItsOrder) {
         bridge.stateChanged(State::WaitingToCalibrate);
     }).join();
     EXPECT_THAT(calls(), ElementsAre()) << "nobody waits for the interface";
-    ASSERT_TRUE(waitUntil([&] { return wasTold("state|5"); }));
+    ASSERT_TRUE(waitUntil([&] { return wasCalled("state|5"); }));
     EXPECT_THAT(calls(), ElementsAre("flash", "progress|0.9", "startText|again", "movement|", "howToMove",
                                      "popup|false", "state|5"));
 }
@@ -110,8 +110,8 @@ TEST_F(InterfaceBridgeTest, EachCameraSwitchNamesItsCamera) {
     EXPECT_EQ(manager->workflow().camera(), ColourCamera::Platform);
 
     start("platformCamera:1:0");
-    ASSERT_TRUE(waitUntil([&] { return wasTold("state|1"); }));
-    EXPECT_TRUE(wasTold("singleCamera"));
+    ASSERT_TRUE(waitUntil([&] { return wasCalled("state|1"); }));
+    EXPECT_TRUE(wasCalled("singleCamera"));
     forget();
     press("switchToIMColorSensor");
     EXPECT_THAT(calls(), ElementsAre("camera|Color Camera", "progress|0.0",
@@ -120,12 +120,12 @@ TEST_F(InterfaceBridgeTest, EachCameraSwitchNamesItsCamera) {
 }
 
 TEST_F(InterfaceBridgeTest, WhatIsMissingIsShownAndLeftAsUsual) {
-    for (const auto& [faults, told] : {std::pair{"openDevice:1:5", "missingDevice"},
-                                       {"thirdCamera:1:0", "missingDevice"},
-                                       {"openCamera:1:0", "missingPlatformCamera"},
-                                       {"setFocus:1:1", "platformCameraIssue"}}) {
+    for (const auto& [faults, expected] : {std::pair{"openDevice:1:5", "missingDevice"},
+                                           {"thirdCamera:1:0", "missingDevice"},
+                                           {"openCamera:1:0", "missingPlatformCamera"},
+                                           {"setFocus:1:1", "platformCameraIssue"}}) {
         start(faults);
-        ASSERT_TRUE(waitUntil([&, text = told] { return wasTold(text); })) << faults;
+        ASSERT_TRUE(waitUntil([&, text = expected] { return wasCalled(text); })) << faults;
         EXPECT_THAT(boxes, ElementsAre()) << faults;
         EXPECT_EQ(manager->workflow().state(), State::FirstOpened);
         EXPECT_LT(runUntilEnd([this] { press("userAskedToExit"); }), 1000);
@@ -141,7 +141,7 @@ TEST_F(InterfaceBridgeTest, SoundsAreHeardUntilTheyAreSwitchedOffWhichIsRemember
         QMetaObject::invokeMethod(manager->window(), "soundSwitched", Q_ARG(bool, on));
     };
     start("openDevice:1:5");
-    EXPECT_TRUE(wasTold("soundSwitch|true"));
+    EXPECT_TRUE(wasCalled("soundSwitch|true"));
     for (const char* cue : {"photo", "lightLost", "found", "failed", "stored"})
         sound(cue);
     EXPECT_THAT(cues, ElementsAre(Cue::Photo, Cue::LightLost, Cue::Found, Cue::Failed, Cue::Stored));
@@ -150,12 +150,12 @@ TEST_F(InterfaceBridgeTest, SoundsAreHeardUntilTheyAreSwitchedOffWhichIsRemember
     EXPECT_EQ(cues.size(), 5U);
 
     start("openDevice:1:5");
-    EXPECT_TRUE(wasTold("soundSwitch|false"));
+    EXPECT_TRUE(wasCalled("soundSwitch|false"));
     sound("photo");
     EXPECT_THAT(cues, ElementsAre());
     switchSound(true);
     start("openDevice:1:5");
-    EXPECT_TRUE(wasTold("soundSwitch|true"));
+    EXPECT_TRUE(wasCalled("soundSwitch|true"));
 }
 
 TEST_F(InterfaceBridgeTest, AnArabicInterfaceReadsFromTheRightAndSpeaksArabic) {

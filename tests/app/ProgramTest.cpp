@@ -57,10 +57,10 @@ TEST(SingleInstanceTest, ALockThatAnotherProgramHoldsIsReported) {
     second.setProcessEnvironment(environment);
     second.setProcessChannelMode(QProcess::MergedChannels);
     second.start(FIELDCAL_PROGRAM, QStringList());
-    QByteArray told;
-    while (!told.contains("uses the name of this program's lock") && second.waitForReadyRead(10000))
-        told += second.readAll();
-    EXPECT_TRUE(told.contains("uses the name of this program's lock")) << told.toStdString();
+    QByteArray output;
+    while (!output.contains("uses the name of this program's lock") && second.waitForReadyRead(10000))
+        output += second.readAll();
+    EXPECT_TRUE(output.contains("uses the name of this program's lock")) << output.toStdString();
     EXPECT_FALSE(second.waitForFinished(500)) << "a message is shown";
     second.kill();
     second.waitForFinished();

@@ -73,7 +73,7 @@ TEST_F(UpdateTest, TheInstallerIsStartedAndTheProgramEnds) {
     runUntilEnd([this] { press("startDownloadingUpdate"); });
     EXPECT_EQ(starter->started.size(), 100000);
     EXPECT_THAT(calls(), Contains("updateProgress|100000|100000"));
-    EXPECT_TRUE(wasTold("updateStarting"));
+    EXPECT_TRUE(wasCalled("updateStarting"));
     EXPECT_TRUE(LogCapture::has("slot_userAskedToExit - cleaning up resources"));
     EXPECT_EQ(manager->exitCode(), 0);
     EXPECT_EQ(control.startType, 2U) << "the camera is handed back";
@@ -88,7 +88,7 @@ TEST_F(UpdateTest, LeavingOrGivingUpRemovesWhatThereIs) {
         for (const char* end : {"abortDownloadingUpdate", way}) {
             forget();
             press("startDownloadingUpdate");
-            ASSERT_TRUE(waitUntil([&] { return wasTold("updateProgress|100000|200000"); }));
+            ASSERT_TRUE(waitUntil([&] { return wasCalled("updateProgress|100000|200000"); }));
             EXPECT_EQ(onDisk().size(), 1);
             manager->window()->setProperty("latest", QVariantMap());
             if (end == way) {

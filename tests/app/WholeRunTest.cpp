@@ -113,7 +113,7 @@ protected:
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         return condition();
     }
-    bool comesToSee(const char* item) {
+    bool waitForItem(const char* item) {
         return comes([&] { return find(item)->isVisible(); });
     }
     void pressReturn() { QTest::keyClick(manager->window(), Qt::Key_Return); }
@@ -140,9 +140,9 @@ protected:
 TEST_F(WholeRunTest, TheInterfaceAnswersWhilePhotosAreWorkedOnAndTwoCamerasAreStored) {
     startInWindow();
     const auto begin = Clock::now();
-    ASSERT_TRUE(comesToSee("introContinueButton"));
+    ASSERT_TRUE(waitForItem("introContinueButton"));
     pressReturn();
-    ASSERT_TRUE(comesToSee("lightingContinueButton"));
+    ASSERT_TRUE(waitForItem("lightingContinueButton"));
     pressReturn();
     int photos = 0;
     ASSERT_TRUE(comes([&] {
@@ -152,19 +152,19 @@ TEST_F(WholeRunTest, TheInterfaceAnswersWhilePhotosAreWorkedOnAndTwoCamerasAreSt
     EXPECT_GE(photos, 2);
     EXPECT_TRUE(find("foundProof")->isVisible());
     pressReturn();
-    ASSERT_TRUE(comesToSee("tutorialPage"));
+    ASSERT_TRUE(waitForItem("tutorialPage"));
     QTest::qWait(500);
     pressReturn();
-    ASSERT_TRUE(comesToSee("refinementPage"));
+    ASSERT_TRUE(waitForItem("refinementPage"));
     dragAcross();
     const QObject* overlay = manager->window()->findChild<QObject*>("refinementView");
     ASSERT_TRUE(comes([&] { return overlay->property("correctionDeg").toDouble() > 0.6; })) << "100 of 1280 pixels";
     pressReturn();
-    ASSERT_TRUE(comesToSee("betweenPage"));
+    ASSERT_TRUE(waitForItem("betweenPage"));
     pressReturn();
-    ASSERT_TRUE(comesToSee("foundPage"));
+    ASSERT_TRUE(waitForItem("foundPage"));
     pressReturn();
-    ASSERT_TRUE(comesToSee("refinementPage"));
+    ASSERT_TRUE(waitForItem("refinementPage"));
     const Period wholeRun{begin, Clock::now()};
 
     std::vector<double> lengths, gaps, shares;

@@ -14,7 +14,7 @@ struct FakeRearCamera {
     std::string failing;  ///< the call, as recorded, that fails
     std::vector<std::string> calls;
     RearCameraSink* sink = nullptr;
-    std::int32_t firstPictureMs = 0;
+    std::int32_t firstImageMs = 0;
     std::function<void()> onAwaited = [] {};  ///< called while the first image is awaited
 
     bool call(const std::string& record) {
@@ -27,7 +27,7 @@ struct FakeRearCamera {
         std::vector<std::uint8_t> nv12(static_cast<std::size_t>(width) * 720, luma);
         for (std::int32_t i = 0; i < width * 360; ++i)
             nv12.push_back(i % 2 == 0 ? u : v);
-        sink->onPicture(nv12.data(), width, 720, 0.0);
+        sink->onImage(nv12.data(), width, 720, 0.0);
     }
 };
 
@@ -46,9 +46,9 @@ public:
         return camera_.call(record);
     }
     void setSink(RearCameraSink* sink) override { camera_.sink = sink; }
-    std::int32_t firstPictureMs() const override {
+    std::int32_t firstImageMs() const override {
         camera_.onAwaited();
-        return camera_.firstPictureMs;
+        return camera_.firstImageMs;
     }
 
 private:

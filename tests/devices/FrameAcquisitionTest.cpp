@@ -125,7 +125,7 @@ TEST_F(FrameAcquisitionTest, StreamsThatAreOffOrOddAreSkipped) {
     std::vector<std::uint16_t> right;
     std::swap(device->right, right);
     EXPECT_TRUE(sensor->grab(true));
-    EXPECT_TRUE(sensor->frames().rightInfrared.empty()) << "an old picture is not left for a new one";
+    EXPECT_TRUE(sensor->frames().rightInfrared.empty()) << "an old image is not left for a new one";
     std::swap(device->right, right);
     EXPECT_TRUE(sensor->grab(true));
     EXPECT_EQ(sensor->frames().rightInfrared.byteCount(), std::size_t{628} * 468 * 2);
@@ -151,15 +151,15 @@ TEST_F(FrameAcquisitionTest, PicturesOfDifferentMomentsAreNoPair) {
         return std::pair(sensor->isFreshPair(ColourCamera::Third), sensor->isFreshPair(ColourCamera::Platform));
     };
     EXPECT_EQ(grabbed(true, true, true), std::pair(true, true));
-    EXPECT_EQ(grabbed(true, false, false), std::pair(false, false)) << "every other colour picture is the one before";
+    EXPECT_EQ(grabbed(true, false, false), std::pair(false, false)) << "every other colour image is the one before";
     EXPECT_EQ(grabbed(true, true, false), std::pair(true, false));
     EXPECT_EQ(grabbed(true, false, true), std::pair(false, true));
-    EXPECT_EQ(grabbed(false, true, false), std::pair(false, true)) << "a frozen infrared picture is as bad";
+    EXPECT_EQ(grabbed(false, true, false), std::pair(false, true)) << "a frozen infrared image is as bad";
     EXPECT_EQ(grabbed(true, true, true), std::pair(true, true));
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(grabbed(false, false, false), std::pair(true, true)) << "a still goes on being one";
     rearCamera.deliver(luma, 128, 128);
-    EXPECT_EQ(grabbed(true, true, false), std::pair(true, false)) << "the same picture again";
+    EXPECT_EQ(grabbed(true, true, false), std::pair(true, false)) << "the same image again";
 
     EXPECT_EQ(grabbed(true, true, true), std::pair(true, true));
     std::vector<std::uint16_t> none;
@@ -183,7 +183,7 @@ TEST_F(FrameAcquisitionTest, ASilentStartOfTheRearCameraIsReportedEveryTime) {
     EXPECT_THAT(rearPixel(), IsEmpty());
     device->onGrab = [this] { deliverRed(); };
     EXPECT_TRUE(sensor->grab(true));
-    EXPECT_EQ(emitted.size(), 2U) << "a picture that arrives within the grab is in time";
+    EXPECT_EQ(emitted.size(), 2U) << "an image that arrives within the grab is in time";
     EXPECT_EQ(sensor->frames().colour[ColourCamera::Platform].width(), 640U);
 
     renew();
@@ -195,7 +195,7 @@ TEST_F(FrameAcquisitionTest, ASilentStartOfTheRearCameraIsReportedEveryTime) {
 }
 
 TEST_F(FrameAcquisitionTest, ARearCameraThatTakesTimeToStartIsAwaitedOnce) {
-    rearCamera.firstPictureMs = 60000;
+    rearCamera.firstImageMs = 60000;
     std::thread camera;
     rearCamera.onAwaited = [&] {
         camera = std::thread([this] {
@@ -235,13 +235,13 @@ TEST_F(FrameAcquisitionTest, EachRearPictureIsWorkedOnOnce) {
     EXPECT_THAT(rearPixel(), Each(99)) << "nothing new: the record is not touched, least of all swapped back";
     EXPECT_EQ(sensor->platformNv12(), nullptr);
 
-    sensor->setPlatformPictureWanted(false);
+    sensor->setPlatformImageWanted(false);
     for (int i = 0; i < 9; ++i)
         deliverRed();
     rearCamera.deliver(235, 128, 128);
     grabAfter(milliseconds(2000));
     EXPECT_THAT(rearPixel(), Each(99));
-    sensor->setPlatformPictureWanted(true);
+    sensor->setPlatformImageWanted(true);
     grabAfter(milliseconds(16));
     EXPECT_THAT(rearPixel(), Each(255)) << "the newest of those that came meanwhile";
     EXPECT_EQ(FakeLibrary::rectifyCalls, 2);

@@ -17,8 +17,8 @@ bool push(FrameQueue& queue, std::uint32_t sequence, std::uint8_t value) {
 
 /// Returns the value of the newest image; -1 when there is nothing newer.
 int take(FrameQueue& queue) {
-    QueuedPicture picture;
-    return queue.latest(0, &picture) ? picture.pixels[5] : -1;
+    QueuedImage image;
+    return queue.latest(0, &image) ? image.pixels[5] : -1;
 }
 
 TEST(FrameQueue, DrainsToTheNewestAndDropsTheOldest) {
@@ -55,9 +55,8 @@ TEST(FrameQueue, SequenceNumbersDecideAndWrapAround) {
 TEST(FrameQueue, RefusesWhatIsNoPicture) {
     FrameQueue queue;
     const std::uint8_t byte = 0;
-    for (const QueuedPicture& picture :
-         {QueuedPicture{nullptr, 2, 2}, {&byte, 0, 2}, {&byte, 2, -2}, {&byte, 1 << 20, 2}})
-        EXPECT_FALSE(queue.push(picture));
+    for (const QueuedImage& image : {QueuedImage{nullptr, 2, 2}, {&byte, 0, 2}, {&byte, 2, -2}, {&byte, 1 << 20, 2}})
+        EXPECT_FALSE(queue.push(image));
     EXPECT_EQ(queue.waiting(), 0U);
 }
 
@@ -70,12 +69,12 @@ TEST(FrameQueue, AProducerAndAConsumerAtFullSpeed) {
     });
     std::uint32_t last = 0;
     while (last < kPictures) {
-        QueuedPicture picture;
-        if (!queue.latest(1000, &picture)) break;
-        ASSERT_GT(picture.sequence, last);
-        ASSERT_EQ(std::string(picture.pixels, picture.pixels + 6), std::string(6, static_cast<char>(picture.sequence)))
-            << "a picture is never mixed";
-        last = picture.sequence;
+        QueuedImage image;
+        if (!queue.latest(1000, &image)) break;
+        ASSERT_GT(image.sequence, last);
+        ASSERT_EQ(std::string(image.pixels, image.pixels + 6), std::string(6, static_cast<char>(image.sequence)))
+            << "an image is never mixed";
+        last = image.sequence;
     }
     producer.join();
     EXPECT_EQ(last, kPictures);

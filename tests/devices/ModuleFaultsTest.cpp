@@ -83,12 +83,12 @@ TEST_F(ModuleFaultsTest, EveryCallOfTheReadPathFailsWithOneReportAndACleanEnd) {
             good = good && sensor->grab(true);
         return good;
     };
-    const auto fails = [&](const std::string& operation, const std::string& kind, int told) {
+    const auto fails = [&](const std::string& operation, const std::string& kind, int reportedStatus) {
         SCOPED_TRACE(operation + ' ' + kind);
         EXPECT_FALSE(run(operation + ':' + kind));
         EXPECT_FALSE(sensor->grab(true)) << "nothing more happens";
         close();
-        expectReport(told);
+        expectReport(reportedStatus);
     };
     for (const std::string operation : kFatal) {
         for (const int status : kStatuses)
@@ -184,12 +184,12 @@ protected:
         reopen(QString::fromStdString(fault));
         const bool stored =
             sensor->updateRotation(kTurned, parameters.colour[ColourCamera::Platform].fromDepth.rotation);
-        said = sensor->writeBack();
+        report = sensor->writeBack();
         close();
         firstReports = reports;
         checkFlash();
-        EXPECT_EQ(stored, said.reason.isEmpty());
-        EXPECT_TRUE(!stored || said.flash == Flash::Written);
+        EXPECT_EQ(stored, report.reason.isEmpty());
+        EXPECT_TRUE(!stored || report.flash == Flash::Written);
         EXPECT_EQ(firstReports.size(), stored ? 0U : 1U) << ::testing::PrintToString(firstReports);
         return stored;
     }
@@ -198,36 +198,37 @@ protected:
         const QByteArray found = stored();
         holdsNew = found == turned;
         EXPECT_TRUE(holdsNew || found == factory) << "torn";
-        const bool saysOld = said.flash == Flash::Untouched || said.flash == Flash::Previous;
-        EXPECT_TRUE(said.flash == Flash::Unknown || (said.flash == Flash::Written ? holdsNew : saysOld && !holdsNew));
-        if (said.backupFile.isEmpty()) return;
+        const bool reportsOld = report.flash == Flash::Untouched || report.flash == Flash::Previous;
+        EXPECT_TRUE(report.flash == Flash::Unknown ||
+                    (report.flash == Flash::Written ? holdsNew : reportsOld && !holdsNew));
+        if (report.backupFile.isEmpty()) return;
         ParameterBackup backup;
         QString why;
-        ASSERT_TRUE(readBackup(said.backupFile, &backup, &why)) << why.toStdString();
+        ASSERT_TRUE(readBackup(report.backupFile, &backup, &why)) << why.toStdString();
         EXPECT_TRUE(sensor->restoreParameters(backup.block));
         EXPECT_EQ(this->stored(), factory);
     }
 
     QByteArray factory, turned;
-    WriteBackReport said;
+    WriteBackReport report;
     std::vector<std::string> firstReports;
     bool holdsNew = false;
 };
 
 TEST_F(WriteFaultsTest, EveryCallThatFailsIsReportedOnceAndTheFlashIsKnown) {
-    const auto fails = [this](const std::string& fault, int told) {
+    const auto fails = [this](const std::string& fault, int reportedStatus) {
         SCOPED_TRACE(fault);
         EXPECT_FALSE(tryWriting(fault));
         reports = firstReports;
-        expectReport(told);
+        expectReport(reportedStatus);
     };
     for (const std::string& operation : kWriting) {
         fails(operation + ":6", 6);
-        EXPECT_NE(said.flash, Flash::Unknown) << "one failure; the module can still say what its flash holds";
+        EXPECT_NE(report.flash, Flash::Unknown) << "one failure; the module can still say what its flash holds";
         fails(operation + ":gone", 5);
     }
     fails("commitCalibration:1:done+6", 6);
-    EXPECT_EQ(said.flash, Flash::Written) << "it said no, and stored it";
+    EXPECT_EQ(report.flash, Flash::Written) << "it said no, and stored it";
 }
 
 TEST_F(WriteFaultsTest, PowerThatGoesLeavesTheOldOrTheNewBlock) {
@@ -236,7 +237,7 @@ TEST_F(WriteFaultsTest, PowerThatGoesLeavesTheOldOrTheNewBlock) {
                                        {"commitCalibration:1:gone", false},
                                        {"commitCalibration:1:gone-after", true}}) {
         EXPECT_FALSE(tryWriting(fault)) << fault;
-        EXPECT_EQ(said.flash, Flash::Unknown) << fault;
+        EXPECT_EQ(report.flash, Flash::Unknown) << fault;
         EXPECT_EQ(holdsNew, isNew) << fault;
     }
 }
@@ -248,7 +249,7 @@ TEST_F(WriteFaultsTest, Lies) {
     EXPECT_FALSE(tryWriting("commitCalibration:1:lie"));
     EXPECT_EQ(firstReports, std::vector<std::string>{unstored});
     EXPECT_FALSE(tryWriting("resumeDevice:1:lie")) << "the module goes on with the old rotation";
-    EXPECT_EQ(said.flash, Flash::Previous);
+    EXPECT_EQ(report.flash, Flash::Previous);
 }
 
 TEST_F(WriteFaultsTest, Hangs) {
@@ -283,9 +284,9 @@ TEST_F(WriteFaultsTest, ABlockWithALifeOfItsOwnIsStoredAndRestored) {
 TEST_F(WriteFaultsTest, WhatIsReadAfterResumingCountsWhereItMatters) {
     EXPECT_TRUE(tryWriting("rectParameters:3:garble+2")) << "a byte of the module's own";
     EXPECT_FALSE(tryWriting("rectParameters:3:garble+257")) << "in the third camera's rotation";
-    EXPECT_EQ(said.flash, Flash::Previous) << "put back";
+    EXPECT_EQ(report.flash, Flash::Previous) << "put back";
     EXPECT_FALSE(tryWriting("rectParameters:3:garble+1420")) << "in a matrix";
-    EXPECT_EQ(said.flash, Flash::Previous);
+    EXPECT_EQ(report.flash, Flash::Previous);
     EXPECT_FALSE(tryWriting("rectParameters:3:6,rectParameters:4:6")) << "it could not be read";
 }
 
@@ -302,7 +303,7 @@ constexpr const char* kNonsense = "writeRectParameters:1:garble+1275";
 
 TEST_F(WriteFaultsTest, ABlockThatArrivedWrongIsPutBackBeforeItIsLoaded) {
     EXPECT_FALSE(tryWriting(kNonsense));
-    EXPECT_EQ(said.flash, Flash::Previous) << "it was put back while the module rested";
+    EXPECT_EQ(report.flash, Flash::Previous) << "it was put back while the module rested";
 
     // Twice: the module is left with an invalid block and reports it at the next start. The backup repairs it.
     QFile::remove(flashFile);

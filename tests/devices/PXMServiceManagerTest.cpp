@@ -177,10 +177,10 @@ TEST_F(PXMServiceManagerTest, WhatADeadRunLeftDisabledIsPutBack) {
     };
     for (const std::uint32_t own : {2U, 3U}) {
         control.startType = own;
-        PXMServiceManager dead(control, serviceNoteInFile(note));
-        ASSERT_TRUE(dead.shutdownPXMService());
+        PXMServiceManager interrupted(control, serviceNoteInFile(note));
+        ASSERT_TRUE(interrupted.shutdownPXMService());
         control.fail("changeConfig", 1, 5);
-        EXPECT_FALSE(dead.restorePXMService());
+        EXPECT_FALSE(interrupted.restorePXMService());
         ASSERT_EQ(control.startType, 4U);
         EXPECT_TRUE(QFile::exists(note));
 
@@ -218,17 +218,17 @@ TEST_F(PXMServiceManagerTest, ANoteStaysOnlyWhenTheServiceIsDisabled) {
     EXPECT_FALSE(QFile::exists(note)) << "nothing was disabled";
 
     FakeServiceControl left;
-    PXMServiceManager dead(left, serviceNoteInFile(note));
-    ASSERT_TRUE(dead.shutdownPXMService());
+    PXMServiceManager interrupted(left, serviceNoteInFile(note));
+    ASSERT_TRUE(interrupted.shutdownPXMService());
     left.fail("changeConfig", 1, 5);
     EXPECT_FALSE(PXMServiceManager(left, serviceNoteInFile(note)).shutdownPXMService());
     EXPECT_TRUE(QFile::exists(note)) << "an earlier run's, and the service is still disabled";
 
     FakeServiceControl untouched;
-    PXMServiceManager noteless(untouched, serviceNoteInFile(note + "/there/is/a/file/above"));
-    EXPECT_FALSE(noteless.shutdownPXMService());
+    PXMServiceManager withoutNote(untouched, serviceNoteInFile(note + "/there/is/a/file/above"));
+    EXPECT_FALSE(withoutNote.shutdownPXMService());
     EXPECT_EQ(untouched.startType, 2U) << "nobody could put it back after a crash";
-    EXPECT_TRUE(noteless.lastError().contains("start-type")) << noteless.lastError().toStdString();
+    EXPECT_TRUE(withoutNote.lastError().contains("start-type")) << withoutNote.lastError().toStdString();
 }
 
 }  // namespace

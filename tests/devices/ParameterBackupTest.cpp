@@ -69,20 +69,20 @@ TEST_F(ParameterBackupTest, KeepsEveryBlockUnderANameOfItsOwn) {
 TEST_F(ParameterBackupTest, WhatMakesNoSenseIsNamed) {
     QString path;
     ASSERT_TRUE(keepBackup(folder.path(), sample(), &path, &why));
-    const QByteArray whole = bytesOf(path);
+    const QByteArray original = bytesOf(path);
     const float infinite = std::numeric_limits<float>::infinity();
     const auto changed = [&](int at, const QByteArray& to) {
-        return rehashed(QByteArray(whole).replace(at, to.size(), to));
+        return rehashed(QByteArray(original).replace(at, to.size(), to));
     };
     const struct {
         QByteArray bytes;
         const char* what;
     } cases[] = {{"", "it is no backup"},
-                 {whole.left(9), "version"},
+                 {original.left(9), "version"},
                  {changed(8, QByteArray("\2\0\0\0", 4)), "version"},
-                 {whole.left(2111), "length"},
-                 {whole + 'x', "length"},
-                 {QByteArray(whole).replace(100, 1, "x"), "checksum"},
+                 {original.left(2111), "length"},
+                 {original + 'x', "length"},
+                 {QByteArray(original).replace(100, 1, "x"), "checksum"},
                  {changed(23, "\x7f"), "date"},
                  {changed(24, "\1"), "block length"},
                  {changed(32 + 1272, QByteArray(4, '\0')), "infrared rectification: not a rotation"},
@@ -98,7 +98,7 @@ TEST_F(ParameterBackupTest, WhatMakesNoSenseIsNamed) {
         EXPECT_TRUE(why.startsWith(folder.filePath("changed") + ": ")) << why.toStdString();
         EXPECT_TRUE(why.contains(c.what)) << why.toStdString();
     }
-    put(whole);
+    put(original);
     ParameterBackup again;
     EXPECT_TRUE(read(&again));
     EXPECT_FALSE(readBackup(folder.path(), &again, &why)) << "a folder";
@@ -107,12 +107,12 @@ TEST_F(ParameterBackupTest, WhatMakesNoSenseIsNamed) {
 TEST_F(ParameterBackupTest, MutatedFilesAreReadOrRefused) {
     QString path;
     ASSERT_TRUE(keepBackup(folder.path(), sample(), &path, &why));
-    const QByteArray whole = bytesOf(path);
+    const QByteArray original = bytesOf(path);
     std::mt19937 random(3);
     const auto below = [&](int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); };
     int accepted = 0;
     for (int i = 0; i < 2000; ++i) {
-        QByteArray bytes = whole;
+        QByteArray bytes = original;
         for (int n = below(3); n >= 0; --n) {
             // Half of the damaged bytes are in the fields with a meaning.
             const int at = below(2) == 0 ? below(bytes.size()) : below(2) == 0 ? below(32) : 32 + 1272 + below(252);

@@ -93,7 +93,7 @@ TEST(Verification, AgreesWithTheSlowOneInOrder) {
                                                   {binary, binary},
                                                   {periodic, periodic},
                                                   {halfFlat, shifted(halfFlat, -1, 0)}};
-    std::size_t keptInAll = 0;
+    std::size_t keptTotal = 0;
     for (const auto& [colour, infrared] : scenes) {
         std::vector<cv::Point2f> colourPoints, infraredPoints, expectedColour, expectedInfrared;
         for (int i = 0; i < 250; ++i) {
@@ -104,14 +104,14 @@ TEST(Verification, AgreesWithTheSlowOneInOrder) {
             expectedColour.push_back(colourPoints.back());
             expectedInfrared.push_back(*expected);
         }
-        keptInAll += expectedColour.size();
+        keptTotal += expectedColour.size();
         verifyMatches(colour, infrared, &colourPoints, &infraredPoints);
         EXPECT_EQ(colourPoints, expectedColour);
         ASSERT_EQ(infraredPoints.size(), expectedInfrared.size());
         for (std::size_t i = 0; i < infraredPoints.size(); ++i)
             EXPECT_LT(cv::norm(infraredPoints[i] - expectedInfrared[i]), 1e-4);
     }
-    EXPECT_GT(keptInAll, 200U);
+    EXPECT_GT(keptTotal, 200U);
 }
 
 /// Verifies a single pair.

@@ -71,7 +71,7 @@ int save(Sensor& sensor, const CameraParameters& parameters, const QString& data
     const WriteBackReport& written = sensor.writeBack();
     report.write = ReportedWrite{result.stored, flashText(written), written.reason, written.backupFile};
     keepReport(data, report);
-    std::printf("%s %s\n", result.stored ? "stored" : "failed", result.told ? "told" : "untold");
+    std::printf("%s %s\n", result.stored ? "stored" : "failed", result.reported ? "reported" : "unreported");
     return result.stored ? 0 : 1;
 }
 

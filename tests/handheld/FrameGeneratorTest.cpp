@@ -27,7 +27,7 @@ synthesis::Rig rig() {
 struct Fingerprint {
     std::vector<std::uint16_t> infrared, right, depth;
     std::vector<std::uint8_t> third;
-    explicit Fingerprint(const session::FramePictures& p)
+    explicit Fingerprint(const session::FrameImages& p)
         : infrared(p.infrared.pixels(), p.infrared.pixels() + p.infrared.byteCount() / 2),
           right(p.right.pixels(), p.right.pixels() + p.right.byteCount() / 2),
           depth(p.depth.pixels(), p.depth.pixels() + p.depth.byteCount() / 2),
@@ -38,8 +38,8 @@ struct Fingerprint {
 };
 
 /// The motion measured by the frame selection: differences of colour images at a quarter of the size.
-double motion(const session::FramePictures& a, const session::FramePictures& b) {
-    const auto quarter = [](const session::FramePictures& p) {
+double motion(const session::FrameImages& a, const session::FrameImages& b) {
+    const auto quarter = [](const session::FrameImages& p) {
         cv::Mat small = cv::Mat(480, 640, CV_8UC4, const_cast<std::uint8_t*>(p.third.bytes())).clone();
         cv::pyrDown(small, small);
         cv::pyrDown(small, small);
@@ -50,7 +50,7 @@ double motion(const session::FramePictures& a, const session::FramePictures& b) 
 
 TEST(FrameGenerator, EqualSeedsGiveEqualFramesWhichRestMoveAndRestAgain) {
     FrameGenerator one("mountains", 3, rig(), light("sun"), false), other("mountains", 3, rig(), light("sun"), false);
-    std::vector<session::FramePictures> last;
+    std::vector<session::FrameImages> last;
     int still = 0, moving = 0, restsAfterMoving = 0;
     for (int i = 0; i < 150; ++i) {
         ASSERT_TRUE(one.advance(60s) && other.advance(60s));
@@ -71,7 +71,7 @@ TEST(FrameGenerator, EqualSeedsGiveEqualFramesWhichRestMoveAndRestAgain) {
 TEST(FrameGenerator, WithTheEmitterOnTheHandStays) {
     FrameGenerator generator("mountains", 3, rig(), light("sun"), false);
     generator.setEmitter(true);
-    std::vector<session::FramePictures> first;
+    std::vector<session::FrameImages> first;
     for (int i = 0; i < 200; ++i) {
         ASSERT_TRUE(generator.advance(60s));
         if (first.empty()) first.push_back(*generator.current());

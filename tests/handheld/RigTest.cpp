@@ -36,16 +36,17 @@ TEST(Rig, DrawnDriftsStayWithinTheSearchRangesAndUseThem) {
 
 TEST(Rig, AWishedDriftIsTakenAsItStandsAndThePlatformChangesNothingElse) {
     const std::array<double, 3> drift{-4.2, 1.6, 2.1};
-    const auto wished = drawRig(5, {true, drift, drift});
+    const auto drifted = drawRig(5, {true, drift, drift});
     const auto plain = drawRig(5, {});
-    const auto factory = anglesDeg(wished.third.rotation), truth = anglesDeg(*wished.truthThird);
-    const auto platformFactory = anglesDeg(wished.platform->rotation), platformTruth = anglesDeg(*wished.truthPlatform);
+    const auto factory = anglesDeg(drifted.third.rotation), truth = anglesDeg(*drifted.truthThird);
+    const auto platformFactory = anglesDeg(drifted.platform->rotation),
+               platformTruth = anglesDeg(*drifted.truthPlatform);
     for (int i = 0; i < 3; ++i) {
         EXPECT_NEAR(truth[i] - factory[i], drift[i], 1e-9);
         EXPECT_NEAR(platformTruth[i] - platformFactory[i], drift[i], 1e-9);
     }
-    EXPECT_EQ(plain.third.rotation, wished.third.rotation);
-    EXPECT_EQ(plain.infrared.fx, wished.infrared.fx);
+    EXPECT_EQ(plain.third.rotation, drifted.third.rotation);
+    EXPECT_EQ(plain.infrared.fx, drifted.infrared.fx);
     EXPECT_FALSE(plain.platform.has_value());
     EXPECT_FALSE(plain.truthPlatform.has_value());
 }
@@ -54,16 +55,16 @@ TEST(Rig, TheRightImagerIsDrawnApartWithinItsLimits) {
     double gain = 0, row = 0, column = 0;
     for (unsigned seed = 0; seed < 300; ++seed) {
         const RightImager right = drawRig(seed, {}).right;
-        EXPECT_TRUE(right.isApart && !right.deceivesDepth);
+        EXPECT_TRUE(right.isApart && !right.affectsDepth);
         gain = std::max(gain, std::abs(right.gain - 1));
         row = std::max(row, std::abs(right.rowOffsetPx));
         column = std::max(column, std::abs(right.columnOffsetPx));
     }
     EXPECT_THAT((std::array<double, 3>{gain / 0.05, row / 0.2, column / 0.05}),
                 testing::Each(testing::AllOf(testing::Gt(0.9), testing::Le(1 + 1e-9))));
-    RigWishes wishes;
-    wishes.misalignmentPx = 0.4;
-    const Rig bent = drawRig(5, wishes), plain = drawRig(5, {});
+    RigOptions options;
+    options.misalignmentPx = 0.4;
+    const Rig bent = drawRig(5, options), plain = drawRig(5, {});
     EXPECT_EQ(bent.right.columnOffsetPx, -0.4);
     EXPECT_EQ(bent.right.gain, plain.right.gain);
     EXPECT_EQ(bent.truthThird, plain.truthThird);

@@ -12,7 +12,7 @@ namespace {
 using ::testing::HasSubstr;
 
 constexpr std::size_t kLargestText = std::size_t{60} << 20;
-constexpr long kMostMemoryKb = 512 << 10;
+constexpr long kMaxMemoryKb = 512 << 10;
 
 std::string repeated(const std::string& part, std::size_t count) {
     std::string out;
@@ -47,7 +47,7 @@ protected:
     void expectRefused(const std::string& frames, const std::string& reason) {
         writeText(frames);
         std::string why;
-        EXPECT_LT(peakKb([&] { EXPECT_FALSE(readDescription(folder, &session, &why)); }), kMostMemoryKb) << reason;
+        EXPECT_LT(peakKb([&] { EXPECT_FALSE(readDescription(folder, &session, &why)); }), kMaxMemoryKb) << reason;
         EXPECT_THAT(why, HasSubstr(reason));
     }
     void writeText(const std::string& frames) {
@@ -61,14 +61,14 @@ TEST_F(HostileRecording, TextsAreReadWithLittleMemoryAndNoFurtherThanTheirFault)
     expectRefused(listOf("{}"), ": more than 1000000 values");
     expectRefused(listOf("0"), ": more than 1000000 values");
     expectRefused(listOf(R"({"a":[0]})"), ": more than 1000000 values");
-    expectRefused('[' + repeated("{},", kMostFrames) + "{}]", "frames: more than 100000 elements");
-    expectRefused('[' + repeated("{},", kMostFrames - 1) + "{}]", "frames[0].infrared: missing");
+    expectRefused('[' + repeated("{},", kMaxFrames) + "{}]", "frames: more than 100000 elements");
+    expectRefused('[' + repeated("{},", kMaxFrames - 1) + "{}]", "frames[0].infrared: missing");
     const std::string name(480, 'n');
-    writeText('[' + repeated(R"({"infrared":")" + name + R"(","third":"t","depth":"d"},)", kMostFrames - 1) +
+    writeText('[' + repeated(R"({"infrared":")" + name + R"(","third":"t","depth":"d"},)", kMaxFrames - 1) +
               R"({"infrared":"i","third":"t"}])");
     std::string why;
-    EXPECT_LT(peakKb([&] { EXPECT_TRUE(readDescription(folder, &session, &why)) << why; }), kMostMemoryKb);
-    EXPECT_EQ(session.frames.size(), kMostFrames);
+    EXPECT_LT(peakKb([&] { EXPECT_TRUE(readDescription(folder, &session, &why)) << why; }), kMaxMemoryKb);
+    EXPECT_EQ(session.frames.size(), kMaxFrames);
 }
 
 TEST_F(HostileRecording, TheLargestPicturesAreReadWithLittleMemory) {
@@ -92,8 +92,8 @@ TEST_F(HostileRecording, TheLargestPicturesAreReadWithLittleMemory) {
         ASSERT_TRUE(grey.save(QString::fromStdString(path(file))));
     ASSERT_TRUE(colour.save(QString::fromStdString(path("a_third.png"))));
     writeFile(path("a_platform.nv12"), QByteArray(1280 * 720 * 3 / 2, '\0'));
-    FramePictures pictures;
-    EXPECT_LT(peakKb([&] { EXPECT_TRUE(readPictures(folder, session, 0, &pictures, &why)) << why; }), kMostMemoryKb);
+    FrameImages images;
+    EXPECT_LT(peakKb([&] { EXPECT_TRUE(readImages(folder, session, 0, &images, &why)) << why; }), kMaxMemoryKb);
 }
 
 }  // namespace

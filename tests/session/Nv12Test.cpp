@@ -36,11 +36,11 @@ TEST(Nv12, GreyKeepsEveryPixelAndHasNoColour) {
 }
 
 TEST(Nv12, ChromaIsTheMeanOfItsFourPixels) {
-    cv::Mat picture(4, 6, CV_8UC4, cv::Scalar(0, 0, 0, 255));
-    picture.at<cv::Vec4b>(2, 4) = {255, 0, 0, 255};
-    picture.at<cv::Vec4b>(3, 5) = {0, 0, 255, 255};
+    cv::Mat image(4, 6, CV_8UC4, cv::Scalar(0, 0, 0, 255));
+    image.at<cv::Vec4b>(2, 4) = {255, 0, 0, 255};
+    image.at<cv::Vec4b>(3, 5) = {0, 0, 255, 255};
     cv::Mat nv12(6, 6, CV_8UC1);
-    nv12FromBgra(picture.data, 6, 4, nv12.data);
+    nv12FromBgra(image.data, 6, 4, nv12.data);
     // Mean blue 63.75, mean red 63.75: U = 128 + (0.439 - 0.148) * 63.75, V = 128 + (0.439 - 0.071) * 63.75.
     EXPECT_EQ(nv12.at<uchar>(5, 4), 147);
     EXPECT_EQ(nv12.at<uchar>(5, 5), 151);

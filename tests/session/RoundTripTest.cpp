@@ -70,10 +70,10 @@ TEST_F(RoundTrip, NumbersKeepTheirLastBit) {
 
 TEST_F(RoundTrip, PicturesAreBitExact) {
     std::string why;
-    FramePictures read;
+    FrameImages read;
     for (std::size_t i = 0; i < 2; ++i) {
-        ASSERT_TRUE(readPictures(folder, session, i, &read, &why)) << why;
-        const FramePictures written = testPictures(session, i == 0);
+        ASSERT_TRUE(readImages(folder, session, i, &read, &why)) << why;
+        const FrameImages written = testImages(session, i == 0);
         EXPECT_EQ(bytesOf(read.infrared), bytesOf(written.infrared));
         EXPECT_EQ(bytesOf(read.third), bytesOf(written.third));
         EXPECT_EQ(bytesOf(read.depth), bytesOf(written.depth));
@@ -88,10 +88,10 @@ TEST_F(RoundTrip, AnAlphaChannelAndAColourProfileChangeNoValue) {
     image.setColorSpace(QColorSpace(QColorSpace::Primaries::AdobeRgb, 1.8F));
     ASSERT_TRUE(image.save(file));
     ASSERT_TRUE(readFile(path("b_third.png")).contains("iCCP"));
-    FramePictures read;
+    FrameImages read;
     std::string why;
-    ASSERT_TRUE(readPictures(folder, session, 1, &read, &why)) << why;
-    EXPECT_EQ(bytesOf(read.third), bytesOf(testPictures(session, false).third));
+    ASSERT_TRUE(readImages(folder, session, 1, &read, &why)) << why;
+    EXPECT_EQ(bytesOf(read.third), bytesOf(testImages(session, false).third));
 }
 
 TEST_F(RoundTrip, WritingRefusesWhatReadingWould) {
@@ -100,10 +100,10 @@ TEST_F(RoundTrip, WritingRefusesWhatReadingWould) {
     EXPECT_FALSE(writeDescription(folder, session, &why));
     EXPECT_THAT(why, ::testing::HasSubstr("session.json: third.fx: "));
     EXPECT_EQ(readFile(path("session.json")).toStdString(), kSessionText);
-    FramePictures pictures = testPictures(session, true);
-    pictures.platform.pop_back();
-    EXPECT_FALSE(writePictures(folder, session.frames[0], pictures, &why));
-    EXPECT_FALSE(writePictures("/proc/nowhere", session.frames[0], testPictures(session, true), &why));
+    FrameImages images = testImages(session, true);
+    images.platform.pop_back();
+    EXPECT_FALSE(writeImages(folder, session.frames[0], images, &why));
+    EXPECT_FALSE(writeImages("/proc/nowhere", session.frames[0], testImages(session, true), &why));
 }
 
 }  // namespace

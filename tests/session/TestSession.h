@@ -43,8 +43,8 @@ inline QByteArray readFile(const std::string& path) {
 
 /// Images that fit `session`, with every pixel different from its neighbours. `complete`: with depth, the right
 /// infrared and the platform camera's image.
-inline FramePictures testPictures(const SessionDescription& session, bool complete) {
-    FramePictures out;
+inline FrameImages testImages(const SessionDescription& session, bool complete) {
+    FrameImages out;
     const auto size = [](ImageFrame* frame, const Intrinsics& camera) {
         frame->resize(static_cast<std::uint32_t>(camera.width), static_cast<std::uint32_t>(camera.height));
     };
@@ -76,7 +76,7 @@ protected:
         std::string why;
         EXPECT_TRUE(readDescription(folder, &session, &why)) << why;
         for (std::size_t i = 0; i < session.frames.size(); ++i) {
-            EXPECT_TRUE(writePictures(folder, session.frames[i], testPictures(session, i == 0), &why)) << why;
+            EXPECT_TRUE(writeImages(folder, session.frames[i], testImages(session, i == 0), &why)) << why;
         }
     }
     std::string path(const std::string& name) const { return folder + "/" + name; }

@@ -30,13 +30,13 @@ Matrix3 rotation(double w, double x, double y, double z) {
 }
 
 /// Returns the extrinsics of a block with the given rotation of the third camera.
-Matrix toldBy(const KXCalibRectParameters& block, const Matrix& third) {
+Matrix reportedRotation(const KXCalibRectParameters& block, const Matrix& third) {
     return widened(block.rectificationThird) * third * widened(block.rectificationInfrared).transpose();
 }
 
 bool isNarrowed(const Matrix3& expected, const float* seen) {
     return std::equal(expected.begin(), expected.end(), seen,
-                      [](double value, float told) { return static_cast<float>(value) == told; });
+                      [](double value, float stored) { return static_cast<float>(value) == stored; });
 }
 
 template <typename Record>
@@ -74,20 +74,20 @@ protected:
 
     /// Nine numbers of the rotation, three of the translation.
     using Extrinsics = std::vector<float>;
-    static Extrinsics numbers(const KXCalibExtrinsics& told) {
-        Extrinsics out(told.rotation, told.rotation + 9);
-        out.insert(out.end(), told.translation, told.translation + 3);
+    static Extrinsics numbers(const KXCalibExtrinsics& extrinsics) {
+        Extrinsics out(extrinsics.rotation, extrinsics.rotation + 9);
+        out.insert(out.end(), extrinsics.translation, extrinsics.translation + 3);
         return out;
     }
     static Extrinsics third(KXDevice* device) {
-        KXCalibExtrinsics told{};
-        EXPECT_TRUE(device->thirdCamera()->zToThirdExtrinsics(&told));
-        return numbers(told);
+        KXCalibExtrinsics extrinsics{};
+        EXPECT_TRUE(device->thirdCamera()->zToThirdExtrinsics(&extrinsics));
+        return numbers(extrinsics);
     }
     static Extrinsics platform(KXDevice* device) {
-        KXCalibExtrinsics told{};
-        EXPECT_TRUE(device->platformCamera()->zToPlatformExtrinsics(&told));
-        return numbers(told);
+        KXCalibExtrinsics extrinsics{};
+        EXPECT_TRUE(device->platformCamera()->zToPlatformExtrinsics(&extrinsics));
+        return numbers(extrinsics);
     }
 
     std::shared_ptr<const KXRotationUpdater> updater;
@@ -112,7 +112,8 @@ TEST_F(BlockTest, ANewOneSaysBitForBitWhatTheRecordingSays) {
         ASSERT_TRUE(isNarrowed(session.platform->rectification, block.rectificationPlatform)) << i;
         Matrix inBlock;
         std::memcpy(inBlock.data(), bytesOf(block).constData() + kThirdRotation, sizeof(Matrix3));
-        ASSERT_TRUE(toldBy(block, inBlock).isApprox(Eigen::Map<Matrix>(session.third.rotation.data()), 1e-7)) << i;
+        ASSERT_TRUE(reportedRotation(block, inBlock).isApprox(Eigen::Map<Matrix>(session.third.rotation.data()), 1e-7))
+            << i;
     }
 }
 
@@ -154,7 +155,8 @@ TEST_F(BlockTest, AWriteCountsAfterItsCommitAndWorksAfterTheRest) {
     EXPECT_EQ(third(device.get()), thirdBefore) << "not loaded yet";
     ASSERT_TRUE(device->resumeDevice() && device->grab(true));
     EXPECT_FALSE(device->resumeDevice()) << "capturing";
-    const Matrix expected = toldBy(next, Eigen::AngleAxisd(0.25, Eigen::Vector3d::UnitZ()).toRotationMatrix());
+    const Matrix expected =
+        reportedRotation(next, Eigen::AngleAxisd(0.25, Eigen::Vector3d::UnitZ()).toRotationMatrix());
     EXPECT_TRUE(widened(third(device.get()).data()).isApprox(expected, 1e-7));
     const Extrinsics thirdAfter = third(device.get());
     EXPECT_TRUE(std::equal(thirdBefore.begin() + 9, thirdBefore.end(), thirdAfter.begin() + 9)) << "the translation";

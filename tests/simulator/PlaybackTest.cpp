@@ -12,8 +12,8 @@
 
 namespace {
 
-using fieldcal::session::FramePictures;
-using fieldcal::session::testPictures;
+using fieldcal::session::FrameImages;
+using fieldcal::session::testImages;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -23,7 +23,7 @@ protected:
         if (delivered == nullptr || expected.empty()) return delivered == nullptr && expected.empty();
         return std::memcmp(delivered, expected.bytes(), expected.byteCount()) == 0;
     }
-    static bool delivers(KXDevice* device, const FramePictures& expected) {
+    static bool delivers(KXDevice* device, const FrameImages& expected) {
         return holds(device->leftImage(), expected.infrared) && holds(device->rightImage(), expected.right) &&
                holds(device->depthImage(), expected.depth) &&
                holds(device->thirdCamera()->thirdImage(), expected.third);
@@ -31,8 +31,8 @@ protected:
 };
 
 TEST_F(Playback, IsBitExactWithRepeatsAndStartsAgain) {
-    const FramePictures first = testPictures(session, true);
-    FramePictures second = testPictures(session, false);
+    const FrameImages first = testImages(session, true);
+    FrameImages second = testImages(session, false);
     second.depth.resize(5, 3);
     std::memset(second.depth.bytes(), 0, second.depth.byteCount());
     const std::shared_ptr<KXDevice> device = createCapturing();
@@ -58,9 +58,9 @@ TEST_F(Playback, AStreamIsDroppedFrozenOrDelayedOnOrder) {
     session.frames[0].repeat = 4;
     session.frames[1].right = "other.png";
     session.frames[1].repeat = 5;
-    FramePictures shown[]{testPictures(session, true), testPictures(session, true), testPictures(session, false)};
+    FrameImages shown[]{testImages(session, true), testImages(session, true), testImages(session, false)};
     shown[1].right.pixels()[7] = 5;
-    ASSERT_TRUE(writeDescription(folder, session, &why) && writePictures(folder, session.frames[1], shown[1], &why));
+    ASSERT_TRUE(writeDescription(folder, session, &why) && writeImages(folder, session.frames[1], shown[1], &why));
     const fieldcal::ImageFrame16 none;
     fieldcal::ImageFrame16 blank = shown[0].right;
     std::fill_n(blank.pixels(), blank.byteCount() / 2, std::uint16_t{400});
@@ -148,9 +148,9 @@ TEST_F(Playback, BadSessionsAndSettingsAreRefusedInOneLine) {
 }
 
 TEST_F(Playback, APictureThatTurnsOutBadEndsItsGrab) {
-    FramePictures bad = testPictures(session, false);
+    FrameImages bad = testImages(session, false);
     bad.infrared.pixels()[3] = 2000;
-    ASSERT_TRUE(writePictures(folder, session.frames[1], bad, &why)) << why;
+    ASSERT_TRUE(writeImages(folder, session.frames[1], bad, &why)) << why;
     const std::shared_ptr<KXDevice> device = createCapturing();
     for (int i = 0; i < 26; ++i)
         ASSERT_TRUE(device->grab(true));
@@ -158,7 +158,7 @@ TEST_F(Playback, APictureThatTurnsOutBadEndsItsGrab) {
     EXPECT_FALSE(device->grab(true));
     EXPECT_THAT(::testing::internal::GetCapturedStderr(), HasSubstr("frames[1].infrared: infrared value 2000"));
     EXPECT_EQ(device->lastStatus(), 6);
-    EXPECT_TRUE(delivers(device.get(), testPictures(session, true))) << "the last frame stays";
+    EXPECT_TRUE(delivers(device.get(), testImages(session, true))) << "the last frame stays";
 }
 
 TEST_F(Playback, WhatReadingAcceptsIsPlayedHoweverOddItIs) {
@@ -217,10 +217,10 @@ TEST(Loader, AnAdapterBesideTheProgramComesFirst) {
     const std::string name = "AdapterProbe" + std::to_string(getpid());
     const QString adapter = folder + "/lib" + QString::fromStdString(name) + "Adapter.so";
     std::string why;
-    EXPECT_EQ(kxapi::openSharedLibrary(name.c_str(), &why), nullptr);
+    EXPECT_EQ(kxapi::openSharedLibrary(name.c_str(), kxapi::LibrarySearch::Installed, &why), nullptr);
     EXPECT_THAT(why, Not(HasSubstr("Adapter.so")));
     fieldcal::session::writeFile(adapter.toStdString(), "broken");
-    EXPECT_EQ(kxapi::openSharedLibrary(name.c_str(), &why), nullptr);
+    EXPECT_EQ(kxapi::openSharedLibrary(name.c_str(), kxapi::LibrarySearch::Installed, &why), nullptr);
     EXPECT_THAT(why, HasSubstr(adapter.toStdString())) << "and a broken one is named";
     QFile::remove(adapter);
 }

@@ -6,11 +6,11 @@ namespace {
 
 class Sink : public RearCameraSink {
 public:
-    void onPicture(const std::uint8_t* nv12, std::int32_t width, std::int32_t height, double timeSeconds) override {
-        picture.assign(nv12, nv12 + width * height * 3 / 2);
+    void onImage(const std::uint8_t* nv12, std::int32_t width, std::int32_t height, double timeSeconds) override {
+        image.assign(nv12, nv12 + width * height * 3 / 2);
         times.push_back(timeSeconds);
     }
-    std::vector<std::uint8_t> picture;
+    std::vector<std::uint8_t> image;
     std::vector<double> times;
 };
 
@@ -28,7 +28,7 @@ TEST_F(RearCamera, ShowsTheRecordingsPicturesInsideGrabAtHalfTheRate) {
     rear->setSink(&sink);
     const std::shared_ptr<KXDevice> device = createCapturing();
     ASSERT_TRUE(device->grab(true));
-    EXPECT_EQ(sink.picture, fieldcal::session::testPictures(session, true).platform);
+    EXPECT_EQ(sink.image, fieldcal::session::testImages(session, true).platform);
     for (int i = 1; i < 26; ++i)
         ASSERT_TRUE(device->grab(true));
     EXPECT_EQ(sink.times.size(), 13U);

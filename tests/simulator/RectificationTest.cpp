@@ -29,7 +29,7 @@ Rotation rotation(double ax, double ay, double az) {
             cy * cx};
 }
 
-struct Picture {
+struct Image {
     int width, height;
     std::vector<std::uint8_t> bgra;
 
@@ -37,8 +37,8 @@ struct Picture {
 };
 
 /// A smooth image, different in every channel, alpha 255.
-Picture smoothPicture(int width, int height) {
-    Picture out{width, height, {}};
+Image smoothImage(int width, int height) {
+    Image out{width, height, {}};
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             for (int c = 0; c < 3; ++c) {
@@ -55,11 +55,11 @@ class Rectification : public ::testing::Test {
 protected:
     void SetUp() override { ASSERT_NE(library, nullptr) << why; }
 
-    Picture rectified(const Picture& source, const KXCalibIntrinsicsNonRectified& raw, const Rotation& r,
-                      const KXCalibIntrinsicsRectified& rect) const {
+    Image rectified(const Image& source, const KXCalibIntrinsicsNonRectified& raw, const Rotation& r,
+                    const KXCalibIntrinsicsRectified& rect) const {
         std::vector<std::uint32_t> table(source.bgra.size() / 4);
         library->rectificationTable(&raw, r.data(), &rect, table.data());
-        Picture out{source.width, source.height, std::vector<std::uint8_t>(source.bgra.size(), 77)};
+        Image out{source.width, source.height, std::vector<std::uint8_t>(source.bgra.size(), 77)};
         library->rectifyBGRA8ToBGRA8(table.data(), source.bgra.data(), source.width, source.width, source.height,
                                      out.bgra.data());
         return out;
@@ -86,7 +86,7 @@ std::array<double, 2> rawPoint(const KXCalibIntrinsicsNonRectified& k, const Rot
     return {k.fx * xd + k.cx, k.fy * yd + k.cy};
 }
 
-double bilinear(const Picture& p, double x, double y, int c) {
+double bilinear(const Image& p, double x, double y, int c) {
     const int ix = std::min(static_cast<int>(x), p.width - 2), iy = std::min(static_cast<int>(y), p.height - 2);
     const double fx = x - ix, fy = y - iy;
     return (1 - fy) * ((1 - fx) * p.at(ix, iy, c) + fx * p.at(ix + 1, iy, c)) +
@@ -98,8 +98,8 @@ TEST_F(Rectification, AgreesWithASlowReference) {
                                             0.06F,  -0.09F, -0.004F, 0.006F, 0.02F};
     const KXCalibIntrinsicsRectified rect{928, 931, 640, 360, 1280, 720};
     const Rotation r = rotation(1.5, -2, 3);
-    const Picture source = smoothPicture(1280, 720);
-    const Picture out = rectified(source, raw, r, rect);
+    const Image source = smoothImage(1280, 720);
+    const Image out = rectified(source, raw, r, rect);
     int inside = 0;
     for (int v = 0; v < 720; ++v) {
         for (int u = 0; u < 1280; ++u) {
@@ -123,12 +123,12 @@ TEST_F(Rectification, ShiftsNothingOnAverage) {
     // Steep ramps reveal the position; biased rounding would shift every image by half a step.
     const KXCalibIntrinsicsNonRectified raw{942.78F, 942.78F, 645.02F, 357.37F, 1280, 720, 0, 0, 0, 0, 0};
     const KXCalibIntrinsicsRectified rect{928, 928, 640, 360, 1280, 720};
-    Picture ramps{1280, 720, std::vector<std::uint8_t>(std::size_t{1280} * 720 * 4)};
+    Image ramps{1280, 720, std::vector<std::uint8_t>(std::size_t{1280} * 720 * 4)};
     for (std::size_t i = 0; i < ramps.bgra.size(); i += 4) {
         ramps.bgra[i] = static_cast<std::uint8_t>(7 * (i / 4 % 1280 % 32));
         ramps.bgra[i + 1] = static_cast<std::uint8_t>(7 * (i / 4 / 1280 % 32));
     }
-    const Picture out = rectified(ramps, raw, kIdentity, rect);
+    const Image out = rectified(ramps, raw, kIdentity, rect);
     for (int c = 0; c < 2; ++c) {
         double sum = 0;
         int count = 0;
@@ -149,33 +149,33 @@ TEST_F(Rectification, TheRotationTakesRawToRectified) {
     // Two degrees about Y move the centre of the raw image to the right: X_rectified = R · X_raw.
     const KXCalibIntrinsicsNonRectified raw{400, 400, 64, 32, 128, 64, 0, 0, 0, 0, 0};
     const KXCalibIntrinsicsRectified rect{400, 400, 64, 32, 128, 64};
-    Picture dot{128, 64, std::vector<std::uint8_t>(std::size_t{128} * 64 * 4, 0)};
+    Image dot{128, 64, std::vector<std::uint8_t>(std::size_t{128} * 64 * 4, 0)};
     dot.bgra[(std::size_t{32} * 128 + 64) * 4] = 255;
-    const Picture out = rectified(dot, raw, rotation(0, 2, 0), rect);
+    const Image out = rectified(dot, raw, rotation(0, 2, 0), rect);
     EXPECT_GT(out.at(78, 32, 0), 200);  // 64 + 400 · tan 2° = 77.97
 }
 
 TEST_F(Rectification, NonsenseGivesBlack) {
     const KXCalibIntrinsicsNonRectified good{400, 400, 64, 32, 128, 64, 0, 0, 0, 0, 0};
     const KXCalibIntrinsicsRectified rect{400, 400, 64, 32, 128, 64};
-    const Picture source = smoothPicture(128, 64);
+    const Image source = smoothImage(128, 64);
     KXCalibIntrinsicsNonRectified raw = good;
     raw.k3 = NAN;
     KXCalibIntrinsicsRectified flat = rect;
     flat.fx = 0;
     KXCalibIntrinsicsNonRectified huge = good;
     huge.w = 4096;
-    const Picture pictures[] = {rectified(source, raw, kIdentity, rect), rectified(source, good, kIdentity, flat),
-                                rectified(source, huge, kIdentity, rect),
-                                rectified(source, good, rotation(0, 180, 0), rect), rectified(source, good, {}, rect)};
-    for (const Picture& picture : pictures)
-        EXPECT_EQ(picture.at(64, 40, 0) + picture.at(5, 5, 1), 0);
+    const Image images[] = {rectified(source, raw, kIdentity, rect), rectified(source, good, kIdentity, flat),
+                            rectified(source, huge, kIdentity, rect),
+                            rectified(source, good, rotation(0, 180, 0), rect), rectified(source, good, {}, rect)};
+    for (const Image& image : images)
+        EXPECT_EQ(image.at(64, 40, 0) + image.at(5, 5, 1), 0);
     // A table of random entries must not read outside the source.
     std::mt19937 random(5);
     std::vector<std::uint32_t> table(std::size_t{128} * 64);
     for (std::uint32_t& entry : table)
         entry = random();
-    Picture out = source;
+    Image out = source;
     library->rectifyBGRA8ToBGRA8(table.data(), source.bgra.data(), 128, 128, 64, out.bgra.data());
     EXPECT_NE(out.bgra, source.bgra);
 }

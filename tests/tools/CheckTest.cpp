@@ -43,22 +43,22 @@ protected:
 };
 
 TEST_F(CheckTest, EverythingFitsButWhatARecordingCannotTell) {
-    const QString home = path("home");
-    const Result good = check("", {"--out", home, "--write-back-unchanged"});
-    EXPECT_EQ(good.status, 3) << good.error.constData();
-    EXPECT_THAT(withVerdict(good, "does not fit"), ElementsAre());
-    EXPECT_THAT(withVerdict(good, "cannot tell"),
+    const QString folder = path("home");
+    const Result unchanged = check("", {"--out", folder, "--write-back-unchanged"});
+    EXPECT_EQ(unchanged.status, 3) << unchanged.error.constData();
+    EXPECT_THAT(withVerdict(unchanged, "does not fit"), ElementsAre());
+    EXPECT_THAT(withVerdict(unchanged, "cannot tell"),
                 ElementsAre("stream-depth", "stream-left", "stream-rear", "stream-right", "stream-third"))
-        << "it repeats its pictures";
-    EXPECT_EQ(good.json()["serial"].toInt(), 700011);
-    for (const QJsonValue operation : good.json()["operations"].toArray())
+        << "it repeats its images";
+    EXPECT_EQ(unchanged.json()["serial"].toInt(), 700011);
+    for (const QJsonValue operation : unchanged.json()["operations"].toArray())
         EXPECT_GT(operation["calls"].toInt(), 0) << operation["name"].toString().toStdString();
     // The recording in the folder can be calibrated elsewhere.
-    const Result again = run({"calibrate", home + "/recording", "--seed", "1", "--json", "-"});
-    EXPECT_EQ(again.status, 0) << again.error.constData();
+    const Result recalibrated = run({"calibrate", folder + "/recording", "--seed", "1", "--json", "-"});
+    EXPECT_EQ(recalibrated.status, 0) << recalibrated.error.constData();
     for (const char* file : {"/block.fcbackup", "/report.json", "/report.txt", "/check.log"})
-        EXPECT_GT(QFile(home + file).size(), 0) << file;
-    EXPECT_EQ(check("", {"--out", home}).status, 1) << "nothing is overwritten";
+        EXPECT_GT(QFile(folder + file).size(), 0) << file;
+    EXPECT_EQ(check("", {"--out", folder}).status, 1) << "nothing is overwritten";
 }
 
 /// Faults that do not affect each other share a run.
@@ -91,13 +91,13 @@ TEST_F(CheckTest, AnUnchangedBlockThatIsNotKeptIsNamed) {
 }
 
 /// When the module has drifted, the scene shows neither direction of its rotation.
-TEST_F(CheckTest, WhatCannotBeToldIsNotClaimed) {
+TEST_F(CheckTest, UndeterminedResultsAreNotClaimed) {
     const Result far = run({"check", "--stills", "6", "--json", "-"}, {{"SESSION", recording()}, {"SPEED", "0"}});
     EXPECT_THAT(withVerdict(far, "does not fit"), ElementsAre());
     EXPECT_EQ(far.status, 3) << far.error.constData();
-    const auto untold = withVerdict(far, "cannot tell");
+    const auto undetermined = withVerdict(far, "cannot tell");
     for (const char* id : {"rotation-third", "rotation-rear", "translation-third", "imagers", "baseline"})
-        EXPECT_THAT(untold, Contains(id));
+        EXPECT_THAT(undetermined, Contains(id));
     const Result none = run({"check"}, {{"FAULTS", "openDevice:1:5"}});
     EXPECT_EQ(none.status, 1);
     EXPECT_EQ(none.error, "The depth camera was not found.\n");

@@ -28,15 +28,15 @@ std::vector<Delivered> play(const QString& folder, int grabs) {
     Delivered now;
     for (std::size_t i = 0; static_cast<int>(out.size()) < grabs; ++i) {
         const std::size_t index = i % session.frames.size();
-        session::FramePictures pictures;
-        EXPECT_TRUE(session::readPictures(folder.toStdString(), session, index, &pictures, &why)) << why;
-        now.infrared = bytesOf(pictures.infrared);
-        now.right = bytesOf(pictures.right);
-        now.third = bytesOf(pictures.third);
-        now.depth = bytesOf(pictures.depth);
+        session::FrameImages images;
+        EXPECT_TRUE(session::readImages(folder.toStdString(), session, index, &images, &why)) << why;
+        now.infrared = bytesOf(images.infrared);
+        now.right = bytesOf(images.right);
+        now.third = bytesOf(images.third);
+        now.depth = bytesOf(images.depth);
         // A missing depth image equals one without depth.
         now.depth.resize(std::size_t{2} * session.depth.width * session.depth.height);
-        if (!pictures.platform.empty()) now.platform = pictures.platform;
+        if (!images.platform.empty()) now.platform = images.platform;
         out.insert(out.end(), session.frames[index].repeat, now);
     }
     out.resize(grabs);
@@ -86,17 +86,17 @@ TEST_F(RecordTest, EveryGrabIsPlayedBackAsItWasDelivered) {
 
 /// The description as the library reports it: with 32-bit numbers, without frames, and without data that a module does
 /// not have.
-QJsonValue asTold(const QJsonValue& value) {
+QJsonValue asReported(const QJsonValue& value) {
     if (value.isDouble()) return static_cast<double>(static_cast<float>(value.toDouble()));
     QJsonArray array = value.toArray();
     for (int i = 0; i < array.size(); ++i)
-        array[i] = asTold(array.at(i));
+        array[i] = asReported(array.at(i));
     if (value.isArray()) return array;
     QJsonObject object = value.toObject();
     for (const QString& key : object.keys())
-        object[key] = asTold(object.value(key));
-    for (const char* untold : {"frames", "truth"})
-        object.remove(untold);
+        object[key] = asReported(object.value(key));
+    for (const char* omitted : {"frames", "truth"})
+        object.remove(omitted);
     return value.isObject() ? QJsonValue(object) : value;
 }
 
@@ -106,7 +106,7 @@ TEST_F(RecordTest, EveryParameterIsTheLibrarys) {
     const auto description = [](const QString& folder) {
         QFile file(folder + "/session.json");
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return QJsonDocument(asTold(QJsonDocument::fromJson(file.readAll()).object()).toObject()).toJson();
+        return QJsonDocument(asReported(QJsonDocument::fromJson(file.readAll()).object()).toObject()).toJson();
     };
     EXPECT_EQ(description(copy).toStdString(), description(recording()).toStdString());
     const session::SessionDescription before = described(recording()), after = described(copy);

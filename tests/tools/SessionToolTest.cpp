@@ -189,8 +189,8 @@ TEST_F(SessionToolTest, UnreadableRecordingsAreNamedWithFileAndReason) {
     EXPECT_TRUE(nowhere.error.contains("session.json"));
 
     const QString cut = changed("cut", [](session::SessionDescription* session, const QString& folder) {
-        QFile picture(folder + '/' + QString::fromStdString(session->frames[2].infrared));
-        picture.resize(picture.size() / 2);
+        QFile image(folder + '/' + QString::fromStdString(session->frames[2].infrared));
+        image.resize(image.size() / 2);
     });
     for (const char* verb : {"calibrate", "info"}) {
         const Result truncated = run({verb, cut});

@@ -55,7 +55,9 @@ struct Course {
     const QByteArray installer = theInstaller();
     QByteArray version = "1.10", url, more, manifest;
     std::optional<HttpAnswer> manifestAnswer;
-    std::function<HttpAnswer(const HttpRequest&)> installerAnswer = [this](const HttpRequest&) { return whole(); };
+    std::function<HttpAnswer(const HttpRequest&)> installerAnswer = [this](const HttpRequest&) {
+        return completeInstaller();
+    };
 
     Course() {
         environment.manifest = server.url("/Version.json");
@@ -74,16 +76,19 @@ struct Course {
         const QByteArray written = R"({"version":")" + version + R"(","url":")" + url + '"' + more + '}';
         return {"200 OK", "", manifest.isEmpty() ? written : manifest};
     }
-    HttpAnswer whole() const { return {"200 OK", "ETag: \"one\"\r\n", installer}; }
-    HttpAnswer half() const { return {"200 OK", whole().headers, installer, installer.size(), installer.size() / 2}; }
-    HttpAnswer rest(qint64 from) const {
+    HttpAnswer completeInstaller() const { return {"200 OK", "ETag: \"one\"\r\n", installer}; }
+    HttpAnswer firstHalf() const {
+        return {"200 OK", completeInstaller().headers, installer, installer.size(), installer.size() / 2};
+    }
+    HttpAnswer remainder(qint64 from) const {
         const QString range = "Content-Range: bytes %1-%2/%3\r\n";
-        const QByteArray told = range.arg(from).arg(installer.size() - 1).arg(installer.size()).toLatin1();
-        return {"206 Partial Content", whole().headers + told, installer.mid(static_cast<int>(from))};
+        const QByteArray contentRange = range.arg(from).arg(installer.size() - 1).arg(installer.size()).toLatin1();
+        return {"206 Partial Content", completeInstaller().headers + contentRange,
+                installer.mid(static_cast<int>(from))};
     }
     /// The first half, followed by whatever the program requests.
-    HttpAnswer halfThenRest(const HttpRequest& request) const {
-        return request.rangeStart() > 0 ? rest(request.rangeStart()) : half();
+    HttpAnswer firstHalfThenRemainder(const HttpRequest& request) const {
+        return request.rangeStart() > 0 ? remainder(request.rangeStart()) : firstHalf();
     }
     bool isFirstForInstaller() const { return server.requests.size() == 2; }
 };
@@ -112,7 +117,7 @@ Arrange installer(const HttpAnswer& answer) {
 struct Case {
     const char* name;
     Arrange arrange;
-    std::vector<std::string> told;
+    std::vector<std::string> events;
     const char* logged;  ///< in its last line; before an offer there is no other line
 };
 void PrintTo(const Case& one, std::ostream* out) {
@@ -160,14 +165,14 @@ TEST_P(UpdateTableTest, WhatTheUserIsToldAndWhatIsLeftOnTheDisk) {
     GetParam().arrange(course);
     const LogCapture log;
     start();
-    ASSERT_TRUE(waitUntil([&] { return owner.ended || (owner.told.empty() && !LogCapture::lines().empty()); }))
-        << ::testing::PrintToString(owner.told);
-    EXPECT_THAT(owner.told, ElementsAreArray(GetParam().told));
+    ASSERT_TRUE(waitUntil([&] { return owner.ended || (owner.events.empty() && !LogCapture::lines().empty()); }))
+        << ::testing::PrintToString(owner.events);
+    EXPECT_THAT(owner.events, ElementsAreArray(GetParam().events));
     const std::vector<std::string>& lines = LogCapture::lines();
     ASSERT_FALSE(lines.empty());
     EXPECT_THAT(lines.back(), HasSubstr(GetParam().logged)) << ::testing::PrintToString(lines);
-    EXPECT_TRUE(!owner.told.empty() || lines.size() == 1) << ::testing::PrintToString(lines);
-    const bool started = !owner.told.empty() && owner.told.back() == "started";
+    EXPECT_TRUE(!owner.events.empty() || lines.size() == 1) << ::testing::PrintToString(lines);
+    const bool started = !owner.events.empty() && owner.events.back() == "started";
     EXPECT_EQ(onDisk().size(), started ? 1 : 0);
     if (started) {
         EXPECT_TRUE(course.starter->started == course.installer);
@@ -218,35 +223,35 @@ const Case kFetched[] = {
     {"broken, with its digest",
      [](Course& c) {
          digest(QCryptographicHash::hash(c.installer, QCryptographicHash::Sha256).toHex().toUpper())(c);
-         c.installerAnswer = [&c](const HttpRequest& request) { return c.halfThenRest(request); };
+         c.installerAnswer = [&c](const HttpRequest& request) { return c.firstHalfThenRemainder(request); };
      },
      kDoneAfterBreak, "is offered"},
     {"redirected", installer([](Course& c, const HttpRequest& request) {
-         return request.path == "/Setup.exe" ? redirect(c.server.url("/moved")) : c.whole();
+         return request.path == "/Setup.exe" ? redirect(c.server.url("/moved")) : c.completeInstaller();
      }),
      kDone, "is offered"},
     {"broken, then another file", installer([](Course& c, const HttpRequest& request) {
-         HttpAnswer other = c.half();
+         HttpAnswer other = c.firstHalf();
          other.body.fill('x');
-         return request.rangeStart() > 0 ? c.whole() : other;
+         return request.rangeStart() > 0 ? c.completeInstaller() : other;
      }),
      kDoneAfterBreak, "is offered"},
     {"broken, and nothing to know it again by", installer([](Course& c, const HttpRequest&) {
-         HttpAnswer answer = c.isFirstForInstaller() ? c.half() : c.whole();
+         HttpAnswer answer = c.isFirstForInstaller() ? c.firstHalf() : c.completeInstaller();
          answer.headers.clear();
          return answer;
      }),
      kDoneAfterBreak, "is offered"},
     {"broken, then another part than was asked for", installer([](Course& c, const HttpRequest& request) {
-         if (request.rangeStart() > 0) return c.rest(request.rangeStart() - 1);
-         return c.isFirstForInstaller() ? c.half() : c.whole();
+         if (request.rangeStart() > 0) return c.remainder(request.rangeStart() - 1);
+         return c.isFirstForInstaller() ? c.firstHalf() : c.completeInstaller();
      }),
      kDoneAfterTwo, "is offered"},
     {"stalled",
      [](Course& c) {
          c.environment.stallTimeout = std::chrono::seconds(1);
          c.installerAnswer = [&c](const HttpRequest& request) {
-             HttpAnswer answer = c.halfThenRest(request);
+             HttpAnswer answer = c.firstHalfThenRemainder(request);
              answer.silent = request.rangeStart() < 0;
              return answer;
          };
@@ -261,7 +266,7 @@ std::vector<std::string> offered(std::vector<std::string> then, UpdateFailure fa
 }
 const std::vector<std::string> kRefusedAtOnce = offered({}, UpdateFailure::Server);
 const Case kNotFetched[] = {
-    {"always broken", installer([](Course& c, const HttpRequest&) { return c.half(); }),
+    {"always broken", installer([](Course& c, const HttpRequest&) { return c.firstHalf(); }),
      offered({"progress", "interrupted", "progress", "interrupted", "progress"}, UpdateFailure::Connection), "closed"},
     {"wrong digest", digest(QByteArray(64, 'a')), offered({"progress"}, UpdateFailure::Damaged), "another digest"},
     {"10 GB", installer(endless(kTenGigabytes)), kRefusedAtOnce, "too large"},
@@ -294,8 +299,8 @@ TEST_F(SoftwareUpdateTest, WhatIsGivenUpAtATenthIsGoneFromTheDiskAndTheLine) {
     const std::vector<std::function<void()>> waysOut{[this] { update->abort(); }, [this] { update->release(); },
                                                      [this] { update.reset(); }};
     for (const auto& leave : waysOut) {
-        owner.told.clear();
-        HttpAnswer tenth = course.half();
+        owner.events.clear();
+        HttpAnswer tenth = course.firstHalf();
         tenth.breakAfter = course.installer.size() / 10;
         tenth.silent = true;
         installer(tenth)(course);
@@ -305,7 +310,7 @@ TEST_F(SoftwareUpdateTest, WhatIsGivenUpAtATenthIsGoneFromTheDiskAndTheLine) {
         leave();
         EXPECT_THAT(onDisk(), IsEmpty());
         EXPECT_TRUE(waitUntil([&] { return course.server.openConnections == 0; }));
-        EXPECT_THAT(owner.told, ElementsAre("offered 1.10", "progress"));
+        EXPECT_THAT(owner.events, ElementsAre("offered 1.10", "progress"));
         owner.share = 0;
     }
 }
@@ -324,12 +329,12 @@ TEST_F(SoftwareUpdateTest, AfterAFailureItCanBeTriedAgain) {
     installer(failure("404 Not Found"))(course);
     start();
     ASSERT_TRUE(waitUntil([&] { return owner.ended; }));
-    installer(course.whole())(course);
+    installer(course.completeInstaller())(course);
     owner.ended = false;
     update->download();
     update->download();  // has no effect during a download
     ASSERT_TRUE(waitUntil([&] { return owner.ended; }));
-    EXPECT_EQ(owner.told.back(), "started");
+    EXPECT_EQ(owner.events.back(), "started");
     ASSERT_EQ(onDisk().size(), 1) << "the installer needs it";
     start();
     EXPECT_THAT(onDisk(), IsEmpty()) << "what the installer left, before anything else is asked for";
@@ -363,7 +368,7 @@ TEST_F(SoftwareUpdateTest, WithoutAnAddressNothingIsAskedAndNothingIsSaid) {
     update->download();
     EXPECT_THAT(LogCapture::lines(), ElementsAre("No update was offered."));
     EXPECT_TRUE(owner.findChildren<QObject*>().isEmpty());
-    EXPECT_THAT(owner.told, IsEmpty());
+    EXPECT_THAT(owner.events, IsEmpty());
 }
 
 }  // namespace

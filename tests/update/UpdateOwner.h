@@ -17,7 +17,7 @@ public:
     }
     void updateProgressed(qint64 received, qint64 total) override {
         share = static_cast<double>(received) / static_cast<double>(total);
-        if (told.back() != "progress") add("progress");
+        if (events.back() != "progress") add("progress");
     }
     void updateInterrupted() override { add("interrupted"); }
     void updateReceived() override { add("received"); }
@@ -30,12 +30,12 @@ public:
         ended = true;
     }
     SoftwareUpdate* update = nullptr;
-    std::vector<std::string> told;
+    std::vector<std::string> events;
     double share = 0;
     bool ended = false;
 
 private:
-    void add(const std::string& line) { told.push_back(line); }
+    void add(const std::string& line) { events.push_back(line); }
 
 public slots:
     void slot_networkReplyLatestVersionJsonFinished(QNetworkReply* reply) { update->manifestReceived(reply); }

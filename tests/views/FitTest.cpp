@@ -40,7 +40,7 @@ protected:
         if (GetParam().language.isEmpty()) {
             QCoreApplication::installTranslator(&longWinded_);
         } else {
-            leftToRight_ = speak(GetParam().language, &translator_);
+            leftToRight_ = installTranslation(GetParam().language, &translator_);
             EXPECT_TRUE(translator_.filePath().endsWith(GetParam().language + ".qm"));
         }
     }

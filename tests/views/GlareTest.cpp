@@ -18,9 +18,9 @@ constexpr double kPi = 3.14159265358979323846;
 constexpr double kGlare = kIlluminance * kReflectance / kPi;
 
 // Nothing can exceed 2.4, white on black.
-constexpr double kLeastTextContrast = 1.65;
-constexpr double kLeastOutlineContrast = 1.3;
-constexpr int kLeastTextPx = 16;
+constexpr double kMinTextContrast = 1.65;
+constexpr double kMinOutlineContrast = 1.3;
+constexpr int kMinTextPx = 16;
 
 double luminance(const QColor& colour) {
     const auto linear = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
@@ -106,14 +106,14 @@ TEST_F(GlareTest, EveryPageCanBeReadInTheSun) {
     }
     for (const auto& [colour, worst] : text) {
         std::printf("text %s: %.2f (%s)\n", colour.c_str(), worst.value, worst.where.c_str());
-        EXPECT_GE(worst.value, kLeastTextContrast) << colour << " in " << worst.where;
+        EXPECT_GE(worst.value, kMinTextContrast) << colour << " in " << worst.where;
     }
     for (const auto& [colour, worst] : outline) {
         std::printf("outline %s: %.2f (%s)\n", colour.c_str(), worst.value, worst.where.c_str());
-        EXPECT_GE(worst.value, kLeastOutlineContrast) << colour << " in " << worst.where;
+        EXPECT_GE(worst.value, kMinOutlineContrast) << colour << " in " << worst.where;
     }
     std::printf("smallest text: %.0f px (%s)\n", size.value, size.where.c_str());
-    EXPECT_GE(size.value, kLeastTextPx) << size.where;
+    EXPECT_GE(size.value, kMinTextPx) << size.where;
     EXPECT_GE(text.size(), 4U);
     EXPECT_GE(outline.size(), 3U);
 }

@@ -21,7 +21,7 @@ inline const QStringList kInterfaceLanguages =
 
 /// Makes the interface use the texts and the number format of `language`. Returns false when it reads from right to
 /// left.
-inline bool speak(const QString& language, QTranslator* translator) {
+inline bool installTranslation(const QString& language, QTranslator* translator) {
     initTranslations();
     const SystemLanguage user{language.section('_', 0, 0), language.section('_', 1)};
     const bool leftToRight = loadInterfaceLanguage(user, ":/Files", translator);

@@ -10,7 +10,7 @@ using ::testing::Contains;
 using ::testing::ContainsRegex;
 using ::testing::IsEmpty;
 using ::testing::Not;
-using Stills = std::vector<session::FramePictures>;
+using Stills = std::vector<session::FrameImages>;
 
 /// Tests the workflow on a recording that becomes faulty in the middle.
 class CutRecordingTest : public WorkflowTest {
@@ -35,9 +35,9 @@ TEST_F(CutRecordingTest, LightThatIsLostIsAwaitedAndWhatWasTakenBeforeCounts) {
             frames.push_back({stills[i]});
             if (i % 2 == 0) continue;
             EditedFrame dark{stills[i]};
-            for (std::size_t k = 0; k < dark.pictures.infrared.byteCount() / 2; ++k)
-                dark.pictures.infrared.pixels()[k] /= 8;
-            dark.pictures.third.bytes()[0] ^= 1U;  // a colour camera never delivers the same image in different light
+            for (std::size_t k = 0; k < dark.images.infrared.byteCount() / 2; ++k)
+                dark.images.infrared.pixels()[k] /= 8;
+            dark.images.third.bytes()[0] ^= 1U;  // a colour camera never delivers the same image in different light
             frames.push_back(dark);
         }
         return frames;
@@ -56,7 +56,7 @@ TEST_F(CutRecordingTest, AnAttemptThatFailsIsFollowedByOneThatSucceeds) {
         std::vector<EditedFrame> frames;
         for (std::size_t i = 0; i < 18; ++i) {
             frames.push_back({stills[i % 6]});
-            if (i < 12) frames.back().pictures.infrared = stills[(i + 3) % 6].infrared;
+            if (i < 12) frames.back().images.infrared = stills[(i + 3) % 6].infrared;
         }
         return frames;
     });
@@ -84,7 +84,7 @@ TEST_F(CutRecordingTest, ARearCameraThatDiesDuringItsCaptureIsToldOnceAndTheFlas
         for (int i = 0; i < 12; ++i)
             frames.push_back({stills[i % 6]});
         frames.push_back({stills[0], 100000});
-        frames.back().pictures.platform.clear();
+        frames.back().images.platform.clear();
         return frames;
     });
     const QByteArray before = flash();

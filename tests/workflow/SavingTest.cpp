@@ -65,7 +65,7 @@ TEST_F(SavingTest, TheNextStartDecidesByTheModulesBlock) {
         const auto last = settleLastSave(*sensor, data.path());
         ASSERT_TRUE(last);
         EXPECT_EQ(last->outcome, outcome);
-        EXPECT_FALSE(settleLastSave(*sensor, data.path())) << "told once";
+        EXPECT_FALSE(settleLastSave(*sensor, data.path())) << "reported once";
     }
     ASSERT_TRUE(writeSaveNote(data.path(), *noteAtWrite));
     device->failCall("rectParameters", 3 + 3 + 1, 6);
@@ -79,7 +79,7 @@ TEST_F(SavingTest, WithoutANoteOnTheDiskNothingIsWritten) {
     ASSERT_TRUE(QDir(data.path()).mkpath("save-note-550101.json"));
     const SaveResult result = storeCalibration(*sensor, records, data.path());
     EXPECT_FALSE(result.stored);
-    EXPECT_FALSE(result.told);
+    EXPECT_FALSE(result.reported);
     EXPECT_FALSE(noteAtWrite) << "no call has reached the flash";
     EXPECT_EQ(sensor->writeBack().flash, WriteBackReport::Flash::Untouched);
     EXPECT_FALSE(sensor->faulted());

@@ -165,7 +165,7 @@ TEST_F(WorkflowTest, AFailedSaveIsNotedAndToldAtTheNextStart) {
     EXPECT_EQ(user->lastSave->note.serial, 700010U);
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
-    EXPECT_FALSE(user->lastSave) << "told once";
+    EXPECT_FALSE(user->lastSave) << "reported once";
 }
 
 TEST_F(WorkflowTest, AFaultIsToldOnceAndEndsTheGrabbing) {
@@ -179,7 +179,8 @@ TEST_F(WorkflowTest, AFaultIsToldOnceAndEndsTheGrabbing) {
     const LeaveReport report = stopAndSave();
     EXPECT_FALSE(report.stored);
     EXPECT_THAT(user->errors, ElementsAre(EndsWith("any web browsers before proceeding.")));
-    EXPECT_EQ(report.errors, QStringList{"5: (ChangeServiceConfig) ==> text 5"}) << "told after everything is closed";
+    EXPECT_EQ(report.errors, QStringList{"5: (ChangeServiceConfig) ==> text 5"})
+        << "reported after everything is closed";
     EXPECT_THAT(user->states, ElementsAre(State::ShowingIntroduction));
 }
 

@@ -19,7 +19,7 @@ protected:
 };
 
 TEST_F(WorldWorkflowTest, BothCamerasAreCalibratedOutOfAMovingHandWhichWalksOutIntoTheSun) {
-    synthesis::RigWishes wishes;
+    synthesis::RigOptions wishes;
     wishes.platform = true;
     wishes.thirdDriftDeg = {{2.5, -1, 1.2}};
     const auto rig = synthesis::drawRig(5, wishes);

@@ -72,17 +72,17 @@ private:
 };
 
 /// Centroid of the intensity above the background around `guess`; NaN near a border.
-cv::Point2d centroid(const cv::Mat_<float>& picture, cv::Point2d guess) {
+cv::Point2d centroid(const cv::Mat_<float>& image, cv::Point2d guess) {
     constexpr int reach = 10;
     const int cx = cvRound(guess.x), cy = cvRound(guess.y);
     const cv::Rect around(cx - reach, cy - reach, 2 * reach + 1, 2 * reach + 1);
-    if ((around & cv::Rect({}, picture.size())) != around) return {std::nan(""), 0};
+    if ((around & cv::Rect({}, image.size())) != around) return {std::nan(""), 0};
     double low = 0, high = 0, weight = 0;
-    cv::minMaxLoc(picture(around), &low, &high);
+    cv::minMaxLoc(image(around), &low, &high);
     cv::Point2d sum(0, 0);
     for (int y = around.y; y < around.br().y; ++y)
         for (int x = around.x; x < around.br().x; ++x) {
-            const double w = std::max(0.0, picture(y, x) - low - 0.1 * (high - low));
+            const double w = std::max(0.0, image(y, x) - low - 0.1 * (high - low));
             sum += cv::Point2d(x, y) * w;
             weight += w;
         }
@@ -92,12 +92,12 @@ cv::Point2d centroid(const cv::Mat_<float>& picture, cv::Point2d guess) {
 using Projection = std::function<cv::Point2d(const cv::Vec3d&)>;
 
 /// Checks that every dot that `project` maps inside the image is found there.
-void expectDots(const Dots& dots, const cv::Mat_<float>& picture, const Projection& project) {
+void expectDots(const Dots& dots, const cv::Mat_<float>& image, const Projection& project) {
     int found = 0;
     cv::Point2d sum(0, 0);
     for (const auto& centre : dots.centres) {
         const cv::Point2d expected = project(dots.pose.camera_world * (centre - dots.pose.centre));
-        const cv::Point2d seen = centroid(picture, expected);
+        const cv::Point2d seen = centroid(image, expected);
         if (std::isnan(seen.x)) {
             EXPECT_EQ(seen.y, 0) << "nothing bright at " << expected;
             continue;
@@ -166,20 +166,20 @@ TEST(WorldCameras, MarkedPointsLieWhereModelsAndPosePutThemInAllCameras) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         const auto rig = synthesis::drawRig(seed, {true, {}, {}});
         const Dots dots(seed);
-        const auto pictures = Cameras(rig, {2, 2, 1}).take(*dots.world, {dots.pose}, noiseless(), {}, seed);
+        const auto images = Cameras(rig, {2, 2, 1}).take(*dots.world, {dots.pose}, noiseless(), {}, seed);
 
         const auto& k = rig.infrared;
-        expectDots(dots, infraredOf(pictures.infrared), [&](const cv::Vec3d& p) {
+        expectDots(dots, infraredOf(images.infrared), [&](const cv::Vec3d& p) {
             return cv::Point2d(k.fx * p[0] / p[2] + k.cx, k.fy * p[1] / p[2] + k.cy);
         });
-        expectDots(dots, greenOf(pictures.third), [&](const cv::Vec3d& p) {
+        expectDots(dots, greenOf(images.third), [&](const cv::Vec3d& p) {
             return colourPixel(rig.third, k, moved(*rig.truthThird, rig.third.translation, p));
         });
-        expectDots(dots, lumaOf(pictures.platform), [&](const cv::Vec3d& p) {
+        expectDots(dots, lumaOf(images.platform), [&](const cv::Vec3d& p) {
             const cv::Vec3d there = moved(*rig.truthPlatform, rig.platform->translation, p);
             return synthesis::rawFromRectified(*rig.platform, colourPixel(rig.platform->rectified, k, there));
         });
-        expectDots(dots, rectified(*rig.platform, pictures.platform), [&](const cv::Vec3d& p) {
+        expectDots(dots, rectified(*rig.platform, images.platform), [&](const cv::Vec3d& p) {
             const cv::Vec3d there = moved(*rig.truthPlatform, rig.platform->translation, p);
             return colourPixel(rig.platform->rectified, k, there);
         });
@@ -189,13 +189,13 @@ TEST(WorldCameras, MarkedPointsLieWhereModelsAndPosePutThemInAllCameras) {
 TEST(WorldCameras, MarkedPointsLieADisparityFurtherLeftInTheRightPicture) {
     for (std::uint64_t seed = 1; seed <= 10; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
-        synthesis::RigWishes wishes;
+        synthesis::RigOptions wishes;
         wishes.baselines = seed != 3;
         if (seed > 5) wishes.misalignmentPx = 0.1 * static_cast<double>(seed) - 1;
         const auto rig = synthesis::drawRig(seed, wishes);
         const Dots dots(seed);
-        const auto pictures = Cameras(rig, {2, 1, 1}).take(*dots.world, {dots.pose}, noiseless(), {}, seed);
-        const auto left = infraredOf(pictures.infrared), right = infraredOf(pictures.right);
+        const auto images = Cameras(rig, {2, 1, 1}).take(*dots.world, {dots.pose}, noiseless(), {}, seed);
+        const auto left = infraredOf(images.infrared), right = infraredOf(images.right);
 
         const auto& k = rig.infrared;
         const double apart = wishes.baselines ? 0.055 : 0;
@@ -215,8 +215,8 @@ TEST(WorldCameras, EachInfraredImagerHasItsOwnNoiseAtOneExposure) {
     auto rig = synthesis::drawRig(1, {});
     rig.right = {};
     rig.right.gain = 0.8;
-    const auto pictures = Cameras(rig, {1, 1, 1}).take(world, {}, {}, {}, 1);
-    const auto left = infraredOf(pictures.infrared), right = infraredOf(pictures.right);
+    const auto images = Cameras(rig, {1, 1, 1}).take(world, {}, {}, {}, 1);
+    const auto left = infraredOf(images.infrared), right = infraredOf(images.right);
     cv::Scalar mean, apart, same;
     cv::meanStdDev(right * (1 / 0.8) - left, mean, apart);
     EXPECT_NEAR(mean[0], 0, 0.5);
@@ -232,7 +232,7 @@ TEST(WorldCameras, DepthBroughtIntoColourLandsOnTheSameSurface) {
     const Moment moment{{cv::Matx33d::eye(), {0, 0, 0}}, 0};
     const View view = cameras.see(*stage->world, moment, moment, false);
     const auto rays = synthesis::colourRays(rig.third, rig.infrared, 1);
-    const Picture colour = takePicture(*stage->world, rays, {cameras.thirdPose(moment.pose)});
+    const RenderedImage colour = renderImage(*stage->world, rays, {cameras.thirdPose(moment.pose)});
     int seen = 0, same = 0;
     for (int y = 0; y < view.depth.rows; y += 3)
         for (int x = 0; x < view.depth.cols; x += 3) {
@@ -267,10 +267,10 @@ struct SlantedPlane {
 View depthView(const World& world, const synthesis::Rig& rig) {
     const auto rays = synthesis::infraredRays(rig.depth, 2);
     View view;
-    const Picture picture = takePicture(world, rays, {});
-    view.infrared = synthesis::infraredBand(picture.light);
+    const RenderedImage image = renderImage(world, rays, {});
+    view.infrared = synthesis::infraredBand(image.light);
     view.rightImager = rig.right;
-    seeDepth(world, rays, {}, picture, rig.depth, &view);
+    seeDepth(world, rays, {}, image, rig.depth, &view);
     return view;
 }
 
@@ -297,7 +297,7 @@ TEST(WorldCameras, DepthIsAlongTheAxisOfTheInfraredCameraAndHoldsTheRangeOfTheMo
             const int measured = frame.pixels()[y * view.depth.cols + x];
             // One quantisation step and five standard deviations of disparity, converted to depth.
             const double blur =
-                1000 * truth * truth / (rig.depth.fx * stereoBaseline) * (model.stepPx + 5 * model.noisePx);
+                1000 * truth * truth / (rig.depth.fx * kStereoBaselineM) * (model.stepPx + 5 * model.noisePx);
             if (truth < 3.3) {
                 EXPECT_NEAR(measured, truth * 1000, blur);
                 ++near;
@@ -314,12 +314,12 @@ TEST(WorldCameras, DepthIsAlongTheAxisOfTheInfraredCameraAndHoldsTheRangeOfTheMo
 TEST(WorldCameras, AMisalignedPairMovesTheModulesOwnDepth) {
     const SlantedPlane plane;
     for (const double shiftPx : {0.5, -0.4}) {
-        synthesis::RigWishes wishes;
+        synthesis::RigOptions wishes;
         wishes.misalignmentPx = shiftPx;
         const auto rig = synthesis::drawRig(4, wishes);
         const View view = depthView(plane.world, rig);
         const auto frame = depthFrame(view, inADimRoom(), 1);
-        const double scale = rig.depth.fx * stereoBaseline;
+        const double scale = rig.depth.fx * kStereoBaselineM;
         double errorPx = 0;
         int count = 0;
         for (int y = 0; y < view.depth.rows; y += 3)
@@ -346,7 +346,7 @@ TEST(WorldCameras, TheSecondInfraredCameraMissesAStripBesideNearThings) {
         return frame.pixels()[frame.width() * 200 + static_cast<unsigned>(std::lround(rig.depth.cx + x))];
     };
     // The strip is as wide as the difference of the disparities, to the left of the near object.
-    const double edge = -0.2 * rig.depth.fx, width = rig.depth.fx * stereoBaseline * (1 - 0.25);
+    const double edge = -0.2 * rig.depth.fx, width = rig.depth.fx * kStereoBaselineM * (1 - 0.25);
     EXPECT_NEAR(at(edge + 6), 1000, 30);
     EXPECT_EQ(at(edge - width / 2), 0);
     EXPECT_NEAR(at(edge - width - 6), 4000, 300);
@@ -387,7 +387,7 @@ TEST(WorldCameras, TheDotsFallOnTheSamePlacesForBothImagers) {
     auto rig = synthesis::drawRig(5, {});
     rig.right = {};
     constexpr int disparity = 16;
-    const auto z = static_cast<float>(rig.infrared.fx * stereoBaseline / disparity);
+    const auto z = static_cast<float>(rig.infrared.fx * kStereoBaselineM / disparity);
     TestScene scene;
     addQuad(scene.mesh, {{-20, -20, z}, {40, 0, 0}, {0, 40, 0}}, scene.even({0.5F, 0.5F, 0.5F, 0.5F}));
     const World world = scene.finish();

@@ -2,7 +2,7 @@
 
 #include "simulator/synthesis/Rotation.h"
 #include "simulator/world/Materials.h"
-#include "simulator/world/Picture.h"
+#include "simulator/world/RenderedImage.h"
 #include "simulator/world/Shapes.h"
 
 namespace fieldcal::world {

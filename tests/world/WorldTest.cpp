@@ -50,8 +50,8 @@ TEST(WorldLight, GlassMirrorsWhatStandsBeforeIt) {
 
 TEST(WorldBands, FoliageIsBrightAndTheSkyDarkInTheNearInfrared) {
     TestScene scene;
-    const auto leaf = scene.material<Leaf>(synthesis::materials::leaf.reflectance);
-    const auto plaster = scene.even(synthesis::materials::plasterWhite.reflectance);
+    const auto leaf = scene.material<Leaf>(synthesis::materials::kLeaf.reflectance);
+    const auto plaster = scene.even(synthesis::materials::kPlasterWhite.reflectance);
     addQuad(scene.mesh, {{-2, -1, 3}, {2, 0, 0}, {0, 2, 0}, {0, 0.9F}}, leaf);
     addQuad(scene.mesh, {{0, -1, 3}, {2, 0, 0}, {0, 2, 0}}, plaster);
     const World world = scene.finish();
@@ -90,9 +90,9 @@ TEST(Worlds, FoliageSwaysByDecimetresAndComesBackWhileTheGroundRests) {
     const auto stage = buildWorld("moving", 2);
     const auto depthAt = [&](float seconds) {
         const auto rays = synthesis::infraredRays(synthesis::drawRig(3, {}).infrared, 1);
-        return takePicture(*stage->world, rays, {{}, seconds, true, 0}).depth;
+        return renderImage(*stage->world, rays, {{}, seconds, true, 0}).depth;
     };
-    const cv::Mat_<float> start = depthAt(0), later = depthAt(1.1F), period = depthAt(Sway::periodSeconds);
+    const cv::Mat_<float> start = depthAt(0), later = depthAt(1.1F), period = depthAt(Sway::kPeriodSeconds);
     EXPECT_LT(cv::countNonZero(cv::abs(start - period) > 0.01), 50);
     EXPECT_GT(cv::countNonZero(cv::abs(start - later) > 0.01), 3000);
     const cv::Rect ground(0, start.rows - 60, start.cols, 60);

@@ -75,18 +75,18 @@ TEST_F(MediaFoundationTest, FindsOpensStreamsAndEndsOnOneThread) {
             EXPECT_EQ(late->OnSample(sampleOf(1280 * 720 * 3 / 2, static_cast<BYTE>(i)).Get()), S_OK);
     }).join();
     EXPECT_TRUE(control->frameReady());
-    QueuedPicture picture;
-    ASSERT_TRUE(control->latestFrame(&picture, 10));
-    EXPECT_EQ(picture.pixels[1280 * 720 * 3 / 2 - 1], 200);
-    EXPECT_EQ(picture.width, 1280);
-    EXPECT_EQ(picture.height, 720);
+    QueuedImage image;
+    ASSERT_TRUE(control->latestFrame(&image, 10));
+    EXPECT_EQ(image.pixels[1280 * 720 * 3 / 2 - 1], 200);
+    EXPECT_EQ(image.width, 1280);
+    EXPECT_EQ(image.height, 720);
 
     std::thread([this] { control.reset(); }).join();
     EXPECT_THAT(camera.calls, ElementsAre("StopRecord", "Shutdown", "shutDown"));
     EXPECT_EQ(camera.alive, 0);
     EXPECT_EQ(std::set<std::thread::id>(camera.threads.begin(), camera.threads.end()).size(), 1U);
     EXPECT_NE(camera.threads.front(), std::this_thread::get_id());
-    EXPECT_EQ(late->OnSample(sampleOf(1280 * 720 * 3 / 2, 1).Get()), S_OK) << "a late picture finds nobody";
+    EXPECT_EQ(late->OnSample(sampleOf(1280 * 720 * 3 / 2, 1).Get()), S_OK) << "a late image finds nobody";
 }
 
 TEST_F(MediaFoundationTest, EveryFailingCallFailsTheStepAndIsLogged) {
@@ -147,8 +147,8 @@ TEST_F(MediaFoundationTest, TheSizeDecidesThenTheRateThenTheSubtype) {
     }
 }
 
-struct KeptPicture : RearCameraSink {
-    void onPicture(const std::uint8_t* nv12, std::int32_t, std::int32_t, double timeSeconds) override {
+struct ReceivedImage : RearCameraSink {
+    void onImage(const std::uint8_t* nv12, std::int32_t, std::int32_t, double timeSeconds) override {
         seconds.push_back(timeSeconds);
         first.push_back(nv12[0]);
     }
@@ -157,8 +157,8 @@ struct KeptPicture : RearCameraSink {
 };
 
 TEST_F(MediaFoundationTest, SamplesCarryTheDevicesTime) {
-    const auto outlet = std::make_shared<PictureOutlet>();
-    KeptPicture kept;
+    const auto outlet = std::make_shared<ImageOutlet>();
+    ReceivedImage kept;
     outlet->set(&kept);
     const auto callback = makeCom<MFStreamingSampleCallback>(outlet, 4, 2);
     EXPECT_EQ(callback->OnSample(nullptr), static_cast<HRESULT>(0x80070006));

@@ -1,7 +1,6 @@
 // Tests the service manager on the system's own service control, with a service of the vendor's name that is installed
 // for the test. The test needs the right to install a service, and does not touch an existing one.
-#include "devices/PXMServiceManager.h"
-#include "kxapi/Library.h"
+#include "devices/SensorEnvironment.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -206,8 +205,8 @@ TEST(ServiceLifeTest, ARightThatIsMissingIsNamed) {
 }
 
 int run(const std::string& ending) {
-    if (ending == "play" && !useSimulatedLibraries()) return 4;
-    PXMServiceManager& manager = PXMServiceManager::instance();
+    const auto search = ending == "play" ? kxapi::LibrarySearch::SimulatedOnly : kxapi::LibrarySearch::Installed;
+    PXMServiceManager& manager = *systemEnvironment(search).services;
     if (!manager.shutdownPXMService()) return 2;
     std::printf("%s\n", serviceNow().c_str());
     std::fflush(stdout);

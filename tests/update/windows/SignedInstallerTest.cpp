@@ -21,7 +21,7 @@ using ::testing::StartsWith;
 using ::testing::StrEq;
 
 /// The arguments and the folder that the installer recorded.
-QByteArray toldBy(const QString& installer) {
+QByteArray argumentsOf(const QString& installer) {
     QFile note(installer + ".txt");
     for (int i = 0; i < 100 && note.size() == 0; ++i)
         QThread::msleep(50);
@@ -46,7 +46,7 @@ TEST(SignedInstallerTest, OnlyWhatTheProgramsOwnSignerSignedIsStarted) {
     const LogCapture log;
     EXPECT_EQ(starter->obstacle(), std::nullopt);
     EXPECT_EQ(starter->start(folder.filePath("ours.exe"), "/S /AUTOSTART", kExpected), std::nullopt);
-    EXPECT_EQ(toldBy(folder.filePath("ours.exe")).toLower(), "/s /autostart in c:\\windows\\system32");
+    EXPECT_EQ(argumentsOf(folder.filePath("ours.exe")).toLower(), "/s /autostart in c:\\windows\\system32");
     for (const char* refused : {"others.exe", "changed.exe", "unsigned.exe"})
         EXPECT_EQ(starter->start(folder.filePath(refused), "/S", kExpected), UpdateFailure::NotTrusted) << refused;
     for (const char* refused : {"old.exe", "product.exe"})
@@ -63,7 +63,7 @@ TEST(SignedInstallerTest, TheFileIsHeldUntilTheInstallerEnds) {
     ASSERT_TRUE(canBeWritten(installer));
     ASSERT_TRUE(canBeRenamed(installer));
     ASSERT_EQ(systemInstallerStarter()->start(installer, "/S", kExpected), std::nullopt);
-    ASSERT_FALSE(toldBy(installer).isEmpty());
+    ASSERT_FALSE(argumentsOf(installer).isEmpty());
     EXPECT_FALSE(canBeWritten(installer));
     EXPECT_FALSE(canBeRenamed(installer));
     EXPECT_FALSE(QFile::remove(installer));

@@ -1,8 +1,9 @@
-// The ways to end the program: saving, leaving, and an error.
-#include "app/GlobalManager.h"
+#include "app/ProgramEnding.h"
+
 #include "app/InterfaceTexts.h"
 #include "app/ShutdownBlock.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLocale>
 #include <QQuickWindow>
@@ -20,24 +21,21 @@ constexpr const char* kSavingText = "Storing the calibration in the camera…"; 
 
 }  // namespace
 
-void GlobalManager::slot_saveAndQuit() {
-    saveAndQuit(Storing::WithRefinement);
+void ProgramEnding::setUp(QQuickWindow* window, std::unique_ptr<ProcessingThread> thread) {
+    window_ = window;
+    thread_ = std::move(thread);
 }
 
-void GlobalManager::slot_storeFirstCameraAndQuit() {
-    saveAndQuit(Storing::OnlyAccepted);
-}
-
-void GlobalManager::saveAndQuit(Storing storing) {
-    if (ending_ || !hasPowerToSave() || !beginEnding()) return;
+void ProgramEnding::saveAndQuit(Storing storing) {
+    if (begun_ || !hasPowerToSave() || !begin()) return;
     const ShutdownBlock block(window_, QCoreApplication::translate("SavingScreen", kSavingText));
     endProcessing(Stop::ToSave);
-    const LeaveReport report = workflow_.save(storing);
-    const bool quiet = finishEnding("slot_saveAndQuit", report);
-    if (!report.stored && !report.told) {
+    const LeaveReport report = parts_.workflow.save(storing);
+    const bool quiet = finish("slot_saveAndQuit", report);
+    if (!report.stored && !report.reported) {
         // Nothing on the disk will say so at the next start.
         exitCode_ = 1;
-        environment_.showCritical(kErrorTitle, interfaceText(texts::kLastSaveFailed));
+        parts_.environment.showCritical(kErrorTitle, interfaceText(texts::kLastSaveFailed));
     }
     if (!report.stored || !quiet) {
         QCoreApplication::quit();
@@ -46,105 +44,105 @@ void GlobalManager::saveAndQuit(Storing storing) {
     showSaved();
 }
 
-void GlobalManager::showSaved() {
-    functions_.showStoredFacts(storedFacts());
-    emit signal_saveCalibrationText(interfaceText(texts::kSaved));
+void ProgramEnding::showSaved() {
+    parts_.functions.showStoredFacts(storedFacts());
+    parts_.showSaveText(interfaceText(texts::kSaved));
     savedShown_.start();
-    QTimer::singleShot(environment_.savedShownFor, this, &QCoreApplication::quit);
+    QTimer::singleShot(parts_.environment.savedShownFor, this, &QCoreApplication::quit);
 }
 
 /// Otherwise nothing has happened yet: the user is told, and may try again.
-bool GlobalManager::hasPowerToSave() {
-    if (sufficesToWrite(environment_.power())) return true;
-    qWarning("No save begins: the battery holds less than %d %% and is not being charged.", kLeastBatteryPercent);
-    environment_.showCritical(texts::kProgramName, interfaceText(texts::kBatteryLow));
-    functions_.cancelSaving();
-    if (failed_) functions_.offerFirstCamera();
+bool ProgramEnding::hasPowerToSave() {
+    if (sufficesToWrite(parts_.environment.power())) return true;
+    qWarning("No save begins: the battery holds less than %d %% and is not being charged.", kMinBatteryPercent);
+    parts_.environment.showCritical(texts::kProgramName, interfaceText(texts::kBatteryLow));
+    parts_.functions.cancelSaving();
+    if (failed_) parts_.functions.offerFirstCamera();
     return false;
 }
 
 /// One line for each stored camera. A save is confirmed only when the module has reported these rotations.
-QStringList GlobalManager::storedFacts() const {
+QStringList ProgramEnding::storedFacts() const {
     QStringList facts;
-    const CalibrationRecords& records = workflow_.records();
+    const CalibrationRecords& records = parts_.workflow.records();
     for (const ColourCamera camera : kColourCameras) {
         const std::optional<Rotation> accepted = records.accepted(camera);
         if (!accepted) continue;
         const std::array<double, 3> turn = foundTurn(records.factory(camera), *accepted, {}).anglesDeg;
         const QString degrees = QLocale().toString(std::hypot(turn[0], turn[1], turn[2]), 'f', 2);
-        const char* name = camera == ColourCamera::Platform  ? texts::kSecondCamera
-                           : bridge_.platformCameraPresent() ? texts::kFirstCamera
-                                                             : texts::kOnlyCamera;
+        const char* name = camera == ColourCamera::Platform        ? texts::kSecondCamera
+                           : parts_.bridge.platformCameraPresent() ? texts::kFirstCamera
+                                                                   : texts::kOnlyCamera;
         facts += interfaceText(texts::kStoredFact).arg(interfaceText(name), degrees);
     }
     return facts;
 }
 
 /// A second tap on the button that has stored the calibration does not count.
-bool GlobalManager::isTouchOnSaved(const QEvent& event) const {
+bool ProgramEnding::isTouchOnSaved(const QEvent& event) const {
     constexpr qint64 kSecondTapMs = 700;
     const bool touch = event.type() == QEvent::MouseButtonPress || event.type() == QEvent::TouchBegin ||
                        event.type() == QEvent::KeyPress;
     return touch && savedShown_.isValid() && savedShown_.elapsed() > kSecondTapMs;
 }
 
-void GlobalManager::slot_userAskedToExit() {
-    if (!beginEnding()) return;
+void ProgramEnding::leave() {
+    if (!begin()) return;
     endProcessing(Stop::ToLeave);
-    finishEnding("slot_userAskedToExit", workflow_.leave());
+    finish("slot_userAskedToExit", parts_.workflow.leave());
     QCoreApplication::quit();
 }
 
-void GlobalManager::slot_getKXAPIErrorAndQuit(const QString& message) {
-    if (ending_ || std::exchange(failed_, true)) return;
+void ProgramEnding::failWith(const QString& message) {
+    if (begun_ || std::exchange(failed_, true)) return;
     exitCode_ = 1;
-    const bool storable = workflow_.records().anyAccepted();
-    if (!storable) beginEnding();
+    const bool storable = parts_.workflow.records().anyAccepted();
+    if (!storable) begin();
     endProcessing(storable ? Stop::ToSave : Stop::ToLeave);
-    updates_.release();  // an update must not be installed while the message is shown
-    if (!storable) stayAwake(false);
-    environment_.showCritical(kErrorTitle, message);
+    parts_.updates.release();  // an update must not be installed while the message is shown
+    if (!storable) parts_.allowSleep();
+    parts_.environment.showCritical(kErrorTitle, message);
     if (storable) {
-        functions_.offerFirstCamera();
+        parts_.functions.offerFirstCamera();
         return;
     }
-    workflow_.leave();
+    parts_.workflow.leave();
     QCoreApplication::quit();
 }
 
-bool GlobalManager::beginEnding() {
-    if (ending_) return false;
-    ending_ = true;
+bool ProgramEnding::begin() {
+    if (begun_) return false;
+    begun_ = true;
     window_->installEventFilter(this);
     return true;
 }
 
-void GlobalManager::endProcessing(Stop stop) {
-    bridge_.stopWaiting();
+void ProgramEnding::endProcessing(Stop stop) {
+    parts_.bridge.stopWaiting();
     if (thread_ == nullptr) return;
     thread_->stop(stop);
     thread_.reset();
 }
 
-void GlobalManager::closeCamera() {
-    beginEnding();
+void ProgramEnding::closeCamera() {
+    begin();
     endProcessing(Stop::ToLeave);
-    workflow_.leave();
-    updates_.release();
-    stayAwake(false);
+    parts_.workflow.leave();
+    parts_.updates.release();
+    parts_.allowSleep();
 }
 
-bool GlobalManager::finishEnding(const char* who, const LeaveReport& report) {
+bool ProgramEnding::finish(const char* who, const LeaveReport& report) {
     qInfo("%s - cleaning up resources", who);
-    updates_.release();
-    stayAwake(false);
+    parts_.updates.release();
+    parts_.allowSleep();
     if (report.closingErrors.isEmpty()) return true;
     exitCode_ = 1;
-    environment_.showCritical(kErrorTitle, report.closingErrors.join('\n'));
+    parts_.environment.showCritical(kErrorTitle, report.closingErrors.join('\n'));
     return false;
 }
 
-bool GlobalManager::eventFilter(QObject* watched, QEvent* event) {
+bool ProgramEnding::eventFilter(QObject* watched, QEvent* event) {
     if (isTouchOnSaved(*event)) QCoreApplication::quit();
     switch (event->type()) {
         case QEvent::MouseButtonPress:
@@ -159,7 +157,7 @@ bool GlobalManager::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::KeyRelease:
             return true;
         default:
-            return QApplication::eventFilter(watched, event);
+            return QObject::eventFilter(watched, event);
     }
 }
 

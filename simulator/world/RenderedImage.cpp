@@ -1,4 +1,4 @@
-#include "simulator/world/Picture.h"
+#include "simulator/world/RenderedImage.h"
 
 #include <opencv2/imgproc.hpp>
 
@@ -13,7 +13,7 @@ namespace {
 
 /// Relative difference between neighbours above which a pixel is supersampled: slightly above the noise of the sensors.
 /// Materials that filter their own details need supersampling only at shadows and outlines.
-constexpr float plainLimit = 0.04F, smoothLimit = 0.4F;
+constexpr float kPlainLimit = 0.04F, kSmoothLimit = 0.4F;
 
 cv::Mat_<cv::Vec2f> middleRays(const synthesis::RayGrid& grid, const cv::Vec2f& offset) {
     cv::Mat_<cv::Vec2f> middle(grid.rays.rows / grid.samplesPerPixel, grid.rays.cols / grid.samplesPerPixel);
@@ -23,9 +23,9 @@ cv::Mat_<cv::Vec2f> middleRays(const synthesis::RayGrid& grid, const cv::Vec2f& 
     return middle;
 }
 
-class PictureRenderer {
+class ImageRenderer {
 public:
-    PictureRenderer(const World& world, const synthesis::RayGrid& grid, const Shot& shot)
+    ImageRenderer(const World& world, const synthesis::RayGrid& grid, const Shot& shot)
         : world_(world),
           grid_(grid),
           offset_(shot.offset),
@@ -38,20 +38,20 @@ public:
           spread_(spacing()),
           first_(middle_.total()) {}
 
-    Picture render() {
-        picture_.light.create(middle_.size());
-        picture_.depth.create(middle_.size());
-        picture_.reflected.create(middle_.size());
-        picture_.light.setTo(0);
-        picture_.depth.setTo(0);
-        picture_.reflected.setTo(0);
-        const auto everyRow = [this](void (PictureRenderer::*step)(int)) {
+    RenderedImage render() {
+        image_.light.create(middle_.size());
+        image_.depth.create(middle_.size());
+        image_.reflected.create(middle_.size());
+        image_.light.setTo(0);
+        image_.depth.setTo(0);
+        image_.reflected.setTo(0);
+        const auto renderRows = [this](void (ImageRenderer::*step)(int)) {
             forEachRow(
                 middle_.rows, [&](int y) { (this->*step)(y); }, interruption_);
         };
-        everyRow(&PictureRenderer::sampleOnce);
-        if (grid_.samplesPerPixel > 1) everyRow(&PictureRenderer::supersample);
-        return std::move(picture_);
+        renderRows(&ImageRenderer::sampleOnce);
+        if (grid_.samplesPerPixel > 1) renderRows(&ImageRenderer::supersample);
+        return std::move(image_);
     }
 
 private:
@@ -74,11 +74,11 @@ private:
 
     /// Takes one sample for every pixel of a row.
     void sampleOnce(int y) {
-        std::array<Sample, Rays::most> samples;
-        for (int x = 0; x < middle_.cols; x += Rays::most) {
+        std::array<Sample, Rays::kCount> samples;
+        for (int x = 0; x < middle_.cols; x += Rays::kCount) {
             Rays rays;
             rays.seconds = seconds_;
-            for (int i = x; i < std::min(x + Rays::most, middle_.cols); ++i)
+            for (int i = x; i < std::min(x + Rays::kCount, middle_.cols); ++i)
                 rays.add(centre_, towards(middle_(y, i)));
             world_.trace(rays, spread_, samples.data());
             for (int i = 0; i < rays.count; ++i)
@@ -89,16 +89,16 @@ private:
     void keep(int y, int x, const Sample& s) {
         const cv::Vec2f& ray = middle_(y, x);
         const cv::Vec4f light = asVector(s.radiance);
-        picture_.light(y, x) = light;
-        picture_.depth(y, x) = std::isinf(s.distance) ? 0 : s.distance / std::sqrt(1 + ray.dot(ray));
-        picture_.reflected(y, x) = s.mirror ? 255 : 0;
+        image_.light(y, x) = light;
+        image_.depth(y, x) = std::isinf(s.distance) ? 0 : s.distance / std::sqrt(1 + ray.dot(ray));
+        image_.reflected(y, x) = s.mirror ? 255 : 0;
         first_[indexOf(y, x)] = {light.dot(bands_), s.material, s.normal, s.sunlit, s.smooth};
     }
 
     static bool alike(const FirstSample& a, const FirstSample& b) {
         if (a.material != b.material || a.sunlit != b.sunlit) return false;
         const bool smooth = a.smooth && b.smooth && (a.material < 0 || a.normal.dot(b.normal) > 0.98F);
-        const float limit = smooth ? smoothLimit : plainLimit;
+        const float limit = smooth ? kSmoothLimit : kPlainLimit;
         return std::abs(a.level - b.level) <= limit * 0.5F * (a.level + b.level);
     }
 
@@ -114,24 +114,24 @@ private:
     void supersample(int y) {
         Rays rays;
         rays.seconds = seconds_;
-        std::array<int, Rays::most> owner{};
+        std::array<int, Rays::kCount> owner{};
         const int n = grid_.samplesPerPixel, middle = n % 2 == 1 ? n * n / 2 : -1;
         const float share = 1.0F / static_cast<float>(middle < 0 ? n * n + 1 : n * n);
         const auto flush = [&] {
-            std::array<Sample, Rays::most> samples;
+            std::array<Sample, Rays::kCount> samples;
             world_.trace(rays, spread_ / static_cast<float>(n), samples.data());
             for (int i = 0; i < rays.count; ++i)
-                picture_.light(y, owner[i]) += asVector(samples[i].radiance) * share;
+                image_.light(y, owner[i]) += asVector(samples[i].radiance) * share;
             rays.count = 0;
         };
         for (int x = 0; x < middle_.cols; ++x) {
             if (isPlain(y, x)) continue;
-            picture_.light(y, x) *= share;
+            image_.light(y, x) *= share;
             for (int k = 0; k < n * n; ++k) {
                 if (k == middle) continue;
                 owner[rays.count] = x;
                 rays.add(centre_, towards(grid_.rays(y * n + k / n, x * n + k % n) + offset_));
-                if (rays.count == Rays::most) flush();
+                if (rays.count == Rays::kCount) flush();
             }
         }
         flush();
@@ -148,7 +148,7 @@ private:
     cv::Vec4f bands_;
     float spread_;
     std::vector<FirstSample> first_;
-    Picture picture_;
+    RenderedImage image_;
 };
 
 }  // namespace
@@ -180,12 +180,11 @@ void forEachRow(int rows, const std::function<void(int)>& row, Interruption* int
         helper.wait();
 }
 
-Picture takePicture(const World& world, const synthesis::RayGrid& grid, const Shot& shot) {
-    Picture picture = PictureRenderer(world, grid, shot).render();
+RenderedImage renderImage(const World& world, const synthesis::RayGrid& grid, const Shot& shot) {
+    RenderedImage image = ImageRenderer(world, grid, shot).render();
     if (shot.lensSigma > 0)
-        cv::GaussianBlur(picture.light, picture.light, cv::Size(), shot.lensSigma, shot.lensSigma,
-                         cv::BORDER_REPLICATE);
-    return picture;
+        cv::GaussianBlur(image.light, image.light, cv::Size(), shot.lensSigma, shot.lensSigma, cv::BORDER_REPLICATE);
+    return image;
 }
 
 }  // namespace fieldcal::world

@@ -17,7 +17,7 @@ namespace fieldcal {
 /// Converts the rear camera's newest NV12 image into the colour record: colour conversion, rectification, scaling. Each
 /// image is converted once; without a new image the record keeps its content. It turns black when there never was an
 /// image, or when none arrived during a second of grabbing.
-class PlatformPicture {
+class PlatformImage {
 public:
     using Clock = std::chrono::steady_clock;
 
@@ -36,14 +36,14 @@ public:
     Clock::time_point arrived() const { return arrived_; }
 
     /// Returns whether the camera has delivered images, and then none during some seconds of grabbing.
-    bool hasDied() const;
+    bool hasFailed() const;
 
     /// Scales the image of the last `fetch` into the record if it is new. Has no effect for an implausible size.
     void deliver(std::int32_t width, std::int32_t height, ImageFrame32* record);
 
 private:
     bool take(CPlatformCameraControl& camera);
-    void countSilence(Clock::time_point now);
+    void accumulateSilence(Clock::time_point now);
     void blacken();
 
     const std::uint8_t* nv12_ = nullptr;

@@ -1,6 +1,6 @@
-#include "simulator/handheld/ViewMaker.h"
+#include "simulator/handheld/KeyframePrefetcher.h"
 
-#include "simulator/handheld/Studio.h"
+#include "simulator/handheld/KeyframeRenderer.h"
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -16,10 +16,10 @@ void yieldToOthers() {
 
 }  // namespace
 
-ViewMaker::ViewMaker(std::string world, std::uint64_t seed, const synthesis::Rig& rig, bool ahead)
+KeyframePrefetcher::KeyframePrefetcher(std::string world, std::uint64_t seed, const synthesis::Rig& rig, bool ahead)
     : world_(std::move(world)), seed_(seed), rig_(rig), ahead_(ahead), thread_([this] { work(); }) {}
 
-ViewMaker::~ViewMaker() {
+KeyframePrefetcher::~KeyframePrefetcher() {
     {
         const std::lock_guard<std::mutex> lock(mutex_);
         stop_ = true;
@@ -29,7 +29,7 @@ ViewMaker::~ViewMaker() {
     thread_.join();
 }
 
-void ViewMaker::request(int number, bool withPlatform) {
+void KeyframePrefetcher::request(int number, bool withPlatform) {
     const std::lock_guard<std::mutex> lock(mutex_);
     if (number == wanted_.number && withPlatform == wanted_.withPlatform) return;
     wanted_ = {number, withPlatform};
@@ -37,19 +37,20 @@ void ViewMaker::request(int number, bool withPlatform) {
     changed_.notify_all();
 }
 
-std::shared_ptr<const Keyframe> ViewMaker::view(int number, bool withPlatform, std::chrono::milliseconds patience) {
+std::shared_ptr<const Keyframe> KeyframePrefetcher::view(int number, bool withPlatform,
+                                                         std::chrono::milliseconds patience) {
     std::unique_lock<std::mutex> lock(mutex_);
     if (!changed_.wait_for(lock, patience, [&] { return isMade(number, withPlatform); })) return nullptr;
     return made_.at(number);
 }
 
-bool ViewMaker::isMade(int number, bool withPlatform) const {
+bool KeyframePrefetcher::isMade(int number, bool withPlatform) const {
     const auto found = made_.find(number);
     return found != made_.end() && (!withPlatform || !found->second->moments.front().view.platform.empty());
 }
 
 /// Waits for a keyframe to render; returns false when the object is being destroyed.
-bool ViewMaker::nextOrder(Order* order) {
+bool KeyframePrefetcher::nextOrder(Order* order) {
     std::unique_lock<std::mutex> lock(mutex_);
     for (;;) {
         if (stop_) return false;
@@ -62,12 +63,12 @@ bool ViewMaker::nextOrder(Order* order) {
     }
 }
 
-void ViewMaker::work() {
+void KeyframePrefetcher::work() {
     if (ahead_) yieldToOthers();
-    Studio studio(world_, seed_, rig_);
+    KeyframeRenderer renderer(world_, seed_, rig_);
     Order order{};
     while (nextOrder(&order)) {
-        auto view = studio.make(order.number, order.withPlatform, &interruption_);
+        auto view = renderer.render(order.number, order.withPlatform, &interruption_);
         const std::lock_guard<std::mutex> lock(mutex_);
         made_[order.number] = std::move(view);
         changed_.notify_all();

@@ -110,11 +110,11 @@ bool writePlatform(const std::string& name, const std::vector<std::uint8_t>& nv1
 
 }  // namespace
 
-bool readPictures(const std::string& folder, const SessionDescription& session, std::size_t frameIndex,
-                  FramePictures* out, std::string* why) {
+bool readImages(const std::string& folder, const SessionDescription& session, std::size_t frameIndex, FrameImages* out,
+                std::string* why) {
     if (frameIndex >= session.frames.size()) return refuse(why, folder, {}, "no such frame");
     const FrameFiles files = frameFiles(folder, session, frameIndex);
-    FramePictures read;
+    FrameImages read;
     if (!readInfrared(files.infrared, &read.infrared, why) || !readColourPng(files.third, &read.third, why)) {
         return false;
     }
@@ -125,7 +125,7 @@ bool readPictures(const std::string& folder, const SessionDescription& session, 
     return true;
 }
 
-bool checkPictureFiles(const std::string& folder, const SessionDescription& session, std::string* why) {
+bool checkImageFiles(const std::string& folder, const SessionDescription& session, std::string* why) {
     for (std::size_t i = 0; i < session.frames.size(); ++i) {
         if (!checkFrame(frameFiles(folder, session, i), why)) return false;
     }
@@ -135,25 +135,24 @@ bool checkPictureFiles(const std::string& folder, const SessionDescription& sess
 bool verify(const std::string& folder, std::string* why) {
     SessionDescription session;
     if (!readDescription(folder, &session, why)) return false;
-    FramePictures pictures;
+    FrameImages images;
     for (std::size_t i = 0; i < session.frames.size(); ++i) {
-        if (!readPictures(folder, session, i, &pictures, why)) return false;
+        if (!readImages(folder, session, i, &images, why)) return false;
     }
     return true;
 }
 
-bool writePictures(const std::string& folder, const FrameEntry& entry, const FramePictures& pictures,
-                   std::string* why) {
+bool writeImages(const std::string& folder, const FrameEntry& entry, const FrameImages& images, std::string* why) {
     if (!makeFolder(folder, why)) return false;
     const std::string prefix = folder + "/";
-    if (!writeGreyPng(prefix + entry.infrared, pictures.infrared, why)) return false;
-    if (!writeColourPng(prefix + entry.third, pictures.third, why)) return false;
-    if (!entry.depth.empty() && !writeGreyPng(prefix + entry.depth, pictures.depth, why)) return false;
-    if (!entry.right.empty() && !writeGreyPng(prefix + entry.right, pictures.right, why)) return false;
-    return entry.platform.empty() || writePlatform(prefix + entry.platform, pictures.platform, why);
+    if (!writeGreyPng(prefix + entry.infrared, images.infrared, why)) return false;
+    if (!writeColourPng(prefix + entry.third, images.third, why)) return false;
+    if (!entry.depth.empty() && !writeGreyPng(prefix + entry.depth, images.depth, why)) return false;
+    if (!entry.right.empty() && !writeGreyPng(prefix + entry.right, images.right, why)) return false;
+    return entry.platform.empty() || writePlatform(prefix + entry.platform, images.platform, why);
 }
 
-bool syncPictures(const std::string& folder, const SessionDescription& session, std::string* why) {
+bool syncImages(const std::string& folder, const SessionDescription& session, std::string* why) {
     std::vector<std::string> names;
     for (const FrameEntry& frame : session.frames) {
         for (const std::string& name : {frame.infrared, frame.third, frame.depth, frame.right, frame.platform}) {

@@ -20,7 +20,7 @@ std::string missingFile() {
     return file.open(QIODevice::ReadOnly) ? "" : file.errorString().toStdString();
 }
 
-class PictureRefusal : public SessionFolder {
+class ImageRefusal : public SessionFolder {
 protected:
     void expectRefused(const std::string& file, const std::string& key, const std::string& reason) {
         std::string why;
@@ -49,15 +49,15 @@ QImage colour(int width, int height, QImage::Format format, const QColor& fill =
 }
 
 /// An image of the session, the expected message, and its replacement: another image, or its own bytes changed.
-struct BadPicture {
+struct BadImage {
     std::string file;
     std::string key;
     std::string reason;
-    QImage picture;
+    QImage image;
     std::function<void(QByteArray*)> change = {};
 };
 
-const BadPicture kBadPictures[] = {
+const BadImage kBadImages[] = {
     {"a_infrared.png", "frames[0].infrared", "the picture is 4 x 6, not 6 x 4", grey(4, 6, 0)},
     {"a_infrared.png", "frames[0].infrared", "value 1024 above 1023 at x 5, y 3", grey(6, 4, 1024)},
     {"a_infrared.png", "frames[0].infrared", "not a 16-bit grey picture", colour(6, 4, QImage::Format_Grayscale8)},
@@ -77,28 +77,28 @@ const BadPicture kBadPictures[] = {
     {"a_platform.nv12", "frames[0].platform", "1382399 bytes, not 1382400", {}, [](auto* bytes) { bytes->chop(1); }},
 };
 
-TEST_F(PictureRefusal, BadPicturesAreNamedByFileKeyAndReason) {
-    for (const BadPicture& bad : kBadPictures) {
+TEST_F(ImageRefusal, BadImagesAreNamedByFileKeyAndReason) {
+    for (const BadImage& bad : kBadImages) {
         SCOPED_TRACE(bad.file + ": " + bad.reason);
-        const QByteArray whole = readFile(path(bad.file));
-        QByteArray bytes = whole;
+        const QByteArray original = readFile(path(bad.file));
+        QByteArray bytes = original;
         if (bad.change) bad.change(&bytes);
         if (bad.change) writeFile(path(bad.file), bytes);
-        if (!bad.change) save(path(bad.file), bad.picture);
+        if (!bad.change) save(path(bad.file), bad.image);
         expectRefused(bad.file, bad.key, bad.reason);
-        writeFile(path(bad.file), whole);
+        writeFile(path(bad.file), original);
     }
     std::string why;
-    EXPECT_TRUE(verify(folder, &why) && checkPictureFiles(folder, session, &why)) << why;
+    EXPECT_TRUE(verify(folder, &why) && checkImageFiles(folder, session, &why)) << why;
     save(path("b_third.png"), colour(8, 7, QImage::Format_RGB32));
-    EXPECT_FALSE(checkPictureFiles(folder, session, &why)) << "sizes are seen without decoding";
+    EXPECT_FALSE(checkImageFiles(folder, session, &why)) << "sizes are seen without decoding";
     EXPECT_THAT(why, HasSubstr("b_third.png: frames[1].third: the picture is 8 x 7, not 8 x 6"));
 }
 
-TEST_F(PictureRefusal, OnlyRegularFilesAreOpened) {
+TEST_F(ImageRefusal, OnlyRegularFilesAreOpened) {
     for (const char* file : {"session.json", "a_platform.nv12", "b_third.png", "a_infrared.png", "a_right.png"}) {
         SCOPED_TRACE(file);
-        const QByteArray whole = readFile(path(file));
+        const QByteArray original = readFile(path(file));
         const QString name = QString::fromStdString(path(file));
         std::string why;
         ASSERT_TRUE(QFile::remove(name));
@@ -108,22 +108,22 @@ TEST_F(PictureRefusal, OnlyRegularFilesAreOpened) {
         EXPECT_FALSE(verify(folder, &why));
         EXPECT_THAT(why, HasSubstr("not a regular file"));
         ASSERT_TRUE(QDir().rmdir(name));
-        writeFile(path(file), whole);
+        writeFile(path(file), original);
     }
 }
 
-TEST_F(PictureRefusal, ThePlatformPictureHasTheRearCamerasSize) {
+TEST_F(ImageRefusal, ThePlatformImageHasTheRearCamerasSize) {
     session.frames[0].platform = "p.png";
     save(path("p.png"), colour(640, 480, QImage::Format_RGB32));
-    FramePictures pictures;
+    FrameImages images;
     std::string why;
-    EXPECT_FALSE(readPictures(folder, session, 0, &pictures, &why));
+    EXPECT_FALSE(readImages(folder, session, 0, &images, &why));
     EXPECT_THAT(why, HasSubstr("p.png: frames[0].platform: the picture is 640 x 480, not 1280 x 720"));
     save(path("p.png"), colour(1280, 720, QImage::Format_RGB32, Qt::red));
-    ASSERT_TRUE(readPictures(folder, session, 0, &pictures, &why)) << why;
-    EXPECT_EQ(pictures.platform[0], 81);                             // BT.601 luma of pure red
-    EXPECT_EQ(pictures.platform[std::size_t{1280} * 720 + 1], 240);  // its V
-    EXPECT_FALSE(readPictures(folder, session, 2, &pictures, &why));
+    ASSERT_TRUE(readImages(folder, session, 0, &images, &why)) << why;
+    EXPECT_EQ(images.platform[0], 81);                             // BT.601 luma of pure red
+    EXPECT_EQ(images.platform[std::size_t{1280} * 720 + 1], 240);  // its V
+    EXPECT_FALSE(readImages(folder, session, 2, &images, &why));
 }
 
 }  // namespace

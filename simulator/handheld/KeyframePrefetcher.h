@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/handheld/Studio.h"
+#include "simulator/handheld/KeyframeRenderer.h"
 
 #include <chrono>
 #include <condition_variable>
@@ -14,13 +14,13 @@ namespace fieldcal::handheld {
 
 /// Builds a world and renders the keyframes of a hand ahead of time, on its own thread. The other members may be called
 /// from one thread. The destructor stops the rendering.
-class ViewMaker {
+class KeyframePrefetcher {
 public:
     /// `ahead`: keyframes are rendered while others are shown, with a lower priority than showing them.
-    ViewMaker(std::string world, std::uint64_t seed, const synthesis::Rig& rig, bool ahead);
-    ~ViewMaker();
-    ViewMaker(const ViewMaker&) = delete;
-    ViewMaker& operator=(const ViewMaker&) = delete;
+    KeyframePrefetcher(std::string world, std::uint64_t seed, const synthesis::Rig& rig, bool ahead);
+    ~KeyframePrefetcher();
+    KeyframePrefetcher(const KeyframePrefetcher&) = delete;
+    KeyframePrefetcher& operator=(const KeyframePrefetcher&) = delete;
 
     /// Requests a keyframe; the following one is rendered next. Earlier ones may be discarded.
     void request(int number, bool withPlatform);

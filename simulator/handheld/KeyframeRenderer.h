@@ -19,17 +19,17 @@ struct Keyframe {
 };
 
 /// Returns the images of a keyframe in full light without tremor. The same `noise` gives the same bytes.
-session::FramePictures takeStill(const Keyframe& seen, std::uint64_t noise);
+session::FrameImages takeStill(const Keyframe& seen, std::uint64_t noise);
 
 /// Renders the keyframes of a hand that moves the cameras through a world. One thread.
-class Studio {
+class KeyframeRenderer {
 public:
     /// Builds the world, one of `world::worldNames()`, which takes about a second. `rig` must carry the true rotations.
-    Studio(const std::string& world, std::uint64_t seed, const synthesis::Rig& rig);
+    KeyframeRenderer(const std::string& world, std::uint64_t seed, const synthesis::Rig& rig);
 
     /// Renders a keyframe by its number, counted from 0, on all processors. Once `interruption` (may be null) has
     /// ended, it returns soon with an incomplete keyframe.
-    std::shared_ptr<const Keyframe> make(int number, bool withPlatform, world::Interruption* interruption = nullptr);
+    std::shared_ptr<const Keyframe> render(int number, bool withPlatform, world::Interruption* interruption = nullptr);
 
 private:
     std::uint64_t seed_;

@@ -28,7 +28,7 @@ struct Shot {
     cv::Vec2f offset{0, 0};                ///< offset of all rays (x/z, y/z) from those of the grid
 };
 
-struct Picture {
+struct RenderedImage {
     cv::Mat_<cv::Vec4f> light;         ///< mean radiance over every pixel: red, green, blue, infrared
     cv::Mat_<float> depth;             ///< metres along the axis at the centre of every pixel; 0 for the sky
     cv::Mat_<std::uint8_t> reflected;  ///< 255 where the centre of a pixel shows a reflection
@@ -39,7 +39,7 @@ cv::Vec2f middleRay(const synthesis::RayGrid& grid, int x, int y);
 
 /// Renders an image. Pixels that differ from their neighbours are supersampled on the grid; all others take one sample
 /// in the centre. Rendering uses all processors; the result does not depend on their number.
-Picture takePicture(const World& world, const synthesis::RayGrid& grid, const Shot& shot);
+RenderedImage renderImage(const World& world, const synthesis::RayGrid& grid, const Shot& shot);
 
 /// Calls `row` for 0 … rows − 1 on all processors, in no particular order. Returns when all calls have been made, or
 /// earlier and incomplete when `interruption` (may be null) ends.
