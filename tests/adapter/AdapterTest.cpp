@@ -9,11 +9,11 @@ namespace {
 class AdapterTest : public ModuleRig {};
 
 TEST_F(AdapterTest, PicturesAndCalibrationArriveAsTheModuleHasThem) {
-    session::SessionDescription session;
+    session::SessionDescription recorded;
     std::string why;
-    ASSERT_TRUE(session::readDescription(folder, &session, &why)) << why;
+    ASSERT_TRUE(session::readDescription(folder, &recorded, &why)) << why;
     session::FrameImages images;
-    ASSERT_TRUE(session::readImages(folder, session, 0, &images, &why)) << why;
+    ASSERT_TRUE(session::readImages(folder, recorded, 0, &images, &why)) << why;
     reopen();
     ASSERT_TRUE(sensor->grab(true));
     Dl_info found{};
@@ -29,15 +29,15 @@ TEST_F(AdapterTest, PicturesAndCalibrationArriveAsTheModuleHasThem) {
     EXPECT_TRUE(same(device.depthImage(), images.depth));
     EXPECT_TRUE(same(sensor->thirdCamera()->thirdImage(), images.third));
 
-    EXPECT_EQ(parameters.infrared.cx, static_cast<float>(session.infrared.cx));
+    EXPECT_EQ(parameters.infrared.cx, static_cast<float>(recorded.infrared.cx));
     for (std::size_t i = 0; i < 3; ++i)
         EXPECT_FLOAT_EQ(parameters.colour[ColourCamera::Third].fromDepth.translation[i],
-                        static_cast<float>(session.third.translation[i] / 1000));
+                        static_cast<float>(recorded.third.translation[i] / 1000));
     for (std::size_t i = 0; i < 9; ++i) {
-        EXPECT_NEAR(parameters.colour[ColourCamera::Third].fromDepth.rotation[i], session.third.rotation[i], 1e-6);
-        EXPECT_NEAR(device.platformCamera()->rectificationRotation()[i], session.platform->rectification[i], 1e-12);
+        EXPECT_NEAR(parameters.colour[ColourCamera::Third].fromDepth.rotation[i], recorded.third.rotation[i], 1e-6);
+        EXPECT_NEAR(device.platformCamera()->rectificationRotation()[i], recorded.platform->rectification[i], 1e-12);
     }
-    EXPECT_EQ(sensor->platformCalibration().kPlatformNonRectIntr.k3, static_cast<float>(session.platform->raw.k3));
+    EXPECT_EQ(sensor->platformCalibration().kPlatformNonRectIntr.k3, static_cast<float>(recorded.platform->raw.k3));
 }
 
 }  // namespace
