@@ -104,7 +104,7 @@ bool synthesize(const std::string& folder, const SynthesisOptions& options,
     session::FrameImages still;
     int view = 0;
     for (int i = 0; i < options.stills; ++i) {
-        const session::FrameImages before = std::move(still);
+        const session::FrameImages before = std::exchange(still, {});
         bool changes = false;
         for (int tried = 0; tried < kMaxViews; ++tried) {
             const std::uint64_t noise = synthesis::mixBits(options.seed) + static_cast<unsigned>(view);
