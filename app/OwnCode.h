@@ -18,7 +18,7 @@ bool mayNameCode(const QString& variable);
 void clearVariablesThatNameCode();
 
 /// Where the program may have more rights than its caller, removes these variables and all arguments, of which it has
-/// none of its own, and has Qt search for plugins only in the program's folder. To be called before anything else.
+/// none of its own, and has Qt search for plugins only in the program's folder. To be called before Qt loads anything.
 void allowOnlyOwnCode(int& argc, char** argv);
 
 /// Has the engine search for modules only in the program's folder, where `allowOnlyOwnCode` does so for plugins.
