@@ -125,11 +125,15 @@ TEST_F(EndingTest, TheConfirmationSaysWhatWasReadBackAndStaysUntilItIsTouched) {
     refineFirst();
     const Eigen::Vector3d found = anglesDeg(*records().estimated(kFirst));
     const double turnDeg = (found - anglesDeg(records().factory(kFirst))).norm();
-    const qint64 milliseconds = runUntilEnd([this] {
+    QTimer later;
+    later.setSingleShot(true);
+    later.setInterval(1000);
+    QObject::connect(&later, &QTimer::timeout, [this] { QTest::mouseClick(manager->window(), Qt::LeftButton); });
+    const qint64 milliseconds = runUntilEnd([&] {
         press("quit");
         EXPECT_EQ(calls().back(), kSaved);
         QTest::mouseClick(manager->window(), Qt::LeftButton);  // a second tap on the button
-        QTimer::singleShot(1000, manager.get(), [this] { QTest::mouseClick(manager->window(), Qt::LeftButton); });
+        later.start();
     });
     EXPECT_GE(milliseconds, 1000);
     EXPECT_LT(milliseconds, 20000);
