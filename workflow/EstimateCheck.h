@@ -17,10 +17,11 @@ struct EstimateCheck {
 };
 
 /// Estimates the rotation of a colour camera from the next frame sets, as a calibration does from its first pair: in
-/// light, and from a pair held still. The tolerance is half the angle between the estimate and the rotation that the
-/// module had before, but at least what a hand-held pair and unknown distances explain. Returns none when
-/// no such pair comes within two seconds of frame sets, or when its matches do not agree on a rotation; failures of the
-/// module are not reported. Switches the emitter off. On the sensor's thread.
+/// light, and from a pair held still, searching about the estimate and about the previous rotation. The tolerance is
+/// half the angle between the estimate and the rotation that the module had before, but at least what a hand-held pair
+/// and unknown distances explain. Returns none when no such pair comes within two seconds of frame sets, or when its
+/// matches do not agree on a rotation; failures of the module are not reported. Switches the emitter off. On the
+/// sensor's thread.
 std::optional<EstimateCheck> checkEstimate(Sensor& sensor, ColourCamera camera, const Rotation& estimate,
                                            double rememberedBaselineM);
 

@@ -20,8 +20,8 @@ struct SynthesisOptions {
 
 /// Renders a session with its true rotations into `folder`, which is created. Equal options give equal files. Each
 /// still shows enough of something else than the one before that a program which waits for movement takes it; where
-/// that is not found within eight views, the eighth is taken. `progress` (may be empty) is called on this thread after
-/// each still. Returns false on failure, with one line in `why`.
+/// that is not found within eight views, or three that hardly differ, the last one is taken. `progress` (may be empty)
+/// is called on this thread after each still. Returns false on failure, with one line in `why`.
 bool synthesize(const std::string& folder, const SynthesisOptions& options,
                 const std::function<void(int done, int total)>& progress, std::string* why);
 
