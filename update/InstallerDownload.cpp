@@ -41,9 +41,14 @@ bool isPassing(QNetworkReply::NetworkError error) {
     }
 }
 
+/// Returns whether it is a strong tag. A weak one does not tell whether a file is the same byte by byte.
+bool isTag(const QByteArray& validator) {
+    return validator.startsWith('"');
+}
+
 QByteArray validatorOf(const QNetworkReply& reply) {
     const QByteArray tag = reply.rawHeader("ETag");
-    return tag.startsWith('"') ? tag : reply.rawHeader("Last-Modified");
+    return isTag(tag) ? tag : reply.rawHeader("Last-Modified");
 }
 
 }  // namespace
@@ -139,7 +144,9 @@ bool InstallerDownload::acceptDownload() {
 bool InstallerDownload::acceptRest() {
     const QByteArray expected = "bytes " + QByteArray::number(resumedFrom_) + '-' + QByteArray::number(total_ - 1) +
                                 '/' + QByteArray::number(total_);
-    if (reply_->rawHeader("Content-Range") == expected) return true;
+    // Some servers send the part although the file has changed, but state what it is a part of.
+    const QByteArray tag = reply_->rawHeader(isTag(validator_) ? "ETag" : "Last-Modified");
+    if (reply_->rawHeader("Content-Range") == expected && (tag.isEmpty() || tag == validator_)) return true;
     validator_.clear();
     tryAgain("another part than was asked for");
     return false;
