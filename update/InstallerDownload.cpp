@@ -20,6 +20,10 @@ int statusOf(const QNetworkReply& reply) {
 constexpr int kOk = 200, kPartialContent = 206;
 constexpr int kRequestTimeout = 408, kRangeRefused = 416, kTooMany = 429, kServerError = 500;
 
+bool isRedirect(int status) {
+    return status / 100 == 3;
+}
+
 /// Returns whether another attempt may succeed after this answer.
 bool isPassing(int status) {
     return status == kRequestTimeout || status == kRangeRefused || status == kTooMany || status >= kServerError;
@@ -92,9 +96,9 @@ void InstallerDownload::receive() {
 }
 
 void InstallerDownload::replyFinished() {
-    const bool answered = statusOf(*reply_) != 0 && reply_->error() != QNetworkReply::InsecureRedirectError &&
-                          reply_->error() != QNetworkReply::TooManyRedirectsError;
-    if (answered) receive();
+    // The status stays that of a redirect when the connection to its target breaks before that has answered.
+    const bool wasRedirected = isRedirect(statusOf(*reply_)) && reply_->error() != QNetworkReply::NoError;
+    if (statusOf(*reply_) != 0 && !wasRedirected) receive();
     if (reply_ == nullptr) return;  // the answer was refused
     if (accepted_ && file_->size() == total_) {
         complete();

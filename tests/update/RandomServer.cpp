@@ -39,7 +39,7 @@ RandomServer::RandomServer(std::uint32_t seed)
       // Of an equal size, only the tag tells the older one from the present one.
       older_(bytes(oneIn(2) ? installer_.size() : 1 + below(kLargestInstaller))),
       tagForm_(oneOf(kTagForms, below(5))),
-      faultsLeft_(truthful_ ? below(4) : kWithoutEnd),
+      faultsLeft_(truthful_ ? below(5) : kWithoutEnd),
       isOld_(faultsLeft_ > 0 && oneIn(3)) {
     server_.answer = [this](const HttpRequest& request) {
         return request.path == "/Version.json" ? answerManifest() : answer(request);
@@ -78,10 +78,11 @@ HttpAnswer RandomServer::redirect(const QUrl& target) const {
 HttpAnswer RandomServer::answer(const HttpRequest& request) {
     const QByteArray& file = isOld_ ? older_ : installer_;
     const int from = static_cast<int>(request.rangeStart());
-    const bool sameFile = request.head.contains("If-Range: " + tagOf(file).mid(tagOf(file).indexOf(' ') + 1));
+    const bool sameFile = !request.head.contains("\r\nIf-Range: ") ||
+                          request.head.contains("\r\nIf-Range: " + tagOf(file).mid(tagOf(file).indexOf(' ') + 1));
     HttpAnswer answer = from >= 0 && from < file.size() && sameFile ? part(file, from) : whole(file);
     // An older file never arrives whole.
-    if (faultsLeft_ == 0 || !(isOld_ || below(4) > (truthful_ ? 1 : 0))) return answer;
+    if (faultsLeft_ == 0 || !(isOld_ || !oneIn(truthful_ ? 3 : 4))) return answer;
     --faultsLeft_;
     if (isOld_ || truthful_ || oneIn(3)) {
         breakDown(&answer, request);
@@ -94,19 +95,18 @@ HttpAnswer RandomServer::answer(const HttpRequest& request) {
 /// Faults in which everything that is stated is correct.
 void RandomServer::breakDown(HttpAnswer* answer, const HttpRequest& request) {
     const bool wasOld = std::exchange(isOld_, false);
-    const int kind = wasOld ? below(2) : below(8);
-    if (kind < 2) {
+    const int kind = wasOld ? 0 : request.rangeStart() >= 0 ? below(8) : below(6);
+    if (kind < 3) {
         answer->breakAfter = below(std::max(1, answer->body.size()));
-        answer->silent = kind == 1 && oneIn(3);
-    } else if (kind == 2) {
-        answer->none = oneIn(2);
+        answer->silent = oneIn(16);
+        answer->none = !wasOld && oneIn(20);
     } else if (kind == 3) {
         *answer = {oneOf(kPassing, below(5)), "", "<html>"};
     } else if (kind == 4) {
         *answer = redirect(server_.url("/moved" + QString::number(below(9))));
     } else if (kind == 5) {
         *answer = restart();
-    } else if (request.rangeStart() >= 0) {
+    } else {
         // Another part, or the same one of the file that is there now, although the older one was asked for.
         const auto asked = static_cast<int>(std::min<qint64>(request.rangeStart(), installer_.size()));
         *answer = part(installer_, kind == 6 ? below(installer_.size()) : asked);

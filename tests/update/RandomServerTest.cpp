@@ -1,7 +1,7 @@
 // Updates from servers that follow random scripts. Every update has to end with the real installer, or with an empty
 // folder.
 //
-//   FIELDCAL_UPDATE_SCRIPTS   how many scripts each test plays (default 200)
+//   FIELDCAL_UPDATE_SCRIPTS   how many scripts are played (default 200), and half as many on small disks
 //   FIELDCAL_UPDATE_SEED      the seed of the first script; the others count from there
 #include "tests/devices/LogCapture.h"
 #include "tests/update/RandomServer.h"
@@ -74,7 +74,7 @@ public:
         environment.temporaryFolder = folder_.path();
         environment.stallTimeout = std::chrono::milliseconds(server_.isTruthful() ? 1500 : 300);
         environment.retryPause = std::chrono::milliseconds(1);
-        environment.retries = server_.isTruthful() ? 8 : 3;
+        environment.retries = server_.isTruthful() ? 12 : 3;
         update_ = std::make_unique<SoftwareUpdate>(environment, owner_);
         owner_.update = update_.get();
         update_->start(&owner_);
@@ -125,8 +125,9 @@ class RandomServerTest : public ::testing::Test {
 protected:
     void play(bool onSmallDisks) {
         bool isNumber = false;
-        const int wanted = qEnvironmentVariableIntValue("FIELDCAL_UPDATE_SCRIPTS", &isNumber);
-        left = isNumber ? wanted : 200;
+        const int given = qEnvironmentVariableIntValue("FIELDCAL_UPDATE_SCRIPTS", &isNumber);
+        const int wanted = isNumber ? given : 200;
+        left = onSmallDisks ? wanted / 2 : wanted;
         seed = static_cast<std::uint32_t>(qEnvironmentVariableIntValue("FIELDCAL_UPDATE_SEED"));
         const LogCapture log;
         QEventLoop loop;
@@ -135,7 +136,7 @@ protected:
             endSome();
             for (; running.size() < kAtOnce && left > 0; --left)
                 running.push_back(std::make_unique<Trial>(seed++, onSmallDisks));
-            LogCapture::lines().clear();
+            if (!HasFailure()) LogCapture::lines().clear();
             if (running.empty()) loop.quit();
         });
         poll.start(2);
@@ -143,7 +144,7 @@ protected:
         for (const auto& [end, count] : ends)
             std::printf("%6d ended with %s\n", count, end.c_str());
         std::printf("%6d requests\n", requests);
-        EXPECT_GT(ends.size(), 2U) << "the servers are all the same";
+        EXPECT_TRUE(ends.size() > 2 || wanted < 100) << "the servers are all the same";
     }
 
     int left = 0;
