@@ -131,11 +131,34 @@ Function removeFresh
     Pop $INSTDIR
 FunctionEnd
 
+; Whoever asked for the program gets the one that is installed now, also after a failure.
+Function startIfAsked
+    ${GetParameters} $0
+    ClearErrors
+    ${GetOptions} $0 "/AUTOSTART" $1
+    ${IfNot} ${Errors}
+        Exec '"${PROGRAM}"'
+    ${EndIf}
+FunctionEnd
+
 Function stopWithoutChange
     Call removeFresh
     MessageBox MB_ICONSTOP "${NAME} could not be installed. What was installed before is unchanged." /SD IDOK
+    Call startIfAsked
     SetErrorLevel 3
     Quit
+FunctionEnd
+
+; Renames $0 to the first free one of ${LEFT}, ${LEFT}.2, …, ${LEFT}.99. Where none is free, it stays.
+Function setAside
+    StrCpy $1 "${LEFT}"
+    ${For} $2 2 100
+        ${IfNot} ${FileExists} "$1"
+            Rename "$0" "$1"
+            Return
+        ${EndIf}
+        StrCpy $1 "${LEFT}.$2"
+    ${Next}
 FunctionEnd
 
 ; Moves what others put beside the old version from $0 to $1, where nothing has the same name. Keeps the registers.
@@ -192,9 +215,15 @@ Function settleLastRun
         ${EndIf}
     ${EndIf}
     Call removeFresh
-    ; What another version left there must not become a part of this one.
+    ; What cannot be removed by name, or was left by another version, must neither become a part of this one nor prevent
+    ; it.
+    ${If} ${FileExists} "${OLD}"
+        StrCpy $0 "${OLD}"
+        Call setAside
+    ${EndIf}
     ${If} ${FileExists} "${FRESH}"
-        Rename "${FRESH}" "${LEFT}"
+        StrCpy $0 "${FRESH}"
+        Call setAside
     ${EndIf}
     ${If} ${FileExists} "${OLD}"
     ${OrIf} ${FileExists} "${FRESH}"
@@ -205,6 +234,7 @@ FunctionEnd
 ; Runs when a file cannot be written, before anything of the old version is touched.
 Function .onInstFailed
     Call removeFresh
+    Call startIfAsked
 FunctionEnd
 
 Section
@@ -245,12 +275,7 @@ Section
     WriteRegDWORD HKLM "${ENTRY}" "NoRepair" 1
     ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
     WriteRegDWORD HKLM "${ENTRY}" "EstimatedSize" $0
-    ${GetParameters} $0
-    ClearErrors
-    ${GetOptions} $0 "/AUTOSTART" $1
-    ${IfNot} ${Errors}
-        Exec '"${PROGRAM}"'
-    ${EndIf}
+    Call startIfAsked
 SectionEnd
 
 Function un.onInit
