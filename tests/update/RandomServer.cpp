@@ -15,10 +15,11 @@ constexpr int kWithoutEnd = 1000000;
 constexpr const char* kTagForms[] = {"ETag: \"%1\"\r\n", "ETag: \"%1\"\r\n", "Last-Modified: %1\r\n",
                                      "ETag: W/\"%1\"\r\n", ""};
 constexpr const char* kPassing[] = {"408 Slow", "416 No such part", "429 Too many", "500 Broken", "503 Busy"};
-constexpr const char* kStatuses[] = {"200 OK",    "204 Nothing", "206 Part", "304 Same",    "400 Bad",
-                                     "404 Nowhere", "410 Gone",  "511 Sign in", "999 Strange", "\r\nno status"};
-constexpr const char* kRanges[] = {"bytes */%3", "bytes 0-%2/%3", "bytes %1-%2/*", "bytes %1-%2", "%1-%2/%3",
-                                   "bytes %1-%3/%3", "bytes -%1-%2/%3", "bytes %2-%1/%3", ""};
+constexpr const char* kStatuses[] = {"200 OK",      "204 Nothing", "206 Part",    "304 Same",    "400 Bad",
+                                     "404 Nowhere", "410 Gone",    "511 Sign in", "999 Strange", "\r\nno status"};
+constexpr const char* kRanges[] = {"bytes */%3",      "bytes 0-%2/%3",  "bytes %1-%2/*",
+                                   "bytes %1-%2",     "%1-%2/%3",       "bytes %1-%3/%3",
+                                   "bytes -%1-%2/%3", "bytes %2-%1/%3", ""};
 
 template <std::size_t count>
 const char* oneOf(const char* const (&texts)[count], int number) {
@@ -126,7 +127,8 @@ void RandomServer::lie(HttpAnswer* answer, const HttpRequest& request) {
     } else if (kind == 4) {
         const int from = static_cast<int>(std::max<qint64>(0, request.rangeStart())) + below(3) - 1;
         answer->status = "206 Partial Content";
-        answer->headers = tagOf(installer_) + rangeHeader(oneOf(kRanges, below(9)), from, installer_.size() + below(3) - 1);
+        answer->headers =
+            tagOf(installer_) + rangeHeader(oneOf(kRanges, below(9)), from, installer_.size() + below(3) - 1);
     } else if (kind == 5) {
         *answer = redirect(oneIn(2) ? server_.url("/Setup.exe") : server_.url("/a", oneIn(2) ? "http" : "ftp"));
     } else if (kind == 6) {
