@@ -18,6 +18,7 @@ constexpr char kHeader[] =
 constexpr const char* kStored = "stored";  ///< the result of a save that succeeded
 constexpr qint64 kLargestHistory = 64 << 20;
 constexpr int kMinFields = 3;
+constexpr int kFirstYear = 2020;  ///< before this program; a computer's clock without a battery begins earlier
 
 QString quoted(QString field) {
     field.replace('\n', ' ').replace('\r', ' ');
@@ -57,6 +58,11 @@ QByteArray lineOf(const ServiceReport& report, const ReportedCamera& camera) {
     return fields.join(',').toUtf8() + '\n';
 }
 
+/// Returns whether the computer's clock can have been right at that time and now.
+bool isPossible(const QDateTime& time) {
+    return time.date().year() >= kFirstYear && time <= QDateTime::currentDateTimeUtc();
+}
+
 }  // namespace
 
 bool appendHistory(const QString& folder, const ServiceReport& report) {
@@ -80,7 +86,7 @@ QDateTime lastStored(const QString& folder, std::uint32_t serial) {
         const QDateTime time = QDateTime::fromString(QString::fromLatin1(fields[0]), Qt::ISODate);
         if (time.isValid()) last = time;
     }
-    return last;
+    return isPossible(last) ? last : QDateTime();
 }
 
 }  // namespace fieldcal

@@ -4,6 +4,8 @@
 #include "report/History.h"
 #include "report/ReportPage.h"
 
+#include <QFile>
+
 #include <string>
 
 namespace fieldcal {
@@ -18,12 +20,15 @@ bool writeReport(const QString& path, const ServiceReport& report, QString* why)
 }
 
 void keepReport(const QString& folder, const ServiceReport& report) {
-    const QString name =
-        QString::number(report.serial) + report.time.toUTC().toString("'-'yyyyMMdd'T'HHmmsszzz'Z.html'");
+    const QString stem = folder + "/reports/" + QString::number(report.serial) +
+                         report.time.toUTC().toString("'-'yyyyMMdd'T'HHmmsszzz'Z'");
+    QString free = stem + ".html";  // where the clock was put back, a time may come again
+    for (int i = 2; QFile::exists(free); ++i)
+        free = stem + '-' + QString::number(i) + ".html";
     std::string reason;
     const bool possible = makeFolders((folder + "/reports").toStdString(), &reason);
     QString why = QString::fromStdString(reason);
-    if (!possible || !writeReport(folder + "/reports/" + name, report, &why))
+    if (!possible || !writeReport(free, report, &why))
         qCritical("The report of the calibration cannot be kept: %s", qUtf8Printable(why));
     appendHistory(folder, report);
 }

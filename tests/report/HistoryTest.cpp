@@ -55,6 +55,14 @@ TEST_F(HistoryTest, ALineForEachCameraAndTheColumnsOnce) {
     EXPECT_EQ(lastStored(folder, 550101).toString(Qt::ISODate), "2026-07-01T12:34:56Z") << "the later one failed";
     EXPECT_FALSE(lastStored(folder, 550102).isValid());
     EXPECT_FALSE(lastStored(folder + "/none", 550101).isValid());
+
+    for (const QDateTime& wrong :
+         {QDateTime(QDate(1970, 1, 1), {}, Qt::UTC), QDateTime::currentDateTimeUtc().addDays(1)}) {
+        ServiceReport stored = reportOf({third});
+        stored.time = wrong;
+        EXPECT_TRUE(appendHistory(folder, stored));
+        EXPECT_FALSE(lastStored(folder, 550101).isValid()) << "the last one, but at an unknown time";
+    }
 }
 
 TEST_F(HistoryTest, WhatIsThereStands) {
