@@ -10,17 +10,26 @@ namespace {
 
 constexpr int kFramesPerProgressLine = 50;
 
-std::int64_t nowNs() {
-    using namespace std::chrono;
-    return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
-}
+/// Begins with the wall clock's time, but intervals stay right if that clock is set meanwhile.
+class RecordingClock {
+public:
+    std::int64_t nowNs() const {
+        const std::chrono::nanoseconds now = begin_ + (std::chrono::steady_clock::now() - start_);
+        return now.count();
+    }
+
+private:
+    const std::chrono::nanoseconds begin_ = std::chrono::system_clock::now().time_since_epoch();
+    const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+};
 
 bool record(ConnectedModule& module, const RecordOptions& options, RecordingWriter* recording, QString* why) {
     std::string reason;
+    const RecordingClock clock;
     for (int done = 0; done < options.frames;) {
         session::FrameImages images;
         if (!module.grab(&images, why)) return false;
-        if (!recording->add(std::move(images), &reason, {1, nowNs()})) {
+        if (!recording->add(std::move(images), &reason, {1, clock.nowNs()})) {
             *why = QString::fromStdString(reason);
             return false;
         }
