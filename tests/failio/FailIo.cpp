@@ -4,9 +4,13 @@
 //
 //   FAILIO_FOLDERS   the folders, separated by ':'; absolute, without symbolic links
 //   FAILIO_WITNESSED folders whose calls are recorded in the journal but never fail
-//   FAILIO_KIND      open (for writing), write, fsync, rename, unlink, mkdir, or any
+//   FAILIO_KIND      open (for writing), write, fsync, rename, unlink, mkdir, or any of these; clock; sleep
 //   FAILIO_NTH       which call of that kind, from 1; 0: none
 //   FAILIO_ACTION    a number: the call fails with it; die, die-after: the program ends (137) before or after the call
+//                    for KIND clock: the seconds by which the wall clock is moved at its N-th query
+//                    for KIND sleep: no matter; the process stops itself (SIGSTOP) instead of the N-th sleep of a
+//                    second or more, such as that of a delayed call of the simulated module, until somebody continues
+//                    it
 //   FAILIO_ONCE      set: later calls succeed; a disk that is full for good takes half of the write before
 //   FAILIO_JOURNAL   a folder for the journal, and for a copy of each file's content when it is synced
 //
@@ -14,15 +18,18 @@
 #include <atomic>
 #include <cerrno>
 #include <climits>
+#include <csignal>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <mutex>
 #include <string>
 #include <sys/stat.h>
+#include <sys/time.h>
 #include <sys/uio.h>
 #include <unistd.h>
 
@@ -203,6 +210,23 @@ int changeWatched(const char* kind, const std::string& path, const std::string& 
     return status;
 }
 
+/// Counts the calls of a kind that has no file. Returns whether the N-th one was reached now (`hit`) or earlier.
+bool isReached(const char* kind, bool* hit) {
+    const Settings& s = settings();
+    if (s.nth == 0 || s.kind != kind) return false;
+    static std::atomic<int> count{0};
+    const int number = ++count;
+    *hit = number == s.nth;
+    if (*hit) put(s.journal + "/hit", std::string(kind) + '\n', O_TRUNC);
+    return number >= s.nth;
+}
+
+/// Returns by how much the wall clock is wrong at this query.
+std::time_t wrongSeconds() {
+    bool hit = false;
+    return isReached("clock", &hit) ? std::atol(settings().action.c_str()) : 0;
+}
+
 }  // namespace
 
 #define FAILIO_EXPORT __attribute__((visibility("default")))
@@ -309,6 +333,34 @@ FAILIO_EXPORT int mkdir(const char* path, mode_t mode) {
     static const auto next = real<int (*)(const char*, mode_t)>("mkdir");
     const std::string whole = absolute(AT_FDCWD, path);
     return changeWatched("mkdir", whole, "M\t" + whole, [&] { return next(path, mode); });
+}
+
+FAILIO_EXPORT int clock_gettime(clockid_t clock, timespec* now) noexcept {
+    static const auto next = real<int (*)(clockid_t, timespec*)>("clock_gettime");
+    const int status = next(clock, now);
+    if (status == 0 && (clock == CLOCK_REALTIME || clock == CLOCK_REALTIME_COARSE)) now->tv_sec += wrongSeconds();
+    return status;
+}
+
+FAILIO_EXPORT int gettimeofday(timeval* now, void* zone) noexcept {
+    static const auto next = real<int (*)(timeval*, void*)>("gettimeofday");
+    const int status = next(now, zone);
+    if (status == 0) now->tv_sec += wrongSeconds();
+    return status;
+}
+
+FAILIO_EXPORT std::time_t time(std::time_t* now) noexcept {
+    timeval precise{};
+    gettimeofday(&precise, nullptr);
+    if (now != nullptr) *now = precise.tv_sec;
+    return precise.tv_sec;
+}
+
+FAILIO_EXPORT int nanosleep(const timespec* duration, timespec* rest) {
+    static const auto next = real<int (*)(const timespec*, timespec*)>("nanosleep");
+    bool hit = false;
+    if (duration->tv_sec == 0 || !isReached("sleep", &hit) || !hit) return next(duration, rest);
+    return std::raise(SIGSTOP);
 }
 
 }  // extern "C"
