@@ -21,6 +21,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <malloc.h>
 #include <mutex>
 #include <string>
 
@@ -96,8 +97,8 @@ long statusOf(const std::string& name) {
 
 void printSample(int round, double seconds) {
     const std::filesystem::directory_iterator descriptors("/proc/self/fd");
-    std::printf("%d,%.1f,%ld,%ld,%ld\n", round, seconds, statusOf("VmRSS"), statusOf("Threads"),
-                static_cast<long>(std::distance(begin(descriptors), end(descriptors))));
+    std::printf("%d,%.1f,%ld,%zu,%ld,%ld\n", round, seconds, statusOf("VmRSS"), mallinfo2().uordblks / 1024,
+                statusOf("Threads"), static_cast<long>(std::distance(begin(descriptors), end(descriptors))));
     std::fflush(stdout);
 }
 
@@ -106,7 +107,7 @@ int run(const QString& recording, const QDir& folder, int rounds) {
     qputenv("KXSIM_SESSION", recording.toLocal8Bit());
     qputenv("KXSIM_SPEED", "0");
     qputenv("KXSIM_FLASH", flash.toLocal8Bit());
-    std::printf("round,seconds,resident_kb,threads,descriptors\n");
+    std::printf("round,seconds,resident_kb,allocated_kb,threads,descriptors\n");
     vq::Stopwatch watch;
     double seconds = 0;
     for (int round = 0; round <= rounds; ++round) {
