@@ -88,11 +88,11 @@ Otočte se k jinému okolí.</translation>
     </message>
     <message>
         <source>tilted clockwise</source>
-        <translation>nakloněna ve směru hodin</translation>
+        <translation>nakloněna ve směru hodinových ručiček</translation>
     </message>
     <message>
         <source>tilted counterclockwise</source>
-        <translation>nakloněna proti směru hodin</translation>
+        <translation>nakloněna proti směru hodinových ručiček</translation>
     </message>
     <message>
         <source>Next, check it against the picture. It is stored only when you accept it.</source>
@@ -144,7 +144,7 @@ Pootočte tablet trochu do strany, nahoru nebo dolů, aby se detaily dostaly na 
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>Počkejte, až se zableskne.
+        <translation>Počkejte, až obrazovka blikne.
 Chvíli držte tablet v klidu. Snímek se pořídí sám. Potom znovu pootočte.</translation>
     </message>
     <message>
@@ -372,12 +372,12 @@ Vypněte tablet a znovu jej zapněte.</translation>
     <message>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
-        <translation>Odejít bez uložení?
+        <translation>Ukončit bez uložení?
 Snímky a dosavadní výsledek budou ztraceny. Kamera si ponechá starou kalibraci.</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation>Odejít</translation>
+        <translation>Ukončit</translation>
     </message>
     <message>
         <source>Stay</source>
@@ -507,7 +507,7 @@ Pokračuje se automaticky. Dosud pořízené snímky se počítají.</translatio
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>V záběru je málo hloubky. Namiřte na něco vzdáleného několik metrů.</translation>
     </message>
     <message>

@@ -507,8 +507,8 @@ It goes on by itself. The photos taken so far count.</translation>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
-        <translation>Too little depth in view. Point at something a few metres away.</translation>
+        <source>Too little depth in view. Point at something a few meters away.</source>
+        <translation>Too little depth in view. Point at something a few meters away.</translation>
     </message>
     <message>
         <source>Stored calibration</source>

@@ -102,7 +102,7 @@ Screen {
         drawing: "attention"
         readonly property bool sparse: screen.overlay !== null && screen.overlay.depthSparse
         visible: !screen.watching && screen.overlay !== null && (sparse || screen.overlay.uprightEdgesMissing)
-        text: sparse ? qsTr("Too little depth in view. Point at something a few metres away.")
+        text: sparse ? qsTr("Too little depth in view. Point at something a few meters away.")
                      : qsTr("No upright edge in view. Point at a tree trunk, a pole or the corner of a house.")
     }
     Pill {
