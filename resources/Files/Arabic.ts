@@ -124,6 +124,33 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>مقدار الدوران</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>الإزاحة في الصور</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>مخزّنة</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>غير مخزّنة</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>التقارير: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>الضوء كافٍ بدءًا من العلامة</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>ستتم المتابعة تلقائيًا بعد لحظة.</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>转动角度</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>照片中的偏差</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>已保存</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>未保存</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>报告：%1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>达到标记处即光线充足</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>稍后将自动继续。</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>歷史記錄</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>轉動角度</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>相片中的偏差</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>已儲存</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>未儲存</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>報告：%1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>達到標記處即光線充足</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>稍後會自動繼續。</translation>
     </message>
 </context>
 <context>

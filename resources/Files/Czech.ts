@@ -124,6 +124,33 @@ Otočte se k jinému okolí.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historie</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Otočení</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Odchylka ve snímcích</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Uloženo</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Neuloženo</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Zprávy: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ Pokračuje se automaticky. Dosud pořízené snímky se počítají.</translatio
     <message>
         <source>Enough light at the mark</source>
         <translation>Od značky je světla dost</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Za okamžik se pokračuje samo.</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Drej mod andre omgivelser.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historik</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Drejet</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Afvigelse i fotoene</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Gemt</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Ikke gemt</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Rapporter: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ Det fortsætter automatisk. De fotos, der er taget, tæller med.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Nok lys ved markeringen</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Det fortsætter automatisk om et øjeblik.</translation>
     </message>
 </context>
 <context>

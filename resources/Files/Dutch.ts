@@ -124,6 +124,33 @@ Draai naar een andere omgeving.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Geschiedenis</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Gedraaid</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Afwijking in de foto’s</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Opgeslagen</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Niet opgeslagen</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Rapporten: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ Het gaat vanzelf verder. De foto’s tot nu toe tellen mee.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Vanaf de streep genoeg licht</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Het gaat zo vanzelf verder.</translation>
     </message>
 </context>
 <context>

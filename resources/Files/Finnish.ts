@@ -124,6 +124,33 @@ Käänny toiseen maisemaan.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historia</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Kääntynyt</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Poikkeama kuvissa</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Tallennettu</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Ei tallennettu</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Raportit: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ Toiminta jatkuu automaattisesti. Jo otetut kuvat säilyvät.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Valo riittää merkistä alkaen</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Toiminta jatkuu kohta automaattisesti.</translation>
     </message>
 </context>
 <context>

@@ -46,7 +46,7 @@ Tournez-vous vers un autre décor.</translation>
     </message>
     <message>
         <source>Photo %1 brought nothing: too little detail in it.</source>
-        <translation>La photo %1 n’a rien apporté : trop peu de détails.</translation>
+        <translation>La photo %1 n’a rien apporté&#xa0;: trop peu de détails.</translation>
     </message>
 </context>
 <context>
@@ -124,6 +124,33 @@ Tournez-vous vers un autre décor.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Écart dans les photos</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Enregistré</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Non enregistré</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Rapports : %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -187,7 +214,7 @@ Allez à l’extérieur, dans un endroit clair et ensoleillé.</translation>
     <message>
         <source>It&apos;s bright enough here!
 Press continue.</source>
-        <translation>Il fait assez clair ici !
+        <translation>Il fait assez clair ici&#x202f;!
 Appuyez sur Continuer.</translation>
     </message>
     <message>
@@ -333,7 +360,7 @@ Switch the tablet off and on again.</source>
     <message>
         <source>%1: read back, %2° from the calibration before.</source>
         <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
-        <translation>%1 : relue, à %2° de l’étalonnage précédent.</translation>
+        <translation>%1&#xa0;: relue, à %2° de l’étalonnage précédent.</translation>
     </message>
 </context>
 <context>
@@ -348,7 +375,7 @@ Switch the tablet off and on again.</source>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Visez des bâtiments ou des arbres, proches ou éloignés. Tournez, arrêtez-vous : jusqu’à huit photos sont prises automatiquement.</translation>
+        <translation>Visez des bâtiments ou des arbres, proches ou éloignés. Tournez, arrêtez-vous&#xa0;: jusqu’à huit photos sont prises automatiquement.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -372,7 +399,7 @@ Switch the tablet off and on again.</source>
     <message>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
-        <translation>Quitter sans enregistrer ?
+        <translation>Quitter sans enregistrer&#x202f;?
 Les photos et le résultat obtenu seront perdus. La caméra conserve son ancien étalonnage.</translation>
     </message>
     <message>
@@ -406,6 +433,10 @@ La suite est automatique. Les photos déjà prises comptent.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Suffisante à partir du repère</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>La suite est automatique dans un instant.</translation>
     </message>
 </context>
 <context>
@@ -540,7 +571,7 @@ La suite est automatique. Les photos déjà prises comptent.</translation>
     <message>
         <source>Start over?
 The photos and what was found so far would be lost.</source>
-        <translation>Recommencer ?
+        <translation>Recommencer&#x202f;?
 Les photos et le résultat obtenu seront perdus.</translation>
     </message>
 </context>

@@ -124,6 +124,33 @@ Wenden Sie sich einer anderen Umgebung zu.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Gedreht um</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Abweichung in den Fotos</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Berichte: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ Es geht von selbst weiter. Die bisherigen Fotos zählen.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Ab der Marke genügt das Licht</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Es geht gleich von selbst weiter.</translation>
     </message>
 </context>
 <context>

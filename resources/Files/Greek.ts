@@ -124,6 +124,33 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Ιστορικό</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Στροφή</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Απόκλιση στις φωτογραφίες</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Αποθηκεύτηκε</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Δεν αποθηκεύτηκε</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Αναφορές: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>Αρκετό φως από το σημάδι και πέρα</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Συνεχίζει αυτόματα σε λίγο.</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>היסטוריה</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>סיבוב</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>הסטייה בתמונות</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>נשמר</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>לא נשמר</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>דוחות: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>מהסימון ואילך יש מספיק אור</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>התהליך ימשיך אוטומטית בעוד רגע.</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Inquadrare un altro scenario.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Cronologia</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Rotazione</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Scarto nelle foto</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Memorizzata</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Non memorizzata</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Rapporti: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ Si prosegue automaticamente. Le foto già scattate contano.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Sufficiente dal segno</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Si prosegue automaticamente tra un istante.</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>写真でのずれ</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>保存済み</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>未保存</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>レポート: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>マークに達すれば十分です</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>まもなく自動的に続行します。</translation>
     </message>
 </context>
 <context>

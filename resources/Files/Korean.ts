@@ -124,6 +124,33 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>기록</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>회전</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>사진에서의 편차</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>저장됨</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>저장되지 않음</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>보고서: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>표시에 닿으면 충분함</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>잠시 후 자동으로 계속됩니다.</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Vend deg mot andre omgivelser.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historikk</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Dreid</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Avvik i bildene</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Lagret</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Ikke lagret</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Rapporter: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Nok lys ved markeringen</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Det fortsetter automatisk om et øyeblikk.</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Zwróć się ku innemu otoczeniu.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historia</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Obrót</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Odchyłka na zdjęciach</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Zapisano</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Nie zapisano</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Raporty: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ Praca będzie kontynuowana automatycznie. Wykonane zdjęcia się liczą.</transl
     <message>
         <source>Enough light at the mark</source>
         <translation>Dość światła od znacznika</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Za chwilę program przejdzie dalej.</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Volte-se para outro cenário.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Rotação</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Desvio nas fotografias</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Guardada</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Não guardada</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Relatórios: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ Continua automaticamente. As fotografias já tiradas contam.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Suficiente a partir da marca</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Continua automaticamente dentro de momentos.</translation>
     </message>
 </context>
 <context>

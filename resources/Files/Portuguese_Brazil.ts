@@ -124,6 +124,33 @@ Vire-se para outro cenário.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Rotação</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Desvio nas fotos</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Não salva</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Relatórios: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ O processo continua automaticamente. As fotos já tiradas contam.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Suficiente a partir da marca</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>O processo continua automaticamente em instantes.</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>История</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Поворот</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Смещение на снимках</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Сохранена</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Не сохранена</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Отчёты: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>После метки света достаточно</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Сейчас работа продолжится автоматически.</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Otočte sa k inému okoliu.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>História</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Otočenie</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Odchýlka na snímkach</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Uložené</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Neuložené</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Správy: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ Pokračuje sa automaticky. Doteraz zhotovené snímky sa počítajú.</translati
     <message>
         <source>Enough light at the mark</source>
         <translation>Od značky je svetla dosť</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>O chvíľu sa pokračuje automaticky.</translation>
     </message>
 </context>
 <context>

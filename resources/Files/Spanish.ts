@@ -124,6 +124,33 @@ Apunte a otro entorno.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Desviación en las fotos</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Guardada</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>No guardada</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Informes: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ El proceso continúa automáticamente. Las fotos ya tomadas cuentan.</translatio
     <message>
         <source>Enough light at the mark</source>
         <translation>Suficiente a partir de la marca</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>El proceso continúa automáticamente en un momento.</translation>
     </message>
 </context>
 <context>

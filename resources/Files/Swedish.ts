@@ -124,6 +124,33 @@ Vänd dig mot andra omgivningar.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historik</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Vridning</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Avvikelse i fotona</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Sparad</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Inte sparad</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Rapporter: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Tillräckligt vid markeringen</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Det fortsätter automatiskt om ett ögonblick.</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>ประวัติ</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>มุม​ที่หมุน</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>ความคลาดเคลื่อน​ในภาพ</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>บันทึกแล้ว</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>ไม่ได้​บันทึก</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>รายงาน: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>แสงพอ​เมื่อถึง​เครื่องหมาย</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>ระบบ​จะดำเนินการ​ต่อ​โดยอัตโนมัติ​ในอีก​สักครู่</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,33 @@ Başka bir manzaraya dönün.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Geçmiş</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Dönme</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Fotoğraflardaki sapma</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Kaydedildi</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Kaydedilmedi</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Raporlar: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>İşaretten sonra ışık yeterli</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Birazdan otomatik olarak devam eder.</translation>
     </message>
 </context>
 <context>

@@ -58,6 +58,8 @@ Window {
     }
     function showStoredFacts(facts) { status.storedFacts = facts }
     function showSoundSwitch(on) { status.soundOn = on }
+    function showHistory(entries, reportsFolder) { status.history = entries; status.reportsFolder = reportsFolder }
+    function openHistory() { pages.openHistory() }
     function setLightingDialogText(title, message) { status.lightingTitle = title; status.lightingMessage = message }
     function setLightingProgress(progress) { status.lightingProgress = progress }
     function toggleLightingContinueButtonVisibility(shown, label) {

@@ -265,6 +265,45 @@ TEST_F(ActionsTest, WithOneCameraTheFirstRefinementIsTheLast) {
     EXPECT_TRUE(rearCamera.isEmpty());
 }
 
+TEST_F(ActionsTest, WhoHasCalibratedHereBeforeStoresTwoCamerasWithSixTouches) {
+    int touches = 0;
+    const auto touch = [&](const char* button) {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return stage.find(button)->isVisible() && stage.find(button)->isEnabled(); }))
+            << button;
+        stage.press(button);
+        ++touches;
+    };
+    stage.tell("showHistory", QVariantList{QVariantMap{{"stored", true}}}, "/reports");
+    stage.enter(1);
+    touch("historyButton");
+    EXPECT_TRUE(shown("historyPage"));
+    pressReturn();
+    EXPECT_FALSE(shown("historyPage"));
+    touches = 0;
+
+    touch("introContinueButton");
+    stage.tell("toggleLightingContinueButtonVisibility", true, "Continue");
+    QTest::qWait(1500);
+    stage.tell("toggleLightingContinueButtonVisibility", false, "Continue");
+    QTest::qWait(2000);
+    EXPECT_TRUE(shown("lightingPage")) << "the light did not last";
+    stage.tell("toggleLightingContinueButtonVisibility", true, "Continue");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shown("capturePage"); }));
+    stage.enter(9);
+    touch("foundContinueButton");
+    EXPECT_TRUE(shown("refinementPage")) << "without the example";
+    EXPECT_EQ(states.last()[0], 10);
+    EXPECT_TRUE(swings.isEmpty());
+    touch("refinementContinueButton");
+    touch("betweenContinueButton");
+    stage.tell("setCalibrationProgress", 0.0);
+    stage.enter(10);
+    touch("foundContinueButton");
+    touch("refinementContinueButton");
+    EXPECT_TRUE(quits.wait());
+    EXPECT_EQ(touches, 6);
+}
+
 TEST_F(ActionsTest, TheFingerDragsWhereThePictureIsTapsForNothingAndHoldsToCompare) {
     QSignalSpy downs(stage.window(), SIGNAL(touchDown(int, int)));
     QSignalSpy moves(stage.window(), SIGNAL(touchMove(int, int)));

@@ -7,6 +7,7 @@ Screen {
     id: screen
     signal begun()
     signal soundSwitched(bool on)
+    signal historyWanted()
     mainButton: continueButton
 
     component Step: RowLayout {
@@ -73,18 +74,31 @@ Screen {
         }
         Step { drawing: "align"; text: qsTr("Check the result with one finger, and store it in the camera.") }
         Item { Layout.fillHeight: true }
-        Words {
-            objectName: "lastCalibrationText"
+        RowLayout {
             Layout.fillWidth: true
-            visible: text !== ""
-            color: Theme.quietText
-            text: screen.status.lastCalibrationText
-        }
-        Words {
-            Layout.fillWidth: true
-            color: Theme.quietText
-            text: screen.status.singleCamera ? qsTr("Takes about three minutes.")
-                                             : qsTr("Takes about five minutes for both cameras.")
+            spacing: Theme.gap
+            ColumnLayout {
+                spacing: Theme.smallGap
+                Words {
+                    objectName: "lastCalibrationText"
+                    Layout.fillWidth: true
+                    visible: text !== ""
+                    color: Theme.quietText
+                    text: screen.status.lastCalibrationText
+                }
+                Words {
+                    Layout.fillWidth: true
+                    color: Theme.quietText
+                    text: screen.status.singleCamera ? qsTr("Takes about three minutes.")
+                                                     : qsTr("Takes about five minutes for both cameras.")
+                }
+            }
+            TouchButton {
+                objectName: "historyButton"
+                visible: screen.status.history.length > 0
+                text: qsTranslate("History", "History")
+                onClicked: screen.historyWanted()
+            }
         }
         RowLayout {
             Layout.fillWidth: true
