@@ -74,31 +74,18 @@ Screen {
         }
         Step { drawing: "align"; text: qsTr("Check the result with one finger, and store it in the camera.") }
         Item { Layout.fillHeight: true }
-        RowLayout {
+        Words {
+            objectName: "lastCalibrationText"
             Layout.fillWidth: true
-            spacing: Theme.gap
-            ColumnLayout {
-                spacing: Theme.smallGap
-                Words {
-                    objectName: "lastCalibrationText"
-                    Layout.fillWidth: true
-                    visible: text !== ""
-                    color: Theme.quietText
-                    text: screen.status.lastCalibrationText
-                }
-                Words {
-                    Layout.fillWidth: true
-                    color: Theme.quietText
-                    text: screen.status.singleCamera ? qsTr("Takes about three minutes.")
-                                                     : qsTr("Takes about five minutes for both cameras.")
-                }
-            }
-            TouchButton {
-                objectName: "historyButton"
-                visible: screen.status.history.length > 0
-                text: qsTranslate("History", "History")
-                onClicked: screen.historyWanted()
-            }
+            visible: text !== ""
+            color: Theme.quietText
+            text: screen.status.lastCalibrationText
+        }
+        Words {
+            Layout.fillWidth: true
+            color: Theme.quietText
+            text: screen.status.singleCamera ? qsTr("Takes about three minutes.")
+                                             : qsTr("Takes about five minutes for both cameras.")
         }
         RowLayout {
             Layout.fillWidth: true
@@ -109,6 +96,13 @@ Screen {
                 Layout.preferredHeight: continueButton.Layout.preferredHeight
                 drawing: screen.status.soundOn ? "soundOn" : "soundOff"
                 onClicked: screen.soundSwitched(!screen.status.soundOn)
+            }
+            TouchButton {
+                objectName: "historyButton"
+                visible: screen.status.history.length > 0
+                Layout.preferredHeight: continueButton.Layout.preferredHeight
+                text: qsTranslate("History", "History")
+                onClicked: screen.historyWanted()
             }
             TouchButton {
                 id: continueButton

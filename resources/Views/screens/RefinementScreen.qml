@@ -134,7 +134,9 @@ Screen {
             TouchButton {
                 id: storedButton
                 objectName: "storedButton"
-                Layout.minimumWidth: Theme.target
+                Layout.fillWidth: true  // shrinks in long languages
+                Layout.minimumWidth: Theme.length(200)
+                Layout.maximumWidth: implicitWidth
                 opacity: screen.dragging ? bottom.solid : 1
                 drawing: "eye"
                 text: qsTr("Hold to compare")
