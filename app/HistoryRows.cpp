@@ -16,7 +16,10 @@ constexpr std::size_t kMaxRows = 100;
 QVariantMap rowOf(const HistoryEntry& entry, bool two) {
     const bool isPlatform = entry.camera == ColourCamera::Platform;
     const char* camera = isPlatform ? texts::kSecondCamera : two ? texts::kFirstCamera : texts::kOnlyCamera;
-    QVariantMap row{{"when", QLocale().toString(entry.time.toLocalTime(), QLocale::ShortFormat)},
+    const QLocale locale;
+    const QDateTime time = entry.time.toLocalTime();
+    QVariantMap row{{"when", locale.toString(time.date(), QLocale::ShortFormat) + '\n' +
+                                 locale.toString(time.time(), QLocale::ShortFormat)},
                     {"camera", QString("%1\n%2").arg(entry.serial).arg(interfaceText(camera))},
                     {"turnDeg", entry.turnDeg},
                     {"stored", entry.stored}};

@@ -22,7 +22,7 @@ void takePhotos(ViewsStage& stage, int count) {
 
 void showHistory(ViewsStage& stage) {
     const auto row = [](int serial, const char* camera, bool stored) {
-        QVariantMap entry{{"when", "12/31/2026 11:59 PM"},
+        QVariantMap entry{{"when", "12/31/2026\n11:59 PM"},
                           {"camera", QString("%1\n%2").arg(serial).arg(interfaceText(camera))},
                           {"turnDeg", 1.92},
                           {"stored", stored}};

@@ -43,8 +43,8 @@ Rectangle {
         Row {
             anchors.fill: parent
             spacing: Theme.gap
-            Field { id: when; width: 20 * line.share }
-            Field { id: camera; width: 29 * line.share; font.pixelSize: Theme.captionSize }
+            Field { id: when; width: 16 * line.share }
+            Field { id: camera; width: 33 * line.share }
             Field { id: turn; width: 11 * line.share; heading: line.heading }
             Field { id: offset; width: 19 * line.share; heading: line.heading }
             Illustration {
