@@ -375,7 +375,7 @@ Switch the tablet off and on again.</source>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>เล็งไปที่​อาคาร​หรือต้นไม้ ใกล้​หรือไกล​ก็ได้ ขยับ​แท็บเล็ต หยุดนิ่ง แล้วระบบ​จะถ่ายภาพ​โดยอัตโนมัติ​สูงสุด​แปดภาพ</translation>
+        <translation>เล็งไปที่​อาคาร​หรือต้นไม้ ใกล้​หรือไกล​ก็ได้ ขยับ​แล้ว​หยุดนิ่ง ระบบ​จะถ่าย​ให้เอง​สูงสุด​แปดภาพ</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>

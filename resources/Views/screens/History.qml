@@ -15,8 +15,11 @@ Rectangle {
         visible = true
     }
     function number(value, decimals) { return Number(value).toLocaleString(Qt.locale(), "f", decimals) }
+    // From left to right, as the arrow points, in every language.
+    function leftToRight(parts) { return "\u2066" + parts.join("\u200e") + "\u2069" }
     function offset(entry) {
-        return entry.storedPx === undefined ? "" : number(entry.storedPx, 1) + " → " + number(entry.newPx, 1) + "\u00a0px"
+        if (entry.storedPx === undefined) return ""
+        return leftToRight([number(entry.storedPx, 1), " → ", number(entry.newPx, 1), "\u00a0px"])
     }
     objectName: "historyPage"
     visible: false
@@ -108,7 +111,7 @@ Rectangle {
                 wrapMode: Text.Wrap
                 font.pixelSize: Theme.captionSize
                 color: Theme.quietText
-                text: qsTr("Reports: %1").arg(page.status.reportsFolder)
+                text: qsTr("Reports: %1").arg(page.leftToRight([page.status.reportsFolder]))
             }
             TouchButton {
                 id: closeButton
