@@ -40,8 +40,8 @@ void showHistory(QmlFunctions& functions, const QString& dataFolder) {
     for (const HistoryEntry& entry : entries)
         rows.append(rowOf(entry, two));
     qInfo("The history shows %d stored calibrations.",
-          static_cast<int>(std::count_if(entries.begin(), entries.end(),
-                                         [](const HistoryEntry& entry) { return entry.stored; })));
+          static_cast<int>(
+              std::count_if(entries.begin(), entries.end(), [](const HistoryEntry& entry) { return entry.stored; })));
     functions.showHistory(rows, QDir::toNativeSeparators(dataFolder + "/reports"));
 }
 

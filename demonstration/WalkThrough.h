@@ -51,7 +51,8 @@ public:
     /// Returns the exit code of the program once it has ended by itself; -1 if it does not.
     int waitForEnd();
 
-    /// According to the program, the user has stored a calibration before, such as in an earlier run with the same folder.
+    /// According to the program, the user has stored a calibration before, such as in an earlier run with the same
+    /// folder.
     bool practised() const { return practised_; }
     /// The number of times that `pressTo` pressed the main button of a page.
     int mainButtonPresses() const { return mainButtonPresses_; }

@@ -171,7 +171,8 @@ bool checkLight(WalkThrough* user) {
 
 /// A practised user does not see the example.
 bool readExample(WalkThrough* user) {
-    return user->practised() || (user->pressTo("tutorialPage", Key::Return) && user->lookAt("tutorialPage", "tutorial"));
+    return user->practised() ||
+           (user->pressTo("tutorialPage", Key::Return) && user->lookAt("tutorialPage", "tutorial"));
 }
 
 bool playFirstCamera(Walk* walk) {

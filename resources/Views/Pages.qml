@@ -197,9 +197,13 @@ Item {
             shown: pages.status.notice === objectName && !pages.status.saving
             drawing: "missing"
             title: qsTr("The depth camera was not found.")
-            steps: [qsTr("Close every other program that uses a camera."),
-                    qsTr("Switch the tablet off and on again."),
-                    qsTr("Start the calibration again. If the camera is still missing, the tablet needs service.")]
+            // Switching the tablet off would lose an accepted calibration.
+            steps: pages.status.firstCameraStorable
+                   ? [qsTr("Close every other program that uses a camera."),
+                      qsTr("Start the calibration again. The first camera's calibration can be stored when you leave.")]
+                   : [qsTr("Close every other program that uses a camera."),
+                      qsTr("Switch the tablet off and on again."),
+                      qsTr("Start the calibration again. If the camera is still missing, the tablet needs service.")]
             onLeft: pages.leaveNotice()
         }
         NoticeScreen {

@@ -59,8 +59,9 @@ protected:
         SCOPED_TRACE(name);
         std::vector<QQuickItem*> buttons;
         checkBelow(stage, stage.window()->contentItem(), &buttons);
-        const bool endsByItself = (stage.find("savingPage")->isVisible() && !stage.find("savedHistoryButton")->isVisible()) ||
-                                  name == QString("update-starting");
+        const bool endsByItself =
+            (stage.find("savingPage")->isVisible() && !stage.find("savedHistoryButton")->isVisible()) ||
+            name == QString("update-starting");
         EXPECT_EQ(buttons.empty(), endsByItself);
         for (const QQuickItem* one : buttons)
             for (const QQuickItem* other : buttons)
