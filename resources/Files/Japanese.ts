@@ -68,7 +68,7 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>The color camera has turned by %1 since the stored calibration:</source>
-        <translation>保存済みのキャリブレーションと比べて、カラーカメラは %1 回転しています:</translation>
+        <translation>保存済みのキャリブレーションと比べて、カラーカメラは %1 回転:</translation>
     </message>
     <message>
         <source>to the right</source>
