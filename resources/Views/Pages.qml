@@ -73,6 +73,7 @@ Item {
                    : leaveQuestion.visible ? leaveQuestion
                    : restartQuestion.visible ? restartQuestion
                    : howToMove.visible ? howToMove : history.visible ? history : screens.find(screen => screen.shown)
+        if (page === updateNotice && !updateNotice.enabled) return
         if (page && page.mainButton && page.mainButton.visible) page.mainButton.clicked()
     }
     function goBack() {

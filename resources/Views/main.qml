@@ -106,6 +106,7 @@ Window {
     onCapturePausedChanged: pauseCapture(capturePaused)
 
     function goTo(state) {
+        if (state === _state_StartingCalibration) status.startAttempt()  // the page must not show the last attempt
         status.state = state
         stateChanged(state)
     }

@@ -56,6 +56,8 @@ protected:
             const auto* slide = slides->property("currentItem").value<QQuickItem*>();
             return !slides->isVisible() || seen(slides).adjusted(-1, -1, 1, 1).contains(seen(slide));
         }));
+        const QQuickItem* notice = stage.find("updateNotice");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return notice->isEnabled() || !notice->isVisible(); }));
         SCOPED_TRACE(name);
         std::vector<QQuickItem*> buttons;
         checkBelow(stage, stage.window()->contentItem(), &buttons);
