@@ -106,13 +106,14 @@ Window {
     onCapturePausedChanged: pauseCapture(capturePaused)
 
     function goTo(state) {
-        if (state === _state_StartingCalibration) status.startAttempt()  // the page must not show the last attempt
         status.state = state
+        if (state === _state_StartingCalibration) status.startAttempt()  // the page must not show the last attempt
         stateChanged(state)
     }
     function goOnWithSecondCamera() {
         status.secondCamera = true
         status.between = true
+        status.state = _state_StartingCalibration  // before the application forgets the result, which is still shown
         switchToOOMColorSensor()
         goTo(_state_StartingCalibration)
     }

@@ -382,8 +382,10 @@ TEST_F(ActionsTest, TheSecondCameraTakesNoPhotoBeforeTheUserHasTurned) {
     QSignalSpy pauses(stage.window(), SIGNAL(pauseCapture(bool)));
     stage.enter(10);
     stage.press("foundContinueButton");
+    QSignalSpy cues(stage.window(), SIGNAL(cueSounded(QString)));
     stage.press("refinementContinueButton");
     EXPECT_EQ(states.last()[0], 6);
+    EXPECT_TRUE(cues.isEmpty()) << "nothing new has been found";
     stage.enter(7);
     EXPECT_TRUE(shown("betweenPage"));
     EXPECT_FALSE(shown("capturePage"));
