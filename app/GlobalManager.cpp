@@ -1,5 +1,6 @@
 #include "app/GlobalManager.h"
 
+#include "app/HistoryRows.h"
 #include "app/InterfaceTexts.h"
 #include "app/OrientationLock.h"
 #include "app/OwnCode.h"
@@ -74,6 +75,7 @@ void GlobalManager::loadInterface() {
     functions_.setRoot(window_);
     functions_.setLeftToRightLanguage(leftToRight_);
     functions_.showSoundSwitch(sounds_.on());
+    showHistory(functions_, environment_.workflow.dataFolder);
     views_.findIn(*window_);
     views_.setCalibrator(&workflow_.engine());
 }

@@ -1,13 +1,16 @@
 #include "app/ProgramEnding.h"
 
+#include "app/HistoryRows.h"
 #include "app/InterfaceTexts.h"
 #include "app/ShutdownBlock.h"
 
 #include <QCoreApplication>
 #include <QEvent>
 #include <QLocale>
+#include <QMouseEvent>
+#include <QQuickItem>
 #include <QQuickWindow>
-#include <QTimer>
+#include <QTouchEvent>
 
 #include <array>
 #include <cmath>
@@ -16,8 +19,17 @@
 namespace fieldcal {
 namespace {
 
+constexpr int kHistoryShownTimes = 6;  ///< as long as the confirmation, unless it is touched
 constexpr const char* kErrorTitle = "KXAPI ERROR";
 constexpr const char* kSavingText = "Storing the calibration in the camera…";  // of the page shown meanwhile
+
+/// The position of a touch in the window, if the event has one.
+std::optional<QPointF> positionOf(const QEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress) return static_cast<const QMouseEvent&>(event).localPos();
+    if (event.type() != QEvent::TouchBegin) return std::nullopt;
+    const QList<QTouchEvent::TouchPoint>& points = static_cast<const QTouchEvent&>(event).touchPoints();
+    return points.isEmpty() ? std::nullopt : std::optional<QPointF>(points.first().pos());
+}
 
 }  // namespace
 
@@ -46,9 +58,11 @@ void ProgramEnding::saveAndQuit(Storing storing) {
 
 void ProgramEnding::showSaved() {
     parts_.functions.showStoredFacts(storedFacts());
+    showHistory(parts_.functions, parts_.environment.workflow.dataFolder);
     parts_.showSaveText(interfaceText(texts::kSaved));
     savedShown_.start();
-    QTimer::singleShot(parts_.environment.savedShownFor, this, &QCoreApplication::quit);
+    connect(&quitSoon_, &QTimer::timeout, &QCoreApplication::quit);
+    quitSoon_.start(parts_.environment.savedShownFor);
 }
 
 /// Otherwise nothing has happened yet: the user is told, and may try again.
@@ -84,6 +98,21 @@ bool ProgramEnding::isTouchOnSaved(const QEvent& event) const {
     const bool touch = event.type() == QEvent::MouseButtonPress || event.type() == QEvent::TouchBegin ||
                        event.type() == QEvent::KeyPress;
     return touch && savedShown_.isValid() && savedShown_.elapsed() > kSecondTapMs;
+}
+
+void ProgramEnding::touchSaved(const QEvent& event) {
+    const std::optional<QPointF> position = positionOf(event);
+    const auto* button = window_->findChild<QQuickItem*>("savedHistoryButton");
+    const bool opens = !historyOpened_ && position && button != nullptr && button->isVisible() &&
+                       button->contains(button->mapFromScene(*position));
+    if (!opens) {
+        QCoreApplication::quit();
+        return;
+    }
+    historyOpened_ = true;
+    parts_.functions.openHistory();
+    savedShown_.restart();
+    quitSoon_.start(kHistoryShownTimes * parts_.environment.savedShownFor);
 }
 
 void ProgramEnding::leave() {
@@ -143,7 +172,7 @@ bool ProgramEnding::finish(const char* who, const LeaveReport& report) {
 }
 
 bool ProgramEnding::eventFilter(QObject* watched, QEvent* event) {
-    if (isTouchOnSaved(*event)) QCoreApplication::quit();
+    if (isTouchOnSaved(*event)) touchSaved(*event);
     switch (event->type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonRelease:

@@ -11,6 +11,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -61,11 +62,15 @@ private:
     QStringList storedFacts() const;
     void showSaved();
     bool isTouchOnSaved(const QEvent& event) const;
+    /// Opens the history, once, or ends the program.
+    void touchSaved(const QEvent& event);
 
     const Parts parts_;
     QQuickWindow* window_ = nullptr;
     std::unique_ptr<ProcessingThread> thread_;
-    QElapsedTimer savedShown_;  ///< runs from when the confirmation of a stored calibration is shown
+    QElapsedTimer savedShown_;  ///< runs from when the confirmation of a stored calibration, or the history, is shown
+    QTimer quitSoon_;
+    bool historyOpened_ = false;
     bool begun_ = false;
     bool failed_ = false;  ///< an error has been shown, and the program is about to end
     int exitCode_ = 0;

@@ -117,6 +117,14 @@ void QmlFunctions::showSoundSwitch(bool on) {
     call("showSoundSwitch", {on});
 }
 
+void QmlFunctions::showHistory(const QVariantList& entries, const QString& reportsFolder) {
+    call("showHistory", {QVariant(entries), reportsFolder});
+}
+
+void QmlFunctions::openHistory() {
+    call("openHistory");
+}
+
 void QmlFunctions::showFoundTurn(const QVariantList& anglesDeg, const QVariantMap& quality) {
     call("showFoundTurn", {QVariant(anglesDeg), quality});
 }

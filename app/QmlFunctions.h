@@ -49,6 +49,8 @@ public:
     void showPhotoWorth(const QString& worth);
     void showStoredFacts(const QStringList& facts);
     void showSoundSwitch(bool on);
+    void showHistory(const QVariantList& entries, const QString& reportsFolder);
+    void openHistory();
     /// Rotation of the camera in degrees: upwards, to the right, and clockwise as seen from behind the camera.
     void showFoundTurn(const QVariantList& anglesDeg, const QVariantMap& quality);
     void showUpdateOffer(const QString& version);

@@ -88,7 +88,7 @@ void showViews(ViewsStage& stage, const QString& page) {
         auto* view = stage.window()->findChild<ImageItem*>(name);
         shown ? view->show() : view->hide();
     };
-    const bool introduction = page == "introduction" || page.startsWith("update");
+    const bool introduction = page == "introduction" || page == "history" || page.startsWith("update");
     const bool walkthrough = page == "tutorial", refinement = page.startsWith("refinement");
     show("introImageView", introduction);
     show("calibColorView", !introduction && !walkthrough && !refinement);

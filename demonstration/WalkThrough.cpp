@@ -51,6 +51,9 @@ void WalkThrough::readLog() {
     auto pages = shows.globalMatch(lastLine_);
     while (pages.hasNext())
         page_ = pages.next().captured(1);
+    static const QRegularExpression history("The history shows (\\d+) stored calibrations\\.");
+    const auto stored = history.match(lastLine_);
+    if (stored.hasMatch() && mainButtonPresses_ == 0) practised_ = stored.captured(1).toInt() > 0;
     lastLine_ = lastLine_.mid(lastLine_.lastIndexOf('\n') + 1);
 }
 
@@ -83,6 +86,7 @@ bool WalkThrough::lookAt(const QString& page, const QString& name, QImage* pictu
 bool WalkThrough::pressTo(const QString& page, X11Hand::Key key) {
     hand_.focusWindow();
     hand_.press(key);
+    ++mainButtonPresses_;
     return isOn(page);
 }
 

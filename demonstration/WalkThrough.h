@@ -51,6 +51,12 @@ public:
     /// Returns the exit code of the program once it has ended by itself; -1 if it does not.
     int waitForEnd();
 
+    /// According to the program, the user has stored a calibration before, such as in an earlier run with the same
+    /// folder.
+    bool practised() const { return practised_; }
+    /// The number of times that `pressTo` pressed the main button of a page.
+    int mainButtonPresses() const { return mainButtonPresses_; }
+
     X11Hand& hand() { return hand_; }
     qint64 processId() const { return program_.processId(); }
     const QString& problem() const { return problem_; }
@@ -72,6 +78,8 @@ private:
     QString lastLine_;  ///< as far as it has been read
     QString page_;
     QString problem_;
+    bool practised_ = false;
+    int mainButtonPresses_ = 0;
     QStringList pictures_;
 };
 

@@ -2,6 +2,7 @@
 // in the recording. Reports the content of the simulated module's flash, the offset between overlay and image, and the
 // reaction time of the interface while a photo was being processed.
 //   walk-through RECORDING FOLDER [COMMAND...]        (on an X display; without a command the program beside it)
+// With the folder of an earlier run, the program meets a practised user.
 #include "demonstration/OverlayOffset.h"
 #include "demonstration/WalkThrough.h"
 #include "session/RecordedSession.h"
@@ -162,12 +163,23 @@ bool capture(Walk* walk, const char* name, const char* foundLine) {
     return line > 0 && user.lookAt("foundPage", QString("found-%1").arg(name));
 }
 
+/// The check continues by itself for a practised user.
+bool checkLight(WalkThrough* user) {
+    if (user->practised()) return user->waitFor("The interface shows capturePage.", kCaptureMs);
+    return user->lookAt("lightingPage", "sunlight") && user->pressTo("capturePage", Key::Return);
+}
+
+/// A practised user does not see the example.
+bool readExample(WalkThrough* user) {
+    return user->practised() ||
+           (user->pressTo("tutorialPage", Key::Return) && user->lookAt("tutorialPage", "tutorial"));
+}
+
 bool playFirstCamera(Walk* walk) {
     WalkThrough& user = walk->user;
     if (!user.waitFor("changing qml to state 1", 60000) || !user.lookAt("introductionPage", "introduction") ||
-        !user.pressTo("lightingPage", Key::Return) || !user.lookAt("lightingPage", "sunlight") ||
-        !user.pressTo("capturePage", Key::Return) || !capture(walk, "capture", "changing qml to state 9") ||
-        !user.pressTo("tutorialPage", Key::Return) || !user.lookAt("tutorialPage", "tutorial") ||
+        !user.pressTo("lightingPage", Key::Return) || !checkLight(&user) ||
+        !capture(walk, "capture", "changing qml to state 9") || !readExample(&user) ||
         !user.pressTo("refinementPage", Key::Return) || !compareWithStored(walk)) {
         return false;
     }
@@ -241,6 +253,7 @@ int run(const QString& recording, const QString& folder, const QStringList& comm
     result.insert("problem", judged ? QString() : problem);
     result.insert("reactionsMs",
                   QJsonObject{{"whilePhotoIsWorkedOn", walk.busyReactionsMs}, {"otherwise", walk.idleReactionsMs}});
+    result.insert("touchesUntilStored", user.mainButtonPresses());
     result.insert("screenshots", QJsonArray::fromStringList(user.pictures()));
     QFile file(folder + "/application.json");
     if (file.open(QIODevice::WriteOnly)) file.write(QJsonDocument(result).toJson());

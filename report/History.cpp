@@ -1,11 +1,13 @@
 #include "report/History.h"
 
+#include "engine/Rotation.h"
 #include "files/SafeFile.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
 
+#include <cmath>
 #include <string>
 
 namespace fieldcal {
@@ -17,8 +19,9 @@ constexpr char kHeader[] =
 
 constexpr const char* kStored = "stored";  ///< the result of a save that succeeded
 constexpr qint64 kLargestHistory = 64 << 20;
-constexpr int kMinFields = 3;
 constexpr int kFirstYear = 2020;  ///< before this program; a computer's clock without a battery begins earlier
+constexpr qint64 kLongestEnd = 256 << 10;  ///< of the history, in which its newest lines are searched
+enum Column { kTime, kSerial, kCamera, kBefore, kAfter = 6, kProof = 12, kResult = 14 };
 
 QString quoted(QString field) {
     field.replace('\n', ' ').replace('\r', ' ');
@@ -63,6 +66,57 @@ bool isPossible(const QDateTime& time) {
     return time.date().year() >= kFirstYear && time <= QDateTime::currentDateTimeUtc();
 }
 
+std::optional<ColourCamera> cameraNamed(const QByteArray& name) {
+    for (const ColourCamera camera : kColourCameras)
+        if (name == nameOf(camera)) return camera;
+    return std::nullopt;
+}
+
+std::optional<double> numberIn(const QList<QByteArray>& fields, int column) {
+    bool isNumber = false;
+    const double number = fields[column].toDouble(&isNumber);
+    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
+std::optional<Eigen::Matrix3d> rotationIn(const QList<QByteArray>& fields, int column) {
+    Eigen::Vector3d anglesRad;
+    for (int i = 0; i < 3; ++i) {
+        const std::optional<double> angle = numberIn(fields, column + i);
+        if (!angle) return std::nullopt;
+        anglesRad[i] = *angle / vq::kDegreesPerRadian;
+    }
+    return vq::rotationFromAngles(anglesRad);
+}
+
+/// None for a line that is not complete.
+std::optional<HistoryEntry> entryIn(const QByteArray& line) {
+    const QList<QByteArray> fields = line.split(',');
+    if (fields.size() <= kResult) return std::nullopt;
+    HistoryEntry entry;
+    bool isSerial = false;
+    entry.time = QDateTime::fromString(QString::fromLatin1(fields[kTime]), Qt::ISODate);
+    entry.serial = fields[kSerial].toUInt(&isSerial);
+    const std::optional<ColourCamera> camera = cameraNamed(fields[kCamera]);
+    const auto before = rotationIn(fields, kBefore), after = rotationIn(fields, kAfter);
+    if (!entry.time.isValid() || !isSerial || !camera || !before || !after) return std::nullopt;
+    entry.camera = *camera;
+    entry.turnDeg = turnDeg(*before, *after);
+    const std::optional<double> storedPx = numberIn(fields, kProof), newPx = numberIn(fields, kProof + 1);
+    if (storedPx && newPx) entry.proof = HistoryEntry::Proof{*storedPx, *newPx};
+    entry.stored = fields[kResult] == kStored;
+    return entry;
+}
+
+/// Returns the last lines, in up to `length` bytes; none when the history cannot be read or is implausibly large.
+QList<QByteArray> lastLines(const QString& folder, qint64 length) {
+    QFile file(folder + "/history.csv");
+    if (!QFileInfo(file).isFile() || file.size() > kLargestHistory || !file.open(QIODevice::ReadOnly)) return {};
+    const bool cut = file.size() > length && file.seek(file.size() - length);
+    QList<QByteArray> lines = file.readAll().split('\n');
+    if (cut) lines.removeFirst();
+    return lines;
+}
+
 }  // namespace
 
 bool appendHistory(const QString& folder, const ServiceReport& report) {
@@ -77,16 +131,20 @@ bool appendHistory(const QString& folder, const ServiceReport& report) {
 }
 
 QDateTime lastStored(const QString& folder, std::uint32_t serial) {
-    QFile file(folder + "/history.csv");
-    if (!QFileInfo(file).isFile() || file.size() > kLargestHistory || !file.open(QIODevice::ReadOnly)) return {};
     QDateTime last;
-    for (const QByteArray& line : file.readAll().split('\n')) {
-        const QList<QByteArray> fields = line.split(',');
-        if (fields.size() < kMinFields || fields[1] != QByteArray::number(serial) || fields.last() != kStored) continue;
-        const QDateTime time = QDateTime::fromString(QString::fromLatin1(fields[0]), Qt::ISODate);
-        if (time.isValid()) last = time;
+    for (const QByteArray& line : lastLines(folder, kLargestHistory)) {
+        const std::optional<HistoryEntry> entry = entryIn(line);
+        if (entry && entry->stored && entry->serial == serial) last = entry->time;
     }
     return isPossible(last) ? last : QDateTime();
+}
+
+std::vector<HistoryEntry> newestOfHistory(const QString& folder, std::size_t count) {
+    std::vector<HistoryEntry> newest;
+    const QList<QByteArray> lines = lastLines(folder, kLongestEnd);
+    for (auto line = lines.rbegin(); line != lines.rend() && newest.size() < count; ++line)
+        if (const std::optional<HistoryEntry> entry = entryIn(*line)) newest.push_back(*entry);
+    return newest;
 }
 
 }  // namespace fieldcal

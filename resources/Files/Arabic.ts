@@ -88,11 +88,11 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>tilted clockwise</source>
-        <translation>مائلة مع عقارب الساعة</translation>
+        <translation>مائلة باتجاه عقارب الساعة</translation>
     </message>
     <message>
         <source>tilted counterclockwise</source>
-        <translation>مائلة عكس عقارب الساعة</translation>
+        <translation>مائلة عكس اتجاه عقارب الساعة</translation>
     </message>
     <message>
         <source>Next, check it against the picture. It is stored only when you accept it.</source>
@@ -124,6 +124,33 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>مقدار الدوران</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>الإزاحة في الصور</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>مخزّنة</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>غير مخزّنة</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>التقارير: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -133,7 +160,7 @@ Turn to other scenery.</source>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
         <translation>وجّه الجهاز إلى مشهد غني بالتفاصيل.
-المباني والأشجار مناسبة، قريبة كانت أم بعيدة. العشب والسماء والجدران الخالية بسيطة للغاية. ابقَ على بُعد خطوتين على الأقل.</translation>
+المباني والأشجار مناسبة، قريبة كانت أم بعيدة. العشب والسماء والجدران الخالية قليلة التفاصيل. ابقَ على بُعد خطوتين على الأقل.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -144,7 +171,7 @@ Turn the tablet a little to the side, up or down, so that the details come to li
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>توقف حتى يومض.
+        <translation>توقف حتى تومض الشاشة.
 ثبّت الجهاز اللوحي للحظة. تُلتقط الصورة تلقائيًا. ثم أدره مرة أخرى.</translation>
     </message>
     <message>
@@ -178,7 +205,7 @@ Hold the tablet still for a moment. The photo is taken by itself. Then turn agai
         <source>There is not enough sunlight.
 Move outside to a bright, sunlit area.</source>
         <translation>ضوء الشمس غير كافٍ.
-انتقل إلى الخارج في منطقة ساطعة ومشمسة.</translation>
+اخرج إلى مكان مضيء ومشمس.</translation>
     </message>
     <message>
         <source>Sufficient Sunlight</source>
@@ -205,19 +232,19 @@ Press continue.</source>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
-        <translation>قم بمحاذاة صورة العمق الملونة مع الصورة الملونة.
+        <translation>حاذِ ألوان صورة العمق مع صورة الكاميرا.
 اضغط على «متابعة» لقبول معايرة الكاميرا الملونة، أو على «إعادة البدء» للبدء من جديد.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
-        <translation>قم بمحاذاة صورة العمق الملونة مع الصورة الملونة.
+        <translation>حاذِ ألوان صورة العمق مع صورة الكاميرا.
 اضغط على «متابعة» لقبول معايرة الكاميرا الملونة الأولى، أو على «إعادة البدء» للبدء من جديد.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
-        <translation>قم بمحاذاة صورة العمق الملونة مع الصورة الملونة.
+        <translation>حاذِ ألوان صورة العمق مع صورة الكاميرا.
 اضغط على «متابعة» لقبول معايرة الكاميرا الملونة الثانية، أو على «إعادة البدء» للبدء من جديد.</translation>
     </message>
     <message>
@@ -228,7 +255,7 @@ Press Continue to accept the calibration of the second color camera. Or press Re
         <source>The last calibration was not stored in the camera.
 Please calibrate again.</source>
         <translation>لم يتم تخزين المعايرة الأخيرة في الكاميرا.
-يُرجى المعايرة مرة أخرى.</translation>
+يُرجى إجراء المعايرة مرة أخرى.</translation>
     </message>
     <message>
         <source>Last calibrated on %1.</source>
@@ -238,7 +265,7 @@ Please calibrate again.</source>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
         <translation>لا تحتوي الكاميرا على المعايرة الأخيرة ولا على المعايرة السابقة.
-يرجى المعايرة مرة أخرى.</translation>
+يُرجى إجراء المعايرة مرة أخرى.</translation>
     </message>
     <message>
         <source>Move the device to capture a different calibration photo.</source>
@@ -247,7 +274,7 @@ Please calibrate again.</source>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
-        <translation>لا تنجح المعايرة لأن المشهد في هذه الصور بسيط للغاية.
+        <translation>لا تنجح المعايرة لأن المشهد في هذه الصور قليل التفاصيل.
 حاول مرة أخرى. وجّه الجهاز إلى مشهد غني بالتفاصيل مثل المباني أو الأشجار.</translation>
     </message>
     <message>
@@ -348,7 +375,7 @@ Switch the tablet off and on again.</source>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>وجّه الجهاز إلى مبانٍ أو أشجار، قريبة أو بعيدة. حرّكه ثم توقف، وستُلتقط حتى ثماني صور تلقائيًا.</translation>
+        <translation>وجّه الجهاز إلى مبانٍ أو أشجار، قريبة أو بعيدة. حرّكه ثم توقف، وستُلتقط تلقائيًا ثماني صور كحد أقصى.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -381,11 +408,11 @@ The photos and what was found so far would be lost. The camera keeps its old cal
     </message>
     <message>
         <source>Stay</source>
-        <translation>بقاء</translation>
+        <translation>البقاء</translation>
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>تخزين الأولى</translation>
+        <translation>تخزين الكاميرا الأولى</translation>
     </message>
 </context>
 <context>
@@ -394,7 +421,7 @@ The photos and what was found so far would be lost. The camera keeps its old cal
         <source>Return to a well lit area.
 It goes on by itself. The photos taken so far count.</source>
         <translation>عُد إلى منطقة جيدة الإضاءة.
-ستتم المتابعة تلقائيًا. الصور الملتقطة حتى الآن محسوبة.</translation>
+ستتم المتابعة تلقائيًا. ستُستخدم الصور الملتقطة حتى الآن.</translation>
     </message>
 </context>
 <context>
@@ -405,7 +432,11 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Enough light at the mark</source>
-        <translation>الضوء كافٍ عند العلامة</translation>
+        <translation>الضوء كافٍ بدءًا من العلامة</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>ستتم المتابعة تلقائيًا بعد لحظة.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>لا تستجيب الكاميرا بعد. أغلق البرامج الأخرى التي تستخدمها، أو اضغط على «خروج» وابدأ من جديد.</translation>
+        <translation>لا تستجيب الكاميرا بعد. أغلق البرامج الأخرى التي تستخدمها، أو اضغط على «خروج» وابدأ البرنامج من جديد.</translation>
     </message>
 </context>
 <context>
@@ -507,7 +538,7 @@ It goes on by itself. The photos taken so far count.</source>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>العمق الظاهر قليل للغاية. وجّه الجهاز إلى شيء يبعد بضعة أمتار.</translation>
     </message>
     <message>

@@ -11,11 +11,11 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>
-        <translation>如果现在退出，可以存储第一个摄像头的校准。</translation>
+        <translation>如果现在退出，可以保存第一个摄像头的校准结果。</translation>
     </message>
     <message>
         <source>If you exit now, nothing is stored.</source>
-        <translation>如果现在退出，将不存储任何内容。</translation>
+        <translation>如果现在退出，将不保存任何内容。</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -68,7 +68,7 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>The color camera has turned by %1 since the stored calibration:</source>
-        <translation>与已存储的校准相比，彩色摄像头转动了 %1：</translation>
+        <translation>与已保存的校准结果相比，彩色摄像头转动了 %1：</translation>
     </message>
     <message>
         <source>to the right</source>
@@ -96,7 +96,7 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>Next, check it against the picture. It is stored only when you accept it.</source>
-        <translation>接下来请对照画面检查。只有在您接受后才会存储。</translation>
+        <translation>接下来请对照画面检查。只有在您接受后才会保存。</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -104,11 +104,11 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
-        <translation>照片中的偏差：使用已存储的校准为 %1 像素，使用新的校准为 %2 像素。</translation>
+        <translation>照片中的偏差：使用已保存的校准结果为 %1 像素，使用新的校准结果为 %2 像素。</translation>
     </message>
     <message>
         <source>The stored calibration still fits.</source>
-        <translation>已存储的校准仍然适用。</translation>
+        <translation>已保存的校准结果仍然适用。</translation>
     </message>
     <message>
         <source>The color camera has turned unusually far.</source>
@@ -120,7 +120,34 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>Keep stored calibration</source>
-        <translation>保留已存储的校准</translation>
+        <translation>保留已保存的校准结果</translation>
+    </message>
+</context>
+<context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>转动角度</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>照片中的偏差</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>已保存</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>未保存</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>报告：%1</translation>
     </message>
 </context>
 <context>
@@ -144,8 +171,8 @@ Turn the tablet a little to the side, up or down, so that the details come to li
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>请停住，直到屏幕闪烁。
-保持平板电脑静止片刻。照片会自动拍摄。然后再次转动。</translation>
+        <translation>请保持静止，直到屏幕闪一下。
+让平板电脑静止片刻。照片会自动拍摄。然后再次转动。</translation>
     </message>
     <message>
         <source>Close</source>
@@ -164,7 +191,7 @@ Hold the tablet still for a moment. The photo is taken by itself. Then turn agai
     <name>Interface</name>
     <message>
         <source>Pause to capture a calibration photo.</source>
-        <translation>请停住以拍摄校准照片。</translation>
+        <translation>请保持静止以拍摄校准照片。</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -205,29 +232,29 @@ Press continue.</source>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
-        <translation>请将彩色的深度图像与彩色图像对齐。
-按“继续”接受彩色摄像头的校准，或按“重新开始”从头再来。</translation>
+        <translation>请将着色的深度图像与彩色图像对齐。
+按“继续”接受彩色摄像头的校准结果，或按“重新开始”从头再来。</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
-        <translation>请将彩色的深度图像与彩色图像对齐。
-按“继续”接受第一个彩色摄像头的校准，或按“重新开始”从头再来。</translation>
+        <translation>请将着色的深度图像与彩色图像对齐。
+按“继续”接受第一个彩色摄像头的校准结果，或按“重新开始”从头再来。</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
-        <translation>请将彩色的深度图像与彩色图像对齐。
-按“继续”接受第二个彩色摄像头的校准，或按“重新开始”从头再来。</translation>
+        <translation>请将着色的深度图像与彩色图像对齐。
+按“继续”接受第二个彩色摄像头的校准结果，或按“重新开始”从头再来。</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>
-        <translation>校准已存储到摄像头中。</translation>
+        <translation>校准结果已保存到摄像头中。</translation>
     </message>
     <message>
         <source>The last calibration was not stored in the camera.
 Please calibrate again.</source>
-        <translation>上次的校准未存储到摄像头中。
+        <translation>上次的校准结果未保存到摄像头中。
 请重新校准。</translation>
     </message>
     <message>
@@ -237,7 +264,7 @@ Please calibrate again.</source>
     <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
-        <translation>摄像头中既没有上一次的校准，也没有之前的校准。
+        <translation>摄像头中既没有上一次的校准结果，也没有之前的校准结果。
 请重新校准。</translation>
     </message>
     <message>
@@ -252,11 +279,11 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
     </message>
     <message>
         <source>The camera said that it stored the calibration, but it did not</source>
-        <translation>摄像头报告已存储校准，但实际并未存储</translation>
+        <translation>摄像头报告已保存校准结果，但实际并未保存</translation>
     </message>
     <message>
         <source>The camera&apos;s images do not fit the new calibration</source>
-        <translation>摄像头的图像与新的校准不符</translation>
+        <translation>摄像头的图像与新的校准结果不符</translation>
     </message>
     <message>
         <source>The camera does not answer</source>
@@ -280,7 +307,7 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
     </message>
     <message>
         <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
-        <translation>您的 Tarnex Deepvane 摄像头需要更新固件后才能运行此应用程序。请更新固件，然后重新运行此应用程序。</translation>
+        <translation>您的 Tarnex Deepvane 摄像头需要先更新固件，才能运行此应用程序。请更新固件，然后重新运行此应用程序。</translation>
     </message>
     <message>
         <source>An unknown error has occured.</source>
@@ -308,7 +335,7 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
     </message>
     <message>
         <source>The download is not signed by the maker of this program and has been removed.</source>
-        <translation>下载的文件未经本程序制造商签名，已删除。</translation>
+        <translation>下载的文件未经本程序发布者签名，已删除。</translation>
     </message>
     <message>
         <source>There is no installer for this system.</source>
@@ -322,18 +349,18 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>The battery is almost empty.
 Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
         <translation>电池电量即将耗尽。
-请将平板电脑连接到充电器。然后即可将校准存储到摄像头中。</translation>
+请将平板电脑连接到充电器。然后即可将校准结果保存到摄像头中。</translation>
     </message>
     <message>
         <source>Another program prevents this one from starting.
 Switch the tablet off and on again.</source>
         <translation>另一个程序阻止了本程序启动。
-请关闭平板电脑，然后重新打开。</translation>
+请将平板电脑关机，然后重新开机。</translation>
     </message>
     <message>
         <source>%1: read back, %2° from the calibration before.</source>
         <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
-        <translation>%1：已读回，与之前的校准相差 %2°。</translation>
+        <translation>%1：已读回，与之前的校准结果相差 %2°。</translation>
     </message>
 </context>
 <context>
@@ -348,11 +375,11 @@ Switch the tablet off and on again.</source>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>对准建筑物或树木，远近均可。移动、停住，最多会自动拍摄八张照片。</translation>
+        <translation>对准建筑物或树木，远近均可。移动、保持静止，最多会自动拍摄八张照片。</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
-        <translation>用一根手指检查结果，并将其存储到摄像头中。</translation>
+        <translation>用一根手指检查结果，并将其保存到摄像头中。</translation>
     </message>
     <message>
         <source>Takes about three minutes.</source>
@@ -372,20 +399,20 @@ Switch the tablet off and on again.</source>
     <message>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
-        <translation>不存储就离开吗？
-照片和目前的结果将会丢失。摄像头保留原有的校准。</translation>
+        <translation>不保存就退出吗？
+照片和目前的结果将会丢失。摄像头保留原有的校准结果。</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation>离开</translation>
+        <translation>退出</translation>
     </message>
     <message>
         <source>Stay</source>
-        <translation>留下</translation>
+        <translation>继续校准</translation>
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>存储第一个</translation>
+        <translation>保存第一个摄像头</translation>
     </message>
 </context>
 <context>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>达到标记处即光线充足</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>稍后将自动继续。</translation>
     </message>
 </context>
 <context>
@@ -457,7 +488,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Switch the tablet off and on again.</source>
-        <translation>请关闭平板电脑，然后重新打开。</translation>
+        <translation>请将平板电脑关机，然后重新开机。</translation>
     </message>
     <message>
         <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
@@ -493,7 +524,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Start the calibration again. What was found so far is not stored.</source>
-        <translation>请重新启动校准。目前的结果尚未存储。</translation>
+        <translation>请重新启动校准。目前的结果尚未保存。</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -501,18 +532,18 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
-        <translation>请重新启动校准。退出时可以存储第一个摄像头的校准。</translation>
+        <translation>请重新启动校准。退出时可以保存第一个摄像头的校准结果。</translation>
     </message>
 </context>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>画面中的深度信息太少。请对准几米外的物体。</translation>
     </message>
     <message>
         <source>Stored calibration</source>
-        <translation>已存储的校准</translation>
+        <translation>已保存的校准结果</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -548,11 +579,11 @@ The photos and what was found so far would be lost.</source>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>
-        <translation>正在将校准存储到摄像头…</translation>
+        <translation>正在将校准结果保存到摄像头…</translation>
     </message>
     <message>
         <source>Please wait, and do not switch the tablet off.</source>
-        <translation>请稍候，不要关闭平板电脑。</translation>
+        <translation>请稍候，请勿将平板电脑关机。</translation>
     </message>
     <message>
         <source>The program closes by itself, or when you touch the screen.</source>
@@ -621,7 +652,7 @@ It is downloaded and installed in a few minutes. The program then closes and sta
     </message>
     <message>
         <source>The connection was lost. It is tried again…</source>
-        <translation>连接已丢失。正在重试…</translation>
+        <translation>连接已断开。正在重试…</translation>
     </message>
     <message>
         <source>%1 of %2 MB</source>
@@ -647,7 +678,7 @@ The program closes now and starts again by itself.</source>
     </message>
     <message>
         <source>Later</source>
-        <translation>以后</translation>
+        <translation>稍后</translation>
     </message>
     <message>
         <source>Cancel</source>

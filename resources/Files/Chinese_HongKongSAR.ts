@@ -6,12 +6,12 @@
     <message>
         <source>The first camera is done. Now the second one.
 Turn to other scenery.</source>
-        <translation>第一個鏡頭已完成。現在是第二個。
+        <translation>第一部相機已完成。現在是第二部。
 請轉向其他景物。</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>
-        <translation>如果現在離開，可以儲存第一個鏡頭的校準。</translation>
+        <translation>如果現在離開，可以儲存第一部相機的校準結果。</translation>
     </message>
     <message>
         <source>If you exit now, nothing is stored.</source>
@@ -68,7 +68,7 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>The color camera has turned by %1 since the stored calibration:</source>
-        <translation>與已儲存的校準相比，彩色鏡頭轉動了 %1：</translation>
+        <translation>與已儲存的校準結果相比，彩色相機轉動了 %1：</translation>
     </message>
     <message>
         <source>to the right</source>
@@ -104,23 +104,50 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
-        <translation>相片中的偏差：使用已儲存的校準為 %1 像素，使用新的校準為 %2 像素。</translation>
+        <translation>相片中的偏差：使用已儲存的校準結果為 %1 像素，使用新的校準結果為 %2 像素。</translation>
     </message>
     <message>
         <source>The stored calibration still fits.</source>
-        <translation>已儲存的校準仍然適用。</translation>
+        <translation>已儲存的校準結果仍然適用。</translation>
     </message>
     <message>
         <source>The color camera has turned unusually far.</source>
-        <translation>彩色鏡頭的轉動幅度異常大。</translation>
+        <translation>彩色相機的轉動幅度異常大。</translation>
     </message>
     <message>
         <source>A turn alone does not explain the photos. The camera may need service.</source>
-        <translation>單憑轉動無法解釋這些相片。鏡頭可能需要維修。</translation>
+        <translation>單憑轉動無法解釋這些相片。相機可能需要維修。</translation>
     </message>
     <message>
         <source>Keep stored calibration</source>
-        <translation>保留已儲存的校準</translation>
+        <translation>保留已儲存的校準結果</translation>
+    </message>
+</context>
+<context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>歷史記錄</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>轉動角度</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>相片中的偏差</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>已儲存</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>未儲存</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>報告：%1</translation>
     </message>
 </context>
 <context>
@@ -144,7 +171,7 @@ Turn the tablet a little to the side, up or down, so that the details come to li
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>請停住，直到畫面閃動。
+        <translation>請保持靜止，直到畫面閃動。
 讓平板電腦靜止片刻。相片會自動拍攝。然後再次轉動。</translation>
     </message>
     <message>
@@ -164,7 +191,7 @@ Hold the tablet still for a moment. The photo is taken by itself. Then turn agai
     <name>Interface</name>
     <message>
         <source>Pause to capture a calibration photo.</source>
-        <translation>請停住以拍攝校準相片。</translation>
+        <translation>請保持靜止以拍攝校準相片。</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -192,42 +219,42 @@ Press continue.</source>
     </message>
     <message>
         <source>Color Camera</source>
-        <translation>彩色鏡頭</translation>
+        <translation>彩色相機</translation>
     </message>
     <message>
         <source>First Color Camera</source>
-        <translation>第一個彩色鏡頭</translation>
+        <translation>第一部彩色相機</translation>
     </message>
     <message>
         <source>Second Color Camera</source>
-        <translation>第二個彩色鏡頭</translation>
+        <translation>第二部彩色相機</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
-        <translation>請將彩色的深度影像與彩色影像對齊。
-按「繼續」接受彩色鏡頭的校準，或按「重新開始」從頭再來。</translation>
+        <translation>請將上色的深度影像與彩色影像對齊。
+按「繼續」接受彩色相機的校準結果，或按「重新開始」從頭再來。</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
-        <translation>請將彩色的深度影像與彩色影像對齊。
-按「繼續」接受第一個彩色鏡頭的校準，或按「重新開始」從頭再來。</translation>
+        <translation>請將上色的深度影像與彩色影像對齊。
+按「繼續」接受第一部彩色相機的校準結果，或按「重新開始」從頭再來。</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
-        <translation>請將彩色的深度影像與彩色影像對齊。
-按「繼續」接受第二個彩色鏡頭的校準，或按「重新開始」從頭再來。</translation>
+        <translation>請將上色的深度影像與彩色影像對齊。
+按「繼續」接受第二部彩色相機的校準結果，或按「重新開始」從頭再來。</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>
-        <translation>校準已儲存到鏡頭中。</translation>
+        <translation>校準結果已儲存到相機中。</translation>
     </message>
     <message>
         <source>The last calibration was not stored in the camera.
 Please calibrate again.</source>
-        <translation>上次的校準未儲存到鏡頭中。
+        <translation>上次的校準結果未儲存到相機中。
 請重新校準。</translation>
     </message>
     <message>
@@ -237,7 +264,7 @@ Please calibrate again.</source>
     <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
-        <translation>鏡頭中既沒有上一次的校準，也沒有之前的校準。
+        <translation>相機中既沒有上一次的校準結果，也沒有之前的校準結果。
 請重新校準。</translation>
     </message>
     <message>
@@ -252,15 +279,15 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
     </message>
     <message>
         <source>The camera said that it stored the calibration, but it did not</source>
-        <translation>鏡頭回報已儲存校準，但實際上並未儲存</translation>
+        <translation>相機回報已儲存校準結果，但實際上並未儲存</translation>
     </message>
     <message>
         <source>The camera&apos;s images do not fit the new calibration</source>
-        <translation>鏡頭的影像與新的校準不符</translation>
+        <translation>相機的影像與新的校準結果不符</translation>
     </message>
     <message>
         <source>The camera does not answer</source>
-        <translation>鏡頭沒有回應</translation>
+        <translation>相機沒有回應</translation>
     </message>
     <message>
         <source>A KXAPI call failed.</source>
@@ -272,7 +299,7 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
     </message>
     <message>
         <source>Something bad has happened with the Tarnex Deepvane camera.</source>
-        <translation>Tarnex Deepvane 鏡頭發生嚴重問題。</translation>
+        <translation>Tarnex Deepvane 相機發生嚴重問題。</translation>
     </message>
     <message>
         <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
@@ -280,7 +307,7 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
     </message>
     <message>
         <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
-        <translation>您的 Tarnex Deepvane 鏡頭需要更新韌體後才能執行此應用程式。請更新韌體，然後重新執行此應用程式。</translation>
+        <translation>您的 Tarnex Deepvane 相機需要更新韌體後才能執行此應用程式。請更新韌體，然後重新執行此應用程式。</translation>
     </message>
     <message>
         <source>An unknown error has occured.</source>
@@ -288,7 +315,7 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
     </message>
     <message>
         <source>The connection broke off and could not be made again.</source>
-        <translation>連線中斷，且未能恢復。</translation>
+        <translation>連線中斷，且未能重新連線。</translation>
     </message>
     <message>
         <source>The download server does not give what was expected of it.</source>
@@ -308,7 +335,7 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
     </message>
     <message>
         <source>The download is not signed by the maker of this program and has been removed.</source>
-        <translation>下載的檔案未經本程式製造商簽署，已移除。</translation>
+        <translation>下載的檔案未經本程式發行者簽署，已移除。</translation>
     </message>
     <message>
         <source>There is no installer for this system.</source>
@@ -322,7 +349,7 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>The battery is almost empty.
 Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
         <translation>電池電量即將耗盡。
-請將平板電腦連接到充電器。然後即可將校準儲存到鏡頭中。</translation>
+請將平板電腦連接到充電器。然後即可將校準結果儲存到相機中。</translation>
     </message>
     <message>
         <source>Another program prevents this one from starting.
@@ -333,14 +360,14 @@ Switch the tablet off and on again.</source>
     <message>
         <source>%1: read back, %2° from the calibration before.</source>
         <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
-        <translation>%1：已讀回，與之前的校準相差 %2°。</translation>
+        <translation>%1：已讀回，與之前的校準結果相差 %2°。</translation>
     </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
     <message>
         <source>Camera calibration</source>
-        <translation>鏡頭校準</translation>
+        <translation>相機校準</translation>
     </message>
     <message>
         <source>Go outside into bright sunlight.</source>
@@ -348,11 +375,11 @@ Switch the tablet off and on again.</source>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>對準建築物或樹木，遠近均可。移動、停住，最多會自動拍攝八張相片。</translation>
+        <translation>對準建築物或樹木，遠近均可。移動、保持靜止，最多會自動拍攝八張相片。</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
-        <translation>用一根手指檢查結果，並將其儲存到鏡頭中。</translation>
+        <translation>用一根手指檢查結果，並將其儲存到相機中。</translation>
     </message>
     <message>
         <source>Takes about three minutes.</source>
@@ -360,7 +387,7 @@ Switch the tablet off and on again.</source>
     </message>
     <message>
         <source>Takes about five minutes for both cameras.</source>
-        <translation>兩個鏡頭大約需要五分鐘。</translation>
+        <translation>兩部相機大約需要五分鐘。</translation>
     </message>
     <message>
         <source>Start</source>
@@ -373,7 +400,7 @@ Switch the tablet off and on again.</source>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
         <translation>不儲存就離開嗎？
-相片和目前的結果將會遺失。鏡頭會保留原有的校準。</translation>
+相片和目前的結果將會遺失。相機會保留原有的校準結果。</translation>
     </message>
     <message>
         <source>Leave</source>
@@ -381,11 +408,11 @@ The photos and what was found so far would be lost. The camera keeps its old cal
     </message>
     <message>
         <source>Stay</source>
-        <translation>留下</translation>
+        <translation>繼續校準</translation>
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>儲存第一個</translation>
+        <translation>儲存第一部相機</translation>
     </message>
 </context>
 <context>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>達到標記處即光線充足</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>稍後會自動繼續。</translation>
     </message>
 </context>
 <context>
@@ -434,7 +465,7 @@ It goes on by itself. The photos taken so far count.</source>
     <name>OpeningScreen</name>
     <message>
         <source>Opening the camera…</source>
-        <translation>正在開啟鏡頭…</translation>
+        <translation>正在開啟相機…</translation>
     </message>
     <message>
         <source>This can take half a minute after the tablet was switched on.</source>
@@ -442,18 +473,18 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>鏡頭尚未回應。請關閉使用它的其他程式，或按「結束」後重新啟動。</translation>
+        <translation>相機尚未回應。請關閉使用它的其他程式，或按「結束」後重新啟動。</translation>
     </message>
 </context>
 <context>
     <name>Pages</name>
     <message>
         <source>The depth camera was not found.</source>
-        <translation>找不到深度鏡頭。</translation>
+        <translation>找不到深度相機。</translation>
     </message>
     <message>
         <source>Close every other program that uses a camera.</source>
-        <translation>請關閉使用鏡頭的所有其他程式。</translation>
+        <translation>請關閉使用相機的所有其他程式。</translation>
     </message>
     <message>
         <source>Switch the tablet off and on again.</source>
@@ -461,19 +492,19 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
-        <translation>請重新啟動校準。如果仍找不到鏡頭，則平板電腦需要維修。</translation>
+        <translation>請重新啟動校準。如果仍找不到相機，則平板電腦需要維修。</translation>
     </message>
     <message>
         <source>The rear camera was not found.</source>
-        <translation>找不到後置鏡頭。</translation>
+        <translation>找不到後置相機。</translation>
     </message>
     <message>
         <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
-        <translation>請在系統的私隱設定中檢查是否允許程式使用鏡頭。</translation>
+        <translation>請在系統的私隱設定中檢查是否允許程式使用相機。</translation>
     </message>
     <message>
         <source>Check in the device manager that the rear camera is switched on.</source>
-        <translation>請在裝置管理員中檢查後置鏡頭是否已啟用。</translation>
+        <translation>請在裝置管理員中檢查後置相機是否已啟用。</translation>
     </message>
     <message>
         <source>Start the calibration again.</source>
@@ -481,15 +512,15 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>The rear camera delivers no picture.</source>
-        <translation>後置鏡頭沒有影像。</translation>
+        <translation>後置相機沒有影像。</translation>
     </message>
     <message>
         <source>Close every other program that uses the rear camera.</source>
-        <translation>請關閉使用後置鏡頭的所有其他程式。</translation>
+        <translation>請關閉使用後置相機的所有其他程式。</translation>
     </message>
     <message>
         <source>Make sure that nothing covers the camera.</source>
-        <translation>請確定沒有物件遮住鏡頭。</translation>
+        <translation>請確定沒有物件遮住相機。</translation>
     </message>
     <message>
         <source>Start the calibration again. What was found so far is not stored.</source>
@@ -501,18 +532,18 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
-        <translation>請重新啟動校準。結束時可以儲存第一個鏡頭的校準。</translation>
+        <translation>請重新啟動校準。結束時可以儲存第一部相機的校準結果。</translation>
     </message>
 </context>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>畫面中的深度資料太少。請對準幾米外的物件。</translation>
     </message>
     <message>
         <source>Stored calibration</source>
-        <translation>已儲存的校準</translation>
+        <translation>已儲存的校準結果</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -548,11 +579,11 @@ The photos and what was found so far would be lost.</source>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>
-        <translation>正在將校準儲存到鏡頭…</translation>
+        <translation>正在將校準結果儲存到相機…</translation>
     </message>
     <message>
         <source>Please wait, and do not switch the tablet off.</source>
-        <translation>請稍候，不要關閉平板電腦。</translation>
+        <translation>請稍候，請勿將平板電腦關機。</translation>
     </message>
     <message>
         <source>The program closes by itself, or when you touch the screen.</source>
@@ -600,7 +631,7 @@ Point at buildings or trees in bright sunlight.</source>
     </message>
     <message>
         <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
-        <translation>每種色彩代表一個距離。白線必須落在物件的邊緣上。</translation>
+        <translation>每種顏色代表一個距離。白線必須落在物件的邊緣上。</translation>
     </message>
     <message>
         <source>Only if they lie beside them, drag left or right until they fit.</source>

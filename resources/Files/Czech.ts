@@ -88,11 +88,11 @@ Otočte se k jinému okolí.</translation>
     </message>
     <message>
         <source>tilted clockwise</source>
-        <translation>nakloněna ve směru hodin</translation>
+        <translation>nakloněna ve směru hodinových ručiček</translation>
     </message>
     <message>
         <source>tilted counterclockwise</source>
-        <translation>nakloněna proti směru hodin</translation>
+        <translation>nakloněna proti směru hodinových ručiček</translation>
     </message>
     <message>
         <source>Next, check it against the picture. It is stored only when you accept it.</source>
@@ -124,6 +124,33 @@ Otočte se k jinému okolí.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historie</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Otočení</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Odchylka ve snímcích</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Uloženo</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Neuloženo</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Zprávy: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -144,7 +171,7 @@ Pootočte tablet trochu do strany, nahoru nebo dolů, aby se detaily dostaly na 
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>Počkejte, až se zableskne.
+        <translation>Počkejte, až obrazovka blikne.
 Chvíli držte tablet v klidu. Snímek se pořídí sám. Potom znovu pootočte.</translation>
     </message>
     <message>
@@ -372,12 +399,12 @@ Vypněte tablet a znovu jej zapněte.</translation>
     <message>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
-        <translation>Odejít bez uložení?
+        <translation>Ukončit bez uložení?
 Snímky a dosavadní výsledek budou ztraceny. Kamera si ponechá starou kalibraci.</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation>Odejít</translation>
+        <translation>Ukončit</translation>
     </message>
     <message>
         <source>Stay</source>
@@ -406,6 +433,10 @@ Pokračuje se automaticky. Dosud pořízené snímky se počítají.</translatio
     <message>
         <source>Enough light at the mark</source>
         <translation>Od značky je světla dost</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Za okamžik se pokračuje samo.</translation>
     </message>
 </context>
 <context>
@@ -507,7 +538,7 @@ Pokračuje se automaticky. Dosud pořízené snímky se počítají.</translatio
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>V záběru je málo hloubky. Namiřte na něco vzdáleného několik metrů.</translation>
     </message>
     <message>

@@ -30,7 +30,7 @@ Drej mod andre omgivelser.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Bevægelse</translation>
+        <translation>Sådan gør du</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -124,15 +124,42 @@ Drej mod andre omgivelser.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historik</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Drejet</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Afvigelse i fotoene</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Gemt</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Ikke gemt</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Rapporter: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>Bevægelse</translation>
+        <translation>Sådan gør du</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
-        <translation>Ret mod omgivelser med mange detaljer.
+        <translation>Ret tabletten mod omgivelser med mange detaljer.
 Bygninger og træer er gode, både tæt på og langt væk. Græs, himmel og bare vægge er for enkle. Hold mindst to skridts afstand.</translation>
     </message>
     <message>
@@ -242,13 +269,13 @@ Kalibrér igen.</translation>
     </message>
     <message>
         <source>Move the device to capture a different calibration photo.</source>
-        <translation>Flyt enheden for at tage et andet kalibreringsfoto.</translation>
+        <translation>Drej enheden for at tage et andet kalibreringsfoto.</translation>
     </message>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
         <translation>Kalibreringen lykkes ikke, fordi omgivelserne på disse fotos er for enkle.
-Prøv igen. Ret mod varierede omgivelser som bygninger eller træer.</translation>
+Prøv igen. Ret tabletten mod varierede omgivelser som bygninger eller træer.</translation>
     </message>
     <message>
         <source>The camera said that it stored the calibration, but it did not</source>
@@ -296,11 +323,11 @@ Prøv igen. Ret mod varierede omgivelser som bygninger eller træer.</translatio
     </message>
     <message>
         <source>The download could not be kept on the disk.</source>
-        <translation>Det hentede kunne ikke gemmes på disken.</translation>
+        <translation>Den hentede fil kunne ikke gemmes på disken.</translation>
     </message>
     <message>
         <source>The download was damaged and has been removed.</source>
-        <translation>Det hentede var beskadiget og er blevet fjernet.</translation>
+        <translation>Den hentede fil var beskadiget og er blevet fjernet.</translation>
     </message>
     <message>
         <source>This is a development build without a signature. It starts no installer.</source>
@@ -308,7 +335,7 @@ Prøv igen. Ret mod varierede omgivelser som bygninger eller træer.</translatio
     </message>
     <message>
         <source>The download is not signed by the maker of this program and has been removed.</source>
-        <translation>Det hentede er ikke signeret af programmets producent og er blevet fjernet.</translation>
+        <translation>Den hentede fil er ikke signeret af programmets producent og er blevet fjernet.</translation>
     </message>
     <message>
         <source>There is no installer for this system.</source>
@@ -348,7 +375,7 @@ Sluk tabletten, og tænd den igen.</translation>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Ret mod bygninger eller træer, tæt på eller langt væk. Bevæg, hold stille, og op til otte fotos tages automatisk.</translation>
+        <translation>Ret tabletten mod bygninger eller træer, tæt på eller langt væk. Drej, hold stille, og op til otte fotos tages automatisk.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -381,7 +408,7 @@ Fotoene og resultatet indtil nu går tabt. Kameraet beholder sin gamle kalibreri
     </message>
     <message>
         <source>Stay</source>
-        <translation>Bliv</translation>
+        <translation>Bliv her</translation>
     </message>
     <message>
         <source>Store first camera</source>
@@ -405,7 +432,11 @@ Det fortsætter automatisk. De fotos, der er taget, tæller med.</translation>
     </message>
     <message>
         <source>Enough light at the mark</source>
-        <translation>Nok lys fra mærket</translation>
+        <translation>Nok lys ved markeringen</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Det fortsætter automatisk om et øjeblik.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ Det fortsætter automatisk. De fotos, der er taget, tæller med.</translation>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>Kameraet svarer ikke endnu. Luk andre programmer, der bruger det, eller tryk på Afslut, og start igen.</translation>
+        <translation>Kameraet svarer ikke endnu. Luk andre programmer, der bruger det, eller tryk på Afslut, og start programmet igen.</translation>
     </message>
 </context>
 <context>
@@ -507,8 +538,8 @@ Det fortsætter automatisk. De fotos, der er taget, tæller med.</translation>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
-        <translation>For lidt dybde i billedet. Ret mod noget nogle få meter væk.</translation>
+        <source>Too little depth in view. Point at something a few meters away.</source>
+        <translation>For lidt dybde i billedet. Ret tabletten mod noget nogle få meter væk.</translation>
     </message>
     <message>
         <source>Stored calibration</source>
@@ -520,7 +551,7 @@ Det fortsætter automatisk. De fotos, der er taget, tæller med.</translation>
     </message>
     <message>
         <source>Hold to compare</source>
-        <translation>Hold for at sammenligne</translation>
+        <translation>Hold nede for at sammenligne</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -528,7 +559,7 @@ Det fortsætter automatisk. De fotos, der er taget, tæller med.</translation>
     </message>
     <message>
         <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
-        <translation>Ingen lodret kant i billedet. Ret mod en træstamme, en pæl eller et hushjørne.</translation>
+        <translation>Ingen lodret kant i billedet. Ret tabletten mod en træstamme, en pæl eller et hushjørne.</translation>
     </message>
     <message>
         <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
@@ -565,11 +596,11 @@ Fotoene og resultatet indtil nu går tabt.</translation>
         <source>Ready to take photos.
 Point at buildings or trees in bright sunlight.</source>
         <translation>Klar til at tage fotos.
-Ret mod bygninger eller træer i klart sollys.</translation>
+Ret tabletten mod bygninger eller træer i klart sollys.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Bevægelse</translation>
+        <translation>Sådan gør du</translation>
     </message>
     <message>
         <source>Start</source>

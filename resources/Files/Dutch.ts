@@ -34,7 +34,7 @@ Draai naar een andere omgeving.</translation>
     </message>
     <message>
         <source>Restart</source>
-        <translation>Opnieuw</translation>
+        <translation>Opnieuw beginnen</translation>
     </message>
     <message>
         <source>Paused. No photos are taken.</source>
@@ -96,7 +96,7 @@ Draai naar een andere omgeving.</translation>
     </message>
     <message>
         <source>Next, check it against the picture. It is stored only when you accept it.</source>
-        <translation>Controleer de kalibratie nu aan de hand van het beeld. Ze wordt pas opgeslagen als u ze accepteert.</translation>
+        <translation>Controleer de kalibratie nu aan de hand van het beeld. Deze wordt pas opgeslagen als u deze accepteert.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -124,6 +124,33 @@ Draai naar een andere omgeving.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Geschiedenis</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Gedraaid</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Afwijking in de foto’s</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Opgeslagen</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Niet opgeslagen</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Rapporten: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -133,7 +160,7 @@ Draai naar een andere omgeving.</translation>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
         <translation>Richt op een omgeving met veel details.
-Gebouwen en bomen zijn geschikt, dichtbij of ver weg. Gras, lucht en kale muren zijn te eenvoudig. Houd minstens twee stappen afstand.</translation>
+Gebouwen en bomen zijn geschikt, dichtbij of ver weg. Gras, lucht en kale muren zijn te egaal. Houd minstens twee stappen afstand.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -206,19 +233,19 @@ Druk op Doorgaan.</translation>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
         <translation>Lijn het gekleurde dieptebeeld uit met het kleurenbeeld.
-Druk op Doorgaan om de kalibratie van de kleurencamera te accepteren. Of druk op Opnieuw om van voren af aan te beginnen.</translation>
+Druk op Doorgaan om de kalibratie van de kleurencamera te accepteren. Of druk op Opnieuw beginnen om terug te gaan naar het begin.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
         <translation>Lijn het gekleurde dieptebeeld uit met het kleurenbeeld.
-Druk op Doorgaan om de kalibratie van de eerste kleurencamera te accepteren. Of druk op Opnieuw om van voren af aan te beginnen.</translation>
+Druk op Doorgaan om de kalibratie van de eerste kleurencamera te accepteren. Of druk op Opnieuw beginnen om terug te gaan naar het begin.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
         <translation>Lijn het gekleurde dieptebeeld uit met het kleurenbeeld.
-Druk op Doorgaan om de kalibratie van de tweede kleurencamera te accepteren. Of druk op Opnieuw om van voren af aan te beginnen.</translation>
+Druk op Doorgaan om de kalibratie van de tweede kleurencamera te accepteren. Of druk op Opnieuw beginnen om terug te gaan naar het begin.</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>
@@ -247,7 +274,7 @@ Kalibreer opnieuw.</translation>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
-        <translation>De kalibratie lukt niet, omdat de omgeving op deze foto’s te eenvoudig is.
+        <translation>De kalibratie lukt niet, omdat de omgeving op deze foto’s te egaal is.
 Probeer het opnieuw. Richt op een gevarieerde omgeving, zoals gebouwen of bomen.</translation>
     </message>
     <message>
@@ -260,7 +287,7 @@ Probeer het opnieuw. Richt op een gevarieerde omgeving, zoals gebouwen of bomen.
     </message>
     <message>
         <source>The camera does not answer</source>
-        <translation>De camera antwoordt niet</translation>
+        <translation>De camera reageert niet</translation>
     </message>
     <message>
         <source>A KXAPI call failed.</source>
@@ -407,6 +434,10 @@ Het gaat vanzelf verder. De foto’s tot nu toe tellen mee.</translation>
         <source>Enough light at the mark</source>
         <translation>Vanaf de streep genoeg licht</translation>
     </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Het gaat zo vanzelf verder.</translation>
+    </message>
 </context>
 <context>
     <name>MapLegend</name>
@@ -442,7 +473,7 @@ Het gaat vanzelf verder. De foto’s tot nu toe tellen mee.</translation>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>De camera antwoordt nog niet. Sluit andere programma’s die de camera gebruiken, of druk op Afsluiten en start opnieuw.</translation>
+        <translation>De camera reageert nog niet. Sluit andere programma’s die de camera gebruiken, of druk op Afsluiten en start het programma opnieuw.</translation>
     </message>
 </context>
 <context>
@@ -461,7 +492,7 @@ Het gaat vanzelf verder. De foto’s tot nu toe tellen mee.</translation>
     </message>
     <message>
         <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
-        <translation>Start de kalibratie opnieuw. Als de camera nog steeds ontbreekt, heeft de tablet onderhoud nodig.</translation>
+        <translation>Start de kalibratie opnieuw. Als de camera nog steeds ontbreekt, moet de tablet worden gerepareerd.</translation>
     </message>
     <message>
         <source>The rear camera was not found.</source>
@@ -507,7 +538,7 @@ Het gaat vanzelf verder. De foto’s tot nu toe tellen mee.</translation>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>Te weinig diepte in beeld. Richt op iets op enkele meters afstand.</translation>
     </message>
     <message>
@@ -516,11 +547,11 @@ Het gaat vanzelf verder. De foto’s tot nu toe tellen mee.</translation>
     </message>
     <message>
         <source>Restart</source>
-        <translation>Opnieuw</translation>
+        <translation>Opnieuw beginnen</translation>
     </message>
     <message>
         <source>Hold to compare</source>
-        <translation>Vasthouden om te vergelijken</translation>
+        <translation>Ingedrukt houden om te vergelijken</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -613,7 +644,7 @@ Richt op gebouwen of bomen, in fel zonlicht.</translation>
         <source>Version %1 is available.
 It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
         <translation>Versie %1 is beschikbaar.
-Deze wordt in enkele minuten gedownload en geïnstalleerd. Daarna sluit het programma af en start het vanzelf opnieuw.</translation>
+Deze wordt in enkele minuten gedownload en geïnstalleerd. Daarna wordt het programma vanzelf afgesloten en opnieuw gestart.</translation>
     </message>
     <message>
         <source>Downloading version %1…</source>
@@ -621,7 +652,7 @@ Deze wordt in enkele minuten gedownload en geïnstalleerd. Daarna sluit het prog
     </message>
     <message>
         <source>The connection was lost. It is tried again…</source>
-        <translation>De verbinding is verbroken. Er wordt opnieuw geprobeerd…</translation>
+        <translation>De verbinding is verbroken. Nieuwe poging…</translation>
     </message>
     <message>
         <source>%1 of %2 MB</source>
@@ -635,7 +666,7 @@ Deze wordt in enkele minuten gedownload en geïnstalleerd. Daarna sluit het prog
         <source>Starting the installation…
 The program closes now and starts again by itself.</source>
         <translation>De installatie wordt gestart…
-Het programma sluit nu af en start vanzelf opnieuw.</translation>
+Het programma wordt nu afgesloten en vanzelf opnieuw gestart.</translation>
     </message>
     <message>
         <source>The update did not succeed.</source>
@@ -659,7 +690,7 @@ Het programma sluit nu af en start vanzelf opnieuw.</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation>Opnieuw</translation>
+        <translation>Opnieuw proberen</translation>
     </message>
     <message>
         <source>Update</source>

@@ -124,6 +124,33 @@ Turn to other scenery.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>History</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Turned by</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Offset in the photos</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Stored</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Not stored</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Reports: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -407,6 +434,10 @@ It goes on by itself. The photos taken so far count.</translation>
         <source>Enough light at the mark</source>
         <translation>Enough light at the mark</translation>
     </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>It goes on by itself in a moment.</translation>
+    </message>
 </context>
 <context>
     <name>MapLegend</name>
@@ -507,8 +538,8 @@ It goes on by itself. The photos taken so far count.</translation>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
-        <translation>Too little depth in view. Point at something a few metres away.</translation>
+        <source>Too little depth in view. Point at something a few meters away.</source>
+        <translation>Too little depth in view. Point at something a few meters away.</translation>
     </message>
     <message>
         <source>Stored calibration</source>

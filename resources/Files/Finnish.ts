@@ -30,7 +30,7 @@ Käänny toiseen maisemaan.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Liikuttaminen</translation>
+        <translation>Näin liikutat</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -124,21 +124,48 @@ Käänny toiseen maisemaan.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historia</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Kääntynyt</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Poikkeama kuvissa</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Tallennettu</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Ei tallennettu</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Raportit: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>Liikuttaminen</translation>
+        <translation>Näin liikutat</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
-        <translation>Suuntaa maisemaan, jossa on yksityiskohtia.
+        <translation>Suuntaa tabletti maisemaan, jossa on yksityiskohtia.
 Rakennukset ja puut ovat hyviä sekä läheltä että kaukaa. Nurmi, taivas ja paljaat seinät ovat liian yksinkertaisia. Pysy vähintään kahden askeleen päässä.</translation>
     </message>
     <message>
         <source>Turn to another direction.
 Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
-        <translation>Käännä toiseen suuntaan.
+        <translation>Käänny toiseen suuntaan.
 Käännä tablettia hieman sivulle, ylös tai alas, jotta yksityiskohdat siirtyvät toiseen kohtaan kuvassa.</translation>
     </message>
     <message>
@@ -242,13 +269,13 @@ Kalibroi uudelleen.</translation>
     </message>
     <message>
         <source>Move the device to capture a different calibration photo.</source>
-        <translation>Ota toinen kalibrointikuva siirtämällä laitetta.</translation>
+        <translation>Ota toinen kalibrointikuva kääntämällä laitetta.</translation>
     </message>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
         <translation>Kalibrointi ei onnistu, koska kuvien maisema on liian yksinkertainen.
-Yritä uudelleen. Suuntaa vaihtelevaan maisemaan, kuten rakennuksiin tai puihin.</translation>
+Yritä uudelleen. Suuntaa tabletti vaihtelevaan maisemaan, kuten rakennuksiin tai puihin.</translation>
     </message>
     <message>
         <source>The camera said that it stored the calibration, but it did not</source>
@@ -348,7 +375,7 @@ Sammuta tabletti ja käynnistä se uudelleen.</translation>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Suuntaa rakennuksiin tai puihin, lähellä tai kaukana. Liikuta ja pysähdy, niin enintään kahdeksan kuvaa otetaan automaattisesti.</translation>
+        <translation>Suuntaa tabletti rakennuksiin tai puihin, lähellä tai kaukana. Käännä ja pysähdy, niin enintään kahdeksan kuvaa otetaan automaattisesti.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -381,7 +408,7 @@ Kuvat ja tähänastinen tulos menetetään. Kamera säilyttää vanhan kalibroin
     </message>
     <message>
         <source>Stay</source>
-        <translation>Jää</translation>
+        <translation>Älä poistu</translation>
     </message>
     <message>
         <source>Store first camera</source>
@@ -394,7 +421,7 @@ Kuvat ja tähänastinen tulos menetetään. Kamera säilyttää vanhan kalibroin
         <source>Return to a well lit area.
 It goes on by itself. The photos taken so far count.</source>
         <translation>Palaa hyvin valaistuun paikkaan.
-Toiminta jatkuu automaattisesti. Jo otetut kuvat lasketaan.</translation>
+Toiminta jatkuu automaattisesti. Jo otetut kuvat säilyvät.</translation>
     </message>
 </context>
 <context>
@@ -406,6 +433,10 @@ Toiminta jatkuu automaattisesti. Jo otetut kuvat lasketaan.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Valo riittää merkistä alkaen</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Toiminta jatkuu kohta automaattisesti.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ Toiminta jatkuu automaattisesti. Jo otetut kuvat lasketaan.</translation>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>Kamera ei vielä vastaa. Sulje muut sitä käyttävät ohjelmat tai paina Poistu ja käynnistä uudelleen.</translation>
+        <translation>Kamera ei vielä vastaa. Sulje muut sitä käyttävät ohjelmat tai paina Poistu ja käynnistä ohjelma uudelleen.</translation>
     </message>
 </context>
 <context>
@@ -507,8 +538,8 @@ Toiminta jatkuu automaattisesti. Jo otetut kuvat lasketaan.</translation>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
-        <translation>Näkyvissä on liian vähän syvyyttä. Suuntaa johonkin muutaman metrin päähän.</translation>
+        <source>Too little depth in view. Point at something a few meters away.</source>
+        <translation>Näkyvissä on liian vähän syvyyttä. Suuntaa tabletti johonkin muutaman metrin päähän.</translation>
     </message>
     <message>
         <source>Stored calibration</source>
@@ -520,7 +551,7 @@ Toiminta jatkuu automaattisesti. Jo otetut kuvat lasketaan.</translation>
     </message>
     <message>
         <source>Hold to compare</source>
-        <translation>Vertaa pitämällä</translation>
+        <translation>Vertaa pitämällä painettuna</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -528,7 +559,7 @@ Toiminta jatkuu automaattisesti. Jo otetut kuvat lasketaan.</translation>
     </message>
     <message>
         <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
-        <translation>Näkyvissä ei ole pystyreunaa. Suuntaa puunrunkoon, pylvääseen tai talon kulmaan.</translation>
+        <translation>Näkyvissä ei ole pystyreunaa. Suuntaa tabletti puunrunkoon, pylvääseen tai talon kulmaan.</translation>
     </message>
     <message>
         <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
@@ -565,11 +596,11 @@ Kuvat ja tähänastinen tulos menetetään.</translation>
         <source>Ready to take photos.
 Point at buildings or trees in bright sunlight.</source>
         <translation>Valmiina ottamaan kuvia.
-Suuntaa rakennuksiin tai puihin kirkkaassa auringonvalossa.</translation>
+Suuntaa tabletti rakennuksiin tai puihin kirkkaassa auringonvalossa.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Liikuttaminen</translation>
+        <translation>Näin liikutat</translation>
     </message>
     <message>
         <source>Start</source>

@@ -30,7 +30,7 @@ Tournez-vous vers un autre décor.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Mouvements</translation>
+        <translation>Comment bouger</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -46,7 +46,7 @@ Tournez-vous vers un autre décor.</translation>
     </message>
     <message>
         <source>Photo %1 brought nothing: too little detail in it.</source>
-        <translation>La photo %1 n’a rien apporté : trop peu de détails.</translation>
+        <translation>La photo %1 n’a rien apporté&#xa0;: trop peu de détails.</translation>
     </message>
 </context>
 <context>
@@ -124,16 +124,43 @@ Tournez-vous vers un autre décor.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Écart dans les photos</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Enregistré</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Non enregistré</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Rapports : %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>Mouvements</translation>
+        <translation>Comment bouger</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
         <translation>Visez un paysage riche en détails.
-Les bâtiments et les arbres conviennent bien, proches ou éloignés. L’herbe, le ciel et les murs nus sont trop simples. Gardez une distance d’au moins deux pas.</translation>
+Les bâtiments et les arbres conviennent bien, proches ou éloignés. L’herbe, le ciel et les murs nus sont trop uniformes. Gardez une distance d’au moins deux pas.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -144,7 +171,7 @@ Tournez un peu la tablette sur le côté, vers le haut ou vers le bas, afin que 
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>Arrêtez-vous jusqu’au flash.
+        <translation>Ne bougez plus jusqu’au flash.
 Tenez la tablette immobile un instant. La photo est prise automatiquement. Tournez ensuite à nouveau.</translation>
     </message>
     <message>
@@ -187,7 +214,7 @@ Allez à l’extérieur, dans un endroit clair et ensoleillé.</translation>
     <message>
         <source>It&apos;s bright enough here!
 Press continue.</source>
-        <translation>Il fait assez clair ici&#xa0;!
+        <translation>Il fait assez clair ici&#x202f;!
 Appuyez sur Continuer.</translation>
     </message>
     <message>
@@ -242,13 +269,13 @@ Veuillez recommencer l’étalonnage.</translation>
     </message>
     <message>
         <source>Move the device to capture a different calibration photo.</source>
-        <translation>Déplacez l’appareil pour prendre une autre photo d’étalonnage.</translation>
+        <translation>Tournez l’appareil pour prendre une autre photo d’étalonnage.</translation>
     </message>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
-        <translation>L’étalonnage échoue car le paysage sur ces photos est trop simple.
-Réessayons. Visez un paysage varié, avec des bâtiments ou des arbres.</translation>
+        <translation>L’étalonnage échoue car le paysage sur ces photos est trop uniforme.
+Réessayez. Visez un paysage varié, avec des bâtiments ou des arbres.</translation>
     </message>
     <message>
         <source>The camera said that it stored the calibration, but it did not</source>
@@ -333,7 +360,7 @@ Switch the tablet off and on again.</source>
     <message>
         <source>%1: read back, %2° from the calibration before.</source>
         <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
-        <translation>%1 : relue, à %2° de l’étalonnage précédent.</translation>
+        <translation>%1&#xa0;: relue, à %2° de l’étalonnage précédent.</translation>
     </message>
 </context>
 <context>
@@ -348,7 +375,7 @@ Switch the tablet off and on again.</source>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Visez des bâtiments ou des arbres, proches ou éloignés. Bougez, arrêtez-vous&#xa0;: jusqu’à huit photos sont prises automatiquement.</translation>
+        <translation>Visez des bâtiments ou des arbres, proches ou éloignés. Tournez, arrêtez-vous&#xa0;: jusqu’à huit photos sont prises automatiquement.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -372,7 +399,7 @@ Switch the tablet off and on again.</source>
     <message>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
-        <translation>Quitter sans enregistrer&#xa0;?
+        <translation>Quitter sans enregistrer&#x202f;?
 Les photos et le résultat obtenu seront perdus. La caméra conserve son ancien étalonnage.</translation>
     </message>
     <message>
@@ -385,7 +412,7 @@ Les photos et le résultat obtenu seront perdus. La caméra conserve son ancien 
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>Enregistrer la première</translation>
+        <translation>Enregistrer la 1re caméra</translation>
     </message>
 </context>
 <context>
@@ -406,6 +433,10 @@ La suite est automatique. Les photos déjà prises comptent.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Suffisante à partir du repère</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>La suite est automatique dans un instant.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ La suite est automatique. Les photos déjà prises comptent.</translation>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>La caméra ne répond pas encore. Fermez les autres programmes qui l’utilisent, ou appuyez sur Quitter et redémarrez.</translation>
+        <translation>La caméra ne répond pas encore. Fermez les autres programmes qui l’utilisent, ou appuyez sur Quitter et relancez le programme.</translation>
     </message>
 </context>
 <context>
@@ -507,7 +538,7 @@ La suite est automatique. Les photos déjà prises comptent.</translation>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>Trop peu de profondeur visible. Visez quelque chose à quelques mètres.</translation>
     </message>
     <message>
@@ -540,7 +571,7 @@ La suite est automatique. Les photos déjà prises comptent.</translation>
     <message>
         <source>Start over?
 The photos and what was found so far would be lost.</source>
-        <translation>Recommencer&#xa0;?
+        <translation>Recommencer&#x202f;?
 Les photos et le résultat obtenu seront perdus.</translation>
     </message>
 </context>
@@ -569,7 +600,7 @@ Visez des bâtiments ou des arbres, en plein soleil.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Mouvements</translation>
+        <translation>Comment bouger</translation>
     </message>
     <message>
         <source>Start</source>

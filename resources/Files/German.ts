@@ -30,7 +30,7 @@ Wenden Sie sich einer anderen Umgebung zu.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>So bewegen</translation>
+        <translation>So geht’s</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -96,7 +96,7 @@ Wenden Sie sich einer anderen Umgebung zu.</translation>
     </message>
     <message>
         <source>Next, check it against the picture. It is stored only when you accept it.</source>
-        <translation>Prüfen Sie sie nun am Bild. Gespeichert wird sie erst, wenn Sie sie annehmen.</translation>
+        <translation>Prüfen Sie die Kalibrierung nun am Bild. Gespeichert wird sie erst, wenn Sie sie übernehmen.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -124,28 +124,55 @@ Wenden Sie sich einer anderen Umgebung zu.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Gedreht um</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Abweichung in den Fotos</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Berichte: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>So bewegen</translation>
+        <translation>So geht’s</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
         <translation>Richten Sie das Tablet auf eine detailreiche Umgebung.
-Gebäude und Bäume sind gut, ob nah oder fern. Wiese, Himmel und kahle Wände sind zu einfach. Halten Sie mindestens zwei Schritte Abstand.</translation>
+Gebäude und Bäume sind gut, ob nah oder fern. Wiese, Himmel und kahle Wände sind zu gleichförmig. Halten Sie mindestens zwei Schritte Abstand.</translation>
     </message>
     <message>
         <source>Turn to another direction.
 Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
-        <translation>Drehen Sie in eine andere Richtung.
+        <translation>Drehen Sie sich in eine andere Richtung.
 Drehen Sie das Tablet ein wenig zur Seite, nach oben oder nach unten, sodass die Einzelheiten an anderer Stelle im Bild liegen.</translation>
     </message>
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
         <translation>Stillhalten, bis es blitzt.
-Halten Sie das Tablet einen Moment ruhig. Das Foto wird von selbst aufgenommen. Drehen Sie dann weiter.</translation>
+Halten Sie das Tablet einen Moment ruhig. Das Foto wird von selbst aufgenommen. Drehen Sie es dann weiter.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -206,19 +233,19 @@ Drücken Sie auf „Weiter“.</translation>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
         <translation>Bringen Sie das farbige Tiefenbild mit dem Farbbild zur Deckung.
-Mit „Weiter“ nehmen Sie die Kalibrierung der Farbkamera an. Mit „Neu beginnen“ fangen Sie von vorn an.</translation>
+Mit „Weiter“ übernehmen Sie die Kalibrierung der Farbkamera. Mit „Neu beginnen“ fangen Sie von vorn an.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
         <translation>Bringen Sie das farbige Tiefenbild mit dem Farbbild zur Deckung.
-Mit „Weiter“ nehmen Sie die Kalibrierung der ersten Farbkamera an. Mit „Neu beginnen“ fangen Sie von vorn an.</translation>
+Mit „Weiter“ übernehmen Sie die Kalibrierung der ersten Farbkamera. Mit „Neu beginnen“ fangen Sie von vorn an.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
         <translation>Bringen Sie das farbige Tiefenbild mit dem Farbbild zur Deckung.
-Mit „Weiter“ nehmen Sie die Kalibrierung der zweiten Farbkamera an. Mit „Neu beginnen“ fangen Sie von vorn an.</translation>
+Mit „Weiter“ übernehmen Sie die Kalibrierung der zweiten Farbkamera. Mit „Neu beginnen“ fangen Sie von vorn an.</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>
@@ -247,7 +274,7 @@ Bitte kalibrieren Sie erneut.</translation>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
-        <translation>Die Kalibrierung gelingt nicht, weil die Umgebung auf diesen Fotos zu einfach ist.
+        <translation>Die Kalibrierung gelingt nicht, weil die Umgebung auf diesen Fotos zu gleichförmig ist.
 Versuchen Sie es noch einmal. Richten Sie das Gerät auf eine abwechslungsreiche Umgebung wie Gebäude oder Bäume.</translation>
     </message>
     <message>
@@ -407,6 +434,10 @@ Es geht von selbst weiter. Die bisherigen Fotos zählen.</translation>
         <source>Enough light at the mark</source>
         <translation>Ab der Marke genügt das Licht</translation>
     </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Es geht gleich von selbst weiter.</translation>
+    </message>
 </context>
 <context>
     <name>MapLegend</name>
@@ -442,7 +473,7 @@ Es geht von selbst weiter. Die bisherigen Fotos zählen.</translation>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>Die Kamera antwortet noch nicht. Schließen Sie andere Programme, die sie verwenden, oder drücken Sie auf „Beenden“ und starten Sie neu.</translation>
+        <translation>Die Kamera antwortet noch nicht. Schließen Sie andere Programme, die sie verwenden, oder drücken Sie auf „Beenden“ und starten Sie das Programm neu.</translation>
     </message>
 </context>
 <context>
@@ -507,7 +538,7 @@ Es geht von selbst weiter. Die bisherigen Fotos zählen.</translation>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>Zu wenig Tiefe im Bild. Richten Sie das Tablet auf etwas in einigen Metern Entfernung.</translation>
     </message>
     <message>
@@ -520,7 +551,7 @@ Es geht von selbst weiter. Die bisherigen Fotos zählen.</translation>
     </message>
     <message>
         <source>Hold to compare</source>
-        <translation>Zum Vergleichen halten</translation>
+        <translation>Zum Vergleich gedrückt halten</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -569,7 +600,7 @@ Richten Sie das Tablet bei hellem Sonnenlicht auf Gebäude oder Bäume.</transla
     </message>
     <message>
         <source>How to move</source>
-        <translation>So bewegen</translation>
+        <translation>So geht’s</translation>
     </message>
     <message>
         <source>Start</source>
@@ -621,7 +652,7 @@ Sie wird in wenigen Minuten heruntergeladen und installiert. Das Programm schlie
     </message>
     <message>
         <source>The connection was lost. It is tried again…</source>
-        <translation>Die Verbindung ist abgebrochen. Es wird erneut versucht…</translation>
+        <translation>Die Verbindung ist abgebrochen. Neuer Versuch…</translation>
     </message>
     <message>
         <source>%1 of %2 MB</source>

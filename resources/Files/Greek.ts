@@ -30,7 +30,7 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Πώς να κινείστε</translation>
+        <translation>Κίνηση του tablet</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -68,7 +68,7 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>The color camera has turned by %1 since the stored calibration:</source>
-        <translation>Η έγχρωμη κάμερα έχει στραφεί κατά %1 από την αποθηκευμένη βαθμονόμηση:</translation>
+        <translation>Η έγχρωμη κάμερα έχει στραφεί κατά %1 σε σχέση με την αποθηκευμένη βαθμονόμηση:</translation>
     </message>
     <message>
         <source>to the right</source>
@@ -88,11 +88,11 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>tilted clockwise</source>
-        <translation>κλίση δεξιόστροφα</translation>
+        <translation>δεξιόστροφη κλίση</translation>
     </message>
     <message>
         <source>tilted counterclockwise</source>
-        <translation>κλίση αριστερόστροφα</translation>
+        <translation>αριστερόστροφη κλίση</translation>
     </message>
     <message>
         <source>Next, check it against the picture. It is stored only when you accept it.</source>
@@ -124,15 +124,42 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Ιστορικό</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Στροφή</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Απόκλιση στις φωτογραφίες</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Αποθηκεύτηκε</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Δεν αποθηκεύτηκε</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Αναφορές: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>Πώς να κινείστε</translation>
+        <translation>Κίνηση του tablet</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
-        <translation>Στρέψτε προς ένα τοπίο με λεπτομέρειες.
+        <translation>Στρέψτε προς ένα τοπίο με πολλές λεπτομέρειες.
 Τα κτίρια και τα δέντρα είναι κατάλληλα, κοντινά ή μακρινά. Το γρασίδι, ο ουρανός και οι γυμνοί τοίχοι είναι πολύ απλά. Κρατήστε απόσταση τουλάχιστον δύο βημάτων.</translation>
     </message>
     <message>
@@ -144,7 +171,7 @@ Turn the tablet a little to the side, up or down, so that the details come to li
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>Σταματήστε μέχρι να αναβοσβήσει.
+        <translation>Μείνετε ακίνητοι μέχρι να αναβοσβήσει η οθόνη.
 Κρατήστε το tablet ακίνητο για λίγο. Η φωτογραφία λαμβάνεται αυτόματα. Έπειτα στρέψτε ξανά.</translation>
     </message>
     <message>
@@ -248,7 +275,7 @@ Please calibrate again.</source>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
         <translation>Η βαθμονόμηση δεν πετυχαίνει, επειδή το τοπίο σε αυτές τις φωτογραφίες είναι πολύ απλό.
-Δοκιμάστε ξανά. Στρέψτε προς ένα ποικίλο τοπίο, όπως κτίρια ή δέντρα.</translation>
+Δοκιμάστε ξανά. Στρέψτε προς ένα τοπίο με πολλές λεπτομέρειες, όπως κτίρια ή δέντρα.</translation>
     </message>
     <message>
         <source>The camera said that it stored the calibration, but it did not</source>
@@ -348,7 +375,7 @@ Switch the tablet off and on again.</source>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Στρέψτε προς κτίρια ή δέντρα, κοντινά ή μακρινά. Κινηθείτε, σταματήστε, και έως οκτώ φωτογραφίες λαμβάνονται αυτόματα.</translation>
+        <translation>Στρέψτε προς κτίρια ή δέντρα, κοντινά ή μακρινά. Μετακινήστε το tablet και σταματήστε· λαμβάνονται αυτόματα έως οκτώ φωτογραφίες.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -385,7 +412,7 @@ The photos and what was found so far would be lost. The camera keeps its old cal
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>Αποθήκευση πρώτης</translation>
+        <translation>Αποθήκευση 1ης κάμερας</translation>
     </message>
 </context>
 <context>
@@ -405,7 +432,11 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Enough light at the mark</source>
-        <translation>Αρκετό φως από το σημάδι</translation>
+        <translation>Αρκετό φως από το σημάδι και πέρα</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Συνεχίζει αυτόματα σε λίγο.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>Η κάμερα δεν αποκρίνεται ακόμη. Κλείστε άλλα προγράμματα που τη χρησιμοποιούν ή πατήστε «Έξοδος» και ξεκινήστε ξανά.</translation>
+        <translation>Η κάμερα δεν αποκρίνεται ακόμη. Κλείστε άλλα προγράμματα που τη χρησιμοποιούν ή πατήστε «Έξοδος» και ξεκινήστε ξανά το πρόγραμμα.</translation>
     </message>
 </context>
 <context>
@@ -507,7 +538,7 @@ It goes on by itself. The photos taken so far count.</source>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>Πολύ λίγο βάθος στην εικόνα. Στρέψτε προς κάτι σε απόσταση λίγων μέτρων.</translation>
     </message>
     <message>
@@ -520,7 +551,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Hold to compare</source>
-        <translation>Κρατήστε για σύγκριση</translation>
+        <translation>Κρατήστε πατημένο για σύγκριση</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -569,7 +600,7 @@ Point at buildings or trees in bright sunlight.</source>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Πώς να κινείστε</translation>
+        <translation>Κίνηση του tablet</translation>
     </message>
     <message>
         <source>Start</source>
@@ -613,7 +644,7 @@ Point at buildings or trees in bright sunlight.</source>
         <source>Version %1 is available.
 It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
         <translation>Η έκδοση %1 είναι διαθέσιμη.
-Λαμβάνεται και εγκαθίσταται σε λίγα λεπτά. Έπειτα το πρόγραμμα κλείνει και ξεκινά ξανά αυτόματα.</translation>
+Η λήψη και η εγκατάσταση διαρκούν λίγα λεπτά. Έπειτα το πρόγραμμα κλείνει και ξεκινά ξανά αυτόματα.</translation>
     </message>
     <message>
         <source>Downloading version %1…</source>
@@ -659,7 +690,7 @@ The program closes now and starts again by itself.</source>
     </message>
     <message>
         <source>Try again</source>
-        <translation>Ξανά</translation>
+        <translation>Επανάληψη</translation>
     </message>
     <message>
         <source>Update</source>

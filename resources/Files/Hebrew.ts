@@ -124,6 +124,33 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>היסטוריה</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>סיבוב</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>הסטייה בתמונות</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>נשמר</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>לא נשמר</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>דוחות: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -187,8 +214,8 @@ Move outside to a bright, sunlit area.</source>
     <message>
         <source>It&apos;s bright enough here!
 Press continue.</source>
-        <translation>מספיק בהיר כאן!
-יש ללחוץ על „המשך”.</translation>
+        <translation>יש כאן מספיק אור!
+יש ללחוץ על &quot;המשך&quot;.</translation>
     </message>
     <message>
         <source>Color Camera</source>
@@ -206,19 +233,19 @@ Press continue.</source>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
         <translation>יש ליישר את תמונת העומק הצבעונית עם תמונת הצבע.
-לאישור הכיול של מצלמת הצבע יש ללחוץ על „המשך”. כדי להתחיל מההתחלה יש ללחוץ על „התחלה מחדש”.</translation>
+לאישור הכיול של מצלמת הצבע יש ללחוץ על &quot;המשך&quot;. כדי להתחיל מההתחלה יש ללחוץ על &quot;התחלה מחדש&quot;.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
         <translation>יש ליישר את תמונת העומק הצבעונית עם תמונת הצבע.
-לאישור הכיול של מצלמת הצבע הראשונה יש ללחוץ על „המשך”. כדי להתחיל מההתחלה יש ללחוץ על „התחלה מחדש”.</translation>
+לאישור הכיול של מצלמת הצבע הראשונה יש ללחוץ על &quot;המשך&quot;. כדי להתחיל מההתחלה יש ללחוץ על &quot;התחלה מחדש&quot;.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
         <translation>יש ליישר את תמונת העומק הצבעונית עם תמונת הצבע.
-לאישור הכיול של מצלמת הצבע השנייה יש ללחוץ על „המשך”. כדי להתחיל מההתחלה יש ללחוץ על „התחלה מחדש”.</translation>
+לאישור הכיול של מצלמת הצבע השנייה יש ללחוץ על &quot;המשך&quot;. כדי להתחיל מההתחלה יש ללחוץ על &quot;התחלה מחדש&quot;.</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>
@@ -264,7 +291,7 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
     </message>
     <message>
         <source>A KXAPI call failed.</source>
-        <translation>קריאת KXAPI נכשלה.</translation>
+        <translation>הקריאה ל-KXAPI נכשלה.</translation>
     </message>
     <message>
         <source>The device has not been calibrated or has invalid calibration data.</source>
@@ -385,7 +412,7 @@ The photos and what was found so far would be lost. The camera keeps its old cal
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>שמירת הראשונה</translation>
+        <translation>שמירת המצלמה הראשונה</translation>
     </message>
 </context>
 <context>
@@ -394,7 +421,7 @@ The photos and what was found so far would be lost. The camera keeps its old cal
         <source>Return to a well lit area.
 It goes on by itself. The photos taken so far count.</source>
         <translation>יש לחזור אל אזור מואר היטב.
-התהליך ימשיך אוטומטית. התמונות שצולמו עד כה נחשבות.</translation>
+התהליך ימשיך אוטומטית. התמונות שצולמו עד כה ייכללו בכיול.</translation>
     </message>
 </context>
 <context>
@@ -405,7 +432,11 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Enough light at the mark</source>
-        <translation>מספיק אור בסימון</translation>
+        <translation>מהסימון ואילך יש מספיק אור</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>התהליך ימשיך אוטומטית בעוד רגע.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>המצלמה עדיין אינה מגיבה. יש לסגור תוכניות אחרות שמשתמשות בה, או ללחוץ על „יציאה” ולהתחיל מחדש.</translation>
+        <translation>המצלמה עדיין אינה מגיבה. יש לסגור תוכניות אחרות שמשתמשות בה, או ללחוץ על &quot;יציאה&quot; ולהפעיל שוב את התוכנית.</translation>
     </message>
 </context>
 <context>
@@ -507,7 +538,7 @@ It goes on by itself. The photos taken so far count.</source>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>מעט מדי עומק בתמונה. יש לכוון אל משהו במרחק מטרים ספורים.</translation>
     </message>
     <message>
@@ -520,7 +551,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Hold to compare</source>
-        <translation>החזקה להשוואה</translation>
+        <translation>לחיצה ממושכת להשוואה</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -548,7 +579,7 @@ The photos and what was found so far would be lost.</source>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>
-        <translation>הכיול נשמר במצלמה…</translation>
+        <translation>מתבצעת שמירת הכיול במצלמה…</translation>
     </message>
     <message>
         <source>Please wait, and do not switch the tablet off.</source>
@@ -617,7 +648,7 @@ It is downloaded and installed in a few minutes. The program then closes and sta
     </message>
     <message>
         <source>Downloading version %1…</source>
-        <translation>גרסה %1 יורדת…</translation>
+        <translation>הורדת גרסה %1…</translation>
     </message>
     <message>
         <source>The connection was lost. It is tried again…</source>

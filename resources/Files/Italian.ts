@@ -30,7 +30,7 @@ Inquadrare un altro scenario.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Come muovere</translation>
+        <translation>Come muoversi</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -124,16 +124,43 @@ Inquadrare un altro scenario.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Cronologia</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Rotazione</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Scarto nelle foto</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Memorizzata</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Non memorizzata</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Rapporti: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>Come muovere</translation>
+        <translation>Come muoversi</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
         <translation>Inquadrare un paesaggio ricco di dettagli.
-Gli edifici e gli alberi, vicini o lontani, sono adatti. Erba, cielo e pareti spoglie sono troppo semplici. Mantenere almeno due passi di distanza.</translation>
+Gli edifici e gli alberi, vicini o lontani, sono adatti. Erba, cielo e pareti spoglie sono troppo uniformi. Mantenere almeno due passi di distanza.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -237,17 +264,17 @@ Eseguire di nuovo la calibrazione.</translation>
     <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
-        <translation>La fotocamera non contiene né l&apos;ultima calibrazione né quella precedente.
+        <translation>La fotocamera non contiene né l’ultima calibrazione né quella precedente.
 Eseguire di nuovo la calibrazione.</translation>
     </message>
     <message>
         <source>Move the device to capture a different calibration photo.</source>
-        <translation>Spostare il dispositivo per scattare un’altra foto di calibrazione.</translation>
+        <translation>Ruotare il dispositivo per scattare un’altra foto di calibrazione.</translation>
     </message>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
-        <translation>La calibrazione non riesce perché il paesaggio in queste foto è troppo semplice.
+        <translation>La calibrazione non riesce perché il paesaggio in queste foto è troppo uniforme.
 Riprovare. Inquadrare un paesaggio vario, con edifici o alberi.</translation>
     </message>
     <message>
@@ -348,7 +375,7 @@ Spegnere e riaccendere il tablet.</translation>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Inquadrare edifici o alberi, vicini o lontani. Muovere, fermarsi: fino a otto foto vengono scattate automaticamente.</translation>
+        <translation>Inquadrare edifici o alberi, vicini o lontani. Ruotare, fermarsi: fino a otto foto vengono scattate automaticamente.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -385,7 +412,7 @@ Le foto e il risultato ottenuto finora andranno persi. La fotocamera mantiene la
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>Memorizza la prima</translation>
+        <translation>Memorizza 1ª fotocamera</translation>
     </message>
 </context>
 <context>
@@ -406,6 +433,10 @@ Si prosegue automaticamente. Le foto già scattate contano.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Sufficiente dal segno</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Si prosegue automaticamente tra un istante.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ Si prosegue automaticamente. Le foto già scattate contano.</translation>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>La fotocamera non risponde ancora. Chiudere gli altri programmi che la utilizzano, oppure premere Esci e riavviare.</translation>
+        <translation>La fotocamera non risponde ancora. Chiudere gli altri programmi che la utilizzano, oppure premere Esci e riavviare il programma.</translation>
     </message>
 </context>
 <context>
@@ -507,7 +538,7 @@ Si prosegue automaticamente. Le foto già scattate contano.</translation>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>Profondità visibile insufficiente. Inquadrare qualcosa a qualche metro di distanza.</translation>
     </message>
     <message>
@@ -569,7 +600,7 @@ Inquadrare edifici o alberi in piena luce solare.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Come muovere</translation>
+        <translation>Come muoversi</translation>
     </message>
     <message>
         <source>Start</source>
@@ -604,7 +635,7 @@ Inquadrare edifici o alberi in piena luce solare.</translation>
     </message>
     <message>
         <source>Only if they lie beside them, drag left or right until they fit.</source>
-        <translation>Solo se sono accanto, trascinare a sinistra o a destra finché coincidono.</translation>
+        <translation>Solo se sono accanto, trascinare a sinistra o a destra finché non coincidono.</translation>
     </message>
 </context>
 <context>

@@ -64,11 +64,11 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>A new calibration was found.</source>
-        <translation>新しいキャリブレーションが見つかりました。</translation>
+        <translation>新しいキャリブレーション結果が得られました。</translation>
     </message>
     <message>
         <source>The color camera has turned by %1 since the stored calibration:</source>
-        <translation>保存済みのキャリブレーションから、カラーカメラは %1 回転しています:</translation>
+        <translation>保存済みのキャリブレーションと比べて、カラーカメラは %1 回転:</translation>
     </message>
     <message>
         <source>to the right</source>
@@ -124,6 +124,33 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>回転</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>写真でのずれ</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>保存済み</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>未保存</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>レポート: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -139,13 +166,13 @@ Buildings and trees are good, near or far. Grass, sky and bare walls are too sim
         <source>Turn to another direction.
 Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
         <translation>別の方向に向けてください。
-細部が画像の別の位置に来るように、タブレットを少し横、上、または下に回してください。</translation>
+細部が画像の別の位置に来るように、タブレットの向きを左右または上下に少し変えてください。</translation>
     </message>
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
         <translation>画面が光るまで静止してください。
-タブレットをしばらく動かさないでください。写真は自動的に撮影されます。その後、再び回してください。</translation>
+タブレットを少しの間動かさないでください。写真は自動的に撮影されます。その後、再び向きを変えてください。</translation>
     </message>
     <message>
         <source>Close</source>
@@ -164,7 +191,7 @@ Hold the tablet still for a moment. The photo is taken by itself. Then turn agai
     <name>Interface</name>
     <message>
         <source>Pause to capture a calibration photo.</source>
-        <translation>静止して、キャリブレーション用の写真を撮影してください。</translation>
+        <translation>静止してください。キャリブレーション用の写真を撮影します。</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -242,7 +269,7 @@ Please calibrate again.</source>
     </message>
     <message>
         <source>Move the device to capture a different calibration photo.</source>
-        <translation>デバイスを動かして、別のキャリブレーション用の写真を撮影してください。</translation>
+        <translation>デバイスを動かしてください。別のキャリブレーション用の写真を撮影します。</translation>
     </message>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
@@ -372,7 +399,7 @@ Switch the tablet off and on again.</source>
     <message>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
-        <translation>保存せずに終了しますか?
+        <translation>保存せずに終了しますか？
 写真とこれまでの結果は失われます。カメラには以前のキャリブレーションが残ります。</translation>
     </message>
     <message>
@@ -381,11 +408,11 @@ The photos and what was found so far would be lost. The camera keeps its old cal
     </message>
     <message>
         <source>Stay</source>
-        <translation>戻る</translation>
+        <translation>終了しない</translation>
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>1 台目を保存</translation>
+        <translation>1 台目のカメラを保存</translation>
     </message>
 </context>
 <context>
@@ -405,7 +432,11 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Enough light at the mark</source>
-        <translation>目盛りに達すれば十分です</translation>
+        <translation>マークに達すれば十分です</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>まもなく自動的に続行します。</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>カメラがまだ応答しません。カメラを使用している他のプログラムを閉じるか、「終了」を押して再度起動してください。</translation>
+        <translation>カメラがまだ応答しません。カメラを使用している他のプログラムを閉じるか、「終了」を押してプログラムをもう一度起動してください。</translation>
     </message>
 </context>
 <context>
@@ -461,7 +492,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
-        <translation>キャリブレーションを再度起動してください。それでもカメラが見つからない場合は、タブレットの修理が必要です。</translation>
+        <translation>キャリブレーションをもう一度開始してください。それでもカメラが見つからない場合は、タブレットの修理が必要です。</translation>
     </message>
     <message>
         <source>The rear camera was not found.</source>
@@ -477,7 +508,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Start the calibration again.</source>
-        <translation>キャリブレーションを再度起動してください。</translation>
+        <translation>キャリブレーションをもう一度開始してください。</translation>
     </message>
     <message>
         <source>The rear camera delivers no picture.</source>
@@ -493,7 +524,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Start the calibration again. What was found so far is not stored.</source>
-        <translation>キャリブレーションを再度起動してください。これまでの結果は保存されていません。</translation>
+        <translation>キャリブレーションをもう一度開始してください。これまでの結果は保存されていません。</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -501,13 +532,13 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
-        <translation>キャリブレーションを再度起動してください。1 台目のカメラのキャリブレーションは終了時に保存できます。</translation>
+        <translation>キャリブレーションをもう一度開始してください。1 台目のカメラのキャリブレーションは終了時に保存できます。</translation>
     </message>
 </context>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>深度情報が少なすぎます。数メートル先のものに向けてください。</translation>
     </message>
     <message>
@@ -520,7 +551,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Hold to compare</source>
-        <translation>長押しで比較</translation>
+        <translation>押している間比較</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -540,7 +571,7 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Start over?
 The photos and what was found so far would be lost.</source>
-        <translation>最初からやり直しますか?
+        <translation>最初からやり直しますか？
 写真とこれまでの結果は失われます。</translation>
     </message>
 </context>

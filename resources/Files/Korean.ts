@@ -7,11 +7,11 @@
         <source>The first camera is done. Now the second one.
 Turn to other scenery.</source>
         <translation>첫 번째 카메라가 끝났습니다. 이제 두 번째입니다.
-다른 풍경으로 향하십시오.</translation>
+카메라를 다른 풍경으로 향하십시오.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>
-        <translation>지금 종료하면 첫 번째 카메라의 보정값을 저장할 수 있습니다.</translation>
+        <translation>지금 종료하면 첫 번째 카메라의 캘리브레이션을 저장할 수 있습니다.</translation>
     </message>
     <message>
         <source>If you exit now, nothing is stored.</source>
@@ -26,7 +26,7 @@ Turn to other scenery.</source>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
-        <translation>사진 %1을(를) 촬영했습니다.</translation>
+        <translation>%1번째 사진을 촬영했습니다.</translation>
     </message>
     <message>
         <source>How to move</source>
@@ -64,11 +64,11 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>A new calibration was found.</source>
-        <translation>새 보정값을 찾았습니다.</translation>
+        <translation>새 캘리브레이션을 찾았습니다.</translation>
     </message>
     <message>
         <source>The color camera has turned by %1 since the stored calibration:</source>
-        <translation>저장된 보정값 이후 컬러 카메라가 %1 회전했습니다.</translation>
+        <translation>저장된 캘리브레이션을 기준으로 컬러 카메라가 %1 회전했습니다:</translation>
     </message>
     <message>
         <source>to the right</source>
@@ -104,11 +104,11 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
-        <translation>사진에서의 편차: 저장된 보정값으로 %1픽셀, 새 보정값으로 %2픽셀.</translation>
+        <translation>사진에서의 편차: 저장된 캘리브레이션으로 %1픽셀, 새 캘리브레이션으로 %2픽셀.</translation>
     </message>
     <message>
         <source>The stored calibration still fits.</source>
-        <translation>저장된 보정값이 아직 맞습니다.</translation>
+        <translation>저장된 캘리브레이션이 아직 맞습니다.</translation>
     </message>
     <message>
         <source>The color camera has turned unusually far.</source>
@@ -120,7 +120,34 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>Keep stored calibration</source>
-        <translation>저장된 보정값 유지</translation>
+        <translation>저장된 캘리브레이션 유지</translation>
+    </message>
+</context>
+<context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>기록</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>회전</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>사진에서의 편차</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>저장됨</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>저장되지 않음</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>보고서: %1</translation>
     </message>
 </context>
 <context>
@@ -132,7 +159,7 @@ Turn to other scenery.</source>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
-        <translation>세부 모습이 많은 풍경을 향하십시오.
+        <translation>카메라를 세부 모습이 많은 풍경으로 향하십시오.
 건물과 나무는 가깝든 멀든 좋습니다. 잔디, 하늘, 빈 벽은 너무 단순합니다. 두 걸음 이상 거리를 두십시오.</translation>
     </message>
     <message>
@@ -144,8 +171,8 @@ Turn the tablet a little to the side, up or down, so that the details come to li
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>화면이 깜박일 때까지 멈추십시오.
-태블릿을 잠시 움직이지 마십시오. 사진이 자동으로 촬영됩니다. 그런 다음 다시 돌리십시오.</translation>
+        <translation>화면이 번쩍일 때까지 움직이지 마십시오.
+태블릿을 잠시 가만히 들고 계십시오. 사진이 자동으로 촬영됩니다. 그런 다음 다시 돌리십시오.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -164,7 +191,7 @@ Hold the tablet still for a moment. The photo is taken by itself. Then turn agai
     <name>Interface</name>
     <message>
         <source>Pause to capture a calibration photo.</source>
-        <translation>보정 사진을 촬영하려면 멈추십시오.</translation>
+        <translation>캘리브레이션 사진을 촬영하려면 멈추십시오.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -206,57 +233,57 @@ Press continue.</source>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
         <translation>색으로 표시된 깊이 이미지를 컬러 이미지에 맞추십시오.
-컬러 카메라의 보정을 수락하려면 [계속]을 누르고, 처음부터 다시 하려면 [다시 시작]을 누르십시오.</translation>
+컬러 카메라의 캘리브레이션을 수락하려면 [계속]을 누르고, 처음부터 다시 하려면 [다시 시작]을 누르십시오.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
         <translation>색으로 표시된 깊이 이미지를 컬러 이미지에 맞추십시오.
-첫 번째 컬러 카메라의 보정을 수락하려면 [계속]을 누르고, 처음부터 다시 하려면 [다시 시작]을 누르십시오.</translation>
+첫 번째 컬러 카메라의 캘리브레이션을 수락하려면 [계속]을 누르고, 처음부터 다시 하려면 [다시 시작]을 누르십시오.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
         <translation>색으로 표시된 깊이 이미지를 컬러 이미지에 맞추십시오.
-두 번째 컬러 카메라의 보정을 수락하려면 [계속]을 누르고, 처음부터 다시 하려면 [다시 시작]을 누르십시오.</translation>
+두 번째 컬러 카메라의 캘리브레이션을 수락하려면 [계속]을 누르고, 처음부터 다시 하려면 [다시 시작]을 누르십시오.</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>
-        <translation>보정값이 카메라에 저장되었습니다.</translation>
+        <translation>캘리브레이션이 카메라에 저장되었습니다.</translation>
     </message>
     <message>
         <source>The last calibration was not stored in the camera.
 Please calibrate again.</source>
-        <translation>지난 보정값이 카메라에 저장되지 않았습니다.
-다시 보정하십시오.</translation>
+        <translation>지난 캘리브레이션이 카메라에 저장되지 않았습니다.
+다시 캘리브레이션하십시오.</translation>
     </message>
     <message>
         <source>Last calibrated on %1.</source>
-        <translation>마지막 보정: %1.</translation>
+        <translation>마지막 캘리브레이션: %1.</translation>
     </message>
     <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
-        <translation>카메라에 마지막 보정도 이전 보정도 들어 있지 않습니다.
-다시 보정하십시오.</translation>
+        <translation>카메라에 마지막 캘리브레이션도 이전 캘리브레이션도 들어 있지 않습니다.
+다시 캘리브레이션하십시오.</translation>
     </message>
     <message>
         <source>Move the device to capture a different calibration photo.</source>
-        <translation>다른 보정 사진을 촬영하려면 장치를 움직이십시오.</translation>
+        <translation>다른 캘리브레이션 사진을 촬영하려면 장치를 움직이십시오.</translation>
     </message>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
-        <translation>사진 속 풍경이 너무 단순하여 보정할 수 없습니다.
-다시 시도하십시오. 건물이나 나무처럼 다채로운 풍경을 향하십시오.</translation>
+        <translation>사진 속 풍경이 너무 단순하여 캘리브레이션할 수 없습니다.
+다시 시도하십시오. 카메라를 건물이나 나무처럼 다채로운 풍경으로 향하십시오.</translation>
     </message>
     <message>
         <source>The camera said that it stored the calibration, but it did not</source>
-        <translation>카메라가 보정값을 저장했다고 알렸지만 저장되지 않았습니다</translation>
+        <translation>카메라가 캘리브레이션을 저장했다고 알렸지만 저장되지 않았습니다</translation>
     </message>
     <message>
         <source>The camera&apos;s images do not fit the new calibration</source>
-        <translation>카메라 영상이 새 보정값과 맞지 않습니다</translation>
+        <translation>카메라 영상이 새 캘리브레이션과 맞지 않습니다</translation>
     </message>
     <message>
         <source>The camera does not answer</source>
@@ -268,7 +295,7 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
     </message>
     <message>
         <source>The device has not been calibrated or has invalid calibration data.</source>
-        <translation>장치가 보정되지 않았거나 보정 데이터가 잘못되었습니다.</translation>
+        <translation>장치가 캘리브레이션되지 않았거나 캘리브레이션 데이터가 잘못되었습니다.</translation>
     </message>
     <message>
         <source>Something bad has happened with the Tarnex Deepvane camera.</source>
@@ -322,7 +349,7 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
         <source>The battery is almost empty.
 Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
         <translation>배터리가 거의 없습니다.
-태블릿을 충전기에 연결하십시오. 그러면 보정값을 카메라에 저장할 수 있습니다.</translation>
+태블릿을 충전기에 연결하십시오. 그러면 캘리브레이션을 카메라에 저장할 수 있습니다.</translation>
     </message>
     <message>
         <source>Another program prevents this one from starting.
@@ -333,14 +360,14 @@ Switch the tablet off and on again.</source>
     <message>
         <source>%1: read back, %2° from the calibration before.</source>
         <extracomment>%1 is the name of a camera, %2 an angle</extracomment>
-        <translation>%1: 다시 읽음, 이전 보정값에서 %2°.</translation>
+        <translation>%1: 다시 읽음, 이전 캘리브레이션에서 %2°.</translation>
     </message>
 </context>
 <context>
     <name>IntroductionScreen</name>
     <message>
         <source>Camera calibration</source>
-        <translation>카메라 보정</translation>
+        <translation>카메라 캘리브레이션</translation>
     </message>
     <message>
         <source>Go outside into bright sunlight.</source>
@@ -348,7 +375,7 @@ Switch the tablet off and on again.</source>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>거리에 상관없이 건물이나 나무를 향하십시오. 움직이고 멈추면 최대 8장의 사진이 자동으로 촬영됩니다.</translation>
+        <translation>거리에 상관없이 카메라를 건물이나 나무로 향하십시오. 움직이고 멈추면 최대 8장의 사진이 자동으로 촬영됩니다.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -373,7 +400,7 @@ Switch the tablet off and on again.</source>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
         <translation>저장하지 않고 나가시겠습니까?
-사진과 지금까지의 결과가 사라집니다. 카메라는 이전 보정값을 유지합니다.</translation>
+사진과 지금까지의 결과가 사라집니다. 카메라는 이전 캘리브레이션을 유지합니다.</translation>
     </message>
     <message>
         <source>Leave</source>
@@ -381,11 +408,11 @@ The photos and what was found so far would be lost. The camera keeps its old cal
     </message>
     <message>
         <source>Stay</source>
-        <translation>머무르기</translation>
+        <translation>돌아가기</translation>
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>첫 번째 저장</translation>
+        <translation>첫 번째 카메라 저장</translation>
     </message>
 </context>
 <context>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>표시에 닿으면 충분함</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>잠시 후 자동으로 계속됩니다.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>카메라가 아직 응답하지 않습니다. 카메라를 사용하는 다른 프로그램을 닫거나 [종료]를 누르고 다시 시작하십시오.</translation>
+        <translation>카메라가 아직 응답하지 않습니다. 카메라를 사용하는 다른 프로그램을 닫거나 [종료]를 누르고 프로그램을 다시 시작하십시오.</translation>
     </message>
 </context>
 <context>
@@ -461,7 +492,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Start the calibration again. If the camera is still missing, the tablet needs service.</source>
-        <translation>보정을 다시 시작하십시오. 그래도 카메라가 없으면 태블릿의 수리가 필요합니다.</translation>
+        <translation>캘리브레이션을 다시 시작하십시오. 그래도 카메라를 찾을 수 없으면 태블릿의 수리가 필요합니다.</translation>
     </message>
     <message>
         <source>The rear camera was not found.</source>
@@ -477,7 +508,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Start the calibration again.</source>
-        <translation>보정을 다시 시작하십시오.</translation>
+        <translation>캘리브레이션을 다시 시작하십시오.</translation>
     </message>
     <message>
         <source>The rear camera delivers no picture.</source>
@@ -493,7 +524,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Start the calibration again. What was found so far is not stored.</source>
-        <translation>보정을 다시 시작하십시오. 지금까지의 결과는 저장되지 않았습니다.</translation>
+        <translation>캘리브레이션을 다시 시작하십시오. 지금까지의 결과는 저장되지 않았습니다.</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -501,18 +532,18 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
-        <translation>보정을 다시 시작하십시오. 첫 번째 카메라의 보정값은 종료할 때 저장할 수 있습니다.</translation>
+        <translation>캘리브레이션을 다시 시작하십시오. 첫 번째 카메라의 캘리브레이션은 종료할 때 저장할 수 있습니다.</translation>
     </message>
 </context>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
-        <translation>화면에 깊이 정보가 너무 적습니다. 몇 미터 떨어진 것을 향하십시오.</translation>
+        <source>Too little depth in view. Point at something a few meters away.</source>
+        <translation>화면에 깊이 정보가 너무 적습니다. 카메라를 몇 미터 떨어진 것으로 향하십시오.</translation>
     </message>
     <message>
         <source>Stored calibration</source>
-        <translation>저장된 보정값</translation>
+        <translation>저장된 캘리브레이션</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -528,7 +559,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
-        <translation>화면에 수직 가장자리가 없습니다. 나무줄기, 기둥 또는 집 모서리를 향하십시오.</translation>
+        <translation>화면에 수직 가장자리가 없습니다. 카메라를 나무줄기, 기둥 또는 집 모서리로 향하십시오.</translation>
     </message>
     <message>
         <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
@@ -548,7 +579,7 @@ The photos and what was found so far would be lost.</source>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>
-        <translation>보정값을 카메라에 저장하는 중…</translation>
+        <translation>캘리브레이션을 카메라에 저장하는 중…</translation>
     </message>
     <message>
         <source>Please wait, and do not switch the tablet off.</source>
@@ -565,7 +596,7 @@ The photos and what was found so far would be lost.</source>
         <source>Ready to take photos.
 Point at buildings or trees in bright sunlight.</source>
         <translation>사진을 촬영할 준비가 되었습니다.
-밝은 햇빛에서 건물이나 나무를 향하십시오.</translation>
+밝은 햇빛에서 카메라를 건물이나 나무로 향하십시오.</translation>
     </message>
     <message>
         <source>How to move</source>
@@ -588,7 +619,7 @@ Point at buildings or trees in bright sunlight.</source>
     <name>TutorialScreen</name>
     <message>
         <source>Example</source>
-        <translation>예</translation>
+        <translation>예시</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -612,12 +643,12 @@ Point at buildings or trees in bright sunlight.</source>
     <message>
         <source>Version %1 is available.
 It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
-        <translation>버전 %1을(를) 사용할 수 있습니다.
+        <translation>%1 버전을 사용할 수 있습니다.
 몇 분 안에 다운로드되고 설치됩니다. 그런 다음 프로그램이 닫히고 자동으로 다시 시작됩니다.</translation>
     </message>
     <message>
         <source>Downloading version %1…</source>
-        <translation>버전 %1 다운로드 중…</translation>
+        <translation>%1 버전 다운로드 중…</translation>
     </message>
     <message>
         <source>The connection was lost. It is tried again…</source>

@@ -30,11 +30,11 @@ Vend deg mot andre omgivelser.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Bevegelse</translation>
+        <translation>Slik gjør du</translation>
     </message>
     <message>
         <source>Restart</source>
-        <translation>Start på nytt</translation>
+        <translation>Begynn på nytt</translation>
     </message>
     <message>
         <source>Paused. No photos are taken.</source>
@@ -124,15 +124,42 @@ Vend deg mot andre omgivelser.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historikk</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Dreid</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Avvik i bildene</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Lagret</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Ikke lagret</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Rapporter: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>Bevegelse</translation>
+        <translation>Slik gjør du</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
-        <translation>Rett mot omgivelser med mange detaljer.
+        <translation>Rett nettbrettet mot omgivelser med mange detaljer.
 Bygninger og trær er bra, på nært hold eller langt borte. Gress, himmel og nakne vegger er for enkle. Hold minst to skritts avstand.</translation>
     </message>
     <message>
@@ -206,19 +233,19 @@ Trykk på Fortsett.</translation>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
         <translation>Juster det fargelagte dybdebildet etter fargebildet.
-Trykk på Fortsett for å godta kalibreringen av fargekameraet. Eller trykk på Start på nytt for å begynne igjen.</translation>
+Trykk på Fortsett for å godta kalibreringen av fargekameraet. Eller trykk på Begynn på nytt for å starte forfra.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
         <translation>Juster det fargelagte dybdebildet etter fargebildet.
-Trykk på Fortsett for å godta kalibreringen av det første fargekameraet. Eller trykk på Start på nytt for å begynne igjen.</translation>
+Trykk på Fortsett for å godta kalibreringen av det første fargekameraet. Eller trykk på Begynn på nytt for å starte forfra.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
         <translation>Juster det fargelagte dybdebildet etter fargebildet.
-Trykk på Fortsett for å godta kalibreringen av det andre fargekameraet. Eller trykk på Start på nytt for å begynne igjen.</translation>
+Trykk på Fortsett for å godta kalibreringen av det andre fargekameraet. Eller trykk på Begynn på nytt for å starte forfra.</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>
@@ -242,13 +269,13 @@ Kalibrer på nytt.</translation>
     </message>
     <message>
         <source>Move the device to capture a different calibration photo.</source>
-        <translation>Flytt enheten for å ta et annet kalibreringsbilde.</translation>
+        <translation>Drei enheten for å ta et annet kalibreringsbilde.</translation>
     </message>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
         <translation>Kalibreringen lykkes ikke fordi omgivelsene på disse bildene er for enkle.
-Prøv igjen. Rett mot varierte omgivelser som bygninger eller trær.</translation>
+Prøv igjen. Rett nettbrettet mot varierte omgivelser som bygninger eller trær.</translation>
     </message>
     <message>
         <source>The camera said that it stored the calibration, but it did not</source>
@@ -348,7 +375,7 @@ Slå nettbrettet av og på igjen.</translation>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Rett mot bygninger eller trær, på nært hold eller langt borte. Beveg, hold stille, og opptil åtte bilder tas automatisk.</translation>
+        <translation>Rett nettbrettet mot bygninger eller trær, på nært hold eller langt borte. Drei, hold stille, og opptil åtte bilder tas automatisk.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -381,7 +408,7 @@ Bildene og resultatet så langt går tapt. Kameraet beholder den gamle kalibreri
     </message>
     <message>
         <source>Stay</source>
-        <translation>Bli</translation>
+        <translation>Bli her</translation>
     </message>
     <message>
         <source>Store first camera</source>
@@ -405,7 +432,11 @@ Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
     </message>
     <message>
         <source>Enough light at the mark</source>
-        <translation>Nok lys fra merket</translation>
+        <translation>Nok lys ved markeringen</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Det fortsetter automatisk om et øyeblikk.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>Kameraet svarer ikke ennå. Lukk andre programmer som bruker det, eller trykk på Avslutt og start på nytt.</translation>
+        <translation>Kameraet svarer ikke ennå. Lukk andre programmer som bruker det, eller trykk på Avslutt og start programmet igjen.</translation>
     </message>
 </context>
 <context>
@@ -507,8 +538,8 @@ Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
-        <translation>For lite dybde i bildet. Rett mot noe noen få meter unna.</translation>
+        <source>Too little depth in view. Point at something a few meters away.</source>
+        <translation>For lite dybde i bildet. Rett nettbrettet mot noe noen få meter unna.</translation>
     </message>
     <message>
         <source>Stored calibration</source>
@@ -516,11 +547,11 @@ Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
     </message>
     <message>
         <source>Restart</source>
-        <translation>Start på nytt</translation>
+        <translation>Begynn på nytt</translation>
     </message>
     <message>
         <source>Hold to compare</source>
-        <translation>Hold for å sammenligne</translation>
+        <translation>Hold inne for å sammenligne</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -528,7 +559,7 @@ Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
     </message>
     <message>
         <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
-        <translation>Ingen loddrett kant i bildet. Rett mot en trestamme, en stolpe eller et hushjørne.</translation>
+        <translation>Ingen loddrett kant i bildet. Rett nettbrettet mot en trestamme, en stolpe eller et hushjørne.</translation>
     </message>
     <message>
         <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
@@ -540,7 +571,7 @@ Det fortsetter automatisk. Bildene som er tatt, teller.</translation>
     <message>
         <source>Start over?
 The photos and what was found so far would be lost.</source>
-        <translation>Vil du starte på nytt?
+        <translation>Vil du begynne på nytt?
 Bildene og resultatet så langt går tapt.</translation>
     </message>
 </context>
@@ -565,11 +596,11 @@ Bildene og resultatet så langt går tapt.</translation>
         <source>Ready to take photos.
 Point at buildings or trees in bright sunlight.</source>
         <translation>Klar til å ta bilder.
-Rett mot bygninger eller trær i sterkt sollys.</translation>
+Rett nettbrettet mot bygninger eller trær i sterkt sollys.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Bevegelse</translation>
+        <translation>Slik gjør du</translation>
     </message>
     <message>
         <source>Start</source>

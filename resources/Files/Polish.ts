@@ -30,7 +30,7 @@ Zwróć się ku innemu otoczeniu.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Jak poruszać</translation>
+        <translation>Jak poruszać tabletem</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -88,11 +88,11 @@ Zwróć się ku innemu otoczeniu.</translation>
     </message>
     <message>
         <source>tilted clockwise</source>
-        <translation>przechylona w prawo</translation>
+        <translation>przechylona zgodnie z ruchem wskazówek zegara</translation>
     </message>
     <message>
         <source>tilted counterclockwise</source>
-        <translation>przechylona w lewo</translation>
+        <translation>przechylona przeciwnie do ruchu wskazówek zegara</translation>
     </message>
     <message>
         <source>Next, check it against the picture. It is stored only when you accept it.</source>
@@ -124,15 +124,42 @@ Zwróć się ku innemu otoczeniu.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historia</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Obrót</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Odchyłka na zdjęciach</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Zapisano</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Nie zapisano</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Raporty: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>Jak poruszać</translation>
+        <translation>Jak poruszać tabletem</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
-        <translation>Skieruj na otoczenie bogate w szczegóły.
+        <translation>Skieruj tablet na otoczenie bogate w szczegóły.
 Budynki i drzewa, bliskie lub odległe, są odpowiednie. Trawa, niebo i gołe ściany są zbyt proste. Zachowaj odstęp co najmniej dwóch kroków.</translation>
     </message>
     <message>
@@ -144,7 +171,7 @@ Obróć tablet nieco w bok, w górę lub w dół, aby szczegóły znalazły się
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>Zatrzymaj się do błysku.
+        <translation>Nie ruszaj tabletem aż do błysku.
 Przez chwilę trzymaj tablet nieruchomo. Zdjęcie zostanie wykonane automatycznie. Potem obróć ponownie.</translation>
     </message>
     <message>
@@ -248,7 +275,7 @@ Przeprowadź kalibrację ponownie.</translation>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
         <translation>Kalibracja nie działa, ponieważ otoczenie na tych zdjęciach jest zbyt proste.
-Spróbuj ponownie. Skieruj na urozmaicone otoczenie, takie jak budynki lub drzewa.</translation>
+Spróbuj ponownie. Skieruj tablet na urozmaicone otoczenie, takie jak budynki lub drzewa.</translation>
     </message>
     <message>
         <source>The camera said that it stored the calibration, but it did not</source>
@@ -348,7 +375,7 @@ Wyłącz tablet i włącz go ponownie.</translation>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Skieruj na budynki lub drzewa, bliskie albo odległe. Porusz, zatrzymaj się, a do ośmiu zdjęć zostanie wykonanych automatycznie.</translation>
+        <translation>Skieruj tablet na budynki lub drzewa, bliskie albo odległe. Porusz, zatrzymaj się, a do ośmiu zdjęć zostanie wykonanych automatycznie.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -385,7 +412,7 @@ Zdjęcia i dotychczasowy wynik zostaną utracone. Kamera zachowa starą kalibrac
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>Zapisz pierwszą</translation>
+        <translation>Zapisz 1. kamerę</translation>
     </message>
 </context>
 <context>
@@ -405,7 +432,11 @@ Praca będzie kontynuowana automatycznie. Wykonane zdjęcia się liczą.</transl
     </message>
     <message>
         <source>Enough light at the mark</source>
-        <translation>Od znaku światła wystarczy</translation>
+        <translation>Dość światła od znacznika</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Za chwilę program przejdzie dalej.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ Praca będzie kontynuowana automatycznie. Wykonane zdjęcia się liczą.</transl
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>Kamera jeszcze nie odpowiada. Zamknij inne programy, które jej używają, lub naciśnij Wyjdź i uruchom ponownie.</translation>
+        <translation>Kamera jeszcze nie odpowiada. Zamknij inne programy, które jej używają, lub naciśnij Wyjdź i uruchom program ponownie.</translation>
     </message>
 </context>
 <context>
@@ -507,8 +538,8 @@ Praca będzie kontynuowana automatycznie. Wykonane zdjęcia się liczą.</transl
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
-        <translation>Za mało głębi w obrazie. Skieruj na coś oddalonego o kilka metrów.</translation>
+        <source>Too little depth in view. Point at something a few meters away.</source>
+        <translation>Za mało głębi w obrazie. Skieruj tablet na coś oddalonego o kilka metrów.</translation>
     </message>
     <message>
         <source>Stored calibration</source>
@@ -528,7 +559,7 @@ Praca będzie kontynuowana automatycznie. Wykonane zdjęcia się liczą.</transl
     </message>
     <message>
         <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
-        <translation>Brak pionowej krawędzi w obrazie. Skieruj na pień drzewa, słup lub narożnik domu.</translation>
+        <translation>Brak pionowej krawędzi w obrazie. Skieruj tablet na pień drzewa, słup lub narożnik domu.</translation>
     </message>
     <message>
         <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
@@ -565,11 +596,11 @@ Zdjęcia i dotychczasowy wynik zostaną utracone.</translation>
         <source>Ready to take photos.
 Point at buildings or trees in bright sunlight.</source>
         <translation>Wszystko gotowe do zdjęć.
-Skieruj na budynki lub drzewa w jasnym słońcu.</translation>
+Skieruj tablet na budynki lub drzewa w jasnym słońcu.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Jak poruszać</translation>
+        <translation>Jak poruszać tabletem</translation>
     </message>
     <message>
         <source>Start</source>

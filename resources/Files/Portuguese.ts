@@ -30,7 +30,7 @@ Volte-se para outro cenário.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Como mover</translation>
+        <translation>Como mover o tablet</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -68,7 +68,7 @@ Volte-se para outro cenário.</translation>
     </message>
     <message>
         <source>The color camera has turned by %1 since the stored calibration:</source>
-        <translation>A câmara de cor rodou %1 desde a calibração guardada:</translation>
+        <translation>A câmara a cores rodou %1 desde a calibração guardada:</translation>
     </message>
     <message>
         <source>to the right</source>
@@ -112,7 +112,7 @@ Volte-se para outro cenário.</translation>
     </message>
     <message>
         <source>The color camera has turned unusually far.</source>
-        <translation>A rotação da câmara de cor é invulgarmente grande.</translation>
+        <translation>A rotação da câmara a cores é invulgarmente grande.</translation>
     </message>
     <message>
         <source>A turn alone does not explain the photos. The camera may need service.</source>
@@ -124,16 +124,43 @@ Volte-se para outro cenário.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Rotação</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Desvio nas fotografias</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Guardada</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Não guardada</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Relatórios: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>Como mover</translation>
+        <translation>Como mover o tablet</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
         <translation>Aponte para um cenário rico em pormenores.
-Edifícios e árvores são adequados, próximos ou distantes. Relva, céu e paredes lisas são demasiado simples. Mantenha pelo menos dois passos de distância.</translation>
+Edifícios e árvores são adequados, próximos ou distantes. Relva, céu e paredes lisas são demasiado uniformes. Mantenha pelo menos dois passos de distância.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -144,7 +171,7 @@ Rode um pouco o tablet para o lado, para cima ou para baixo, para que os pormeno
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>Pare até haver um flash.
+        <translation>Pare até o ecrã piscar.
 Mantenha o tablet imóvel por um momento. A fotografia é tirada automaticamente. Depois, rode novamente.</translation>
     </message>
     <message>
@@ -192,33 +219,33 @@ Prima Continuar.</translation>
     </message>
     <message>
         <source>Color Camera</source>
-        <translation>Câmara de cor</translation>
+        <translation>Câmara a cores</translation>
     </message>
     <message>
         <source>First Color Camera</source>
-        <translation>Primeira câmara de cor</translation>
+        <translation>Primeira câmara a cores</translation>
     </message>
     <message>
         <source>Second Color Camera</source>
-        <translation>Segunda câmara de cor</translation>
+        <translation>Segunda câmara a cores</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
         <translation>Alinhe a imagem de profundidade colorida com a imagem a cores.
-Prima Continuar para aceitar a calibração da câmara de cor, ou prima Recomeçar para voltar ao início.</translation>
+Prima Continuar para aceitar a calibração da câmara a cores, ou prima Recomeçar para voltar ao início.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
         <translation>Alinhe a imagem de profundidade colorida com a imagem a cores.
-Prima Continuar para aceitar a calibração da primeira câmara de cor, ou prima Recomeçar para voltar ao início.</translation>
+Prima Continuar para aceitar a calibração da primeira câmara a cores, ou prima Recomeçar para voltar ao início.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
         <translation>Alinhe a imagem de profundidade colorida com a imagem a cores.
-Prima Continuar para aceitar a calibração da segunda câmara de cor, ou prima Recomeçar para voltar ao início.</translation>
+Prima Continuar para aceitar a calibração da segunda câmara a cores, ou prima Recomeçar para voltar ao início.</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>
@@ -247,7 +274,7 @@ Calibre novamente.</translation>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
-        <translation>A calibração não funciona porque o cenário destas fotografias é demasiado simples.
+        <translation>A calibração não funciona porque o cenário destas fotografias é demasiado uniforme.
 Tente novamente. Aponte para um cenário variado, como edifícios ou árvores.</translation>
     </message>
     <message>
@@ -385,7 +412,7 @@ As fotografias e o resultado obtido até agora serão perdidos. A câmara manté
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>Guardar a primeira</translation>
+        <translation>Guardar 1.ª câmara</translation>
     </message>
 </context>
 <context>
@@ -406,6 +433,10 @@ Continua automaticamente. As fotografias já tiradas contam.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Suficiente a partir da marca</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Continua automaticamente dentro de momentos.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ Continua automaticamente. As fotografias já tiradas contam.</translation>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>A câmara ainda não responde. Feche outros programas que a utilizem, ou prima Sair e inicie novamente.</translation>
+        <translation>A câmara ainda não responde. Feche outros programas que a utilizem, ou prima Sair e inicie o programa novamente.</translation>
     </message>
 </context>
 <context>
@@ -507,7 +538,7 @@ Continua automaticamente. As fotografias já tiradas contam.</translation>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>Pouca profundidade visível. Aponte para algo a alguns metros de distância.</translation>
     </message>
     <message>
@@ -520,7 +551,7 @@ Continua automaticamente. As fotografias já tiradas contam.</translation>
     </message>
     <message>
         <source>Hold to compare</source>
-        <translation>Manter para comparar</translation>
+        <translation>Manter premido para comparar</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -569,7 +600,7 @@ Aponte para edifícios ou árvores, sob luz solar intensa.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Como mover</translation>
+        <translation>Como mover o tablet</translation>
     </message>
     <message>
         <source>Start</source>
@@ -659,7 +690,7 @@ O programa fecha agora e reinicia automaticamente.</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation>Repetir</translation>
+        <translation>Tentar novamente</translation>
     </message>
     <message>
         <source>Update</source>

@@ -11,11 +11,11 @@ Vire-se para outro cenário.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>
-        <translation>Se você sair agora, poderá armazenar a calibração da primeira câmera.</translation>
+        <translation>Se você sair agora, poderá salvar a calibração da primeira câmera.</translation>
     </message>
     <message>
         <source>If you exit now, nothing is stored.</source>
-        <translation>Se você sair agora, nada será armazenado.</translation>
+        <translation>Se você sair agora, nada será salvo.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -30,7 +30,7 @@ Vire-se para outro cenário.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Como mover</translation>
+        <translation>Como se mover</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -68,7 +68,7 @@ Vire-se para outro cenário.</translation>
     </message>
     <message>
         <source>The color camera has turned by %1 since the stored calibration:</source>
-        <translation>A câmera colorida girou %1 desde a calibração armazenada:</translation>
+        <translation>A câmera em cores girou %1 desde a calibração salva:</translation>
     </message>
     <message>
         <source>to the right</source>
@@ -96,7 +96,7 @@ Vire-se para outro cenário.</translation>
     </message>
     <message>
         <source>Next, check it against the picture. It is stored only when you accept it.</source>
-        <translation>Agora, confira-a na imagem. Ela só é armazenada quando você a aceita.</translation>
+        <translation>Agora, confira-a na imagem. Ela só é salva quando você a aceitar.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -104,15 +104,15 @@ Vire-se para outro cenário.</translation>
     </message>
     <message>
         <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
-        <translation>Desvio nas fotos: %1 px com a calibração armazenada, %2 px com a nova.</translation>
+        <translation>Desvio nas fotos: %1 px com a calibração salva, %2 px com a nova.</translation>
     </message>
     <message>
         <source>The stored calibration still fits.</source>
-        <translation>A calibração armazenada ainda serve.</translation>
+        <translation>A calibração salva ainda serve.</translation>
     </message>
     <message>
         <source>The color camera has turned unusually far.</source>
-        <translation>A rotação da câmera colorida é excepcionalmente grande.</translation>
+        <translation>A rotação da câmera em cores é excepcionalmente grande.</translation>
     </message>
     <message>
         <source>A turn alone does not explain the photos. The camera may need service.</source>
@@ -120,20 +120,47 @@ Vire-se para outro cenário.</translation>
     </message>
     <message>
         <source>Keep stored calibration</source>
-        <translation>Manter a calibração armazenada</translation>
+        <translation>Manter a calibração salva</translation>
+    </message>
+</context>
+<context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Rotação</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Desvio nas fotos</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Não salva</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Relatórios: %1</translation>
     </message>
 </context>
 <context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>Como mover</translation>
+        <translation>Como se mover</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
         <translation>Aponte para um cenário rico em detalhes.
-Prédios e árvores são adequados, próximos ou distantes. Grama, céu e paredes lisas são simples demais. Mantenha pelo menos dois passos de distância.</translation>
+Prédios e árvores são adequados, próximos ou distantes. Grama, céu e paredes lisas são uniformes demais. Mantenha pelo menos dois passos de distância.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -144,7 +171,7 @@ Gire um pouco o tablet para o lado, para cima ou para baixo, para que os detalhe
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>Pare até haver um flash.
+        <translation>Pare até a tela piscar.
 Mantenha o tablet parado por um momento. A foto é tirada automaticamente. Depois, gire novamente.</translation>
     </message>
     <message>
@@ -192,42 +219,42 @@ Pressione Continuar.</translation>
     </message>
     <message>
         <source>Color Camera</source>
-        <translation>Câmera colorida</translation>
+        <translation>Câmera em cores</translation>
     </message>
     <message>
         <source>First Color Camera</source>
-        <translation>Primeira câmera colorida</translation>
+        <translation>Primeira câmera em cores</translation>
     </message>
     <message>
         <source>Second Color Camera</source>
-        <translation>Segunda câmera colorida</translation>
+        <translation>Segunda câmera em cores</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
         <translation>Alinhe a imagem de profundidade colorida com a imagem em cores.
-Pressione Continuar para aceitar a calibração da câmera colorida, ou Recomeçar para voltar ao início.</translation>
+Pressione Continuar para aceitar a calibração da câmera em cores, ou Recomeçar para voltar ao início.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
         <translation>Alinhe a imagem de profundidade colorida com a imagem em cores.
-Pressione Continuar para aceitar a calibração da primeira câmera colorida, ou Recomeçar para voltar ao início.</translation>
+Pressione Continuar para aceitar a calibração da primeira câmera em cores, ou Recomeçar para voltar ao início.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
         <translation>Alinhe a imagem de profundidade colorida com a imagem em cores.
-Pressione Continuar para aceitar a calibração da segunda câmera colorida, ou Recomeçar para voltar ao início.</translation>
+Pressione Continuar para aceitar a calibração da segunda câmera em cores, ou Recomeçar para voltar ao início.</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>
-        <translation>A calibração está armazenada na câmera.</translation>
+        <translation>A calibração está salva na câmera.</translation>
     </message>
     <message>
         <source>The last calibration was not stored in the camera.
 Please calibrate again.</source>
-        <translation>A última calibração não foi armazenada na câmera.
+        <translation>A última calibração não foi salva na câmera.
 Calibre novamente.</translation>
     </message>
     <message>
@@ -247,12 +274,12 @@ Calibre novamente.</translation>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
-        <translation>A calibração não está funcionando porque o cenário destas fotos é simples demais.
+        <translation>A calibração não está funcionando porque o cenário destas fotos é uniforme demais.
 Tente novamente. Aponte para um cenário variado, como prédios ou árvores.</translation>
     </message>
     <message>
         <source>The camera said that it stored the calibration, but it did not</source>
-        <translation>A câmera informou que armazenou a calibração, mas não o fez</translation>
+        <translation>A câmera informou que salvou a calibração, mas não o fez</translation>
     </message>
     <message>
         <source>The camera&apos;s images do not fit the new calibration</source>
@@ -322,7 +349,7 @@ Tente novamente. Aponte para um cenário variado, como prédios ou árvores.</tr
         <source>The battery is almost empty.
 Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
         <translation>A bateria está quase vazia.
-Conecte o tablet ao carregador. Depois, a calibração poderá ser armazenada na câmera.</translation>
+Conecte o tablet ao carregador. Depois, a calibração poderá ser salva na câmera.</translation>
     </message>
     <message>
         <source>Another program prevents this one from starting.
@@ -352,7 +379,7 @@ Desligue o tablet e ligue-o novamente.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
-        <translation>Confira o resultado com um dedo e armazene-o na câmera.</translation>
+        <translation>Confira o resultado com um dedo e salve-o na câmera.</translation>
     </message>
     <message>
         <source>Takes about three minutes.</source>
@@ -372,7 +399,7 @@ Desligue o tablet e ligue-o novamente.</translation>
     <message>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
-        <translation>Sair sem armazenar?
+        <translation>Sair sem salvar?
 As fotos e o resultado obtido até agora serão perdidos. A câmera mantém a calibração antiga.</translation>
     </message>
     <message>
@@ -385,7 +412,7 @@ As fotos e o resultado obtido até agora serão perdidos. A câmera mantém a ca
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>Armazenar a primeira</translation>
+        <translation>Salvar 1ª câmera</translation>
     </message>
 </context>
 <context>
@@ -406,6 +433,10 @@ O processo continua automaticamente. As fotos já tiradas contam.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Suficiente a partir da marca</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>O processo continua automaticamente em instantes.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ O processo continua automaticamente. As fotos já tiradas contam.</translation>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>A câmera ainda não responde. Feche outros programas que a utilizam, ou pressione Sair e inicie novamente.</translation>
+        <translation>A câmera ainda não responde. Feche outros programas que a utilizam, ou pressione Sair e inicie o programa novamente.</translation>
     </message>
 </context>
 <context>
@@ -493,7 +524,7 @@ O processo continua automaticamente. As fotos já tiradas contam.</translation>
     </message>
     <message>
         <source>Start the calibration again. What was found so far is not stored.</source>
-        <translation>Inicie a calibração novamente. O resultado obtido até agora não foi armazenado.</translation>
+        <translation>Inicie a calibração novamente. O resultado obtido até agora não foi salvo.</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -501,18 +532,18 @@ O processo continua automaticamente. As fotos já tiradas contam.</translation>
     </message>
     <message>
         <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
-        <translation>Inicie a calibração novamente. A calibração da primeira câmera pode ser armazenada ao sair.</translation>
+        <translation>Inicie a calibração novamente. A calibração da primeira câmera pode ser salva ao sair.</translation>
     </message>
 </context>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>Pouca profundidade visível. Aponte para algo a alguns metros de distância.</translation>
     </message>
     <message>
         <source>Stored calibration</source>
-        <translation>Calibração armazenada</translation>
+        <translation>Calibração salva</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -548,7 +579,7 @@ As fotos e o resultado obtido até agora serão perdidos.</translation>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>
-        <translation>Armazenando a calibração na câmera…</translation>
+        <translation>Salvando a calibração na câmera…</translation>
     </message>
     <message>
         <source>Please wait, and do not switch the tablet off.</source>
@@ -569,7 +600,7 @@ Aponte para prédios ou árvores, sob luz solar intensa.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Como mover</translation>
+        <translation>Como se mover</translation>
     </message>
     <message>
         <source>Start</source>
@@ -659,7 +690,7 @@ O programa fecha agora e reinicia automaticamente.</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation>Tentar de novo</translation>
+        <translation>Tentar novamente</translation>
     </message>
     <message>
         <source>Update</source>

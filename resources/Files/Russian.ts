@@ -30,7 +30,7 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Как двигать</translation>
+        <translation>Как двигать планшет</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -124,27 +124,54 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>История</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Поворот</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Смещение на снимках</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Сохранена</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Не сохранена</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Отчёты: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>Как двигать</translation>
+        <translation>Как двигать планшет</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
-        <translation>Направьте на местность, богатую деталями.
-Подходят здания и деревья, близкие и далёкие. Трава, небо и голые стены слишком просты. Держитесь на расстоянии не менее двух шагов.</translation>
+        <translation>Наведите камеру на местность, богатую деталями.
+Подходят здания и деревья, близкие и далёкие. Трава, небо и голые стены слишком однообразны. Держитесь на расстоянии не менее двух шагов.</translation>
     </message>
     <message>
         <source>Turn to another direction.
 Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
-        <translation>Поверните в другую сторону.
+        <translation>Поверните планшет в новом направлении.
 Слегка поверните планшет вбок, вверх или вниз, чтобы детали оказались в другом месте кадра.</translation>
     </message>
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>Замрите до вспышки.
+        <translation>Замрите, пока экран не мигнёт.
 Подержите планшет неподвижно. Снимок делается автоматически. Затем снова поверните.</translation>
     </message>
     <message>
@@ -205,19 +232,19 @@ Press continue.</source>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
-        <translation>Совместите цветное изображение глубины с цветным снимком.
+        <translation>Совместите раскрашенное изображение глубины с цветным изображением.
 Нажмите «Продолжить», чтобы принять калибровку цветной камеры, или «Начать заново», чтобы вернуться к началу.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
-        <translation>Совместите цветное изображение глубины с цветным снимком.
+        <translation>Совместите раскрашенное изображение глубины с цветным изображением.
 Нажмите «Продолжить», чтобы принять калибровку первой цветной камеры, или «Начать заново», чтобы вернуться к началу.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
-        <translation>Совместите цветное изображение глубины с цветным снимком.
+        <translation>Совместите раскрашенное изображение глубины с цветным изображением.
 Нажмите «Продолжить», чтобы принять калибровку второй цветной камеры, или «Начать заново», чтобы вернуться к началу.</translation>
     </message>
     <message>
@@ -242,13 +269,13 @@ Please calibrate again.</source>
     </message>
     <message>
         <source>Move the device to capture a different calibration photo.</source>
-        <translation>Переместите устройство, чтобы сделать другой калибровочный снимок.</translation>
+        <translation>Поверните устройство, чтобы сделать другой калибровочный снимок.</translation>
     </message>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
-        <translation>Калибровка не удаётся, потому что местность на этих снимках слишком однообразна.
-Попробуйте ещё раз. Направьте на разнообразную местность: здания или деревья.</translation>
+        <translation>Калибровка не удаётся, потому что сцена на этих снимках слишком однообразна.
+Попробуйте ещё раз. Наведите камеру на что-нибудь с деталями: здания или деревья.</translation>
     </message>
     <message>
         <source>The camera said that it stored the calibration, but it did not</source>
@@ -308,7 +335,7 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
     </message>
     <message>
         <source>The download is not signed by the maker of this program and has been removed.</source>
-        <translation>Загруженный файл не подписан производителем этой программы и удалён.</translation>
+        <translation>Загруженный файл не подписан разработчиком этой программы и поэтому удалён.</translation>
     </message>
     <message>
         <source>There is no installer for this system.</source>
@@ -348,7 +375,7 @@ Switch the tablet off and on again.</source>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Направьте на здания или деревья, близкие или далёкие. Двигайте и замирайте: автоматически будет сделано до восьми снимков.</translation>
+        <translation>Наведите камеру на здания или деревья, близкие или далёкие. Поворачивайте планшет и замирайте: автоматически будет сделано до восьми снимков.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -385,7 +412,7 @@ The photos and what was found so far would be lost. The camera keeps its old cal
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>Сохранить первую</translation>
+        <translation>Сохранить 1-ю камеру</translation>
     </message>
 </context>
 <context>
@@ -405,7 +432,11 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Enough light at the mark</source>
-        <translation>От метки света достаточно</translation>
+        <translation>После метки света достаточно</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Сейчас работа продолжится автоматически.</translation>
     </message>
 </context>
 <context>
@@ -434,7 +465,7 @@ It goes on by itself. The photos taken so far count.</source>
     <name>OpeningScreen</name>
     <message>
         <source>Opening the camera…</source>
-        <translation>Камера открывается…</translation>
+        <translation>Запуск камеры…</translation>
     </message>
     <message>
         <source>This can take half a minute after the tablet was switched on.</source>
@@ -442,7 +473,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>Камера пока не отвечает. Закройте другие программы, которые её используют, или нажмите «Выход» и запустите снова.</translation>
+        <translation>Камера пока не отвечает. Закройте другие программы, которые её используют, или нажмите «Выход» и запустите программу снова.</translation>
     </message>
 </context>
 <context>
@@ -507,8 +538,8 @@ It goes on by itself. The photos taken so far count.</source>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
-        <translation>В кадре слишком мало глубины. Направьте на что-нибудь в нескольких метрах.</translation>
+        <source>Too little depth in view. Point at something a few meters away.</source>
+        <translation>Слишком мало данных о глубине. Наведите камеру на что-нибудь в нескольких метрах.</translation>
     </message>
     <message>
         <source>Stored calibration</source>
@@ -565,11 +596,11 @@ The photos and what was found so far would be lost.</source>
         <source>Ready to take photos.
 Point at buildings or trees in bright sunlight.</source>
         <translation>Всё готово к съёмке.
-Направьте на здания или деревья при ярком солнечном свете.</translation>
+Наведите камеру на здания или деревья при ярком солнечном свете.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Как двигать</translation>
+        <translation>Как двигать планшет</translation>
     </message>
     <message>
         <source>Start</source>

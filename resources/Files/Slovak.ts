@@ -88,11 +88,11 @@ Otočte sa k inému okoliu.</translation>
     </message>
     <message>
         <source>tilted clockwise</source>
-        <translation>naklonená v smere hodín</translation>
+        <translation>naklonená v smere hodinových ručičiek</translation>
     </message>
     <message>
         <source>tilted counterclockwise</source>
-        <translation>naklonená proti smeru hodín</translation>
+        <translation>naklonená proti smeru hodinových ručičiek</translation>
     </message>
     <message>
         <source>Next, check it against the picture. It is stored only when you accept it.</source>
@@ -124,6 +124,33 @@ Otočte sa k inému okoliu.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>História</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Otočenie</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Odchýlka na snímkach</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Uložené</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Neuložené</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Správy: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
@@ -144,8 +171,8 @@ Pootočte tablet trochu nabok, nahor alebo nadol, aby sa detaily dostali na iné
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
-        <translation>Počkajte, kým sa zablysne.
-Chvíľu držte tablet v pokoji. Snímka sa zhotoví sama. Potom znova pootočte.</translation>
+        <translation>Počkajte, kým obrazovka blikne.
+Chvíľu držte tablet bez pohybu. Snímka sa zhotoví sama. Potom znova pootočte.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -276,7 +303,7 @@ Skúste to znova. Namierte na rozmanitú scénu, napríklad na budovy alebo stro
     </message>
     <message>
         <source>Please close all Tarnex Deepvane applications and any web browsers before proceeding.</source>
-        <translation>Skôr než budete pokračovať, zavrite všetky aplikácie Tarnex Deepvane a všetky webové prehliadače.</translation>
+        <translation>Skôr ako budete pokračovať, zavrite všetky aplikácie Tarnex Deepvane a všetky webové prehliadače.</translation>
     </message>
     <message>
         <source>Your Tarnex Deepvane camera needs a firmware update before this application can run. Please update your firmware and run the application again.</source>
@@ -372,12 +399,12 @@ Vypnite tablet a znova ho zapnite.</translation>
     <message>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
-        <translation>Odísť bez uloženia?
+        <translation>Ukončiť bez uloženia?
 Snímky a doterajší výsledok sa stratia. Kamera si ponechá starú kalibráciu.</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation>Odísť</translation>
+        <translation>Ukončiť</translation>
     </message>
     <message>
         <source>Stay</source>
@@ -406,6 +433,10 @@ Pokračuje sa automaticky. Doteraz zhotovené snímky sa počítajú.</translati
     <message>
         <source>Enough light at the mark</source>
         <translation>Od značky je svetla dosť</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>O chvíľu sa pokračuje automaticky.</translation>
     </message>
 </context>
 <context>
@@ -507,7 +538,7 @@ Pokračuje sa automaticky. Doteraz zhotovené snímky sa počítajú.</translati
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>V zábere je málo hĺbky. Namierte na niečo vzdialené niekoľko metrov.</translation>
     </message>
     <message>

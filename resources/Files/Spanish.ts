@@ -30,11 +30,11 @@ Apunte a otro entorno.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Cómo mover</translation>
+        <translation>Cómo moverse</translation>
     </message>
     <message>
         <source>Restart</source>
-        <translation>Reiniciar</translation>
+        <translation>Empezar de nuevo</translation>
     </message>
     <message>
         <source>Paused. No photos are taken.</source>
@@ -68,7 +68,7 @@ Apunte a otro entorno.</translation>
     </message>
     <message>
         <source>The color camera has turned by %1 since the stored calibration:</source>
-        <translation>La cámara de color ha girado %1 desde la calibración guardada:</translation>
+        <translation>La cámara en color ha girado %1 desde la calibración guardada:</translation>
     </message>
     <message>
         <source>to the right</source>
@@ -96,7 +96,7 @@ Apunte a otro entorno.</translation>
     </message>
     <message>
         <source>Next, check it against the picture. It is stored only when you accept it.</source>
-        <translation>Ahora compruébela con la imagen. Solo se guarda cuando usted la acepta.</translation>
+        <translation>Ahora compruébela con la imagen. Solo se guarda cuando la acepte.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -112,7 +112,7 @@ Apunte a otro entorno.</translation>
     </message>
     <message>
         <source>The color camera has turned unusually far.</source>
-        <translation>El giro de la cámara de color es inusualmente grande.</translation>
+        <translation>El giro de la cámara en color es inusualmente grande.</translation>
     </message>
     <message>
         <source>A turn alone does not explain the photos. The camera may need service.</source>
@@ -124,16 +124,43 @@ Apunte a otro entorno.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Desviación en las fotos</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Guardada</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>No guardada</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Informes: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>Cómo mover</translation>
+        <translation>Cómo moverse</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
         <translation>Apunte a un entorno con muchos detalles.
-Los edificios y los árboles son adecuados, estén cerca o lejos. La hierba, el cielo y las paredes lisas son demasiado simples. Mantenga al menos dos pasos de distancia.</translation>
+Los edificios y los árboles son adecuados, estén cerca o lejos. La hierba, el cielo y las paredes lisas son demasiado uniformes. Mantenga al menos dos pasos de distancia.</translation>
     </message>
     <message>
         <source>Turn to another direction.
@@ -192,33 +219,33 @@ Pulse Continuar.</translation>
     </message>
     <message>
         <source>Color Camera</source>
-        <translation>Cámara de color</translation>
+        <translation>Cámara en color</translation>
     </message>
     <message>
         <source>First Color Camera</source>
-        <translation>Primera cámara de color</translation>
+        <translation>Primera cámara en color</translation>
     </message>
     <message>
         <source>Second Color Camera</source>
-        <translation>Segunda cámara de color</translation>
+        <translation>Segunda cámara en color</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
         <translation>Alinee la imagen de profundidad coloreada con la imagen en color.
-Pulse Continuar para aceptar la calibración de la cámara de color, o pulse Reiniciar para volver a empezar.</translation>
+Pulse Continuar para aceptar la calibración de la cámara en color, o pulse Empezar de nuevo para volver al principio.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
         <translation>Alinee la imagen de profundidad coloreada con la imagen en color.
-Pulse Continuar para aceptar la calibración de la primera cámara de color, o pulse Reiniciar para volver a empezar.</translation>
+Pulse Continuar para aceptar la calibración de la primera cámara en color, o pulse Empezar de nuevo para volver al principio.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
         <translation>Alinee la imagen de profundidad coloreada con la imagen en color.
-Pulse Continuar para aceptar la calibración de la segunda cámara de color, o pulse Reiniciar para volver a empezar.</translation>
+Pulse Continuar para aceptar la calibración de la segunda cámara en color, o pulse Empezar de nuevo para volver al principio.</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>
@@ -247,7 +274,7 @@ Calibre de nuevo.</translation>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
-        <translation>La calibración no funciona porque el entorno de estas fotos es demasiado simple.
+        <translation>La calibración no funciona porque el entorno de estas fotos es demasiado uniforme.
 Inténtelo de nuevo. Apunte a un entorno variado, como edificios o árboles.</translation>
     </message>
     <message>
@@ -373,7 +400,7 @@ Apague la tableta y vuelva a encenderla.</translation>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
         <translation>¿Salir sin guardar?
-Se perderán las fotos y lo encontrado hasta ahora. La cámara conserva su calibración anterior.</translation>
+Se perderán las fotos y el resultado obtenido hasta ahora. La cámara conserva su calibración anterior.</translation>
     </message>
     <message>
         <source>Leave</source>
@@ -385,7 +412,7 @@ Se perderán las fotos y lo encontrado hasta ahora. La cámara conserva su calib
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>Guardar la primera</translation>
+        <translation>Guardar 1.ª cámara</translation>
     </message>
 </context>
 <context>
@@ -394,7 +421,7 @@ Se perderán las fotos y lo encontrado hasta ahora. La cámara conserva su calib
         <source>Return to a well lit area.
 It goes on by itself. The photos taken so far count.</source>
         <translation>Vuelva a un lugar bien iluminado.
-Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
+El proceso continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
     </message>
 </context>
 <context>
@@ -406,6 +433,10 @@ Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Suficiente a partir de la marca</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>El proceso continúa automáticamente en un momento.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>La cámara aún no responde. Cierre otros programas que la utilicen, o pulse Salir e inicie de nuevo.</translation>
+        <translation>La cámara aún no responde. Cierre otros programas que la utilicen, o pulse Salir e inicie el programa de nuevo.</translation>
     </message>
 </context>
 <context>
@@ -493,7 +524,7 @@ Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
     </message>
     <message>
         <source>Start the calibration again. What was found so far is not stored.</source>
-        <translation>Inicie la calibración de nuevo. Lo encontrado hasta ahora no se ha guardado.</translation>
+        <translation>Inicie la calibración de nuevo. El resultado obtenido hasta ahora no se ha guardado.</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -507,7 +538,7 @@ Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>Hay muy poca profundidad visible. Apunte a algo situado a unos metros.</translation>
     </message>
     <message>
@@ -516,11 +547,11 @@ Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
     </message>
     <message>
         <source>Restart</source>
-        <translation>Reiniciar</translation>
+        <translation>Empezar de nuevo</translation>
     </message>
     <message>
         <source>Hold to compare</source>
-        <translation>Mantener para comparar</translation>
+        <translation>Mantener pulsado para comparar</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -541,7 +572,7 @@ Continúa automáticamente. Las fotos ya tomadas cuentan.</translation>
         <source>Start over?
 The photos and what was found so far would be lost.</source>
         <translation>¿Empezar de nuevo?
-Se perderán las fotos y lo encontrado hasta ahora.</translation>
+Se perderán las fotos y el resultado obtenido hasta ahora.</translation>
     </message>
 </context>
 <context>
@@ -569,7 +600,7 @@ Apunte a edificios o árboles, a plena luz del sol.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Cómo mover</translation>
+        <translation>Cómo moverse</translation>
     </message>
     <message>
         <source>Start</source>

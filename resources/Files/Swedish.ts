@@ -11,11 +11,11 @@ Vänd dig mot andra omgivningar.</translation>
     </message>
     <message>
         <source>If you exit now, you can store the calibration of the first camera.</source>
-        <translation>Om du avslutar nu kan du lagra den första kamerans kalibrering.</translation>
+        <translation>Om du avslutar nu kan du spara den första kamerans kalibrering.</translation>
     </message>
     <message>
         <source>If you exit now, nothing is stored.</source>
-        <translation>Om du avslutar nu lagras ingenting.</translation>
+        <translation>Om du avslutar nu sparas ingenting.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -68,7 +68,7 @@ Vänd dig mot andra omgivningar.</translation>
     </message>
     <message>
         <source>The color camera has turned by %1 since the stored calibration:</source>
-        <translation>Färgkameran har vridits %1 sedan den lagrade kalibreringen:</translation>
+        <translation>Färgkameran har vridits %1 sedan den sparade kalibreringen:</translation>
     </message>
     <message>
         <source>to the right</source>
@@ -96,7 +96,7 @@ Vänd dig mot andra omgivningar.</translation>
     </message>
     <message>
         <source>Next, check it against the picture. It is stored only when you accept it.</source>
-        <translation>Kontrollera den nu mot bilden. Den lagras först när du godkänner den.</translation>
+        <translation>Kontrollera den nu mot bilden. Den sparas först när du godkänner den.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -104,11 +104,11 @@ Vänd dig mot andra omgivningar.</translation>
     </message>
     <message>
         <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
-        <translation>Avvikelse i fotona: %1 px med den lagrade kalibreringen, %2 px med den nya.</translation>
+        <translation>Avvikelse i fotona: %1 px med den sparade kalibreringen, %2 px med den nya.</translation>
     </message>
     <message>
         <source>The stored calibration still fits.</source>
-        <translation>Den lagrade kalibreringen stämmer fortfarande.</translation>
+        <translation>Den sparade kalibreringen stämmer fortfarande.</translation>
     </message>
     <message>
         <source>The color camera has turned unusually far.</source>
@@ -120,7 +120,34 @@ Vänd dig mot andra omgivningar.</translation>
     </message>
     <message>
         <source>Keep stored calibration</source>
-        <translation>Behåll lagrad kalibrering</translation>
+        <translation>Behåll sparad kalibrering</translation>
+    </message>
+</context>
+<context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Historik</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Vridning</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Avvikelse i fotona</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Sparad</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Inte sparad</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Rapporter: %1</translation>
     </message>
 </context>
 <context>
@@ -132,7 +159,7 @@ Vänd dig mot andra omgivningar.</translation>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
-        <translation>Rikta mot en omgivning med många detaljer.
+        <translation>Rikta surfplattan mot en omgivning med många detaljer.
 Byggnader och träd är bra, både nära och långt bort. Gräs, himmel och kala väggar är för enkla. Håll minst två stegs avstånd.</translation>
     </message>
     <message>
@@ -145,7 +172,7 @@ Vrid surfplattan lite åt sidan, uppåt eller nedåt så att detaljerna hamnar n
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
         <translation>Håll stilla tills det blinkar.
-Håll surfplattan stilla en stund. Fotot tas automatiskt. Vrid sedan igen.</translation>
+Håll surfplattan stilla ett ögonblick. Fotot tas automatiskt. Vrid sedan igen.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -222,12 +249,12 @@ Tryck på Fortsätt för att godkänna kalibreringen av den andra färgkameran. 
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>
-        <translation>Kalibreringen är lagrad i kameran.</translation>
+        <translation>Kalibreringen är sparad i kameran.</translation>
     </message>
     <message>
         <source>The last calibration was not stored in the camera.
 Please calibrate again.</source>
-        <translation>Den senaste kalibreringen lagrades inte i kameran.
+        <translation>Den senaste kalibreringen sparades inte i kameran.
 Kalibrera igen.</translation>
     </message>
     <message>
@@ -242,17 +269,17 @@ Kalibrera igen.</translation>
     </message>
     <message>
         <source>Move the device to capture a different calibration photo.</source>
-        <translation>Flytta enheten för att ta ett annat kalibreringsfoto.</translation>
+        <translation>Vrid enheten för att ta ett annat kalibreringsfoto.</translation>
     </message>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
         <translation>Kalibreringen lyckas inte eftersom omgivningen på dessa foton är för enkel.
-Försök igen. Rikta mot en omväxlande omgivning som byggnader eller träd.</translation>
+Försök igen. Rikta surfplattan mot en omväxlande omgivning som byggnader eller träd.</translation>
     </message>
     <message>
         <source>The camera said that it stored the calibration, but it did not</source>
-        <translation>Kameran meddelade att kalibreringen lagrades, men det gjorde den inte</translation>
+        <translation>Kameran meddelade att kalibreringen sparades, men det gjorde den inte</translation>
     </message>
     <message>
         <source>The camera&apos;s images do not fit the new calibration</source>
@@ -322,7 +349,7 @@ Försök igen. Rikta mot en omväxlande omgivning som byggnader eller träd.</tr
         <source>The battery is almost empty.
 Connect the tablet to its charger. Then the calibration can be stored in the camera.</source>
         <translation>Batteriet är nästan tomt.
-Anslut surfplattan till laddaren. Därefter kan kalibreringen lagras i kameran.</translation>
+Anslut surfplattan till laddaren. Därefter kan kalibreringen sparas i kameran.</translation>
     </message>
     <message>
         <source>Another program prevents this one from starting.
@@ -348,11 +375,11 @@ Stäng av surfplattan och slå på den igen.</translation>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Rikta mot byggnader eller träd, nära eller långt bort. Rör, håll stilla, och upp till åtta foton tas automatiskt.</translation>
+        <translation>Rikta surfplattan mot byggnader eller träd, nära eller långt bort. Vrid, håll stilla, och upp till åtta foton tas automatiskt.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
-        <translation>Kontrollera resultatet med ett finger och lagra det i kameran.</translation>
+        <translation>Kontrollera resultatet med ett finger och spara det i kameran.</translation>
     </message>
     <message>
         <source>Takes about three minutes.</source>
@@ -372,7 +399,7 @@ Stäng av surfplattan och slå på den igen.</translation>
     <message>
         <source>Leave without storing?
 The photos and what was found so far would be lost. The camera keeps its old calibration.</source>
-        <translation>Vill du avsluta utan att lagra?
+        <translation>Vill du avsluta utan att spara?
 Fotona och resultatet hittills går förlorade. Kameran behåller sin gamla kalibrering.</translation>
     </message>
     <message>
@@ -385,7 +412,7 @@ Fotona och resultatet hittills går förlorade. Kameran behåller sin gamla kali
     </message>
     <message>
         <source>Store first camera</source>
-        <translation>Lagra första kameran</translation>
+        <translation>Spara första kameran</translation>
     </message>
 </context>
 <context>
@@ -406,6 +433,10 @@ Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
     <message>
         <source>Enough light at the mark</source>
         <translation>Tillräckligt vid markeringen</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Det fortsätter automatiskt om ett ögonblick.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>Kameran svarar inte ännu. Stäng andra program som använder den, eller tryck på Avsluta och starta igen.</translation>
+        <translation>Kameran svarar inte ännu. Stäng andra program som använder den, eller tryck på Avsluta och starta programmet igen.</translation>
     </message>
 </context>
 <context>
@@ -493,7 +524,7 @@ Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
     </message>
     <message>
         <source>Start the calibration again. What was found so far is not stored.</source>
-        <translation>Starta kalibreringen igen. Resultatet hittills är inte lagrat.</translation>
+        <translation>Starta kalibreringen igen. Resultatet hittills är inte sparat.</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -501,18 +532,18 @@ Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
     </message>
     <message>
         <source>Start the calibration again. The first camera&apos;s calibration can be stored when you leave.</source>
-        <translation>Starta kalibreringen igen. Den första kamerans kalibrering kan lagras när du avslutar.</translation>
+        <translation>Starta kalibreringen igen. Den första kamerans kalibrering kan sparas när du avslutar.</translation>
     </message>
 </context>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
-        <translation>För lite djup i bilden. Rikta mot något några meter bort.</translation>
+        <source>Too little depth in view. Point at something a few meters away.</source>
+        <translation>För lite djup i bilden. Rikta surfplattan mot något några meter bort.</translation>
     </message>
     <message>
         <source>Stored calibration</source>
-        <translation>Lagrad kalibrering</translation>
+        <translation>Sparad kalibrering</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -520,7 +551,7 @@ Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
     </message>
     <message>
         <source>Hold to compare</source>
-        <translation>Håll för att jämföra</translation>
+        <translation>Håll ned för att jämföra</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -528,7 +559,7 @@ Det fortsätter automatiskt. Fotona som har tagits räknas.</translation>
     </message>
     <message>
         <source>No upright edge in view. Point at a tree trunk, a pole or the corner of a house.</source>
-        <translation>Ingen upprätt kant i bilden. Rikta mot en trädstam, en stolpe eller ett hushörn.</translation>
+        <translation>Ingen upprätt kant i bilden. Rikta surfplattan mot en trädstam, en stolpe eller ett hushörn.</translation>
     </message>
     <message>
         <source>It usually fits already. Drag only if the lines lie beside the edges.</source>
@@ -548,7 +579,7 @@ Fotona och resultatet hittills går förlorade.</translation>
     <name>SavingScreen</name>
     <message>
         <source>Storing the calibration in the camera…</source>
-        <translation>Lagrar kalibreringen i kameran…</translation>
+        <translation>Sparar kalibreringen i kameran…</translation>
     </message>
     <message>
         <source>Please wait, and do not switch the tablet off.</source>
@@ -564,8 +595,8 @@ Fotona och resultatet hittills går förlorade.</translation>
     <message>
         <source>Ready to take photos.
 Point at buildings or trees in bright sunlight.</source>
-        <translation>Klart att ta foton.
-Rikta mot byggnader eller träd i starkt solljus.</translation>
+        <translation>Redo att ta foton.
+Rikta surfplattan mot byggnader eller träd i starkt solljus.</translation>
     </message>
     <message>
         <source>How to move</source>

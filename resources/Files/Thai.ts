@@ -30,7 +30,7 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>How to move</source>
-        <translation>วิธี​เคลื่อนที่</translation>
+        <translation>วิธี​ขยับ​แท็บเล็ต</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -68,7 +68,7 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>The color camera has turned by %1 since the stored calibration:</source>
-        <translation>กล้องสี​หมุนไป %1 นับจาก​การ​ปรับเทียบ​ที่บันทึกไว้:</translation>
+        <translation>กล้องสี​หมุนไป %1 เมื่อเทียบกับ​ค่า​การ​ปรับเทียบ​ที่บันทึกไว้:</translation>
     </message>
     <message>
         <source>to the right</source>
@@ -104,11 +104,11 @@ Turn to other scenery.</source>
     </message>
     <message>
         <source>Offset in the photos: %1 px with the stored calibration, %2 px with the new one.</source>
-        <translation>ความคลาดเคลื่อน​ในภาพ: %1 พิกเซล​เมื่อใช้​การ​ปรับเทียบ​ที่บันทึกไว้ %2 พิกเซล​เมื่อใช้​ค่าใหม่</translation>
+        <translation>ความคลาดเคลื่อน​ในภาพ: %1 พิกเซล​เมื่อใช้​ค่า​การ​ปรับเทียบ​ที่บันทึกไว้ %2 พิกเซล​เมื่อใช้​ค่าใหม่</translation>
     </message>
     <message>
         <source>The stored calibration still fits.</source>
-        <translation>การ​ปรับเทียบ​ที่บันทึกไว้​ยังใช้ได้</translation>
+        <translation>ค่า​การ​ปรับเทียบ​ที่บันทึกไว้​ยังใช้ได้</translation>
     </message>
     <message>
         <source>The color camera has turned unusually far.</source>
@@ -124,28 +124,55 @@ Turn to other scenery.</source>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>ประวัติ</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>มุม​ที่หมุน</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>ความคลาดเคลื่อน​ในภาพ</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>บันทึกแล้ว</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>ไม่ได้​บันทึก</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>รายงาน: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>วิธี​เคลื่อนที่</translation>
+        <translation>วิธี​ขยับ​แท็บเล็ต</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
 Buildings and trees are good, near or far. Grass, sky and bare walls are too simple. Keep at least two steps away.</source>
         <translation>เล็งไปที่​ทิวทัศน์​ที่มี​รายละเอียด
-อาคาร​และต้นไม้​เหมาะสม ไม่ว่าจะ​ใกล้​หรือไกล หญ้า ท้องฟ้า และผนัง​โล่ง​เรียบง่าย​เกินไป เว้น​ระยะห่าง​อย่างน้อย​สองก้าว</translation>
+อาคาร​และต้นไม้​เหมาะสม ไม่ว่าจะ​ใกล้​หรือไกล หญ้า ท้องฟ้า และผนัง​โล่ง​มีรายละเอียด​น้อยเกินไป เว้น​ระยะห่าง​อย่างน้อย​สองก้าว</translation>
     </message>
     <message>
         <source>Turn to another direction.
 Turn the tablet a little to the side, up or down, so that the details come to lie elsewhere in the picture.</source>
-        <translation>หันไป​ทิศทางอื่น
-หมุน​แท็บเล็ต​เล็กน้อย​ไปด้านข้าง ขึ้น หรือลง เพื่อให้​รายละเอียด​ไปอยู่​ตำแหน่งอื่น​ในภาพ</translation>
+        <translation>หัน​แท็บเล็ต​ไป​ทิศทางอื่น
+หัน​แท็บเล็ต​เล็กน้อย​ไปด้านข้าง ขึ้น หรือลง เพื่อให้​รายละเอียด​ไปอยู่​ตำแหน่งอื่น​ในภาพ</translation>
     </message>
     <message>
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
         <translation>หยุด​จนกว่า​หน้าจอ​จะกะพริบ
-ถือ​แท็บเล็ต​ให้นิ่ง​สักครู่ ระบบจะ​ถ่ายภาพ​โดยอัตโนมัติ จากนั้น​หมุน​อีกครั้ง</translation>
+ถือ​แท็บเล็ต​ให้นิ่ง​สักครู่ ระบบจะ​ถ่ายภาพ​โดยอัตโนมัติ จากนั้น​หัน​แท็บเล็ต​อีกครั้ง</translation>
     </message>
     <message>
         <source>Close</source>
@@ -205,19 +232,19 @@ Press continue.</source>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
-        <translation>จัด​ภาพ​ความลึก​ที่มีสี​ให้ตรง​กับภาพสี
+        <translation>จัด​ภาพ​ความลึก​ที่แสดง​เป็นสี​ให้ตรง​กับภาพสี
 กด “ดำเนินการต่อ” เพื่อ​ยอมรับ​การ​ปรับเทียบ​กล้องสี หรือกด “เริ่มใหม่” เพื่อ​เริ่มต้น​อีกครั้ง</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
-        <translation>จัด​ภาพ​ความลึก​ที่มีสี​ให้ตรง​กับภาพสี
+        <translation>จัด​ภาพ​ความลึก​ที่แสดง​เป็นสี​ให้ตรง​กับภาพสี
 กด “ดำเนินการต่อ” เพื่อ​ยอมรับ​การ​ปรับเทียบ​กล้องสี​ตัวแรก หรือกด “เริ่มใหม่” เพื่อ​เริ่มต้น​อีกครั้ง</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
-        <translation>จัด​ภาพ​ความลึก​ที่มีสี​ให้ตรง​กับภาพสี
+        <translation>จัด​ภาพ​ความลึก​ที่แสดง​เป็นสี​ให้ตรง​กับภาพสี
 กด “ดำเนินการต่อ” เพื่อ​ยอมรับ​การ​ปรับเทียบ​กล้องสี​ตัวที่สอง หรือกด “เริ่มใหม่” เพื่อ​เริ่มต้น​อีกครั้ง</translation>
     </message>
     <message>
@@ -232,22 +259,22 @@ Please calibrate again.</source>
     </message>
     <message>
         <source>Last calibrated on %1.</source>
-        <translation>ปรับเทียบครั้งล่าสุดเมื่อ %1</translation>
+        <translation>ปรับเทียบ​ครั้ง​ล่าสุด​เมื่อ %1</translation>
     </message>
     <message>
         <source>The camera holds neither the last calibration nor the one before.
 Please calibrate again.</source>
-        <translation>กล้องไม่มีทั้งการปรับเทียบครั้งล่าสุดและครั้งก่อนหน้า
-โปรดปรับเทียบอีกครั้ง</translation>
+        <translation>กล้อง​ไม่มี​ทั้ง​ค่า​การ​ปรับเทียบ​ครั้ง​ล่าสุด​และ​ครั้ง​ก่อนหน้า
+โปรด​ปรับเทียบ​อีกครั้ง</translation>
     </message>
     <message>
         <source>Move the device to capture a different calibration photo.</source>
-        <translation>เคลื่อน​อุปกรณ์​เพื่อ​ถ่ายภาพ​ปรับเทียบ​อีกภาพ</translation>
+        <translation>ขยับ​อุปกรณ์​เพื่อ​ถ่ายภาพ​ปรับเทียบ​อีกภาพ</translation>
     </message>
     <message>
         <source>Calibration isn&apos;t working because the scenery in these photos is too simple.
 Let&apos;s try again. Point at interesting scenery like buildings or trees.</source>
-        <translation>ปรับเทียบ​ไม่ได้ เนื่องจาก​ทิวทัศน์​ในภาพ​เหล่านี้​เรียบง่าย​เกินไป
+        <translation>ปรับเทียบ​ไม่ได้ เนื่องจาก​ทิวทัศน์​ในภาพ​เหล่านี้​มีรายละเอียด​น้อยเกินไป
 โปรดลอง​อีกครั้ง เล็งไปที่​ทิวทัศน์​ที่มี​รายละเอียด เช่น อาคาร​หรือต้นไม้</translation>
     </message>
     <message>
@@ -268,7 +295,7 @@ Let&apos;s try again. Point at interesting scenery like buildings or trees.</sou
     </message>
     <message>
         <source>The device has not been calibrated or has invalid calibration data.</source>
-        <translation>อุปกรณ์​ยังไม่ได้​ปรับเทียบ​หรือมี​ข้อมูล​การ​ปรับเทียบ​ที่ไม่​ถูกต้อง</translation>
+        <translation>อุปกรณ์​ยังไม่ได้​ปรับเทียบ​หรือมี​ข้อมูล​การ​ปรับเทียบ​ที่​ไม่ถูกต้อง</translation>
     </message>
     <message>
         <source>Something bad has happened with the Tarnex Deepvane camera.</source>
@@ -348,7 +375,7 @@ Switch the tablet off and on again.</source>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>เล็งไปที่​อาคาร​หรือต้นไม้ ใกล้​หรือไกล​ก็ได้ เคลื่อนที่ หยุดนิ่ง แล้วระบบ​จะถ่ายภาพ​โดยอัตโนมัติ​สูงสุด​แปดภาพ</translation>
+        <translation>เล็งไปที่​อาคาร​หรือต้นไม้ ใกล้​หรือไกล​ก็ได้ ขยับ​แล้ว​หยุดนิ่ง ระบบ​จะถ่าย​ให้เอง​สูงสุด​แปดภาพ</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -407,6 +434,10 @@ It goes on by itself. The photos taken so far count.</source>
         <source>Enough light at the mark</source>
         <translation>แสงพอ​เมื่อถึง​เครื่องหมาย</translation>
     </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>ระบบ​จะดำเนินการ​ต่อ​โดยอัตโนมัติ​ในอีก​สักครู่</translation>
+    </message>
 </context>
 <context>
     <name>MapLegend</name>
@@ -442,7 +473,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>กล้อง​ยังไม่​ตอบสนอง โปรดปิด​โปรแกรมอื่น​ที่ใช้กล้อง หรือกด “ออก” แล้ว​เริ่ม​อีกครั้ง</translation>
+        <translation>กล้อง​ยังไม่​ตอบสนอง โปรดปิด​โปรแกรมอื่น​ที่ใช้กล้อง หรือกด “ออก” แล้ว​เริ่ม​โปรแกรม​อีกครั้ง</translation>
     </message>
 </context>
 <context>
@@ -469,7 +500,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Check in the system&apos;s privacy settings that programs may use the camera.</source>
-        <translation>ตรวจสอบ​ใน​การตั้งค่า​ความเป็น​ส่วนตัว​ของระบบ​ว่าโปรแกรม​ได้รับ​อนุญาต​ให้ใช้กล้อง</translation>
+        <translation>ตรวจสอบ​ใน​การตั้งค่า​ความเป็นส่วนตัว​ของระบบ​ว่าโปรแกรม​ได้รับ​อนุญาต​ให้ใช้กล้อง</translation>
     </message>
     <message>
         <source>Check in the device manager that the rear camera is switched on.</source>
@@ -507,12 +538,12 @@ It goes on by itself. The photos taken so far count.</source>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>มีข้อมูล​ความลึก​ในภาพ​น้อยเกินไป เล็งไปที่​สิ่งที่​อยู่ห่าง​ไม่กี่เมตร</translation>
     </message>
     <message>
         <source>Stored calibration</source>
-        <translation>การ​ปรับเทียบ​ที่บันทึกไว้</translation>
+        <translation>ค่า​การ​ปรับเทียบ​ที่บันทึกไว้</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -569,7 +600,7 @@ Point at buildings or trees in bright sunlight.</source>
     </message>
     <message>
         <source>How to move</source>
-        <translation>วิธี​เคลื่อนที่</translation>
+        <translation>วิธี​ขยับ​แท็บเล็ต</translation>
     </message>
     <message>
         <source>Start</source>
@@ -600,7 +631,7 @@ Point at buildings or trees in bright sunlight.</source>
     </message>
     <message>
         <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
-        <translation>สี​แต่ละสี​คือ​ระยะทาง เส้น​สีขาว​ต้องอยู่​บนขอบ​ของ​สิ่งต่าง ๆ</translation>
+        <translation>แต่ละสี​แสดง​ระยะห่าง เส้น​สีขาว​ต้องอยู่​บนขอบ​ของ​สิ่งต่าง ๆ</translation>
     </message>
     <message>
         <source>Only if they lie beside them, drag left or right until they fit.</source>

@@ -26,11 +26,11 @@ Başka bir manzaraya dönün.</translation>
     <name>CaptureScreen</name>
     <message>
         <source>Photo %1 taken.</source>
-        <translation>Fotoğraf %1 çekildi.</translation>
+        <translation>%1. fotoğraf çekildi.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Nasıl hareket edilir</translation>
+        <translation>Nasıl hareket ettirilir</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -42,11 +42,11 @@ Başka bir manzaraya dönün.</translation>
     </message>
     <message>
         <source>Photo %1 brought nothing new. Turn farther.</source>
-        <translation>Fotoğraf %1 yeni bir şey katmadı. Daha fazla çevirin.</translation>
+        <translation>%1. fotoğraf yeni bir şey katmadı. Daha fazla çevirin.</translation>
     </message>
     <message>
         <source>Photo %1 brought nothing: too little detail in it.</source>
-        <translation>Fotoğraf %1 bir şey katmadı: çok az ayrıntı var.</translation>
+        <translation>%1. fotoğraf bir şey katmadı: çok az ayrıntı var.</translation>
     </message>
 </context>
 <context>
@@ -124,10 +124,37 @@ Başka bir manzaraya dönün.</translation>
     </message>
 </context>
 <context>
+    <name>History</name>
+    <message>
+        <source>History</source>
+        <translation>Geçmiş</translation>
+    </message>
+    <message>
+        <source>Turned by</source>
+        <translation>Dönme</translation>
+    </message>
+    <message>
+        <source>Offset in the photos</source>
+        <translation>Fotoğraflardaki sapma</translation>
+    </message>
+    <message>
+        <source>Stored</source>
+        <translation>Kaydedildi</translation>
+    </message>
+    <message>
+        <source>Not stored</source>
+        <translation>Kaydedilmedi</translation>
+    </message>
+    <message>
+        <source>Reports: %1</source>
+        <translation>Raporlar: %1</translation>
+    </message>
+</context>
+<context>
     <name>HowToMove</name>
     <message>
         <source>How to move</source>
-        <translation>Nasıl hareket edilir</translation>
+        <translation>Nasıl hareket ettirilir</translation>
     </message>
     <message>
         <source>Point at scenery with detail.
@@ -145,7 +172,7 @@ Ayrıntılar görüntünün başka bir yerine gelecek şekilde tableti biraz yan
         <source>Pause until it flashes.
 Hold the tablet still for a moment. The photo is taken by itself. Then turn again.</source>
         <translation>Yanıp sönene kadar durun.
-Tableti bir süre sabit tutun. Fotoğraf kendiliğinden çekilir. Sonra yeniden çevirin.</translation>
+Tableti bir an sabit tutun. Fotoğraf otomatik olarak çekilir. Sonra yeniden çevirin.</translation>
     </message>
     <message>
         <source>Close</source>
@@ -188,7 +215,7 @@ Dışarıda aydınlık, güneşli bir yere gidin.</translation>
         <source>It&apos;s bright enough here!
 Press continue.</source>
         <translation>Burası yeterince aydınlık!
-Devam’a basın.</translation>
+“Devam” düğmesine basın.</translation>
     </message>
     <message>
         <source>Color Camera</source>
@@ -206,19 +233,19 @@ Devam’a basın.</translation>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the color camera. Or press Restart to start over.</source>
         <translation>Renklendirilmiş derinlik görüntüsünü renkli görüntüyle hizalayın.
-Renkli kameranın kalibrasyonunu kabul etmek için Devam’a basın. Yeniden başlamak için Baştan başla’ya basın.</translation>
+Renkli kameranın kalibrasyonunu kabul etmek için “Devam” düğmesine basın. En baştan başlamak için “Baştan başla” düğmesine basın.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the first color camera. Or press Restart to start over.</source>
         <translation>Renklendirilmiş derinlik görüntüsünü renkli görüntüyle hizalayın.
-Birinci renkli kameranın kalibrasyonunu kabul etmek için Devam’a basın. Yeniden başlamak için Baştan başla’ya basın.</translation>
+Birinci renkli kameranın kalibrasyonunu kabul etmek için “Devam” düğmesine basın. En baştan başlamak için “Baştan başla” düğmesine basın.</translation>
     </message>
     <message>
         <source>Align the colorful depth image with the color image.
 Press Continue to accept the calibration of the second color camera. Or press Restart to start over.</source>
         <translation>Renklendirilmiş derinlik görüntüsünü renkli görüntüyle hizalayın.
-İkinci renkli kameranın kalibrasyonunu kabul etmek için Devam’a basın. Yeniden başlamak için Baştan başla’ya basın.</translation>
+İkinci renkli kameranın kalibrasyonunu kabul etmek için “Devam” düğmesine basın. En baştan başlamak için “Baştan başla” düğmesine basın.</translation>
     </message>
     <message>
         <source>The calibration is stored in the camera.</source>
@@ -308,7 +335,7 @@ Yeniden deneyin. Binalar veya ağaçlar gibi ayrıntılı bir manzaraya doğrult
     </message>
     <message>
         <source>The download is not signed by the maker of this program and has been removed.</source>
-        <translation>İndirilen dosya bu programın üreticisi tarafından imzalanmamış ve kaldırıldı.</translation>
+        <translation>İndirilen dosya bu programın üreticisi tarafından imzalanmadığı için kaldırıldı.</translation>
     </message>
     <message>
         <source>There is no installer for this system.</source>
@@ -348,7 +375,7 @@ Tableti kapatıp yeniden açın.</translation>
     </message>
     <message>
         <source>Point at buildings or trees, near or far. Move, pause, and up to eight photos are taken by themselves.</source>
-        <translation>Yakındaki veya uzaktaki binalara ya da ağaçlara doğrultun. Hareket ettirin, durun; en fazla sekiz fotoğraf kendiliğinden çekilir.</translation>
+        <translation>Yakındaki veya uzaktaki binalara ya da ağaçlara doğrultun. Hareket ettirin, durun; en fazla sekiz fotoğraf otomatik olarak çekilir.</translation>
     </message>
     <message>
         <source>Check the result with one finger, and store it in the camera.</source>
@@ -394,7 +421,7 @@ Fotoğraflar ve şu ana kadar bulunan sonuç kaybolur. Kamera eski kalibrasyonun
         <source>Return to a well lit area.
 It goes on by itself. The photos taken so far count.</source>
         <translation>İyi aydınlatılmış bir yere dönün.
-İşlem kendiliğinden devam eder. Çekilen fotoğraflar geçerlidir.</translation>
+İşlem otomatik olarak devam eder. Çekilen fotoğraflar geçerlidir.</translation>
     </message>
 </context>
 <context>
@@ -406,6 +433,10 @@ It goes on by itself. The photos taken so far count.</source>
     <message>
         <source>Enough light at the mark</source>
         <translation>İşaretten sonra ışık yeterli</translation>
+    </message>
+    <message>
+        <source>It goes on by itself in a moment.</source>
+        <translation>Birazdan otomatik olarak devam eder.</translation>
     </message>
 </context>
 <context>
@@ -442,7 +473,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>The camera does not answer yet. Close other programs that use it, or press Exit and start again.</source>
-        <translation>Kamera henüz yanıt vermiyor. Kamerayı kullanan diğer programları kapatın veya Çıkış’a basıp yeniden başlatın.</translation>
+        <translation>Kamera henüz yanıt vermiyor. Kamerayı kullanan diğer programları kapatın veya “Çıkış” düğmesine basıp programı yeniden başlatın.</translation>
     </message>
 </context>
 <context>
@@ -507,7 +538,7 @@ It goes on by itself. The photos taken so far count.</source>
 <context>
     <name>RefinementScreen</name>
     <message>
-        <source>Too little depth in view. Point at something a few metres away.</source>
+        <source>Too little depth in view. Point at something a few meters away.</source>
         <translation>Görüntüde derinlik çok az. Birkaç metre uzaktaki bir şeye doğrultun.</translation>
     </message>
     <message>
@@ -520,7 +551,7 @@ It goes on by itself. The photos taken so far count.</source>
     </message>
     <message>
         <source>Hold to compare</source>
-        <translation>Karşılaştırmak için tutun</translation>
+        <translation>Karşılaştırmak için basılı tutun</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -556,7 +587,7 @@ Fotoğraflar ve şu ana kadar bulunan sonuç kaybolur.</translation>
     </message>
     <message>
         <source>The program closes by itself, or when you touch the screen.</source>
-        <translation>Program kendiliğinden veya ekrana dokunduğunuzda kapanır.</translation>
+        <translation>Program otomatik olarak veya ekrana dokunduğunuzda kapanır.</translation>
     </message>
 </context>
 <context>
@@ -569,7 +600,7 @@ Parlak güneş ışığında binalara veya ağaçlara doğrultun.</translation>
     </message>
     <message>
         <source>How to move</source>
-        <translation>Nasıl hareket edilir</translation>
+        <translation>Nasıl hareket ettirilir</translation>
     </message>
     <message>
         <source>Start</source>
@@ -600,7 +631,7 @@ Parlak güneş ışığında binalara veya ağaçlara doğrultun.</translation>
     </message>
     <message>
         <source>Every color is a distance. The white lines have to lie on the edges of things.</source>
-        <translation>Her renk bir uzaklıktır. Beyaz çizgiler nesnelerin kenarlarında olmalıdır.</translation>
+        <translation>Her renk bir uzaklığı gösterir. Beyaz çizgiler nesnelerin kenarlarında olmalıdır.</translation>
     </message>
     <message>
         <source>Only if they lie beside them, drag left or right until they fit.</source>
@@ -613,7 +644,7 @@ Parlak güneş ışığında binalara veya ağaçlara doğrultun.</translation>
         <source>Version %1 is available.
 It is downloaded and installed in a few minutes. The program then closes and starts again by itself.</source>
         <translation>%1 sürümü hazır.
-Birkaç dakika içinde indirilip yüklenir. Ardından program kapanır ve kendiliğinden yeniden başlar.</translation>
+Birkaç dakika içinde indirilip yüklenir. Ardından program kapanır ve otomatik olarak yeniden başlar.</translation>
     </message>
     <message>
         <source>Downloading version %1…</source>
@@ -635,11 +666,11 @@ Birkaç dakika içinde indirilip yüklenir. Ardından program kapanır ve kendil
         <source>Starting the installation…
 The program closes now and starts again by itself.</source>
         <translation>Yükleme başlatılıyor…
-Program şimdi kapanır ve kendiliğinden yeniden başlar.</translation>
+Program şimdi kapanır ve otomatik olarak yeniden başlar.</translation>
     </message>
     <message>
         <source>The update did not succeed.</source>
-        <translation>Güncelleştirme başarılı olmadı.</translation>
+        <translation>Güncelleştirme başarısız oldu.</translation>
     </message>
     <message>
         <source>This version goes on working as before.</source>

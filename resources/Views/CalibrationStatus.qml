@@ -28,6 +28,10 @@ QtObject {
     property string savedText: ""
     property var storedFacts: []
     property bool soundOn: true
+    property var history: []        // the newest calibrations first, as described in docs/interface-map.md
+    property string reportsFolder: ""
+    // Someone has calibrated on this tablet before, and does not need every page to be explained.
+    readonly property bool practised: history.some(entry => entry.stored)
 
     property string lightingTitle: ""
     property string lightingMessage: ""

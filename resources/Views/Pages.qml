@@ -27,12 +27,12 @@ Item {
     readonly property bool paged: status.paged
     readonly property var screens: [opening, introduction, lighting, start, between, capture, found, tutorial, refinement, saving,
                                     missingDevice, missingRearCamera, rearCameraTrouble]
-    readonly property bool covered: howToMove.visible || leaveQuestion.visible || restartQuestion.visible
-                                    || updateNotice.visible
+    readonly property bool covered: howToMove.visible || history.visible || leaveQuestion.visible
+                                    || restartQuestion.visible || updateNotice.visible
 
     // The name of what the user can operate, for the log.
     readonly property string uppermost: {
-        for (const cover of [updateNotice, leaveQuestion, restartQuestion, howToMove])
+        for (const cover of [updateNotice, leaveQuestion, restartQuestion, howToMove, history])
             if (cover.visible) return cover.objectName
         const page = screens.find(screen => screen.shown)
         return page ? page.objectName : ""
@@ -42,10 +42,12 @@ Item {
     function confirmPhoto() { capture.confirmPhoto() }
     function confirmWorth(worth) { capture.confirmWorth(worth) }
     function askToLeave() { leaveQuestion.visible = true }
+    function openHistory() { history.open() }
     Connections {
         target: pages.status
         function onNoticeChanged() {  // nothing may cover a notice
             howToMove.visible = false
+            history.visible = false
             leaveQuestion.visible = false
             restartQuestion.visible = false
         }
@@ -70,7 +72,8 @@ Item {
         const page = updateNotice.visible ? updateNotice
                    : leaveQuestion.visible ? leaveQuestion
                    : restartQuestion.visible ? restartQuestion
-                   : howToMove.visible ? howToMove : screens.find(screen => screen.shown)
+                   : howToMove.visible ? howToMove : history.visible ? history : screens.find(screen => screen.shown)
+        if (page === updateNotice && !updateNotice.enabled) return
         if (page && page.mainButton && page.mainButton.visible) page.mainButton.clicked()
     }
     function goBack() {
@@ -78,6 +81,7 @@ Item {
         else if (leaveQuestion.visible) leaveQuestion.stay()
         else if (restartQuestion.visible) restartQuestion.visible = false
         else if (howToMove.visible) howToMove.visible = false
+        else if (history.visible) history.visible = false
         else leave()
     }
     Shortcut {
@@ -112,6 +116,7 @@ Item {
             layout: pages.layout
             onBegun: pages.begun()
             onSoundSwitched: pages.soundSwitched(on)
+            onHistoryWanted: pages.openHistory()
         }
         LightingScreen {
             id: lighting
@@ -155,7 +160,10 @@ Item {
             shown: pages.paged && pages.status.foundShown
             status: pages.status
             layout: pages.layout
-            onContinued: pages.status.foundRead = true
+            onContinued: {
+                if (pages.status.practised && pages.step === pages.states.tutorial) pages.wanted(pages.states.refining)
+                pages.status.foundRead = true
+            }
             onKept: pages.storedKept()
             onShownChanged: if (shown) pages.cueSounded("found")
         }
@@ -190,9 +198,13 @@ Item {
             shown: pages.status.notice === objectName && !pages.status.saving
             drawing: "missing"
             title: qsTr("The depth camera was not found.")
-            steps: [qsTr("Close every other program that uses a camera."),
-                    qsTr("Switch the tablet off and on again."),
-                    qsTr("Start the calibration again. If the camera is still missing, the tablet needs service.")]
+            // Switching the tablet off would lose an accepted calibration.
+            steps: pages.status.firstCameraStorable
+                   ? [qsTr("Close every other program that uses a camera."),
+                      qsTr("Start the calibration again. The first camera's calibration can be stored when you leave.")]
+                   : [qsTr("Close every other program that uses a camera."),
+                      qsTr("Switch the tablet off and on again."),
+                      qsTr("Start the calibration again. If the camera is still missing, the tablet needs service.")]
             onLeft: pages.leaveNotice()
         }
         NoticeScreen {
@@ -232,6 +244,7 @@ Item {
         }
     }
     HowToMove { id: howToMove; anchors.fill: parent }
+    History { id: history; anchors.fill: parent; status: pages.status }
     RestartQuestion {
         id: restartQuestion
         anchors.fill: parent

@@ -58,6 +58,8 @@ Window {
     }
     function showStoredFacts(facts) { status.storedFacts = facts }
     function showSoundSwitch(on) { status.soundOn = on }
+    function showHistory(entries, reportsFolder) { status.history = entries; status.reportsFolder = reportsFolder }
+    function openHistory() { pages.openHistory() }
     function setLightingDialogText(title, message) { status.lightingTitle = title; status.lightingMessage = message }
     function setLightingProgress(progress) { status.lightingProgress = progress }
     function toggleLightingContinueButtonVisibility(shown, label) {
@@ -105,11 +107,13 @@ Window {
 
     function goTo(state) {
         status.state = state
+        if (state === _state_StartingCalibration) status.startAttempt()  // the page must not show the last attempt
         stateChanged(state)
     }
     function goOnWithSecondCamera() {
         status.secondCamera = true
         status.between = true
+        status.state = _state_StartingCalibration  // before the application forgets the result, which is still shown
         switchToOOMColorSensor()
         goTo(_state_StartingCalibration)
     }

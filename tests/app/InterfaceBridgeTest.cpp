@@ -198,6 +198,8 @@ TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
     functions.displayMissingPlatformCamera();
     functions.displayPlatformCameraIssue();
     functions.offerFirstCamera();
+    functions.showHistory({}, "a");
+    functions.openHistory();
     functions.cancelSaving();
     functions.showLastSaveFailed("a");
     functions.showUpdateOffer("1.1");

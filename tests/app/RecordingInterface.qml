@@ -64,6 +64,8 @@ Window {
     function showPhotoWorth(worth) { add("worth", [worth]) }
     function showStoredFacts(facts) { add("storedFacts", facts) }
     function showSoundSwitch(on) { add("soundSwitch", [on]) }
+    function showHistory(entries, folder) { add("history", entries.map(entry => entry.stored + " " + entry.turnDeg.toFixed(1))) }
+    function openHistory() { add("openHistory", []) }
     function showFoundTurn(anglesDeg, quality) {
         add("foundTurn", anglesDeg.map(angle => angle.toFixed(1)))
         add("foundQuality", [quality.verdict, quality.explained, quality.newPx < quality.storedPx])
@@ -83,5 +85,6 @@ Window {
         DepthColorOverlayRenderer { objectName: "refinementWalkthroughView" }
         DepthColorOverlayRenderer { objectName: "refinementView" }
         MouseArea { anchors.fill: parent; onPressed: ++root.clicks }
+        Item { objectName: "savedHistoryButton"; width: 100; height: 50 }
     }
 }

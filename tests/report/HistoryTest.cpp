@@ -56,6 +56,15 @@ TEST_F(HistoryTest, ALineForEachCameraAndTheColumnsOnce) {
     EXPECT_FALSE(lastStored(folder, 550102).isValid());
     EXPECT_FALSE(lastStored(folder + "/none", 550101).isValid());
 
+    const std::vector<HistoryEntry> newest = newestOfHistory(folder, 3);
+    ASSERT_EQ(newest.size(), 3U);
+    EXPECT_EQ(newest[0].time, failed.time.addMSecs(-789));
+    EXPECT_FALSE(newest[0].stored || newest[1].stored || newest[0].proof);
+    EXPECT_TRUE(newest[2].stored && newest[2].proof);
+    EXPECT_EQ(newest[2].camera, ColourCamera::Platform);
+    EXPECT_NEAR(newest[2].turnDeg, turnDeg(platform.stored, platform.accepted), 1e-3);
+    EXPECT_EQ(newest[2].proof->newPx, 0.214);
+
     for (const QDateTime& wrong :
          {QDateTime(QDate(1970, 1, 1), {}, Qt::UTC), QDateTime::currentDateTimeUtc().addDays(1)}) {
         ServiceReport stored = reportOf({third});
@@ -72,6 +81,7 @@ TEST_F(HistoryTest, WhatIsThereStands) {
     file.write("mine\ncut sho");
     file.close();
     EXPECT_TRUE(appendHistory(folder, reportOf({third})));
+    EXPECT_EQ(newestOfHistory(folder, 9).size(), 1U) << "lines that cannot be read are skipped";
     EXPECT_THAT(lines(), ElementsAre("mine", "cut sho", StartsWith("2026-07-01T12:34:56Z,550101,third,"), ""));
 }
 

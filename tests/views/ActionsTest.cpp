@@ -265,6 +265,45 @@ TEST_F(ActionsTest, WithOneCameraTheFirstRefinementIsTheLast) {
     EXPECT_TRUE(rearCamera.isEmpty());
 }
 
+TEST_F(ActionsTest, WhoHasCalibratedHereBeforeStoresTwoCamerasWithSixTouches) {
+    int touches = 0;
+    const auto touch = [&](const char* button) {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return stage.find(button)->isVisible() && stage.find(button)->isEnabled(); }))
+            << button;
+        stage.press(button);
+        ++touches;
+    };
+    stage.tell("showHistory", QVariantList{QVariantMap{{"stored", true}}}, "/reports");
+    stage.enter(1);
+    touch("historyButton");
+    EXPECT_TRUE(shown("historyPage"));
+    pressReturn();
+    EXPECT_FALSE(shown("historyPage"));
+    touches = 0;
+
+    touch("introContinueButton");
+    stage.tell("toggleLightingContinueButtonVisibility", true, "Continue");
+    QTest::qWait(1500);
+    stage.tell("toggleLightingContinueButtonVisibility", false, "Continue");
+    QTest::qWait(2000);
+    EXPECT_TRUE(shown("lightingPage")) << "the light did not last";
+    stage.tell("toggleLightingContinueButtonVisibility", true, "Continue");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shown("capturePage"); }));
+    stage.enter(9);
+    touch("foundContinueButton");
+    EXPECT_TRUE(shown("refinementPage")) << "without the example";
+    EXPECT_EQ(states.last()[0], 10);
+    EXPECT_TRUE(swings.isEmpty());
+    touch("refinementContinueButton");
+    touch("betweenContinueButton");
+    stage.tell("setCalibrationProgress", 0.0);
+    stage.enter(10);
+    touch("foundContinueButton");
+    touch("refinementContinueButton");
+    EXPECT_TRUE(quits.wait());
+    EXPECT_EQ(touches, 6);
+}
+
 TEST_F(ActionsTest, TheFingerDragsWhereThePictureIsTapsForNothingAndHoldsToCompare) {
     QSignalSpy downs(stage.window(), SIGNAL(touchDown(int, int)));
     QSignalSpy moves(stage.window(), SIGNAL(touchMove(int, int)));
@@ -343,8 +382,10 @@ TEST_F(ActionsTest, TheSecondCameraTakesNoPhotoBeforeTheUserHasTurned) {
     QSignalSpy pauses(stage.window(), SIGNAL(pauseCapture(bool)));
     stage.enter(10);
     stage.press("foundContinueButton");
+    QSignalSpy cues(stage.window(), SIGNAL(cueSounded(QString)));
     stage.press("refinementContinueButton");
     EXPECT_EQ(states.last()[0], 6);
+    EXPECT_TRUE(cues.isEmpty()) << "nothing new has been found";
     stage.enter(7);
     EXPECT_TRUE(shown("betweenPage"));
     EXPECT_FALSE(shown("capturePage"));
@@ -428,8 +469,15 @@ TEST_F(ActionsTest, AnUpdateIsFetchedGivenUpOrLeftForLater) {
     EXPECT_TRUE(shown("updateNotice"));
     escape();  // postpones the update
     EXPECT_FALSE(shown("updateNotice"));
-    stage.tell("showUpdateOffer", "1.10");
-    pressReturn();
+    const auto offer = [&] {
+        const int before = wanted.size();
+        stage.tell("showUpdateOffer", "1.10");
+        pressReturn();
+        EXPECT_EQ(wanted.size(), before) << "it was meant for the page below";
+        ASSERT_TRUE(QTest::qWaitFor([this] { return stage.find("updateNotice")->isEnabled(); }));
+        pressReturn();
+    };
+    offer();
     EXPECT_EQ(wanted.size(), 1);
     stage.tell("showUpdateProgress", 20.0, 80.0);
     EXPECT_EQ(stage.find("updateProgress")->property("value"), 0.25);
@@ -439,8 +487,7 @@ TEST_F(ActionsTest, AnUpdateIsFetchedGivenUpOrLeftForLater) {
     EXPECT_EQ(givenUp.size(), 1);
     EXPECT_FALSE(shown("updateNotice"));
 
-    stage.tell("showUpdateOffer", "1.10");
-    pressReturn();
+    offer();
     stage.tell("showUpdateFailed", "Because.", true);
     pressReturn();  // tries again
     EXPECT_EQ(wanted.size(), 3);

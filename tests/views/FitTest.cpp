@@ -56,10 +56,14 @@ protected:
             const auto* slide = slides->property("currentItem").value<QQuickItem*>();
             return !slides->isVisible() || seen(slides).adjusted(-1, -1, 1, 1).contains(seen(slide));
         }));
+        const QQuickItem* notice = stage.find("updateNotice");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return notice->isEnabled() || !notice->isVisible(); }));
         SCOPED_TRACE(name);
         std::vector<QQuickItem*> buttons;
         checkBelow(stage, stage.window()->contentItem(), &buttons);
-        const bool endsByItself = stage.find("savingPage")->isVisible() || name == QString("update-starting");
+        const bool endsByItself =
+            (stage.find("savingPage")->isVisible() && !stage.find("savedHistoryButton")->isVisible()) ||
+            name == QString("update-starting");
         EXPECT_EQ(buttons.empty(), endsByItself);
         for (const QQuickItem* one : buttons)
             for (const QQuickItem* other : buttons)

@@ -97,7 +97,7 @@ TEST_F(GlareTest, EveryPageCanBeReadInTheSun) {
         stage.resize({1280, 800});
         for (const Scene& scene : scenes) {
             scene.enter(stage);
-            QTest::qWait(400);  // until the page has faded in
+            QTest::qWait(600);  // until the page has faded in
             page = scene.name;
             picture = stage.window()->grabWindow();
             ASSERT_FALSE(picture.isNull());

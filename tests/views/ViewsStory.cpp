@@ -20,6 +20,25 @@ void takePhotos(ViewsStage& stage, int count) {
     stage.tell("showDetailMap", QVariant(areas), "left");
 }
 
+void showHistory(ViewsStage& stage) {
+    const auto row = [](int serial, const char* camera, bool stored) {
+        QVariantMap entry{{"when", "12/31/2026\n11:59 PM"},
+                          {"camera", QString("%1\n%2").arg(serial).arg(interfaceText(camera))},
+                          {"turnDeg", 1.92},
+                          {"stored", stored}};
+        if (stored) entry.insert({{"storedPx", 22.4}, {"newPx", 0.31}});
+        return entry;
+    };
+    stage.tell("showHistory",
+               QVariantList{row(700012, texts::kSecondCamera, true), row(700012, texts::kFirstCamera, true),
+                            row(700010, texts::kFirstCamera, false), row(700011, texts::kFirstCamera, true)},
+               "/home/technician/.local/share/field-calibrator/reports");
+}
+
+void hideHistory(ViewsStage& stage) {
+    stage.tell("showHistory", QVariantList(), "");
+}
+
 void startAttempt(ViewsStage& stage) {
     stage.enter(7);
     stage.tell("setCalibrationProgress", 0.0);
@@ -44,9 +63,16 @@ std::vector<Scene> story() {
          [](ViewsStage& stage) {
              stage.tell("showLastSaveFailed", interfaceText(texts::kLastSaveFailed));
              stage.tell("showLastCalibration", interfaceText(texts::kLastCalibrated).arg("12/31/2026"));
+             showHistory(stage);
              stage.enter(1);
          }},
-        {"update-offered", [](ViewsStage& stage) { stage.tell("showUpdateOffer", "1.10"); }},
+        {"history", [](ViewsStage& stage) { stage.press("historyButton"); }},
+        {"update-offered",
+         [](ViewsStage& stage) {
+             stage.press("historyCloseButton");
+             hideHistory(stage);
+             stage.tell("showUpdateOffer", "1.10");
+         }},
         {"update-connecting", [](ViewsStage& stage) { stage.press("updateButton"); }},
         {"update-fetching", [](ViewsStage& stage) { stage.tell("showUpdateProgress", 23.4e6, 61.8e6); }},
         {"update-interrupted", [](ViewsStage& stage) { stage.tell("showUpdateInterrupted"); }},
@@ -69,8 +95,10 @@ std::vector<Scene> story() {
              stage.tell("setLightingProgress", 1.0);
              stage.tell("toggleLightingContinueButtonVisibility", true, interfaceText(texts::kContinue));
          }},
+        {"sunlight-goes-on", &showHistory},
         {"capture",
          [](ViewsStage& stage) {
+             hideHistory(stage);
              stage.press("lightingContinueButton");
              startAttempt(stage);
              takePhotos(stage, 3);
@@ -165,6 +193,7 @@ std::vector<Scene> story() {
              };
              stage.tell("showStoredFacts",
                         QStringList{fact(texts::kFirstCamera, "1.92"), fact(texts::kSecondCamera, "0.53")});
+             showHistory(stage);
              stage.tell("showSaveCalibrationText", interfaceText(texts::kSaved));
          }},
     };

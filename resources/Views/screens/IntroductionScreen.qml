@@ -7,6 +7,7 @@ Screen {
     id: screen
     signal begun()
     signal soundSwitched(bool on)
+    signal historyWanted()
     mainButton: continueButton
 
     component Step: RowLayout {
@@ -95,6 +96,13 @@ Screen {
                 Layout.preferredHeight: continueButton.Layout.preferredHeight
                 drawing: screen.status.soundOn ? "soundOn" : "soundOff"
                 onClicked: screen.soundSwitched(!screen.status.soundOn)
+            }
+            TouchButton {
+                objectName: "historyButton"
+                visible: screen.status.history.length > 0
+                Layout.preferredHeight: continueButton.Layout.preferredHeight
+                text: qsTranslate("History", "History")
+                onClicked: screen.historyWanted()
             }
             TouchButton {
                 id: continueButton

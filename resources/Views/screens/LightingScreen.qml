@@ -8,6 +8,14 @@ PairPage {
     signal continued()
     mainButton: continueButton
 
+    // A practised user does not need to confirm that the light suffices.
+    Timer {
+        id: lastingLight
+        interval: Theme.lastingLight
+        running: screen.shown && screen.enabled && screen.status.lit && screen.status.practised
+        onTriggered: screen.continued()
+    }
+
     header: RowLayout {
         anchors.fill: parent
         anchors.rightMargin: screen.layout.exitSpace
@@ -52,7 +60,11 @@ PairPage {
                 Layout.fillWidth: true
                 Words { text: qsTr("Light"); font.pixelSize: Theme.captionSize; color: Theme.quietText }
                 Item { Layout.fillWidth: true }
-                Words { text: qsTr("Enough light at the mark"); font.pixelSize: Theme.captionSize; color: Theme.quietText }
+                Words {
+                    text: lastingLight.running ? qsTr("It goes on by itself in a moment.") : qsTr("Enough light at the mark")
+                    font.pixelSize: Theme.captionSize
+                    color: Theme.quietText
+                }
             }
         }
         TouchButton {

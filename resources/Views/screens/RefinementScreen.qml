@@ -102,7 +102,7 @@ Screen {
         drawing: "attention"
         readonly property bool sparse: screen.overlay !== null && screen.overlay.depthSparse
         visible: !screen.watching && screen.overlay !== null && (sparse || screen.overlay.uprightEdgesMissing)
-        text: sparse ? qsTr("Too little depth in view. Point at something a few metres away.")
+        text: sparse ? qsTr("Too little depth in view. Point at something a few meters away.")
                      : qsTr("No upright edge in view. Point at a tree trunk, a pole or the corner of a house.")
     }
     Pill {
@@ -134,7 +134,9 @@ Screen {
             TouchButton {
                 id: storedButton
                 objectName: "storedButton"
-                Layout.minimumWidth: Theme.target
+                Layout.fillWidth: true  // shrinks in long languages
+                Layout.minimumWidth: Theme.length(200)
+                Layout.maximumWidth: implicitWidth
                 opacity: screen.dragging ? bottom.solid : 1
                 drawing: "eye"
                 text: qsTr("Hold to compare")

@@ -46,5 +46,12 @@ Screen {
             color: Theme.quietText
             horizontalAlignment: Text.AlignHCenter
         }
+        // Pressed through the application, which receives all input once the program is ending.
+        TouchButton {
+            objectName: "savedHistoryButton"
+            anchors.horizontalCenter: parent.horizontalCenter
+            visible: screen.saved && screen.status.history.length > 0
+            text: qsTranslate("History", "History")
+        }
     }
 }

@@ -22,6 +22,13 @@ Rectangle {
 
     objectName: "updateNotice"
     visible: status.updateShown
+    enabled: false  // a tap at the moment it appears was meant for the page below
+    onVisibleChanged: enabled = false
+    Timer {
+        running: notice.visible
+        interval: Theme.calmly
+        onTriggered: notice.enabled = true
+    }
     color: Qt.rgba(0, 0, 0, 0.7)
     MouseArea { anchors.fill: parent }
     Rectangle {

@@ -51,6 +51,7 @@ QtObject {
     readonly property int demonstration: 1400
     readonly property int untilDark: 300  // shorter darkness is not reported
     readonly property int untilLit: 500   // shorter light does not end the notice
+    readonly property int lastingLight: 3000  // after which the light check continues by itself
     readonly property int steady: 250  // an instruction valid for a shorter time is not shown
 
     function length(atDesignSize) { return Math.round(atDesignSize * unit) }
