@@ -143,7 +143,7 @@ void QmlFunctions::showUpdateFailed(const QString& text, bool mayTryAgain) {
 
 // The root belongs to the main thread and must not be accessed from another one.
 void QmlFunctions::call(const char* function, const QVariantList& arguments) {
-    mainThread_.call([this, function, arguments] { callNow(function, arguments); });
+    QMetaObject::invokeMethod(this, [this, function, arguments] { callNow(function, arguments); });
 }
 
 void QmlFunctions::callNow(const char* function, const QVariantList& arguments) const {

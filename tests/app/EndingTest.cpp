@@ -20,8 +20,7 @@ constexpr ColourCamera kSecond = ColourCamera::Platform;
 constexpr const char* kSaved = "saveText|The calibration is stored in the camera.";
 
 Eigen::Vector3d anglesDeg(const Rotation& rotation) {
-    const Eigen::Map<const Eigen::Matrix<float, 3, 3, Eigen::RowMajor>> matrix(rotation.data());
-    return vq::anglesFromRotation(matrix.cast<double>()) * vq::kDegreesPerRadian;
+    return vq::anglesFromRotation(vq::matrixOf(rotation)) * vq::kDegreesPerRadian;
 }
 
 class EndingTest : public ApplicationTest {

@@ -173,8 +173,7 @@ TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
     start("openDevice:1:5", [](ApplicationEnvironment& environment) {
         environment.rootDocument = ApplicationEnvironment().rootDocument;
     });
-    MainThreadCalls mainThread;
-    QmlFunctions functions(mainThread);
+    QmlFunctions functions;
     functions.setRoot(manager->window());
     functions.setLeftToRightLanguage(false);
     for (int state = 0; state <= 11; ++state)

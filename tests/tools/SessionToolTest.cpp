@@ -8,8 +8,6 @@
 namespace fieldcal::testing {
 namespace {
 
-constexpr double kDegree = 3.14159265358979 / 180;
-
 TEST_F(SessionToolTest, SolvesARenderedRecordingForBothCameras) {
     for (const QString camera : {"third", "platform"}) {
         const QStringList arguments{"calibrate", recording(), "--camera", camera, "--seed", "3", "--json", "-"};
@@ -30,7 +28,7 @@ TEST_F(SessionToolTest, SolvesARenderedRecordingForBothCameras) {
 /// Rotates the true extrinsics by a degree about the vertical axis.
 void turnTruth(session::SessionDescription* session, const QString&) {
     session::Matrix3& truth = *session->truthThird;
-    const double c = std::cos(kDegree), s = std::sin(kDegree);
+    const double c = std::cos(kRadiansPerDegree), s = std::sin(kRadiansPerDegree);
     for (std::size_t row = 0; row < 9; row += 3) {
         const double x = truth[row], z = truth[row + 2];
         truth[row] = c * x - s * z;
@@ -69,7 +67,7 @@ TEST_F(SessionToolTest, TellsDistancesAndRemembersTheBaselineForTheModule) {
     for (const char* metres : {"1", "2", "5", "20"}) {
         EXPECT_LT(square["registrationPx"].toObject()[metres].toDouble(9), 0.1);
         const double px = mountains["registrationPx"].toObject()[metres].toDouble();
-        EXPECT_NEAR(px / (focalPx * kDegree), 1.05, 0.06) << "a little more towards the sides";
+        EXPECT_NEAR(px / (focalPx * kRadiansPerDegree), 1.05, 0.06) << "a little more towards the sides";
     }
     const QString flat = changed("no-depth", [](session::SessionDescription* session, const QString&) {
         for (session::FrameEntry& frame : session->frames)

@@ -1,3 +1,4 @@
+#include "camera/Rotation.h"
 #include "tests/views/ViewsStory.h"
 
 #include <QQmlProperty>
@@ -14,7 +15,6 @@ namespace {
 constexpr double kWhite = 400;  // cd/m²
 constexpr double kIlluminance = 20000;
 constexpr double kReflectance = 0.045;
-constexpr double kPi = 3.14159265358979323846;
 constexpr double kGlare = kIlluminance * kReflectance / kPi;
 
 // Nothing can exceed 2.4, white on black.

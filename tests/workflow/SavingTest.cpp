@@ -3,6 +3,7 @@
 #include "workflow/ProcessingThread.h"
 #include "workflow/SaveNote.h"
 #include "workflow/Saving.h"
+#include "workflow/Workflow.h"
 
 #include <QDir>
 #include <QFile>
@@ -116,7 +117,7 @@ protected:
         std::atomic<int> rearCameraIssues{0};
     };
     void start() {
-        thread = std::make_unique<ProcessingThread>(workflow);
+        thread = std::make_unique<ProcessingThread>(workflow.loop());
         while (!listener.opened)
             std::this_thread::yield();
     }
@@ -149,7 +150,7 @@ TEST_F(EndingTest, ASilentRearCameraIsToldOnceAndTheRestGoesOn) {
 TEST_F(EndingTest, WhatFailsAfterTheUserWantsToEndIsKeptForTheEnd) {
     std::atomic<int> grabs{0};
     device->onGrab = [&] {
-        if (++grabs == 3) workflow.requestStop(Stop::ToSave);
+        if (++grabs == 3) workflow.loop().requestStop(Stop::ToSave);
     };
     device->failCall("grab", 3, 6);
     start();

@@ -16,7 +16,7 @@ constexpr ColourCamera kFirst = ColourCamera::Third;
 constexpr ColourCamera kSecond = ColourCamera::Platform;
 
 double angleAboutYDeg(const Rotation& rotation) {
-    return vq::anglesFromRotation(matrixOf(rotation))[1] * vq::kDegreesPerRadian;
+    return vq::anglesFromRotation(vq::matrixOf(rotation))[1] * vq::kDegreesPerRadian;
 }
 
 QByteArray read(const QString& path) {
