@@ -155,6 +155,9 @@ TEST_F(EndingTest, AFailedSaveEndsQuietlyAndIsSaidAtTheNextStart) {
     EXPECT_THAT(calls(), Not(Contains(kSaved)));
     EXPECT_THAT(boxes, IsEmpty());
     EXPECT_EQ(manager->exitCode(), 0);
+    QFile history(dataFolder() + "/history.csv");
+    ASSERT_TRUE(history.open(QIODevice::ReadOnly));
+    EXPECT_EQ(history.readAll().count(",not stored: "), 1);
 
     start();
     ASSERT_TRUE(waitUntil([&] { return wasCalled("state|1"); }));

@@ -76,15 +76,6 @@ TEST_F(SessionToolTest, TellsDistancesAndRemembersTheBaselineForTheModule) {
     EXPECT_FALSE(calibrate(flat).contains("registrationPx"));
 }
 
-TEST_F(SessionToolTest, FramesMayLackTheRearCamerasPicture) {
-    const QString gaps = changed(
-        "gaps", [](session::SessionDescription* session, const QString&) { session->frames[0].platform.clear(); });
-    EXPECT_EQ(run({"calibrate", gaps, "--seed", "1"}).status, 0);
-    const Result platform = run({"calibrate", gaps, "--camera", "platform", "--seed", "1", "--json", "-"});
-    EXPECT_EQ(platform.status, 0) << platform.error.constData();
-    EXPECT_LE(platform.json()["errorDeg"].toDouble(1.0), 0.05);
-}
-
 TEST_F(SessionToolTest, PlaysToTheEndWithoutAnAnswerWhenThereIsNone) {
     const QString mismatched = changed("mismatched", [](session::SessionDescription* session, const QString&) {
         const std::string first = session->frames.front().third;

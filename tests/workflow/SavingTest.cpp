@@ -45,7 +45,10 @@ TEST_F(SavingTest, ANoteStandsOnDiskWhileTheOutcomeIsOpen) {
     device->failCall("commitCalibration", 2, 6);
     records.accept(ColourCamera::Third, parameters.colour[ColourCamera::Third].fromDepth.rotation);
     EXPECT_FALSE(storeCalibration(*sensor, records, data.path()).stored);
-    EXPECT_EQ(readSaveNote(data.path(), kSerial)->reason, sensor->writeBack().reason);
+    const std::optional<SaveNote> note = readSaveNote(data.path(), kSerial);
+    ASSERT_TRUE(note);
+    EXPECT_EQ(note->reason, sensor->writeBack().reason);
+    EXPECT_EQ(note->flash, "The camera's flash holds the previous calibration.");
     EXPECT_TRUE(LogCapture::has("Failed to store calibration information to flash."));
 }
 
