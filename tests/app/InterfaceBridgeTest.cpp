@@ -180,6 +180,7 @@ TEST_F(InterfaceBridgeTest, TheInterfaceHasEveryFunctionAndView) {
         std::vector<std::string> signatures;
         const QMetaObject* type = manager->window()->metaObject();
         for (int i = 0; i < type->methodCount(); ++i) {
+            if (type->method(i).methodType() == QMetaMethod::Signal) continue;
             const std::string signature = type->method(i).methodSignature().toStdString();
             const bool isOfTheTest = signature.rfind("add(", 0) == 0 || signature.rfind("note(", 0) == 0;
             if (!isOfTheTest) signatures.push_back(signature);
