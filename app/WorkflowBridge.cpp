@@ -128,19 +128,19 @@ void WorkflowBridge::lastCalibration(const QDateTime& stored) {
 }
 
 void WorkflowBridge::deviceError(const QString& text) {
-    QMetaObject::invokeMethod(&manager_, [this, text] { manager_.slot_getKXAPIErrorAndQuit(text); });
+    QMetaObject::invokeMethod(&manager_, "slot_getKXAPIErrorAndQuit", Q_ARG(QString, text));
 }
 
 void WorkflowBridge::missingModule() {
-    QMetaObject::invokeMethod(&manager_, &GlobalManager::slot_reportMissingQ550Device);
+    QMetaObject::invokeMethod(&manager_, "slot_reportMissingQ550Device");
 }
 
 void WorkflowBridge::missingPlatformCamera() {
-    QMetaObject::invokeMethod(&manager_, &GlobalManager::slot_reportMissingPlatformCamera);
+    QMetaObject::invokeMethod(&manager_, "slot_reportMissingPlatformCamera");
 }
 
 void WorkflowBridge::platformCameraIssue() {
-    QMetaObject::invokeMethod(&manager_, &GlobalManager::slot_reportPlatformCameraIssue);
+    QMetaObject::invokeMethod(&manager_, "slot_reportPlatformCameraIssue");
 }
 
 void WorkflowBridge::movementText(const std::string& text, bool holdStill) {
