@@ -2,6 +2,7 @@
 
 #include "workflow/State.h"
 
+#include <QByteArray>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -15,6 +16,7 @@ namespace fieldcal {
 /// Any thread may call: there, a call is executed at once; from another thread it is queued without waiting, in one
 /// order with the signals of that thread.
 class QmlFunctions : public QObject {
+    Q_OBJECT
 public:
     /// To be called before any other function; main thread.
     void setRoot(QObject* root) { root_ = root; }
@@ -57,7 +59,7 @@ public:
 
 private:
     void call(const char* function, const QVariantList& arguments = {});
-    void callNow(const char* function, const QVariantList& arguments) const;
+    Q_INVOKABLE void callNow(const QByteArray& function, const QVariantList& arguments) const;
 
     QPointer<QObject> root_;
 };
