@@ -49,11 +49,12 @@ GlobalManager::GlobalManager(int& argc, char** argv, ApplicationEnvironment envi
     connectSignals();
     views_.switchIntroductionOn();
     updates_.start(this);
-    ending_.setUp(window_, std::make_unique<ProcessingThread>(workflow_));
+    ending_.setUp(window_, std::make_unique<ProcessingThread>(workflow_.loop()));
 }
 
 GlobalManager::~GlobalManager() {
     ending_.closeCamera();
+    QCoreApplication::removePostedEvents(this);
 }
 
 void GlobalManager::loadUILanguage() {

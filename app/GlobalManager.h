@@ -28,7 +28,8 @@ class GlobalManager : public QApplication {
     Q_OBJECT
 public:
     GlobalManager(int& argc, char** argv, ApplicationEnvironment environment = systemApplicationEnvironment());
-    /// Stops the processing thread and closes the camera, whatever has ended the event loop.
+    /// Stops the processing thread and closes the camera, whatever has ended the event loop. What that thread has left
+    /// in the queue of the main thread is discarded.
     ~GlobalManager() override;
 
     /// The exit code of the process: 0, or 1 after a message about an error.
@@ -83,10 +84,9 @@ private:
     const ApplicationEnvironment environment_;
     QTranslator translator_;
     bool leftToRight_ = true;
-    MainThreadCalls mainThread_;
-    QmlFunctions functions_{mainThread_};
+    QmlFunctions functions_;
     ImageViews views_;
-    WorkflowBridge bridge_{*this, mainThread_, functions_, views_};
+    WorkflowBridge bridge_{*this, functions_, views_};
     Workflow workflow_;
     UpdateBridge updateBridge_{*this, functions_};
     SoftwareUpdate updates_;

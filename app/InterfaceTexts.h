@@ -1,12 +1,16 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QtGlobal>
 
 namespace fieldcal {
 
 /// Returns a text of the interface in the user's language, or unchanged where there is no translation. Any thread.
-QString interfaceText(const char* english);
+inline QString interfaceText(const char* english) {
+    // Translating an empty text would return the header of the translation file.
+    return *english == '\0' ? QString() : QCoreApplication::translate("Interface", english);
+}
 
 /// Texts of the application; the workflow has its own.
 namespace texts {

@@ -65,7 +65,8 @@ void ProgramEnding::showSaved() {
     quitSoon_.start(parts_.environment.savedShownFor);
 }
 
-/// Otherwise nothing has happened yet: the user is told, and may try again.
+/// Returns whether the supply lasts for a save. If not, nothing has been done: the user is asked to connect the charger
+/// and may try again.
 bool ProgramEnding::hasPowerToSave() {
     if (sufficesToWrite(parts_.environment.power())) return true;
     qWarning("No save begins: the battery holds less than %d %% and is not being charged.", kMinBatteryPercent);

@@ -151,16 +151,16 @@ void QmlFunctions::showUpdateFailed(const QString& text, bool mayTryAgain) {
 
 // The root belongs to the main thread and must not be accessed from another one.
 void QmlFunctions::call(const char* function, const QVariantList& arguments) {
-    mainThread_.call([this, function, arguments] { callNow(function, arguments); });
+    QMetaObject::invokeMethod(this, "callNow", Q_ARG(QByteArray, function), Q_ARG(QVariantList, arguments));
 }
 
-void QmlFunctions::callNow(const char* function, const QVariantList& arguments) const {
+void QmlFunctions::callNow(const QByteArray& function, const QVariantList& arguments) const {
     if (root_ == nullptr) return;
     const auto argument = [&](int i) {
         return i < arguments.size() ? Q_ARG(QVariant, arguments[i]) : QGenericArgument();
     };
-    if (!QMetaObject::invokeMethod(root_, function, Qt::DirectConnection, argument(0), argument(1))) {
-        qCritical("The interface has no function %s for %d arguments.", function, arguments.size());
+    if (!QMetaObject::invokeMethod(root_, function.constData(), Qt::DirectConnection, argument(0), argument(1))) {
+        qCritical("The interface has no function %s for %d arguments.", function.constData(), arguments.size());
     }
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/MainThreadCalls.h"
 #include "workflow/State.h"
 
+#include <QByteArray>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -12,12 +12,12 @@
 
 namespace fieldcal {
 
-/// The functions of the interface's root document, described in `docs/interface-map.md`. Any thread: calls from other
-/// threads than the main one are queued.
-class QmlFunctions {
+/// The functions of the interface's root document, described in `docs/interface-map.md`. It lives on the main thread.
+/// Any thread may call: there, a call is executed at once; from another thread it is queued without waiting, in one
+/// order with the signals of that thread.
+class QmlFunctions : public QObject {
+    Q_OBJECT
 public:
-    explicit QmlFunctions(MainThreadCalls& mainThread) : mainThread_(mainThread) {}
-
     /// To be called before any other function; main thread.
     void setRoot(QObject* root) { root_ = root; }
 
@@ -61,9 +61,8 @@ public:
 
 private:
     void call(const char* function, const QVariantList& arguments = {});
-    void callNow(const char* function, const QVariantList& arguments) const;
+    Q_INVOKABLE void callNow(const QByteArray& function, const QVariantList& arguments) const;
 
-    MainThreadCalls& mainThread_;
     QPointer<QObject> root_;
 };
 

@@ -65,10 +65,6 @@ QVariantMap qualityMap(const FoundTurn& turn) {
 
 }  // namespace
 
-WorkflowBridge::WorkflowBridge(GlobalManager& manager, MainThreadCalls& mainThread, QmlFunctions& functions,
-                               ImageViews& views)
-    : manager_(manager), mainThread_(mainThread), functions_(functions), views_(views) {}
-
 void WorkflowBridge::requestRender() {
     if (pacer_.request()) emit manager_.signal_tellAppToRenderImages();
 }
@@ -132,19 +128,19 @@ void WorkflowBridge::lastCalibration(const QDateTime& stored) {
 }
 
 void WorkflowBridge::deviceError(const QString& text) {
-    mainThread_.call([this, text] { manager_.slot_getKXAPIErrorAndQuit(text); });
+    QMetaObject::invokeMethod(&manager_, "slot_getKXAPIErrorAndQuit", Q_ARG(QString, text));
 }
 
 void WorkflowBridge::missingModule() {
-    mainThread_.call([this] { manager_.slot_reportMissingQ550Device(); });
+    QMetaObject::invokeMethod(&manager_, "slot_reportMissingQ550Device");
 }
 
 void WorkflowBridge::missingPlatformCamera() {
-    mainThread_.call([this] { manager_.slot_reportMissingPlatformCamera(); });
+    QMetaObject::invokeMethod(&manager_, "slot_reportMissingPlatformCamera");
 }
 
 void WorkflowBridge::platformCameraIssue() {
-    mainThread_.call([this] { manager_.slot_reportPlatformCameraIssue(); });
+    QMetaObject::invokeMethod(&manager_, "slot_reportPlatformCameraIssue");
 }
 
 void WorkflowBridge::movementText(const std::string& text, bool holdStill) {

@@ -10,14 +10,14 @@ namespace fieldcal {
 
 class GlobalManager;
 class ImageViews;
-class MainThreadCalls;
 class QmlFunctions;
 
 /// Forwards the output of the workflow from the processing thread to the main thread: as the manager's queued signals,
 /// as queued calls, and as images for the views. It waits for the main thread only in `refining`.
 class WorkflowBridge : public WorkflowListener {
 public:
-    WorkflowBridge(GlobalManager& manager, MainThreadCalls& mainThread, QmlFunctions& functions, ImageViews& views);
+    WorkflowBridge(GlobalManager& manager, QmlFunctions& functions, ImageViews& views)
+        : manager_(manager), functions_(functions), views_(views) {}
 
     // Called on the main thread.
     void renderRequestArrived() { pacer_.arrived(); }
@@ -57,7 +57,6 @@ private:
     void requestRender();
 
     GlobalManager& manager_;
-    MainThreadCalls& mainThread_;
     QmlFunctions& functions_;
     ImageViews& views_;
     RenderPacer pacer_;

@@ -3,11 +3,9 @@
 #include "devices/ColourConversion.h"
 #include "devices/InfraredGeometry.h"
 #include "diagnostics/Assertions.h"
+#include "engine/Rotation.h"
 #include "simulator/kxapi/Calibration.h"
 
-#include <Eigen/Geometry>
-
-#include <cmath>
 #include <cstdlib>
 #include <sstream>
 
@@ -23,10 +21,6 @@ vq::ImagePairRecord scaledColour(const session::FrameImages& images, const Camer
 }
 
 }  // namespace
-
-Eigen::Matrix3d matrixOf(const session::Matrix3& rows) {
-    return Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(rows.data());
-}
 
 CameraParameters parametersOf(const session::SessionDescription& session) {
     CameraParameters parameters;
@@ -53,8 +47,8 @@ BenchmarkData camerasOf(const session::SessionDescription& session) {
     data.parameters = parametersOf(session);
     data.cameras = {data.parameters.infrared, data.parameters.colour[ColourCamera::Third].model,
                     data.parameters.colour[ColourCamera::Third].scaling};
-    data.factory = matrixOf(session.third.rotation);
-    data.truth = session.truthThird ? matrixOf(*session.truthThird) : data.factory;
+    data.factory = vq::matrixOf(session.third.rotation);
+    data.truth = session.truthThird ? vq::matrixOf(*session.truthThird) : data.factory;
     return data;
 }
 
@@ -93,12 +87,6 @@ std::vector<std::string> recordingFolders() {
     for (std::string folder; std::getline(list, folder, ':');)
         folders.push_back(folder);
     return folders;
-}
-
-double differenceDeg(const Eigen::Matrix3d& a, const Eigen::Matrix3d& b) {
-    // The quaternion preserves small angles, which the arc cosine of the trace would lose.
-    const Eigen::Quaterniond q(a * b.transpose());
-    return 2.0 * std::atan2(q.vec().norm(), std::abs(q.w())) * 57.29577951308232;
 }
 
 }  // namespace fieldcal

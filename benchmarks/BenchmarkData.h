@@ -24,8 +24,6 @@ struct BenchmarkData {
     std::vector<vq::ImagePairRecord> colour;
 };
 
-Eigen::Matrix3d matrixOf(const session::Matrix3& rows);
-
 /// Returns the calibration of all cameras of a session, as the program reads it from the module.
 CameraParameters parametersOf(const session::SessionDescription& session);
 
@@ -42,8 +40,5 @@ BenchmarkData loadRecording(const std::string& folder);
 /// Returns the recordings named by FIELDCAL_RECORDINGS (folders separated by colons), otherwise those beside the
 /// project.
 std::vector<std::string> recordingFolders();
-
-/// Returns the angle between two rotations in degrees.
-double differenceDeg(const Eigen::Matrix3d& a, const Eigen::Matrix3d& b);
 
 }  // namespace fieldcal

@@ -6,6 +6,7 @@
 #include "benchmarks/StillAttempt.h"
 #include "diagnostics/Assertions.h"
 #include "diagnostics/Logger.h"
+#include "engine/Rotation.h"
 
 #include <QtGlobal>
 
@@ -74,7 +75,7 @@ Answer calibratePeer(const JudgedCamera& camera, const Stills& stills) {
     const auto rotation = calibrateWithSift(stills, camera);
     answer.msPerPair = watch.lap() * 1e3 / answer.pairs;
     answer.found = rotation.has_value();
-    if (rotation) answer.errorDeg = differenceDeg(*rotation, camera.truth);
+    if (rotation) answer.errorDeg = vq::angleBetweenDeg(*rotation, camera.truth);
     return answer;
 }
 

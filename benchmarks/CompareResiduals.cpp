@@ -83,10 +83,10 @@ void tryRound(const BenchmarkData& data, const Lists& round, const std::vector<v
     form->tally.share.push_back(static_cast<double>(inliers) / static_cast<double>(distancesPx.size()));
     form->tally.rivalShare.push_back(static_cast<double>(consensus.rivalInlierCount) /
                                      std::max(1, consensus.inlierCount));
-    form->tally.consensusDeg.push_back(differenceDeg(vq::rotationFromAngles(consensus.anglesRad), data.truth));
+    form->tally.consensusDeg.push_back(vq::angleBetweenDeg(vq::rotationFromAngles(consensus.anglesRad), data.truth));
     Eigen::Vector3d refinedRad;
     if (vq::fitRotationLM(cost, initialRad, &refinedRad)) {
-        form->tally.refinedDeg.push_back(differenceDeg(vq::rotationFromAngles(refinedRad), data.truth));
+        form->tally.refinedDeg.push_back(vq::angleBetweenDeg(vq::rotationFromAngles(refinedRad), data.truth));
     }
 }
 

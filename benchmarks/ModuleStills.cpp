@@ -4,6 +4,7 @@
 #include "devices/ColourConversion.h"
 #include "devices/Sensor.h"
 #include "diagnostics/Assertions.h"
+#include "engine/Rotation.h"
 #include "simulator/kxapi/Calibration.h"
 #include "simulator/kxapi/Rectification.h"
 
@@ -27,7 +28,7 @@ std::vector<JudgedCamera> judgedCameras(const session::SessionDescription& sessi
     const auto judge = [&](ColourCamera camera, const session::Matrix3& factory, const session::Matrix3& truth) {
         const ColourCameraParameters& colour = parameters.colour[camera];
         judged.push_back(
-            {camera, {parameters.infrared, colour.model, colour.scaling}, matrixOf(factory), matrixOf(truth)});
+            {camera, {parameters.infrared, colour.model, colour.scaling}, vq::matrixOf(factory), vq::matrixOf(truth)});
     };
     if (session.truthThird) judge(ColourCamera::Third, session.third.rotation, *session.truthThird);
     if (session.platform && session.truthPlatform)

@@ -1,5 +1,7 @@
 #include "benchmarks/StillAttempt.h"
 
+#include "engine/Rotation.h"
+
 namespace fieldcal {
 namespace {
 
@@ -34,13 +36,13 @@ StillAttempt::Outcome StillAttempt::show(const FrameRecords& still) {
 }
 
 Eigen::Matrix3d StillAttempt::rotation() {
-    Eigen::Matrix<float, 3, 3, Eigen::RowMajor> rotation;
+    Rotation rotation{};
     engine_.getRotationMatrix(rotation.data());
-    return rotation.cast<double>();
+    return vq::matrixOf(rotation);
 }
 
 double StillAttempt::errorDeg() {
-    return differenceDeg(rotation(), camera_.truth);
+    return vq::angleBetweenDeg(rotation(), camera_.truth);
 }
 
 }  // namespace fieldcal

@@ -143,8 +143,8 @@ Trial tryCamera(const JudgedCamera& camera, unsigned seed, double misalignmentPx
                                     Eigen::Map<const Eigen::Vector3f>(extrinsics.translation.data()).cast<double>()};
     const Eigen::Matrix3d wanted = registeringRotation(projection, camera.truth, misalignmentPx);
     const Eigen::AngleAxisd turn(attempt.rotation() * wanted.transpose());
-    trial.turnDeg = turn.axis() * turn.angle() * 180 / CV_PI;
-    trial.errorDeg = turn.angle() * 180 / CV_PI;
+    trial.turnDeg = turn.axis() * turn.angle() * kDegreesPerRadian;
+    trial.errorDeg = turn.angle() * kDegreesPerRadian;
     for (std::size_t i = 0; i < kDistancesM.size(); ++i) {
         const double inverseDepth = 1.0 / kDistancesM[i];
         trial.registrationPx[i] = vq::registrationErrorPx(

@@ -6,6 +6,7 @@ namespace fieldcal {
 
 constexpr double kPi = 3.14159265358979323846;
 constexpr double kDegreesPerRadian = 180 / kPi;
+constexpr double kRadiansPerDegree = kPi / 180;
 
 using Matrix3 = std::array<double, 9>;  ///< row-major
 using Rotation = std::array<float, 9>;  ///< a rotation as the records keep it, row-major

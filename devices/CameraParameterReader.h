@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 
 namespace fieldcal {
 
@@ -25,5 +26,11 @@ std::optional<ModuleCalibration> readCalibration(ModuleLink& link, KXThirdCamera
 /// none. Calls `forceSingleCameraCalibration` when there is no usable rear camera.
 bool readCameraParameters(Sensor& sensor, CameraParameters* out,
                           const std::function<void()>& forceSingleCameraCalibration);
+
+// Texts of the log.
+/// "fxfy = [.. ..] cxcy=[.. ..] k1k2k3=[.. .. ..] p1p2=[.. ..]"; rectified models have no distortion.
+std::string textOf(const CameraModel& model);
+/// "R [.. .. ..] T [.. .. ..]": the three angles in degrees, then the translation in metres.
+std::string textOf(const CameraExtrinsics& extrinsics);
 
 }  // namespace fieldcal

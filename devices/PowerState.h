@@ -15,7 +15,9 @@ struct PowerState {
 constexpr int kMinBatteryPercent = 15;
 
 /// Returns whether the supply is expected to last for a write into the flash. Without knowledge of it, it is.
-bool sufficesToWrite(const std::optional<PowerState>& power);
+inline bool sufficesToWrite(const std::optional<PowerState>& power) {
+    return !power || power->mains || power->batteryPercent >= kMinBatteryPercent;
+}
 
 /// Returns this system's supply; none without a battery, or when the system does not report its state. Any thread.
 std::optional<PowerState> systemPower();

@@ -12,7 +12,6 @@ using fieldcal::logMessage;
 
 constexpr float kMinimumFeatures = 30.0F;
 constexpr int kPatientAttempts = 6;
-constexpr float kRadiansPerDegree = 0.017453292F;
 
 }  // namespace
 
@@ -124,7 +123,8 @@ float* CalibratorInterface::getRotationMatrix(float out[9]) {
     {
         const std::lock_guard guard(context_.lock);
         const auto valuesDeg = context_.state->values();
-        anglesRad = (Eigen::Vector3f(valuesDeg[0], valuesDeg[1], valuesDeg[2]) * kRadiansPerDegree).cast<double>();
+        constexpr auto radiansPerDegree = static_cast<float>(fieldcal::kRadiansPerDegree);
+        anglesRad = (Eigen::Vector3f(valuesDeg[0], valuesDeg[1], valuesDeg[2]) * radiansPerDegree).cast<double>();
     }
     Eigen::Map<Eigen::Matrix<float, 3, 3, Eigen::RowMajor>> matrix(out);
     matrix = rotationFromAngles(anglesRad).cast<float>();

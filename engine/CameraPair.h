@@ -23,6 +23,10 @@ struct CameraPair {
 };
 
 /// K = [fx 0 cx; 0 fy cy; 0 0 1].
-Eigen::Matrix3d cameraMatrix(const fieldcal::CameraModel& model);
+inline Eigen::Matrix3d cameraMatrix(const fieldcal::CameraModel& model) {
+    Eigen::Matrix3d matrix;
+    matrix << model.fx, 0, model.cx, 0, model.fy, model.cy, 0, 0, 1;
+    return matrix;
+}
 
 }  // namespace vq

@@ -1,5 +1,7 @@
 #include "render/DepthColourMap.h"
 
+#include "camera/Rotation.h"
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -8,8 +10,6 @@ namespace fieldcal {
 namespace {
 
 using Rgba = std::array<std::uint8_t, 4>;
-
-constexpr double kDegree = 3.14159265358979323846 / 180;
 
 /// Lightness, chroma and hue in a perceptually uniform colour space (Björn Ottosson's Oklab, 2020).
 struct PerceivedColour {
@@ -28,8 +28,8 @@ std::uint8_t displayValue(double linear) {
 }
 
 Rgba toRgba(const PerceivedColour& colour) {
-    const double a = colour.chroma * std::cos(colour.hueDeg * kDegree);
-    const double b = colour.chroma * std::sin(colour.hueDeg * kDegree);
+    const double a = colour.chroma * std::cos(colour.hueDeg * kRadiansPerDegree);
+    const double b = colour.chroma * std::sin(colour.hueDeg * kRadiansPerDegree);
     const double l = std::pow(colour.lightness + 0.3963377774 * a + 0.2158037573 * b, 3);
     const double m = std::pow(colour.lightness - 0.1055613458 * a - 0.0638541728 * b, 3);
     const double s = std::pow(colour.lightness - 0.0894841775 * a - 1.2914855480 * b, 3);

@@ -17,7 +17,10 @@ struct OverlayCalibration {
     std::array<float, 9> estimated = kNoRotation;  ///< the estimated rotation; row-major
 };
 
-OverlayCalibration overlayCalibration(const CameraParameters& parameters, ColourCamera camera,
-                                      const std::array<float, 9>& estimated);
+inline OverlayCalibration overlayCalibration(const CameraParameters& parameters, ColourCamera camera,
+                                             const std::array<float, 9>& estimated) {
+    const ColourCameraParameters& colour = parameters.colour[camera];
+    return {parameters.depth, colour.model, colour.scaling, colour.fromDepth, estimated};
+}
 
 }  // namespace fieldcal

@@ -1,5 +1,6 @@
 #include "tools/ExportFormats.h"
 
+#include "camera/Rotation.h"
 #include "tools/ExportedCameras.h"
 
 #include <QStringList>
@@ -10,7 +11,6 @@ namespace fieldcal {
 namespace {
 
 constexpr int kDecimals = 12;
-constexpr double kRadiansPerDegree = 0.017453292519943295;
 constexpr const char* kInfraredFrame = "infrared_optical";
 
 /// Fixed notation with a decimal point, because some YAML readers take 1e-05 for a string and 0 for an integer.

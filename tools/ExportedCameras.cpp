@@ -1,5 +1,7 @@
 #include "tools/ExportedCameras.h"
 
+#include "engine/Rotation.h"
+
 #include <Eigen/Dense>
 #include <Eigen/Geometry>
 
@@ -10,10 +12,6 @@ namespace {
 
 constexpr int kColumns = 33;  // grid of the points at which raw models are compared
 constexpr int kRows = 19;
-
-Eigen::Matrix3d eigen(const session::Matrix3& matrix) {
-    return Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(matrix.data());
-}
 
 /// Moves the principal point of a colour camera from the position required after scaling to its position in the image
 /// itself.
@@ -57,7 +55,7 @@ session::Intrinsics inScalingPixels(session::Intrinsics colour, const session::I
 UnrectifiedCamera movedPrincipalPoint(const UnrectifiedCamera& camera, const session::Intrinsics& from,
                                       const session::Intrinsics& to) {
     const session::RawIntrinsics& raw = camera.intrinsics;
-    const Eigen::Matrix3d toRaw = eigen(camera.rectification).transpose();
+    const Eigen::Matrix3d toRaw = vq::matrixOf(camera.rectification).transpose();
     const Eigen::Vector2d focal(raw.fx, raw.fy);
     const Eigen::Vector2d tangential(raw.p1, raw.p2);
     Eigen::Matrix4d normal = Eigen::Matrix4d::Zero();
@@ -92,7 +90,7 @@ ExportedCameras exportedCameras(const CameraPair& pair) {
 ColourPose colourPose(const CameraPair& pair) {
     // The rotation that was read may be rounded. With the nearest exact rotation, the exported angles and the
     // quaternion agree.
-    const Eigen::Quaterniond rotation = Eigen::Quaterniond(eigen(pair.rotation)).normalized().conjugate();
+    const Eigen::Quaterniond rotation = Eigen::Quaterniond(vq::matrixOf(pair.rotation)).normalized().conjugate();
     const Eigen::Matrix3d r = rotation.toRotationMatrix();
     ColourPose pose;
     pose.translationM = -(rotation * Eigen::Map<const Eigen::Vector3d>(pair.translationM.data()));

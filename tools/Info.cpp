@@ -28,9 +28,7 @@ double shown(double angleDeg) {
 }
 
 void printAngles(const Matrix3& rotation) {
-    const Eigen::Vector3d anglesDeg =
-        vq::anglesFromRotation(Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(rotation.data())) *
-        vq::kDegreesPerRadian;
+    const Eigen::Vector3d anglesDeg = vq::anglesFromRotation(vq::matrixOf(rotation)) * kDegreesPerRadian;
     std::printf("%-12s from depth: %.4f %.4f %.4f degrees about X, Y, Z\n", "", shown(anglesDeg[0]),
                 shown(anglesDeg[1]), shown(anglesDeg[2]));
 }

@@ -15,10 +15,6 @@ namespace {
 
 constexpr int kRegistrationDistancesM[] = {1, 2, 5, 20};
 
-Eigen::Matrix3d eigen(const Matrix3& matrix) {
-    return Eigen::Map<const Eigen::Matrix<double, 3, 3, Eigen::RowMajor>>(matrix.data());
-}
-
 }  // namespace
 
 RecordingCalibration::RecordingCalibration(std::string folder, session::SessionDescription session, ColourCamera camera,
@@ -109,7 +105,7 @@ void RecordingCalibration::finish(bool solved) {
             report_.registrationPx = registrationErrors(*truth);
         }
     }
-    const Eigen::Vector3d anglesRad = vq::anglesFromRotation(eigen(report_.rotation));
+    const Eigen::Vector3d anglesRad = vq::anglesFromRotation(vq::matrixOf(report_.rotation));
     for (std::size_t axis = 0; axis < 3; ++axis) {
         report_.anglesDeg[axis] = anglesRad[static_cast<Eigen::Index>(axis)] * vq::kDegreesPerRadian;
     }
@@ -125,8 +121,8 @@ std::map<int, double> RecordingCalibration::registrationErrors(const Matrix3& tr
         cameras, Eigen::Map<const Eigen::Vector3f>(colour.fromDepth.translation.data()).cast<double>()};
     std::map<int, double> errorsPx;
     for (const int metres : kRegistrationDistancesM) {
-        errorsPx[metres] =
-            vq::registrationErrorPx(projection, eigen(report_.rotation), eigen(truth), 1.0 / metres, 1.0 / metres);
+        errorsPx[metres] = vq::registrationErrorPx(projection, vq::matrixOf(report_.rotation), vq::matrixOf(truth),
+                                                   1.0 / metres, 1.0 / metres);
     }
     return errorsPx;
 }
@@ -167,8 +163,8 @@ ServiceReport RecordingCalibration::serviceReport() const {
     report.source = QDir::cleanPath(QString::fromStdString(folder_));
     ReportedCamera camera;
     camera.camera = camera_;
-    camera.stored = eigen(report_.factoryRotation);
-    camera.found = camera.accepted = eigen(report_.rotation);
+    camera.stored = vq::matrixOf(report_.factoryRotation);
+    camera.found = camera.accepted = vq::matrixOf(report_.rotation);
     camera.quality = report_.quality;
     camera.evidence = evidence_;
     camera.parallax = report_.parallax;
@@ -180,7 +176,7 @@ ServiceReport RecordingCalibration::serviceReport() const {
 
 vq::CalibrationState RecordingCalibration::engineState() const {
     vq::Pose pose = context_.defaultExtrinsics;
-    pose.topLeftCorner<3, 3>() = eigen(report_.rotation).cast<float>();
+    pose.topLeftCorner<3, 3>() = vq::matrixOf(report_.rotation).cast<float>();
     return vq::calibrationState(context_.infraredModel, parameters_.colour[ColourCamera::Third].model,
                                 context_.colourModel, pose, camera_ == ColourCamera::Platform ? 1 : 0);
 }

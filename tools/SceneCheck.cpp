@@ -155,16 +155,6 @@ CheckLine baselineLine(const std::vector<vq::SelectedImages>& stills, const Came
     return line;
 }
 
-Eigen::Matrix3d rotationOf(const CameraExtrinsics& extrinsics) {
-    return Eigen::Map<const Eigen::Matrix<float, 3, 3, Eigen::RowMajor>>(extrinsics.rotation.data()).cast<double>();
-}
-
-double angleDeg(const Eigen::Matrix3d& a, const Eigen::Matrix3d& b) {
-    const Eigen::Matrix3d turn = a * b.transpose();
-    const Eigen::Vector3d axis(turn(2, 1) - turn(1, 2), turn(0, 2) - turn(2, 0), turn(1, 0) - turn(0, 1));
-    return std::atan2(axis.norm(), turn.trace() - 1) * kDegreesPerRadian;
-}
-
 /// Returns whether an estimate agrees with `value` and significantly differs from `-value`.
 bool isAbout(double estimate, double deviation, double value) {
     const double otherDeviations = std::abs(estimate + value) / deviation;
@@ -286,10 +276,10 @@ private:
     CheckLine rotationLine(Direction* direction) {
         *direction = Direction::Unknown;
         if (!solution_ || !solution_->quality) return line("rotation", Verdict::CannotTell, kNoRotation);
-        const Eigen::Matrix3d reported = rotationOf(pose(parameters_));
-        const double asReported = angleDeg(solution_->rotation, reported);
-        const double transposed = angleDeg(solution_->rotation, reported.transpose());
-        const double between = angleDeg(reported, reported.transpose());
+        const Eigen::Matrix3d reported = vq::matrixOf(pose(parameters_).rotation);
+        const double asReported = vq::angleBetweenDeg(solution_->rotation, reported);
+        const double transposed = vq::angleBetweenDeg(solution_->rotation, reported.transpose());
+        const double between = vq::angleBetweenDeg(reported, reported.transpose());
         const auto& deviation = solution_->quality->deviationDeg;
         const double deviationDeg =
             std::sqrt(deviation[0] * deviation[0] + deviation[1] * deviation[1] + deviation[2] * deviation[2]);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 namespace fieldcal {
@@ -15,7 +16,12 @@ public:
     };
 
     /// Sets or clears the lit flag. A brightness equal to the threshold counts as dark.
-    Reading detect(std::uint16_t brightness);
+    Reading detect(std::uint16_t brightness) {
+        const double limit = threshold();
+        wellLit_ = brightness > limit;
+        if (wellLit_) return {true, 1.0};
+        return {false, std::clamp((brightness - 8.0) / limit, 0.0, 1.0)};
+    }
     /// The test used during capture: a brightness equal to the threshold counts as lit, and the flag is unchanged.
     bool isLitForCapture(std::uint16_t brightness) const { return brightness >= threshold(); }
 

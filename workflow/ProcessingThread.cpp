@@ -11,26 +11,26 @@ constexpr std::chrono::milliseconds kPause{5};
 
 }  // namespace
 
-ProcessingThread::ProcessingThread(Workflow& workflow)
-    : workflow_(workflow), thread_(run, std::ref(workflow), QThread::currentThread()) {}
+ProcessingThread::ProcessingThread(CalibrationLoop& loop)
+    : loop_(loop), thread_(run, std::ref(loop), QThread::currentThread()) {}
 
 ProcessingThread::~ProcessingThread() {
     stop(Stop::ToLeave);
 }
 
 void ProcessingThread::stop(Stop stop) {
-    workflow_.requestStop(stop);
+    loop_.requestStop(stop);
     if (thread_.joinable()) thread_.join();
 }
 
-void ProcessingThread::run(Workflow& workflow, QThread* finalThread) {
+void ProcessingThread::run(CalibrationLoop& loop, QThread* finalThread) {
     // On some systems each thread has its own state of the C library's random number generator, so it is seeded on the
     // thread that draws.
     std::srand(std::random_device{}());
-    while (!workflow.stopRequested()) {
-        if (!workflow.pass()) std::this_thread::sleep_for(kPause);
+    while (!loop.stopRequested()) {
+        if (!loop.pass()) std::this_thread::sleep_for(kPause);
     }
-    workflow.handOver(finalThread);
+    loop.handOver(finalThread);
 }
 
 }  // namespace fieldcal

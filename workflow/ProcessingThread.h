@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workflow/Workflow.h"
+#include "workflow/CalibrationLoop.h"
 
 #include <QThread>
 
@@ -8,12 +8,12 @@
 
 namespace fieldcal {
 
-/// Runs a workflow's loop on its own thread. When the loop ends, the sensor is moved to the thread that created this
+/// Runs a calibration loop on its own thread. When the loop ends, the sensor is moved to the thread that created this
 /// object.
 class ProcessingThread {
 public:
-    /// Starts the thread. `workflow` must outlive this object.
-    explicit ProcessingThread(Workflow& workflow);
+    /// Starts the thread. `loop` must outlive this object.
+    explicit ProcessingThread(CalibrationLoop& loop);
     /// Stops the thread.
     ~ProcessingThread();
     ProcessingThread(const ProcessingThread&) = delete;
@@ -24,9 +24,9 @@ public:
     void stop(Stop stop);
 
 private:
-    static void run(Workflow& workflow, QThread* finalThread);
+    static void run(CalibrationLoop& loop, QThread* finalThread);
 
-    Workflow& workflow_;
+    CalibrationLoop& loop_;
     std::thread thread_;
 };
 

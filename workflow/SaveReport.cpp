@@ -1,5 +1,6 @@
 #include "workflow/SaveReport.h"
 
+#include "engine/Rotation.h"
 #include "engine/SensorCalibrator.h"
 #include "report/ReportFile.h"
 
@@ -8,10 +9,6 @@
 
 namespace fieldcal {
 namespace {
-
-Eigen::Matrix3d matrixOf(const Rotation& rotation) {
-    return Eigen::Map<const Eigen::Matrix<float, 3, 3, Eigen::RowMajor>>(rotation.data()).cast<double>();
-}
 
 QString firmwareOf(Sensor& sensor) {
     const auto text = std::make_shared<std::string>();
@@ -33,8 +30,8 @@ void SaveReport::note(ColourCamera camera, const CameraParameters& stored, const
     if (firmware_.isEmpty()) firmware_ = firmwareOf(sensor);
     ReportedCamera noted;
     noted.camera = camera;
-    noted.stored = matrixOf(stored.colour[camera].fromDepth.rotation);
-    noted.found = noted.accepted = matrixOf(found);
+    noted.stored = vq::matrixOf(stored.colour[camera].fromDepth.rotation);
+    noted.found = noted.accepted = vq::matrixOf(found);
     noted.quality = engine.quality();
     noted.evidence = engine.evidence();
     noted.parallax = engine.parallax();
@@ -56,7 +53,7 @@ void SaveReport::keep(const QString& dataFolder, const Sensor& sensor, const Cal
         const auto& noted = cameras_[camera];
         if (!accepted || !noted) continue;
         report.cameras.push_back(*noted);
-        report.cameras.back().accepted = matrixOf(*accepted);
+        report.cameras.back().accepted = vq::matrixOf(*accepted);
     }
     keepReport(dataFolder, report);
 }

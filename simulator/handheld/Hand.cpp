@@ -66,10 +66,10 @@ world::Pose poseBetween(const world::Pose& from, const world::Pose& to, double w
 
 cv::Matx33d tremor(std::uint64_t seed, int rest, double frame) {
     synthesis::Random random(seed + static_cast<std::uint64_t>(rest), "tremor");
-    const double turn = 6.283185307179586 / kTremorFrames * frame;
+    const double turn = 2 * kPi / kTremorFrames * frame;
     std::array<double, 3> anglesDeg{};
     for (double& angle : anglesDeg)
-        angle = kTremorDeg * random.uniform(0.3, 1) * std::sin(turn + random.uniform(0, 6.283185307179586));
+        angle = kTremorDeg * random.uniform(0.3, 1) * std::sin(turn + random.uniform(0, 2 * kPi));
     return rotationFromAngles(anglesDeg);
 }
 

@@ -9,16 +9,16 @@
 
 namespace kxsim {
 
-/// What a module tells whose library follows other conventions than `KXAPI.h`, where a condition asks for them.
+/// Converts a record to the convention that a condition among the faults names, instead of that of `KXAPI.h`.
 KXCalibIntrinsicsRectified inConvention(KXCalibIntrinsicsRectified colour, const Faults& faults);
 KXCalibIntrinsicsNonRectified inConvention(KXCalibIntrinsicsNonRectified raw, const Faults& faults);
 KXCalibExtrinsics inConvention(KXCalibExtrinsics pose, const Faults& faults);
 
-/// A copy of a picture as such a library delivers it.
+/// A copy of an image as a library with such a convention delivers it.
 class AlteredImage {
 public:
-    /// The pixels to be delivered: the picture's own unless a condition asks for something else. Null for no picture.
-    /// Valid until the next call, and as long as the picture.
+    /// Returns the pixels to be delivered: the image's own, unless a condition names another convention. Null when
+    /// there is no image. Valid until the next call, and as long as the image.
     const std::uint8_t* withPaddedRows(const fieldcal::ImageFrame* image, const Faults& faults);
     const std::uint16_t* withLowerRows(const fieldcal::ImageFrame16* image, const Faults& faults);
     const std::uint8_t* displaced(const fieldcal::ImageFrame32* image, const Faults& faults);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "camera/Rotation.h"
+
 #include <cmath>
 #include <cstdint>
 #include <string_view>
@@ -34,7 +36,7 @@ public:
     /// Mean 0, standard deviation 1.
     double normal() {
         const double radius = std::sqrt(-2.0 * std::log(1.0 - uniform()));
-        return radius * std::cos(6.283185307179586 * uniform());
+        return radius * std::cos(2 * kPi * uniform());
     }
 
 private:

@@ -9,8 +9,6 @@
 
 namespace fieldcal::synthesis {
 
-inline constexpr double kRadiansPerDegree = kPi / 180;
-
 /// Rz(a2) · Ry(a1) · Rx(a0), see docs/conventions.md.
 inline cv::Matx33d rotationFromAngles(const std::array<double, 3>& anglesDeg) {
     std::array<double, 3> c{}, s{};

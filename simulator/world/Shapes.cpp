@@ -6,8 +6,6 @@ namespace fieldcal::world {
 
 namespace {
 
-constexpr float kFullTurnRad = 6.2831853F;
-
 /// Two triangles between four vertices in order around the quad.
 void addFace(Mesh& mesh, std::array<std::uint32_t, 4> corners, MaterialId material) {
     mesh.add(corners[0], corners[1], corners[2], material);

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "camera/Rotation.h"
 #include "simulator/world/Mesh.h"
 
 #include <functional>
 
 /// Functions that append shapes to a mesh. Metres; angles in radians.
 namespace fieldcal::world {
+
+constexpr auto kFullTurnRad = static_cast<float>(2 * kPi);
 
 /// A flat parallelogram. Texture coordinates start at `texture` and grow in metres along both sides.
 struct Quad {

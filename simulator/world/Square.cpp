@@ -8,7 +8,7 @@ namespace fieldcal::world {
 
 namespace {
 
-constexpr float kQuarterTurnRad = 1.5707963F, kFullTurnRad = 6.2831853F;
+constexpr float kQuarterTurnRad = 1.5707963F;
 
 void standThings(Builder& b, float eye, float half) {
     const auto anyAngle = [&] { return b.random.between(0, kFullTurnRad); };

@@ -104,13 +104,13 @@ void addFountain(Builder& b, const cv::Vec3f& foot, float radius) {
     const auto water = b.material<Water>(*b.noise);
     const float height = b.random.between(0.4F, 0.6F);
     const auto at = [&](int side, float reach, float up) {
-        const float angle = 6.2831853F * static_cast<float>(side) / sides;
+        const float angle = kFullTurnRad * static_cast<float>(side) / sides;
         return foot + cv::Vec3f(reach * std::sin(angle), -up, reach * std::cos(angle));
     };
     for (int i = 0; i < sides; ++i) {
         const cv::Vec3f outer = at(i, radius, height), inner = at(i, radius - rim, height);
         const cv::Vec3f along = at(i + 1, radius, height) - outer, down(0, height, 0);
-        const cv::Vec2f texture(radius * 6.2831853F * static_cast<float>(i) / sides, 0);
+        const cv::Vec2f texture(radius * kFullTurnRad * static_cast<float>(i) / sides, 0);
         addQuad(b.mesh, {outer, along, down, texture}, stone);
         addQuad(b.mesh, {inner, at(i + 1, radius - rim, height) - inner, down, texture}, stone);
         addQuad(b.mesh, {outer, along, inner - outer, texture}, stone);

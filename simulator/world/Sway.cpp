@@ -1,6 +1,7 @@
 #include "simulator/world/Sway.h"
 
 #include "simulator/synthesis/Noise.h"
+#include "simulator/world/Shapes.h"
 
 #include <algorithm>
 
@@ -17,16 +18,16 @@ void Sway::plant(std::size_t first, const cv::Vec3f& foot, float height, float t
 }
 
 cv::Vec3f Sway::positionAt(std::size_t vertex, int step) const {
-    constexpr float turn = 6.2831853F;
     const Vertex& v = mesh.vertices[vertex];
     const float phase = static_cast<float>(step % kSteps) / kSteps;
     // Gusts run along x; every leaf flutters independently.
     const float gust = 0.05F * v.position[0] + 0.02F * v.position[2];
     const int leaf = static_cast<int>(v.texture[0]);
     const float own = synthesis::Noise::cell(leaf, leaf >> 8, 91);
-    const float along = 0.6F * std::sin(turn * (phase - gust)) + 0.4F * std::sin(turn * (2 * phase - 2.3F * gust));
-    const float across = 0.3F * std::sin(turn * (2 * phase - 1.4F * gust + 0.3F));
-    const float flutter = 0.25F * std::sin(turn * (3 * phase + own));
+    const float along =
+        0.6F * std::sin(kFullTurnRad * (phase - gust)) + 0.4F * std::sin(kFullTurnRad * (2 * phase - 2.3F * gust));
+    const float across = 0.3F * std::sin(kFullTurnRad * (2 * phase - 1.4F * gust + 0.3F));
+    const float flutter = 0.25F * std::sin(kFullTurnRad * (3 * phase + own));
     const cv::Vec3f away(along + 0.3F * flutter, 0.15F * along + 0.5F * flutter, across + 0.6F * flutter);
     return v.position + away * give[vertex];
 }

@@ -20,8 +20,7 @@ constexpr ColourCamera kSecond = ColourCamera::Platform;
 constexpr const char* kSaved = "saveText|The calibration is stored in the camera.";
 
 Eigen::Vector3d anglesDeg(const Rotation& rotation) {
-    const Eigen::Map<const Eigen::Matrix<float, 3, 3, Eigen::RowMajor>> matrix(rotation.data());
-    return vq::anglesFromRotation(matrix.cast<double>()) * vq::kDegreesPerRadian;
+    return vq::anglesFromRotation(vq::matrixOf(rotation)) * vq::kDegreesPerRadian;
 }
 
 class EndingTest : public ApplicationTest {
@@ -162,6 +161,9 @@ TEST_F(EndingTest, AFailedSaveEndsQuietlyAndIsSaidAtTheNextStart) {
     EXPECT_THAT(calls(), Not(Contains(kSaved)));
     EXPECT_THAT(boxes, IsEmpty());
     EXPECT_EQ(manager->exitCode(), 0);
+    QFile history(dataFolder() + "/history.csv");
+    ASSERT_TRUE(history.open(QIODevice::ReadOnly));
+    EXPECT_EQ(history.readAll().count(",not stored: "), 1);
 
     start();
     ASSERT_TRUE(waitUntil([&] { return wasCalled("state|1"); }));

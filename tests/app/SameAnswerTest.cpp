@@ -15,12 +15,12 @@ TEST(SameAnswerTest, TheApplicationAndTheCommandLineFindTheSameRotation) {
     WorkflowListener nobody;
     QTemporaryDir data;
     Workflow workflow(nobody, {[] { return std::make_unique<Sensor>(); }, data.path()});
-    workflow.pass();
+    workflow.loop().pass();
     ASSERT_EQ(workflow.state(), State::ShowingIntroduction);
     workflow.requestState(State::StartingCalibration);
     std::srand(7);
     for (int pass = 0; pass < 2000 && workflow.state() != State::RefiningTutorial; ++pass)
-        workflow.pass();
+        workflow.loop().pass();
     const std::optional<Rotation> found = workflow.records().estimated(ColourCamera::Third);
     ASSERT_TRUE(found);
     workflow.leave();

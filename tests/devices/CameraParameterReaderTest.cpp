@@ -1,5 +1,4 @@
 #include "devices/CameraParameterReader.h"
-#include "devices/ParameterText.h"
 #include "tests/devices/SensorFixture.h"
 
 #include <limits>
@@ -146,7 +145,7 @@ TEST_F(CameraParameterReaderTest, UnusableModuleDataIsRefusedAndReportedOnce) {
         "CRITICAL The infrared pictures have 628 x 468 pixels, but their calibration is for 640 x 468."));
 }
 
-TEST(ParameterText, PosesAndModels) {
+TEST(LogTexts, PosesAndModels) {
     // Rz(30°) · Ry(-10°) · Rx(20°).
     const CameraExtrinsics pose{
         {0.8528685F, -0.5212806F, 0.0296956F, 0.4924039F, 0.7841021F, -0.3777861F, 0.1736482F, 0.3368241F, 0.9254166F},

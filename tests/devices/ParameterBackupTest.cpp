@@ -104,36 +104,5 @@ TEST_F(ParameterBackupTest, WhatMakesNoSenseIsNamed) {
     EXPECT_FALSE(readBackup(folder.path(), &again, &why)) << "a folder";
 }
 
-TEST_F(ParameterBackupTest, MutatedFilesAreReadOrRefused) {
-    QString path;
-    ASSERT_TRUE(keepBackup(folder.path(), sample(), &path, &why));
-    const QByteArray original = bytesOf(path);
-    std::mt19937 random(3);
-    const auto below = [&](int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); };
-    int accepted = 0;
-    for (int i = 0; i < 2000; ++i) {
-        QByteArray bytes = original;
-        for (int n = below(3); n >= 0; --n) {
-            // Half of the damaged bytes are in the fields with a meaning.
-            const int at = below(2) == 0 ? below(bytes.size()) : below(2) == 0 ? below(32) : 32 + 1272 + below(252);
-            bytes[at] = static_cast<char>(below(256));
-        }
-        if (below(10) == 0) bytes.truncate(below(bytes.size()));
-        put(i % 3 == 0 || bytes.size() < 32 ? bytes : rehashed(bytes));
-        ParameterBackup out;
-        if (read(&out)) {
-            ++accepted;
-            EXPECT_EQ(matrixThatIsNoRotation(out.block, true, false), nullptr);
-            EXPECT_TRUE(out.taken.isValid());
-        } else {
-            EXPECT_TRUE(why.startsWith(folder.filePath("changed") + ": ")) << why.toStdString();
-        }
-    }
-    EXPECT_GT(accepted, 200);
-    EXPECT_LT(accepted, 1500);
-    ParameterBackup neighbour;
-    EXPECT_TRUE(readBackup(path, &neighbour, &why));
-}
-
 }  // namespace
 }  // namespace fieldcal

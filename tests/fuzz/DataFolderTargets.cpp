@@ -20,6 +20,7 @@ void backup(const QByteArray& bytes) {
     ParameterBackup read;
     QString why;
     if (!readBackup("one.fcbackup", &read, &why)) return requireRefusal(why.toStdString(), "one.fcbackup");
+    require(matrixThatIsNoRotation(read.block, true, false) == nullptr && read.taken.isValid(), "it can be restored");
     QFile::remove("two.fcbackup");
     require(writeBackup("two.fcbackup", read, &why), "what was read can be written");
     require(contentOf("two.fcbackup") == bytes, "nothing is lost on the way");

@@ -10,8 +10,8 @@ namespace fieldcal::synthesis {
 namespace {
 
 std::array<double, 3> anglesDeg(const session::Matrix3& r) {
-    constexpr double degree = 180 / 3.141592653589793;
-    return {std::atan2(r[7], r[8]) * degree, -std::asin(r[6]) * degree, std::atan2(r[3], r[0]) * degree};
+    return {std::atan2(r[7], r[8]) * kDegreesPerRadian, -std::asin(r[6]) * kDegreesPerRadian,
+            std::atan2(r[3], r[0]) * kDegreesPerRadian};
 }
 
 TEST(Rig, DrawnDriftsStayWithinTheSearchRangesAndUseThem) {

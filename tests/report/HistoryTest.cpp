@@ -1,5 +1,4 @@
 #include "report/History.h"
-#include "tests/devices/LogCapture.h"
 #include "tests/report/Reports.h"
 
 #include <QDir>
@@ -83,13 +82,6 @@ TEST_F(HistoryTest, WhatIsThereStands) {
     EXPECT_TRUE(appendHistory(folder, reportOf({third})));
     EXPECT_EQ(newestOfHistory(folder, 9).size(), 1U) << "lines that cannot be read are skipped";
     EXPECT_THAT(lines(), ElementsAre("mine", "cut sho", StartsWith("2026-07-01T12:34:56Z,550101,third,"), ""));
-}
-
-TEST_F(HistoryTest, AFileThatCannotBeContinuedCostsOneLogLine) {
-    const LogCapture log;
-    ASSERT_TRUE(QDir().mkpath(path));
-    EXPECT_FALSE(appendHistory(folder, reportOf({third})));
-    EXPECT_THAT(LogCapture::lines(), ElementsAre(StartsWith("CRITICAL " + path.toStdString())));
 }
 
 }  // namespace

@@ -68,20 +68,6 @@ TEST_F(RoundTrip, NumbersKeepTheirLastBit) {
     EXPECT_EQ(read.frames[0].repeat, 26);
 }
 
-TEST_F(RoundTrip, PicturesAreBitExact) {
-    std::string why;
-    FrameImages read;
-    for (std::size_t i = 0; i < 2; ++i) {
-        ASSERT_TRUE(readImages(folder, session, i, &read, &why)) << why;
-        const FrameImages written = testImages(session, i == 0);
-        EXPECT_EQ(bytesOf(read.infrared), bytesOf(written.infrared));
-        EXPECT_EQ(bytesOf(read.third), bytesOf(written.third));
-        EXPECT_EQ(bytesOf(read.depth), bytesOf(written.depth));
-        EXPECT_EQ(bytesOf(read.right), bytesOf(written.right));
-        EXPECT_EQ(read.platform, written.platform);
-    }
-}
-
 TEST_F(RoundTrip, AnAlphaChannelAndAColourProfileChangeNoValue) {
     const QString file = QString::fromStdString(path("b_third.png"));
     QImage image = QImage(file).convertToFormat(QImage::Format_ARGB32);

@@ -1,8 +1,6 @@
 #include "tests/simulator/TestModule.h"
 
 #include <algorithm>
-#include <atomic>
-#include <chrono>
 #include <functional>
 #include <thread>
 
@@ -168,37 +166,6 @@ TEST_F(Faults, HitTheGivenCallsOfAnOperation) {
     EXPECT_TRUE(device->stopCapture());
 }
 
-TEST_F(Faults, AModuleThatIsGoneStaysSo) {
-    for (const Call& call : kCalls) {
-        SCOPED_TRACE(call.name);
-        set("KXSIM_FAULTS", call.name + ":1:gone");
-        const std::shared_ptr<KXDevice> device = create();
-        const bool hitOnTheWay = !bring(device.get(), call.from);
-        EXPECT_FALSE(!hitOnTheWay && call.call(*device));
-        EXPECT_EQ(device->lastStatus(), 5);
-        EXPECT_FALSE(device->openDevice(-1) || device->grab(true) || device->thirdCamera() != nullptr);
-        EXPECT_EQ(device->lastStatus(), 5);
-        EXPECT_EQ(device->depthWidth(), 0);
-        set("KXSIM_FAULTS", "");
-        EXPECT_TRUE(create()->openDevice(-1));
-    }
-}
-
-TEST_F(Faults, ALieDoesNothing) {
-    set("KXSIM_FAULTS",
-        "openDevice:1:lie,initDevice:1:lie,startCapture:1:lie,grab:1:lie,stopCapture:1:lie,setGain:1:lie");
-    const std::shared_ptr<KXDevice> device = create();
-    EXPECT_TRUE(device->openDevice(-1));
-    EXPECT_FALSE(device->calibrationValid());
-    EXPECT_TRUE(device->openDevice(-1) && device->initDevice());
-    EXPECT_FALSE(device->setStreamOption(true));
-    EXPECT_TRUE(device->initDevice() && setUpStreams(device.get()) && device->startCapture() && device->grab(true));
-    EXPECT_EQ(device->leftImage(), nullptr);
-    EXPECT_FALSE(device->grab(true)) << "the capture was not started";
-    EXPECT_TRUE(device->hardwareControl()->setGain(-1, 0)) << "nobody looked";
-    EXPECT_TRUE(device->startCapture() && device->stopCapture() && device->grab(true));
-}
-
 TEST_F(Faults, AStatusMayBeToldToTheCallersThreadOnly) {
     set("KXSIM_FAULTS", "thread-bound-status,grab:1:6");
     const std::shared_ptr<KXDevice> device = createCapturing();
@@ -207,34 +174,6 @@ TEST_F(Faults, AStatusMayBeToldToTheCallersThreadOnly) {
     std::thread([&] { elsewhere = device->lastStatus(); }).join();
     EXPECT_EQ(elsewhere, 0);
     EXPECT_EQ(device->lastStatus(), 6);
-}
-
-TEST_F(Faults, ALateCallDoesItsWork) {
-    set("KXSIM_FAULTS", "grab:1:late+200");
-    const std::shared_ptr<KXDevice> device = createCapturing();
-    const auto begin = std::chrono::steady_clock::now();
-    EXPECT_TRUE(device->grab(true));
-    EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(200));
-    EXPECT_NE(device->leftImage(), nullptr);
-}
-
-TEST_F(Faults, AHangingCallDoesNotReturnAndHoldsNothing) {
-    set("KXSIM_FAULTS", "grab:1:hang,openCamera:1:hang");
-    const auto returned = std::make_shared<std::atomic<int>>(0);
-    const std::shared_ptr<KXDevice> device = createCapturing();
-    RearCameraSource* rear = plugInRearCamera();
-    std::thread([=] {
-        device->grab(true);
-        ++*returned;
-    }).detach();
-    std::thread([=] {
-        rear->openCamera();
-        ++*returned;
-    }).detach();
-    std::this_thread::sleep_for(std::chrono::milliseconds(100));
-    EXPECT_EQ(*returned, 0);
-    EXPECT_NE(plugInRearCamera(), nullptr) << "locked out";
-    EXPECT_TRUE(createCapturing() != nullptr);
 }
 
 TEST_F(Faults, MalformedOrdersKeepTheDeviceShut) {

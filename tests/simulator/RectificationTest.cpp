@@ -145,16 +145,6 @@ TEST_F(Rectification, ShiftsNothingOnAverage) {
     }
 }
 
-TEST_F(Rectification, TheRotationTakesRawToRectified) {
-    // Two degrees about Y move the centre of the raw image to the right: X_rectified = R · X_raw.
-    const KXCalibIntrinsicsNonRectified raw{400, 400, 64, 32, 128, 64, 0, 0, 0, 0, 0};
-    const KXCalibIntrinsicsRectified rect{400, 400, 64, 32, 128, 64};
-    Image dot{128, 64, std::vector<std::uint8_t>(std::size_t{128} * 64 * 4, 0)};
-    dot.bgra[(std::size_t{32} * 128 + 64) * 4] = 255;
-    const Image out = rectified(dot, raw, rotation(0, 2, 0), rect);
-    EXPECT_GT(out.at(78, 32, 0), 200);  // 64 + 400 · tan 2° = 77.97
-}
-
 TEST_F(Rectification, NonsenseGivesBlack) {
     const KXCalibIntrinsicsNonRectified good{400, 400, 64, 32, 128, 64, 0, 0, 0, 0, 0};
     const KXCalibIntrinsicsRectified rect{400, 400, 64, 32, 128, 64};

@@ -8,8 +8,6 @@
 namespace fieldcal::testing {
 namespace {
 
-constexpr double kDegree = 3.14159265358979 / 180;
-
 TEST_F(SessionToolTest, SolvesARenderedRecordingForBothCameras) {
     for (const QString camera : {"third", "platform"}) {
         const QStringList arguments{"calibrate", recording(), "--camera", camera, "--seed", "3", "--json", "-"};
@@ -30,7 +28,7 @@ TEST_F(SessionToolTest, SolvesARenderedRecordingForBothCameras) {
 /// Rotates the true extrinsics by a degree about the vertical axis.
 void turnTruth(session::SessionDescription* session, const QString&) {
     session::Matrix3& truth = *session->truthThird;
-    const double c = std::cos(kDegree), s = std::sin(kDegree);
+    const double c = std::cos(kRadiansPerDegree), s = std::sin(kRadiansPerDegree);
     for (std::size_t row = 0; row < 9; row += 3) {
         const double x = truth[row], z = truth[row + 2];
         truth[row] = c * x - s * z;
@@ -69,22 +67,13 @@ TEST_F(SessionToolTest, TellsDistancesAndRemembersTheBaselineForTheModule) {
     for (const char* metres : {"1", "2", "5", "20"}) {
         EXPECT_LT(square["registrationPx"].toObject()[metres].toDouble(9), 0.1);
         const double px = mountains["registrationPx"].toObject()[metres].toDouble();
-        EXPECT_NEAR(px / (focalPx * kDegree), 1.05, 0.06) << "a little more towards the sides";
+        EXPECT_NEAR(px / (focalPx * kRadiansPerDegree), 1.05, 0.06) << "a little more towards the sides";
     }
     const QString flat = changed("no-depth", [](session::SessionDescription* session, const QString&) {
         for (session::FrameEntry& frame : session->frames)
             frame.depth.clear();
     });
     EXPECT_FALSE(calibrate(flat).contains("registrationPx"));
-}
-
-TEST_F(SessionToolTest, FramesMayLackTheRearCamerasPicture) {
-    const QString gaps = changed(
-        "gaps", [](session::SessionDescription* session, const QString&) { session->frames[0].platform.clear(); });
-    EXPECT_EQ(run({"calibrate", gaps, "--seed", "1"}).status, 0);
-    const Result platform = run({"calibrate", gaps, "--camera", "platform", "--seed", "1", "--json", "-"});
-    EXPECT_EQ(platform.status, 0) << platform.error.constData();
-    EXPECT_LE(platform.json()["errorDeg"].toDouble(1.0), 0.05);
 }
 
 TEST_F(SessionToolTest, PlaysToTheEndWithoutAnAnswerWhenThereIsNone) {
@@ -162,6 +151,8 @@ TEST_F(SessionToolTest, ResultsTellWhatTheyAreMadeFromAndFailuresWhy) {
     EXPECT_EQ(failure["serial"], solved["serial"]);
     EXPECT_EQ(failure["seed"].toInt(), 5);
     const Result nowhere = run({"calibrate", path("nowhere"), "--json", "-"});
+    EXPECT_EQ(nowhere.status, 1);
+    EXPECT_TRUE(nowhere.error.contains("session.json")) << nowhere.error.constData();
     EXPECT_EQ(nowhere.json()["error"].toString() + '\n', QString(nowhere.error));
     EXPECT_FALSE(nowhere.json().contains("serial"));
     EXPECT_EQ(run({"calibrate", nightRecording(), "--json", path("nowhere") + "/result.json"}).status, 1);
@@ -183,11 +174,6 @@ TEST_F(SessionToolTest, DeviceFailuresEndWithOneLineAndStatusOne) {
 }
 
 TEST_F(SessionToolTest, UnreadableRecordingsAreNamedWithFileAndReason) {
-    const Result nowhere = run({"calibrate", path("nowhere")});
-    EXPECT_EQ(nowhere.status, 1);
-    EXPECT_EQ(nowhere.errorLines(), 1) << nowhere.error.constData();
-    EXPECT_TRUE(nowhere.error.contains("session.json"));
-
     const QString cut = changed("cut", [](session::SessionDescription* session, const QString& folder) {
         QFile image(folder + '/' + QString::fromStdString(session->frames[2].infrared));
         image.resize(image.size() / 2);

@@ -133,11 +133,6 @@ std::vector<Look> inEveryLanguage() {
 }
 INSTANTIATE_TEST_SUITE_P(Languages, FitTest, ::testing::ValuesIn(inEveryLanguage()));
 
-double luminance(const QColor& colour) {
-    const auto linear = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
 TEST(ThemeTest, TextCanBeReadInTheSun) {
     ViewsStage stage;
     QQmlComponent probe(&stage.engine());

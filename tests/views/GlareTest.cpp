@@ -1,3 +1,4 @@
+#include "camera/Rotation.h"
 #include "tests/views/ViewsStory.h"
 
 #include <QQmlProperty>
@@ -14,18 +15,12 @@ namespace {
 constexpr double kWhite = 400;  // cd/m²
 constexpr double kIlluminance = 20000;
 constexpr double kReflectance = 0.045;
-constexpr double kPi = 3.14159265358979323846;
 constexpr double kGlare = kIlluminance * kReflectance / kPi;
 
 // Nothing can exceed 2.4, white on black.
 constexpr double kMinTextContrast = 1.65;
 constexpr double kMinOutlineContrast = 1.3;
 constexpr int kMinTextPx = 16;
-
-double luminance(const QColor& colour) {
-    const auto linear = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
 
 double contrastInTheSun(const QColor& one, const QColor& other) {
     const double a = kWhite * luminance(one) + kGlare, b = kWhite * luminance(other) + kGlare;

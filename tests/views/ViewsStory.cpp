@@ -44,19 +44,22 @@ void startAttempt(ViewsStage& stage) {
     stage.tell("setCalibrationProgress", 0.0);
 }
 
-void found(ViewsStage& stage) {
-    stage.enter(8);
-    stage.tell("showFoundTurn", QVariantList{0.42, -1.87, 0.05},
-               QVariantMap{{"verdict", "turned"},
-                           {"deviationDeg", QVariantList{0.004, 0.003, 0.006}},
-                           {"explained", true},
-                           {"storedPx", 22.4},
-                           {"newPx", 0.31}});
+void tellTurn(ViewsStage& stage, const char* verdict, const QVariantList& anglesDeg, const QVariantList& deviationDeg,
+              double storedPx, double newPx) {
+    stage.tell("showFoundTurn", anglesDeg,
+               QVariantMap{{"verdict", verdict},
+                           {"deviationDeg", deviationDeg},
+                           {"explained", newPx < 1},
+                           {"storedPx", storedPx},
+                           {"newPx", newPx}});
 }
 
-}  // namespace
+void found(ViewsStage& stage) {
+    stage.enter(8);
+    tellTurn(stage, "turned", {0.42, -1.87, 0.05}, {0.004, 0.003, 0.006}, 22.4, 0.31);
+}
 
-std::vector<Scene> story() {
+std::vector<Scene> untilThereIsLight() {
     return {
         {"opening", [](ViewsStage&) {}},
         {"introduction",
@@ -96,6 +99,11 @@ std::vector<Scene> story() {
              stage.tell("toggleLightingContinueButtonVisibility", true, interfaceText(texts::kContinue));
          }},
         {"sunlight-goes-on", &showHistory},
+    };
+}
+
+std::vector<Scene> captureByTheFirstCamera() {
+    return {
         {"capture",
          [](ViewsStage& stage) {
              hideHistory(stage);
@@ -131,6 +139,11 @@ std::vector<Scene> story() {
         {"how-to-move", [](ViewsStage& stage) { stage.press("howToMoveButton"); }},
         {"how-to-move-turn", [](ViewsStage& stage) { stage.press("howToMoveNextButton"); }},
         {"how-to-move-pause", [](ViewsStage& stage) { stage.press("howToMoveNextButton"); }},
+    };
+}
+
+std::vector<Scene> resultOfTheFirstCamera() {
+    return {
         {"found",
          [](ViewsStage& stage) {
              stage.press("howToMoveNextButton");
@@ -141,21 +154,11 @@ std::vector<Scene> story() {
          }},
         {"found-fits",
          [](ViewsStage& stage) {
-             stage.tell("showFoundTurn", QVariantList{0.007, -0.004, 0.011},
-                        QVariantMap{{"verdict", "fits"},
-                                    {"deviationDeg", QVariantList{0.004, 0.003, 0.006}},
-                                    {"explained", true},
-                                    {"storedPx", 0.34},
-                                    {"newPx", 0.31}});
+             tellTurn(stage, "fits", {0.007, -0.004, 0.011}, {0.004, 0.003, 0.006}, 0.34, 0.31);
          }},
         {"found-far",
          [](ViewsStage& stage) {
-             stage.tell("showFoundTurn", QVariantList{1.42, -3.87, 10.05},
-                        QVariantMap{{"verdict", "far"},
-                                    {"deviationDeg", QVariantList{0.014, 0.023, 0.016}},
-                                    {"explained", false},
-                                    {"storedPx", 102.4},
-                                    {"newPx", 3.31}});
+             tellTurn(stage, "far", {1.42, -3.87, 10.05}, {0.014, 0.023, 0.016}, 102.4, 3.31);
          }},
         {"tutorial", [](ViewsStage& stage) { stage.press("foundContinueButton"); }},
         {"refinement",
@@ -163,6 +166,11 @@ std::vector<Scene> story() {
              stage.tell("showSaveCalibrationText", interfaceText(texts::kRefineFirst));
              stage.press("tutorialContinueButton");
          }},
+    };
+}
+
+std::vector<Scene> secondCamera() {
+    return {
         {"between",
          [](ViewsStage& stage) {
              stage.press("refinementContinueButton");
@@ -197,6 +205,15 @@ std::vector<Scene> story() {
              stage.tell("showSaveCalibrationText", interfaceText(texts::kSaved));
          }},
     };
+}
+
+}  // namespace
+
+std::vector<Scene> story() {
+    std::vector<Scene> all;
+    for (const auto& part : {untilThereIsLight(), captureByTheFirstCamera(), resultOfTheFirstCamera(), secondCamera()})
+        all.insert(all.end(), part.begin(), part.end());
+    return all;
 }
 
 std::vector<Scene> endings() {

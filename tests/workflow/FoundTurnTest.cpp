@@ -25,8 +25,8 @@ TEST(FoundTurnTest, TheVerdictComparesTheTurnWithItsDeviation) {
 
 TEST(FoundTurnTest, TheTurnIsTheCamerasOwnAgainstWhereItWas) {
     const auto aboutY = [](double degrees) {
-        const auto c = static_cast<float>(std::cos(degrees * 0.01745329252));
-        const auto s = static_cast<float>(std::sin(degrees * 0.01745329252));
+        const auto c = static_cast<float>(std::cos(degrees * kRadiansPerDegree));
+        const auto s = static_cast<float>(std::sin(degrees * kRadiansPerDegree));
         return Rotation{c, 0, s, 0, 1, 0, -s, 0, c};
     };
     const FoundTurn turn = foundTurn(aboutY(3), aboutY(2), {});

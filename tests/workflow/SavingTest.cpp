@@ -3,6 +3,7 @@
 #include "workflow/ProcessingThread.h"
 #include "workflow/SaveNote.h"
 #include "workflow/Saving.h"
+#include "workflow/Workflow.h"
 
 #include <QDir>
 #include <QFile>
@@ -44,7 +45,10 @@ TEST_F(SavingTest, ANoteStandsOnDiskWhileTheOutcomeIsOpen) {
     device->failCall("commitCalibration", 2, 6);
     records.accept(ColourCamera::Third, parameters.colour[ColourCamera::Third].fromDepth.rotation);
     EXPECT_FALSE(storeCalibration(*sensor, records, data.path()).stored);
-    EXPECT_EQ(readSaveNote(data.path(), kSerial)->reason, sensor->writeBack().reason);
+    const std::optional<SaveNote> note = readSaveNote(data.path(), kSerial);
+    ASSERT_TRUE(note);
+    EXPECT_EQ(note->reason, sensor->writeBack().reason);
+    EXPECT_EQ(note->flash, "The camera's flash holds the previous calibration.");
     EXPECT_TRUE(LogCapture::has("Failed to store calibration information to flash."));
 }
 
@@ -116,7 +120,7 @@ protected:
         std::atomic<int> rearCameraIssues{0};
     };
     void start() {
-        thread = std::make_unique<ProcessingThread>(workflow);
+        thread = std::make_unique<ProcessingThread>(workflow.loop());
         while (!listener.opened)
             std::this_thread::yield();
     }
@@ -149,7 +153,7 @@ TEST_F(EndingTest, ASilentRearCameraIsToldOnceAndTheRestGoesOn) {
 TEST_F(EndingTest, WhatFailsAfterTheUserWantsToEndIsKeptForTheEnd) {
     std::atomic<int> grabs{0};
     device->onGrab = [&] {
-        if (++grabs == 3) workflow.requestStop(Stop::ToSave);
+        if (++grabs == 3) workflow.loop().requestStop(Stop::ToSave);
     };
     device->failCall("grab", 3, 6);
     start();

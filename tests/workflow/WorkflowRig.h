@@ -7,8 +7,8 @@
 #include "tests/simulator/SimulatedModule.h"
 #include "tests/tools/RenderedRecording.h"
 #include "workflow/ProcessingThread.h"
+#include "workflow/Workflow.h"
 
-#include <Eigen/Geometry>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
@@ -24,18 +24,9 @@
 
 namespace fieldcal::testing {
 
-using Matrix = Eigen::Matrix<double, 3, 3, Eigen::RowMajor>;
-
-inline Matrix matrixOf(const Rotation& rotation) {
-    return Eigen::Map<const Eigen::Matrix<float, 3, 3, Eigen::RowMajor>>(rotation.data()).cast<double>();
-}
-inline Matrix matrixOf(const session::Matrix3& rotation) {
-    return Eigen::Map<const Matrix>(rotation.data());
-}
 template <typename A, typename B>
 double degreesBetween(const A& a, const B& b) {
-    const Eigen::Matrix3d difference = matrixOf(a) * matrixOf(b).transpose();
-    return Eigen::AngleAxisd(difference).angle() * vq::kDegreesPerRadian;
+    return vq::angleBetweenDeg(vq::matrixOf(a), vq::matrixOf(b));
 }
 inline session::SessionDescription describe(const QString& recording) {
     session::SessionDescription description;
@@ -147,7 +138,7 @@ protected:
             return std::make_unique<Sensor>(environment);
         };
         workflow = std::make_unique<Workflow>(*user, WorkflowEnvironment{makeSensor, folder.filePath("data")});
-        thread = std::make_unique<ProcessingThread>(*workflow);
+        thread = std::make_unique<ProcessingThread>(workflow->loop());
     }
     /// From the start to an estimated rotation; the workflow stays in the state that shows it.
     void solve(State shown = State::RefiningTutorial) {

@@ -225,30 +225,6 @@ TEST(WorldCameras, EachInfraredImagerHasItsOwnNoiseAtOneExposure) {
     EXPECT_LT(apart[0], 9.5);
 }
 
-TEST(WorldCameras, DepthBroughtIntoColourLandsOnTheSameSurface) {
-    const auto rig = synthesis::drawRig(6, {});
-    const auto stage = buildWorld("street", 2);
-    const Cameras cameras(rig, {1, 1, 1});
-    const Moment moment{{cv::Matx33d::eye(), {0, 0, 0}}, 0};
-    const View view = cameras.see(*stage->world, moment, moment, false);
-    const auto rays = synthesis::colourRays(rig.third, rig.infrared, 1);
-    const RenderedImage colour = renderImage(*stage->world, rays, {cameras.thirdPose(moment.pose)});
-    int seen = 0, same = 0;
-    for (int y = 0; y < view.depth.rows; y += 3)
-        for (int x = 0; x < view.depth.cols; x += 3) {
-            const double z = view.depth(y, x);
-            if (z <= 0 || z > 20) continue;
-            const cv::Vec3d ray((x - rig.depth.cx) / rig.depth.fx, (y - rig.depth.cy) / rig.depth.fy, 1);
-            const cv::Vec3d there = moved(*rig.truthThird, rig.third.translation, ray * z);
-            const cv::Point at = colourPixel(rig.third, rig.infrared, there);
-            if (!cv::Rect({}, colour.depth.size()).contains(at)) continue;
-            ++seen;
-            same += std::abs(colour.depth(at) - there[2]) < 0.02 * there[2] ? 1 : 0;
-        }
-    ASSERT_GT(seen, 3000);
-    EXPECT_GT(same, 0.95 * seen) << "the rest is hidden from the colour camera, or lies at an edge";
-}
-
 /// A slanted plane 3 m away; returns z along the ray (x, y, 1) of the camera at the origin that looks along +z.
 struct SlantedPlane {
     cv::Vec3d point{0, 0, 3}, normal{0.4, -0.3, -1};

@@ -1,26 +1,25 @@
-// The part of `Workflow` that runs on the loop's thread.
+#include "workflow/CalibrationLoop.h"
+
 #include "devices/CameraParameterReader.h"
 #include "engine/Rotation.h"
 #include "engine/TextForms.h"
 #include "report/History.h"
 #include "workflow/Saving.h"
-#include "workflow/Workflow.h"
 
 #include <QThread>
 
 #include <algorithm>
-#include <cmath>
+#include <array>
+#include <utility>
 
 namespace fieldcal {
 namespace {
-
-constexpr double kDegreesPerRadian = 180 / 3.14159265359;
 
 using Matrix34 = Eigen::Matrix<double, 3, 4>;
 
 Matrix34 poseOf(const Rotation& rotation, const std::array<float, 3>& translation) {
     Matrix34 pose;
-    pose.leftCols<3>() = Eigen::Map<const Eigen::Matrix<float, 3, 3, Eigen::RowMajor>>(rotation.data()).cast<double>();
+    pose.leftCols<3>() = vq::matrixOf(rotation);
     pose.col(3) = Eigen::Map<const Eigen::Vector3f>(translation.data()).cast<double>();
     return pose;
 }
@@ -39,7 +38,47 @@ void logSolution(const CameraExtrinsics& factory, const Rotation& estimated, con
 
 }  // namespace
 
-bool Workflow::pass() {
+WorkflowEnvironment systemWorkflowEnvironment(kxapi::LibrarySearch search) {
+    return {[search] { return std::make_unique<Sensor>(systemEnvironment(search)); }, userDataFolder()};
+}
+
+CalibrationLoop::CalibrationLoop(WorkflowListener& listener, WorkflowEnvironment environment,
+                                 CalibrationRecords& records)
+    : listener_(listener),
+      environment_(std::move(environment)),
+      records_(records),
+      engine_(context_, factory_),
+      attempt_(engine_, listener, light_, applicationSettings().attemptLimit) {
+    engine_.setStopFlag(&stop_);
+}
+
+void CalibrationLoop::requestState(State state) {
+    const auto set = [this, state] { state_.set(state); };
+    if (state == State::WaitingToCalibrate) {
+        act(set, [this] { engine_.resetState(); });
+    } else {
+        act(set, nullptr);
+    }
+}
+
+void CalibrationLoop::switchCamera(ColourCamera camera) {
+    act([this] { state_.interrupt(); }, [this, camera] { useCamera(camera); });
+}
+
+/// Makes the change and queues the work atomically: a loop that sees the change also has the work, and a loop that does
+/// not see it loses its own transition.
+void CalibrationLoop::act(const std::function<void()>& change, std::function<void()> work) {
+    const std::lock_guard lock(actionsMutex_);
+    change();
+    if (work != nullptr) pendingWork_.push_back(std::move(work));
+}
+
+void CalibrationLoop::requestStop(Stop stop) {
+    if (stop == Stop::ToLeave) giveUpWaiting_ = true;
+    stop_ = true;
+}
+
+bool CalibrationLoop::pass() {
     if (stop_) return false;
     const Snapshot now = takeActions();
     followEmitter(now.state);
@@ -49,8 +88,8 @@ bool Workflow::pass() {
     return refreshed;
 }
 
-/// Does the work that the user's actions have queued, and returns the state at that time.
-Workflow::Snapshot Workflow::takeActions() {
+/// Does the work that requests have queued, and returns the state at that time.
+CalibrationLoop::Snapshot CalibrationLoop::takeActions() {
     std::deque<std::function<void()>> actions;
     Snapshot now{};
     {
@@ -63,21 +102,32 @@ Workflow::Snapshot Workflow::takeActions() {
     return now;
 }
 
+void CalibrationLoop::useCamera(ColourCamera camera) {
+    camera_ = camera;
+    attempt_.cancel();
+    engine_.resetState();
+    if (!sensorReady_) return;
+    // The emitter stays off until the refinement is entered again, even if the state still is the refinement.
+    emitterState_ = State::RefiningCalibration;
+    sensor_->setEmitter(false);
+    sensor_->setPlatformImageWanted(camera_ == ColourCamera::Platform);
+}
+
 /// The emitter's dots improve depth where the user aligns it. During capture they would be matched instead of the
 /// texture of the scene, so the emitter is off.
-void Workflow::followEmitter(State state) {
+void CalibrationLoop::followEmitter(State state) {
     if (!sensorReady_ || state == emitterState_) return;
     emitterState_ = state;
     sensor_->setEmitter(state == State::RefiningCalibration);
 }
 
-bool Workflow::refreshViews(const Snapshot& now) {
+bool CalibrationLoop::refreshViews(const Snapshot& now) {
     if (!sensorReady_ || !sensor_->grab(true)) return false;
     listener_.framesReady(now.state, camera_, sensor_->frames());
     return true;
 }
 
-void Workflow::step(const Snapshot& now) {
+void CalibrationLoop::step(const Snapshot& now) {
     switch (now.state) {
         case State::DetectingLighting:
             detectLighting();
@@ -103,10 +153,8 @@ void Workflow::step(const Snapshot& now) {
     }
 }
 
-void Workflow::openCamera(const Snapshot& now) {
-    sensor_ = environment_.makeSensor();
-    listenTo(*sensor_);
-    sensor_->setStopFlag(&giveUpWaiting_);
+void CalibrationLoop::openCamera(const Snapshot& now) {
+    sensor_ = makeSensor();
     if (!sensor_->open(applicationSettings()) ||
         !readCameraParameters(*sensor_, &factory_, [this] { listener_.singleCameraOnly(); })) {
         qInfo("Initialize failed.");
@@ -127,26 +175,30 @@ void Workflow::openCamera(const Snapshot& now) {
 }
 
 /// Reports an interrupted save of this module. A note about a different module is kept until that one is connected.
-void Workflow::reportLastSave() {
+void CalibrationLoop::reportLastSave() {
     if (const auto last = settleLastSave(*sensor_, environment_.dataFolder)) listener_.lastSaveSettled(*last);
 }
 
-void Workflow::listenTo(Sensor& sensor) {
-    QObject::connect(&sensor, &Sensor::signal_reportKXAPIError,
+/// Returns a sensor, still closed, whose faults are reported.
+std::unique_ptr<Sensor> CalibrationLoop::makeSensor() {
+    std::unique_ptr<Sensor> sensor = environment_.makeSensor();
+    QObject::connect(sensor.get(), &Sensor::signal_reportKXAPIError,
                      [this](const QString& text) { report(text, [this, text] { listener_.deviceError(text); }); });
-    QObject::connect(&sensor, &Sensor::signal_reportMissingQ550Device,
+    QObject::connect(sensor.get(), &Sensor::signal_reportMissingQ550Device,
                      [this] { report("The depth camera was not found.", [this] { listener_.missingModule(); }); });
-    QObject::connect(&sensor, &Sensor::signal_reportMissingPlatformCamera, [this] {
+    QObject::connect(sensor.get(), &Sensor::signal_reportMissingPlatformCamera, [this] {
         report("The rear camera was not found.", [this] { listener_.missingPlatformCamera(); });
     });
-    QObject::connect(&sensor, &Sensor::signal_reportPlatformCameraIssue, [this] {
+    QObject::connect(sensor.get(), &Sensor::signal_reportPlatformCameraIssue, [this] {
         if (!stop_ && !std::exchange(platformIssueReported_, true)) listener_.platformCameraIssue();
         faultReported_ = faultReported_ || !sensorReady_;
     });
+    sensor->setStopFlag(&giveUpWaiting_);
+    return sensor;
 }
 
 /// Reports only the first fault. While the program is ending, errors are collected until everything is closed.
-void Workflow::report(const QString& error, const std::function<void()>& tell) {
+void CalibrationLoop::report(const QString& error, const std::function<void()>& tell) {
     if (stop_) {
         leavingErrors_.push_back(error);
     } else if (!std::exchange(faultReported_, true)) {
@@ -154,31 +206,31 @@ void Workflow::report(const QString& error, const std::function<void()>& tell) {
     }
 }
 
-void Workflow::detectLighting() {
+void CalibrationLoop::detectLighting() {
     std::uint16_t brightness = 0;
     engine_.measureInfraredBrightness(sensor_->frames().leftInfrared, &brightness);
     listener_.lightMeasured(light_.detect(brightness));
 }
 
-void Workflow::resetCalibration(const Snapshot& now) {
+void CalibrationLoop::resetCalibration(const Snapshot& now) {
     engine_.resetState();
     listener_.startText({});  // clears any text that a cancelled attempt has left
     advance(now, State::WaitingToCalibrate);
 }
 
-void Workflow::startCalibration(const Snapshot& now) {
+void CalibrationLoop::startCalibration(const Snapshot& now) {
     records_.forgetEstimate(camera_);
     attempt_.start(camera_);
     detail_.clear();
     if (advance(now, State::ProcessingFrame)) listener_.calibrationProgress(0.0);
 }
 
-void Workflow::processFrame(const Snapshot& now) {
+void CalibrationLoop::processFrame(const Snapshot& now) {
     if (!sensor_->isFreshPair(camera_)) return;
     const std::int32_t photosBefore = attempt_.photoCount();
     const FrameRecords& frames = sensor_->frames();
     const CalibrationAttempt::Outcome outcome =
-        attempt_.processFrame({frames.leftInfrared, colourFrame(), frames.rightInfrared, frames.depth});
+        attempt_.processFrame({frames.leftInfrared, frames.colour[camera_], frames.rightInfrared, frames.depth});
     if (attempt_.photoCount() > photosBefore) reportPair();
     switch (outcome) {
         case CalibrationAttempt::Outcome::Continues:
@@ -194,7 +246,7 @@ void Workflow::processFrame(const Snapshot& now) {
     }
 }
 
-void Workflow::reportPair() {
+void CalibrationLoop::reportPair() {
     const vq::SensorCalibrator& calibrator = engine_.calibrator();
     std::vector<double> areas;
     for (const int count : calibrator.grid().cellCounts())
@@ -204,7 +256,7 @@ void Workflow::reportPair() {
     detail_ = areas;
 }
 
-void Workflow::takeSolution(const Snapshot& now) {
+void CalibrationLoop::takeSolution(const Snapshot& now) {
     Rotation estimated{};
     std::array<float, 3> translation{};
     engine_.getRotationMatrix(estimated.data());
@@ -221,18 +273,33 @@ void Workflow::takeSolution(const Snapshot& now) {
     listener_.stateChanged(next);
 }
 
-bool Workflow::advance(const Snapshot& from, State to) {
+bool CalibrationLoop::advance(const Snapshot& from, State to) {
     if (!state_.advance(from, to)) return false;
     listener_.stateChanged(to);
     return true;
 }
 
-const ImageFrame32& Workflow::colourFrame() const {
-    return sensor_->frames().colour[camera_];
+void CalibrationLoop::handOver(QThread* thread) {
+    if (sensor_ != nullptr) sensor_->moveToThread(thread);
 }
 
-void Workflow::handOver(QThread* thread) {
-    if (sensor_ != nullptr) sensor_->moveToThread(thread);
+Sensor* CalibrationLoop::sensorForSave() {
+    if (sensor_ == nullptr || !sensor_->faulted() || !records_.anyAccepted()) return sensor_.get();
+    const std::uint32_t serial = sensor_->serialNumber();
+    sensor_.reset();
+    sensor_ = makeSensor();
+    CameraParameters parameters;
+    const bool open = sensor_->open(applicationSettings()) && readCameraParameters(*sensor_, &parameters, [] {});
+    qInfo("The camera was opened anew for the save: %s.", open ? "it answers" : "it does not answer");
+    return !open || sensor_->serialNumber() == serial ? sensor_.get() : nullptr;
+}
+
+CalibrationLoop::Errors CalibrationLoop::close() {
+    sensorReady_ = false;
+    const int errorsBefore = leavingErrors_.size();
+    sensor_.reset();
+    QStringList closing = leavingErrors_.mid(errorsBefore);
+    return {std::exchange(leavingErrors_, {}), std::move(closing)};
 }
 
 }  // namespace fieldcal
