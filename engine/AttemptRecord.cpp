@@ -37,6 +37,10 @@ constexpr std::size_t kMaxPerArea = 60;
 constexpr std::size_t kMinimumForScale = 100;
 constexpr double kLargestScaleDeviation = 0.25;
 constexpr double kSmallestBaselineM = 0.015, kLargestBaselineM = 0.2;
+/// A wrong disparity of a near place has more influence on the scale than hundreds of correct ones, and its match was
+/// searched for where the assumed scale predicts it. So this share of the largest and of the smallest disparities is
+/// left out. A selection by the independent variable does not bias the slope.
+constexpr double kExtremeShare = 0.02;
 /// Patches are aligned again when the scale has changed by this share.
 constexpr double kScaleChange = 0.03;
 
@@ -55,6 +59,21 @@ std::vector<MeasuredMatch> balanced(const std::vector<MeasuredMatch>& matches, c
             kept.push_back(*area[i * area.size() / count]);
     }
     return kept;
+}
+
+/// Keeps the order of the matches.
+void withoutExtremeDisparities(std::vector<MeasuredMatch>* matches) {
+    std::vector<float> disparities;
+    for (const MeasuredMatch& match : *matches)
+        disparities.push_back(match.place.disparityPx);
+    std::sort(disparities.begin(), disparities.end());
+    const auto left = static_cast<std::size_t>(std::ceil(kExtremeShare * static_cast<double>(disparities.size())));
+    if (disparities.size() <= 2 * left) return matches->clear();
+    const float least = disparities[left], most = disparities[disparities.size() - 1 - left];
+    const auto isExtreme = [&](const MeasuredMatch& match) {
+        return match.place.disparityPx < least || match.place.disparityPx > most;
+    };
+    matches->erase(std::remove_if(matches->begin(), matches->end(), isExtreme), matches->end());
 }
 
 double turnBetweenRad(const Eigen::Matrix3d& a, const Eigen::Matrix3d& b) {
@@ -145,6 +164,7 @@ void AttemptRecord::learnScale(const std::vector<MeasuredMatch>& matches, const 
     std::vector<MeasuredMatch> measured;
     std::copy_if(matches.begin(), matches.end(), std::back_inserter(measured),
                  [](const MeasuredMatch& match) { return !std::isnan(match.place.disparityPx); });
+    withoutExtremeDisparities(&measured);
     if (measured.size() < kMinimumForScale) return;
     FitOptions options;
     options.cauchy = cauchy;

@@ -15,6 +15,8 @@ constexpr double kConvergedRad = 1e-7;
 constexpr std::size_t kMinimumMatches = 6;
 /// Standard deviation of a measured disparity, from objects at infinity in rendered worlds.
 constexpr double kDisparityDeviationPx = 0.08;
+/// Relative standard deviation of its square: on façades of equal windows it is three times as large.
+constexpr double kNoiseUncertainty = 2.0;
 
 using Vector4 = Eigen::Matrix<double, 4, 1>;
 using Matrix4 = Eigen::Matrix<double, 4, 4>;
@@ -39,17 +41,22 @@ public:
     void accumulate(const std::vector<FitTerm>& terms, const Eigen::Matrix3d& rotation, double inverseScale) {
         normal_.setZero();
         gradient_.setZero();
-        weightedSquares_ = weights_ = 0;
+        weightedSquares_ = weights_ = noise_ = 0;
         for (const FitTerm& term : terms)
             add(term, rotation, inverseScale);
         if (!options_.estimateScale) normal_(3, 3) = 1;
     }
 
     Vector4 solution() const { return normal_.ldlt().solve(-gradient_); }
-    /// Variances of the unknowns, from the spread of the weighted residuals.
-    Vector4 variances() const {
+    /// Variances of the unknowns, from the spread of the weighted residuals and, for the scale, from the uncertainty of
+    /// the noise that was subtracted.
+    Vector4 variances(double inverseScale) const {
         const double unknowns = options_.estimateScale ? 4 : 3;
-        return normal_.inverse().diagonal() * weightedSquares_ / std::max(2 * weights_ - unknowns, 1.0);
+        const Vector4 inverse = normal_.inverse().diagonal();
+        Vector4 variances = inverse * weightedSquares_ / std::max(2 * weights_ - unknowns, 1.0);
+        const double change = kNoiseUncertainty * noise_ * inverse[3] * inverseScale;
+        variances[3] += change * change;
+        return variances;
     }
 
 private:
@@ -67,6 +74,7 @@ private:
             // contribution of that noise is subtracted from the normal equations.
             const double noise =
                 at.weight * kDisparityDeviationPx * kDisparityDeviationPx * perScale.dot(term.information * perScale);
+            noise_ += noise;
             normal_(3, 3) -= noise;
             gradient_[3] -= noise * inverseScale;
         }
@@ -79,6 +87,7 @@ private:
     Matrix4 normal_;
     Vector4 gradient_;
     double weightedSquares_ = 0, weights_ = 0;
+    double noise_ = 0;  ///< subtracted from the information about the scale
 };
 
 }  // namespace
@@ -139,7 +148,7 @@ std::optional<FittedRotation> fitRotation(const std::vector<MeasuredMatch>& matc
         rotation = rotated(rotation, solution.head<3>());
         if (options.estimateScale) inverseScale += solution[3];
         if (solution.head<3>().norm() > kConvergedRad) continue;
-        const Vector4 deviations = step.variances().cwiseSqrt();
+        const Vector4 deviations = step.variances(inverseScale).cwiseSqrt();
         FittedRotation fitted{rotation, deviations.head<3>()};
         if (options.estimateScale) {
             fitted.pixelMetres = 1 / inverseScale;
