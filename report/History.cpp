@@ -19,7 +19,7 @@ constexpr char kHeader[] =
 
 constexpr const char* kStored = "stored";  ///< the result of a save that succeeded
 constexpr qint64 kLargestHistory = 64 << 20;
-constexpr int kFirstYear = 2020;  ///< before this program; a computer's clock without a battery begins earlier
+constexpr int kFirstYear = 2020;           ///< before this program; a computer's clock without a battery begins earlier
 constexpr qint64 kLongestEnd = 256 << 10;  ///< of the history, in which its newest lines are searched
 enum Column { kTime, kSerial, kCamera, kBefore, kAfter = 6, kProof = 12, kResult = 14 };
 
