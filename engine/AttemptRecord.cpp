@@ -39,7 +39,7 @@ constexpr double kLargestScaleDeviation = 0.25;
 constexpr double kSmallestBaselineM = 0.015, kLargestBaselineM = 0.2;
 /// A wrong disparity of a near place has more influence on the scale than hundreds of correct ones, and its match was
 /// searched for where the assumed scale predicts it. So this share of the largest and of the smallest disparities is
-/// left out. A selection by the independent variable does not bias the slope.
+/// left out.
 constexpr double kExtremeShare = 0.02;
 /// Patches are aligned again when the scale has changed by this share.
 constexpr double kScaleChange = 0.03;

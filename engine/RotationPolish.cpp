@@ -15,7 +15,7 @@ constexpr double kConvergedRad = 1e-7;
 constexpr std::size_t kMinimumMatches = 6;
 /// Standard deviation of a measured disparity, from objects at infinity in rendered worlds.
 constexpr double kDisparityDeviationPx = 0.08;
-/// Relative standard deviation of its square: on façades of equal windows it is three times as large.
+/// Relative standard deviation of its square, which is larger on façades of equal windows.
 constexpr double kNoiseUncertainty = 2.0;
 
 using Vector4 = Eigen::Matrix<double, 4, 1>;
