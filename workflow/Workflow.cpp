@@ -45,6 +45,8 @@ LeaveReport Workflow::save(Storing storing) {
         report.reported = saved.reported;
         report.writeBack = sensor->writeBack();
         loop_.solutions().keep(dataFolder_, *sensor, records_, report.stored);
+    } else if (records_.anyAccepted()) {
+        report.reported = false;  // a note would be about a module that is not connected
     }
     return close(std::move(report));
 }

@@ -108,6 +108,29 @@ TEST_F(WorkflowTest, LeavingKeepsTheFlashAndACameraThatFailsIsOpenedAnewToStoreT
     EXPECT_LT(degreesBetween(workflow->records().toStore(kFirst), estimate), 1e-4);
 }
 
+TEST_F(WorkflowTest, ADifferentModuleAtTheSaveIsNotWrittenAndTheFailureIsReported) {
+    const QString other = folder.filePath("other");
+    ASSERT_TRUE(QDir().mkpath(other));
+    for (const QString& file : QDir(mountainRecording()).entryList(QDir::Files))
+        ASSERT_TRUE(QFile::copy(mountainRecording() + '/' + file, other + '/' + file));
+    session::SessionDescription description = describe(other);
+    ++description.module.serial;
+    std::string why;
+    ASSERT_TRUE(session::writeDescription(other.toStdString(), description, &why)) << why;
+
+    start("grab:3000:7");
+    ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
+    solve();
+    workflow->requestState(State::RefiningCalibration);
+    workflow->switchCamera(kSecond);
+    ASSERT_TRUE(user->waitUntil([&] { return !user->errors.empty(); }));
+    const QByteArray before = flash();
+    set("KXSIM_SESSION", other);
+    const LeaveReport report = stopAndSave(Storing::OnlyAccepted);
+    EXPECT_FALSE(report.stored || report.reported);
+    EXPECT_EQ(flash(), before);
+}
+
 TEST_F(WorkflowTest, ARestartDuringADecisionWins) {
     start();
     ASSERT_TRUE(user->waitFor(State::ShowingIntroduction));
