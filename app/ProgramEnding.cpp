@@ -112,6 +112,11 @@ void ProgramEnding::touchSaved(const QEvent& event) {
     }
     historyOpened_ = true;
     parts_.functions.openHistory();
+    if (const auto* page = window_->findChild<QQuickItem*>("historyPage")) {
+        // The list can be scrolled, so the end comes when the page is closed.
+        window_->removeEventFilter(this);
+        connect(page, &QQuickItem::visibleChanged, this, &QCoreApplication::quit);
+    }
     savedShown_.restart();
     quitSoon_.start(kHistoryShownTimes * parts_.environment.savedShownFor);
 }

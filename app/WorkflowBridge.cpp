@@ -49,6 +49,12 @@ constexpr const char* worthName(PhotoWorth worth) {
     }
 }
 
+/// Calls a slot of the manager on the main thread.
+template <typename... Arguments>
+void callSlot(GlobalManager& manager, const char* slot, Arguments... arguments) {
+    if (!QMetaObject::invokeMethod(&manager, slot, arguments...)) qCritical("The application has no slot %s.", slot);
+}
+
 /// The quality of a solution in the form that `docs/interface-map.md` describes.
 QVariantMap qualityMap(const FoundTurn& turn) {
     QVariantMap quality{{"verdict", verdictName(turn.verdict())}};
@@ -128,19 +134,19 @@ void WorkflowBridge::lastCalibration(const QDateTime& stored) {
 }
 
 void WorkflowBridge::deviceError(const QString& text) {
-    QMetaObject::invokeMethod(&manager_, "slot_getKXAPIErrorAndQuit", Q_ARG(QString, text));
+    callSlot(manager_, "slot_getKXAPIErrorAndQuit", Q_ARG(QString, text));
 }
 
 void WorkflowBridge::missingModule() {
-    QMetaObject::invokeMethod(&manager_, "slot_reportMissingQ550Device");
+    callSlot(manager_, "slot_reportMissingQ550Device");
 }
 
 void WorkflowBridge::missingPlatformCamera() {
-    QMetaObject::invokeMethod(&manager_, "slot_reportMissingPlatformCamera");
+    callSlot(manager_, "slot_reportMissingPlatformCamera");
 }
 
 void WorkflowBridge::platformCameraIssue() {
-    QMetaObject::invokeMethod(&manager_, "slot_reportPlatformCameraIssue");
+    callSlot(manager_, "slot_reportPlatformCameraIssue");
 }
 
 void WorkflowBridge::movementText(const std::string& text, bool holdStill) {

@@ -289,7 +289,7 @@ bool CalibrationWriter::disagrees(const char* reason) {
     return false;
 }
 
-/// The link has reported it.
+/// Records a failure that the link has already reported. Returns false.
 bool CalibrationWriter::failed() {
     report_.reason = link_.faultText();
     return false;

@@ -63,7 +63,8 @@ public:
     /// anything else that prevents the write is logged.
     bool writeRotations(const StoredRotations& present, const StoredRotations& wanted);
     bool restore(const KXCalibRectParameters& block);
-    /// Writes the present block once more, as it is: what a module that was never written does with a block.
+    /// Writes the present block back unchanged, to find out how a module treats a block before a calibration is
+    /// changed.
     bool rewrite();
 
     const WriteBackReport& report() const { return report_; }

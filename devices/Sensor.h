@@ -29,7 +29,8 @@ struct ModuleCalibration;
 /// It is constructed without a device. `open` either completes, or reports the problem by one signal and returns false;
 /// it cannot be called again. The first failed call of the camera library is fatal: it is reported once, and from then
 /// on the sensor does nothing more (`faulted`). The sensor is created, used and destroyed on one thread, which emits
-/// its signals. The thread may move the sensor to another one permanently.
+/// its signals. That thread may hand the sensor over for good (`moveToThread`). None of
+/// this is checked at run time, except by the tests under the thread sanitizer.
 class Sensor : public QObject {
     Q_OBJECT
 
@@ -83,10 +84,10 @@ public:
 
     /// Writes the depth-to-colour rotations into the module's flash. The present block is saved to a file first, and
     /// the flash is read back afterwards; `writeBack` then describes its content. Returns true when every call
-    /// succeeded and the module holds and reports the rotations. Refused, without a call, unless the sensor is open,
-    /// the calibration has been read, and every matrix that differs from the module's is a rotation within 1e-4.
-    /// `platform` is used only when the platform camera's calibration has been read.
-    /// In `afterWrite`, which is called while the module runs on the new rotations, frames may be grabbed.
+    /// succeeded and the module holds and reports the rotations. Refused, without a call, unless the sensor is open
+    /// and has not failed, the power supply suffices, the calibration has been read, and every matrix that differs from
+    /// the module's is a rotation within 1e-4. `platform` is used only when the platform camera's calibration has been
+    /// read. In `afterWrite`, which is called while the module runs on the new rotations, frames may be grabbed.
     bool updateRotation(const Rotation& third, const Rotation& platform, const BeforeWrite& beforeWrite = {},
                         const AfterWrite& afterWrite = {});
 

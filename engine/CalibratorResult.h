@@ -12,15 +12,15 @@ enum CalibratorStatus : std::int32_t {
     ProcessImagePair = 3,            ///< a pair has been selected and waits to be processed
     RotateDevice = 4,                ///< the device must move before the next pair can be selected
     RemainStill = 5,                 ///< the device must be held still
-    SceneTooSimple = 6,              ///< too few matches on average over at least seven pairs; start over
-    SceneTooSimpleRepeated = 7,      ///< reserved for repeated attempts with too few matches
+    SceneTooSimple = 6,              ///< no solution, and too few matches on average over at least seven pairs
+    SceneTooSimpleRepeated = 7,      ///< reserved; never returned
     GoodSolution = 8,                ///< the solution is accepted; the attempt is complete
 };
 
 /// The answer of the engine to one call.
 struct CalibratorResult {
     std::int32_t code = NeedMoreImages;  ///< a `CalibratorStatus`
-    std::string message;                 ///< may be empty
+    std::string message;                 ///< English, not shown to the user; may be empty
 };
 
 }  // namespace vq

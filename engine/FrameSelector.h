@@ -14,8 +14,8 @@ namespace vq {
 /// offset between the two exposures.
 ///
 /// Motion is the larger of the L2 distances between the newest colour frame, reduced to a quarter of its size, and the
-/// frames four and eight steps earlier. The two thresholds lie far apart: motion between them neither ends the wait for
-/// movement nor triggers a capture. One thread.
+/// frames four and eight frames earlier. The two thresholds lie far apart: motion between them neither ends the wait
+/// for movement nor triggers a capture. One thread.
 class FrameSelector {
 public:
     enum State : std::uint32_t { Initial = 0, WaitingToMove = 1, WaitingForStill = 2 };

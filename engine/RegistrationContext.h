@@ -9,9 +9,9 @@
 
 namespace vq {
 
-/// The cameras under calibration, their factory extrinsics and the current registration. There is one per process,
-/// owned by the composition root and passed to the engine by reference. As soon as several threads use it, `lock` must
-/// be held for every access; it is the innermost of the engine's locks.
+/// The cameras under calibration, their factory extrinsics and the current registration. Owned by whoever
+/// owns the engine, in the application `CalibrationLoop`, and passed to the engine by reference. As soon as several
+/// threads use it, `lock` must be held for every access; it is the innermost of the engine's locks.
 struct RegistrationContext {
     fieldcal::CameraModel depthModel;
     fieldcal::CameraModel infraredModel;

@@ -6,6 +6,7 @@
 #include <Eigen/LU>
 
 #include <cmath>
+#include <limits>
 
 namespace vq {
 namespace {
@@ -52,7 +53,9 @@ public:
     /// the noise that was subtracted.
     Vector4 variances(double inverseScale) const {
         const double unknowns = options_.estimateScale ? 4 : 3;
-        const Vector4 inverse = normal_.inverse().diagonal();
+        Vector4 inverse = normal_.inverse().diagonal();
+        // More noise was subtracted than there was information.
+        if (!(inverse[3] > 0)) inverse[3] = std::numeric_limits<double>::quiet_NaN();
         Vector4 variances = inverse * weightedSquares_ / std::max(2 * weights_ - unknowns, 1.0);
         const double change = kNoiseUncertainty * noise_ * inverse[3] * inverseScale;
         variances[3] += change * change;

@@ -13,7 +13,8 @@ class AttemptListener {
 public:
     virtual ~AttemptListener() = default;
 
-    /// The current instruction, and whether it asks the user to hold still; an empty text hides the line.
+    /// The current instruction, in English and marked for translation in the context "Interface", and whether it asks
+    /// the user to hold still. An empty text hides the line. `startText` is translated by the receiver, too.
     virtual void movementText(const std::string&, bool /*holdStill*/) {}
     /// The text of the page on which an attempt is started: the reason why the last attempt failed.
     virtual void startText(const std::string&) {}

@@ -290,8 +290,8 @@ Sensor* CalibrationLoop::sensorForSave() {
     sensor_ = makeSensor();
     CameraParameters parameters;
     const bool open = sensor_->open(applicationSettings()) && readCameraParameters(*sensor_, &parameters, [] {});
-    qInfo("The camera was opened anew for the save: %s.", open ? "it answers" : "it does not answer");
-    return !open || sensor_->serialNumber() == serial ? sensor_.get() : nullptr;
+    qInfo("The camera was reopened for the save: %s.", open ? "it answers" : "it does not answer");
+    return open && sensor_->serialNumber() == serial ? sensor_.get() : nullptr;
 }
 
 CalibrationLoop::Errors CalibrationLoop::close() {

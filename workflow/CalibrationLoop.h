@@ -68,8 +68,8 @@ public:
 
     // Closing functions.
     /// Returns the open sensor for a save. A module that has failed is reopened for it, provided that a rotation was
-    /// accepted. Null when there is no sensor, or when a different module is connected now, so that nothing may be
-    /// written. If the module cannot be opened, the write itself fails, which is recorded like any other failed save.
+    /// accepted. Null when there is no sensor, when the module does not answer any more, or when a different one is
+    /// connected now.
     Sensor* sensorForSave();
     /// The solutions found, for the report about a save.
     const SaveReport& solutions() const { return solutions_; }

@@ -4,7 +4,8 @@
 
 namespace fieldcal {
 
-/// What a photo has contributed to an attempt.
+/// What the interface says about a photo. It does not decide whether the photo is used: every selected pair is, except
+/// in the final fit, for which `AttemptRecord` leaves out pairs that moved or disagree with the others.
 enum class PhotoWorth {
     Useful,
     TooLittleDetail,  ///< it has hardly any verified match
@@ -18,8 +19,8 @@ PhotoWorth photoWorth(int verified, const std::vector<double>& before, const std
 /// The direction in which the camera should turn before the next photo.
 enum class Look { Anywhere, Left, Right, Up, Down };
 
-/// Areas of the image without detail see plain surfaces, so the camera turns away from them: then the scenery with
-/// detail, which lies on the other side, moves into them. `areas`: as above, four across and three down, row by row.
+/// Areas of the image without detail show plain surfaces. The camera should turn towards the opposite side, so that the
+/// scenery with detail moves into these areas. `areas`: as above, four across and three down, row by row.
 Look nextLook(const std::vector<double>& areas);
 
 }  // namespace fieldcal

@@ -46,7 +46,8 @@ LeaveReport Workflow::save(Storing storing) {
         report.writeBack = sensor->writeBack();
         loop_.solutions().keep(dataFolder_, *sensor, records_, report.stored);
     } else if (records_.anyAccepted()) {
-        report.reported = false;  // a note would be about a module that is not connected
+        qInfo("Failed to store calibration information to flash.");
+        report.reported = false;  // there is no module that a note could be about
     }
     return close(std::move(report));
 }

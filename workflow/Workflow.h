@@ -50,7 +50,7 @@ public:
     vq::ICalibrator& engine() { return loop_.engine(); }
     CalibrationLoop& loop() { return loop_; }
 
-    // Both end the loop and close the camera; afterwards the workflow may only be destroyed.
+    // The processing thread must have ended. Both close the camera; afterwards the workflow may only be destroyed.
     /// Writes each camera's accepted rotation, or the factory's, into the module. A module that has failed is reopened
     /// for this.
     LeaveReport save(Storing storing);

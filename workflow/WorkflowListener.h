@@ -46,7 +46,7 @@ public:
     /// has one.
     virtual void lastCalibration(const QDateTime& /*stored*/) {}
 
-    /// Faults. No further call follows the first one.
+    /// Faults. No further call follows the first one. The text is already translated.
     virtual void deviceError(const QString& /*text*/) {}
     virtual void missingModule() {}
     virtual void missingPlatformCamera() {}
