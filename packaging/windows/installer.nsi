@@ -211,7 +211,13 @@ Function settleLastRun
         ${If} ${FileExists} "${PROGRAM}"
             Call removeOld
         ${Else}
+            ClearErrors
             Rename "${OLD}" "$INSTDIR"
+            ${If} ${Errors}  ; something has made the folder again, without the program
+                StrCpy $0 "${OLD}"
+                StrCpy $1 "$INSTDIR"
+                Call moveRest
+            ${EndIf}
         ${EndIf}
     ${EndIf}
     Call removeFresh
