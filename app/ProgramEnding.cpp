@@ -19,7 +19,7 @@
 namespace fieldcal {
 namespace {
 
-constexpr int kHistoryShownTimes = 6;  ///< as long as the confirmation, unless it is touched
+constexpr int kHistoryShownTimes = 6;  ///< as long as the confirmation, unless it is closed
 constexpr const char* kErrorTitle = "KXAPI ERROR";
 constexpr const char* kSavingText = "Storing the calibration in the camera…";  // of the page shown meanwhile
 
@@ -65,7 +65,7 @@ void ProgramEnding::showSaved() {
     quitSoon_.start(parts_.environment.savedShownFor);
 }
 
-/// Returns whether the supply lasts for a save. If not, nothing has been done: the user is asked to connect the charger
+/// Returns whether the power supply suffices for a save. If not, nothing has been done: the user is asked to connect the charger
 /// and may try again.
 bool ProgramEnding::hasPowerToSave() {
     if (sufficesToWrite(parts_.environment.power())) return true;
