@@ -65,8 +65,8 @@ void ProgramEnding::showSaved() {
     quitSoon_.start(parts_.environment.savedShownFor);
 }
 
-/// Returns whether the power supply suffices for a save. If not, nothing has been done: the user is asked to connect the charger
-/// and may try again.
+/// Returns whether the power supply suffices for a save. If not, nothing has been done: the user is asked to connect
+/// the charger and may try again.
 bool ProgramEnding::hasPowerToSave() {
     if (sufficesToWrite(parts_.environment.power())) return true;
     qWarning("No save begins: the battery holds less than %d %% and is not being charged.", kMinBatteryPercent);
